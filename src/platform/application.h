@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace platform {
+
+// The running program as the forms see it.
+struct application_facts {
+  std::string Title;                 // title of all message boxes
+  std::string Path;                  // folder of the running program, a path of the tool
+  std::int32_t TwipsPerPixelX = 15;  // a pixel is a device-independent one
+  std::int32_t TwipsPerPixelY = 15;
+};
+
+extern application_facts application;
+
+// Ends the process at once. Without a screen `process_ended` becomes true and no event runs any
+// more.
+void end_process();
+bool process_ended();
+
+// The state of a new process: nothing waits, no message was shown, nothing is remembered of folders.
+void begin_process();
+
+}  // namespace platform

@@ -1,0 +1,134 @@
+#include "platform/binary_file.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/case_blind.h"
+#include "platform/file_calls.h"
+#include "platform/file_error.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+namespace {
+
+constexpr std::size_t buffer_size = 65536;
+
+}  // namespace
+
+binary_file::~binary_file() {
+  if (file_ >= 0) file_calls::close_file(file_);
+}
+
+void binary_file::open_to_read(const std::string& path) {
+  take(file_calls::open_to_read(system_path(path)), path, false);
+}
+
+void binary_file::open_to_write(const std::string& path) {
+  const std::filesystem::path place = system_path(path);
+  take(file_calls::open_to_write(place), path, true);
+  remember_file(place);
+}
+
+void binary_file::take_written(int file, const std::string& path) { take(file, path, true); }
+
+void binary_file::take(int file, const std::string& path, bool writes) {
+  path_ = path;
+  if (file < 0) fail(file, " cannot be opened: ");
+  file_ = file;
+  writes_ = writes;
+  buffer_.resize(buffer_size);
+  position_ = 0;
+  fill_ = 0;
+}
+
+void binary_file::fail(std::int64_t outcome, const char* what) {
+  const int number = static_cast<int>(-outcome);
+  throw file_error{file_calls::error_number(number),
+                   path_ + what + file_calls::error_words(number) + "."};
+}
+
+void binary_file::seek(std::int64_t offset) {
+  if (writes_) flush();
+  position_ = 0;
+  fill_ = 0;
+  const std::int64_t at = file_calls::seek_to(file_, offset);
+  if (at < 0) fail(at, " cannot be read: ");
+}
+
+std::size_t binary_file::read_from_system(std::span<std::byte> to) {
+  const std::int64_t moved = file_calls::read_some(file_, to.data(), to.size());
+  if (moved < 0) fail(moved, " cannot be read: ");
+  return static_cast<std::size_t>(moved);
+}
+
+std::size_t binary_file::read(std::span<std::byte> to) {
+  std::size_t got = 0;
+  while (got < to.size()) {
+    if (position_ == fill_) {
+      // A large block goes straight to where it is wanted.
+      if (to.size() - got >= buffer_size) {
+        const std::size_t moved = read_from_system(to.subspan(got));
+        if (moved == 0) break;
+        got += moved;
+        continue;
+      }
+      position_ = 0;
+      fill_ = 0;
+      fill_ = read_from_system(buffer_);
+      if (fill_ == 0) break;
+    }
+    const std::size_t part = std::min(fill_ - position_, to.size() - got);
+    std::memcpy(to.data() + got, buffer_.data() + position_, part);
+    position_ += part;
+    got += part;
+  }
+  return got;
+}
+
+void binary_file::write(std::span<const std::byte> from) {
+  while (!from.empty()) {
+    if (position_ == buffer_size) flush();
+    const std::size_t part = std::min(buffer_size - position_, from.size());
+    std::memcpy(buffer_.data() + position_, from.data(), part);
+    position_ += part;
+    from = from.subspan(part);
+  }
+}
+
+std::int64_t binary_file::size() {
+  const std::int64_t bytes = file_calls::size_of(file_);
+  if (bytes < 0) fail(bytes, " cannot be read: ");
+  return bytes;
+}
+
+void binary_file::cut_to(std::int64_t size) {
+  const int cut = file_calls::cut_to(file_, size);
+  if (cut < 0) fail(cut, " cannot be written: ");
+}
+
+void binary_file::flush(bool to_disk) {
+  std::size_t written = 0;
+  const std::size_t count = position_;
+  position_ = 0;  // what could not be written is not tried again at closing
+  while (writes_ && written < count) {
+    const std::int64_t moved =
+        file_calls::write_some(file_, buffer_.data() + written, count - written);
+    if (moved < 0) fail(moved, " cannot be written: ");
+    written += static_cast<std::size_t>(moved);
+  }
+  if (!to_disk) return;
+  const int flushed = file_calls::flush_to_disk(file_);
+  if (flushed < 0) fail(flushed, " cannot be written: ");
+}
+
+void binary_file::close() {
+  if (file_ < 0) return;
+  if (writes_) flush();
+  const int file = file_;
+  file_ = -1;
+  const int closed = file_calls::close_file(file);
+  if (closed < 0 && writes_) fail(closed, " cannot be written: ");
+}
+
+}  // namespace platform

@@ -1,0 +1,62 @@
+#include "platform/case_blind.h"
+
+#include <map>
+#include <unordered_map>
+
+#include "platform/code_page.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The names of a folder by their upper-case form.
+using folded_names = std::unordered_map<std::string, std::string>;
+std::map<fs::path, folded_names> remembered;
+
+const folded_names& names_in(const fs::path& folder) {
+  const auto known = remembered.find(folder);
+  if (known != remembered.end()) return known->second;
+  folded_names& names = remembered[folder];
+  std::error_code failed;
+  for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
+    const std::string name = at->path().filename().string();
+    const std::optional<std::string> text = from_utf8(name);
+    if (!text) continue;
+    // Of several names that differ in case only the first by code value stands for all.
+    const auto [entry, is_new] = names.emplace(upper_case(*text), name);
+    if (!is_new && name < entry->second) entry->second = name;
+  }
+  return names;
+}
+
+bool is_there(const fs::path& place) {
+  std::error_code failed;
+  return fs::exists(fs::symlink_status(place, failed));
+}
+
+}  // namespace
+
+fs::path find_in_folder(const fs::path& folder, const std::string& name) {
+  const fs::path exact = folder / to_utf8(name);
+  if (is_there(exact)) return exact;
+  const folded_names& names = names_in(folder);
+  const auto known = names.find(upper_case(name));
+  if (known == names.end()) return exact;
+  const fs::path other_case = folder / known->second;
+  return is_there(other_case) ? other_case : exact;
+}
+
+void remember_file(const fs::path& place) {
+  const auto known = remembered.find(place.parent_path());
+  if (known == remembered.end()) return;
+  const std::string name = place.filename().string();
+  if (const std::optional<std::string> text = from_utf8(name)) {
+    known->second.emplace(upper_case(*text), name);
+  }
+}
+
+void forget_folders() { remembered.clear(); }
+
+}  // namespace platform

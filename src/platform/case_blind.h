@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace platform {
+
+// The place of `name` in `folder`: the exact name if it is there, else one that differs in case
+// only, else the name as given. A folder is read once and then remembered until forget_folders.
+std::filesystem::path find_in_folder(const std::filesystem::path& folder, const std::string& name);
+
+// A file has come into being at `place`; what is remembered of its folder takes it in.
+void remember_file(const std::filesystem::path& place);
+
+// To be called when somebody else may have changed the folders meanwhile.
+void forget_folders();
+
+}  // namespace platform

@@ -1,0 +1,58 @@
+#include "platform/control.h"
+
+#include <algorithm>
+
+#include "platform/container.h"
+#include "platform/form.h"
+#include "platform/screen.h"
+
+namespace platform {
+
+control::control(container& parent_container, control_kind control_kind, const design& as_designed)
+    : kind(control_kind),
+      designed(as_designed),
+      parent(parent_container),
+      Left(*this, as_designed.left),
+      Top(*this, as_designed.top),
+      Width(*this, as_designed.width),
+      Height(*this, as_designed.height),
+      Visible(*this, as_designed.visible),
+      Enabled(*this, as_designed.enabled),
+      BackColor(*this, as_designed.back_color),
+      ToolTipText(*this, as_designed.tool_tip) {
+  parent.controls_.push_back(this);
+}
+
+control::~control() {
+  auto& siblings = parent.controls_;
+  siblings.erase(std::remove(siblings.begin(), siblings.end(), this), siblings.end());
+}
+
+void control::Move(std::int32_t left, std::int32_t top) {
+  Left = left;
+  Top = top;
+}
+
+void control::Refresh() {
+  if (screen* on = attached_screen()) on->refresh(*this);
+}
+
+form& control::owner_form() { return parent.containing_form(); }
+
+bool control::takes_input() {
+  for (control* at = this; at != nullptr; at = at->parent.as_control()) {
+    if (!at->Visible() || !at->Enabled()) return false;
+  }
+  const form& window = owner_form();
+  return window.Visible() && window.Enabled();
+}
+
+void control::written(aspect what, bool differs) {
+  if (differs) tell_screen(what);
+}
+
+void control::tell_screen(aspect what) {
+  if (screen* on = attached_screen()) on->control_changed(*this, what);
+}
+
+}  // namespace platform

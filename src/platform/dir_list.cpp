@@ -1,0 +1,50 @@
+#include "platform/dir_list.h"
+
+#include <algorithm>
+
+#include "platform/file_error.h"
+#include "platform/file_system.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+void dir_list::about_to_show() {
+  if (!Path().empty()) return;
+  Path.value_ = current_folder();
+  try {
+    show(list_folder(Path()).folders);
+  } catch (const file_error&) {
+    show({});
+  }
+}
+
+void dir_list::set_path(const std::string& path) {
+  const std::string whole = full_path(path);
+  const std::vector<std::string> folders = list_folder(whole).folders;
+  const bool other = whole != Path();
+  Path.value_ = whole;
+  show(folders);
+  if (other && Change) Change();
+}
+
+void dir_list::Refresh() { show(list_folder(Path()).folders); }
+
+void dir_list::show(const std::vector<std::string>& folders_inside) {
+  rows_.clear();
+  const std::string& path = Path();
+  rows_.push_back({path.substr(0, 3), 0, true, path.substr(0, 3)});
+  std::size_t begin = 3;
+  while (begin < path.size()) {
+    const std::size_t end = std::min(path.find('\\', begin), path.size());
+    const auto depth = static_cast<std::int32_t>(rows_.size());
+    rows_.push_back({path.substr(begin, end - begin), depth, true, path.substr(0, end)});
+    begin = end + 1;
+  }
+  open_row_ = static_cast<std::int32_t>(rows_.size()) - 1;
+  for (const std::string& folder : folders_inside) {
+    rows_.push_back({folder, open_row_ + 1, false, with_separator(path) + folder});
+  }
+  tell_screen(aspect::items);
+}
+
+}  // namespace platform

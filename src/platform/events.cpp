@@ -1,0 +1,59 @@
+#include "platform/events.h"
+
+#include <algorithm>
+#include <deque>
+
+#include "platform/application.h"
+#include "platform/case_blind.h"
+#include "platform/file_error.h"
+#include "platform/message_box.h"
+
+namespace platform {
+
+namespace {
+
+struct waiting_event {
+  std::function<void()> handler;
+  const void* key;
+};
+
+std::deque<waiting_event> waiting;
+bool running = false;
+
+void run_one(const std::function<void()>& handler) {
+  try {
+    handler();
+  } catch (const file_error& error) {
+    message_box(error.text);
+  }
+  forget_folders();
+}
+
+}  // namespace
+
+void run_event(const std::function<void()>& handler, const void* key) {
+  if (process_ended()) return;
+  if (running) {
+    const auto same_key = [key](const waiting_event& e) { return e.key == key; };
+    if (key != nullptr && std::any_of(waiting.begin(), waiting.end(), same_key)) return;
+    waiting.push_back({handler, key});
+    return;
+  }
+  running = true;
+  run_one(handler);
+  while (!waiting.empty() && !process_ended()) {
+    const waiting_event next = waiting.front();
+    waiting.pop_front();
+    run_one(next.handler);
+  }
+  running = false;
+}
+
+bool handler_running() { return running; }
+
+void forget_events() {
+  waiting.clear();
+  running = false;
+}
+
+}  // namespace platform

@@ -1,0 +1,136 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/file_calls.h"
+
+namespace platform::file_calls {
+
+namespace {
+
+int result(int outcome) { return outcome < 0 ? -errno : outcome; }
+
+// O_NONBLOCK keeps the opening of a pipe from waiting for its other end.
+int open_normal(const std::filesystem::path& place, int flags) {
+  const int file = open(place.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+  if (file < 0) return errno == ENXIO ? -EACCES : -errno;
+  struct stat facts = {};
+  if (fstat(file, &facts) == 0 && S_ISREG(facts.st_mode)) return file;
+  const int reason = S_ISDIR(facts.st_mode) ? EISDIR : EACCES;
+  close(file);
+  return -reason;
+}
+
+}  // namespace
+
+int open_to_read(const std::filesystem::path& place) { return open_normal(place, O_RDONLY); }
+
+int open_to_write(const std::filesystem::path& place) {
+  return open_normal(place, O_WRONLY | O_CREAT);
+}
+
+int open_new(const std::filesystem::path& place) {
+  return open_normal(place, O_WRONLY | O_CREAT | O_EXCL);
+}
+
+std::int64_t read_some(int file, std::byte* to, std::size_t count) {
+  for (;;) {
+    const ssize_t moved = read(file, to, count);
+    if (moved >= 0) return moved;
+    if (errno != EINTR) return -errno;
+  }
+}
+
+std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
+  for (;;) {
+    const ssize_t moved = write(file, from, count);
+    if (moved >= 0) return moved;
+    if (errno != EINTR) return -errno;
+  }
+}
+
+std::int64_t seek_to(int file, std::int64_t offset) {
+  const off_t at = lseek(file, offset, SEEK_SET);
+  return at < 0 ? -errno : at;
+}
+
+std::int64_t size_of(int file) {
+  struct stat facts = {};
+  return fstat(file, &facts) < 0 ? -errno : static_cast<std::int64_t>(facts.st_size);
+}
+
+int cut_to(int file, std::int64_t size) { return result(ftruncate(file, size)); }
+
+int flush_to_disk(int file) { return result(fsync(file)); }
+
+int close_file(int file) { return result(close(file)); }
+
+int replace(const std::filesystem::path& file, const std::filesystem::path& target) {
+  return result(rename(file.c_str(), target.c_str()));
+}
+
+int flush_folder(const std::filesystem::path& folder) {
+  const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (opened < 0) return -errno;
+  const int flushed = result(fsync(opened));
+  close(opened);
+  // Some file systems cannot flush a folder; that is no fault of the file in it.
+  return flushed == -EINVAL ? 0 : flushed;
+}
+
+file_error_number error_number(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return file_error_number::file_not_found;
+    case ENOTDIR:
+      return file_error_number::path_not_found;
+    case EEXIST:
+      return file_error_number::file_exists;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return file_error_number::permission_denied;
+    case EISDIR:
+      return file_error_number::path_access;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return file_error_number::disk_full;
+    case EINVAL:
+    case ENAMETOOLONG:
+      return file_error_number::bad_file_name;
+    default:
+      return file_error_number::device_error;
+  }
+}
+
+std::string error_words(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return "it is not there";
+    case EACCES:
+    case EPERM:
+      return "access is not allowed";
+    case EISDIR:
+      return "it is a folder";
+    case ENOSPC:
+    case EDQUOT:
+      return "the disk is full";
+    case EROFS:
+      return "the disk cannot be written to";
+    case EEXIST:
+      return "it is there already";
+    case ENOTDIR:
+      return "it does not lie in a folder";
+    case ENAMETOOLONG:
+      return "its name is too long";
+    default:
+      return std::strerror(errno_number);
+  }
+}
+
+}  // namespace platform::file_calls

@@ -1,0 +1,136 @@
+#include "platform/file_system.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+
+#include "platform/case_blind.h"
+#include "platform/code_page.h"
+#include "platform/file_calls.h"
+#include "platform/file_error.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& path, const std::error_code& reason, const char* what) {
+  const int number = reason.default_error_condition().value();
+  throw file_error{file_calls::error_number(number),
+                   path + what + file_calls::error_words(number) + "."};
+}
+
+fs::file_status status_of(const std::string& path) {
+  try {
+    std::error_code failed;
+    return fs::status(system_path(path), failed);
+  } catch (const file_error&) {
+    return {};
+  }
+}
+
+// A name that can stand in a path of the tool, and that its folder does not hide.
+std::optional<std::string> listed_name(const fs::directory_entry& entry) {
+  std::optional<std::string> name = from_utf8(entry.path().filename().string());
+  if (!name || name->front() == '.' || name->find('\\') != name->npos) return std::nullopt;
+  return name;
+}
+
+void sort_folded(std::vector<std::string>& names) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  keyed.reserve(names.size());
+  for (std::string& name : names) keyed.emplace_back(upper_case(name), std::move(name));
+  const auto by_bytes = [](const std::string& a, const std::string& b) {
+    return std::lexicographical_compare(
+        a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+          return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
+        });
+  };
+  std::sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
+    return a.first == b.first ? by_bytes(a.second, b.second) : by_bytes(a.first, b.first);
+  });
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
+}
+
+}  // namespace
+
+bool file_exists(const std::string& path) {
+  const fs::file_status status = status_of(path);
+  return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool folder_exists(const std::string& path) { return fs::is_directory(status_of(path)); }
+
+std::int64_t file_size(const std::string& path) {
+  std::error_code failed;
+  const std::uintmax_t bytes = fs::file_size(system_path(path), failed);
+  if (failed) fail(path, failed, " cannot be read: ");
+  return static_cast<std::int64_t>(bytes);
+}
+
+void delete_file(const std::string& path) {
+  std::error_code failed;
+  if (!fs::remove(system_path(path), failed) && !failed) {
+    failed = std::make_error_code(std::errc::no_such_file_or_directory);
+  }
+  if (failed) fail(path, failed, " cannot be deleted: ");
+}
+
+void create_folder(const std::string& path) {
+  std::error_code failed;
+  const fs::path place = system_path(path);
+  if (!fs::create_directory(place, failed) && !failed) {
+    failed = std::make_error_code(std::errc::file_exists);
+  }
+  if (failed) fail(path, failed, " cannot be made: ");
+  remember_file(place);
+}
+
+folder_contents list_folder(const std::string& path) {
+  folder_contents found;
+  std::error_code failed;
+  fs::directory_iterator at(system_path(path), failed);
+  for (; !failed && at != fs::directory_iterator(); at.increment(failed)) {
+    std::optional<std::string> name = listed_name(*at);
+    if (!name) continue;
+    std::error_code unknown;
+    if (at->is_directory(unknown)) {
+      found.folders.push_back(std::move(*name));
+    } else if (at->is_regular_file(unknown)) {
+      found.files.push_back(std::move(*name));
+    }
+  }
+  if (failed) fail(path, failed, " cannot be read: ");
+  sort_folded(found.folders);
+  sort_folded(found.files);
+  return found;
+}
+
+bool matches_pattern(const std::string& name, const std::string& pattern) {
+  const std::string text = upper_case(name);
+  const std::string wanted = upper_case(pattern);
+  std::size_t at = 0;
+  std::size_t in_pattern = 0;
+  std::size_t star = std::string::npos;
+  std::size_t star_ends = 0;
+  while (at < text.size()) {
+    const bool more = in_pattern < wanted.size();
+    if (more && wanted[in_pattern] == '*') {
+      star = in_pattern++;
+      star_ends = at;
+    } else if (more && (wanted[in_pattern] == '?' || wanted[in_pattern] == text[at])) {
+      ++at;
+      ++in_pattern;
+    } else if (star != std::string::npos) {
+      in_pattern = star + 1;
+      at = ++star_ends;
+    } else {
+      return false;
+    }
+  }
+  return wanted.find_first_not_of('*', in_pattern) == std::string::npos;
+}
+
+}  // namespace platform

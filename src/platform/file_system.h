@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// The file-system service, on paths of the tool.
+namespace platform {
+
+// False too if the place cannot be looked at, and for a folder.
+bool file_exists(const std::string& path);
+bool folder_exists(const std::string& path);
+
+// Throws file_error.
+std::int64_t file_size(const std::string& path);
+// Read-only or not. Throws file_error.
+void delete_file(const std::string& path);
+// Throws file_error, also if the folder is there already.
+void create_folder(const std::string& path);
+
+struct folder_contents {
+  std::vector<std::string> folders;
+  std::vector<std::string> files;
+};
+
+// What lies in a folder: its folders and its normal files, each ascending by their upper-case
+// form. Hidden names and names that have no form in the code page are left out. Throws file_error.
+folder_contents list_folder(const std::string& path);
+
+// True if `name` is what the pattern names, without regard to case; "*" stands for any characters,
+// "?" for any one.
+bool matches_pattern(const std::string& name, const std::string& pattern);
+
+}  // namespace platform

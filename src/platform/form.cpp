@@ -1,0 +1,55 @@
+#include "platform/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/screen.h"
+
+namespace platform {
+
+namespace {
+
+std::vector<form*>& forms() {
+  static std::vector<form*> all;
+  return all;
+}
+
+}  // namespace
+
+const std::vector<form*>& all_forms() { return forms(); }
+
+form::form(form_design as_designed)
+    : designed(std::move(as_designed)),
+      Caption(*this, designed.caption),
+      Visible(*this, false),
+      Enabled(*this, true),
+      client_width_(designed.client_width),
+      client_height_(designed.client_height) {
+  forms().push_back(this);
+}
+
+form::~form() { forms().erase(std::remove(forms().begin(), forms().end(), this), forms().end()); }
+
+void form::written(aspect what, bool differs) {
+  if (!differs) return;
+  if (what == aspect::visible && Visible()) {
+    for (control* c : controls()) c->about_to_show();
+    if (!std::exchange(resized_once_, true) && Resize) Resize();
+  }
+  if (screen* on = attached_screen()) on->form_changed(*this, what);
+}
+
+void form::Refresh() {
+  if (screen* on = attached_screen()) on->refresh(*this);
+}
+
+void form::SetFocus() {
+  if (screen* on = attached_screen()) on->form_changed(*this, aspect::focus);
+}
+
+void form::set_client_size(std::int32_t width, std::int32_t height) {
+  client_width_ = width;
+  client_height_ = height;
+}
+
+}  // namespace platform

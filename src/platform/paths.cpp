@@ -1,0 +1,128 @@
+#include "platform/paths.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/case_blind.h"
+#include "platform/code_page.h"
+#include "platform/drives.h"
+#include "platform/file_error.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool is_separator(char c) { return c == '\\' || c == '/'; }
+
+// Puts the names of a path behind those that stand already.
+void walk(std::vector<std::string>& names, std::string_view path) {
+  while (!path.empty()) {
+    const auto at = std::find_if(path.begin(), path.end(), is_separator);
+    const std::string name(path.begin(), at);
+    path.remove_prefix(name.size() + (at == path.end() ? 0 : 1));
+    if (name.empty() || name == ".") continue;
+    if (name != "..") {
+      names.push_back(name);
+    } else if (!names.empty()) {
+      names.pop_back();
+    }
+  }
+}
+
+// A drive's text has a blank behind the colon, as no path has.
+bool is_drive_text(std::string_view path) { return path.size() > 2 && path[2] == ' '; }
+
+std::vector<std::string> names_of(const std::string& whole_path) {
+  std::vector<std::string> names;
+  walk(names, std::string_view(whole_path).substr(2));
+  return names;
+}
+
+// How deep `place` lies in `folder`; nothing if it lies elsewhere.
+std::optional<fs::path> inside(const fs::path& place, const fs::path& folder) {
+  const fs::path rest = place.lexically_relative(folder);
+  if (rest.empty() || *rest.begin() == "..") return std::nullopt;
+  return rest;
+}
+
+}  // namespace
+
+std::string with_separator(std::string_view folder) {
+  std::string whole(folder);
+  if (whole.empty() || whole.back() != '\\') whole += '\\';
+  return whole;
+}
+
+char drive_letter(std::string_view path) {
+  if (path.empty()) return 0;
+  const char letter = upper_case(path.front());
+  const bool named = letter >= 'A' && letter <= 'Z' && (path.size() == 1 || path[1] == ':');
+  return named ? letter : '\0';
+}
+
+std::string full_path(const std::string& path) {
+  const std::string current = current_folder();
+  std::string_view rest = path;
+  char letter = 0;
+  if (path.size() > 1 && path[1] == ':') {
+    letter = drive_letter(path);
+    rest.remove_prefix(2);
+    if (is_drive_text(path)) rest = {};
+  }
+  if (letter == 0) letter = current[0];
+  std::vector<std::string> names;
+  const bool from_root = !rest.empty() && is_separator(rest.front());
+  if (!from_root && letter == current[0]) names = names_of(current);
+  walk(names, rest);
+  std::string whole = {letter, ':', '\\'};
+  for (const std::string& name : names) {
+    if (whole.back() != '\\') whole += '\\';
+    whole += name;
+  }
+  return whole;
+}
+
+fs::path system_path(const std::string& path) {
+  const std::string whole = full_path(path);
+  const drive* on = find_drive(whole[0]);
+  if (on == nullptr) {
+    throw file_error{file_error_number::device_unavailable,
+                     "There is no drive " + whole.substr(0, 2)};
+  }
+  fs::path place = on->folder;
+  for (const std::string& name : names_of(whole)) place = find_in_folder(place, name);
+  return place;
+}
+
+std::string current_folder() {
+  if (!given_current_folder().empty()) return given_current_folder();
+  std::error_code failed;
+  const std::string current = tool_path(fs::current_path(failed));
+  return current.empty() ? "C:\\" : current;
+}
+
+std::string tool_path(const fs::path& place) {
+  const drive* nearest = nullptr;
+  fs::path rest;
+  for (const drive& d : drives()) {
+    const std::optional<fs::path> from_drive = inside(place, d.folder);
+    const bool nearer = nearest == nullptr || d.folder.native().size() > nearest->folder.native().size();
+    if (!from_drive || !nearer) continue;
+    nearest = &d;
+    rest = *from_drive;
+  }
+  if (nearest == nullptr) return {};
+  std::string whole = {nearest->letter, ':', '\\'};
+  for (const fs::path& step : rest) {
+    if (step == ".") continue;
+    const std::optional<std::string> name = from_utf8(step.string());
+    if (!name) return {};
+    if (whole.back() != '\\') whole += '\\';
+    whole += *name;
+  }
+  return whole;
+}
+
+}  // namespace platform

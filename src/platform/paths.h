@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// Paths of the tool are "\"-separated and begin with a drive letter, such as "C:\icons\a.shp".
+namespace platform {
+
+// `folder` with a "\" behind it unless it ends in one.
+std::string with_separator(std::string_view folder);
+
+// The whole path, drive first, for a path that may lack its drive or start at the current folder;
+// "." and ".." are worked out and a root keeps its "\" at the end. A drive's text such as
+// "c: [home]" gives the current folder of that drive.
+std::string full_path(const std::string& path);
+
+// The letter of the drive that a path or a drive's text names, upper case; 0 if it names none.
+char drive_letter(std::string_view path);
+
+// Where a path of the tool lies on this system. Names compare without regard to case: an exact
+// match first, else one that differs in case only; a name that is not there yet stays as given.
+// Throws file_error if there is no such drive.
+std::filesystem::path system_path(const std::string& path);
+
+// The current folder of the process, as a path of the tool.
+std::string current_folder();
+
+// The path of the tool for a place on this system; empty if its name has no form in the code page.
+std::string tool_path(const std::filesystem::path& place);
+
+}  // namespace platform

@@ -1,0 +1,88 @@
+#include "platform/picture_box.h"
+
+#include <algorithm>
+
+#include "platform/application.h"
+
+namespace platform {
+
+namespace {
+
+// What a cleared box may keep for its next picture; more goes back to the system.
+constexpr std::size_t kept_pixels = 128 * 128;
+
+}  // namespace
+
+picture_box::picture_box(container& parent_container, const design& as_designed,
+                         std::int32_t array_index)
+    : control(parent_container, control_kind::picture_box, as_designed), Index(array_index) {
+  take_size();
+}
+
+void picture_box::Cls() {
+  if (pixels_.capacity() > kept_pixels) {
+    pixels_ = {};
+  } else {
+    pixels_.clear();
+  }
+  damaged_ = {};
+  tell_screen(aspect::pixels);
+}
+
+void picture_box::Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t /*y2*/,
+                       colour c) {
+  if (y1 < 0 || y1 >= rows_) return;
+  const std::int32_t first = std::max(x1, 0);
+  const std::int32_t behind = std::min(x2, columns_);
+  if (first >= behind) return;
+  if (pixels_.empty()) take_memory();
+  std::fill_n(pixels_.begin() + static_cast<std::ptrdiff_t>(index_of(first, y1)), behind - first,
+              c);
+  damage(first, y1, behind);
+}
+
+colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
+  if (x < 0 || y < 0 || x >= columns_ || y >= rows_ || pixels_.empty()) return unset;
+  return pixels_[index_of(x, y)];
+}
+
+pixel_area picture_box::take_damage() {
+  const pixel_area taken = damaged_;
+  damaged_ = {};
+  return taken;
+}
+
+void picture_box::written(aspect what, bool differs) {
+  if (what == aspect::place && differs) take_size();
+  if (what == aspect::back_color) {
+    Cls();
+  }
+  control::written(what, differs);
+}
+
+void picture_box::take_memory() {
+  pixels_.assign(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_), unset);
+}
+
+void picture_box::take_size() {
+  const std::int32_t columns =
+      std::max(0, Width() / application.TwipsPerPixelX - 2 * border);
+  const std::int32_t rows = std::max(0, Height() / application.TwipsPerPixelY - 2 * border);
+  if (columns == columns_ && rows == rows_) return;
+  const std::vector<colour> old = std::move(pixels_);
+  const std::int32_t old_columns = columns_;
+  const std::int32_t kept_columns = std::min(columns, columns_);
+  const std::int32_t kept_rows = std::min(rows, rows_);
+  columns_ = columns;
+  rows_ = rows;
+  damaged_ = {};
+  pixels_.clear();
+  if (old.empty() || columns == 0 || rows == 0) return;
+  take_memory();
+  for (std::int32_t y = 0; y < kept_rows; ++y) {
+    const auto from = old.begin() + static_cast<std::ptrdiff_t>(y) * old_columns;
+    std::copy_n(from, kept_columns, pixels_.begin() + static_cast<std::ptrdiff_t>(index_of(0, y)));
+  }
+}
+
+}  // namespace platform

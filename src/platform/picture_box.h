@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/control.h"
+
+namespace platform {
+
+// A rectangle of pixels; empty if right <= left or bottom <= top.
+struct pixel_area {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t right = 0;
+  std::int32_t bottom = 0;
+
+  bool empty() const { return right <= left || bottom <= top; }
+  friend bool operator==(const pixel_area&, const pixel_area&) = default;
+};
+
+// A picture that is held in memory: it stays while the box is hidden, moved or covered. A border
+// of one pixel runs all round, so the drawing area is two pixels smaller each way than the box.
+// Coordinates are pixels of the drawing area (ScaleMode 3). A pixel is unset, and shows BackColor,
+// or has a colour. Memory for the pixels is taken when the first one is set.
+class picture_box : public control {
+ public:
+  picture_box(container& parent_container, const design& as_designed, std::int32_t array_index);
+
+  const std::int32_t Index;
+  property<int, aspect::place, control> ScaleMode{*this, 1};
+
+  static constexpr colour unset = 0xFFFFFFFF;
+  static constexpr std::int32_t border = 1;
+
+  // Size of the drawing area in pixels; never negative.
+  std::int32_t columns() const { return columns_; }
+  std::int32_t rows() const { return rows_; }
+
+  // Unsets all pixels.
+  void Cls();
+
+  // Sets one pixel; outside the drawing area nothing happens.
+  void PSet(std::int32_t x, std::int32_t y, colour c) {
+    if (x < 0 || y < 0 || x >= columns_ || y >= rows_) return;
+    if (pixels_.empty()) take_memory();
+    pixels_[index_of(x, y)] = c;
+    damage(x, y, x + 1);
+  }
+
+  // Sets the pixels x1 to x2 - 1 of a row; what lies outside the drawing area is lost.
+  void Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, colour c);
+
+  // The colour of a pixel of the drawing area, `unset` if it has none.
+  colour pixel(std::int32_t x, std::int32_t y) const;
+
+  // All pixels, row by row, `unset` among them; null while none was set since the last Cls.
+  const colour* pixels() const { return pixels_.empty() ? nullptr : pixels_.data(); }
+
+  // What was painted since the screen last took it.
+  pixel_area take_damage();
+
+  void written(aspect what, bool differs) override;
+
+ private:
+  std::size_t index_of(std::int32_t x, std::int32_t y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(x);
+  }
+  void damage(std::int32_t x1, std::int32_t y, std::int32_t x2) {
+    if (damaged_.empty()) {
+      damaged_ = {x1, y, x2, y + 1};
+      tell_screen(aspect::pixels);
+      return;
+    }
+    if (x1 < damaged_.left) damaged_.left = x1;
+    if (x2 > damaged_.right) damaged_.right = x2;
+    if (y < damaged_.top) damaged_.top = y;
+    if (y >= damaged_.bottom) damaged_.bottom = y + 1;
+  }
+  void take_memory();
+  void take_size();
+
+  std::int32_t columns_ = 0;
+  std::int32_t rows_ = 0;
+  std::vector<colour> pixels_;
+  pixel_area damaged_;
+};
+
+}  // namespace platform

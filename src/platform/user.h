@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/controls.h"
+
+// What a user does to the forms. The screen and the tests call these; each becomes one event, and
+// none does anything to a control that takes no input at the moment the event comes.
+namespace platform::user {
+
+void click(button& pressed);
+void click(label& pressed);
+void click(menu_item& picked);
+void double_click(picture_array& array, std::int32_t index);
+
+// A press on a row, the selected one too, or its selection by keyboard.
+void select_row(list_box& list, std::int32_t row);
+// The second press of a double click; the first one is a `select_row` of its own.
+void double_click(list_box& list, std::int32_t row);
+
+// What the field holds after the user edited it. Too long a text is cut, a locked field stays.
+void type(text_box& field, const std::string& text);
+
+// The focus goes to a control, or with null to none; the one that had it gets LostFocus.
+void focus(control* to);
+// Nothing has the focus, as in a new process.
+void forget_focus();
+
+void choose(drive_list& drives, std::int32_t row);
+void open_folder(dir_list& folders, std::int32_t row);
+void select_file(file_list& files, std::int32_t row);
+
+// The window got a new client size in twips.
+void resize(form& window, std::int32_t client_width, std::int32_t client_height);
+// Windows without a control box and disabled ones stay.
+void close(form& window);
+
+// `Interval` milliseconds have passed.
+void tick(timer& ticked);
+
+}  // namespace platform::user
