@@ -1,0 +1,158 @@
+#include "shp_writer.h"
+
+#include <algorithm>
+#include <cstddef>
+
+// Icon file, numbers little-endian:
+//   0  4      identifier, free
+//   4  4      icon count
+//   8  8 * n  directory: offset of the icon in the file, second offset (not used here)
+//   then the icons: rows - 1 and columns - 1 (2 bytes each), 4 spare bytes, first column, first
+//   row, last column, last row (4 bytes each), stream.
+// Stream of a row: 1 n skips n cells; an even 2k i paints k cells with index i; an odd 2k + 1 is
+// followed by k indices; 0 ends the row.
+namespace ostrane::samples {
+namespace {
+
+constexpr std::size_t head_size = 8;
+constexpr std::size_t directory_entry_size = 8;
+constexpr int longest_skip = 255;
+constexpr int longest_op = 127;
+// A shorter run within a literal costs no less than going on with the literal.
+constexpr int run_worth_leaving_a_literal_for = 3;
+
+void append(std::string& to, std::uint32_t value, int bytes) {
+  for (int i = 0; i < bytes; ++i) to += static_cast<char>(value >> (8 * i) & 0xFFU);
+}
+void append16(std::string& to, std::int16_t value) {
+  append(to, static_cast<std::uint16_t>(value), 2);
+}
+void append32(std::string& to, std::int32_t value) {
+  append(to, static_cast<std::uint32_t>(value), 4);
+}
+
+// Packs one row of a picture, from `column` up to but not including `end`.
+class row_packer {
+ public:
+  row_packer(const picture& drawn, int row, int column, int end, std::string& stream)
+      : drawn_(drawn), row_(row), column_(column), end_(end), stream_(stream) {}
+
+  void pack() {
+    while (end_ > column_ && !drawn_.is_set(end_ - 1, row_)) --end_;
+    while (column_ < end_) {
+      if (cell(column_) == picture::unset) {
+        skip();
+      } else if (equal_cells(column_) >= 2) {
+        run();
+      } else {
+        literal();
+      }
+    }
+    stream_ += '\0';
+  }
+
+ private:
+  std::int16_t cell(int column) const { return drawn_.at(column, row_); }
+
+  int equal_cells(int from) const {
+    int to = from + 1;
+    while (to < end_ && cell(to) == cell(from)) ++to;
+    return to - from;
+  }
+
+  void skip() {
+    const int count = std::min(equal_cells(column_), longest_skip);
+    stream_ += '\1';
+    stream_ += static_cast<char>(count);
+    column_ += count;
+  }
+
+  void run() {
+    const int count = std::min(equal_cells(column_), longest_op);
+    stream_ += static_cast<char>(2 * count);
+    stream_ += static_cast<char>(cell(column_));
+    column_ += count;
+  }
+
+  void literal() {
+    const int limit = std::min(end_, column_ + longest_op);
+    int to = column_ + 1;
+    while (to < limit && cell(to) != picture::unset &&
+           equal_cells(to) < run_worth_leaving_a_literal_for) {
+      ++to;
+    }
+    stream_ += static_cast<char>(2 * (to - column_) + 1);
+    for (; column_ < to; ++column_) stream_ += static_cast<char>(cell(column_));
+  }
+
+  const picture& drawn_;
+  int row_;
+  int column_;
+  int end_;
+  std::string& stream_;
+};
+
+void append_icon(std::string& to, const shp_icon& icon) {
+  append16(to, icon.no_of_rows);
+  append16(to, icon.no_of_cols);
+  append32(to, 0);
+  append32(to, icon.box.first_col);
+  append32(to, icon.box.first_row);
+  append32(to, icon.box.last_col);
+  append32(to, icon.box.last_row);
+  to += icon.stream;
+}
+
+}  // namespace
+
+data_box smallest_box(const picture& drawn) {
+  data_box box{drawn.columns(), drawn.rows(), -1, -1};
+  for (int row = 0; row < drawn.rows(); ++row) {
+    for (int column = 0; column < drawn.columns(); ++column) {
+      if (!drawn.is_set(column, row)) continue;
+      box.first_col = std::min(box.first_col, column);
+      box.first_row = std::min(box.first_row, row);
+      box.last_col = std::max(box.last_col, column);
+      box.last_row = std::max(box.last_row, row);
+    }
+  }
+  return box.last_row < 0 ? data_box{} : box;
+}
+
+std::string packed(const picture& drawn, const data_box& box) {
+  std::string stream;
+  for (int row = box.first_row; row <= box.last_row; ++row) {
+    row_packer(drawn, row, box.first_col, box.last_col + 1, stream).pack();
+  }
+  return stream;
+}
+
+shp_icon make_icon(const picture& drawn) { return make_icon(drawn, smallest_box(drawn)); }
+
+shp_icon make_icon(const picture& drawn, const data_box& box) {
+  return {static_cast<std::int16_t>(drawn.rows() - 1),
+          static_cast<std::int16_t>(drawn.columns() - 1), box, packed(drawn, box)};
+}
+
+std::string shp_file(const std::vector<shp_icon>& icons) {
+  std::string directory;
+  std::string bodies;
+  for (const shp_icon& icon : icons) {
+    const std::size_t offset = head_size + directory_entry_size * icons.size() + bodies.size();
+    append32(directory, static_cast<std::int32_t>(offset));
+    append32(directory, 0);
+    append_icon(bodies, icon);
+  }
+  std::string file = "ICON";
+  append32(file, static_cast<std::int32_t>(icons.size()));
+  return file + directory + bodies;
+}
+
+std::string shp_file(const std::vector<picture>& pictures) {
+  std::vector<shp_icon> icons;
+  icons.reserve(pictures.size());
+  for (const picture& drawn : pictures) icons.push_back(make_icon(drawn));
+  return shp_file(icons);
+}
+
+}  // namespace ostrane::samples

@@ -1,0 +1,83 @@
+#include "shp_writer.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace ostrane::samples {
+namespace {
+
+// A letter is a cell of that index, a dot an unset one.
+picture row_of(const std::string& cells) {
+  picture drawn(static_cast<int>(cells.size()), 1);
+  for (int column = 0; column < drawn.columns(); ++column) {
+    const char c = cells[static_cast<std::size_t>(column)];
+    if (c != '.') drawn.set(column, 0, static_cast<std::uint8_t>(c));
+  }
+  return drawn;
+}
+
+std::string bytes(std::initializer_list<int> values) {
+  std::string text;
+  for (const int value : values) text += static_cast<char>(value);
+  return text;
+}
+
+TEST(ShpWriter, PacksARowIntoTheFewestBytes) {
+  const struct {
+    std::string cells;
+    std::string stream;
+  } cases[] = {
+      {"...", bytes({0})},
+      {"A", bytes({3, 'A', 0})},
+      {"AA", bytes({4, 'A', 0})},
+      {"AAB", bytes({4, 'A', 3, 'B', 0})},
+      {"AB", bytes({5, 'A', 'B', 0})},
+      {"ABBA", bytes({9, 'A', 'B', 'B', 'A', 0})},
+      {"ABBBA", bytes({3, 'A', 6, 'B', 3, 'A', 0})},
+      {"..A", bytes({1, 2, 3, 'A', 0})},
+      {"A.BC..", bytes({3, 'A', 1, 1, 5, 'B', 'C', 0})},
+      {std::string(128, 'A'), bytes({254, 'A', 3, 'A', 0})},
+      {std::string(256, '.') + "A", bytes({1, 255, 1, 1, 3, 'A', 0})},
+  };
+  for (const auto& c : cases) {
+    const picture drawn = row_of(c.cells);
+    EXPECT_EQ(packed(drawn, {0, 0, drawn.columns() - 1, 0}), c.stream) << c.cells;
+  }
+}
+
+TEST(ShpWriter, SplitsALiteralThatNoControlByteCanCount) {
+  std::string cells;
+  for (int i = 0; i < 128; ++i) cells += i % 2 == 0 ? 'A' : 'B';
+  const std::string stream = bytes({255}) + cells.substr(0, 127) + bytes({3, 'B', 0});
+  EXPECT_EQ(packed(row_of(cells), {0, 0, 127, 0}), stream);
+}
+
+TEST(ShpWriter, LeavesAMarginOnEachSide) {
+  picture drawn(6, 5);
+  drawn.set(2, 1, 'A');
+  drawn.set(3, 3, 'B');
+  const shp_icon icon = make_icon(drawn);
+  EXPECT_EQ(icon.no_of_rows, 4);
+  EXPECT_EQ(icon.no_of_cols, 5);
+  EXPECT_EQ(icon.box.first_col, 2);
+  EXPECT_EQ(icon.box.first_row, 1);
+  EXPECT_EQ(icon.box.last_col, 3);
+  EXPECT_EQ(icon.box.last_row, 3);
+  EXPECT_EQ(icon.stream, bytes({3, 'A', 0, 0, 1, 1, 3, 'B', 0}));
+}
+
+TEST(ShpWriter, WritesTheDirectoryInFrontOfTheIcons) {
+  picture wide(3, 2);
+  wide.set(1, 1, 7);
+  const std::string file = shp_file({row_of("A"), wide});
+  const std::string expected =
+      bytes({'I', 'C', 'O', 'N', 2, 0, 0, 0}) +
+      bytes({24, 0, 0, 0, 0, 0, 0, 0, 51, 0, 0, 0, 0, 0, 0, 0}) + bytes({0, 0, 0, 0, 0, 0, 0, 0}) +
+      std::string(16, '\0') + bytes({3, 'A', 0}) + bytes({1, 0, 2, 0, 0, 0, 0, 0}) +
+      bytes({1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0}) + bytes({3, 7, 0});
+  EXPECT_EQ(file, expected);
+}
+
+}  // namespace
+}  // namespace ostrane::samples
