@@ -14,84 +14,176 @@ struct form1 : platform::form {
               .resizable = true,
               .opens = platform::start_position::screen_centre}) {}
 
-  platform::list_box List1{
-      *this,
-      {.name = "List1", .left = 0, .top = 735, .width = 1695, .height = 5715, .tab_index = 0,
-       .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
-       .back_color = pale_green}};
-  platform::text_box Text1{
-      *this,
-      {.name = "Text1", .left = 945, .top = 420, .width = 750, .height = 285, .tab_index = 1,
-       .tool_tip = "Displays the number of files in your Ostrane.dat file.",
-       .back_color = platform::system_menu, .locked = true}};
+  platform::list_box List1{*this,
+                           {.name = "List1",
+                            .left = 0,
+                            .top = 735,
+                            .width = 1695,
+                            .height = 5715,
+                            .tab_index = 0,
+                            .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
+                            .back_color = pale_green}};
+  platform::text_box Text1{*this,
+                           {.name = "Text1",
+                            .left = 945,
+                            .top = 420,
+                            .width = 750,
+                            .height = 285,
+                            .tab_index = 1,
+                            .tool_tip = "Displays the number of files in your Ostrane.dat file.",
+                            .back_color = platform::system_menu,
+                            .locked = true}};
   platform::label Label1{*this,
-                         {.name = "Label1", .left = 0, .top = 420, .width = 855, .height = 255,
-                          .tab_index = 2, .text = "# of files:"}};
+                         {.name = "Label1",
+                          .left = 0,
+                          .top = 420,
+                          .width = 855,
+                          .height = 255,
+                          .tab_index = 2,
+                          .text = "# of files:"}};
   platform::frame Frame1{*this,
-                         {.name = "Frame1", .left = 1800, .top = 0, .width = 7455, .height = 6570,
-                          .tab_index = 3, .text = "Icon View"}};
-  platform::picture_array s16_image{
-      Frame1,
-      {.name = "s16_image", .left = 240, .top = 840, .width = 100, .height = 100, .tab_index = 4,
-       .tool_tip = icon_tool_tip, .visible = false}};
+                         {.name = "Frame1",
+                          .left = 1800,
+                          .top = 0,
+                          .width = 7455,
+                          .height = 6570,
+                          .tab_index = 3,
+                          .text = "Icon View"}};
+  platform::picture_array s16_image{Frame1,
+                                    {.name = "s16_image",
+                                     .left = 240,
+                                     .top = 840,
+                                     .width = 100,
+                                     .height = 100,
+                                     .tab_index = 4,
+                                     .tool_tip = icon_tool_tip,
+                                     .visible = false}};
   platform::button Command3{
       Frame1,
-      {.name = "Command3", .left = 1680, .top = 240, .width = 855, .height = 255, .tab_index = 5,
+      {.name = "Command3",
+       .left = 1680,
+       .top = 240,
+       .width = 855,
+       .height = 255,
+       .tab_index = 5,
        .text = "Prev icon",
        .tool_tip = "Click to get the previous picture in the selected s16-file"}};
   platform::label Label2{Frame1,
-                         {.name = "Label2", .left = 120, .top = 240, .width = 1455, .height = 375,
-                          .tab_index = 6, .text = "Tot # of Icon in s16"}};
-  platform::text_box Text2{
-      Frame1,
-      {.name = "Text2", .left = 120, .top = 480, .width = 1455, .height = 285, .tab_index = 7,
-       .tool_tip = "Displays the number of pictures in the selected s16-file",
-       .back_color = platform::system_menu, .locked = true, .centred = true}};
+                         {.name = "Label2",
+                          .left = 120,
+                          .top = 240,
+                          .width = 1455,
+                          .height = 375,
+                          .tab_index = 6,
+                          .text = "Tot # of Icon in s16"}};
+  platform::text_box Text2{Frame1,
+                           {.name = "Text2",
+                            .left = 120,
+                            .top = 480,
+                            .width = 1455,
+                            .height = 285,
+                            .tab_index = 7,
+                            .tool_tip = "Displays the number of pictures in the selected s16-file",
+                            .back_color = platform::system_menu,
+                            .locked = true,
+                            .centred = true}};
   platform::label Label3{Frame1,
-                         {.name = "Label3", .left = 2640, .top = 240, .width = 1575, .height = 255,
-                          .tab_index = 8, .text = "Displayed picture #"}};
-  platform::text_box Text3{
-      Frame1,
-      {.name = "Text3", .left = 2640, .top = 480, .width = 1335, .height = 285, .tab_index = 9,
-       .tool_tip = "Displays the current picture-number in the s16-file.",
-       .back_color = platform::system_menu, .locked = true, .centred = true}};
+                         {.name = "Label3",
+                          .left = 2640,
+                          .top = 240,
+                          .width = 1575,
+                          .height = 255,
+                          .tab_index = 8,
+                          .text = "Displayed picture #"}};
+  platform::text_box Text3{Frame1,
+                           {.name = "Text3",
+                            .left = 2640,
+                            .top = 480,
+                            .width = 1335,
+                            .height = 285,
+                            .tab_index = 9,
+                            .tool_tip = "Displays the current picture-number in the s16-file.",
+                            .back_color = platform::system_menu,
+                            .locked = true,
+                            .centred = true}};
   platform::text_box Text4{
       Frame1,
-      {.name = "Text4", .left = 5040, .top = 480, .width = 615, .height = 285, .tab_index = 10,
+      {.name = "Text4",
+       .left = 5040,
+       .top = 480,
+       .width = 615,
+       .height = 285,
+       .tab_index = 10,
        .tool_tip = "Type in the interval between display of pictures. (* 1/100 seconds)",
-       .back_color = platform::system_window, .max_length = 2}};
-  platform::button Command4{
-      Frame1,
-      {.name = "Command4", .left = 1680, .top = 480, .width = 855, .height = 255, .tab_index = 11,
-       .text = "Next icon",
-       .tool_tip = "Click to get the next picture in the selected s16-file"}};
-  platform::button Command5{
-      Frame1,
-      {.name = "Command5", .left = 4080, .top = 240, .width = 855, .height = 495, .tab_index = 12,
-       .text = "Start motion", .tool_tip = "Click here to get these icons animated."}};
+       .back_color = platform::system_window,
+       .max_length = 2}};
+  platform::button Command4{Frame1,
+                            {.name = "Command4",
+                             .left = 1680,
+                             .top = 480,
+                             .width = 855,
+                             .height = 255,
+                             .tab_index = 11,
+                             .text = "Next icon",
+                             .tool_tip = "Click to get the next picture in the selected s16-file"}};
+  platform::button Command5{Frame1,
+                            {.name = "Command5",
+                             .left = 4080,
+                             .top = 240,
+                             .width = 855,
+                             .height = 495,
+                             .tab_index = 12,
+                             .text = "Start motion",
+                             .tool_tip = "Click here to get these icons animated."}};
   platform::label Label4{Frame1,
-                         {.name = "Label4", .left = 5040, .top = 240, .width = 855, .height = 255,
-                          .tab_index = 13, .text = "1/100 sec"}};
+                         {.name = "Label4",
+                          .left = 5040,
+                          .top = 240,
+                          .width = 855,
+                          .height = 255,
+                          .tab_index = 13,
+                          .text = "1/100 sec"}};
   platform::button Command6{
       Frame1,
-      {.name = "Command6", .left = 6120, .top = 240, .width = 1095, .height = 495,
-       .tab_index = 14, .text = "Next series",
+      {.name = "Command6",
+       .left = 6120,
+       .top = 240,
+       .width = 1095,
+       .height = 495,
+       .tab_index = 14,
+       .text = "Next series",
        .tool_tip = "Click here to get the next series of icons displayed from the selected "
                    "s16-file."}};
   platform::text_box Text5{
       *this,
-      {.name = "Text5", .left = 960, .top = 105, .width = 735, .height = 285, .tab_index = 15,
+      {.name = "Text5",
+       .left = 960,
+       .top = 105,
+       .width = 735,
+       .height = 285,
+       .tab_index = 15,
        .tool_tip = "Type the maximum number of icons you want displayed at one time.( If you want "
                    "too many, you might crash due to memory problems, 128MB RAM has a max of about "
                    "300)",
-       .back_color = platform::system_window, .max_length = 3}};
+       .back_color = platform::system_window,
+       .max_length = 3}};
   platform::label Label5{*this,
-                         {.name = "Label5", .left = 0, .top = 105, .width = 855, .height = 255,
-                          .tab_index = 16, .text = "Max icons:"}};
-  platform::text_box Text6{
-      Frame1,
-      {.name = "Text6", .left = 120, .top = 840, .width = 7095, .height = 5535, .tab_index = 17,
-       .back_color = platform::system_window, .multi_line = true}};
+                         {.name = "Label5",
+                          .left = 0,
+                          .top = 105,
+                          .width = 855,
+                          .height = 255,
+                          .tab_index = 16,
+                          .text = "Max icons:"}};
+  platform::text_box Text6{Frame1,
+                           {.name = "Text6",
+                            .left = 120,
+                            .top = 840,
+                            .width = 7095,
+                            .height = 5535,
+                            .tab_index = 17,
+                            .back_color = platform::system_window,
+                            .multi_line = true}};
 
   platform::timer Timer1{*this, "Timer1", 500, true};
 
@@ -105,8 +197,8 @@ struct form1 : platform::form {
   platform::menu mnu_rep{*this, "mnu_rep", "Reports"};
   platform::menu_item mnu_save{mnu_rep, "mnu_save", "Save filelist as \"s16list.txt\""};
   platform::menu_item mnu_skillin3{mnu_rep, "mnu_skillin3", ""};
-  platform::menu_item mnu_read_filelist{
-      mnu_rep, "mnu_read_filelist", "Compare current Ostrane.dat with \"s16list.txt\""};
+  platform::menu_item mnu_read_filelist{mnu_rep, "mnu_read_filelist",
+                                        "Compare current Ostrane.dat with \"s16list.txt\""};
 };
 
 extern form1 Form1;

@@ -20,7 +20,8 @@ extern application_facts application;
 void end_process();
 bool process_ended();
 
-// The state of a new process: nothing waits, no message was shown, nothing is remembered of folders.
+// The state of a new process: nothing waits, no message was shown, nothing is remembered of
+// folders.
 void begin_process();
 
 }  // namespace platform

@@ -16,8 +16,9 @@ constexpr std::size_t buffer_size = 65536;
 
 }  // namespace
 
-binary_file::~binary_file() {
+void binary_file::abandon() {
   if (file_ >= 0) file_calls::close_file(file_);
+  file_ = -1;
 }
 
 void binary_file::open_to_read(const std::string& path) {
@@ -33,6 +34,7 @@ void binary_file::open_to_write(const std::string& path) {
 void binary_file::take_written(int file, const std::string& path) { take(file, path, true); }
 
 void binary_file::take(int file, const std::string& path, bool writes) {
+  abandon();
   path_ = path;
   if (file < 0) fail(file, " cannot be opened: ");
   file_ = file;
@@ -40,6 +42,7 @@ void binary_file::take(int file, const std::string& path, bool writes) {
   buffer_.resize(buffer_size);
   position_ = 0;
   fill_ = 0;
+  buffer_start_ = 0;
 }
 
 void binary_file::fail(std::int64_t outcome, const char* what) {
@@ -50,8 +53,14 @@ void binary_file::fail(std::int64_t outcome, const char* what) {
 
 void binary_file::seek(std::int64_t offset) {
   if (writes_) flush();
+  const std::int64_t ahead = offset - buffer_start_;
+  if (!writes_ && ahead >= 0 && ahead <= static_cast<std::int64_t>(fill_)) {
+    position_ = static_cast<std::size_t>(ahead);
+    return;
+  }
   position_ = 0;
   fill_ = 0;
+  buffer_start_ = offset;
   const std::int64_t at = file_calls::seek_to(file_, offset);
   if (at < 0) fail(at, " cannot be read: ");
 }
@@ -70,9 +79,13 @@ std::size_t binary_file::read(std::span<std::byte> to) {
       if (to.size() - got >= buffer_size) {
         const std::size_t moved = read_from_system(to.subspan(got));
         if (moved == 0) break;
+        buffer_start_ += static_cast<std::int64_t>(fill_ + moved);
+        position_ = 0;
+        fill_ = 0;
         got += moved;
         continue;
       }
+      buffer_start_ += static_cast<std::int64_t>(fill_);
       position_ = 0;
       fill_ = 0;
       fill_ = read_from_system(buffer_);

@@ -17,7 +17,7 @@ class binary_file {
   binary_file(const binary_file&) = delete;
   binary_file& operator=(const binary_file&) = delete;
   // Closes an open file without looking at failures.
-  ~binary_file();
+  ~binary_file() { abandon(); }
 
   void open_to_read(const std::string& path);
   // Makes a missing file; one that is there is written over from its first byte and not emptied.
@@ -38,6 +38,8 @@ class binary_file {
   void flush(bool to_disk = false);
   // Closing a file that was written can fail, so it is looked at.
   void close();
+  // Closes without writing what is still buffered and without looking at failures.
+  void abandon();
   bool is_open() const { return file_ >= 0; }
 
  private:
@@ -49,8 +51,9 @@ class binary_file {
   bool writes_ = false;
   std::string path_;
   std::vector<std::byte> buffer_;
-  std::size_t position_ = 0;  // of the next byte in the buffer
-  std::size_t fill_ = 0;      // bytes in the buffer while reading
+  std::size_t position_ = 0;       // of the next byte in the buffer
+  std::size_t fill_ = 0;           // bytes in the buffer while reading
+  std::int64_t buffer_start_ = 0;  // place in the file of the buffer's first byte, while reading
 };
 
 }  // namespace platform

@@ -43,10 +43,9 @@ void sort_folded(std::vector<std::string>& names) {
   keyed.reserve(names.size());
   for (std::string& name : names) keyed.emplace_back(upper_case(name), std::move(name));
   const auto by_bytes = [](const std::string& a, const std::string& b) {
-    return std::lexicographical_compare(
-        a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-          return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
-        });
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+      return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
+    });
   };
   std::sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
     return a.first == b.first ? by_bytes(a.second, b.second) : by_bytes(a.first, b.first);
@@ -63,6 +62,11 @@ bool file_exists(const std::string& path) {
 
 bool folder_exists(const std::string& path) { return fs::is_directory(status_of(path)); }
 
+bool is_same_file(const std::string& path, const std::string& other) {
+  std::error_code failed;
+  return fs::equivalent(system_path(path), system_path(other), failed) && !failed;
+}
+
 std::int64_t file_size(const std::string& path) {
   std::error_code failed;
   const std::uintmax_t bytes = fs::file_size(system_path(path), failed);
@@ -72,7 +76,10 @@ std::int64_t file_size(const std::string& path) {
 
 void delete_file(const std::string& path) {
   std::error_code failed;
-  if (!fs::remove(system_path(path), failed) && !failed) {
+  const fs::path place = system_path(path);
+  if (fs::is_directory(fs::symlink_status(place, failed))) {
+    failed = std::make_error_code(std::errc::is_a_directory);
+  } else if (!fs::remove(place, failed) && !failed) {
     failed = std::make_error_code(std::errc::no_such_file_or_directory);
   }
   if (failed) fail(path, failed, " cannot be deleted: ");

@@ -10,10 +10,12 @@ namespace platform {
 // False too if the place cannot be looked at, and for a folder.
 bool file_exists(const std::string& path);
 bool folder_exists(const std::string& path);
+// True if both paths lead to one file, also by links.
+bool is_same_file(const std::string& path, const std::string& other);
 
 // Throws file_error.
 std::int64_t file_size(const std::string& path);
-// Read-only or not. Throws file_error.
+// Read-only or not; a folder is no file. Throws file_error.
 void delete_file(const std::string& path);
 // Throws file_error, also if the folder is there already.
 void create_folder(const std::string& path);

@@ -108,7 +108,8 @@ std::string tool_path(const fs::path& place) {
   fs::path rest;
   for (const drive& d : drives()) {
     const std::optional<fs::path> from_drive = inside(place, d.folder);
-    const bool nearer = nearest == nullptr || d.folder.native().size() > nearest->folder.native().size();
+    const bool nearer =
+        nearest == nullptr || d.folder.native().size() > nearest->folder.native().size();
     if (!from_drive || !nearer) continue;
     nearest = &d;
     rest = *from_drive;

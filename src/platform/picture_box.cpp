@@ -65,8 +65,7 @@ void picture_box::take_memory() {
 }
 
 void picture_box::take_size() {
-  const std::int32_t columns =
-      std::max(0, Width() / application.TwipsPerPixelX - 2 * border);
+  const std::int32_t columns = std::max(0, Width() / application.TwipsPerPixelX - 2 * border);
   const std::int32_t rows = std::max(0, Height() / application.TwipsPerPixelY - 2 * border);
   if (columns == columns_ && rows == rows_) return;
   const std::vector<colour> old = std::move(pixels_);

@@ -107,13 +107,12 @@ void select_file(file_list& files, std::int32_t row) {
 }
 
 void resize(form& window, std::int32_t client_width, std::int32_t client_height) {
-  run_event(
-      [&window, client_width, client_height] {
-        const bool same = window.client_width() == client_width &&
-                          window.client_height() == client_height;
-        window.set_client_size(client_width, client_height);
-        if (!same) raise(window.Resize);
-      });
+  run_event([&window, client_width, client_height] {
+    const bool same =
+        window.client_width() == client_width && window.client_height() == client_height;
+    window.set_client_size(client_width, client_height);
+    if (!same) raise(window.Resize);
+  });
 }
 
 void close(form& window) {

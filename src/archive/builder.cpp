@@ -1,0 +1,146 @@
+#include "archive/builder.h"
+
+#include <algorithm>
+#include <array>
+
+#include "archive/chunk_ladder.h"
+#include "archive/format.h"
+#include "archive/index_reader.h"
+#include "archive/new_index.h"
+#include "archive/progress.h"
+#include "forms/form1.h"
+#include "forms/form3.h"
+#include "forms/form5.h"
+#include "platform/code_page.h"
+#include "platform/file_error.h"
+#include "platform/little_endian.h"
+#include "platform/message_box.h"
+#include "platform/paths.h"
+#include "platform/replaced_file.h"
+#include "state/files.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+struct build {
+  std::string target_folder;
+  std::vector<std::string> files;
+  std::vector<dat_record> records;
+  std::int16_t total_bar_tick = 0;
+};
+
+[[noreturn]] void fail(const std::string& text) {
+  throw platform::file_error{platform::file_error_number::device_error, text};
+}
+
+// What the list of files shows, without the archive itself.
+std::vector<std::string> build_list() {
+  std::vector<std::string> files;
+  for (std::int32_t i = 0; i < Form5.File1.ListCount(); ++i) {
+    const std::string& name = Form5.File1.List(i);
+    if (platform::lower_case(name) != "ostrane.dat") files.push_back(name);
+  }
+  if (files.size() > most_files) {
+    fail("There are " + std::to_string(files.size()) + " files in " + Form5.File1.Path() +
+         ". An archive holds at most " + std::to_string(most_files) + ".");
+  }
+  return files;
+}
+
+void write_index(const build& job, platform::binary_file& archive) {
+  std::array<std::byte, record_size> bytes;
+  platform::put_int32(bytes, 0, static_cast<std::int32_t>(job.records.size()));
+  archive.write(std::span(bytes).first<count_size>());
+  for (const dat_record& record : job.records) {
+    encode_record(record, bytes);
+    archive.write(bytes);
+  }
+}
+
+void move_total_bar(build& job, std::size_t index) {
+  ++job.total_bar_tick;
+  if (job.total_bar_tick <= 96) return;
+  Form3.ProgressBar2.Value = static_cast<float>(index);
+  job.total_bar_tick = 0;
+}
+
+void show_file_in_work(const build& job, std::size_t index) {
+  Form3.message.Caption =
+      "Current File : " + job.target_folder + job.files[index] +
+      "\r\nCurrent File Number: " + sign_column_text(static_cast<std::int64_t>(index)) +
+      "\r\nTotal Number of Files: " + sign_column_text(static_cast<std::int64_t>(job.files.size()));
+  Form3.Refresh();
+}
+
+void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
+  const std::int32_t size = tool_state.make_index[index].size;
+  const std::string path = job.target_folder + job.files[index];
+  move_total_bar(job, index);
+  std::int16_t small_block_bytes = 0;
+  Form3.ProgressBar1.Min = 0;
+  Form3.ProgressBar1.Max = static_cast<float>(size);
+  file_5.open_to_read(path);
+  show_file_in_work(job, index);
+  const std::int32_t copied = chunk_ladder(file_5, archive, size, small_block_bytes);
+  std::array<std::byte, 1> one_more;
+  if (copied < size || file_5.read(one_more) > 0) fail(path + " has changed its size meanwhile.");
+  file_5.close();
+}
+
+void write_archive(build& job) {
+  platform::replaced_file archive(job.target_folder + "OSTRANE.DAT");
+  write_index(job, archive.file());
+  Form3.ProgressBar2.Max = static_cast<float>(job.records.size());
+  Form3.ProgressBar2.Min = 0;
+  for (std::size_t i = 0; i < job.files.size(); ++i) copy_file(job, i, archive.file());
+  archive.put_in_place();
+}
+
+void run(build& job) {
+  Form3.message.Caption = "Calculation internal offsets for the files in Ostrane.dat";
+  Form3.Refresh();
+  job.files = build_list();
+  job.records = make_new_index(job.target_folder, job.files);
+  Form3.Refresh();
+  write_archive(job);
+}
+
+void keep_new_index(const build& job) {
+  if (Form1.mnu_ext.Enabled()) {
+    read_archive(job.target_folder);
+    return;
+  }
+  tool_state.record_count = static_cast<std::int32_t>(job.records.size());
+  std::copy(job.records.begin(), job.records.end(), tool_state.dat_index.begin());
+}
+
+}  // namespace
+
+void make_archive() {
+  build job;
+  job.target_folder = platform::with_separator(Form5.Text1.Text());
+  show_progress("Ostrane.dat tool - Make new Ostrane.dat");
+  Form3.Refresh();
+  std::string failure;
+  try {
+    run(job);
+  } catch (const platform::file_error& error) {
+    failure = error.text;
+  }
+  file_5.close();
+  hide_progress("Ostrane.dat tool ");
+  if (!failure.empty()) {
+    platform::message_box(failure + " No new archive was made.");
+    return;
+  }
+  keep_new_index(job);
+  Form1.Visible = true;
+  Form5.Visible = false;
+  platform::message_box("Your new Ostrane.dat has been created and saved in:" + job.target_folder +
+                        "ostrane.dat");
+}
+
+}  // namespace ostrane

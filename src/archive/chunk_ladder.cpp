@@ -1,0 +1,72 @@
+#include "archive/chunk_ladder.h"
+
+#include <array>
+
+#include "forms/form3.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::int32_t largest_block = 8192;
+
+struct rung {
+  std::int32_t block;
+  bool moves_bar_always;
+};
+
+constexpr std::array<rung, 4> rungs = {
+    {{largest_block, true}, {1024, true}, {128, false}, {8, false}}};
+
+struct copy_in_work {
+  platform::binary_file& source;
+  platform::binary_file& destination;
+  std::int16_t& small_block_bytes;
+  std::int32_t copied = 0;
+  bool source_ended = false;
+};
+
+void copy_block(copy_in_work& copy, std::int32_t size) {
+  static std::array<std::byte, largest_block> buffer;
+  const auto block = std::span(buffer).first(static_cast<std::size_t>(size));
+  const std::size_t got = copy.source.read(block);
+  copy.destination.write(block.first(got));
+  copy.copied += static_cast<std::int32_t>(got);
+  copy.source_ended = got < block.size();
+}
+
+void count_small_block(copy_in_work& copy, std::int32_t size, std::int32_t value) {
+  copy.small_block_bytes = static_cast<std::int16_t>(copy.small_block_bytes + size);
+  if (copy.small_block_bytes <= 1024) return;
+  Form3.ProgressBar1.Value = static_cast<float>(value);
+  copy.small_block_bytes = 0;
+}
+
+void copy_blocks(copy_in_work& copy, const rung& step, std::int32_t blocks) {
+  for (std::int32_t i = 1; i <= blocks && !copy.source_ended; ++i) {
+    if (step.moves_bar_always) {
+      Form3.ProgressBar1.Value = static_cast<float>(i * step.block);
+    } else {
+      count_small_block(copy, step.block, i * step.block);
+    }
+    copy_block(copy, step.block);
+  }
+}
+
+}  // namespace
+
+std::int32_t chunk_ladder(platform::binary_file& source, platform::binary_file& destination,
+                          std::int32_t amount, std::int16_t& small_block_bytes) {
+  copy_in_work copy{source, destination, small_block_bytes};
+  std::int32_t remaining = amount;
+  for (const rung& step : rungs) {
+    if (remaining <= step.block) continue;
+    const std::int32_t blocks = remaining / step.block;
+    copy_blocks(copy, step, blocks);
+    remaining -= blocks * step.block;
+  }
+  if (remaining > 0) copy_blocks(copy, {.block = 1, .moves_bar_always = false}, remaining);
+  return copy.copied;
+}
+
+}  // namespace ostrane

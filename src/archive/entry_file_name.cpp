@@ -1,0 +1,46 @@
+#include "archive/entry_file_name.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "platform/code_page.h"
+#include "platform/text.h"
+
+namespace ostrane {
+
+namespace {
+
+bool is_control_character(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+
+bool has_number(std::string_view stem, std::string_view device) {
+  return stem.size() == 4 && stem.substr(0, 3) == device && stem[3] >= '1' && stem[3] <= '9';
+}
+
+// Windows takes these for devices, with any extension and blanks behind the name.
+bool is_device(const std::string& name) {
+  const std::string folded = platform::upper_case(name);
+  const std::string_view stem =
+      platform::trimmed(std::string_view(folded).substr(0, folded.find('.')));
+  constexpr std::array<std::string_view, 6> devices = {"CON", "PRN",    "AUX",
+                                                       "NUL", "CONIN$", "CONOUT$"};
+  return std::find(devices.begin(), devices.end(), stem) != devices.end() ||
+         has_number(stem, "COM") || has_number(stem, "LPT");
+}
+
+}  // namespace
+
+std::string fault_of_file_name(const std::string& name) {
+  if (name.empty()) return "it has no name";
+  if (name == "." || name == "..") return "its name means a folder";
+  if (name.find_first_of("\\/:") != std::string::npos) {
+    return "its name holds a separator of paths";
+  }
+  if (std::any_of(name.begin(), name.end(), is_control_character)) {
+    return "its name holds a control character";
+  }
+  if (is_device(name)) return "its name means a device";
+  return "";
+}
+
+}  // namespace ostrane

@@ -1,0 +1,35 @@
+#include "archive/format.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/little_endian.h"
+#include "platform/text.h"
+
+namespace ostrane {
+
+dat_record decode_record(std::span<const std::byte, record_size> bytes) {
+  dat_record record;
+  record.offset = platform::int32_at(bytes, 0);
+  std::memcpy(record.name.data(), bytes.data() + 4, name_size);
+  return record;
+}
+
+void encode_record(const dat_record& record, record_bytes bytes) {
+  platform::put_int32(bytes, 0, record.offset);
+  std::memcpy(bytes.data() + 4, record.name.data(), name_size);
+}
+
+std::string name_without_nuls(const record_name& name) {
+  std::string text;
+  std::copy_if(name.begin(), name.end(), std::back_inserter(text), [](char c) { return c != 0; });
+  return text;
+}
+
+std::string name_with_blanks(const record_name& name) {
+  std::string text(name.begin(), name.end());
+  std::replace(text.begin(), text.end(), '\0', ' ');
+  return std::string(platform::trimmed(text));
+}
+
+}  // namespace ostrane

@@ -1,0 +1,108 @@
+#include "archive/index_reader.h"
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+#include "archive/format.h"
+#include "forms/form1.h"
+#include "palette/palette_store.h"
+#include "platform/code_page.h"
+#include "platform/file_error.h"
+#include "platform/file_system.h"
+#include "platform/little_endian.h"
+#include "platform/message_box.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "state/files.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& what) {
+  throw platform::file_error{platform::file_error_number::device_error,
+                             tool_state.archive_path + " cannot be read as an archive: " + what};
+}
+
+std::int32_t read_count() {
+  std::array<std::byte, count_size> bytes;
+  if (file_1.read(bytes) < bytes.size()) refuse("it ends within the number of its records.");
+  const std::int32_t count = platform::int32_at(bytes, 0);
+  if (count < 0 || count > most_records) {
+    refuse("it gives " + std::to_string(count) +
+           " as the number of its records, which is from 0 to " + std::to_string(most_records) +
+           ".");
+  }
+  if (file_1.size() < count_size + std::int64_t{record_size} * count) {
+    refuse("it ends before the last of its " + std::to_string(count) + " records.");
+  }
+  return count;
+}
+
+std::vector<dat_record> read_records() {
+  file_1.open_to_read(tool_state.archive_path);
+  const std::int32_t count = read_count();
+  std::vector<dat_record> records;
+  records.reserve(static_cast<std::size_t>(count));
+  std::array<std::byte, record_size> bytes;
+  for (std::int32_t i = 0; i < count; ++i) {
+    if (file_1.read(bytes) < bytes.size()) refuse("it has become shorter meanwhile.");
+    records.push_back(decode_record(bytes));
+  }
+  return records;
+}
+
+bool names_the_palette(std::string_view row) {
+  const std::string_view name = platform::trimmed(row);
+  return name.size() == 8 && platform::upper_case(name) == "GAME.PAL";
+}
+
+void keep_records(const std::vector<dat_record>& records) {
+  tool_state.record_count = static_cast<std::int32_t>(records.size());
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    tool_state.dat_index[i] = records[i];
+    const auto row = static_cast<std::int32_t>(i);
+    Form1.List1.AddItem(name_without_nuls(records[i].name));
+    if (names_the_palette(Form1.List1.List(row))) {
+      tool_state.game_pal_offset = records[i].offset;
+    }
+  }
+}
+
+// False, after a message, if there is no index to be had.
+bool read_index() {
+  if (!platform::file_exists(tool_state.archive_path)) {
+    platform::message_box(tool_state.archive_path + " is not found");
+    return false;
+  }
+  std::vector<dat_record> records;
+  bool good = true;
+  try {
+    records = read_records();
+  } catch (const platform::file_error& error) {
+    platform::message_box(error.text);
+    good = false;
+  }
+  file_1.close();
+  if (good) keep_records(records);
+  return good;
+}
+
+}  // namespace
+
+void read_archive(const std::string& folder) {
+  if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
+  tool_state.archive_path = platform::with_separator(folder) + "ostrane.dat";
+  tool_state.archive_path_copy = tool_state.archive_path;
+  if (read_index()) {
+    Form1.mnu_ext.Enabled = true;
+    Form1.mnu_save.Enabled = true;
+    Form1.mnu_read_filelist.Enabled = true;
+    read_game_palette();
+  }
+  Form1.Text1.Text = std::to_string(tool_state.record_count - 1);
+}
+
+}  // namespace ostrane

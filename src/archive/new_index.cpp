@@ -1,0 +1,60 @@
+#include "archive/new_index.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/file_error.h"
+#include "platform/file_system.h"
+#include "platform/text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+record_name padded(const std::string& file_name) {
+  record_name name;
+  name.fill(' ');
+  const std::string_view text = platform::trimmed(file_name).substr(0, name_size);
+  std::copy(text.begin(), text.end(), name.begin());
+  return name;
+}
+
+std::int32_t offset_behind(std::int32_t offset, std::int64_t size, const std::string& path) {
+  const std::int64_t behind = offset + size;
+  if (behind <= INT32_MAX) return static_cast<std::int32_t>(behind);
+  throw platform::file_error{platform::file_error_number::device_error,
+                             "With " + path +
+                                 " the archive would be larger than 2 GB, which is "
+                                 "the most that it can be."};
+}
+
+}  // namespace
+
+record_name record_name_of(const make_record& record) {
+  record_name name = record.name;
+  for (char& c : name) c = c == ' ' ? '\0' : platform::upper_case(c);
+  return name;
+}
+
+std::vector<dat_record> make_new_index(const std::string& folder,
+                                       const std::vector<std::string>& files) {
+  const auto count = static_cast<std::int32_t>(files.size()) + 1;
+  std::int32_t next_offset = count_size + record_size * count;
+  std::vector<dat_record> records;
+  records.reserve(files.size() + 1);
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const std::int64_t size = platform::file_size(folder + files[i]);
+    const std::int32_t behind = offset_behind(next_offset, size, folder + files[i]);
+    make_record& record = tool_state.make_index[i];
+    record.name = padded(files[i]);
+    record.size = static_cast<std::int32_t>(size);
+    record.offset = next_offset;
+    records.push_back({.offset = next_offset, .name = record_name_of(record)});
+    next_offset = behind;
+  }
+  records.push_back({.offset = next_offset, .name = {}});
+  return records;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,90 @@
+#include "forms/entry_selection.h"
+
+#include <algorithm>
+#include <string>
+
+#include "forms/form1.h"
+#include "icons/series.h"
+#include "icons/slots.h"
+#include "lists/icon_names.h"
+#include "lists/text_view.h"
+#include "palette/palette_view.h"
+#include "platform/code_page.h"
+#include "platform/message_box.h"
+#include "platform/text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex); }
+
+std::string extension_of(const std::string& row) {
+  return platform::lower_case(platform::last_characters(platform::trimmed(row), 4));
+}
+
+bool is_text(const std::string& row) {
+  return extension_of(row) == ".txt" || platform::trimmed(row) == "000DATUP.000";
+}
+
+void say_that_kind_is_unknown(const std::string& row) {
+  platform::message_box("This is not a shp image, I haven't got to display this yet... " + row);
+}
+
+void draw_first_series() {
+  tool_state.series_first_icon = 0;
+  tool_state.series_next_icon = 0;
+  show_shp_series();
+  Form1.Command5.Enabled = true;
+}
+
+void add_description(const std::string& row) {
+  const std::size_t found = find_icon_name(row);
+  if (found == 0) return;
+  Form1.Frame1.Caption = Form1.Frame1.Caption() + " - " + tool_state.icon_names[found].description;
+}
+
+}  // namespace
+
+void show_clicked_entry() {
+  const std::string row = selected_row();
+  Form1.Text6.Visible = false;
+  Form1.Frame1.Caption = row;
+  tool_state.selected_index = Form1.List1.ListIndex;
+  if (extension_of(row) == ".shp") {
+    Form1.Text2.Text = "";
+    clear_slots_for_icons();
+    draw_first_series();
+  } else if (extension_of(row) == ".pal") {
+    show_palette_view();
+  } else if (is_text(row)) {
+    Form1.Text6.Visible = true;
+    show_text_entry();
+  } else {
+    say_that_kind_is_unknown(row);
+  }
+  add_description(row);
+  Form1.Refresh();
+}
+
+void show_double_clicked_entry() {
+  const std::string row = selected_row();
+  if (extension_of(row) == ".pal") return;
+  if (extension_of(row) != ".shp") {
+    say_that_kind_is_unknown(row);
+    return;
+  }
+  Form1.Text2.Text = "";
+  tool_state.selected_index = Form1.List1.ListIndex;
+  const std::int32_t last =
+      std::min<std::int32_t>(tool_state.shp_head.icon_count, tool_state.slots_loaded);
+  for (std::int32_t slot = 1; slot <= last; ++slot) {
+    Form1.s16_image(slot).Cls();
+    Form1.s16_image(slot).Height = 100;
+    Form1.s16_image(slot).Width = 100;
+  }
+  draw_first_series();
+}
+
+}  // namespace ostrane

@@ -1,0 +1,69 @@
+#include "forms/failing_drive.h"
+
+#include <functional>
+#include <string>
+
+#include "platform/file_error.h"
+#include "platform/message_box.h"
+
+namespace ostrane {
+
+namespace {
+
+// While the recovery itself changes the drive, its failures are not recovered from once more, and
+// the folders follow only as far as it says.
+enum class recovery { none, to_drive_c, back };
+recovery running = recovery::none;
+
+using step = std::function<void()>;
+
+void say_that_drive_fails(const std::string& drive) {
+  platform::message_box(
+      "You are trying to access a Drive that isn't responding.\n\rDrive in error: >" + drive +
+      "<\n\rCheck that the Drive is working properly, and has a Diskette or CD-ROM inserted. Then "
+      "try again.");
+}
+
+bool works(const step& tried) {
+  try {
+    tried();
+    return true;
+  } catch (const platform::file_error&) {
+    return false;
+  }
+}
+
+void recover(platform::drive_list& Drive1, platform::dir_list& Dir1) {
+  say_that_drive_fails(Drive1.Drive());
+  running = recovery::to_drive_c;
+  works([&] { Drive1.Drive = std::string("C"); });
+  if (!works([&] { Dir1.Path = std::string("C:\\"); })) {
+    running = recovery::back;
+    works([&] { Drive1.Drive = Dir1.Path(); });
+  }
+  running = recovery::none;
+}
+
+void follow(platform::drive_list& Drive1, platform::dir_list& Dir1, platform::file_list* File1) {
+  if (running == recovery::back) return;
+  const auto run_step = [&](const step& tried) {
+    if (!works(tried) && running == recovery::none) recover(Drive1, Dir1);
+  };
+  run_step([&] { Dir1.Path = Drive1.Drive(); });
+  if (File1 == nullptr) return;
+  run_step([&] { Dir1.Refresh(); });
+  run_step([&] { File1->Refresh(); });
+}
+
+}  // namespace
+
+void follow_drive(platform::drive_list& Drive1, platform::dir_list& Dir1) {
+  follow(Drive1, Dir1, nullptr);
+}
+
+void follow_drive(platform::drive_list& Drive1, platform::dir_list& Dir1,
+                  platform::file_list& File1) {
+  follow(Drive1, Dir1, &File1);
+}
+
+}  // namespace ostrane

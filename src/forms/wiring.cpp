@@ -1,0 +1,105 @@
+#include "forms/wiring.h"
+
+#include "archive/builder.h"
+#include "archive/extraction.h"
+#include "archive/index_reader.h"
+#include "archive/new_folder.h"
+#include "forms/entry_selection.h"
+#include "forms/failing_drive.h"
+#include "forms/forms.h"
+#include "forms/main_window.h"
+#include "icons/icon_report.h"
+#include "icons/motion.h"
+#include "icons/series.h"
+#include "lists/compare.h"
+#include "lists/file_list.h"
+#include "platform/application.h"
+#include "state/load_form1.h"
+#include "state/window_hand_over.h"
+
+namespace ostrane {
+
+namespace {
+
+void wire_form1() {
+  Form1.Load = load_form1;
+  Form1.Unload = platform::end_process;
+  Form1.Resize = lay_out_main_window;
+  Form1.mnu_exit.Click = platform::end_process;
+  Form1.mnu_open.Click = open_form2;
+  Form1.mnu_ext.Click = open_form4;
+  Form1.mnu_make.Click = open_form5;
+  Form1.mnu_save.Click = save_file_list;
+  Form1.mnu_read_filelist.Click = open_form6;
+  Form1.Text4.LostFocus = check_pace;
+  Form1.Text5.LostFocus = check_max_icons;
+  Form1.List1.Click = show_clicked_entry;
+  Form1.List1.DblClick = show_double_clicked_entry;
+  Form1.Command3.Click = show_previous_icon;
+  Form1.Command4.Click = show_next_icon;
+  Form1.Command5.Click = start_motion;
+  Form1.Command6.Click = show_next_series;
+  Form1.Timer1.Timer = step_motion;
+  Form1.s16_image.DblClick = show_icon_report;
+}
+
+void wire_form2() {
+  Form2.Drive1.Change = [] { follow_drive(Form2.Drive1, Form2.Dir1); };
+  Form2.Dir1.Change = [] { Form2.File1.Path = Form2.Dir1.Path(); };
+  Form2.Command1.Click = read_archive_of_form2;
+  Form2.Command2.Click = cancel_form2;
+}
+
+void wire_form3() {
+  Form3.message.Click = [] {
+    Form3.Visible = false;
+    Form3.Caption = "";
+    Form3.message.Caption = "";
+  };
+}
+
+void wire_form4() {
+  Form4.Drive1.Change = [] { follow_drive(Form4.Drive1, Form4.Dir1, Form4.File1); };
+  Form4.Dir1.Change = [] {
+    Form4.File1.Path = Form4.Dir1.Path();
+    Form4.Text1.Text = Form4.Dir1.Path();
+    Form4.Dir1.Refresh();
+    Form4.File1.Refresh();
+  };
+  Form4.Command1.Click = make_new_folder;
+  Form4.Command2.Click = extract_all_entries;
+  Form4.Command3.Click = cancel_form4;
+}
+
+void wire_form5() {
+  Form5.Drive1.Change = [] { follow_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
+  Form5.Dir1.Change = [] {
+    Form5.File1.Path = Form5.Dir1.Path();
+    Form5.Text1.Text = Form5.Dir1.Path();
+    Form5.Dir1.Refresh();
+    Form5.File1.Refresh();
+  };
+  Form5.Command1.Click = make_archive;
+  Form5.Command2.Click = cancel_form5;
+}
+
+void wire_form6() {
+  Form6.Drive1.Change = [] { follow_drive(Form6.Drive1, Form6.Dir1); };
+  Form6.Dir1.Change = [] { Form6.File1.Path = Form6.Dir1.Path(); };
+  Form6.File1.Click = [] { Form6.Text1.Text = Form6.File1.FileName(); };
+  Form6.Command1.Click = compare_with_shiplist;
+  Form6.Command2.Click = cancel_form6;
+}
+
+}  // namespace
+
+void wire_forms() {
+  wire_form1();
+  wire_form2();
+  wire_form3();
+  wire_form4();
+  wire_form5();
+  wire_form6();
+}
+
+}  // namespace ostrane

@@ -1,0 +1,52 @@
+#include "icons/icon_report.h"
+
+#include <string>
+
+#include "archive/format.h"
+#include "forms/form1.h"
+#include "forms/form3.h"
+#include "platform/code_page.h"
+#include "platform/text.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+bool is_icon_file(const dat_record& record) {
+  const std::string name = platform::upper_case(name_with_blanks(record.name));
+  return platform::last_characters(name, 4) == ".SHP";
+}
+
+std::string report_line(const char* label, std::int64_t number) {
+  return label + sign_column_text(number) + "\r";
+}
+
+std::string icon_report(std::int32_t Index, const dat_record& entry) {
+  const icon_data_record& icon = tool_state.slot_data[static_cast<std::size_t>(Index)];
+  return report_line("Number of cols(0-#)         : ", icon.cols) +
+         report_line("Number of rows(0-#)         : ", icon.rows) +
+         report_line("First column with data      : ", icon.first_col) +
+         report_line("Last column with data       : ", icon.last_col) +
+         report_line("First row with data         : ", icon.first_row) +
+         report_line("Last row with data          : ", icon.last_row) + "\r" +
+         report_line("Icon-number in shp-file     : ",
+                     std::int64_t{tool_state.series_first_icon} - 1 + Index) +
+         report_line("SHP-Startpos in Ostrane.dat : ", entry.offset) + "\r" +
+         "Click >HERE< to make this message disappear...";
+}
+
+}  // namespace
+
+void show_icon_report(std::int32_t Index) {
+  const std::int32_t selected = Form1.List1.ListIndex;
+  if (selected < 0 || Index < 1 || Index > most_slots) return;
+  const dat_record& entry = tool_state.dat_index[static_cast<std::size_t>(selected)];
+  if (!is_icon_file(entry)) return;
+  Form3.Visible = true;
+  Form3.Caption = "Icon-data for picture number: " + sign_column_text(Index) + ", on this screen.";
+  Form3.message.Caption = icon_report(Index, entry);
+}
+
+}  // namespace ostrane

@@ -1,0 +1,85 @@
+#include "icons/motion.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "forms/form1.h"
+#include "platform/text.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::int32_t stack_left = 200;
+constexpr std::int32_t stack_top = 800;
+
+std::int32_t interval_in_milliseconds() {
+  const double hundredths = platform::as_number(Form1.Text4.Text()).value_or(0);
+  if (hundredths <= 0) return 100;
+  const double milliseconds = std::nearbyint(std::min(hundredths * 10, 65535.0));
+  return std::max(1, static_cast<std::int32_t>(milliseconds));
+}
+
+// A series that stopped short of the file's last icon leaves its last counted slot out.
+std::int16_t last_slot_of_motion() {
+  const bool whole = tool_state.series_next_icon == tool_state.shp_head.icon_count;
+  const int last = whole ? tool_state.slots_drawn : tool_state.slots_drawn - 1;
+  return static_cast<std::int16_t>(std::max(0, last));
+}
+
+void enable_stepping(bool enabled) {
+  Form1.Command3.Enabled = enabled;
+  Form1.Command4.Enabled = enabled;
+}
+
+void show_in_place_of_shown_slot(std::int16_t slot) {
+  Form1.s16_image(tool_state.shown_slot).Visible = false;
+  tool_state.shown_slot = slot;
+  Form1.s16_image(slot).Visible = true;
+  Form1.Text3.Text = std::to_string(tool_state.series_first_icon - 1 + slot);
+}
+
+}  // namespace
+
+void start_motion() {
+  enable_stepping(false);
+  tool_state.browse_ready = flag_true;
+  Form1.Timer1.Interval = interval_in_milliseconds();
+  tool_state.motion_last_slot = last_slot_of_motion();
+  for (std::int32_t slot = 1; slot <= tool_state.motion_last_slot; ++slot) {
+    Form1.s16_image(slot).Move(stack_left, stack_top);
+    Form1.s16_image(slot).Visible = false;
+  }
+  tool_state.loop_counter = 0;
+  Form1.Timer1.Enabled = true;
+}
+
+void step_motion() {
+  if (tool_state.loop_counter == tool_state.motion_last_slot) {
+    Form1.Timer1.Enabled = false;
+    enable_stepping(true);
+    return;
+  }
+  ++tool_state.loop_counter;
+  tool_state.shown_slot = tool_state.loop_counter;
+  Form1.s16_image(tool_state.loop_counter - 1).Visible = false;
+  Form1.s16_image(tool_state.loop_counter).Visible = true;
+  Form1.Text3.Text = sign_column_text(tool_state.series_first_icon - 1 + tool_state.loop_counter);
+}
+
+void show_previous_icon() {
+  if (tool_state.shown_slot < 2 || tool_state.browse_ready == flag_false) return;
+  show_in_place_of_shown_slot(static_cast<std::int16_t>(tool_state.shown_slot - 1));
+}
+
+void show_next_icon() {
+  if (tool_state.shown_slot >= tool_state.slots_drawn || tool_state.browse_ready == flag_false) {
+    return;
+  }
+  show_in_place_of_shown_slot(static_cast<std::int16_t>(tool_state.shown_slot + 1));
+}
+
+}  // namespace ostrane

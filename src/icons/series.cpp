@@ -1,0 +1,149 @@
+#include "icons/series.h"
+
+#include <string>
+
+#include "forms/form1.h"
+#include "forms/form3.h"
+#include "icons/decoder.h"
+#include "icons/place_icon_slot.h"
+#include "icons/shp_reader.h"
+#include "icons/slots.h"
+#include "platform/file_error.h"
+#include "platform/message_box.h"
+#include "state/files.h"
+#include "state/reset_icon_view.h"
+#include "state/show_working_message.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+// Two pixels more than the picture each way, for the border of the slot.
+std::int32_t slot_height() {
+  return (tool_state.icon_header.no_of_rows + 3) * tool_state.twips_per_pixel_y;
+}
+
+std::int32_t slot_width() {
+  return (tool_state.icon_header.no_of_cols + 3) * tool_state.twips_per_pixel_x;
+}
+
+// Sizes of slots are positive numbers of 16 bits.
+bool slot_size_is_good() {
+  return slot_height() > 0 && slot_height() <= INT16_MAX && slot_width() > 0 &&
+         slot_width() <= INT16_MAX;
+}
+
+void size_slot() {
+  platform::picture_box& slot = Form1.s16_image(tool_state.current_slot);
+  slot.Height = slot_height();
+  slot.Width = slot_width();
+}
+
+void stop_behind_last_icon() {
+  if (tool_state.icon_number == tool_state.shp_head.icon_count) tool_state.series_full = flag_true;
+}
+
+void draw_drawable_icon() {
+  size_slot();
+  tool_state.slot_fits = flag_true;
+  place_icon_slot();
+  if (tool_state.slot_fits == flag_true) decode_icon();
+}
+
+void show_blank_icon() {
+  size_slot();
+  place_icon_slot();
+  stop_behind_last_icon();
+}
+
+void refuse_icon() {
+  say_that_icon_is_refused();
+  ++tool_state.next_icon;
+  stop_behind_last_icon();
+}
+
+void draw_icon() {
+  const icon_outcome outcome = judge_icon(tool_state.icon_header);
+  if (outcome == icon_outcome::refused || !slot_size_is_good()) {
+    refuse_icon();
+  } else if (outcome == icon_outcome::drawable) {
+    draw_drawable_icon();
+  } else {
+    show_blank_icon();
+  }
+}
+
+void draw_next_icon() {
+  ++tool_state.current_slot;
+  tool_state.icon_number = tool_state.next_icon;
+  load_slot(tool_state.current_slot);
+  read_icon_head();
+  if (tool_state.series_full == flag_true) return;
+  draw_icon();
+  Form1.Text2.Text = std::to_string(tool_state.icon_number);
+  Form1.Refresh();
+}
+
+void draw_from_archive() {
+  file_1.open_to_read(tool_state.archive_path);
+  if (tool_state.directory_read == flag_false) read_directory();
+  while (tool_state.series_full == flag_false) {
+    if (tool_state.next_icon > tool_state.shp_head.icon_count) break;
+    draw_next_icon();
+  }
+}
+
+void draw_behind_working_message() {
+  show_working_message();
+  draw_shp_series();
+  Form3.Visible = false;
+}
+
+}  // namespace
+
+void show_shp_series() {
+  reset_icon_view();
+  tool_state.series_full = flag_false;
+  tool_state.next_icon = 1;
+  tool_state.current_slot = 0;
+  tool_state.directory_read = flag_false;
+  Form3.Visible = true;
+  Form3.ProgressBar1.Visible = false;
+  Form3.ProgressBar2.Visible = false;
+  Form3.Label1.Visible = false;
+  Form3.Label2.Visible = false;
+  draw_behind_working_message();
+}
+
+void show_next_series() {
+  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count) return;
+  Form1.Text2.Text = "";
+  reset_icon_view();
+  tool_state.series_full = flag_false;
+  tool_state.current_slot = 0;
+  tool_state.series_next_icon = 0;
+  Form3.Visible = true;
+  draw_behind_working_message();
+}
+
+void draw_shp_series() {
+  tool_state.series_first_icon = tool_state.next_icon;
+  try {
+    draw_from_archive();
+  } catch (const platform::file_error& error) {
+    platform::message_box(error.text);
+    if (tool_state.directory_read == flag_false) tool_state.shp_head = {};
+  }
+  file_1.close();
+  Form1.Text2.Text = std::to_string(tool_state.shp_head.icon_count);
+  tool_state.slots_drawn = tool_state.current_slot;
+  tool_state.shown_slot = 1;
+  Form1.Text3.Text = sign_column_text(tool_state.series_first_icon) + " - " +
+                     sign_column_text(tool_state.series_next_icon);
+  Form1.Command3.Enabled = false;
+  Form1.Command4.Enabled = false;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+// An icon file, an entry whose name ends in ".shp". All numbers are little-endian and signed, all
+// offsets count from the entry's first byte.
+//
+//   offset                size            content
+//   0                     4               identifier, any bytes
+//   4                     4               number of icons
+//   8 + 8 * (n - 1)       4 + 4           offset of icon n, and an offset that nothing uses
+//   where that points     24              icon_head
+//   24 behind that                        the icon's run-length stream
+//
+// icon_head:
+//   0   2   highest row number of the picture     8   4   first column with data
+//   2   2   highest column number                12   4   first row with data
+//   4   4   spare                                16   4   last column with data
+//                                                20   4   last row with data
+namespace ostrane {
+
+constexpr std::size_t shp_head_size = 8;
+constexpr std::size_t shp_dir_entry_size = 8;
+constexpr std::size_t icon_head_size = 24;
+constexpr std::int32_t most_icons = 5000;
+
+struct shp_head {
+  std::int32_t icon_count = 0;
+};
+
+struct shp_dir_entry {
+  std::int32_t icon_offset = 0;
+};
+
+struct icon_head {
+  std::int16_t no_of_rows = 0;
+  std::int16_t no_of_cols = 0;
+  std::int32_t col_start = 0;
+  std::int32_t row_start = 0;
+  std::int32_t col_end = 0;
+  std::int32_t row_end = 0;
+};
+
+shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes);
+shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes);
+icon_head decode_icon_head(std::span<const std::byte, icon_head_size> bytes);
+
+enum class icon_outcome { drawable, refused, blank };
+
+// Drawable if the data box ends inside the picture, refused if only its end lies outside, blank if
+// its start does.
+icon_outcome judge_icon(const icon_head& head);
+
+}  // namespace ostrane

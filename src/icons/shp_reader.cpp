@@ -1,0 +1,102 @@
+#include "icons/shp_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "archive/entry_bounds.h"
+#include "forms/form1.h"
+#include "platform/message_box.h"
+#include "platform/text.h"
+#include "state/files.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+std::int32_t in_32_bits(std::int64_t number) {
+  using limits = std::numeric_limits<std::int32_t>;
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, limits::min(), limits::max()));
+}
+
+std::string selected_name() {
+  return std::string(platform::trimmed(Form1.List1.List(Form1.List1.ListIndex)));
+}
+
+void cut_icon_count() {
+  if (tool_state.shp_head.icon_count <= most_icons) return;
+  platform::message_box("The file: " + selected_name() + " says that it holds" +
+                        sign_column_text(tool_state.shp_head.icon_count) +
+                        " pictures. Only the first" + sign_column_text(most_icons) +
+                        " are displayed.");
+  tool_state.shp_head.icon_count = most_icons;
+}
+
+bool read_head(std::int32_t offset) {
+  std::array<std::byte, shp_head_size> bytes;
+  if (offset >= 0) file_1.seek(offset);
+  if (offset < 0 || file_1.read(bytes) < bytes.size()) return false;
+  tool_state.shp_head = decode_shp_head(bytes);
+  return true;
+}
+
+}  // namespace
+
+void say_that_address_is_invalid(long long icon_position) {
+  platform::message_box("The adress of the file: " + selected_name() +
+                        " is invalid. Start offset for the shp-file is: " +
+                        sign_column_text(icon_position) + ", the picture is not displayed.");
+}
+
+void say_that_icon_is_refused() {
+  const icon_head& head = tool_state.icon_header;
+  platform::message_box(
+      "Something is rotten in the state of Denmark - fileformat has errors, icon is not "
+      "displayed. \nNo-of-rows = " +
+      sign_column_text(head.no_of_rows) + "\nRow-start = " + sign_column_text(head.row_start) +
+      "\nRow-end = " + sign_column_text(head.row_end) + "\nNo-of-cols = " +
+      sign_column_text(head.no_of_cols) + "\nCol-start = " + sign_column_text(head.col_start) +
+      "\nCol-end = " + sign_column_text(head.col_end));
+}
+
+void read_directory() {
+  const std::int32_t offset =
+      tool_state.dat_index[static_cast<std::size_t>(tool_state.selected_index)].offset;
+  tool_state.directory_index = tool_state.selected_index;
+  tool_state.shp_head = {};
+  tool_state.directory_read = flag_true;
+  if (!read_head(offset)) {
+    say_that_address_is_invalid(std::int64_t{offset} + 1);
+    return;
+  }
+  cut_icon_count();
+  std::array<std::byte, shp_dir_entry_size> bytes;
+  for (std::int32_t n = 1; n <= tool_state.shp_head.icon_count; ++n) {
+    const bool there = file_1.read(bytes) == bytes.size();
+    if (there) tool_state.dir_entry = decode_shp_dir_entry(bytes);
+    // Position 0 has no byte in the file, so an icon without a directory entry stops the series.
+    tool_state.icon_positions[static_cast<std::size_t>(n)] =
+        there ? in_32_bits(std::int64_t{offset} + tool_state.dir_entry.icon_offset + 1) : 0;
+  }
+}
+
+void read_icon_head() {
+  const std::int32_t position =
+      tool_state.icon_positions[static_cast<std::size_t>(tool_state.icon_number)];
+  std::array<std::byte, icon_head_size> bytes;
+  if (position > 0) file_1.seek(position - 1);
+  if (position <= 0 || file_1.read(bytes) < bytes.size()) {
+    say_that_address_is_invalid(position);
+    tool_state.series_full = flag_true;
+    return;
+  }
+  tool_state.icon_header = decode_icon_head(bytes);
+  tool_state.entry_bytes_left =
+      in_32_bits(std::int64_t{entry_end(tool_state.directory_index)} - position);
+  tool_state.read_buffer_fill = 0;
+  tool_state.read_buffer_pos = 0;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace ostrane {
+
+// Reads head and directory of the entry `selected_index` from the open archive (file 1) into
+// `shp_head` and `icon_positions`; `directory_read` becomes true. More icons than `icon_positions`
+// holds are cut to its size, with a message; a head that cannot be read gives a message and no
+// icons.
+void read_directory();
+
+// Reads the head of icon `icon_number` into `icon_header`, sets `entry_bytes_left` and empties the
+// read buffer; the file then stands on the first byte of the icon's stream. If there is no such
+// place in the file, a message says so and `series_full` becomes true.
+void read_icon_head();
+
+// The two messages about a bad icon.
+void say_that_address_is_invalid(long long icon_position);
+void say_that_icon_is_refused();
+
+}  // namespace ostrane

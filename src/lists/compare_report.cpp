@@ -1,0 +1,89 @@
+#include "lists/compare_report.h"
+
+#include "forms/form1.h"
+#include "lists/shiplist.h"
+#include "platform/text_file.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+// Where the walk stands: at item i of `List1` and at line j of the shiplist.
+struct walk_position {
+  std::int32_t i = 0;
+  std::int32_t j = 0;
+};
+
+std::string list_key(std::int32_t i) { return compare_key(Form1.List1.List(i)); }
+
+// A line behind the final one is empty.
+std::string ship_key(std::int32_t j) {
+  const auto at = static_cast<std::size_t>(j);
+  return at < tool_state.shiplist_lines.size() ? compare_key(tool_state.shiplist_lines[at]) : "";
+}
+
+void write_list_row(platform::text_writer& report, std::int32_t i) {
+  const std::string number = std::to_string(i);
+  const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
+  report.write_line(indent + number + " " + list_key(i));
+}
+
+void write_ship_row(platform::text_writer& report, std::int32_t j) {
+  report.write_line(std::string(20, ' ') + ship_key(j));
+}
+
+void write_head(platform::text_writer& report) {
+  const std::int32_t lines = tool_state.shiplist_last + 1;
+  if (tool_state.record_count != lines) {
+    report.write_line("Different number of Icons:");
+    report.write_line("");
+    report.write_line("# in Ostrane.dat=" + sign_column_text(tool_state.record_count) +
+                      ", # in Shiplist=" + sign_column_text(lines));
+    report.write_line("");
+  }
+  report.write_line(
+      "The following differences was found between your Ostrane.dat and the shiplist");
+  report.write_line("");
+  report.write_line("      Present in    Present in   ");
+  report.write_line("Icon# Ostrane.dat   Shiplist     ");
+}
+
+// Writes the names that are less than the other side's present one, first of the archive, then of
+// the shiplist. The bound of the first run takes in the end record.
+void write_lesser_names(platform::text_writer& report, walk_position& at) {
+  while (at.i < tool_state.record_count && list_key(at.i) < ship_key(at.j)) {
+    write_list_row(report, at.i++);
+  }
+  while (at.j < tool_state.shiplist_last && list_key(at.i) > ship_key(at.j)) {
+    write_ship_row(report, at.j++);
+  }
+}
+
+void walk(platform::text_writer& report) {
+  walk_position at;
+  tool_state.shiplist_walk_done = flag_false;
+  while (tool_state.shiplist_walk_done == flag_false) {
+    write_lesser_names(report, at);
+    // Both sides step on, whether or not their names agree now.
+    ++at.i;
+    ++at.j;
+    if (at.i >= tool_state.record_count - 1 || at.j >= tool_state.shiplist_last) {
+      tool_state.shiplist_walk_done = flag_true;
+    }
+  }
+  while (at.i < tool_state.record_count - 1) write_list_row(report, at.i++);
+  while (at.j < tool_state.shiplist_last) write_ship_row(report, at.j++);
+}
+
+}  // namespace
+
+void write_compare_report() {
+  platform::text_writer report(compare_report_path);
+  write_head(report);
+  walk(report);
+  report.close();
+}
+
+}  // namespace ostrane

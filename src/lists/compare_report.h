@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace ostrane {
+
+constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
+
+// Walks the names of `List1` and of `shiplist_lines`, which is sorted, side by side and writes what
+// only one side has to the report file. Throws file_error.
+void write_compare_report();
+
+}  // namespace ostrane

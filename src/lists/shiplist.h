@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ostrane {
+
+// What names are compared by: trimmed and in upper case, by the values of the characters.
+std::string compare_key(std::string_view name);
+
+// Reads the lines of a shiplist into `shiplist_lines`; `shiplist_last` is the index of the final
+// one, which is no name but stands opposite the archive's end record. A file of no bytes is one
+// empty line. Throws file_error, also for more lines than there is room for.
+void read_shiplist(const std::string& path);
+
+// Puts all lines but the final one into ascending order of their keys and leaves each key once;
+// `shiplist_last` falls by as many as went.
+void sort_shiplist();
+
+}  // namespace ostrane

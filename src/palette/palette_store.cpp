@@ -1,0 +1,50 @@
+#include "palette/palette_store.h"
+
+#include <algorithm>
+#include <array>
+
+#include "palette/built_in_colours.h"
+#include "platform/file_error.h"
+#include "platform/file_system.h"
+#include "state/files.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+// The bytes that are there, at most 1024.
+std::size_t read_palette_bytes(std::span<std::byte> bytes) {
+  try {
+    file_1.open_to_read(tool_state.archive_path);
+    file_1.seek(tool_state.game_pal_offset);
+    const std::size_t got = file_1.read(bytes);
+    file_1.close();
+    return got;
+  } catch (const platform::file_error&) {
+    file_1.close();
+    return 0;
+  }
+}
+
+}  // namespace
+
+void set_default_palette() {
+  for (std::size_t i = 0; i < built_in_colours.size(); ++i) {
+    const std::uint32_t rgb = built_in_colours[i];
+    tool_state.colour_table[i] = platform::rgb(rgb >> 16U, rgb >> 8U & 0xFFU, rgb & 0xFFU);
+  }
+}
+
+void read_game_palette() {
+  if (tool_state.game_pal_offset <= 0 || !platform::file_exists(tool_state.archive_path)) return;
+  std::array<std::byte, palette_size> bytes;
+  const std::size_t whole_colours = read_palette_bytes(bytes) / 4;
+  for (std::size_t i = 0; i < whole_colours; ++i) {
+    auto& stored = tool_state.stored_palette[i];
+    for (std::size_t j = 0; j < 4; ++j) stored[j] = std::to_integer<std::uint8_t>(bytes[4 * i + j]);
+    tool_state.colour_table[i] = platform::rgb(stored[2], stored[1], stored[0]);
+  }
+}
+
+}  // namespace ostrane

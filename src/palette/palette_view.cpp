@@ -1,0 +1,63 @@
+#include "palette/palette_view.h"
+
+#include <string>
+
+#include "forms/form1.h"
+#include "icons/slots.h"
+#include "state/sign_column_text.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+void clear_slots() {
+  for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
+    Form1.s16_image(slot).Cls();
+    Form1.s16_image(slot).Height = 100;
+    Form1.s16_image(slot).Width = 100;
+    Form1.s16_image(slot).Visible = false;
+    Form1.s16_image(slot).Refresh();
+  }
+}
+
+std::string swatch_tool_tip(std::size_t index) {
+  const auto& stored = tool_state.stored_palette[index];
+  return "Palette # " + sign_column_text(static_cast<std::int64_t>(index)) +
+         " : (red=" + sign_column_text(stored[2]) + ", green=" + sign_column_text(stored[1]) +
+         ", blue=" + sign_column_text(stored[0]) + ")";
+}
+
+void show_swatch(std::size_t index) {
+  platform::picture_box& swatch = Form1.s16_image(static_cast<std::int32_t>(index) + 1);
+  swatch.Height = 260;
+  swatch.Width = 400;
+  swatch.BackColor = tool_state.colour_table[index];
+  swatch.Move(tool_state.next_slot_left, tool_state.next_slot_top);
+  swatch.Visible = true;
+  swatch.ToolTipText = swatch_tool_tip(index);
+}
+
+}  // namespace
+
+void show_palette_view() {
+  Form1.Timer1.Enabled = false;
+  Form1.Text2.Text = "256";
+  Form1.Text3.Text = "palette 0 - 255";
+  clear_slots();
+  std::int16_t palette_column = 0;
+  std::int16_t palette_row = 0;
+  for (std::size_t i = 0; i < 256; ++i) {
+    load_slot(static_cast<std::int16_t>(i + 1));
+    ++palette_column;
+    tool_state.next_slot_left = palette_column * 440;
+    tool_state.next_slot_top = palette_row * 300 + 800;
+    if (palette_column == 16) {
+      ++palette_row;
+      palette_column = 0;
+    }
+    show_swatch(i);
+  }
+}
+
+}  // namespace ostrane

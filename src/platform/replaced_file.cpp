@@ -1,0 +1,52 @@
+#include "platform/replaced_file.h"
+
+#include "platform/case_blind.h"
+#include "platform/code_page.h"
+#include "platform/file_calls.h"
+#include "platform/file_error.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+namespace {
+
+void require(int outcome, const std::string& path) {
+  if (outcome >= 0) return;
+  throw file_error{file_calls::error_number(-outcome),
+                   path + " cannot be written: " + file_calls::error_words(-outcome) + "."};
+}
+
+}  // namespace
+
+replaced_file::replaced_file(const std::string& path) : path_(path), old_place_(system_path(path)) {
+  const std::string whole = full_path(path);
+  const std::filesystem::path folder = old_place_.parent_path();
+  const std::string name = to_utf8(whole.substr(whole.rfind('\\') + 1));
+  new_place_ = folder / name;
+  written_ = folder / ("." + name + ".new");
+  std::error_code nothing_left;
+  std::filesystem::remove(written_, nothing_left);
+  file_.take_written(file_calls::open_new(written_), path);
+}
+
+replaced_file::~replaced_file() {
+  if (in_place_) return;
+  file_.abandon();
+  std::error_code gone;
+  std::filesystem::remove(written_, gone);
+}
+
+// The old name is replaced before its case is changed: a sudden death between the two leaves one
+// whole archive, and there never are two. From the replacement on nothing can be lost: a change of
+// case that fails leaves the old spelling, which names compare equal to.
+void replaced_file::put_in_place() {
+  file_.flush(true);
+  file_.close();
+  require(file_calls::replace(written_, old_place_), path_);
+  in_place_ = true;
+  if (old_place_ != new_place_) file_calls::replace(old_place_, new_place_);
+  file_calls::flush_folder(new_place_.parent_path());
+  forget_folders();
+}
+
+}  // namespace platform

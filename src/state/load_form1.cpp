@@ -1,0 +1,57 @@
+#include "state/load_form1.h"
+
+#include "forms/forms.h"
+#include "lists/icon_names.h"
+#include "palette/palette_store.h"
+#include "platform/application.h"
+#include "platform/file_error.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::int16_t slots_at_start = 12;
+
+void send_form2_to_drive_c() {
+  try {
+    Form2.Dir1.Path = std::string("C:\\");
+  } catch (const platform::file_error&) {
+    // The dialog opens in the current folder then.
+  }
+}
+
+void load_first_slots() {
+  for (std::int16_t i = 1; i <= slots_at_start; ++i) {
+    Form1.s16_image.Load(i);
+    Form1.s16_image(i).ScaleMode = 3;
+    Form1.s16_image(i).Visible = false;
+  }
+}
+
+}  // namespace
+
+void load_form1() {
+  tool_state.program_title = "Ostrane.dat-tool - v2r1m0";
+  tool_state.app_path = platform::application.Path;
+  tool_state.max_icons = 300;
+  Form1.Caption = tool_state.program_title;
+  Form1.Text5.Text = std::to_string(tool_state.max_icons);
+  Form1.Timer1.Enabled = false;
+  send_form2_to_drive_c();
+  Form1.Text4.Text = "10";
+  set_default_palette();
+  read_iconlist();
+  load_first_slots();
+  tool_state.twips_per_pixel_x = static_cast<std::int16_t>(platform::application.TwipsPerPixelX);
+  tool_state.twips_per_pixel_y = static_cast<std::int16_t>(platform::application.TwipsPerPixelY);
+  Form1.mnu_ext.Enabled = false;
+  Form1.mnu_make.Enabled = true;
+  Form1.mnu_save.Enabled = false;
+  Form1.mnu_read_filelist.Enabled = false;
+  Form1.Text6.Visible = false;
+  tool_state.icon_number = 0;
+  tool_state.slots_loaded = slots_at_start;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,26 @@
+#include "state/reset_icon_view.h"
+
+#include "forms/form1.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+void reset_icon_view() {
+  // A motion that went on would step through the slots of the next series.
+  Form1.Timer1.Enabled = false;
+  tool_state.entry_bytes_left = 0;
+  for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
+    Form1.s16_image(slot).Visible = false;
+    Form1.s16_image(slot).Cls();
+    Form1.s16_image(slot).BackColor = platform::system_button_face;
+  }
+  Form1.Text3.Text = "";
+  tool_state.browse_ready = flag_false;
+  Form1.Refresh();
+  tool_state.next_slot_left = 200;
+  tool_state.next_slot_top = 800;
+  tool_state.slot_gap = 15;
+  tool_state.row_height = 0;
+}
+
+}  // namespace ostrane

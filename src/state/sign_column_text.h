@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace ostrane {
+
+// The decimal digits behind one sign column: a blank for zero and positive numbers, a minus sign
+// for negative ones.
+std::string sign_column_text(std::int64_t number);
+
+}  // namespace ostrane

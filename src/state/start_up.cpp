@@ -1,0 +1,24 @@
+#include "state/start_up.h"
+
+#include "forms/forms.h"
+#include "forms/wiring.h"
+#include "platform/application.h"
+#include "platform/events.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+void begin_tool(const std::string& program_folder) {
+  platform::begin_process();
+  platform::application.Title = "Ostrane.dat-tool";
+  platform::application.Path = program_folder;
+  make_state_afresh();
+  make_forms_afresh();
+  wire_forms();
+  platform::run_event([] {
+    Form1.Load();
+    Form1.Visible = true;
+  });
+}
+
+}  // namespace ostrane

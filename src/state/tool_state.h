@@ -1,0 +1,97 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "archive/format.h"
+#include "icons/icon_data.h"
+#include "icons/shp_format.h"
+#include "lists/icon_name_pair.h"
+#include "platform/colour.h"
+
+namespace ostrane {
+
+using flag = std::int16_t;
+constexpr flag flag_true = -1;
+constexpr flag flag_false = 0;
+
+constexpr std::int32_t read_buffer_size = 32768;
+constexpr std::int32_t most_icon_names = 32000;
+constexpr std::int32_t most_slots = 9999;
+
+// All that the tool knows while it runs. Every handler and procedure reads and writes it directly.
+// Lengths are twips. Arrays that count from 1 leave element 0 unused.
+struct tool_state_record {
+  std::string app_path;       // folder of the running program
+  std::string program_title;  // caption of the main window
+
+  std::array<std::byte, read_buffer_size> read_buffer;  // bytes of the run-length stream
+  std::int32_t read_buffer_fill = 0;                    // valid bytes in it
+  std::int32_t read_buffer_pos = 0;                     // index of the next byte
+  std::int32_t entry_bytes_left = 0;  // bytes of the open entry not yet read from the file
+
+  std::int32_t game_pal_offset = 0;  // offset of GAME.PAL in the archive, 0 while none was met
+  std::array<std::array<std::uint8_t, 4>, 256> stored_palette = {};  // as stored: blue, green, red
+
+  std::int32_t record_count = 0;  // records of the index, end record included
+  std::array<dat_record, most_records> dat_index;
+  std::array<make_record, most_records> make_index;
+  std::string archive_path_copy;  // always equal to archive_path; what extraction opens
+
+  ostrane::shp_head shp_head;
+  ostrane::shp_dir_entry dir_entry;  // the one read last
+  ostrane::icon_head icon_header;    // of the icon in work
+  std::int32_t selected_index = 0;   // index in dat_index of the row clicked in List1
+  std::int32_t directory_index = 0;  // index in dat_index of the entry in icon_positions
+  std::string archive_path;
+
+  std::array<platform::colour, 256> colour_table = {};
+
+  std::uint8_t stream_byte = 0;    // current byte of the run-length stream
+  flag stream_ended = flag_false;  // no byte was left to take
+  std::array<std::int32_t, most_icons + 1> icon_positions = {};  // in the file, counted from 1
+  std::int32_t cur_row = 0;                                      // of the pixel being drawn
+  std::int32_t cur_col = 0;
+  std::int16_t run_length = 0;     // of the current operation
+  std::int16_t icon_number = 0;    // of the icon in work, from 1
+  std::int16_t slots_loaded = 12;  // highest loaded index of s16_image; only grows
+  std::int16_t twips_per_pixel_x = 0;
+  std::int16_t twips_per_pixel_y = 0;
+
+  flag browse_ready = flag_false;  // Command3 and Command4 work
+  std::int16_t shown_slot = 0;     // the slot on top of the stack
+  std::int16_t loop_counter = 0;   // position of the motion: the slot that went up last
+  std::int16_t motion_last_slot = 0;
+
+  std::int32_t next_slot_left = 0;
+  std::int32_t next_slot_top = 0;
+  std::int32_t slot_gap = 0;
+  std::int32_t row_height = 0;  // of the tallest slot of the current row
+
+  flag series_full = flag_false;     // ends the drawing of a series
+  flag directory_read = flag_false;  // shp_head and icon_positions hold the file in view
+  std::int16_t next_icon = 0;        // number of the next icon to draw, from 1
+  std::int16_t current_slot = 0;     // index in s16_image of the slot in work
+  std::int16_t slots_drawn = 0;      // last value of current_slot in the series drawn last
+  std::int32_t series_first_icon = 0;
+  std::int32_t series_next_icon = 0;  // number of the last icon dealt with
+  flag slot_fits = flag_false;
+
+  std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
+  std::int16_t icon_name_count = 0;
+  std::array<icon_data_record, most_slots + 1> slot_data = {};
+  std::int16_t max_icons = 0;  // most slots in one series
+
+  std::vector<std::string> shiplist_lines;
+  std::int16_t shiplist_last = 0;  // index of the final line
+  flag shiplist_walk_done = flag_false;
+};
+
+extern tool_state_record tool_state;
+
+// All fields at the values that a new process has.
+void make_state_afresh();
+
+}  // namespace ostrane
