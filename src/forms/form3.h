@@ -10,40 +10,21 @@ struct form3 : platform::form {
 
   platform::label message{*this,
                           {.name = "message",
-                           .left = 120,
-                           .top = 120,
-                           .width = 7215,
-                           .height = 3135,
+                           .at = {120, 120, 7215, 3135},
                            .tab_index = 0,
                            .font = {.name = "Courier New", .points = 9.75, .bold = true}}};
-  platform::progress_bar ProgressBar1{*this,
-                                      {.name = "ProgressBar1",
-                                       .left = 105,
-                                       .top = 3675,
-                                       .width = 7155,
-                                       .height = 330,
-                                       .tab_index = 1}};
-  platform::progress_bar ProgressBar2{*this,
-                                      {.name = "ProgressBar2",
-                                       .left = 105,
-                                       .top = 4410,
-                                       .width = 7155,
-                                       .height = 330,
-                                       .tab_index = 2}};
+  platform::progress_bar ProgressBar1{
+      *this, {.name = "ProgressBar1", .at = {105, 3675, 7155, 330}, .tab_index = 1}};
+  platform::progress_bar ProgressBar2{
+      *this, {.name = "ProgressBar2", .at = {105, 4410, 7155, 330}, .tab_index = 2}};
   platform::label Label1{*this,
                          {.name = "Label1",
-                          .left = 105,
-                          .top = 4095,
-                          .width = 7155,
-                          .height = 330,
+                          .at = {105, 4095, 7155, 330},
                           .tab_index = 3,
                           .text = "Total File Progress"}};
   platform::label Label2{*this,
                          {.name = "Label2",
-                          .left = 105,
-                          .top = 3360,
-                          .width = 6735,
-                          .height = 330,
+                          .at = {105, 3360, 6735, 330},
                           .tab_index = 4,
                           .text = "Current File Progress"}};
 };

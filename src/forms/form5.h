@@ -12,62 +12,37 @@ struct form5 : platform::form {
               .client_width = 5145,
               .client_height = 5340}) {}
 
-  platform::drive_list Drive1{*this,
-                              {.name = "Drive1",
-                               .left = 105,
-                               .top = 105,
-                               .width = 2430,
-                               .height = 315,
-                               .tab_index = 0,
-                               .back_color = pale_cyan}};
-  platform::dir_list Dir1{*this,
-                          {.name = "Dir1",
-                           .left = 105,
-                           .top = 630,
-                           .width = 2430,
-                           .height = 3240,
-                           .tab_index = 1,
-                           .back_color = pale_green}};
+  platform::drive_list Drive1{
+      *this,
+      {.name = "Drive1", .at = {105, 105, 2430, 315}, .tab_index = 0, .back_color = pale_cyan}};
+  platform::dir_list Dir1{
+      *this,
+      {.name = "Dir1", .at = {105, 630, 2430, 3240}, .tab_index = 1, .back_color = pale_green}};
   platform::file_list File1{*this,
                             {.name = "File1",
-                             .left = 2625,
-                             .top = 105,
-                             .width = 2430,
-                             .height = 3795,
+                             .at = {2625, 105, 2430, 3795},
                              .tab_index = 2,
                              .back_color = platform::system_light}};
   platform::text_box Text1{*this,
                            {.name = "Text1",
-                            .left = 105,
-                            .top = 4305,
-                            .width = 4950,
-                            .height = 330,
+                            .at = {105, 4305, 4950, 330},
                             .tab_index = 3,
                             .back_color = platform::system_light}};
   platform::label Label1{*this,
                          {.name = "Label1",
-                          .left = 105,
-                          .top = 3990,
-                          .width = 4740,
-                          .height = 225,
+                          .at = {105, 3990, 4740, 225},
                           .tab_index = 4,
                           .text = "Current Folder",
                           .font = bold_large}};
   platform::button Command1{*this,
                             {.name = "Command1",
-                             .left = 105,
-                             .top = 4725,
-                             .width = 2430,
-                             .height = 540,
+                             .at = {105, 4725, 2430, 540},
                              .tab_index = 5,
                              .text = "Make Ostrane.dat",
                              .font = bold_large}};
   platform::button Command2{*this,
                             {.name = "Command2",
-                             .left = 2625,
-                             .top = 4725,
-                             .width = 2430,
-                             .height = 540,
+                             .at = {2625, 4725, 2430, 540},
                              .tab_index = 6,
                              .text = "Cancel",
                              .font = bold_large}};

@@ -13,61 +13,31 @@ struct form6 : platform::form {
               .client_height = 3780,
               .opens = platform::start_position::screen_centre}) {}
 
-  platform::drive_list Drive1{*this,
-                              {.name = "Drive1",
-                               .left = 105,
-                               .top = 315,
-                               .width = 2430,
-                               .height = 315,
-                               .tab_index = 0,
-                               .back_color = pale_cyan}};
-  platform::dir_list Dir1{*this,
-                          {.name = "Dir1",
-                           .left = 105,
-                           .top = 735,
-                           .width = 2430,
-                           .height = 2340,
-                           .tab_index = 1,
-                           .back_color = pale_green}};
-  platform::file_list File1{*this,
-                            {.name = "File1",
-                             .left = 2625,
-                             .top = 675,
-                             .width = 2115,
-                             .height = 2430,
-                             .tab_index = 2,
-                             .back_color = pale_green}};
+  platform::drive_list Drive1{
+      *this,
+      {.name = "Drive1", .at = {105, 315, 2430, 315}, .tab_index = 0, .back_color = pale_cyan}};
+  platform::dir_list Dir1{
+      *this,
+      {.name = "Dir1", .at = {105, 735, 2430, 2340}, .tab_index = 1, .back_color = pale_green}};
+  platform::file_list File1{
+      *this,
+      {.name = "File1", .at = {2625, 675, 2115, 2430}, .tab_index = 2, .back_color = pale_green}};
   platform::button Command1{*this,
                             {.name = "Command1",
-                             .left = 105,
-                             .top = 3255,
-                             .width = 2430,
-                             .height = 435,
+                             .at = {105, 3255, 2430, 435},
                              .tab_index = 3,
                              .text = "Read shiplist and compare"}};
-  platform::button Command2{*this,
-                            {.name = "Command2",
-                             .left = 2625,
-                             .top = 3255,
-                             .width = 2115,
-                             .height = 435,
-                             .tab_index = 4,
-                             .text = "Cancel"}};
+  platform::button Command2{
+      *this, {.name = "Command2", .at = {2625, 3255, 2115, 435}, .tab_index = 4, .text = "Cancel"}};
   platform::text_box Text1{*this,
                            {.name = "Text1",
-                            .left = 2625,
-                            .top = 315,
-                            .width = 2115,
-                            .height = 330,
+                            .at = {2625, 315, 2115, 330},
                             .tab_index = 5,
                             .back_color = platform::system_menu,
                             .enabled = false}};
   platform::label Label1{*this,
                          {.name = "Label1",
-                          .left = 105,
-                          .top = 0,
-                          .width = 4635,
-                          .height = 330,
+                          .at = {105, 0, 4635, 330},
                           .tab_index = 6,
                           .text = "Compare current Ostrane.dat content with shiplist."}};
 };

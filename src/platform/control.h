@@ -31,13 +31,17 @@ struct font_design {
   bool bold = false;
 };
 
-// A control as designed. All lengths are twips. Fields that a kind has no use for stay as they are.
-struct design {
-  const char* name = "";
+struct place {
   std::int32_t left = 0;
   std::int32_t top = 0;
   std::int32_t width = 0;
   std::int32_t height = 0;
+};
+
+// A control as designed. All lengths are twips. Fields that a kind has no use for stay as they are.
+struct design {
+  const char* name = "";
+  place at = {};
   int tab_index = 0;
   std::string text = {};
   std::string tool_tip = {};
