@@ -15,7 +15,8 @@ bool ended = false;
 
 }  // namespace
 
-application_facts application;
+// Ready before any other global, among them the forms, is made.
+constinit application_facts application;
 
 screen* attached_screen() { return attached; }
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "forms/forms.h"
+#include "platform/drives.h"
+#include "platform/message_box.h"
+#include "platform/user.h"
+#include "state/start_up.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace user = platform::user;
+
+struct entry {
+  std::string name;
+  std::string bytes;
+};
+
+// The bytes of an archive in normal form: the entries in this order, then the end record.
+std::string archive_bytes(const std::vector<entry>& entries);
+
+// The bytes of an index alone: a count and records of offset and name.
+std::string index_bytes(std::int32_t count,
+                        const std::vector<std::pair<std::int32_t, std::string>>& records);
+
+// `count` bytes that differ from their neighbours and from those of another seed.
+std::string some_bytes(std::size_t count, unsigned seed = 1);
+
+// A tool as a new process has it, on drives of its own: C: is an empty folder, D: another one, and
+// E: a drive that does not answer.
+class tool_test : public testing::Test {
+ protected:
+  tool_test();
+  ~tool_test() override;
+
+  // Begins the tool afresh in `current`, a path of the tool.
+  void begin(const std::string& current = "C:\\");
+
+  std::filesystem::path place(const std::string& path) const;
+  void write(const std::string& path, const std::string& bytes) const;
+  std::string read(const std::string& path) const;
+  bool exists(const std::string& path) const;
+  void make_folder(const std::string& path) const;
+  // Names in a folder, hidden ones too, ascending.
+  std::vector<std::string> names_in(const std::string& folder) const;
+
+  // Through Form2, as a user does it.
+  void open_archive(const std::string& folder = "C:\\");
+  void open_archive(const std::vector<entry>& entries);
+  void click_row(const std::string& name);
+  void double_click_row(const std::string& name);
+
+  // The messages since the last call.
+  std::vector<std::string> new_messages();
+
+  std::filesystem::path root;
+
+ private:
+  std::int32_t row_of(const std::string& name) const;
+  std::size_t told_ = 0;
+};
+
+}  // namespace ostrane
