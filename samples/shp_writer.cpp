@@ -2,20 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
-// Icon file, numbers little-endian:
-//   0  4      identifier, free
-//   4  4      icon count
-//   8  8 * n  directory: offset of the icon in the file, second offset (not used here)
-//   then the icons: rows - 1 and columns - 1 (2 bytes each), 4 spare bytes, first column, first
-//   row, last column, last row (4 bytes each), stream.
-// Stream of a row: 1 n skips n cells; an even 2k i paints k cells with index i; an odd 2k + 1 is
-// followed by k indices; 0 ends the row.
+// icons/shp_format.h tells the bytes of an icon file, icons/decoder.h those of a stream.
 namespace ostrane::samples {
 namespace {
 
-constexpr std::size_t head_size = 8;
-constexpr std::size_t directory_entry_size = 8;
 constexpr int longest_skip = 255;
 constexpr int longest_op = 127;
 // A shorter run within a literal costs no less than going on with the literal.
@@ -93,52 +85,56 @@ class row_packer {
 };
 
 void append_icon(std::string& to, const shp_icon& icon) {
-  append16(to, icon.no_of_rows);
-  append16(to, icon.no_of_cols);
+  append16(to, icon.head.no_of_rows);
+  append16(to, icon.head.no_of_cols);
   append32(to, 0);
-  append32(to, icon.box.first_col);
-  append32(to, icon.box.first_row);
-  append32(to, icon.box.last_col);
-  append32(to, icon.box.last_row);
+  append32(to, icon.head.col_start);
+  append32(to, icon.head.row_start);
+  append32(to, icon.head.col_end);
+  append32(to, icon.head.row_end);
   to += icon.stream;
 }
 
 }  // namespace
 
-data_box smallest_box(const picture& drawn) {
-  data_box box{drawn.columns(), drawn.rows(), -1, -1};
+icon_head head_of(const picture& drawn) {
+  icon_head head{static_cast<std::int16_t>(drawn.rows() - 1),
+                 static_cast<std::int16_t>(drawn.columns() - 1),
+                 drawn.columns(),
+                 drawn.rows(),
+                 -1,
+                 -1};
   for (int row = 0; row < drawn.rows(); ++row) {
     for (int column = 0; column < drawn.columns(); ++column) {
       if (!drawn.is_set(column, row)) continue;
-      box.first_col = std::min(box.first_col, column);
-      box.first_row = std::min(box.first_row, row);
-      box.last_col = std::max(box.last_col, column);
-      box.last_row = std::max(box.last_row, row);
+      head.col_start = std::min(head.col_start, column);
+      head.row_start = std::min(head.row_start, row);
+      head.col_end = std::max(head.col_end, column);
+      head.row_end = std::max(head.row_end, row);
     }
   }
-  return box.last_row < 0 ? data_box{} : box;
+  if (head.row_end < 0) head.col_start = head.row_start = head.col_end = head.row_end = 0;
+  return head;
 }
 
-std::string packed(const picture& drawn, const data_box& box) {
+std::string packed(const picture& drawn, const icon_head& head) {
   std::string stream;
-  for (int row = box.first_row; row <= box.last_row; ++row) {
-    row_packer(drawn, row, box.first_col, box.last_col + 1, stream).pack();
+  for (int row = head.row_start; row <= head.row_end; ++row) {
+    row_packer(drawn, row, head.col_start, head.col_end + 1, stream).pack();
   }
   return stream;
 }
 
-shp_icon make_icon(const picture& drawn) { return make_icon(drawn, smallest_box(drawn)); }
-
-shp_icon make_icon(const picture& drawn, const data_box& box) {
-  return {static_cast<std::int16_t>(drawn.rows() - 1),
-          static_cast<std::int16_t>(drawn.columns() - 1), box, packed(drawn, box)};
+shp_icon make_icon(const picture& drawn) {
+  const icon_head head = head_of(drawn);
+  return {head, packed(drawn, head)};
 }
 
 std::string shp_file(const std::vector<shp_icon>& icons) {
   std::string directory;
   std::string bodies;
   for (const shp_icon& icon : icons) {
-    const std::size_t offset = head_size + directory_entry_size * icons.size() + bodies.size();
+    const std::size_t offset = shp_head_size + shp_dir_entry_size * icons.size() + bodies.size();
     append32(directory, static_cast<std::int32_t>(offset));
     append32(directory, 0);
     append_icon(bodies, icon);

@@ -17,6 +17,13 @@ picture row_of(const std::string& cells) {
   return drawn;
 }
 
+icon_head whole(const picture& drawn) {
+  icon_head head;
+  head.col_end = drawn.columns() - 1;
+  head.row_end = drawn.rows() - 1;
+  return head;
+}
+
 std::string bytes(std::initializer_list<int> values) {
   std::string text;
   for (const int value : values) text += static_cast<char>(value);
@@ -42,7 +49,7 @@ TEST(ShpWriter, PacksARowIntoTheFewestBytes) {
   };
   for (const auto& c : cases) {
     const picture drawn = row_of(c.cells);
-    EXPECT_EQ(packed(drawn, {0, 0, drawn.columns() - 1, 0}), c.stream) << c.cells;
+    EXPECT_EQ(packed(drawn, whole(drawn)), c.stream) << c.cells;
   }
 }
 
@@ -50,7 +57,7 @@ TEST(ShpWriter, SplitsALiteralThatNoControlByteCanCount) {
   std::string cells;
   for (int i = 0; i < 128; ++i) cells += i % 2 == 0 ? 'A' : 'B';
   const std::string stream = bytes({255}) + cells.substr(0, 127) + bytes({3, 'B', 0});
-  EXPECT_EQ(packed(row_of(cells), {0, 0, 127, 0}), stream);
+  EXPECT_EQ(packed(row_of(cells), whole(row_of(cells))), stream);
 }
 
 TEST(ShpWriter, LeavesAMarginOnEachSide) {
@@ -58,12 +65,12 @@ TEST(ShpWriter, LeavesAMarginOnEachSide) {
   drawn.set(2, 1, 'A');
   drawn.set(3, 3, 'B');
   const shp_icon icon = make_icon(drawn);
-  EXPECT_EQ(icon.no_of_rows, 4);
-  EXPECT_EQ(icon.no_of_cols, 5);
-  EXPECT_EQ(icon.box.first_col, 2);
-  EXPECT_EQ(icon.box.first_row, 1);
-  EXPECT_EQ(icon.box.last_col, 3);
-  EXPECT_EQ(icon.box.last_row, 3);
+  EXPECT_EQ(icon.head.no_of_rows, 4);
+  EXPECT_EQ(icon.head.no_of_cols, 5);
+  EXPECT_EQ(icon.head.col_start, 2);
+  EXPECT_EQ(icon.head.row_start, 1);
+  EXPECT_EQ(icon.head.col_end, 3);
+  EXPECT_EQ(icon.head.row_end, 3);
   EXPECT_EQ(icon.stream, bytes({3, 'A', 0, 0, 1, 1, 3, 'B', 0}));
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "picture.h"
+
+namespace ostrane::samples {
+
+// 400 cut stones of 20 by 20 cells: 25 cuts, each in all ramps of the palette.
+std::vector<picture> gem_collection();
+
+}  // namespace ostrane::samples

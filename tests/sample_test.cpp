@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "crests.h"
+#include "forms/forms.h"
+#include "game_palette.h"
+#include "platform/drives.h"
+#include "platform/message_box.h"
+#include "platform/user.h"
+#include "rocket.h"
+#include "state/start_up.h"
+#include "tiles.h"
+#include "vistas.h"
+#include "worlds.h"
+
+namespace ostrane {
+namespace {
+
+// The sample archive as its user opens it.
+class Sample : public testing::Test {
+ protected:
+  Sample() {
+    platform::set_drives({{'C', "sample", SAMPLE_FOLDER}}, "C:\\");
+    begin_tool("C:\\");
+    platform::user::click(Form1.mnu_open);
+    platform::user::click(Form2.Command1);
+  }
+  ~Sample() override { platform::set_drives({}); }
+
+  // The entry must be there; -1 fails the test that asked.
+  static std::int32_t row_of(const std::string& name) {
+    for (std::int32_t row = 0; row < Form1.List1.ListCount(); ++row) {
+      if (Form1.List1.List(row) == name) return row;
+    }
+    ADD_FAILURE() << "no entry " << name;
+    return -1;
+  }
+
+  static void select(const std::string& name) {
+    platform::forget_messages();
+    platform::user::select_row(Form1.List1, row_of(name));
+  }
+
+  static bool shown(const std::string& text, const std::string& start) {
+    return text.substr(0, start.size()) == start;
+  }
+};
+
+std::vector<platform::colour> game_colours() {
+  const std::string bytes = samples::game_palette();
+  const auto byte = [&](std::size_t at) { return static_cast<std::uint8_t>(bytes.at(at)); };
+  std::vector<platform::colour> colours;
+  for (std::size_t i = 0; i < 256; ++i) {
+    colours.push_back(platform::rgb(byte(4 * i + 2), byte(4 * i + 1), byte(4 * i)));
+  }
+  return colours;
+}
+
+// Cells of a slot that differ from the picture that was drawn.
+int wrong_cells(platform::picture_box& slot, const samples::picture& drawn,
+                const std::vector<platform::colour>& colours) {
+  if (slot.columns() != drawn.columns() || slot.rows() != drawn.rows()) return -1;
+  int wrong = 0;
+  for (int row = 0; row < drawn.rows(); ++row) {
+    for (int column = 0; column < drawn.columns(); ++column) {
+      const platform::colour expected =
+          drawn.is_set(column, row) ? colours[static_cast<std::size_t>(drawn.at(column, row))]
+                                    : platform::picture_box::unset;
+      if (slot.pixel(column, row) != expected) ++wrong;
+    }
+  }
+  return wrong;
+}
+
+TEST_F(Sample, EveryEntryShowsAsItsKind) {
+  const std::string refused = "Something is rotten in the state of Denmark";
+  const struct {
+    std::string name;
+    std::string caption;
+    std::string icons;   // Text2, "" if the entry has none
+    std::string series;  // Text3
+    std::string message;
+  } cases[] = {
+      {"CREST.SHP", "CREST.SHP - Shields, party in every way", "21", " 1 -  21", ""},
+      {"GEMS.SHP", "GEMS.SHP - Cut stones, 25 cuts in 16 colours", "400", " 1 -  300", ""},
+      {"LOST.SHP", "LOST.SHP - One good icon and one without a place", "2", " 1 -  1",
+       "The adress of the file: LOST.SHP is invalid."},
+      {"ODDITY.SHP", "ODDITY.SHP - Good, blank, refused, good", "4", " 1 -  4", refused},
+      {"PLANET.SHP", "PLANET.SHP - One turn of a world of seas and clouds", "32", " 1 -  32", ""},
+      {"GAME.PAL", "GAME.PAL - The colours; sixteen ramps of sixteen shades", "256",
+       "palette 0 - 255", ""},
+      {"CHIME.WAV", "CHIME.WAV - A bell", "256", "palette 0 - 255",
+       "This is not a shp image, I haven't got to display this yet... CHIME.WAV"},
+      {"VISTA.SHP", "VISTA.SHP - A lake at dawn, noon, dusk and night", "4", " 1 -  4", ""},
+  };
+  for (const auto& c : cases) {
+    select(c.name);
+    EXPECT_EQ(Form1.Frame1.Caption(), c.caption);
+    EXPECT_EQ(Form1.Text2.Text(), c.icons) << c.name;
+    EXPECT_EQ(Form1.Text3.Text(), c.series) << c.name;
+    ASSERT_EQ(platform::messages_shown().size(), c.message.empty() ? 0U : 1U) << c.name;
+    if (!c.message.empty()) {
+      EXPECT_TRUE(shown(platform::messages_shown().front(), c.message)) << c.name;
+    }
+  }
+}
+
+TEST_F(Sample, TextsShowInTheCodePageOfTheArchive) {
+  const struct {
+    std::string name;
+    std::string start;
+    std::string part;
+  } cases[] = {
+      {"000DATUP.000", "; what each entry is worth\r\n", "gems    = 400\r\n"},
+      {"GUIDE.TXT", "WHAT IS IN HERE\r\n\r\n", "\x93quotes\x94, dashes \x96 and \x97"},
+      {"ALMANAC.TXT", "ALMANAC OF THE WORLDS\r\n", "Br\xFBlant "},
+  };
+  for (const auto& c : cases) {
+    select(c.name);
+    EXPECT_TRUE(Form1.Text6.Visible()) << c.name;
+    EXPECT_TRUE(shown(Form1.Text6.Text(), c.start)) << c.name;
+    EXPECT_NE(Form1.Text6.Text().find(c.part), std::string::npos) << c.name;
+  }
+}
+
+TEST_F(Sample, SlotsHoldThePicturesAsDrawn) {
+  const struct {
+    std::string name;
+    std::vector<samples::picture> pictures;
+  } cases[] = {
+      {"CREST.SHP", samples::crest_collection()}, {"PLANET.SHP", samples::turning_world()},
+      {"ROCKET.SHP", samples::rising_rocket()},   {"TILES.SHP", samples::land_tiles()},
+      {"VISTA.SHP", samples::day_of_vistas()},    {"WORLDS.SHP", samples::world_gallery()},
+  };
+  const auto colours = game_colours();
+  for (const auto& c : cases) {
+    select(c.name);
+    EXPECT_EQ(Form1.Text3.Text(), " 1 -  " + std::to_string(c.pictures.size())) << c.name;
+    std::int32_t slot = 0;
+    for (const auto& drawn : c.pictures) {
+      ++slot;
+      EXPECT_TRUE(Form1.s16_image(slot).Visible()) << c.name << " " << slot;
+      EXPECT_EQ(wrong_cells(Form1.s16_image(slot), drawn, colours), 0) << c.name << " " << slot;
+    }
+  }
+}
+
+TEST_F(Sample, GemsTakeTwoSeries) {
+  select("GEMS.SHP");
+  platform::user::click(Form1.Command6);
+  EXPECT_EQ(Form1.Text3.Text(), " 301 -  400");
+  platform::user::click(Form1.Command6);
+  EXPECT_EQ(Form1.Text3.Text(), " 301 -  400");
+}
+
+}  // namespace
+}  // namespace ostrane
