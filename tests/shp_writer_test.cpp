@@ -30,7 +30,7 @@ std::string bytes(std::initializer_list<int> values) {
   return text;
 }
 
-TEST(ShpWriter, PacksARowIntoTheFewestBytes) {
+TEST(shp_writer_test, PacksARowIntoTheFewestBytes) {
   const struct {
     std::string cells;
     std::string stream;
@@ -53,14 +53,14 @@ TEST(ShpWriter, PacksARowIntoTheFewestBytes) {
   }
 }
 
-TEST(ShpWriter, SplitsALiteralThatNoControlByteCanCount) {
+TEST(shp_writer_test, SplitsALiteralThatNoControlByteCanCount) {
   std::string cells;
   for (int i = 0; i < 128; ++i) cells += i % 2 == 0 ? 'A' : 'B';
   const std::string stream = bytes({255}) + cells.substr(0, 127) + bytes({3, 'B', 0});
   EXPECT_EQ(packed(row_of(cells), whole(row_of(cells))), stream);
 }
 
-TEST(ShpWriter, LeavesAMarginOnEachSide) {
+TEST(shp_writer_test, LeavesAMarginOnEachSide) {
   picture drawn(6, 5);
   drawn.set(2, 1, 'A');
   drawn.set(3, 3, 'B');
@@ -74,7 +74,7 @@ TEST(ShpWriter, LeavesAMarginOnEachSide) {
   EXPECT_EQ(icon.stream, bytes({3, 'A', 0, 0, 1, 1, 3, 'B', 0}));
 }
 
-TEST(ShpWriter, WritesTheDirectoryInFrontOfTheIcons) {
+TEST(shp_writer_test, WritesTheDirectoryInFrontOfTheIcons) {
   picture wide(3, 2);
   wide.set(1, 1, 7);
   const std::string file = shp_file({row_of("A"), wide});
