@@ -13,7 +13,7 @@ namespace platform {
 class picture_array {
  public:
   picture_array(container& parent, const design& as_designed) : parent_(parent) {
-    elements_.push_back(std::make_unique<picture_box>(parent, as_designed, 0));
+    add(as_designed);
   }
 
   // Element `index`, which must have been loaded.
@@ -26,7 +26,7 @@ class picture_array {
     if (index != loaded()) return;
     design as_element_0 = elements_.front()->designed;
     as_element_0.visible = false;
-    elements_.push_back(std::make_unique<picture_box>(parent_, as_element_0, index));
+    add(as_element_0);
   }
 
   // How many elements there are, element 0 included.
@@ -36,6 +36,11 @@ class picture_array {
   std::function<void(std::int32_t)> DblClick;
 
  private:
+  void add(const design& as_designed) {
+    elements_.push_back(std::make_unique<picture_box>(parent_, as_designed, loaded()));
+    elements_.back()->array = this;
+  }
+
   container& parent_;
   std::vector<std::unique_ptr<picture_box>> elements_;
 };

@@ -25,7 +25,7 @@ void picture_box::Cls() {
   } else {
     pixels_.clear();
   }
-  damaged_ = {};
+  damaged_ = {0, 0, columns_, rows_};
   tell_screen(aspect::pixels);
 }
 

@@ -7,6 +7,8 @@
 
 namespace platform {
 
+class picture_array;
+
 // A rectangle of pixels; empty if right <= left or bottom <= top.
 struct pixel_area {
   std::int32_t left = 0;
@@ -27,6 +29,7 @@ class picture_box : public control {
   picture_box(container& parent_container, const design& as_designed, std::int32_t array_index);
 
   const std::int32_t Index;
+  picture_array* array = nullptr;  // the one it is an element of, if any
   property<int, aspect::place, control> ScaleMode{*this, 1};
 
   static constexpr colour unset = 0xFFFFFFFF;
@@ -56,7 +59,7 @@ class picture_box : public control {
   // All pixels, row by row, `unset` among them; null while none was set since the last Cls.
   const colour* pixels() const { return pixels_.empty() ? nullptr : pixels_.data(); }
 
-  // What was painted since the screen last took it.
+  // What was painted or unset since the screen last took it.
   pixel_area take_damage();
 
   void written(aspect what, bool differs) override;
