@@ -1,0 +1,58 @@
+#include "desktop/button_view.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+#include "desktop/keys.h"
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "desktop/wrapped_text.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int side_margin = 3;
+
+}  // namespace
+
+button_view::button_view(platform::button& shown, QWidget* parent)
+    : QPushButton(parent), control_view(shown), button_(shown) {
+  setFont(font_for(shown.designed.font));
+  connect(this, &QPushButton::clicked, this, [this] { platform::user::click(button_); });
+}
+
+void button_view::show_content() {
+  setText(without_shortcut(with_plain_breaks(to_screen(button_.Caption()))));
+}
+
+void button_view::show_colours() {
+  const platform::colour back = button_.BackColor;
+  const bool as_theme = back == platform::system_button_face;
+  setPalette(as_theme ? QPalette()
+                      : with_colours({}, QPalette::Button, QPalette::ButtonText, back));
+}
+
+// The style has no wrapped captions, so only the body of the button is its own.
+void button_view::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  painter.drawControl(QStyle::CE_PushButtonBevel, option);
+  painter.setPen(option.palette.color(QPalette::ButtonText));
+  QRect inside = rect().adjusted(side_margin, 0, -side_margin, 0);
+  if (isDown()) inside.translate(1, 1);
+  paint_wrapped(painter, inside, with_plain_breaks(to_screen(button_.Caption())), true);
+}
+
+void button_view::keyPressEvent(QKeyEvent* event) {
+  if (is_enter(*event)) {
+    if (!event->isAutoRepeat()) click();
+  } else {
+    QPushButton::keyPressEvent(event);
+  }
+}
+
+}  // namespace desktop

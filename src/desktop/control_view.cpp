@@ -1,0 +1,45 @@
+#include "desktop/control_view.h"
+
+#include <utility>
+
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+
+namespace desktop {
+
+namespace {
+
+using platform::aspect;
+
+constexpr unsigned bit(aspect what) { return 1U << static_cast<unsigned>(what); }
+
+constexpr unsigned content =
+    bit(aspect::caption) | bit(aspect::text) | bit(aspect::items) | bit(aspect::range);
+
+}  // namespace
+
+bool control_view::note(aspect what) {
+  const bool first = noted_ == 0;
+  noted_ |= bit(what);
+  return first;
+}
+
+void control_view::catch_up() {
+  const unsigned noted = std::exchange(noted_, 0U);
+  const auto has = [noted](unsigned bits) { return (noted & bits) != 0; };
+  QWidget& shown = widget();
+  if (has(bit(aspect::place))) shown.setGeometry(place_of(control));
+  if (has(bit(aspect::back_color))) show_colours();
+  if (has(bit(aspect::tool_tip))) shown.setToolTip(as_tool_tip(control.ToolTipText()));
+  if (has(content)) show_content();
+  if (has(bit(aspect::selection) | bit(aspect::items))) show_selection();
+  if (has(bit(aspect::enabled))) shown.setEnabled(control.Enabled());
+  if (has(bit(aspect::visible))) shown.setVisible(control.Visible());
+}
+
+void control_view::show_all() {
+  noted_ = ~0U;
+  catch_up();
+}
+
+}  // namespace desktop

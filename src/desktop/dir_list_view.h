@@ -1,0 +1,37 @@
+#pragma once
+
+#include "desktop/rows_view.h"
+#include "platform/dir_list.h"
+
+namespace desktop {
+
+// Folders as a tree. A press only moves the highlight; a double click or Enter opens the folder.
+class dir_list_view : public rows_view {
+ public:
+  dir_list_view(platform::dir_list& shown, QWidget* parent)
+      : rows_view(shown, parent), folders_(shown) {}
+
+  std::string_view row_text(int row) const override { return at(row).name; }
+  int row_count() const override { return static_cast<int>(folders_.rows().size()); }
+  int indent(int row) const override;
+  void paint_mark(QPainter& painter, const QRect& where, int row) const override;
+  int row_height() const override;
+
+ protected:
+  int selected_row() const override { return highlighted_; }
+  void show_content() override;
+  void row_chosen(int row) override { highlighted_ = row; }
+  void row_double_clicked(int row) override { open(row); }
+  void enter_pressed(int row) override { open(row); }
+
+ private:
+  const platform::dir_list::row& at(int row) const {
+    return folders_.rows()[static_cast<std::size_t>(row)];
+  }
+  void open(int row);
+
+  platform::dir_list& folders_;
+  int highlighted_ = 0;
+};
+
+}  // namespace desktop

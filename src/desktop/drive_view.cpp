@@ -1,0 +1,38 @@
+#include "desktop/drive_view.h"
+
+#include <QWheelEvent>
+
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "platform/events.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+drive_view::drive_view(platform::drive_list& shown, QWidget* parent)
+    : QComboBox(parent), control_view(shown), drives_(shown) {
+  setFont(font_for(shown.designed.font));
+  connect(this, &QComboBox::activated, this, [this](int row) {
+    platform::user::choose(drives_, row);
+    // The tool may have gone to another drive than the chosen one.
+    if (!platform::handler_running()) show_selection();
+  });
+}
+
+void drive_view::show_content() {
+  clear();
+  for (const std::string& drive : drives_.rows()) addItem(to_screen(drive));
+}
+
+void drive_view::show_selection() { setCurrentIndex(drives_.selected_row()); }
+
+void drive_view::show_colours() {
+  const platform::colour back = drives_.BackColor;
+  const QPalette list = with_colours({}, QPalette::Base, QPalette::Text, back);
+  setPalette(with_colours(list, QPalette::Button, QPalette::ButtonText, back));
+}
+
+// A turn of the wheel over the closed list would go to another drive by accident.
+void drive_view::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+}  // namespace desktop

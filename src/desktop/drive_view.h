@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "desktop/control_view.h"
+#include "platform/drive_list.h"
+
+namespace desktop {
+
+class drive_view : public QComboBox, public control_view {
+ public:
+  drive_view(platform::drive_list& shown, QWidget* parent);
+  QWidget& widget() override { return *this; }
+
+ protected:
+  void show_content() override;
+  void show_selection() override;
+  void show_colours() override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  platform::drive_list& drives_;
+};
+
+}  // namespace desktop

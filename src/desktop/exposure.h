@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QWindow>
+
+namespace desktop {
+
+// A window that is shown comes to the screen only when the window system has said so, which it
+// does through the event loop. This waits for that in the middle of a handler, for a moment at
+// most. No user input is taken meanwhile; whatever else comes, the tool queues behind the handler.
+void wait_until_exposed(QWindow& shown);
+
+// Answers the window system in the middle of a long handler, now and then, so that it does not
+// take the program for dead and what was covered is painted again. No user input is taken.
+void answer_window_system();
+
+}  // namespace desktop

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "desktop/rows_view.h"
+#include "platform/file_list.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+class file_list_view : public rows_view {
+ public:
+  file_list_view(platform::file_list& shown, QWidget* parent)
+      : rows_view(shown, parent), files_(shown) {}
+
+  std::string_view row_text(int row) const override { return files_.List(row); }
+  int row_count() const override { return files_.ListCount(); }
+
+ protected:
+  int selected_row() const override { return files_.ListIndex; }
+  void row_chosen(int row) override { platform::user::select_file(files_, row); }
+
+ private:
+  platform::file_list& files_;
+};
+
+}  // namespace desktop

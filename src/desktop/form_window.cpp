@@ -1,0 +1,129 @@
+#include "desktop/form_window.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QWindow>
+#include <utility>
+
+#include "desktop/exposure.h"
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "desktop/window_place.h"
+#include "platform/application.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+namespace {
+
+Qt::WindowFlags flags_for(const platform::form_design& designed) {
+  if (designed.control_box) return Qt::Window;
+  return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+}
+
+}  // namespace
+
+form_window::form_window(platform::form& shown, views& all_views)
+    : QWidget(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
+  setFont(font_for({}));
+  if (!form.menus.empty()) menus_ = new menu_bar(form, this);
+  client_ = new surface(form, this);
+  set_size_as_designed();
+  lay_out();
+  views_.make_all(form, *client_);
+  set_tab_order();
+  show_caption();
+}
+
+int form_window::menu_height() const { return menus_ == nullptr ? 0 : menus_->sizeHint().height(); }
+
+void form_window::set_size_as_designed() {
+  const QSize size(pixels_across(form.client_width()),
+                   pixels_down(form.client_height()) + menu_height());
+  if (form.designed.resizable) {
+    resize(size);
+  } else {
+    setFixedSize(size);
+  }
+}
+
+void form_window::set_tab_order() {
+  QWidget* before = nullptr;
+  for (QWidget* widget : views_.in_tab_order(form)) {
+    if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+    if (before == nullptr) widget->setFocus();
+    if (before != nullptr) setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+void form_window::lay_out() {
+  const int top = menu_height();
+  if (menus_ != nullptr) menus_->setGeometry(0, 0, width(), top);
+  client_->setGeometry(0, top, width(), std::max(0, height() - top));
+}
+
+void form_window::resizeEvent(QResizeEvent* /*event*/) {
+  lay_out();
+  if (!isVisible()) return;
+  platform::user::resize(form, client_->width() * platform::application.TwipsPerPixelX,
+                         client_->height() * platform::application.TwipsPerPixelY);
+}
+
+// Whether the window goes is for the tool to say.
+void form_window::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  platform::user::close(form);
+}
+
+void form_window::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) views_.show_all();
+  QWidget::changeEvent(event);
+}
+
+void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active) {
+  winId();
+  windowHandle()->setTransientParent(owner);
+  if (!std::exchange(placed_, true)) {
+    move(first_place(*this, centre_of));
+  } else if (!isMaximized()) {
+    move(last_place_);
+  }
+  setAttribute(Qt::WA_ShowWithoutActivating, !active);
+  awaits_exposure_ = true;
+  wants_focus_ = !active;
+  show();
+  raise();
+  if (active) activateWindow();
+}
+
+void form_window::go_away() {
+  last_place_ = pos();
+  wants_focus_ = false;
+  hide();
+}
+
+void form_window::take_focus() {
+  wants_focus_ = false;
+  raise();
+  activateWindow();
+}
+
+void form_window::show_caption() {
+  // Without any title some systems show the name of the program's file.
+  const QString caption = to_screen(form.Caption());
+  setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
+}
+
+void form_window::show_menu_item(const platform::menu_item& item) {
+  if (menus_ != nullptr) menus_->show_item(item);
+}
+
+void form_window::paint_now() {
+  if (!isVisible()) return;
+  if (std::exchange(awaits_exposure_, false)) wait_until_exposed(*windowHandle());
+  QEvent update(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(this, &update);
+}
+
+}  // namespace desktop

@@ -1,0 +1,42 @@
+#include "desktop/line_view.h"
+
+#include <algorithm>
+
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "platform/events.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+line_view::line_view(platform::text_box& shown, QWidget* parent)
+    : QLineEdit(parent), control_view(shown), box_(shown) {
+  setFont(font_for(shown.designed.font));
+  setReadOnly(shown.designed.locked);
+  if (shown.designed.centred) setAlignment(Qt::AlignCenter);
+  connect(this, &QLineEdit::textEdited, this, [this] { take_edit(); });
+}
+
+void line_view::take_edit() {
+  platform::user::type(box_, from_screen(text()));
+  // The tool may have kept another text, and says so only if it differs from the one before.
+  if (!platform::handler_running()) show_content();
+}
+
+void line_view::show_content() {
+  const QString now = to_screen(box_.Text());
+  // The limit holds for what the user types, not for what the tool writes.
+  const int limit = box_.designed.max_length;
+  if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
+  if (now == text()) return;
+  const int cursor = cursorPosition();
+  setText(now);
+  if (hasFocus()) setCursorPosition(cursor);
+  if (!hasFocus()) setCursorPosition(0);
+}
+
+void line_view::show_colours() {
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor));
+}
+
+}  // namespace desktop

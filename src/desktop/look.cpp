@@ -1,0 +1,89 @@
+#include "desktop/look.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <cstring>
+
+#include "platform/application.h"
+
+namespace desktop {
+
+namespace {
+
+// Lengths as designed are for a screen of 96 dots an inch.
+constexpr double pixels_per_point = 96.0 / 72.0;
+
+int pixels(std::int32_t twips, std::int32_t twips_per_pixel) {
+  const std::int32_t whole = twips / twips_per_pixel;
+  return twips % twips_per_pixel < 0 ? whole - 1 : whole;
+}
+
+QPalette::ColorRole role_of(platform::colour system_colour) {
+  return system_colour == platform::system_window ? QPalette::Base : QPalette::Window;
+}
+
+bool is_light(const QColor& c) { return qGray(c.rgb()) > 127; }
+
+}  // namespace
+
+QFont font_for(const platform::font_design& designed) {
+  QFont font;
+  if (std::strcmp(designed.name, "Courier New") == 0) {
+    font.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("Cousine"),
+                      QStringLiteral("Courier New"), QStringLiteral("DejaVu Sans Mono")});
+    font.setStyleHint(QFont::TypeWriter);
+  } else {
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
+                      QStringLiteral("Arial"), QStringLiteral("Helvetica")});
+    font.setStyleHint(QFont::SansSerif);
+  }
+  font.setPixelSize(qRound(designed.points * pixels_per_point));
+  font.setBold(designed.bold);
+  return font;
+}
+
+QColor on_screen(platform::colour c) {
+  const QPalette theme = QApplication::palette();
+  if (c == platform::system_light) {
+    return between(theme.color(QPalette::Window), theme.color(QPalette::Base));
+  }
+  if (platform::is_system_colour(c)) return theme.color(role_of(c));
+  return QColor(static_cast<int>(platform::red_of(c)), static_cast<int>(platform::green_of(c)),
+                static_cast<int>(platform::blue_of(c)));
+}
+
+QColor text_on(platform::colour back) {
+  const QPalette theme = QApplication::palette();
+  if (platform::is_system_colour(back)) {
+    const bool window = role_of(back) == QPalette::Base;
+    return theme.color(QPalette::Active, window ? QPalette::Text : QPalette::WindowText);
+  }
+  return is_light(on_screen(back)) ? QColor(Qt::black) : QColor(Qt::white);
+}
+
+QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
+                      platform::colour back) {
+  const QColor ground = on_screen(back);
+  const QColor text = text_on(back);
+  start.setColor(back_role, ground);
+  start.setColor(text_role, text);
+  start.setColor(QPalette::Disabled, text_role, between(text, between(text, ground)));
+  return start;
+}
+
+QColor between(const QColor& a, const QColor& b) {
+  return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+int pixels_across(std::int32_t twips) {
+  return pixels(twips, platform::application.TwipsPerPixelX);
+}
+
+int pixels_down(std::int32_t twips) { return pixels(twips, platform::application.TwipsPerPixelY); }
+
+QRect place_of(const platform::control& shown) {
+  return QRect(pixels_across(shown.Left), pixels_down(shown.Top), pixels_across(shown.Width),
+               pixels_down(shown.Height));
+}
+
+}  // namespace desktop

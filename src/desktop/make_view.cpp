@@ -1,0 +1,53 @@
+#include "desktop/make_view.h"
+
+#include "desktop/button_view.h"
+#include "desktop/dir_list_view.h"
+#include "desktop/drive_view.h"
+#include "desktop/file_list_view.h"
+#include "desktop/frame_view.h"
+#include "desktop/label_view.h"
+#include "desktop/line_view.h"
+#include "desktop/list_box_view.h"
+#include "desktop/page_view.h"
+#include "desktop/progress_view.h"
+
+namespace desktop {
+
+namespace {
+
+template <typename View, typename Control>
+control_view* make(platform::control& shown, QWidget* parent) {
+  return new View(static_cast<Control&>(shown), parent);
+}
+
+}  // namespace
+
+control_view* make_view(platform::control& shown, QWidget* parent) {
+  using platform::control_kind;
+  switch (shown.kind) {
+    case control_kind::frame:
+      return make<frame_view, platform::frame>(shown, parent);
+    case control_kind::label:
+      return make<label_view, platform::label>(shown, parent);
+    case control_kind::button:
+      return make<button_view, platform::button>(shown, parent);
+    case control_kind::text_box:
+      return shown.designed.multi_line ? make<page_view, platform::text_box>(shown, parent)
+                                       : make<line_view, platform::text_box>(shown, parent);
+    case control_kind::list_box:
+      return make<list_box_view, platform::list_box>(shown, parent);
+    case control_kind::progress_bar:
+      return make<progress_view, platform::progress_bar>(shown, parent);
+    case control_kind::drive_list:
+      return make<drive_view, platform::drive_list>(shown, parent);
+    case control_kind::dir_list:
+      return make<dir_list_view, platform::dir_list>(shown, parent);
+    case control_kind::file_list:
+      return make<file_list_view, platform::file_list>(shown, parent);
+    case control_kind::picture_box:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace desktop

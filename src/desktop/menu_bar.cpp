@@ -1,0 +1,61 @@
+#include "desktop/menu_bar.h"
+
+#include <QMenu>
+#include <QShortcut>
+
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+namespace {
+
+QString with_shortcut(const std::string& caption, QString& taken) {
+  const QString text = to_screen(caption);
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    const QChar letter = text[at].toUpper();
+    if (!letter.isLetter() || taken.contains(letter)) continue;
+    taken += letter;
+    return without_shortcut(text.left(at)) + QLatin1Char('&') + without_shortcut(text.mid(at));
+  }
+  return without_shortcut(text);
+}
+
+}  // namespace
+
+menu_bar::menu_bar(platform::form& shown, QWidget* window) : QMenuBar(window) {
+  setNativeMenuBar(false);
+  QString taken;
+  for (const platform::menu* m : shown.menus) add(*m, with_shortcut(m->Caption, taken));
+  auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), window);
+  connect(f10, &QShortcut::activated, this, [this] { open_first(); });
+}
+
+void menu_bar::add(const platform::menu& shown, const QString& caption) {
+  QMenu* column = addMenu(caption);
+  QString taken;
+  for (platform::menu_item* item : shown.items) {
+    if (item->is_separator()) {
+      column->addSeparator();
+      continue;
+    }
+    QAction* action = column->addAction(with_shortcut(item->Caption, taken));
+    connect(action, &QAction::triggered, this, [item] { platform::user::click(*item); });
+    actions_[item] = action;
+    show_item(*item);
+  }
+}
+
+void menu_bar::show_item(const platform::menu_item& item) {
+  const auto at = actions_.find(&item);
+  if (at != actions_.end()) at->second->setEnabled(item.Enabled());
+}
+
+void menu_bar::open_first() {
+  if (actions().isEmpty()) return;
+  setFocus(Qt::MenuBarFocusReason);
+  setActiveAction(actions().first());
+}
+
+}  // namespace desktop

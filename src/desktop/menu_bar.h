@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <unordered_map>
+
+#include "platform/form.h"
+
+namespace desktop {
+
+// The menus of a form. The first letter of a caption that no caption before it has taken is its
+// shortcut, with Alt in the bar and alone in an open menu; F10 opens the first menu.
+class menu_bar : public QMenuBar {
+ public:
+  menu_bar(platform::form& shown, QWidget* window);
+
+  void show_item(const platform::menu_item& item);
+
+ private:
+  void add(const platform::menu& shown, const QString& caption);
+  void open_first();
+
+  std::unordered_map<const platform::menu_item*, QAction*> actions_;
+};
+
+}  // namespace desktop

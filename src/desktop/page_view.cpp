@@ -1,0 +1,54 @@
+#include "desktop/page_view.h"
+
+#include <QSignalBlocker>
+
+#include "desktop/look.h"
+#include "desktop/screen_text.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int pause_in_milliseconds = 200;
+
+}  // namespace
+
+page_view::page_view(platform::text_box& shown, QWidget* parent)
+    : QPlainTextEdit(parent), control_view(shown), box_(shown) {
+  setFont(font_for(shown.designed.font));
+  setReadOnly(shown.designed.locked);
+  setLineWrapMode(NoWrap);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  setTabChangesFocus(true);
+  setUndoRedoEnabled(!shown.designed.locked);
+  pause_.setSingleShot(true);
+  pause_.setInterval(pause_in_milliseconds);
+  connect(&pause_, &QTimer::timeout, this, [this] { take_edit(); });
+  connect(this, &QPlainTextEdit::textChanged, this, [this] { pause_.start(); });
+}
+
+void page_view::take_edit() {
+  pause_.stop();
+  QString lines = toPlainText();
+  platform::user::type(box_, from_screen(lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"))));
+}
+
+void page_view::show_content() {
+  QString now = with_plain_breaks(to_screen(box_.Text()));
+  if (now == toPlainText()) return;
+  const QSignalBlocker quiet(this);
+  setPlainText(now);
+}
+
+void page_view::show_colours() {
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor));
+}
+
+void page_view::focusOutEvent(QFocusEvent* event) {
+  if (pause_.isActive()) take_edit();
+  QPlainTextEdit::focusOutEvent(event);
+}
+
+}  // namespace desktop

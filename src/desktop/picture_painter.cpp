@@ -1,0 +1,65 @@
+#include "desktop/picture_painter.h"
+
+#include <QApplication>
+#include <QImage>
+#include <vector>
+
+#include "desktop/look.h"
+
+namespace desktop {
+
+namespace {
+
+using platform::picture_box;
+
+QRgb as_rgb(platform::colour c) {
+  return 0xFF000000U | platform::red_of(c) << 16U | platform::green_of(c) << 8U |
+         platform::blue_of(c);
+}
+
+void paint_border(QPainter& painter, const QRect& place, const QColor& colour) {
+  const QRect inner = place.adjusted(1, 1, -1, -1);
+  painter.fillRect(QRect(place.topLeft(), QSize(place.width(), 1)), colour);
+  painter.fillRect(QRect(place.bottomLeft(), QSize(place.width(), 1)), colour);
+  painter.fillRect(QRect(place.left(), inner.top(), 1, inner.height()), colour);
+  painter.fillRect(QRect(place.right(), inner.top(), 1, inner.height()), colour);
+}
+
+// The pixels of `part` (of the drawing area) row by row, in memory that is used again and again.
+const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QRgb ground) {
+  static std::vector<QRgb> rows;
+  rows.resize(static_cast<std::size_t>(part.width()) * static_cast<std::size_t>(part.height()));
+  QRgb* to = rows.data();
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    const platform::colour* from =
+        box.pixels() + static_cast<std::ptrdiff_t>(y) * box.columns() + part.left();
+    for (int x = 0; x < part.width(); ++x) {
+      *to++ = from[x] == picture_box::unset ? ground : as_rgb(from[x]);
+    }
+  }
+  return rows;
+}
+
+}  // namespace
+
+void paint_picture(QPainter& painter, const picture_box& box, const QRect& place,
+                   const QRect& dirty) {
+  const QColor ground = on_screen(box.BackColor);
+  const QRect inner = place.adjusted(1, 1, -1, -1);
+  if (!inner.contains(dirty)) {
+    const QPalette theme = QApplication::palette();
+    paint_border(painter, place,
+                 between(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
+  }
+  painter.fillRect(inner & dirty, ground);
+  if (box.pixels() == nullptr) return;
+  const QRect drawn(inner.topLeft(), QSize(box.columns(), box.rows()));
+  const QRect part = drawn & inner & dirty;
+  if (part.isEmpty()) return;
+  const std::vector<QRgb>& rows = converted(box, part.translated(-inner.topLeft()), ground.rgb());
+  const QImage image(reinterpret_cast<const uchar*>(rows.data()), part.width(), part.height(),
+                     part.width() * static_cast<int>(sizeof(QRgb)), QImage::Format_RGB32);
+  painter.drawImage(part.topLeft(), image);
+}
+
+}  // namespace desktop

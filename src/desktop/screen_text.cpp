@@ -1,0 +1,40 @@
+#include "desktop/screen_text.h"
+
+#include <QTextDocument>
+
+#include "platform/code_page.h"
+
+namespace desktop {
+
+namespace {
+
+// Qt breaks only marked-up tool tips into lines.
+constexpr qsizetype longest_plain_tool_tip = 90;
+
+}  // namespace
+
+QString to_screen(std::string_view text) { return QString::fromStdString(platform::to_utf8(text)); }
+
+std::string from_screen(const QString& text) {
+  return platform::from_utf8_or_marks(text.toStdString());
+}
+
+QString with_plain_breaks(QString text, bool pairs_turned) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  if (pairs_turned) text.replace(QLatin1String("\n\r"), QLatin1String("\n"));
+  text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  return text;
+}
+
+QString without_shortcut(QString caption) {
+  return caption.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString as_tool_tip(const std::string& text) {
+  const QString plain = to_screen(text);
+  if (plain.size() <= longest_plain_tool_tip && !Qt::mightBeRichText(plain)) return plain;
+  return QStringLiteral("<p style=\"white-space:pre-wrap\">") + plain.toHtmlEscaped() +
+         QStringLiteral("</p>");
+}
+
+}  // namespace desktop

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+// Text on its way between the tool (code page 1252) and the screen.
+namespace desktop {
+
+QString to_screen(std::string_view text);
+// With "?" for each character that the code page has not got.
+std::string from_screen(const QString& text);
+
+// With "\n" for each CR LF, CR and LF, and with `pairs_turned` for each LF CR as well.
+QString with_plain_breaks(QString text, bool pairs_turned = false);
+
+// For captions in which Qt would take "&" for the mark of a shortcut.
+QString without_shortcut(QString caption);
+
+// Never taken for markup; a long text is broken into lines.
+QString as_tool_tip(const std::string& text);
+
+}  // namespace desktop

@@ -1,0 +1,107 @@
+#include "desktop/surface.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <utility>
+
+#include "desktop/look.h"
+#include "desktop/picture_painter.h"
+#include "desktop/screen_text.h"
+#include "platform/user.h"
+
+namespace desktop {
+
+namespace {
+
+// A region of many rectangles costs more than the painting that it saves.
+constexpr int most_damaged_parts = 40;
+
+}  // namespace
+
+surface::surface(platform::container& shown, QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  for (platform::control* control : shown.controls()) {
+    if (control->kind != platform::control_kind::picture_box) continue;
+    note(static_cast<platform::picture_box&>(*control));
+  }
+  catch_up_pictures();
+}
+
+bool surface::note(platform::picture_box& box) {
+  picture& noted = find_or_add(box);
+  if (std::exchange(noted.noted, true)) return false;
+  noted_.push_back(static_cast<std::size_t>(&noted - pictures_.data()));
+  return noted_.size() == 1;
+}
+
+surface::picture& surface::find_or_add(platform::picture_box& box) {
+  const auto [at, is_new] = places_.try_emplace(&box, pictures_.size());
+  if (is_new) pictures_.push_back({&box, {}, false});
+  return pictures_[at->second];
+}
+
+void surface::catch_up_pictures() {
+  for (const std::size_t index : std::exchange(noted_, {})) catch_up(pictures_[index]);
+  if (!damage_.isEmpty()) update(std::exchange(damage_, {}));
+}
+
+void surface::catch_up(picture& p) {
+  p.noted = false;
+  const QRect place = p.box->Visible() ? place_of(*p.box) : QRect();
+  const platform::pixel_area painted = p.box->take_damage();
+  if (place != p.place) {
+    damage(std::exchange(p.place, place));
+    damage(place);
+  } else if (!place.isNull() && !painted.empty()) {
+    const int border = platform::picture_box::border;
+    damage(QRect(place.left() + border + painted.left, place.top() + border + painted.top,
+                 painted.right - painted.left, painted.bottom - painted.top));
+  }
+}
+
+void surface::damage(const QRect& part) {
+  if (damage_.rectCount() > most_damaged_parts) damage_ = damage_.boundingRect();
+  damage_ += part;
+}
+
+void surface::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.fillRect(event->rect(), on_screen(ground()));
+  paint_over_ground(painter);
+  for (const picture& p : pictures_) {
+    if (!event->rect().intersects(p.place) || !event->region().intersects(p.place)) continue;
+    paint_picture(painter, *p.box, p.place, event->rect() & p.place);
+  }
+}
+
+const surface::picture* surface::picture_at(const QPoint& position) const {
+  for (auto p = pictures_.rbegin(); p != pictures_.rend(); ++p) {
+    if (p->place.contains(position)) return &*p;
+  }
+  return nullptr;
+}
+
+bool surface::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const picture* pointed_at = picture_at(help->pos());
+  if (pointed_at == nullptr) {
+    QToolTip::showText(help->globalPos(), toolTip(), this);
+  } else {
+    const QString tip = as_tool_tip(pointed_at->box->ToolTipText());
+    QToolTip::showText(help->globalPos(), tip, this, pointed_at->place);
+  }
+  return true;
+}
+
+void surface::mouseDoubleClickEvent(QMouseEvent* event) {
+  const picture* clicked = picture_at(event->position().toPoint());
+  if (clicked == nullptr || event->button() != Qt::LeftButton) return;
+  if (clicked->box->array == nullptr) return;
+  platform::user::double_click(*clicked->box->array, clicked->box->Index);
+}
+
+}  // namespace desktop

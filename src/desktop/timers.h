@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QTimer>
+#include <map>
+
+#include "platform/timer.h"
+
+namespace desktop {
+
+// Makes the timers of the forms tick.
+class timers {
+ public:
+  // Goes by what the timer's properties are now. A running one keeps its pace unless its interval
+  // is another one now.
+  void follow(platform::timer& written);
+
+ private:
+  std::map<platform::timer*, QTimer> running_;
+};
+
+}  // namespace desktop
