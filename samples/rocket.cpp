@@ -75,6 +75,7 @@ picture frame_picture(int frame) {
 
 std::vector<picture> rising_rocket() {
   std::vector<picture> all;
+  all.reserve(frames);
   for (int frame = 0; frame < frames; ++frame) all.push_back(frame_picture(frame));
   return all;
 }

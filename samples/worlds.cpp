@@ -45,6 +45,7 @@ picture ringed_world() {
 std::vector<picture> turning_world() {
   constexpr int frames = 32;
   std::vector<picture> turn;
+  turn.reserve(frames);
   for (int frame = 0; frame < frames; ++frame) {
     turn.push_back(
         globe_picture({seas_and_land, 2 * pi * frame / frames, 0.35, ramp::ocean}, 64, 3));

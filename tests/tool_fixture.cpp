@@ -56,6 +56,16 @@ std::string some_bytes(std::size_t count, unsigned seed) {
   return bytes;
 }
 
+namespace {
+
+std::string bytes_of(const fs::path& file) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(file, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+}  // namespace
+
 tool_test::tool_test() {
   std::string name = (fs::temp_directory_path() / "tool-test-XXXXXX").string();
   root = mkdtemp(name.data());
@@ -89,11 +99,7 @@ void tool_test::write(const std::string& path, const std::string& bytes) const {
   platform::forget_folders();
 }
 
-std::string tool_test::read(const std::string& path) const {
-  std::ostringstream bytes;
-  bytes << std::ifstream(place(path), std::ios::binary).rdbuf();
-  return bytes.str();
-}
+std::string tool_test::read(const std::string& path) const { return bytes_of(place(path)); }
 
 bool tool_test::exists(const std::string& path) const { return fs::exists(place(path)); }
 
@@ -106,6 +112,14 @@ std::vector<std::string> tool_test::names_in(const std::string& folder) const {
   }
   std::sort(names.begin(), names.end());
   return names;
+}
+
+std::map<std::string, std::string> tool_test::files_in(const std::string& folder) const {
+  std::map<std::string, std::string> files;
+  for (const auto& found : fs::directory_iterator(place(folder))) {
+    if (found.is_regular_file()) files[found.path().filename().string()] = bytes_of(found.path());
+  }
+  return files;
 }
 
 void tool_test::open_archive(const std::string& folder) {

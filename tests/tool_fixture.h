@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,8 @@ class tool_test : public testing::Test {
   void make_folder(const std::string& path) const;
   // Names in a folder, hidden ones too, ascending.
   std::vector<std::string> names_in(const std::string& folder) const;
+  // The bytes of the files in a folder by their names on this system, hidden ones too.
+  std::map<std::string, std::string> files_in(const std::string& folder) const;
 
   // Through Form2, as a user does it.
   void open_archive(const std::string& folder = "C:\\");

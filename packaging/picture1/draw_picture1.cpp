@@ -1,5 +1,5 @@
 // Draws the picture of the extraction dialog: an open crate from which pictures rise. Writes a
-// greyscale PGM of 210 by 128 pixels to standard output
+// greyscale PGM of 210 by 128 pixels to standard output.
 #include <algorithm>
 #include <array>
 #include <cmath>

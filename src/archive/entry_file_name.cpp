@@ -13,8 +13,10 @@ namespace {
 
 bool is_control_character(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
+// The raised digits 1 to 3 count as digits too.
 bool has_number(std::string_view stem, std::string_view device) {
-  return stem.size() == 4 && stem.substr(0, 3) == device && stem[3] >= '1' && stem[3] <= '9';
+  constexpr std::string_view digits = "123456789\xB9\xB2\xB3";
+  return stem.size() == 4 && stem.substr(0, 3) == device && digits.find(stem[3]) != digits.npos;
 }
 
 // Windows takes these for devices, with any extension and blanks behind the name.

@@ -31,7 +31,7 @@ rows_view::rows_view(platform::control& shown, QWidget* parent)
   setHorizontalScrollMode(ScrollPerPixel);
 }
 
-int rows_view::row_height() const { return fontMetrics().height(); }
+int rows_view::row_height() const { return fontMetrics().height() + 1; }
 
 void rows_view::show_content() {
   width_ = widest_row();
