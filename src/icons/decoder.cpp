@@ -30,7 +30,7 @@ void skip() {
 }
 
 void paint_run() {
-  tool_state.run_length = tool_state.stream_byte / 2;
+  tool_state.run_length = static_cast<std::int16_t>(tool_state.stream_byte / 2);
   take_stream_byte();
   if (tool_state.stream_ended == flag_true) return;
   slot().Line(tool_state.cur_col, tool_state.cur_row, tool_state.cur_col + tool_state.run_length,

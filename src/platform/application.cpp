@@ -15,8 +15,7 @@ bool ended = false;
 
 }  // namespace
 
-// Ready before any other global, among them the forms, is made.
-constinit application_facts application;
+application_facts application;
 
 screen* attached_screen() { return attached; }
 

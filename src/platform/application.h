@@ -7,10 +7,11 @@ namespace platform {
 
 // The running program as the forms see it.
 struct application_facts {
-  std::string Title;                 // title of all message boxes
-  std::string Path;                  // folder of the running program, a path of the tool
-  std::int32_t TwipsPerPixelX = 15;  // a pixel is a device-independent one
-  std::int32_t TwipsPerPixelY = 15;
+  std::string Title;  // title of all message boxes
+  std::string Path;   // folder of the running program, a path of the tool
+  // A pixel is a device-independent one, whatever the screen.
+  static constexpr std::int32_t TwipsPerPixelX = 15;
+  static constexpr std::int32_t TwipsPerPixelY = 15;
 };
 
 extern application_facts application;

@@ -39,12 +39,12 @@ bool is_there(const fs::path& place) {
 }  // namespace
 
 fs::path find_in_folder(const fs::path& folder, const std::string& name) {
-  const fs::path exact = folder / to_utf8(name);
+  fs::path exact = folder / to_utf8(name);
   if (is_there(exact)) return exact;
   const folded_names& names = names_in(folder);
   const auto known = names.find(upper_case(name));
   if (known == names.end()) return exact;
-  const fs::path other_case = folder / known->second;
+  fs::path other_case = folder / known->second;
   return is_there(other_case) ? other_case : exact;
 }
 

@@ -9,7 +9,7 @@ namespace platform {
 namespace {
 
 // What a cleared box may keep for its next picture; more goes back to the system.
-constexpr std::size_t kept_pixels = 128 * 128;
+constexpr std::size_t kept_pixels = 16384;
 
 }  // namespace
 
