@@ -35,14 +35,14 @@ QRect frame_view::caption_place() const {
   return QRect(caption_left, 0, std::min(wanted, most), fontMetrics().height());
 }
 
-void frame_view::paint_over_ground(QPainter& painter) {
+void frame_view::paint_over_ground(QPainter& painter, const QRect& dirty) {
   const QColor back = on_screen(ground());
   const QColor text = text_on(ground());
   const int line_top = fontMetrics().height() / 2;
   painter.setPen(between(back, between(back, text)));
   painter.drawRect(0, line_top, width() - 1, height() - 1 - line_top);
   const QRect caption = caption_place();
-  if (caption.isEmpty()) return;
+  if (!caption.intersects(dirty)) return;
   painter.fillRect(caption, back);
   const QRect inside = caption.adjusted(caption_margin, 0, 0, 0);
   painter.setPen(isEnabled() ? text : between(text, between(text, back)));

@@ -12,6 +12,24 @@ namespace {
 
 constexpr int pause_in_milliseconds = 200;
 
+// Qt lays a line out as a whole, in a time that makes lines of megabytes endless.
+constexpr qsizetype longest_line = 4096;
+
+QString with_short_lines(const QString& text) {
+  QString lines;
+  lines.reserve(text.size() + text.size() / longest_line);
+  qsizetype length = 0;
+  for (const QChar c : text) {
+    if (length == longest_line && c != QLatin1Char('\n')) {
+      lines += QLatin1Char('\n');
+      length = 0;
+    }
+    lines += c;
+    length = c == QLatin1Char('\n') ? 0 : length + 1;
+  }
+  return lines;
+}
+
 }  // namespace
 
 page_view::page_view(platform::text_box& shown, QWidget* parent)
@@ -36,7 +54,7 @@ void page_view::take_edit() {
 }
 
 void page_view::show_content() {
-  QString now = with_plain_breaks(to_screen(box_.Text()));
+  const QString now = with_short_lines(with_plain_breaks(to_screen(box_.Text())));
   if (now == toPlainText()) return;
   const QSignalBlocker quiet(this);
   setPlainText(now);

@@ -70,7 +70,7 @@ void surface::damage(const QRect& part) {
 void surface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), on_screen(ground()));
-  paint_over_ground(painter);
+  paint_over_ground(painter, event->rect());
   for (const picture& p : pictures_) {
     if (!event->rect().intersects(p.place) || !event->region().intersects(p.place)) continue;
     paint_picture(painter, *p.box, p.place, event->rect() & p.place);

@@ -23,7 +23,7 @@ class surface : public QWidget {
 
  protected:
   virtual platform::colour ground() const { return platform::system_button_face; }
-  virtual void paint_over_ground(QPainter& /*painter*/) {}
+  virtual void paint_over_ground(QPainter& /*painter*/, const QRect& /*dirty*/) {}
 
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
