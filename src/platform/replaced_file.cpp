@@ -1,5 +1,7 @@
 #include "platform/replaced_file.h"
 
+#include <optional>
+
 #include "platform/case_blind.h"
 #include "platform/code_page.h"
 #include "platform/file_calls.h"
@@ -14,6 +16,25 @@ void require(int outcome, const std::string& path) {
   if (outcome >= 0) return;
   throw file_error{file_calls::error_number(-outcome),
                    path + " cannot be written: " + file_calls::error_words(-outcome) + "."};
+}
+
+std::string folded_name(const std::filesystem::path& place) {
+  const std::optional<std::string> name = from_utf8(place.filename().string());
+  return name ? upper_case(*name) : std::string();
+}
+
+// Where names tell case apart, files of the same name in another case may lie beside `file`, which
+// is there. They go, as the name means one file only.
+void remove_other_cases(const std::filesystem::path& file) {
+  const std::string folded = folded_name(file);
+  std::error_code failed;
+  for (std::filesystem::directory_iterator at(file.parent_path(), failed), end;
+       !failed && at != end; at.increment(failed)) {
+    std::error_code unknown;
+    if (folded_name(at->path()) != folded || at->is_directory(unknown)) continue;
+    if (std::filesystem::equivalent(at->path(), file, unknown) || unknown) continue;
+    std::filesystem::remove(at->path(), unknown);
+  }
 }
 
 }  // namespace
@@ -44,7 +65,9 @@ void replaced_file::put_in_place() {
   file_.close();
   require(file_calls::replace(written_, old_place_), path_);
   in_place_ = true;
-  if (old_place_ != new_place_) file_calls::replace(old_place_, new_place_);
+  const bool new_case =
+      old_place_ == new_place_ || file_calls::replace(old_place_, new_place_) >= 0;
+  remove_other_cases(new_case ? new_place_ : old_place_);
   file_calls::flush_folder(new_place_.parent_path());
   forget_folders();
 }

@@ -21,7 +21,8 @@ class replaced_file {
 
   binary_file& file() { return file_; }
 
-  // Flushes the new file to the disk and puts it in place. Throws file_error.
+  // Flushes the new file to the disk and puts it in place; no file of the same name in another case
+  // is left beside it. Throws file_error.
   void put_in_place();
 
  private:
