@@ -1,7 +1,4 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
+#include "full_disk.h"
 #include "recording_screen.h"
 
 namespace ostrane {
@@ -346,13 +343,10 @@ TEST_F(extraction_test, CopesWithOffsetsOutOfOrder) {
 TEST_F(extraction_test, AFullDiskStopsTheJobWithTheNameOfTheFile) {
   write("D:\\OLD.TXT", "0");
   open_archive({{"A.TXT", "a"}, {"BIG.SHP", some_bytes(3000000)}, {"OLD.TXT", "new"}});
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before = {};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit small = {.rlim_cur = 2000000, .rlim_max = before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  extract_into("D:\\");
-  setrlimit(RLIMIT_FSIZE, &before);
+  {
+    const full_disk disk;
+    extract_into("D:\\");
+  }
   const texts told = new_messages();
   ASSERT_EQ(told.size(), 1U);
   EXPECT_EQ(told[0].find("The extraction was stopped. D:\\BIG.SHP cannot be written: "), 0U)
