@@ -1,6 +1,6 @@
 #include "desktop/message.h"
 
-#include <QLabel>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include "desktop/screen_text.h"
@@ -11,9 +11,11 @@ namespace {
 
 // Leaves room for the title, which is in a font of the window manager's.
 void widen(QMessageBox& box) {
-  constexpr int least_width = 220;
-  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-  if (label != nullptr) label->setMinimumWidth(least_width);
+  constexpr int least_width = 260;
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (rows == nullptr) return;
+  rows->addItem(new QSpacerItem(least_width, 0, QSizePolicy::Minimum), rows->rowCount(), 0, 1,
+                rows->columnCount());
 }
 
 }  // namespace

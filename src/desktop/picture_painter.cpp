@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QImage>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "desktop/look.h"
@@ -40,6 +42,22 @@ const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QR
   return rows;
 }
 
+// A picture that the program carries, read once; null for a name that it has none of.
+const QImage& carried_picture(const char* name) {
+  static std::map<std::string, QImage> read;
+  const auto [at, is_new] = read.try_emplace(name);
+  if (is_new) at->second.load(QStringLiteral(":/pictures/") + QLatin1String(name));
+  return at->second;
+}
+
+void paint_designed_picture(QPainter& painter, const char* name, const QRect& inner) {
+  const QImage& picture = carried_picture(name);
+  QRect drawn = picture.rect();
+  drawn.moveCenter(inner.center());
+  const QRect shown = drawn & inner;
+  painter.drawImage(shown, picture, shown.translated(-drawn.topLeft()));
+}
+
 }  // namespace
 
 void paint_picture(QPainter& painter, const picture_box& box, const QRect& place,
@@ -52,6 +70,7 @@ void paint_picture(QPainter& painter, const picture_box& box, const QRect& place
                  between(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
   }
   painter.fillRect(inner & dirty, ground);
+  if (*box.designed.picture != '\0') paint_designed_picture(painter, box.designed.picture, inner);
   if (box.pixels() == nullptr) return;
   const QRect drawn(inner.topLeft(), QSize(box.columns(), box.rows()));
   const QRect part = drawn & inner & dirty;
