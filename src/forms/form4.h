@@ -57,8 +57,12 @@ struct form4 : platform::form {
                              .tab_index = 8,
                              .text = "Extract All Ostrane.dat Files to \"Current Folder\"",
                              .font = bold_large}};
-  platform::picture_box Picture1{
-      *this, {.name = "Picture1", .at = {4305, 1050, 3060, 1800}, .tab_index = 9}, 0};
+  platform::picture_box Picture1{*this,
+                                 {.name = "Picture1",
+                                  .at = {4305, 1050, 3060, 1800},
+                                  .tab_index = 9,
+                                  .picture = "picture1.jpg"},
+                                 0};
   platform::button Command3{*this,
                             {.name = "Command3",
                              .at = {4305, 2940, 2955, 645},

@@ -54,6 +54,7 @@ struct design {
   bool multi_line = false;
   int max_length = 0;  // characters; 0 is no limit
   std::string pattern = "*";
+  const char* picture = "";  // of a picture box: a picture that the program carries, as designed
 };
 
 using event = std::function<void()>;
