@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/file_error.h"
 #include "platform/message_box.h"
@@ -46,8 +47,9 @@ void recover(platform::drive_list& Drive1, platform::dir_list& Dir1) {
 
 void follow(platform::drive_list& Drive1, platform::dir_list& Dir1, platform::file_list* File1) {
   if (running == recovery::back) return;
+  bool recovered = running != recovery::none;
   const auto run_step = [&](const step& tried) {
-    if (!works(tried) && running == recovery::none) recover(Drive1, Dir1);
+    if (!works(tried) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
   };
   run_step([&] { Dir1.Path = Drive1.Drive(); });
   if (File1 == nullptr) return;
