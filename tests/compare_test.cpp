@@ -1,0 +1,180 @@
+#include <random>
+
+#include "lists/shiplist.h"
+#include "platform/code_page.h"
+#include "platform/text.h"
+#include "tool_fixture.h"
+
+namespace ostrane {
+namespace {
+
+using lines = std::vector<std::string>;
+
+class compare_test : public tool_test {
+ protected:
+  void open_names(const lines& names) {
+    std::vector<entry> entries;
+    for (const std::string& name : names) entries.push_back({name, ""});
+    open_archive(entries);
+  }
+  // Picks a file of D: in the dialog and compares.
+  static void compare(const std::string& file) {
+    user::click(Form1.mnu_read_filelist);
+    Form6.Dir1.Path = "D:\\";
+    Form6.File1.Refresh();
+    for (std::int32_t row = 0; row < Form6.File1.ListCount(); ++row) {
+      if (Form6.File1.List(row) == file) user::select_file(Form6.File1, row);
+    }
+    user::click(Form6.Command1);
+  }
+  void compare_with(const std::string& shiplist) {
+    write("D:\\list.txt", shiplist);
+    compare("list.txt");
+  }
+};
+
+// The report: its two counts, if they differ, and its rows.
+std::string report_of(const lines& rows, const std::string& counts = "") {
+  std::string text;
+  if (!counts.empty()) text = "Different number of Icons:\r\n\r\n" + counts + "\r\n\r\n";
+  text +=
+      "The following differences was found between your Ostrane.dat and the shiplist\r\n\r\n"
+      "      Present in    Present in   \r\nIcon# Ostrane.dat   Shiplist     \r\n";
+  for (const std::string& row : rows) text += row + "\r\n";
+  return text;
+}
+
+std::string ship(const std::string& name) { return std::string(20, ' ') + name; }
+
+TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
+  const auto counts = [](int archive, int shiplist) {
+    return "# in Ostrane.dat= " + std::to_string(archive) +
+           ", # in Shiplist= " + std::to_string(shiplist);
+  };
+  const struct {
+    lines names;
+    std::string shiplist;
+    std::string report;
+  } cases[] = {
+      {{"A.SHP", "B.SHP"}, "A.SHP\r\nB.SHP\r\n\r\n", report_of({})},
+      {{"AAA.SHP", "BBB.SHP", "CCC.SHP"},
+       "AAA.SHP\r\nBBX.SHP\r\nCCC.SHP\r\nDDD.SHP\r\n\r\n",
+       report_of({"    1 BBB.SHP", ship("BBX.SHP"), ship("DDD.SHP")}, counts(4, 5))},
+      {{"A", "C", "E"}, "B\r\nD\r\nE\r\n\r\n", report_of({"    0 A", ship("B")})},
+      {{"A", "B", "C"}, "A\r\nB\r\nC", report_of({"    2 C"}, counts(4, 3))},
+      {{"A", "B", "C"}, "A\r\nB\r\nC\r\n", report_of({"    2 C"}, counts(4, 3))},
+      {{"A", "B"}, "C\r\n\r\n", report_of({"    0 A", "    1 B", "    2 "}, counts(3, 2))},
+      {{"A", "B", "C"}, "C\r\nB\r\nA\r\nA\r\n\r\n", report_of({})},
+      {{"ABC.SHP"}, " abc.shp \r\n\r\n", report_of({})},
+      {{" b "}, "c\r\n\r\n", report_of({"    0 B", "    1 "})},
+      {{"Z"}, "\tx\r\n y \r\n\r\n", report_of({ship("\tX"), ship("Y")}, counts(2, 3))},
+      {{"A", "B", "C"}, "A", report_of({"    1 B", "    2 C"}, counts(4, 1))},
+      {{"A", "B", "C"}, "", report_of({"    1 B", "    2 C"}, counts(4, 1))},
+      {{"A", "B"}, "B\nA\n\n", report_of({})},
+      {{}, "A\r\nB\r\n\r\n", report_of({"    0 ", ship("B")}, counts(1, 3))},
+      // By the values of the characters, an accented letter behind Z and folded like the others.
+      {{"A.1", "A0", "A\xC9"}, "A.1\r\nA\xE9\r\na0\r\n\r\n", report_of({})},
+      {{"A\xC9", "AZ"}, "AZ\r\n\r\n", report_of({ship("AZ"), "    1 AZ"}, counts(3, 2))},
+  };
+  for (const auto& c : cases) {
+    open_names(c.names);
+    compare_with(c.shiplist);
+    EXPECT_EQ(read("C:\\Shiplist-compare.txt"), c.report) << c.shiplist;
+    EXPECT_EQ(new_messages(), lines{});
+    EXPECT_TRUE(Form1.Enabled());
+    EXPECT_FALSE(Form6.Visible());
+  }
+}
+
+TEST_F(compare_test, ASavedFileListAgrees) {
+  begin("D:\\");
+  open_names({"A.SHP", "GAME.PAL", "Z.TXT"});
+  user::click(Form1.mnu_save);
+  compare("shplist.txt");
+  EXPECT_EQ(read("C:\\Shiplist-compare.txt"), report_of({}));
+}
+
+// The result is that of repeated passes over neighbours, which drop and exchange lines one by one.
+void sort_by_passes(lines& all, std::int32_t& last) {
+  const auto key = [&all](std::int32_t i) {
+    return platform::upper_case(platform::trimmed(all[static_cast<std::size_t>(i)]));
+  };
+  for (bool changed = true; changed;) {
+    changed = false;
+    for (std::int32_t i = 0; i + 1 < last; ++i) {
+      if (key(i) == key(i + 1)) {
+        all.erase(all.begin() + i + 1);
+        all.emplace_back("*");
+        --last;
+        changed = true;
+      }
+      if (i + 1 < last && key(i) > key(i + 1)) {
+        std::swap(all[static_cast<std::size_t>(i)], all[static_cast<std::size_t>(i) + 1]);
+        changed = true;
+      }
+    }
+  }
+  all.resize(static_cast<std::size_t>(last) + 1);
+}
+
+TEST_F(compare_test, SortsAsTheRepeatedPassesDo) {
+  std::mt19937 random(5);
+  const lines names = {"a", "A", " a ", "b", "ab", "AB", "a.", "0", "", " ", "\xE9", "\xC9", "z"};
+  for (int time = 0; time < 2000; ++time) {
+    lines all(1 + random() % 12);
+    for (std::string& line : all) line = names[random() % names.size()];
+    tool_state.shiplist_lines = all;
+    tool_state.shiplist_last = static_cast<std::int16_t>(all.size() - 1);
+    std::int32_t last = tool_state.shiplist_last;
+    sort_shiplist();
+    sort_by_passes(all, last);
+    ASSERT_EQ(tool_state.shiplist_last, last);
+    ASSERT_EQ(tool_state.shiplist_lines, all);
+  }
+}
+
+TEST_F(compare_test, TakesTheLongestShiplistAndNoLongerOne) {
+  open_names({"A"});
+  std::string shiplist;
+  for (int i = 32767; i > 0; --i) shiplist += "N" + std::to_string(100000 + i) + "\r\n";
+  compare_with(shiplist + "final\r\n");
+  EXPECT_EQ(tool_state.shiplist_last, 32767);
+  EXPECT_EQ(tool_state.shiplist_lines[0], "N100001");
+  const std::string report = read("C:\\Shiplist-compare.txt");
+  EXPECT_NE(report.find("# in Ostrane.dat= 2, # in Shiplist= 32768\r\n"), std::string::npos);
+  compare_with(shiplist + "more\r\nfinal");
+  EXPECT_EQ(new_messages(), lines{"D:\\list.txt has more than 32768 lines. Nothing was compared."});
+  EXPECT_EQ(read("C:\\Shiplist-compare.txt"), report);
+  EXPECT_TRUE(Form6.Visible());
+}
+
+TEST_F(compare_test, WhatCannotBeReadOrWrittenIsToldAndTheDialogStays) {
+  const struct {
+    std::function<void()> spoil;
+    const char* chosen;
+    const char* message;
+  } cases[] = {
+      {[] {}, "", "No shiplist is chosen. Click one in the list of files."},
+      {[] {}, "  ", "No shiplist is chosen. Click one in the list of files."},
+      {[] {}, "gone.txt", "D:\\gone.txt cannot be opened: it is not there. Nothing was compared."},
+      {[this] { make_folder("D:\\folder.txt"); }, " folder.txt ",
+       "D:\\folder.txt cannot be opened: it is a folder. Nothing was compared."},
+      {[this] { make_folder("C:\\Shiplist-compare.txt"); }, "list.txt",
+       "C:\\Shiplist-compare.txt cannot be opened: it is a folder. Nothing was compared."},
+  };
+  write("D:\\list.txt", "A\r\n");
+  open_names({"A"});
+  user::click(Form1.mnu_read_filelist);
+  Form6.Dir1.Path = "D:\\";
+  for (const auto& c : cases) {
+    c.spoil();
+    Form6.Text1.Text = c.chosen;
+    user::click(Form6.Command1);
+    EXPECT_EQ(new_messages(), lines{c.message});
+    EXPECT_TRUE(Form6.Visible());
+    EXPECT_FALSE(Form1.Enabled());
+  }
+}
+
+}  // namespace
+}  // namespace ostrane
