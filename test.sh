@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs what is missing, then builds and runs all tests: as they are, and once more with the
+# address and undefined-behaviour sanitizers. Checks layout and lint too, where the tools are there
+# (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it is not set.
+set -euo pipefail
+cd "$(dirname "$0")"
+. scripts/packages.sh
+
+build=${OSTRANE_BUILD:-build-test}
+export QT_QPA_PLATFORM=offscreen
+
+need_packages "${build_packages[@]}" libgtest-dev
+[ -z "${CI:-}" ] || need_packages clang-format clang-tidy
+! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+
+configure_and_build() {
+  cmake -S . -B "$@" -G Ninja
+  cmake --build "$1"
+}
+
+run_tests() { ctest --test-dir "$1" --output-on-failure --no-tests=error -j "$(nproc)"; }
+
+scripts/check_layout.sh
+
+configure_and_build "$build/plain" -DCMAKE_BUILD_TYPE=Release
+run_tests "$build/plain"
+
+scripts/check_lint.sh "$build/plain"
+
+configure_and_build "$build/sanitized" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOSTRANE_SANITIZE=ON \
+  -DOSTRANE_DESKTOP=OFF
+run_tests "$build/sanitized"
