@@ -109,6 +109,7 @@ TEST_F(chunk_ladder_test, CopiesWhatAShortSourceHasAndNothingForAnAmountBelow0) 
     std::filesystem::remove(place("C:\\destination"));
     EXPECT_EQ(copy(100000, small), there);
     EXPECT_EQ(read("C:\\destination"), "abc" + some_bytes(there + 3).substr(3));
+    EXPECT_EQ(screen.values_1.size(), there / 8192 + 1);  // no block behind the one cut short
   }
   for (const std::int32_t amount : {-1, -8193, INT32_MIN}) {
     std::int16_t small = 1024;

@@ -120,8 +120,8 @@ void sort_by_passes(lines& all, std::int32_t& last) {
 TEST_F(compare_test, SortsAsTheRepeatedPassesDo) {
   std::mt19937 random(5);
   const lines names = {"a", "A", " a ", "b", "ab", "AB", "a.", "0", "", " ", "\xE9", "\xC9", "z"};
-  for (int time = 0; time < 2000; ++time) {
-    lines all(1 + random() % 12);
+  for (int time = 0; time < 1000; ++time) {
+    lines all(1 + random() % 60);
     for (std::string& line : all) line = names[random() % names.size()];
     tool_state.shiplist_lines = all;
     tool_state.shiplist_last = static_cast<std::int16_t>(all.size() - 1);

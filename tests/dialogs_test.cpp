@@ -164,16 +164,17 @@ TEST_F(dialogs_test, ARecoveryToTheFolderThatIsOpenChangesNothing) {
 
 // Where drive C: does not answer either the dialog stays where it was, and says so once.
 TEST_F(dialogs_test, StaysWhereItWasIfTheRecoveryFails) {
+  make_folder("D:\\sub");
   for (const char chosen : {'e', 'c'}) {
     with_each([&](const dialog& d) {
-      d.Dir1.Path = "D:\\";
+      d.Dir1.Path = "D:\\sub";
       if (d.Text1 != nullptr) user::type(*d.Text1, "typed");
       take_drive_c_away();
       choose(d, chosen);
       EXPECT_EQ(new_messages(), texts{failure_of(chosen == 'e' ? "e: []" : "c: [test]")});
       EXPECT_EQ(d.Drive1.Drive(), "d: [other]");
-      EXPECT_EQ(d.Dir1.Path(), "D:\\");
-      EXPECT_EQ(d.File1.Path(), "D:\\");
+      EXPECT_EQ(d.Dir1.Path(), "D:\\sub");
+      EXPECT_EQ(d.File1.Path(), "D:\\sub");
       expect_field(d, "typed");
       EXPECT_TRUE(d.window.Visible());
       bring_drive_c_back();

@@ -404,5 +404,18 @@ TEST_F(new_folder_test, MakesTheFolderAndGoesThereOrTellsWhyNot) {
   EXPECT_EQ(names_in("D:\\"), (texts{"file", "one", "there"}));
 }
 
+// A folder that is where the dialog stands raises no change, and still all shows what it holds.
+TEST_F(new_folder_test, MakesAFolderAnewThatWasTakenAway) {
+  open_archive({{"A.TXT", "a"}});
+  write("D:\\one\\file", "");
+  user::click(Form1.mnu_ext);
+  Form4.Dir1.Path = "D:\\one";
+  EXPECT_EQ(Form4.File1.ListCount(), 1);
+  std::filesystem::remove_all(place("D:\\one"));
+  EXPECT_EQ(make("D:\\", "one"), (texts{"D:\\one", "D:\\one", "D:\\one"}));
+  EXPECT_EQ(Form4.File1.ListCount(), 0);
+  EXPECT_EQ(new_messages(), texts{});
+}
+
 }  // namespace
 }  // namespace ostrane
