@@ -1,5 +1,6 @@
 #include "desktop/wrapped_text.h"
 
+#include <QFontMetrics>
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
@@ -8,31 +9,45 @@ namespace desktop {
 
 namespace {
 
-// Lays the text out in lines beneath one another; the height of all of them.
-double lay_out(QTextLayout& layout, double width, double line_height) {
-  double top = 0;
-  layout.beginLayout();
-  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLineWidth(width);
-    line.setPosition({0, top});
-    top += line_height;
+// Text in lines beneath one another.
+class text_block {
+ public:
+  text_block(QString text, const QFont& font, Qt::Alignment alignment, int width)
+      : layout_(text.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)), font) {
+    QTextOption option(alignment);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout_.setTextOption(option);
+    lay_out(width, QFontMetrics(font).height());
   }
-  layout.endLayout();
-  return top;
-}
+
+  int height() const { return height_; }
+  void paint(QPainter& painter, const QPoint& top_left) { layout_.draw(&painter, top_left); }
+
+ private:
+  void lay_out(int width, int line_height) {
+    layout_.beginLayout();
+    for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+      line.setLineWidth(width);
+      line.setPosition(QPointF(0, height_));
+      height_ += line_height;
+    }
+    layout_.endLayout();
+  }
+
+  QTextLayout layout_;
+  int height_ = 0;
+};
 
 }  // namespace
 
 void paint_wrapped(QPainter& painter, const QRect& where, const QString& text, bool centred) {
-  QString lines = text;
-  lines.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
-  QTextLayout layout(lines, painter.font());
-  QTextOption option(centred ? Qt::AlignHCenter : Qt::AlignLeft);
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  layout.setTextOption(option);
-  const double height = lay_out(layout, where.width(), painter.fontMetrics().height());
-  const double above = centred ? std::max(0.0, (where.height() - height) / 2) : 0.0;
-  layout.draw(&painter, QPointF(where.left(), where.top() + static_cast<int>(above)));
+  text_block block(text, painter.font(), centred ? Qt::AlignHCenter : Qt::AlignLeft, where.width());
+  const int above = centred ? std::max(0, (where.height() - block.height()) / 2) : 0;
+  block.paint(painter, where.topLeft() + QPoint(0, above));
+}
+
+int wrapped_height(const QString& text, const QFont& font, int width) {
+  return text_block(text, font, Qt::AlignLeft, width).height();
 }
 
 }  // namespace desktop

@@ -1,0 +1,347 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPushButton>
+#include <QTest>
+#include <cmath>
+#include <string>
+
+#include "desktop/control_view.h"
+#include "desktop/desktop_style.h"
+#include "desktop/look.h"
+#include "desktop/qt_screen.h"
+#include "desktop/screen_text.h"
+#include "desktop/wrapped_text.h"
+#include "forms/forms.h"
+#include "platform/application.h"
+#include "platform/events.h"
+
+namespace {
+
+using desktop::qt_screen;
+
+// A form with a control of each kind that the user works with. Twips.
+struct small_form : platform::form {
+  small_form()
+      : form({.name = "small",
+              .client_width = 6000,
+              .client_height = 4500,
+              .control_box = true,
+              .resizable = true}) {}
+
+  platform::list_box List{*this, {.name = "List", .at = {0, 0, 1500, 3000}, .tab_index = 0}};
+  platform::text_box Field{
+      *this, {.name = "Field", .at = {0, 3300, 1500, 285}, .tab_index = 2, .max_length = 3}};
+  platform::button Button{
+      *this, {.name = "Button", .at = {0, 3900, 1500, 300}, .tab_index = 1, .text = "Go"}};
+  platform::frame Frame{*this, {.name = "Frame", .at = {1500, 0, 4500, 4500}, .tab_index = 3}};
+  platform::picture_array pictures{
+      Frame, {.name = "pictures", .at = {300, 300, 90, 90}, .visible = false}};
+};
+
+QWidget* widget_of(const QWidget& window, const platform::control& shown) {
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* view = dynamic_cast<desktop::control_view*>(widget);
+    if (view != nullptr && &view->control == &shown) return widget;
+  }
+  return nullptr;
+}
+
+// The second press of a double click alone.
+void double_press(QWidget* widget, const QPoint& at) {
+  QMouseEvent press(QEvent::MouseButtonDblClick, at, widget->mapToGlobal(at), Qt::LeftButton,
+                    Qt::LeftButton, {});
+  QCoreApplication::sendEvent(widget, &press);
+}
+
+// Adds up what a widget is asked to paint.
+class paint_watch : public QObject {
+ public:
+  explicit paint_watch(QWidget* watched) { watched->installEventFilter(this); }
+  bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion painted;
+};
+
+class Desktop : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    platform::begin_process();
+    platform::attach_screen(&screen);
+  }
+  void TearDown() override { platform::attach_screen(nullptr); }
+
+  QWidget& show(platform::form& shown) {
+    platform::run_event([&shown] { shown.Visible = true; });
+    QCoreApplication::processEvents();
+    QWidget& window = *screen.window_of(shown);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    return window;
+  }
+
+  qt_screen screen;
+  small_form form;
+};
+
+TEST_F(Desktop, APictureIsOnTheScreenPixelByPixel) {
+  form.pictures.Load(1);
+  platform::picture_box& picture = form.pictures(1);
+  picture.Width = 75;
+  picture.BackColor = platform::rgb(9, 8, 7);
+  picture.PSet(0, 0, platform::rgb(255, 0, 0));
+  picture.PSet(2, 3, platform::rgb(1, 2, 250));
+  picture.Visible = true;
+  QWidget& window = show(form);
+  const QImage frame = widget_of(window, form.Frame)->grab().toImage();
+  const struct {
+    int x, y;
+    QRgb colour;
+  } pixels[] = {{21, 21, qRgb(255, 0, 0)},
+                {23, 24, qRgb(1, 2, 250)},
+                {22, 21, qRgb(9, 8, 7)},
+                {23, 23, qRgb(9, 8, 7)}};
+  for (const auto& p : pixels) EXPECT_EQ(frame.pixel(p.x, p.y), p.colour) << p.x << "," << p.y;
+  const QRgb ground = frame.pixel(19, 22);
+  const QRgb border = frame.pixel(20, 20);
+  EXPECT_NE(border, ground);
+  for (const QPoint at : {QPoint(24, 20), QPoint(20, 25), QPoint(24, 25), QPoint(22, 25)}) {
+    EXPECT_EQ(frame.pixel(at), border) << at.x() << "," << at.y();
+  }
+  EXPECT_EQ(frame.pixel(25, 22), ground);
+}
+
+TEST_F(Desktop, ARefreshPaintsWhatChangedAndNoMore) {
+  QWidget& window = show(form);
+  for (int i = 1; i <= 60; ++i) form.pictures.Load(i);
+  platform::picture_box& picture = form.pictures(50);
+  paint_watch watch(widget_of(window, form.Frame));
+  const struct {
+    const char* what;
+    std::function<void()> write;
+    QRegion painted;
+  } cases[] = {
+      {"shown", [&] { picture.Visible = true; }, QRect(20, 20, 6, 6)},
+      {"one pixel", [&] { picture.PSet(1, 2, 5); }, QRect(22, 23, 1, 1)},
+      {"cleared and drawn on",
+       [&] {
+         picture.Cls();
+         picture.PSet(0, 0, 5);
+       },
+       QRect(21, 21, 4, 4)},
+      {"new colour", [&] { picture.BackColor = 77; }, QRect(21, 21, 4, 4)},
+      {"moved", [&] { picture.Move(1500, 300); }, QRegion(20, 20, 6, 6) + QRect(100, 20, 6, 6)},
+      {"moved there and back",
+       [&] {
+         picture.Move(0, 0);
+         picture.Move(1500, 300);
+       },
+       QRegion()},
+      {"hidden", [&] { picture.Visible = false; }, QRect(100, 20, 6, 6)},
+      {"drawn on while hidden", [&] { picture.PSet(1, 1, 5); }, QRegion()},
+  };
+  for (const auto& c : cases) {
+    watch.painted = {};
+    platform::run_event([&] {
+      c.write();
+      form.Refresh();
+      EXPECT_EQ(watch.painted, c.painted) << c.what;
+    });
+  }
+}
+
+TEST_F(Desktop, AWindowShownInAHandlerIsPaintedBeforeTheHandlerEnds) {
+  show(form);
+  small_form second;
+  QRegion painted;
+  platform::run_event([&] {
+    second.Visible = true;
+    second.Refresh();
+    paint_watch watch(widget_of(*screen.window_of(second), second.Button));
+    second.Button.Caption = "Other";
+    second.Refresh();
+    painted = watch.painted;
+    second.Visible = false;
+  });
+  EXPECT_FALSE(painted.isEmpty());
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(screen.window_of(second)->isVisible());
+}
+
+TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
+  std::string log;
+  for (const char* row : {"one", "two", "three"}) form.List.AddItem(row);
+  form.List.Click = [&] { log += "click" + std::to_string(form.List.ListIndex()) + " "; };
+  form.List.DblClick = [&] { log += "double "; };
+  form.Button.Click = [&] { log += "go "; };
+  form.Field.LostFocus = [&] { log += "lost:" + form.Field.Text() + " "; };
+  form.pictures.DblClick = [&](int i) { log += "picture" + std::to_string(i) + " "; };
+  form.Unload = [&] { log += "close "; };
+  form.pictures.Load(1);
+  form.pictures(1).Visible = true;
+  QWidget& window = show(form);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto* list = static_cast<QAbstractItemView*>(widget_of(window, form.List));
+  QWidget* button = widget_of(window, form.Button);
+  QWidget* field = widget_of(window, form.Field);
+  QWidget* frame = widget_of(window, form.Frame);
+  const auto row = [&](int r) { return list->visualRect(list->model()->index(r, 0)).center(); };
+  const auto press = [&](int r) {
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(r));
+  };
+  const struct {
+    const char* what;
+    std::function<void()> act;
+    std::string log;
+  } cases[] = {
+      {"press", [&] { press(1); }, "click1 "},
+      {"press on the selected row", [&] { press(1); }, "click1 "},
+      {"press beneath the rows",
+       [&] {
+         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {5, 190});
+       },
+       ""},
+      {"second press of a double click", [&] { double_press(list->viewport(), row(1)); },
+       "double "},
+      {"arrow", [&] { QTest::keyClick(list, Qt::Key_Down); }, "click2 "},
+      {"arrow at the end", [&] { QTest::keyClick(list, Qt::Key_Down); }, ""},
+      {"tab to the button", [&] { QTest::keyClick(list, Qt::Key_Tab); }, ""},
+      {"Enter", [&] { QTest::keyClick(button, Qt::Key_Return); }, "go "},
+      {"Space", [&] { QTest::keyClick(button, Qt::Key_Space); }, "go "},
+      {"tab to the field", [&] { QTest::keyClick(button, Qt::Key_Tab); }, ""},
+      {"typing beyond the limit", [&] { QTest::keyClicks(field, "1234"); }, ""},
+      {"click elsewhere", [&] { QTest::mouseClick(button, Qt::LeftButton); }, "lost:123 go "},
+      {"double click on a picture",
+       [&] {
+         double_press(frame, {22, 22});
+       },
+       "picture1 "},
+      {"double click beside it",
+       [&] {
+         double_press(frame, {60, 60});
+       },
+       ""},
+      {"close", [&] { window.close(); }, "close "},
+      {"disabled",
+       [&] {
+         form.Enabled = false;
+         press(0);
+         QTest::keyClick(list, Qt::Key_Up);
+         QTest::mouseClick(button, Qt::LeftButton);
+         QTest::keyClicks(field, "9");
+         window.close();
+       },
+       ""},
+  };
+  for (const auto& c : cases) {
+    log.clear();
+    c.act();
+    EXPECT_EQ(log, c.log) << c.what;
+  }
+  EXPECT_TRUE(button->isEnabled()) << "a disabled form looks as ever";
+  EXPECT_EQ(form.Field.Text(), "123");
+  EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Desktop, WhatComesInAHandlerRunsBehindIt) {
+  std::string log;
+  QWidget& window = show(form);
+  form.Unload = [&] { log += "close "; };
+  platform::run_event([&] {
+    QMetaObject::invokeMethod(
+        &window, [&] { window.close(); }, Qt::QueuedConnection);
+    small_form second;
+    second.Visible = true;
+    second.Refresh();
+    second.Visible = false;
+    form.Refresh();
+    log += "end ";
+  });
+  QCoreApplication::processEvents();
+  EXPECT_EQ(log, "end close ");
+}
+
+double luminance(const QColor& c) {
+  const auto linear = [](double v) {
+    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+  const double light = std::max(luminance(a), luminance(b));
+  const double dark = std::min(luminance(a), luminance(b));
+  return (light + 0.05) / (dark + 0.05);
+}
+
+TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
+  const QPalette light = QApplication::palette();
+  QPalette dark;
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+    dark.setColor(role, QColor(35, 35, 38));
+  }
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    dark.setColor(role, Qt::white);
+  }
+  for (const QPalette& theme : {light, dark}) {
+    QApplication::setPalette(theme);
+    for (const platform::colour back :
+         {ostrane::pale_green, ostrane::pale_cyan, platform::system_menu, platform::system_window,
+          platform::system_button_face, platform::system_light, platform::rgb(0, 0, 60)}) {
+      const QPalette used = desktop::with_colours({}, QPalette::Base, QPalette::Text, back);
+      for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        EXPECT_GE(contrast(used.color(group, QPalette::Text), used.color(group, QPalette::Base)),
+                  4.5)
+            << std::hex << back;
+      }
+    }
+  }
+  QApplication::setPalette(light);
+}
+
+TEST_F(Desktop, NothingIsCutOffAtTheDesignSize) {
+  ostrane::make_forms_afresh();
+  for (platform::form* designed : {static_cast<platform::form*>(&ostrane::Form1),
+                                   static_cast<platform::form*>(&ostrane::Form2),
+                                   static_cast<platform::form*>(&ostrane::Form3),
+                                   static_cast<platform::form*>(&ostrane::Form4),
+                                   static_cast<platform::form*>(&ostrane::Form5),
+                                   static_cast<platform::form*>(&ostrane::Form6)}) {
+    const QWidget& window = show(*designed);
+    const auto fits = [&](const QWidget& widget, const QString& text, int margin) {
+      EXPECT_LE(desktop::wrapped_height(text, widget.font(), widget.width() - margin),
+                widget.height())
+          << designed->designed.name << " " << text.toStdString();
+    };
+    for (const auto* label : window.findChildren<QLabel*>()) fits(*label, label->text(), 0);
+    for (const auto* button : window.findChildren<QPushButton*>()) fits(*button, button->text(), 6);
+    for (const auto* field : window.findChildren<QLineEdit*>()) fits(*field, "Xg", 0);
+    platform::run_event([&] { designed->Visible = false; });
+  }
+}
+
+TEST_F(Desktop, TextKeepsItsCharactersOnTheWayToTheScreenAndBack) {
+  std::string all;
+  for (int c = 1; c < 256; ++c) all += static_cast<char>(c);
+  EXPECT_EQ(desktop::from_screen(desktop::to_screen(all)), all);
+  EXPECT_EQ(desktop::with_plain_breaks("a\r\nb\rc\nd\n\re", true), "a\nb\nc\nd\ne");
+  EXPECT_EQ(desktop::with_plain_breaks("a\n\rb"), "a\n\nb");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  const QApplication application(argc, argv);
+  QApplication::setStyle(new desktop::desktop_style);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}
