@@ -93,6 +93,7 @@ void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active)
   awaits_exposure_ = true;
   wants_focus_ = !active;
   show();
+  if (focused_ != nullptr) focused_->setFocus();
   raise();
   if (active) activateWindow();
 }
@@ -100,6 +101,8 @@ void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active)
 void form_window::go_away() {
   last_place_ = pos();
   wants_focus_ = false;
+  // Qt hands the focus on when its widget goes; the window is to come back as it was.
+  focused_ = focusWidget();
   hide();
 }
 

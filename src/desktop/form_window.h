@@ -48,6 +48,7 @@ class form_window : public QWidget {
   surface* client_ = nullptr;
   bool placed_ = false;
   QPoint last_place_;
+  QPointer<QWidget> focused_;  // when the window last went away
   bool wants_focus_ = false;
   bool awaits_exposure_ = false;
 };

@@ -251,6 +251,15 @@ TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
   EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(Desktop, AWindowComesBackWithTheFocusWhereItWas) {
+  QWidget& window = show(form);
+  widget_of(window, form.Field)->setFocus();
+  platform::run_event([&] { form.Visible = false; });
+  QCoreApplication::processEvents();
+  show(form);
+  EXPECT_EQ(window.focusWidget(), widget_of(window, form.Field));
+}
+
 TEST_F(Desktop, WhatComesInAHandlerRunsBehindIt) {
   std::string log;
   QWidget& window = show(form);
