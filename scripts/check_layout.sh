@@ -9,5 +9,6 @@ format=$(clang_tool clang-format) || {
   echo "Layout is not checked: no clang-format $clang_version here"
   exit 0
 }
-git ls-files '*.h' '*.cpp' | xargs "$format" --dry-run -Werror
+find . -name 'build*' -type d -prune -o \( -name '*.h' -o -name '*.cpp' \) -print0 |
+  xargs -0 "$format" --dry-run -Werror
 echo "Layout is good"
