@@ -87,15 +87,6 @@ TEST_F(decoder_test, ANegativeStartOfTheBoxPaintsWhatLiesInside) {
   EXPECT_EQ(cells(), (grid{{5, 5, -1}, {6, -1, -1}}));
 }
 
-TEST_F(decoder_test, AStartBelowTheEndReadsNothing) {
-  icon_head head = head_of_size(2, 3);
-  head.row_start = 2;
-  head.row_end = 1;
-  decode(head, stream({2, 9, 0}));
-  EXPECT_EQ(cells(), (grid{{-1, -1}, {-1, -1}, {-1, -1}}));
-  EXPECT_EQ(shown_slots(), std::vector<std::int32_t>{1});
-}
-
 // The longest operations, and a stream of more than one buffer, so that control bytes and operands
 // fall on both sides of a refill.
 TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
@@ -116,19 +107,6 @@ TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
                 (row + i) % 256);
       ASSERT_EQ(painted[static_cast<std::size_t>(row)][static_cast<std::size_t>(127 + i)],
                 row % 256);
-    }
-  }
-}
-
-// Every budget that the refill's ladder can meet brings all bytes of the entry.
-TEST_F(decoder_test, ReadsBudgetsOfEverySize) {
-  for (const std::size_t pixels : {1U, 5U, 9U, 120U, 127U, 140U, 1000U, 1100U, 2050U}) {
-    std::string bytes;
-    for (std::size_t i = 0; i < pixels; ++i) bytes += stream({3, static_cast<int>(i % 250) + 1});
-    decode(head_of_size(static_cast<std::int16_t>(pixels), 1), bytes + '\0');
-    const grid painted = cells();
-    for (std::size_t i = 0; i < pixels; ++i) {
-      ASSERT_EQ(painted[0][i], static_cast<int>(i % 250) + 1) << pixels << " " << i;
     }
   }
 }

@@ -72,16 +72,6 @@ TEST_F(entry_selection_test, DoubleClicksTellOfAllKindsButIconsAndPalettes) {
   EXPECT_TRUE(Form1.Text6.Visible());
 }
 
-TEST_F(entry_selection_test, ATextLeavesTheIconsBehindIt) {
-  open_archive({{"A.SHP", dots(2)}, {"N.TXT", "note"}});
-  click_row("A.SHP");
-  click_row("N.TXT");
-  EXPECT_TRUE(Form1.s16_image(2).Visible());
-  EXPECT_NE(Form1.s16_image(2).pixels(), nullptr);
-  click_row("");
-  EXPECT_FALSE(Form1.Text6.Visible());
-}
-
 TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFits) {
   write_icon_names(
       "  ABC01 ; first ; second  \r\n"
@@ -129,14 +119,6 @@ TEST_F(entry_selection_test, CountsTheLinesOfTheIconNames) {
     EXPECT_EQ(tool_state.icon_name_count, c.count);
   }
   EXPECT_EQ(tool_state.icon_names[32000].name, "N32000");
-}
-
-TEST_F(entry_selection_test, WithoutIconNamesANamelessEntryGetsTheDash) {
-  open_archive({{"A.TXT", ""}, {"NODOT", ""}});
-  click_row("A.TXT");
-  EXPECT_EQ(Form1.Frame1.Caption(), "A.TXT");
-  click_row("NODOT");
-  EXPECT_EQ(Form1.Frame1.Caption(), "NODOT - ");
 }
 
 TEST_F(entry_selection_test, ShowsTextsWhole) {
@@ -200,13 +182,6 @@ TEST_F(entry_selection_test, ShowsThePaletteAsSwatches) {
   }
   EXPECT_EQ(Form1.s16_image(18).BackColor(), platform::rgb(232, 228, 136));
   EXPECT_EQ(Form1.s16_image(18).ToolTipText(), "Palette #  17 : (red= 232, green= 228, blue= 136)");
-}
-
-TEST_F(entry_selection_test, SwatchesShowTheBuiltInColoursWithTheNumbersOfNone) {
-  open_archive({{"X.PAL", ""}});
-  click_row("X.PAL");
-  EXPECT_EQ(Form1.s16_image(2).BackColor(), 0xF0F0F0U);
-  EXPECT_EQ(Form1.s16_image(2).ToolTipText(), "Palette #  1 : (red= 0, green= 0, blue= 0)");
 }
 
 TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {

@@ -50,15 +50,6 @@ TEST_F(forms_layer_test, APictureStaysUntilItIsClearedOrRecoloured) {
   EXPECT_FALSE(painted());
 }
 
-TEST_F(forms_layer_test, ATinyPictureHasNoDrawingArea) {
-  box().Width = 30;
-  box().Height = 0;
-  box().PSet(0, 0, 1);
-  box().Line(0, 0, 5, 0, 1);
-  EXPECT_EQ(box().columns(), 0);
-  EXPECT_EQ(box().pixels(), nullptr);
-}
-
 TEST_F(forms_layer_test, ABarShowsAnyThreeNumbers) {
   const struct {
     float min, max, value;
@@ -127,28 +118,6 @@ TEST_F(forms_layer_test, WhatIsDisabledOrHiddenTakesNoInput) {
   Form1.Enabled = false;
   user::type(Form1.Text5, "7");
   EXPECT_EQ(Form1.Text5.Text(), "300");
-}
-
-TEST_F(forms_layer_test, AListClicksOnTheSelectedRowTooAndDoubleClicksBehindIt) {
-  std::string order;
-  Form1.List1.Click = [&] { order += "c"; };
-  Form1.List1.DblClick = [&] { order += "d"; };
-  Form1.List1.AddItem("a");
-  user::select_row(Form1.List1, 0);
-  user::select_row(Form1.List1, 0);
-  user::double_click(Form1.List1, 0);
-  user::select_row(Form1.List1, 1);
-  user::select_row(Form1.List1, -1);
-  EXPECT_EQ(order, "ccd");
-}
-
-TEST_F(forms_layer_test, TypingKeepsToTheField) {
-  user::type(Form1.Text5, "12345");
-  EXPECT_EQ(Form1.Text5.Text(), "123");
-  user::type(Form1.Text4, "123");
-  EXPECT_EQ(Form1.Text4.Text(), "12");
-  user::type(Form1.Text2, "x");
-  EXPECT_EQ(Form1.Text2.Text(), "");
 }
 
 TEST_F(forms_layer_test, ChangeComesOnlyWithAnotherValue) {

@@ -35,14 +35,7 @@ TEST_F(index_test, ListsEveryRecordWithItsEndRecord) {
   EXPECT_EQ(tool_state.archive_path_copy, "C:\\ostrane.dat");
 }
 
-TEST_F(index_test, FindsTheArchiveWhateverTheCaseOfItsName) {
-  write("C:\\in\\OsTrane.DAT", archive_bytes({{"A.TXT", "a"}}));
-  open_archive("C:\\in");
-  EXPECT_EQ(Form1.Text1.Text(), "1");
-  EXPECT_EQ(new_messages(), messages{});
-}
-
-TEST_F(index_test, TakesSmallCountsAsTheyAre) {
+TEST_F(index_test, TakesEveryCountInRange) {
   const struct {
     std::string bytes;
     std::int32_t rows;
@@ -50,23 +43,17 @@ TEST_F(index_test, TakesSmallCountsAsTheyAre) {
   } cases[] = {
       {index_bytes(1, {{21, ""}}), 1, "0"},
       {index_bytes(0, {}), 0, "-1"},
+      {index_bytes(32768, std::vector<std::pair<std::int32_t, std::string>>(32768, {0, "A"})),
+       32768, "32767"},
   };
   for (const auto& c : cases) {
     begin();
-    write("C:\\ostrane.dat", c.bytes);
+    write("C:\\OsTrane.DAT", c.bytes);
     open_archive();
     EXPECT_EQ(Form1.List1.ListCount(), c.rows);
     EXPECT_EQ(Form1.Text1.Text(), c.text1);
     EXPECT_TRUE(menus_open());
   }
-}
-
-TEST_F(index_test, ReadsTheLargestIndex) {
-  std::vector<std::pair<std::int32_t, std::string>> records(32768, {0, "X.SHP"});
-  write("C:\\ostrane.dat", index_bytes(32768, records));
-  open_archive();
-  EXPECT_EQ(Form1.List1.ListCount(), 32768);
-  EXPECT_EQ(Form1.Text1.Text(), "32767");
 }
 
 // A damaged index gives one message that names the file and its fault; nothing of it is kept.
@@ -119,27 +106,15 @@ TEST_F(index_test, TellsThatAnArchiveIsMissing) {
   EXPECT_TRUE(menus_open());
 }
 
-TEST_F(index_test, AFolderOfThatNameIsNoArchive) {
-  make_folder("C:\\ostrane.dat");
-  open_archive();
-  EXPECT_EQ(new_messages(), messages{"C:\\ostrane.dat is not found"});
-}
-
 std::string palette_of(char fill) { return std::string(1024, fill); }
 
 TEST_F(index_test, TakesThePaletteFromTheLastRecordThatNamesIt) {
-  open_archive(
-      {{"GAME.PAL", palette_of(1)}, {"  game.pal ", palette_of(2)}, {"X.PAL", palette_of(3)}});
+  std::string last = palette_of(2);
+  last.replace(4 * 9, 4, std::string("\x10\x20\x30\xEE", 4));
+  open_archive({{"GAME.PAL", palette_of(1)}, {"  game.pal ", last}, {"X.PAL", palette_of(3)}});
   EXPECT_EQ(tool_state.colour_table[7], platform::rgb(2, 2, 2));
-  EXPECT_EQ(tool_state.game_pal_offset, 4 + 17 * 4 + 1024);
-}
-
-TEST_F(index_test, ReadsStoredColoursAsBlueGreenRed) {
-  std::string colours = palette_of(0);
-  colours.replace(4 * 9, 4, std::string("\x10\x20\x30\xEE", 4));
-  open_archive({{"GAME.PAL", colours}});
   EXPECT_EQ(tool_state.colour_table[9], 0x102030U);
-  EXPECT_EQ(tool_state.colour_table[10], 0U);
+  EXPECT_EQ(tool_state.game_pal_offset, 4 + 17 * 4 + 1024);
 }
 
 // Without a palette of its own an archive is read at the place where the last one had it.
@@ -155,22 +130,6 @@ TEST_F(index_test, KeepsColoursThatTheFileDoesNotHoldWhole) {
   EXPECT_EQ(tool_state.colour_table[1], 0x7F7F7FU);
   EXPECT_EQ(tool_state.colour_table[2], built_in_2);
   EXPECT_EQ(built_in_2, 0xE0E0E0U);
-}
-
-TEST_F(index_test, APaletteAtOffset0CountsAsNone) {
-  write("C:\\ostrane.dat", index_bytes(2, {{0, "GAME.PAL"}, {38, ""}}) + palette_of(1));
-  open_archive();
-  EXPECT_EQ(tool_state.colour_table[1], 0xF0F0F0U);
-}
-
-// Opening an archive leaves what is shown as it is.
-TEST_F(index_test, DoesNotTouchTheView) {
-  open_archive({{"A.TXT", "hello"}});
-  click_row("A.TXT");
-  open_archive({{"B.TXT", "b"}});
-  EXPECT_EQ(Form1.Text6.Text(), "hello");
-  EXPECT_TRUE(Form1.Text6.Visible());
-  EXPECT_EQ(Form1.Frame1.Caption(), "A.TXT");
 }
 
 }  // namespace

@@ -79,16 +79,6 @@ TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
   EXPECT_EQ(slot(3).Left(), 200 + 2 * 60);
 }
 
-TEST_F(motion_test, StartsAgainAtTheFirstSlot) {
-  show({plain_icons(4, 1, 1)});
-  user::click(Form1.Command5);
-  tick(2);
-  user::click(Form1.Command5);
-  EXPECT_EQ(shown_slots(), slots{});
-  tick();
-  EXPECT_EQ(shown_slots(), slots{1});
-}
-
 // A running motion must not walk into what is shown next, nor past the loaded slots.
 TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
   show({plain_icons(40, 1, 1), plain_icons(2, 1, 1)});
@@ -109,16 +99,6 @@ TEST_F(motion_test, GoesOnBehindATextAndADialog) {
   user::click(Form1.mnu_open);
   tick();
   EXPECT_EQ(shown_slots(), slots{2});
-}
-
-TEST_F(motion_test, WithNothingDrawnItEndsAtTheFirstTick) {
-  user::click(Form1.Command5);
-  tick();
-  EXPECT_FALSE(Form1.Timer1.Enabled());
-  EXPECT_TRUE(can_step());
-  user::click(Form1.Command3);
-  user::click(Form1.Command4);
-  EXPECT_EQ(shown_slots(), slots{});
 }
 
 class report_test : public icon_test {

@@ -132,16 +132,6 @@ TEST_F(series_test, ARowIsAsHighAsItsTallestSlot) {
   EXPECT_EQ(slot(1).Height(), 12 * 15);
 }
 
-TEST_F(series_test, TheFirstSlotIsAlwaysPlaced) {
-  show({{plain_icon(900, 900, 1), plain_icon(1, 1, 2)}});
-  EXPECT_EQ(shown_slots(), slots{1});
-  EXPECT_EQ(slot(1).Left(), 200);
-  user::click(Form1.Command6);
-  EXPECT_EQ(shown_slots(), slots{1});
-  EXPECT_EQ(slot(1).Width(), 45);
-  EXPECT_EQ(slot(1).columns(), 1);
-}
-
 TEST_F(series_test, AnyLimitShowsAtLeastOneIcon) {
   for (const char* text : {"1", "0", "-5"}) {
     type_max_icons(text);
@@ -300,15 +290,6 @@ TEST_F(series_test, AnArchiveThatIsGoneGivesAnEmptySeries) {
   user::click(Form1.Command5);
   user::tick(Form1.Timer1);
   EXPECT_FALSE(Form1.Timer1.Enabled());
-}
-
-// A drawn icon keeps its colours when another archive brings a palette of its own.
-TEST_F(series_test, DrawnIconsKeepTheirColours) {
-  show({plain_icons(2, 1, 1)});
-  const platform::colour before = slot(2).pixel(0, 0);
-  open_archive({palette_entry()});
-  EXPECT_NE(tool_state.colour_table[1], before);
-  EXPECT_EQ(slot(2).pixel(0, 0), before);
 }
 
 }  // namespace

@@ -53,27 +53,6 @@ TEST(shp_writer_test, PacksARowIntoTheFewestBytes) {
   }
 }
 
-TEST(shp_writer_test, SplitsALiteralThatNoControlByteCanCount) {
-  std::string cells;
-  for (int i = 0; i < 128; ++i) cells += i % 2 == 0 ? 'A' : 'B';
-  const std::string stream = bytes({255}) + cells.substr(0, 127) + bytes({3, 'B', 0});
-  EXPECT_EQ(packed(row_of(cells), whole(row_of(cells))), stream);
-}
-
-TEST(shp_writer_test, LeavesAMarginOnEachSide) {
-  picture drawn(6, 5);
-  drawn.set(2, 1, 'A');
-  drawn.set(3, 3, 'B');
-  const shp_icon icon = make_icon(drawn);
-  EXPECT_EQ(icon.head.no_of_rows, 4);
-  EXPECT_EQ(icon.head.no_of_cols, 5);
-  EXPECT_EQ(icon.head.col_start, 2);
-  EXPECT_EQ(icon.head.row_start, 1);
-  EXPECT_EQ(icon.head.col_end, 3);
-  EXPECT_EQ(icon.head.row_end, 3);
-  EXPECT_EQ(icon.stream, bytes({3, 'A', 0, 0, 1, 1, 3, 'B', 0}));
-}
-
 TEST(shp_writer_test, WritesTheDirectoryInFrontOfTheIcons) {
   picture wide(3, 2);
   wide.set(1, 1, 7);
