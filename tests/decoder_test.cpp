@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -135,9 +137,17 @@ TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
   EXPECT_EQ(last_one, (grid{{1, 1, 1}, {2, 3, 4}, {-1, -1, 5}}));
 }
 
-TEST_F(decoder_test, AStreamWithoutAnEndDoesNotHoldTheTool) {
-  decode(head_of_size(2, 2), std::string(200000, '\1'));
-  EXPECT_EQ(cells(), (grid{{-1, -1}, {-1, -1}}));
+// An icon is given the bytes up to the end of its entry and 23 more, and not those behind.
+TEST_F(decoder_test, AnIconEndsWithTheBytesOfItsEntry) {
+  const std::string behind = stream({2, 7}) + std::string(20, '\1') + stream({2, 9, 2, 9});
+  open_archive({{"F1.SHP", samples::shp_file(std::vector<samples::shp_icon>{
+                               {head_of_size(300, 2), stream({2, 5})}})},
+                {"NEXT.BIN", behind},
+                palette_entry()});
+  click_row("F1.SHP");
+  EXPECT_EQ(cells()[0][0], 5);
+  EXPECT_EQ(cells()[0][1], 7);
+  for (const auto& row : cells()) EXPECT_EQ(std::count(row.begin(), row.end(), 9), 0);
 }
 
 }  // namespace

@@ -58,6 +58,7 @@ TEST_F(series_test, DrawsAFileThatFitsWhole) {
   EXPECT_EQ(slot(1).Top(), 800);
   EXPECT_EQ(slot(2).Left(), 260);
   EXPECT_EQ(slot(57).pixel(0, 0), tool_state.colour_table[56]);
+  EXPECT_EQ(slot(57).BackColor(), platform::system_button_face);
   Form1.Text2.Text = "untouched";
   user::click(Form1.Command6);
   EXPECT_EQ(Form1.Text2.Text(), "untouched");
@@ -269,19 +270,52 @@ TEST_F(series_test, ASeriesIsFullAtSlot9999) {
   }
 }
 
-// After a click on an entry of another kind the next series is that of the icons still in view.
+TEST_F(series_test, TheFirstSlotIsAlwaysPlaced) {
+  show({{plain_icon(900, 900, 1), plain_icon(1, 1, 2)}});
+  EXPECT_EQ(shown_slots(), slots{1});
+  user::click(Form1.Command6);
+  EXPECT_EQ(shown_slots(), slots{1});
+  EXPECT_EQ(slot(1).columns(), 1);
+}
+
+// After a click on an entry of another kind the next series is that of the icons still in view,
+// with the bytes of their entry.
 TEST_F(series_test, TheNextSeriesReadsTheEntryThatItsDirectoryCameFrom) {
   type_max_icons("1");
-  show({plain_icons(2, 30, 30), plain_icons(1, 1, 1)});
-  click_row("N.TXT");
+  open_archive({{"A.TXT", ""}, {"F.SHP", samples::shp_file(plain_icons(2, 30, 30))}});
+  click_row("F.SHP");
+  click_row("A.TXT");
   user::click(Form1.Command6);
   EXPECT_EQ(new_messages(), messages{});
   EXPECT_EQ(slot(1).pixel(29, 29), tool_state.colour_table[1]);
 }
 
+// The icons in view have no next series in another archive, nor in one that could not be read.
+TEST_F(series_test, ANextSeriesNeverMixesTwoArchives) {
+  for (const std::string& other :
+       {archive_bytes({{"X.TXT", some_bytes(5000)}}), std::string("?")}) {
+    type_max_icons("1");
+    show({plain_icons(3, 5, 5)});
+    write("C:\\other\\ostrane.dat", other);
+    open_archive("C:\\other");
+    new_messages();
+    user::click(Form1.Command6);
+    EXPECT_EQ(new_messages(), messages{});
+    EXPECT_EQ(Form1.Text3.Text(), " 1 -  1");
+    EXPECT_EQ(slot(1).pixel(4, 4), tool_state.colour_table[0]);
+    user::double_click(Form1.s16_image, 1);
+    EXPECT_FALSE(Form3.Visible());
+  }
+}
+
 TEST_F(series_test, AnArchiveThatIsGoneGivesAnEmptySeries) {
+  type_max_icons("1");
   show({plain_icons(3, 1, 1)});
   std::filesystem::remove(place("C:\\ostrane.dat"));
+  user::click(Form1.Command6);
+  EXPECT_EQ(new_messages().size(), 1U);
+  EXPECT_EQ(shown_slots(), slots{});
+  EXPECT_EQ(Form1.Text2.Text(), "3");
   click_row("F1.SHP");
   EXPECT_EQ(new_messages().size(), 1U);
   EXPECT_EQ(shown_slots(), slots{});

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "archive/chunk_ladder.h"
+#include "archive/entry_bounds.h"
 #include "archive/entry_file_name.h"
 #include "archive/format.h"
 #include "archive/passed_over.h"
@@ -83,9 +84,7 @@ void extract_entry(extraction& job, std::int32_t index) {
   const dat_record& record = tool_state.dat_index[static_cast<std::size_t>(index)];
   const dat_record& next = tool_state.dat_index[static_cast<std::size_t>(index) + 1];
   move_total_bar(job, index);
-  const std::int64_t size = std::int64_t{next.offset} - record.offset;
-  const auto entry_size =
-      static_cast<std::int32_t>(std::clamp<std::int64_t>(size, INT32_MIN, INT32_MAX));
+  const std::int32_t entry_size = in_32_bits(std::int64_t{next.offset} - record.offset);
   const std::string name = name_with_blanks(record.name);
   show_entry_in_work(job, name, index, entry_size);
   std::string fault =

@@ -96,6 +96,8 @@ void read_archive(const std::string& folder) {
   if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
   tool_state.archive_path = platform::with_separator(folder) + "ostrane.dat";
   tool_state.archive_path_copy = tool_state.archive_path;
+  // The icons in view are not this archive's, so there is no next series of them.
+  tool_state.directory_index = -1;
   if (read_index()) {
     Form1.mnu_ext.Enabled = true;
     Form1.mnu_save.Enabled = true;

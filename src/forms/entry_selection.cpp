@@ -79,11 +79,7 @@ void show_double_clicked_entry() {
   tool_state.selected_index = Form1.List1.ListIndex;
   const std::int32_t last =
       std::min<std::int32_t>(tool_state.shp_head.icon_count, tool_state.slots_loaded);
-  for (std::int32_t slot = 1; slot <= last; ++slot) {
-    Form1.s16_image(slot).Cls();
-    Form1.s16_image(slot).Height = 100;
-    Form1.s16_image(slot).Width = 100;
-  }
+  for (std::int32_t slot = 1; slot <= last; ++slot) shrink_slot(slot);
   draw_first_series();
 }
 

@@ -55,7 +55,6 @@ void draw_drawable_icon() {
 void show_blank_icon() {
   size_slot();
   place_icon_slot();
-  stop_behind_last_icon();
 }
 
 void refuse_icon() {
@@ -118,7 +117,8 @@ void show_shp_series() {
 }
 
 void show_next_series() {
-  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count) return;
+  const bool of_open_archive = tool_state.directory_index >= 0;
+  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count || !of_open_archive) return;
   Form1.Text2.Text = "";
   reset_icon_view();
   tool_state.series_full = flag_false;

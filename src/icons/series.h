@@ -5,7 +5,8 @@ namespace ostrane {
 // Shows the first series of the entry `selected_index`, with `Form3` on the screen meanwhile.
 void show_shp_series();
 
-// Shows the series behind the one on show, unless the file is at its end.
+// Shows the series behind the one on show, unless the file is at its end or the archive that it
+// came from is not the open one any more.
 void show_next_series();
 
 // Draws the icons from `next_icon` on, each on a slot of its own, until a stop: the end of the

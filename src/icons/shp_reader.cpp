@@ -1,8 +1,6 @@
 #include "icons/shp_reader.h"
 
-#include <algorithm>
 #include <array>
-#include <limits>
 
 #include "archive/entry_bounds.h"
 #include "forms/form1.h"
@@ -15,11 +13,6 @@
 namespace ostrane {
 
 namespace {
-
-std::int32_t in_32_bits(std::int64_t number) {
-  using limits = std::numeric_limits<std::int32_t>;
-  return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, limits::min(), limits::max()));
-}
 
 std::string selected_name() {
   return std::string(platform::trimmed(Form1.List1.List(Form1.List1.ListIndex)));
@@ -42,13 +35,13 @@ bool read_head(std::int32_t offset) {
   return true;
 }
 
-}  // namespace
-
-void say_that_address_is_invalid(long long icon_position) {
+void say_that_address_is_invalid(std::int64_t icon_position) {
   platform::message_box("The adress of the file: " + selected_name() +
                         " is invalid. Start offset for the shp-file is: " +
                         sign_column_text(icon_position) + ", the picture is not displayed.");
 }
+
+}  // namespace
 
 void say_that_icon_is_refused() {
   const icon_head& head = tool_state.icon_header;
@@ -62,13 +55,12 @@ void say_that_icon_is_refused() {
 }
 
 void read_directory() {
-  const std::int32_t offset =
-      tool_state.dat_index[static_cast<std::size_t>(tool_state.selected_index)].offset;
+  const std::int32_t offset = entry_start(tool_state.selected_index);
   tool_state.directory_index = tool_state.selected_index;
   tool_state.shp_head = {};
-  tool_state.directory_read = flag_true;
   if (!read_head(offset)) {
     say_that_address_is_invalid(std::int64_t{offset} + 1);
+    tool_state.directory_read = flag_true;
     return;
   }
   cut_icon_count();
@@ -80,6 +72,7 @@ void read_directory() {
     tool_state.icon_positions[static_cast<std::size_t>(n)] =
         there ? in_32_bits(std::int64_t{offset} + tool_state.dir_entry.icon_offset + 1) : 0;
   }
+  tool_state.directory_read = flag_true;
 }
 
 void read_icon_head() {

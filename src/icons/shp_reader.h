@@ -13,8 +13,7 @@ void read_directory();
 // place in the file, a message says so and `series_full` becomes true.
 void read_icon_head();
 
-// The two messages about a bad icon.
-void say_that_address_is_invalid(long long icon_position);
+// The message about the icon of `icon_header`.
 void say_that_icon_is_refused();
 
 }  // namespace ostrane

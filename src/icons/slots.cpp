@@ -13,13 +13,17 @@ void load_slot(std::int16_t slot) {
   Form1.s16_image(slot).Visible = false;
 }
 
+void shrink_slot(std::int32_t slot) {
+  Form1.s16_image(slot).Cls();
+  Form1.s16_image(slot).Height = 100;
+  Form1.s16_image(slot).Width = 100;
+}
+
 void clear_slots_for_icons() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
     Form1.s16_image(slot).ToolTipText = icon_tool_tip;
     Form1.s16_image(slot).BackColor = platform::system_button_face;
-    Form1.s16_image(slot).Cls();
-    Form1.s16_image(slot).Height = 100;
-    Form1.s16_image(slot).Width = 100;
+    shrink_slot(slot);
   }
 }
 

@@ -33,11 +33,9 @@ std::string read_text(std::int32_t offset) {
 }  // namespace
 
 void show_text_entry() {
-  const std::int32_t offset =
-      tool_state.dat_index[static_cast<std::size_t>(tool_state.selected_index)].offset;
-  const std::int64_t size = std::int64_t{entry_end(tool_state.selected_index)} - offset;
+  const std::int32_t offset = entry_start(tool_state.selected_index);
   tool_state.entry_bytes_left =
-      static_cast<std::int32_t>(std::clamp<std::int64_t>(size, INT32_MIN, INT32_MAX));
+      in_32_bits(std::int64_t{entry_end(tool_state.selected_index)} - offset);
   Form1.Text6.Text = "";
   try {
     file_1.open_to_read(tool_state.archive_path);

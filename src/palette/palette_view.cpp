@@ -13,9 +13,7 @@ namespace {
 
 void clear_slots() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
-    Form1.s16_image(slot).Cls();
-    Form1.s16_image(slot).Height = 100;
-    Form1.s16_image(slot).Width = 100;
+    shrink_slot(slot);
     Form1.s16_image(slot).Visible = false;
     Form1.s16_image(slot).Refresh();
   }

@@ -1,6 +1,7 @@
 #include "state/load_form1.h"
 
 #include "forms/forms.h"
+#include "icons/slots.h"
 #include "lists/icon_names.h"
 #include "palette/palette_store.h"
 #include "platform/application.h"
@@ -22,11 +23,7 @@ void send_form2_to_drive_c() {
 }
 
 void load_first_slots() {
-  for (std::int16_t i = 1; i <= slots_at_start; ++i) {
-    Form1.s16_image.Load(i);
-    Form1.s16_image(i).ScaleMode = 3;
-    Form1.s16_image(i).Visible = false;
-  }
+  for (std::int16_t slot = 1; slot <= slots_at_start; ++slot) load_slot(slot);
 }
 
 }  // namespace
@@ -51,7 +48,6 @@ void load_form1() {
   Form1.mnu_read_filelist.Enabled = false;
   Form1.Text6.Visible = false;
   tool_state.icon_number = 0;
-  tool_state.slots_loaded = slots_at_start;
 }
 
 }  // namespace ostrane

@@ -41,10 +41,10 @@ struct tool_state_record {
   std::string archive_path_copy;  // always equal to archive_path; what extraction opens
 
   ostrane::shp_head shp_head;
-  ostrane::shp_dir_entry dir_entry;  // the one read last
-  ostrane::icon_head icon_header;    // of the icon in work
-  std::int32_t selected_index = 0;   // index in dat_index of the row clicked in List1
-  std::int32_t directory_index = 0;  // index in dat_index of the entry in icon_positions
+  ostrane::shp_dir_entry dir_entry;   // the one read last
+  ostrane::icon_head icon_header;     // of the icon in work
+  std::int32_t selected_index = 0;    // index in dat_index of the row clicked in List1
+  std::int32_t directory_index = -1;  // index in dat_index of the entry in icon_positions, or -1
   std::string archive_path;
 
   std::array<platform::colour, 256> colour_table = {};
@@ -54,9 +54,9 @@ struct tool_state_record {
   std::array<std::int32_t, most_icons + 1> icon_positions = {};  // in the file, counted from 1
   std::int32_t cur_row = 0;                                      // of the pixel being drawn
   std::int32_t cur_col = 0;
-  std::int16_t run_length = 0;     // of the current operation
-  std::int16_t icon_number = 0;    // of the icon in work, from 1
-  std::int16_t slots_loaded = 12;  // highest loaded index of s16_image; only grows
+  std::int16_t run_length = 0;    // of the current operation
+  std::int16_t icon_number = 0;   // of the icon in work, from 1
+  std::int16_t slots_loaded = 0;  // highest loaded index of s16_image; only grows
   std::int16_t twips_per_pixel_x = 0;
   std::int16_t twips_per_pixel_y = 0;
 
