@@ -34,6 +34,10 @@ void walk(std::vector<std::string>& names, std::string_view path) {
 // A drive's text has a blank behind the colon, as no path has.
 bool is_drive_text(std::string_view path) { return path.size() > 2 && path[2] == ' '; }
 
+[[noreturn]] void say_that_there_is_no_drive(const std::string& path) {
+  throw file_error{file_error_number::device_unavailable, "There is no drive " + path.substr(0, 2)};
+}
+
 std::vector<std::string> names_of(const std::string& whole_path) {
   std::vector<std::string> names;
   walk(names, std::string_view(whole_path).substr(2));
@@ -68,6 +72,7 @@ std::string full_path(const std::string& path) {
   char letter = 0;
   if (path.size() > 1 && path[1] == ':') {
     letter = drive_letter(path);
+    if (letter == 0) say_that_there_is_no_drive(path);
     rest.remove_prefix(2);
     if (is_drive_text(path)) rest = {};
   }
@@ -87,10 +92,7 @@ std::string full_path(const std::string& path) {
 fs::path system_path(const std::string& path) {
   const std::string whole = full_path(path);
   const drive* on = find_drive(whole[0]);
-  if (on == nullptr) {
-    throw file_error{file_error_number::device_unavailable,
-                     "There is no drive " + whole.substr(0, 2)};
-  }
+  if (on == nullptr) say_that_there_is_no_drive(whole);
   fs::path place = on->folder;
   for (const std::string& name : names_of(whole)) place = find_in_folder(place, name);
   return place;

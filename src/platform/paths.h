@@ -12,7 +12,8 @@ std::string with_separator(std::string_view folder);
 
 // The whole path, drive first, for a path that may lack its drive or start at the current folder;
 // "." and ".." are worked out and a root keeps its "\" at the end. A drive's text such as
-// "c: [home]" gives the current folder of that drive.
+// "c: [home]" gives the current folder of that drive. Throws file_error if what stands before the
+// colon is no letter.
 std::string full_path(const std::string& path);
 
 // The letter of the drive that a path or a drive's text names, upper case; 0 if it names none.
