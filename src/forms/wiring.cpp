@@ -58,14 +58,18 @@ void wire_form3() {
   };
 }
 
+// Change of the folder of `Form4` and `Form5`.
+template <typename Form>
+void follow_folder(Form& dialog) {
+  dialog.File1.Path = dialog.Dir1.Path();
+  dialog.Text1.Text = dialog.Dir1.Path();
+  dialog.Dir1.Refresh();
+  dialog.File1.Refresh();
+}
+
 void wire_form4() {
   Form4.Drive1.Change = [] { follow_drive(Form4.Drive1, Form4.Dir1, Form4.File1); };
-  Form4.Dir1.Change = [] {
-    Form4.File1.Path = Form4.Dir1.Path();
-    Form4.Text1.Text = Form4.Dir1.Path();
-    Form4.Dir1.Refresh();
-    Form4.File1.Refresh();
-  };
+  Form4.Dir1.Change = [] { follow_folder(Form4); };
   Form4.Command1.Click = make_new_folder;
   Form4.Command2.Click = extract_all_entries;
   Form4.Command3.Click = cancel_form4;
@@ -73,12 +77,7 @@ void wire_form4() {
 
 void wire_form5() {
   Form5.Drive1.Change = [] { follow_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
-  Form5.Dir1.Change = [] {
-    Form5.File1.Path = Form5.Dir1.Path();
-    Form5.Text1.Text = Form5.Dir1.Path();
-    Form5.Dir1.Refresh();
-    Form5.File1.Refresh();
-  };
+  Form5.Dir1.Change = [] { follow_folder(Form5); };
   Form5.Command1.Click = make_archive;
   Form5.Command2.Click = cancel_form5;
 }

@@ -1,10 +1,6 @@
 #include "platform/application.h"
 
-#include "platform/case_blind.h"
-#include "platform/events.h"
-#include "platform/message_box.h"
 #include "platform/screen.h"
-#include "platform/user.h"
 
 namespace platform {
 
@@ -28,12 +24,6 @@ void end_process() {
 
 bool process_ended() { return ended; }
 
-void begin_process() {
-  ended = false;
-  forget_events();
-  forget_messages();
-  forget_folders();
-  user::forget_focus();
-}
+void forget_end_of_process() { ended = false; }
 
 }  // namespace platform

@@ -20,9 +20,10 @@ extern application_facts application;
 // more.
 void end_process();
 bool process_ended();
+void forget_end_of_process();
 
-// The state of a new process: nothing waits, no message was shown, nothing is remembered of
-// folders.
+// The state of a new process: nothing waits or has the focus, no message was
+// shown, nothing is remembered of folders.
 void begin_process();
 
 }  // namespace platform

@@ -20,6 +20,14 @@ struct waiting_event {
 std::deque<waiting_event> waiting;
 bool running = false;
 
+// Events run while it lives, also if an error of another kind than file_error ends it.
+struct running_mark {
+  running_mark() { running = true; }
+  running_mark(const running_mark&) = delete;
+  running_mark& operator=(const running_mark&) = delete;
+  ~running_mark() { running = false; }
+};
+
 void run_one(const std::function<void()>& handler) {
   try {
     handler();
@@ -39,14 +47,13 @@ void run_event(const std::function<void()>& handler, const void* key) {
     waiting.push_back({handler, key});
     return;
   }
-  running = true;
+  const running_mark mark;
   run_one(handler);
   while (!waiting.empty() && !process_ended()) {
     const waiting_event next = waiting.front();
     waiting.pop_front();
     run_one(next.handler);
   }
-  running = false;
 }
 
 bool handler_running() { return running; }

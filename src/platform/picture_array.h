@@ -21,7 +21,7 @@ class picture_array {
     return *elements_.at(static_cast<std::size_t>(index));
   }
 
-  // Makes the next element, hidden until shown, with the present colour and tool tip of element 0.
+  // Makes the next element, hidden until shown, designed as element 0 is.
   void Load(std::int32_t index) {
     if (index != loaded()) return;
     design as_element_0 = elements_.front()->designed;

@@ -65,7 +65,7 @@ void select_row(list_box& list, std::int32_t row) {
 
 void double_click(list_box& list, std::int32_t row) {
   run_event([&list, row] {
-    if (list.takes_input() && row == list.ListIndex()) raise(list.DblClick);
+    if (list.takes_input() && row >= 0 && row == list.ListIndex()) raise(list.DblClick);
   });
 }
 
