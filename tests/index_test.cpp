@@ -43,7 +43,7 @@ TEST_F(index_test, TakesEveryCountInRange) {
   } cases[] = {
       {index_bytes(1, {{21, ""}}), 1, "0"},
       {index_bytes(0, {}), 0, "-1"},
-      {index_bytes(32768, std::vector<std::pair<std::int32_t, std::string>>(32768, {0, "A"})),
+      {index_bytes(32768, std::vector<std::pair<std::int32_t, std::string>>(32768, {0, "A.TXT"})),
        32768, "32767"},
   };
   for (const auto& c : cases) {
@@ -53,6 +53,8 @@ TEST_F(index_test, TakesEveryCountInRange) {
     EXPECT_EQ(Form1.List1.ListCount(), c.rows);
     EXPECT_EQ(Form1.Text1.Text(), c.text1);
     EXPECT_TRUE(menus_open());
+    if (c.rows > 1) user::select_row(Form1.List1, c.rows - 1);
+    EXPECT_EQ(Form1.Text6.Text(), "");
   }
 }
 
@@ -90,6 +92,14 @@ TEST_F(index_test, RefusesADamagedIndexWhole) {
   }
 }
 
+TEST_F(index_test, TellsOfAnArchiveThatCannotBeOpened) {
+  std::filesystem::create_symlink("/dev/null", place("C:\\ostrane.dat"));
+  open_archive();
+  EXPECT_EQ(new_messages(), messages{"C:\\ostrane.dat cannot be opened: access is not allowed."});
+  EXPECT_FALSE(Form1.mnu_ext.Enabled());
+  EXPECT_FALSE(Form2.Visible());
+}
+
 TEST_F(index_test, TellsThatAnArchiveIsMissing) {
   make_folder("C:\\empty");
   open_archive("C:\\empty");
@@ -115,6 +125,15 @@ TEST_F(index_test, TakesThePaletteFromTheLastRecordThatNamesIt) {
   EXPECT_EQ(tool_state.colour_table[7], platform::rgb(2, 2, 2));
   EXPECT_EQ(tool_state.colour_table[9], 0x102030U);
   EXPECT_EQ(tool_state.game_pal_offset, 4 + 17 * 4 + 1024);
+}
+
+TEST_F(index_test, APaletteOutsideTheFileCountsAsNone) {
+  for (const std::int32_t offset : {0, -5, 2147483647}) {
+    begin();
+    write("C:\\ostrane.dat", index_bytes(2, {{offset, "GAME.PAL"}, {38, ""}}) + palette_of(1));
+    open_archive();
+    EXPECT_EQ(tool_state.colour_table[1], 0xF0F0F0U) << offset;
+  }
 }
 
 // Without a palette of its own an archive is read at the place where the last one had it.

@@ -6,13 +6,13 @@
 
 #include "crests.h"
 #include "forms/forms.h"
+#include "game_palette.h"
 #include "gems.h"
 #include "platform/drives.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
 #include "rocket.h"
 #include "state/start_up.h"
-#include "state/tool_state.h"
 #include "tiles.h"
 #include "vistas.h"
 #include "worlds.h"
@@ -46,16 +46,26 @@ class sample_test : public testing::Test {
   }
 };
 
+std::vector<platform::colour> game_colours() {
+  const std::string bytes = samples::game_palette();
+  const auto byte = [&](std::size_t at) { return static_cast<std::uint8_t>(bytes.at(at)); };
+  std::vector<platform::colour> colours;
+  for (std::size_t i = 0; i < 256; ++i) {
+    colours.push_back(platform::rgb(byte(4 * i + 2), byte(4 * i + 1), byte(4 * i)));
+  }
+  return colours;
+}
+
 // Cells of a slot that differ from the picture that was drawn.
 int wrong_cells(const platform::picture_box& slot, const samples::picture& drawn) {
+  static const std::vector<platform::colour> colours = game_colours();
   if (slot.columns() != drawn.columns() || slot.rows() != drawn.rows()) return -1;
   int wrong = 0;
   for (int row = 0; row < drawn.rows(); ++row) {
     for (int column = 0; column < drawn.columns(); ++column) {
       const platform::colour expected =
-          drawn.is_set(column, row)
-              ? tool_state.colour_table[static_cast<std::size_t>(drawn.at(column, row))]
-              : platform::picture_box::unset;
+          drawn.is_set(column, row) ? colours[static_cast<std::size_t>(drawn.at(column, row))]
+                                    : platform::picture_box::unset;
       if (slot.pixel(column, row) != expected) ++wrong;
     }
   }
