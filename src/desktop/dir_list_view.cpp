@@ -36,8 +36,8 @@ int dir_list_view::indent(int row) const {
 
 void dir_list_view::paint_mark(QPainter& painter, const QRect& where, int row) const {
   painter.save();
-  painter.translate(where.left() + at(row).depth * pixels_per_depth,
-                    where.top() + (where.height() - icon_height) / 2);
+  painter.translate(QPoint(where.left() + at(row).depth * pixels_per_depth,
+                           where.top() + (where.height() - icon_height) / 2));
   paint_folder(painter, at(row).open);
   painter.restore();
 }

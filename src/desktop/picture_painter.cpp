@@ -77,7 +77,8 @@ void paint_picture(QPainter& painter, const picture_box& box, const QRect& place
   if (part.isEmpty()) return;
   const std::vector<QRgb>& rows = converted(box, part.translated(-inner.topLeft()), ground.rgb());
   const QImage image(reinterpret_cast<const uchar*>(rows.data()), part.width(), part.height(),
-                     part.width() * static_cast<int>(sizeof(QRgb)), QImage::Format_RGB32);
+                     qsizetype{part.width()} * static_cast<qsizetype>(sizeof(QRgb)),
+                     QImage::Format_RGB32);
   painter.drawImage(part.topLeft(), image);
 }
 

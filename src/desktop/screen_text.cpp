@@ -31,7 +31,7 @@ QString without_shortcut(QString caption) {
 }
 
 QString as_tool_tip(const std::string& text) {
-  const QString plain = to_screen(text);
+  QString plain = to_screen(text);
   if (plain.size() <= longest_plain_tool_tip && !Qt::mightBeRichText(plain)) return plain;
   return QStringLiteral("<p style=\"white-space:pre-wrap\">") + plain.toHtmlEscaped() +
          QStringLiteral("</p>");

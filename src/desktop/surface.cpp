@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/look.h"
@@ -78,10 +79,9 @@ void surface::paintEvent(QPaintEvent* event) {
 }
 
 const surface::picture* surface::picture_at(const QPoint& position) const {
-  for (auto p = pictures_.rbegin(); p != pictures_.rend(); ++p) {
-    if (p->place.contains(position)) return &*p;
-  }
-  return nullptr;
+  const auto found = std::find_if(pictures_.rbegin(), pictures_.rend(),
+                                  [&](const picture& p) { return p.place.contains(position); });
+  return found == pictures_.rend() ? nullptr : &*found;
 }
 
 bool surface::event(QEvent* event) {

@@ -69,6 +69,7 @@ std::vector<QWidget*> views::in_tab_order(const platform::form& shown) const {
     return a->control.designed.tab_index < b->control.designed.tab_index;
   });
   std::vector<QWidget*> widgets;
+  widgets.reserve(in_order.size());
   for (control_view* view : in_order) widgets.push_back(&view->widget());
   return widgets;
 }
