@@ -24,10 +24,8 @@ class recording_screen : public platform::screen {
 
   // Forgets the values; the bar stands at one that no job gives it.
   void begin_bars() {
-    Form3.ProgressBar1.Value = -1;
-    Form3.ProgressBar2.Value = -1;
-    values_1.clear();
-    values_2.clear();
+    for (auto* bar : {&Form3.ProgressBar1, &Form3.ProgressBar2}) bar->Value = -1;
+    values_1 = values_2 = {};
   }
 
   void refresh(platform::form& shown) override {
