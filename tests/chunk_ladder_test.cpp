@@ -71,16 +71,5 @@ TEST_F(chunk_ladder_test, TakesTheBlocksOfEachAmount) {
   }
 }
 
-TEST_F(chunk_ladder_test, CopiesWhatAShortSourceHas) {
-  for (const std::size_t there : {0, 1, 1030, 8192, 50001}) {
-    const std::string bytes = some_bytes(there + 3);
-    write("C:\\source", bytes);
-    std::int16_t small = 0;
-    EXPECT_EQ(copy(100000, small), there);
-    EXPECT_EQ(read("C:\\destination"), "abc" + bytes.substr(3));
-    EXPECT_EQ(screen.values_1.size(), there / 8192 + 1);  // no block behind the one cut short
-  }
-}
-
 }  // namespace
 }  // namespace ostrane

@@ -121,7 +121,6 @@ TEST_F(compare_test, WhatCannotBeReadOrWrittenIsToldAndTheDialogStays) {
   const std::string nothing = " Nothing was compared.";
   const std::pair<const char*, std::string> cases[] = {
       {"  ", "No shiplist is chosen. Click one in the list of files."},
-      {"gone.txt", "D:\\gone.txt cannot be opened: it is not there." + nothing},
       {" folder.txt ", "D:\\folder.txt cannot be opened: it is a folder." + nothing},
       {"long.txt", "D:\\long.txt has more than 32768 lines." + nothing},
       {"list.txt", "C:\\Shiplist-compare.txt cannot be opened: it is a folder." + nothing},

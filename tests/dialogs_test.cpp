@@ -123,19 +123,5 @@ TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
   }
 }
 
-TEST_F(dialogs_test, TheCompareDialogShowsTheChosenFile) {
-  write("D:\\a.txt", "");
-  write("D:\\b.txt", "");
-  begin("D:\\");
-  open_archive({{"A.TXT", "a"}});
-  user::click(Form1.mnu_read_filelist);
-  for (const auto& [row, name] : {std::pair{1, "b.txt"}, {0, "a.txt"}, {5, "a.txt"}}) {
-    user::select_file(Form6.File1, row);
-    EXPECT_EQ(Form6.Text1.Text(), name);
-  }
-  Form6.Dir1.Path = "C:\\";
-  EXPECT_EQ(Form6.File1.FileName() + Form6.Text1.Text(), "a.txt");
-}
-
 }  // namespace
 }  // namespace ostrane

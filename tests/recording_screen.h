@@ -58,4 +58,13 @@ class recording_screen : public platform::screen {
   }
 };
 
+// The progress window as it is in a job, or as a job leaves it.
+inline void expect_progress(const char* caption, bool working) {
+  EXPECT_EQ(Form3.Caption(), caption);
+  EXPECT_EQ(Form3.Visible(), working);
+  const platform::control* shown[] = {&Form3.ProgressBar1, &Form3.ProgressBar2, &Form3.Label1,
+                                      &Form3.Label2};
+  for (const platform::control* control : shown) EXPECT_EQ(control->Visible(), working);
+}
+
 }  // namespace ostrane
