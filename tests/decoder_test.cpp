@@ -137,6 +137,14 @@ TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
   EXPECT_EQ(last_one, (grid{{1, 1, 1}, {2, 3, 4}, {-1, -1, 5}}));
 }
 
+// A stream that goes on and on without painting must not hold the tool for as long as it lasts.
+TEST_F(decoder_test, AnEndlessStreamIsGivenUp) {
+  std::string skips;
+  for (int i = 0; i < 100000; ++i) skips += stream({1, 0});
+  decode(head_of_size(2, 1), stream({2, 5}) + skips + stream({2, 9, 0}));
+  EXPECT_EQ(cells(), (grid{{5, -1}}));
+}
+
 // An icon is given the bytes up to the end of its entry and 23 more, and not those behind.
 TEST_F(decoder_test, AnIconEndsWithTheBytesOfItsEntry) {
   const std::string behind = stream({2, 7}) + std::string(20, '\1') + stream({2, 9, 2, 9});

@@ -1,5 +1,6 @@
 #include "icons/shp_reader.h"
 
+#include <algorithm>
 #include <array>
 
 #include "archive/entry_bounds.h"
@@ -39,6 +40,14 @@ void say_that_address_is_invalid(std::int64_t icon_position) {
   platform::message_box("The adress of the file: " + selected_name() +
                         " is invalid. Start offset for the shp-file is: " +
                         sign_column_text(icon_position) + ", the picture is not displayed.");
+}
+
+// Far more bytes than a picture of this size has use for. Without such a bound a small directory
+// that names one long stream again and again would keep the tool busy for minutes.
+std::int64_t most_stream_bytes(const icon_head& head) {
+  const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
+  const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
+  return 16 * rows * columns + 65536;
 }
 
 }  // namespace
@@ -86,8 +95,10 @@ void read_icon_head() {
     return;
   }
   tool_state.icon_header = decode_icon_head(bytes);
+  const std::int64_t to_end_of_entry =
+      std::int64_t{entry_end(tool_state.directory_index)} - position;
   tool_state.entry_bytes_left =
-      in_32_bits(std::int64_t{entry_end(tool_state.directory_index)} - position);
+      in_32_bits(std::min(to_end_of_entry, most_stream_bytes(tool_state.icon_header)));
   tool_state.read_buffer_fill = 0;
   tool_state.read_buffer_pos = 0;
 }
