@@ -69,11 +69,5 @@ TEST(Text, ReadsNumbersAndNothingElse) {
   EXPECT_GT(as_number("9e999").value_or(0), 1e308);
 }
 
-TEST(Text, TrimsBlanksAlone) {
-  EXPECT_EQ(trimmed("  \ta b\t "), "\ta b\t");
-  EXPECT_EQ(trimmed("   "), "");
-  EXPECT_EQ(last_characters("ab", 4), "ab");
-}
-
 }  // namespace
 }  // namespace platform

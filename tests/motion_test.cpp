@@ -91,16 +91,6 @@ TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
   EXPECT_EQ(Form1.Text3.Text(), " 1 -  2");
 }
 
-TEST_F(motion_test, GoesOnBehindATextAndADialog) {
-  show({plain_icons(3, 1, 1)});
-  user::click(Form1.Command5);
-  tick();
-  click_row("N.TXT");
-  user::click(Form1.mnu_open);
-  tick();
-  EXPECT_EQ(shown_slots(), slots{2});
-}
-
 class report_test : public icon_test {
  protected:
   void report(std::int32_t index) { user::double_click(Form1.s16_image, index); }

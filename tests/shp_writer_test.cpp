@@ -53,17 +53,5 @@ TEST(shp_writer_test, PacksARowIntoTheFewestBytes) {
   }
 }
 
-TEST(shp_writer_test, WritesTheDirectoryInFrontOfTheIcons) {
-  picture wide(3, 2);
-  wide.set(1, 1, 7);
-  const std::string file = shp_file({row_of("A"), wide});
-  const std::string expected =
-      bytes({'I', 'C', 'O', 'N', 2, 0, 0, 0}) +
-      bytes({24, 0, 0, 0, 0, 0, 0, 0, 51, 0, 0, 0, 0, 0, 0, 0}) + bytes({0, 0, 0, 0, 0, 0, 0, 0}) +
-      std::string(16, '\0') + bytes({3, 'A', 0}) + bytes({1, 0, 2, 0, 0, 0, 0, 0}) +
-      bytes({1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0}) + bytes({3, 7, 0});
-  EXPECT_EQ(file, expected);
-}
-
 }  // namespace
 }  // namespace ostrane::samples
