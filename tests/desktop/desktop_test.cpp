@@ -8,7 +8,6 @@
 #include <QPaintEvent>
 #include <QPushButton>
 #include <QTest>
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
@@ -25,16 +24,10 @@
 
 namespace {
 
-using desktop::qt_screen;
-
 // A form with a control of each kind that the user works with. Twips.
 struct small_form : platform::form {
   small_form()
-      : form({.name = "small",
-              .client_width = 6000,
-              .client_height = 4500,
-              .control_box = true,
-              .resizable = true}) {}
+      : form({.name = "small", .client_width = 6000, .client_height = 4500, .control_box = true}) {}
 
   platform::list_box List{*this, {.name = "List", .at = {0, 0, 1500, 3000}, .tab_index = 0}};
   platform::text_box Field{
@@ -89,7 +82,7 @@ class Desktop : public ::testing::Test {
     return window;
   }
 
-  qt_screen screen;
+  desktop::qt_screen screen;
   small_form form;
 };
 
@@ -103,15 +96,13 @@ TEST_F(Desktop, APictureIsOnTheScreenPixelByPixel) {
   picture.Visible = true;
   QWidget& window = show(form);
   const QImage frame = widget_of(window, form.Frame)->grab().toImage();
-  const std::map<QRgb, char> letters = {{qRgb(255, 0, 0), 'R'},
-                                        {qRgb(1, 2, 250), 'B'},
-                                        {qRgb(9, 8, 7), '-'},
-                                        {frame.pixel(19, 19), ' '},
-                                        {frame.pixel(20, 20), '#'}};
+  std::map<QRgb, char> letters = {
+      {qRgb(255, 0, 0), 'R'}, {qRgb(1, 2, 250), 'B'}, {qRgb(9, 8, 7), '-'}};
+  letters[frame.pixel(20, 20)] = '#';
+  letters[frame.pixel(19, 19)] = ' ';
   std::string seen;
   for (int y = 19; y < 27; ++y) {
-    for (int x = 19; x < 26; ++x)
-      seen += letters.count(frame.pixel(x, y)) == 0 ? '?' : letters.at(frame.pixel(x, y));
+    for (int x = 19; x < 26; ++x) seen += letters[frame.pixel(x, y)];  // NUL for any other colour
     seen += '|';
   }
   EXPECT_EQ(seen,
@@ -243,9 +234,7 @@ TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
 }
 
 double luminance(const QColor& c) {
-  const auto linear = [](double v) {
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-  };
+  const auto linear = [](double v) { return std::pow(v, 2.2); };
   return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
 }
 
