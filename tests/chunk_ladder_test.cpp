@@ -34,28 +34,12 @@ std::vector<float> bar_values(const amount_case& c, std::int16_t& small) {
   return values;
 }
 
-class chunk_ladder_test : public tool_test {
- protected:
-  // Copies from behind the first 3 bytes of a file to behind those of another, afresh.
-  std::int32_t copy(std::int32_t amount, std::int16_t& small) {
-    screen.begin_bars();
-    std::filesystem::remove(place("C:\\destination"));
-    platform::binary_file source;
-    platform::binary_file destination;
-    source.open_to_read("C:\\source");
-    source.seek(3);
-    destination.open_to_write("C:\\destination");
-    destination.write(std::as_bytes(std::span("abc", 3)));
-    const std::int32_t copied = chunk_ladder(source, destination, amount, small);
-    destination.close();
-    return copied;
-  }
+using chunk_ladder_test = tool_test;
 
-  recording_screen screen;
-};
-
-// Which blocks are taken shows in the values of the bar, from every count of small bytes.
+// Copies from behind the first 3 bytes of a file to behind those of another. Which blocks are taken
+// shows in the values of the bar, from every count of small bytes.
 TEST_F(chunk_ladder_test, TakesTheBlocksOfEachAmount) {
+  recording_screen screen;
   const std::string bytes = some_bytes(100100);
   write("C:\\source", bytes);
   for (const amount_case& c : amounts) {
@@ -63,7 +47,16 @@ TEST_F(chunk_ladder_test, TakesTheBlocksOfEachAmount) {
     for (int start = 1024; start >= 0; start -= 32) {
       auto small = static_cast<std::int16_t>(start);
       std::int16_t small_expected = small;
-      ASSERT_EQ(copy(c.amount, small), copied);
+      screen.begin_bars();
+      std::filesystem::remove(place("C:\\destination"));
+      platform::binary_file source;
+      platform::binary_file destination;
+      source.open_to_read("C:\\source");
+      source.seek(3);
+      destination.open_to_write("C:\\destination");
+      destination.write(std::as_bytes(std::span("abc", 3)));
+      ASSERT_EQ(chunk_ladder(source, destination, c.amount, small), copied);
+      destination.close();
       ASSERT_EQ(screen.values_1, bar_values(c, small_expected)) << c.amount << " " << start;
       ASSERT_EQ(small, small_expected) << c.amount << " " << start;
       ASSERT_EQ(read("C:\\destination"), "abc" + bytes.substr(3, static_cast<std::size_t>(copied)));

@@ -40,9 +40,10 @@ class dialogs_test : public tool_test {
  protected:
   // Calls `check` with each dialog open in a tool of its own, with an archive read.
   template <typename Check>
-  void with_each(const Check& check, const std::string& current = "D:\\") {
+  void with_each(const Check& check) {
+    make_folder("D:\\Sub");
     for (int i = 0; i < 4; ++i) {
-      begin(current);
+      begin("D:\\Sub");
       open_archive({{"A.TXT", "a"}});
       const dialog dialogs[] = {dialog_of(Form2, nullptr, Form1.mnu_open, Form2.Command2),
                                 dialog_of(Form4, &Form4.Text1, Form1.mnu_ext, Form4.Command3),
@@ -72,13 +73,13 @@ TEST_F(dialogs_test, HandsOverAndBack) {
 
 TEST_F(dialogs_test, ListsTheFilesOfItsPattern) {
   for (const char* name : {"OsTrane.Dat", "b.TXT", "a.txt", "c.bin"}) {
-    write(std::string("D:\\sub\\") + name, "");
+    write(std::string("D:\\Sub\\") + name, "");
   }
   const texts all = {"a.txt", "b.TXT", "c.bin", "OsTrane.Dat"};
   const std::map<platform::form*, texts> expected = {
       {&Form2, {"OsTrane.Dat"}}, {&Form4, all}, {&Form5, all}, {&Form6, {"a.txt", "b.TXT"}}};
   with_each([&](const dialog& d) {
-    d.Dir1.Path = "D:\\sub";
+    d.Dir1.Path = "D:\\Sub";
     texts names;
     for (std::int32_t row = 0; row < d.File1.ListCount(); ++row) names.push_back(d.File1.List(row));
     EXPECT_EQ(names, expected.at(&d.window));
@@ -88,35 +89,31 @@ TEST_F(dialogs_test, ListsTheFilesOfItsPattern) {
 // Begins where the tool does, the first dialog on drive C:. A change carries through from the drive
 // to the folder, the files and the field, and stays.
 TEST_F(dialogs_test, FollowsTheDriveAndKeepsTheFolderWhenCancelled) {
-  make_folder("D:\\Sub");
-  with_each(
-      [](const dialog& d) {
-        EXPECT_EQ(d.place(), d.place("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", ""));
-        d.choose('c');
-        EXPECT_EQ(d.place(), d.place("c: [test]", "C:\\", "C:\\"));
-        d.choose('d');
-        user::open_folder(d.Dir1, 1);
-        for (int time = 0; time < 2; ++time) {
-          EXPECT_EQ(d.place(), d.place("d: [other]", "D:\\Sub", "D:\\Sub"));
-          user::click(d.cancel);
-          user::click(d.menu);
-        }
-      },
-      "D:\\Sub");
+  with_each([](const dialog& d) {
+    EXPECT_EQ(d.place(), d.place("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", ""));
+    d.choose('c');
+    EXPECT_EQ(d.place(), d.place("c: [test]", "C:\\", "C:\\"));
+    d.choose('d');
+    user::open_folder(d.Dir1, 1);
+    for (int time = 0; time < 2; ++time) {
+      EXPECT_EQ(d.place(), d.place("d: [other]", "D:\\Sub", "D:\\Sub"));
+      user::click(d.cancel);
+      user::click(d.menu);
+    }
+  });
 }
 
 // It goes to drive C:. Where that does not answer either it stays where it was, and says so once.
 TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
-  make_folder("D:\\sub");
   for (const bool c_answers : {true, false}) {
     with_each([&](const dialog& d) {
-      d.Dir1.Path = "D:\\sub";
+      d.Dir1.Path = "D:\\Sub";
       if (d.Text1 != nullptr) user::type(*d.Text1, "typed");
       if (!c_answers) fs::rename(root / "c", root / "away");
       d.choose('e');
       EXPECT_EQ(new_messages(), texts{failure_of("e: []")});
       EXPECT_EQ(d.place(), c_answers ? d.place("c: [test]", "C:\\", "C:\\")
-                                     : d.place("d: [other]", "D:\\sub", "typed"));
+                                     : d.place("d: [other]", "D:\\Sub", "typed"));
       EXPECT_TRUE(d.window.Visible());
       if (!c_answers) fs::rename(root / "away", root / "c");
     });

@@ -33,12 +33,14 @@ const std::string refusal = "These entries were not extracted:";
 TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   std::vector<entry> entries;
   files expected;
-  for (const auto& [name, written] : std::vector<std::pair<std::string, std::string>>{
-           {"EMPTY", "EMPTY"},
-           {"ABCDEFGHI.SHP", "ABCDEFGHI.SHP"},
-           {std::string("\0A\0 B.TXT\0\0", 10), "A  B.TXT"},
-           {" c.txt ", "c.txt"},
-           {"\xC9T\xC9.TXT", "\xC3\x89T\xC3\x89.TXT"}}) {
+  const std::pair<std::string, std::string> names[] = {
+      {"EMPTY", "EMPTY"},
+      {"ABCDEFGHI.SHP", "ABCDEFGHI.SHP"},
+      {" c.txt ", "c.txt"},
+      {std::string("\0A\0 B.TXT\0\0", 10), "A  B.TXT"},
+      {"\xC9T\xC9", "\xC3\x89T\xC3\x89"},
+  };
+  for (const auto& [name, written] : names) {
     entries.push_back({name, some_bytes(3001 * entries.size())});
     expected[written] = entries.back().bytes;
   }
