@@ -43,7 +43,6 @@ class recording_screen : public platform::screen {
     if (at_message) at_message();
   }
 
-  void control_added(platform::control&) override {}
   void form_changed(platform::form&, platform::aspect) override {}
   void menu_changed(platform::form&, platform::menu_item&) override {}
   void timer_changed(platform::timer&) override {}

@@ -16,10 +16,6 @@ qt_screen::qt_screen() { qApp->installEventFilter(&gate_); }
 
 qt_screen::~qt_screen() = default;
 
-void qt_screen::control_added(platform::control& added) {
-  control_changed(added, platform::aspect::place);
-}
-
 void qt_screen::control_changed(platform::control& changed, platform::aspect what) {
   if (views_.note(changed, what)) catch_up_soon();
 }

@@ -21,7 +21,6 @@ class qt_screen : public platform::screen {
   qt_screen();
   ~qt_screen() override;
 
-  void control_added(platform::control& added) override;
   void control_changed(platform::control& changed, platform::aspect what) override;
   void form_changed(platform::form& changed, platform::aspect what) override;
   void menu_changed(platform::form& owner, platform::menu_item& changed) override;

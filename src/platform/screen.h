@@ -19,7 +19,6 @@ class screen {
   screen& operator=(const screen&) = delete;
   virtual ~screen() = default;
 
-  virtual void control_added(control& added) = 0;
   virtual void control_changed(control& changed, aspect what) = 0;
   virtual void form_changed(form& changed, aspect what) = 0;
   virtual void menu_changed(form& owner, menu_item& changed) = 0;
