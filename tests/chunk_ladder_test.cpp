@@ -64,5 +64,20 @@ TEST_F(chunk_ladder_test, TakesTheBlocksOfEachAmount) {
   }
 }
 
+TEST_F(chunk_ladder_test, StopsWhereAShortSourceEnds) {
+  for (const std::size_t there : {0, 1, 1030, 8192, 50001}) {
+    recording_screen screen;
+    write("C:\\source", some_bytes(there));
+    platform::binary_file source;
+    platform::binary_file destination;
+    source.open_to_read("C:\\source");
+    destination.open_to_write("C:\\destination");
+    std::int16_t small = 0;
+    screen.begin_bars();
+    EXPECT_EQ(chunk_ladder(source, destination, 100000, small), there);
+    EXPECT_EQ(screen.values_1.size(), there / 8192 + 1);  // no block behind the one cut short
+  }
+}
+
 }  // namespace
 }  // namespace ostrane

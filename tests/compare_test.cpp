@@ -112,9 +112,11 @@ TEST_F(compare_test, WhatCannotBeReadOrWrittenIsToldAndTheDialogStays) {
   const std::pair<const char*, std::string> cases[] = {
       {"  ", "No shiplist is chosen. Click one in the list of files."},
       {" folder.txt ", "D:\\folder.txt cannot be opened: it is a folder." + nothing},
+      {"many.txt", "D:\\many.txt has more than 32768 lines." + nothing},
       {"list.txt", "C:\\Shiplist-compare.txt cannot be opened: it is a folder." + nothing},
   };
   write("D:\\list.txt", "A\r\n");
+  write("D:\\many.txt", std::string(32769, '\n'));
   make_folder("D:\\folder.txt");
   make_folder("C:\\Shiplist-compare.txt");
   open_names({"A"});

@@ -225,15 +225,6 @@ TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
   EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(Desktop, AWindowComesBackWithTheFocusWhereItWas) {
-  QWidget& window = show(form);
-  widget_of(window, form.Field)->setFocus();
-  platform::run_event([&] { form.Visible = false; });
-  QCoreApplication::processEvents();
-  show(form);
-  EXPECT_EQ(window.focusWidget(), widget_of(window, form.Field));
-}
-
 double luminance(const QColor& c) {
   const auto linear = [](double v) { return std::pow(v, 2.2); };
   return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
