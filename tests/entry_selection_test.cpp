@@ -1,3 +1,4 @@
+#include "recording_screen.h"
 #include "shp_writer.h"
 #include "tool_fixture.h"
 
@@ -135,6 +136,24 @@ TEST_F(entry_selection_test, ShowsTextsWhole) {
   click_row("EMPTY.TXT");
   EXPECT_EQ(Form1.Text6.Text(), "");
   EXPECT_TRUE(Form1.Text6.Visible());
+}
+
+struct text_watch : recording_screen {
+  int writes = 0;
+  void control_changed(platform::control& changed, platform::aspect what) override {
+    if (&changed == &Form1.Text6 && what == platform::aspect::text) ++writes;
+  }
+};
+
+TEST_F(entry_selection_test, ShowsALongTextInOnePieceAndUpTo16MiB) {
+  constexpr std::int32_t size = 17 << 20;
+  write("C:\\ostrane.dat", index_bytes(2, {{38, "A.TXT"}, {38 + size, ""}}));
+  std::filesystem::resize_file(place("C:\\ostrane.dat"), 38 + size);
+  open_archive();
+  text_watch screen;
+  click_row("A.TXT");
+  EXPECT_TRUE(Form1.Text6.Text() == std::string(16U << 20U, ' '));
+  EXPECT_EQ(screen.writes, 1);
 }
 
 TEST_F(entry_selection_test, ShowsOfABadlyPlacedTextWhatThereIs) {

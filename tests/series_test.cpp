@@ -236,6 +236,19 @@ TEST_F(series_test, ADirectoryThatIsNotThereStopsTheSeries) {
   EXPECT_EQ(shown_slots(), slots{});
 }
 
+TEST_F(series_test, AnEntryOutsideTheFileHasNoIcons) {
+  constexpr std::int32_t least = -2147483647 - 1;
+  write("C:\\ostrane.dat",
+        index_bytes(4, {{-1, "A.SHP"}, {500000, "B.SHP"}, {least, "C.SHP"}, {72, ""}}));
+  open_archive();
+  for (const auto& [name, number] :
+       {std::pair{"A.SHP", " 0"}, {"B.SHP", " 500001"}, {"C.SHP", "-2147483647"}}) {
+    click_row(name);
+    EXPECT_EQ(new_messages(), messages{invalid_address(name, number)});
+    EXPECT_EQ(Form1.Text2.Text(), "0");
+  }
+}
+
 TEST_F(series_test, CountsOutOfReachEndInAnOrderlyWay) {
   const std::string one = samples::shp_file(plain_icons(1, 1, 1));
   for (const std::int32_t count : {0, -1, -2147483647 - 1}) {
