@@ -7,6 +7,7 @@
 #include "platform/application.h"
 #include "platform/file_error.h"
 #include "state/tool_state.h"
+#include "state/version.h"
 
 namespace ostrane {
 
@@ -29,7 +30,7 @@ void load_first_slots() {
 }  // namespace
 
 void load_form1() {
-  tool_state.program_title = "Ostrane.dat-tool - v2r1m0";
+  tool_state.program_title = std::string("Ostrane.dat-tool - ") + version;
   tool_state.app_path = platform::application.Path;
   tool_state.max_icons = 300;
   Form1.Caption = tool_state.program_title;
