@@ -1,32 +1,41 @@
 #include <QApplication>
+#include <QIcon>
 #include <clocale>
-#include <filesystem>
 
+#include "desktop/command_line.h"
 #include "desktop/desktop_style.h"
 #include "desktop/look.h"
+#include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
 #include "platform/paths.h"
 #include "state/start_up.h"
 
 namespace {
 
-std::string program_folder() {
-  return platform::tool_path(
-      std::filesystem::path(QCoreApplication::applicationDirPath().toStdString()));
+// Some desktops take the icon from the window, others from the desktop entry of this name.
+void set_program_icon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) {
+    icon.addFile(QStringLiteral(":/icons/ostrane-dat-tool-%1.png").arg(size));
+  }
+  QApplication::setWindowIcon(icon);
+  QGuiApplication::setDesktopFileName(QStringLiteral("ostrane-dat-tool"));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (desktop::answer_command_line(argc, argv)) return 0;
   const QApplication application(argc, argv);
   // Qt takes the user's locale for the whole process; numbers of the tool have their own form.
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setStyle(new desktop::desktop_style);
   QApplication::setFont(desktop::font_for({}));
   QApplication::setQuitOnLastWindowClosed(false);
+  set_program_icon();
   desktop::qt_screen screen;
   platform::attach_screen(&screen);
-  ostrane::begin_tool(program_folder());
+  ostrane::begin_tool(platform::tool_path(desktop::program_folder()));
   const int outcome = QApplication::exec();
   platform::attach_screen(nullptr);
   return outcome;
