@@ -1,0 +1,37 @@
+# Installs what BUILD holds into FOLDER and calls the program through the link in bin/, as a shell
+# does. There is no display. It must give VERSION, and look for iconlist.csv beside its real file.
+set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL ANY)
+file(REMOVE_RECURSE ${FOLDER})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${FOLDER} OUTPUT_QUIET)
+file(GLOB_RECURSE programs LIST_DIRECTORIES false ${FOLDER}/lib*/ostrane-dat-tool/*)
+list(LENGTH programs count)
+if(NOT count EQUAL 1)
+  message(FATAL_ERROR "not one program, but: ${programs}")
+endif()
+get_filename_component(program_folder ${programs} REALPATH)
+get_filename_component(program_folder ${program_folder} DIRECTORY)
+
+function(expect option wanted)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
+                          QT_QPA_PLATFORM=none ${FOLDER}/bin/ostrane-dat-tool ${option}
+                  OUTPUT_VARIABLE told)
+  string(FIND "${told}" "${wanted}" at)
+  if(at EQUAL -1)
+    message(SEND_ERROR "${option} does not tell \"${wanted}\", but:\n${told}")
+  endif()
+endfunction()
+
+expect(--version "Ostrane.dat-tool ${VERSION}\n")
+expect(--help "  ${program_folder}/iconlist.csv\n")
+
+function(expect_in file wanted)
+  file(READ ${file} text)
+  string(FIND "${text}" "${wanted}" at)
+  if(at EQUAL -1)
+    message(SEND_ERROR "${file} does not hold \"${wanted}\"")
+  endif()
+endfunction()
+
+expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "\"${VERSION}\"")
+expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "${program_folder}/iconlist.csv")
+expect_in(${FOLDER}/share/doc/ostrane-dat-tool/CHANGELOG.md "\n## ${VERSION} (")
