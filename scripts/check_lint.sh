@@ -19,6 +19,6 @@ windows=$build/src/desktop/all_windows.cpp
 printf '#include "%s"\n' "$PWD"/src/desktop/*.cpp >"$windows"
 "${lint[@]}" --checks=-clang-analyzer-*,-bugprone-suspicious-include "$windows"
 
-find src samples -path src/desktop -prune -o -name '*.cpp' -print0 |
+find src samples \( -path src/desktop -o -name '*_windows.cpp' \) -prune -o -name '*.cpp' -print0 |
   xargs -0 -n 4 -P "$(nproc)" "${lint[@]}"
 echo "Lint is good"

@@ -1,9 +1,8 @@
 #include "tool_fixture.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "archive/format.h"
@@ -58,6 +57,15 @@ std::string some_bytes(std::size_t count, unsigned seed) {
 
 namespace {
 
+fs::path path_of(const std::string& utf8) {
+  return fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+std::string name_of(const fs::path& place) {
+  const std::u8string utf8 = place.filename().u8string();
+  return {utf8.begin(), utf8.end()};
+}
+
 std::string bytes_of(const fs::path& file) {
   std::ostringstream bytes;
   bytes << std::ifstream(file, std::ios::binary).rdbuf();
@@ -67,8 +75,9 @@ std::string bytes_of(const fs::path& file) {
 }  // namespace
 
 tool_test::tool_test() {
-  std::string name = (fs::temp_directory_path() / "tool-test-XXXXXX").string();
-  root = mkdtemp(name.data());
+  std::random_device any;
+  do root = fs::temp_directory_path() / ("tool-test-" + std::to_string(any()));
+  while (!fs::create_directory(root));
   fs::create_directories(root / "c" / "program");
   fs::create_directories(root / "d");
   begin();
@@ -90,7 +99,7 @@ void tool_test::begin(const std::string& current) {
 fs::path tool_test::place(const std::string& path) const {
   std::string rest = path.substr(3);
   std::replace(rest.begin(), rest.end(), '\\', '/');
-  return root / std::string(1, static_cast<char>(path[0] | 0x20)) / rest;
+  return root / std::string(1, static_cast<char>(path[0] | 0x20)) / path_of(rest);
 }
 
 void tool_test::write(const std::string& path, const std::string& bytes) const {
@@ -108,7 +117,7 @@ void tool_test::make_folder(const std::string& path) const { fs::create_director
 std::vector<std::string> tool_test::names_in(const std::string& folder) const {
   std::vector<std::string> names;
   for (const auto& found : fs::directory_iterator(place(folder))) {
-    names.push_back(found.path().filename().string());
+    names.push_back(name_of(found.path()));
   }
   std::sort(names.begin(), names.end());
   return names;
@@ -117,7 +126,7 @@ std::vector<std::string> tool_test::names_in(const std::string& folder) const {
 std::map<std::string, std::string> tool_test::files_in(const std::string& folder) const {
   std::map<std::string, std::string> files;
   for (const auto& found : fs::directory_iterator(place(folder))) {
-    if (found.is_regular_file()) files[found.path().filename().string()] = bytes_of(found.path());
+    if (found.is_regular_file()) files[name_of(found.path())] = bytes_of(found.path());
   }
   return files;
 }

@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "platform/code_page.h"
+#include "platform/system_name.h"
 
 namespace platform {
 
@@ -12,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // The names of a folder by their upper-case form.
-using folded_names = std::unordered_map<std::string, std::string>;
+using folded_names = std::unordered_map<std::string, fs::path::string_type>;
 std::map<fs::path, folded_names> remembered;
 
 const folded_names& names_in(const fs::path& folder) {
@@ -21,8 +22,8 @@ const folded_names& names_in(const fs::path& folder) {
   folded_names& names = remembered[folder];
   std::error_code failed;
   for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
-    const std::string name = at->path().filename().string();
-    const std::optional<std::string> text = from_utf8(name);
+    const fs::path::string_type name = at->path().filename().native();
+    const std::optional<std::string> text = name_as_text(at->path());
     if (!text) continue;
     // Of several names that differ in case only the first by code value stands for all.
     const auto [entry, is_new] = names.emplace(upper_case(*text), name);
@@ -39,7 +40,7 @@ bool is_there(const fs::path& place) {
 }  // namespace
 
 fs::path find_in_folder(const fs::path& folder, const std::string& name) {
-  fs::path exact = folder / to_utf8(name);
+  fs::path exact = folder / system_name(name);
   if (is_there(exact)) return exact;
   const folded_names& names = names_in(folder);
   const auto known = names.find(upper_case(name));
@@ -51,9 +52,8 @@ fs::path find_in_folder(const fs::path& folder, const std::string& name) {
 void remember_file(const fs::path& place) {
   const auto known = remembered.find(place.parent_path());
   if (known == remembered.end()) return;
-  const std::string name = place.filename().string();
-  if (const std::optional<std::string> text = from_utf8(name)) {
-    known->second.emplace(upper_case(*text), name);
+  if (const std::optional<std::string> text = name_as_text(place)) {
+    known->second.emplace(upper_case(*text), place.filename().native());
   }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "platform/file_error.h"
 
@@ -29,11 +30,18 @@ int cut_to(int file, std::int64_t size);
 int flush_to_disk(int file);
 int close_file(int file);
 
+// Read-only or not; no folder.
+int remove_file(const std::filesystem::path& place);
 // Puts a whole file in the place of another, or under a name that is free, in one step.
 int replace(const std::filesystem::path& file, const std::filesystem::path& target);
 // What was renamed, made or deleted in the folder outlives a loss of power.
 int flush_folder(const std::filesystem::path& folder);
 
+// True for a name that the system does not list by itself.
+bool is_hidden(const std::filesystem::path& place);
+
+// The errno number of an error that the standard library gives.
+int errno_number(const std::error_code& reason);
 // The forms layer's number for an errno number, and what it means in words.
 file_error_number error_number(int errno_number);
 std::string error_words(int errno_number);

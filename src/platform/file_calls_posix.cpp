@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 #include "platform/file_calls.h"
 
@@ -69,6 +68,8 @@ int flush_to_disk(int file) { return result(fsync(file)); }
 
 int close_file(int file) { return result(close(file)); }
 
+int remove_file(const std::filesystem::path& place) { return result(unlink(place.c_str())); }
+
 int replace(const std::filesystem::path& file, const std::filesystem::path& target) {
   return result(rename(file.c_str(), target.c_str()));
 }
@@ -82,55 +83,10 @@ int flush_folder(const std::filesystem::path& folder) {
   return flushed == -EINVAL ? 0 : flushed;
 }
 
-file_error_number error_number(int errno_number) {
-  switch (errno_number) {
-    case ENOENT:
-      return file_error_number::file_not_found;
-    case ENOTDIR:
-      return file_error_number::path_not_found;
-    case EEXIST:
-      return file_error_number::file_exists;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return file_error_number::permission_denied;
-    case EISDIR:
-      return file_error_number::path_access;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return file_error_number::disk_full;
-    case EINVAL:
-    case ENAMETOOLONG:
-      return file_error_number::bad_file_name;
-    default:
-      return file_error_number::device_error;
-  }
+bool is_hidden(const std::filesystem::path& place) {
+  return place.filename().native().front() == '.';
 }
 
-std::string error_words(int errno_number) {
-  switch (errno_number) {
-    case ENOENT:
-      return "it is not there";
-    case EACCES:
-    case EPERM:
-      return "access is not allowed";
-    case EISDIR:
-      return "it is a folder";
-    case ENOSPC:
-    case EDQUOT:
-      return "the disk is full";
-    case EROFS:
-      return "the disk cannot be written to";
-    case EEXIST:
-      return "it is there already";
-    case ENOTDIR:
-      return "it does not lie in a folder";
-    case ENAMETOOLONG:
-      return "its name is too long";
-    default:
-      return std::strerror(errno_number);
-  }
-}
+int errno_number(const std::error_code& reason) { return reason.value(); }
 
 }  // namespace platform::file_calls

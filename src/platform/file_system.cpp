@@ -9,6 +9,7 @@
 #include "platform/file_calls.h"
 #include "platform/file_error.h"
 #include "platform/paths.h"
+#include "platform/system_name.h"
 
 namespace platform {
 
@@ -17,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const std::string& path, const std::error_code& reason, const char* what) {
-  const int number = reason.default_error_condition().value();
+  const int number = file_calls::errno_number(reason);
   throw file_error{file_calls::error_number(number),
                    path + what + file_calls::error_words(number) + "."};
 }
@@ -33,8 +34,10 @@ fs::file_status status_of(const std::string& path) {
 
 // A name that can stand in a path of the tool, and that its folder does not hide.
 std::optional<std::string> listed_name(const fs::directory_entry& entry) {
-  std::optional<std::string> name = from_utf8(entry.path().filename().string());
-  if (!name || name->front() == '.' || name->find('\\') != name->npos) return std::nullopt;
+  std::optional<std::string> name = name_as_text(entry.path());
+  if (!name || name->find('\\') != name->npos || file_calls::is_hidden(entry.path())) {
+    return std::nullopt;
+  }
   return name;
 }
 
@@ -75,14 +78,8 @@ std::int64_t file_size(const std::string& path) {
 }
 
 void delete_file(const std::string& path) {
-  std::error_code failed;
-  const fs::path place = system_path(path);
-  if (fs::is_directory(fs::symlink_status(place, failed))) {
-    failed = std::make_error_code(std::errc::is_a_directory);
-  } else if (!fs::remove(place, failed) && !failed) {
-    failed = std::make_error_code(std::errc::no_such_file_or_directory);
-  }
-  if (failed) fail(path, failed, " cannot be deleted: ");
+  const int deleted = file_calls::remove_file(system_path(path));
+  if (deleted < 0) fail(path, {-deleted, std::generic_category()}, " cannot be deleted: ");
 }
 
 void create_folder(const std::string& path) {

@@ -7,6 +7,7 @@
 #include "platform/code_page.h"
 #include "platform/drives.h"
 #include "platform/file_error.h"
+#include "platform/system_name.h"
 
 namespace platform {
 
@@ -36,6 +37,13 @@ bool is_drive_text(std::string_view path) { return path.size() > 2 && path[2] ==
 
 [[noreturn]] void say_that_there_is_no_drive(const std::string& path) {
   throw file_error{file_error_number::device_unavailable, "There is no drive " + path.substr(0, 2)};
+}
+
+// On Windows a colon in a name would lead to another drive or into a hidden part of a file.
+constexpr bool drives_are_the_systems = fs::path::preferred_separator == '\\';
+
+[[noreturn]] void say_that_it_is_no_name(const std::string& path) {
+  throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon"};
 }
 
 std::vector<std::string> names_of(const std::string& whole_path) {
@@ -94,7 +102,10 @@ fs::path system_path(const std::string& path) {
   const drive* on = find_drive(whole[0]);
   if (on == nullptr) say_that_there_is_no_drive(whole);
   fs::path place = on->folder;
-  for (const std::string& name : names_of(whole)) place = find_in_folder(place, name);
+  for (const std::string& name : names_of(whole)) {
+    if (drives_are_the_systems && name.find(':') != name.npos) say_that_it_is_no_name(whole);
+    place = find_in_folder(place, name);
+  }
   return place;
 }
 
@@ -120,7 +131,7 @@ std::string tool_path(const fs::path& place) {
   std::string whole = {nearest->letter, ':', '\\'};
   for (const fs::path& step : rest) {
     if (step == ".") continue;
-    const std::optional<std::string> name = from_utf8(step.string());
+    const std::optional<std::string> name = name_as_text(step);
     if (!name) return {};
     if (whole.back() != '\\') whole += '\\';
     whole += *name;

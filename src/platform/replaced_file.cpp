@@ -7,6 +7,7 @@
 #include "platform/file_calls.h"
 #include "platform/file_error.h"
 #include "platform/paths.h"
+#include "platform/system_name.h"
 
 namespace platform {
 
@@ -19,7 +20,7 @@ void require(int outcome, const std::string& path) {
 }
 
 std::string folded_name(const std::filesystem::path& place) {
-  const std::optional<std::string> name = from_utf8(place.filename().string());
+  const std::optional<std::string> name = name_as_text(place);
   return name ? upper_case(*name) : std::string();
 }
 
@@ -33,7 +34,7 @@ void remove_other_cases(const std::filesystem::path& file) {
     std::error_code unknown;
     if (folded_name(at->path()) != folded || at->is_directory(unknown)) continue;
     if (std::filesystem::equivalent(at->path(), file, unknown) || unknown) continue;
-    std::filesystem::remove(at->path(), unknown);
+    file_calls::remove_file(at->path());
   }
 }
 
@@ -42,19 +43,17 @@ void remove_other_cases(const std::filesystem::path& file) {
 replaced_file::replaced_file(const std::string& path) : path_(path), old_place_(system_path(path)) {
   const std::string whole = full_path(path);
   const std::filesystem::path folder = old_place_.parent_path();
-  const std::string name = to_utf8(whole.substr(whole.rfind('\\') + 1));
-  new_place_ = folder / name;
-  written_ = folder / ("." + name + ".new");
-  std::error_code nothing_left;
-  std::filesystem::remove(written_, nothing_left);
+  const std::string name = whole.substr(whole.rfind('\\') + 1);
+  new_place_ = folder / system_name(name);
+  written_ = folder / system_name("." + name + ".new");
+  file_calls::remove_file(written_);
   file_.take_written(file_calls::open_new(written_), path);
 }
 
 replaced_file::~replaced_file() {
   if (in_place_) return;
   file_.abandon();
-  std::error_code gone;
-  std::filesystem::remove(written_, gone);
+  file_calls::remove_file(written_);
 }
 
 // The old name is replaced before its case is changed: a sudden death between the two leaves one

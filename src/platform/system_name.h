@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Names of files and folders: text in the tool, Unicode on the system.
+namespace platform {
+
+std::filesystem::path system_name(std::string_view text);
+
+// The last name of a place; nothing if it has no form in the code page.
+std::optional<std::string> name_as_text(const std::filesystem::path& place);
+
+}  // namespace platform
