@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs all tests: as they are, and once more with the
-# address and undefined-behaviour sanitizers. Checks layout and lint too, where the tools are there
-# (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it is not set.
+# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, where the tools
+# for that are there (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it
+# is not set.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -10,7 +11,7 @@ build=${OSTRANE_BUILD:-build-test}
 export QT_QPA_PLATFORM=offscreen
 
 need_packages "${build_packages[@]}" libgtest-dev
-[ -z "${CI:-}" ] || need_packages clang-format clang-tidy
+[ -z "${CI:-}" ] || need_packages clang-format clang-tidy desktop-file-utils appstream dpkg-dev
 ! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 
 configure_and_build() {
@@ -25,6 +26,7 @@ scripts/check_layout.sh
 configure_and_build "$build/plain" -DCMAKE_BUILD_TYPE=Release
 run_tests "$build/plain"
 
+scripts/check_packaging.sh "$build/plain"
 scripts/check_lint.sh "$build/plain"
 
 # Little optimised, as that builds a third faster; the library's own checks are on.

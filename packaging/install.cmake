@@ -19,7 +19,7 @@ file(MAKE_DIRECTORY ${made}/bin)
 file(CREATE_LINK ${link_target} ${made}/bin/ostrane-dat-tool SYMBOLIC)
 
 configure_file(packaging/ostrane-dat-tool.metainfo.xml.in
-               ${made}/example.ostrane_dat_tool.metainfo.xml @ONLY)
+               ${made}/example.ostrane.dat_tool.metainfo.xml @ONLY)
 # The manual names the folders that it is installed with, which are known only then.
 set(program_folder @program_folder@)
 set(examples_folder @examples_folder@)
@@ -33,7 +33,7 @@ install(TARGETS ostrane-dat-tool RUNTIME DESTINATION ${program_place})
 install(FILES ${made}/bin/ostrane-dat-tool DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/ostrane-dat-tool.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${made}/example.ostrane_dat_tool.metainfo.xml
+install(FILES ${made}/example.ostrane.dat_tool.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${made}/ostrane-dat-tool.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc_place})
