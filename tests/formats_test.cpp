@@ -1,0 +1,94 @@
+#include <fstream>
+#include <sstream>
+
+#include "tool_fixture.h"
+
+namespace ostrane {
+namespace {
+
+// Shows that docs/formats.md tells the truth: its examples go through the tool.
+class formats_test : public tool_test {
+ protected:
+  // The lines of the block that begins with ``` and the word.
+  static std::vector<std::string> block(const std::string& word) {
+    std::ifstream page(FORMATS_PAGE);
+    std::vector<std::string> lines;
+    std::string line;
+    while (std::getline(page, line) && line != "```" + word) continue;
+    while (std::getline(page, line) && line != "```") lines.push_back(line);
+    return lines;
+  }
+
+  static std::string text_file(const std::string& word) {
+    std::string text;
+    for (const std::string& line : block(word)) text += line + "\r\n";
+    return text;
+  }
+
+  // A row is an offset, the bytes behind it, and behind three blanks what they mean.
+  static std::string example_archive() {
+    std::string bytes;
+    for (const std::string& row : block("hex")) {
+      std::istringstream numbers(row.substr(0, row.find("   ", 4)));
+      std::size_t offset = 0;
+      numbers >> offset >> std::hex;
+      EXPECT_EQ(offset, bytes.size()) << row;
+      for (int byte = 0; numbers >> byte;) bytes += static_cast<char>(byte);
+    }
+    return bytes;
+  }
+};
+
+TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
+  const std::string archive = example_archive();
+  ASSERT_EQ(archive.size(), 141U);
+  write("C:\\program\\iconlist.csv", text_file("iconlist"));
+  write("C:\\ostrane.dat", archive);
+  begin();
+  open_archive();
+
+  click_row("A.SHP");
+  EXPECT_EQ(Form1.Frame1.Caption(), "A.SHP - A red corner");
+  std::vector<std::string> picture;
+  const platform::picture_box& slot = Form1.s16_image(1);
+  for (std::int32_t y = 0; y < slot.rows(); ++y) {
+    picture.emplace_back();
+    for (std::int32_t x = 0; x < slot.columns(); ++x) {
+      const platform::colour c = slot.pixel(x, y);
+      picture.back() += c == platform::picture_box::unset ? '.'
+                        : c == platform::rgb(224, 48, 32) ? '2'
+                        : c == platform::rgb(48, 192, 64) ? '3'
+                                                          : '?';
+    }
+  }
+  EXPECT_EQ(picture, block("picture"));
+  click_row("B.TXT");
+  EXPECT_EQ(Form1.Text6.Text(), "Hi\r\n");
+  click_row("GAME.PAL");
+  EXPECT_EQ(Form1.Frame1.Caption(), "GAME.PAL - The colours; four of them");
+
+  make_folder("D:\\out");
+  user::click(Form1.mnu_ext);
+  Form4.Dir1.Path = "D:\\out";
+  user::click(Form4.Command2);
+  user::click(Form1.mnu_make);
+  Form5.Dir1.Path = "D:\\out";
+  user::click(Form5.Command1);
+  EXPECT_EQ(read("D:\\out\\OSTRANE.DAT"), archive);
+}
+
+TEST_F(formats_test, TheExamplesOfListsAreWrittenAndComparedAsThePageSays) {
+  write("C:\\ostrane.dat", example_archive());
+  open_archive();
+  user::click(Form1.mnu_save);
+  EXPECT_EQ(read("C:\\shplist.txt"), text_file("saved"));
+  write("D:\\list.txt", text_file("shiplist"));
+  user::click(Form1.mnu_read_filelist);
+  Form6.Dir1.Path = "D:\\";
+  user::select_file(Form6.File1, 0);
+  user::click(Form6.Command1);
+  EXPECT_EQ(read("C:\\Shiplist-compare.txt"), text_file("report"));
+}
+
+}  // namespace
+}  // namespace ostrane
