@@ -157,6 +157,31 @@ void tool_test::double_click_row(const std::string& name) {
   user::double_click(Form1.List1, row_of(name));
 }
 
+void tool_test::extract_into(const std::string& folder) {
+  user::click(Form1.mnu_ext);
+  user::type(Form4.Text1, folder);
+  user::click(Form4.Command2);
+}
+
+void tool_test::open_build_dialog(const std::string& folder) {
+  user::click(Form1.mnu_make);
+  Form5.Dir1.Path = folder;
+  Form5.File1.Refresh();
+  user::type(Form5.Text1, folder);
+}
+
+void tool_test::build_in(const std::string& folder) {
+  open_build_dialog(folder);
+  user::click(Form5.Command1);
+}
+
+void tool_test::compare_with(const std::string& folder, const std::string& shiplist) {
+  user::click(Form1.mnu_read_filelist);
+  Form6.Dir1.Path = folder;
+  Form6.Text1.Text = shiplist;
+  user::click(Form6.Command1);
+}
+
 std::vector<std::string> tool_test::new_messages() {
   const std::vector<std::string>& all = platform::messages_shown();
   std::vector<std::string> fresh(all.begin() + static_cast<std::ptrdiff_t>(told_), all.end());

@@ -58,6 +58,11 @@ class tool_test : public testing::Test {
   void open_archive(const std::vector<entry>& entries);
   void click_row(const std::string& name);
   void double_click_row(const std::string& name);
+  // Through Form4, Form5 and Form6.
+  static void extract_into(const std::string& folder);
+  static void open_build_dialog(const std::string& folder = "C:\\work");
+  static void build_in(const std::string& folder = "C:\\work");
+  static void compare_with(const std::string& folder, const std::string& shiplist);
 
   // The messages since the last call.
   std::vector<std::string> new_messages();

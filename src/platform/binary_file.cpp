@@ -115,11 +115,6 @@ std::int64_t binary_file::size() {
   return bytes;
 }
 
-void binary_file::cut_to(std::int64_t size) {
-  const int cut = file_calls::cut_to(file_, size);
-  if (cut < 0) fail(cut, " cannot be written: ");
-}
-
 void binary_file::flush(bool to_disk) {
   std::size_t written = 0;
   const std::size_t count = position_;

@@ -31,8 +31,6 @@ class binary_file {
   std::size_t read(std::span<std::byte> to);
   void write(std::span<const std::byte> from);
   std::int64_t size();
-  // Takes away what lies behind the first `size` bytes.
-  void cut_to(std::int64_t size);
 
   // Writes what is still buffered, and to the disk itself too if `to_disk`.
   void flush(bool to_disk = false);

@@ -26,7 +26,6 @@ std::int64_t write_some(int file, const std::byte* from, std::size_t count);
 
 std::int64_t seek_to(int file, std::int64_t offset);
 std::int64_t size_of(int file);
-int cut_to(int file, std::int64_t size);
 int flush_to_disk(int file);
 int close_file(int file);
 

@@ -62,8 +62,6 @@ std::int64_t size_of(int file) {
   return fstat(file, &facts) < 0 ? -errno : static_cast<std::int64_t>(facts.st_size);
 }
 
-int cut_to(int file, std::int64_t size) { return result(ftruncate(file, size)); }
-
 int flush_to_disk(int file) { return result(fsync(file)); }
 
 int close_file(int file) { return result(close(file)); }

@@ -1,7 +1,5 @@
 #include "platform/text_file.h"
 
-#include "platform/case_blind.h"
-#include "platform/file_calls.h"
 #include "platform/paths.h"
 
 namespace platform {
@@ -9,6 +7,13 @@ namespace platform {
 namespace {
 
 constexpr std::size_t block = 65536;
+
+// A file that is there must be a normal one that may be written to, though it is only replaced.
+const std::string& writable(const std::string& path) {
+  std::error_code unknown;
+  if (std::filesystem::exists(system_path(path), unknown)) binary_file().open_to_write(path);
+  return path;
+}
 
 }  // namespace
 
@@ -40,19 +45,14 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const std::string& path) {
-  const std::filesystem::path place = system_path(path);
-  file_.take_written(file_calls::open_to_write(place), path);
-  file_.cut_to(0);
-  remember_file(place);
-}
+text_writer::text_writer(const std::string& path) : new_file_(writable(path)) {}
 
 void text_writer::write_line(std::string_view line) {
-  file_.write(std::as_bytes(std::span(line)));
+  new_file_.file().write(std::as_bytes(std::span(line)));
   constexpr std::string_view end = "\r\n";
-  file_.write(std::as_bytes(std::span(end)));
+  new_file_.file().write(std::as_bytes(std::span(end)));
 }
 
-void text_writer::close() { file_.close(); }
+void text_writer::close() { new_file_.put_in_place(); }
 
 }  // namespace platform

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/binary_file.h"
+#include "platform/replaced_file.h"
 
 namespace platform {
 
@@ -26,17 +27,18 @@ class text_reader {
   std::size_t position_ = 0;
 };
 
-// Writes lines, each ended by CR LF, into a file that it empties first.
+// Writes lines, each ended by CR LF, into a new file, which takes the place of the old one when it
+// is closed. Until then, and if anything fails, the old file stays as it was.
 class text_writer {
  public:
-  // Throws file_error, as all the others do.
+  // Throws file_error, as all the others do; at once if the old file may not be written to.
   explicit text_writer(const std::string& path);
 
   void write_line(std::string_view line);
   void close();
 
  private:
-  binary_file file_;
+  replaced_file new_file_;
 };
 
 }  // namespace platform
