@@ -1,6 +1,7 @@
 #include "icons/series.h"
 
 #include <string>
+#include <utility>
 
 #include "forms/form1.h"
 #include "forms/form3.h"
@@ -57,8 +58,13 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
-void refuse_icon() {
-  say_that_icon_is_refused();
+// Sizes beyond all bounds are told of once a series, as a damaged file may hold thousands of them.
+bool size_was_told = false;
+
+void refuse_icon(icon_outcome outcome) {
+  if (outcome == icon_outcome::refused || !std::exchange(size_was_told, true)) {
+    say_that_icon_is_refused();
+  }
   ++tool_state.next_icon;
   stop_behind_last_icon();
 }
@@ -66,7 +72,7 @@ void refuse_icon() {
 void draw_icon() {
   const icon_outcome outcome = judge_icon(tool_state.icon_header);
   if (outcome == icon_outcome::refused || !slot_size_is_good()) {
-    refuse_icon();
+    refuse_icon(outcome);
   } else if (outcome == icon_outcome::drawable) {
     draw_drawable_icon();
   } else {
@@ -130,6 +136,7 @@ void show_next_series() {
 
 void draw_shp_series() {
   tool_state.series_first_icon = tool_state.next_icon;
+  size_was_told = false;
   try {
     draw_from_archive();
   } catch (const platform::file_error& error) {

@@ -1,0 +1,81 @@
+#include "icon_fixture.h"
+
+namespace ostrane {
+namespace {
+
+// A small archive of every kind of entry, damaged in one place after the other.
+class damage_test : public icon_test {
+ protected:
+  // Opens these bytes, looks at every entry in every way, and extracts them all.
+  void use(const std::string& bytes) {
+    write("C:\\ostrane.dat", bytes);
+    begin();
+    open_archive();
+    const std::int32_t rows = std::min(Form1.List1.ListCount(), 9);
+    for (std::int32_t row = 0; row < rows; ++row) {
+      user::select_row(Form1.List1, row);
+      for (int series = 0; series < 3; ++series) user::click(Form1.Command6);
+      user::double_click(Form1.s16_image, 1);
+      user::click(Form3.message);
+      user::click(Form1.Command5);
+      user::tick(Form1.Timer1);
+      user::click(Form1.Command5);
+      ASSERT_TRUE(Form1.Visible() && Form1.Enabled() && !Form3.Visible());
+    }
+    if (rows > 0) extract_into("D:\\");
+    ASSERT_LE(new_messages().size(), 24U);
+    ASSERT_TRUE(read("C:\\ostrane.dat") == bytes);
+  }
+
+  const std::string icons = samples::shp_file(
+      {plain_icon(9, 5, 7), refused_icon(4, 4), blank_icon(3, 3), plain_icon(2, 2, 1)});
+  const std::string whole =
+      archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
+};
+
+TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    SCOPED_TRACE(length);
+    ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
+  }
+}
+
+TEST_F(damage_test, AnyChangedByteOfTheIndexOrOfAnIconFileDoesNoHarm) {
+  const std::size_t end_of_icons = whole.size() - 44;
+  for (std::size_t at = 0; at < end_of_icons; ++at) {
+    for (const int flip : {0x01, 0x7F, 0x80, 0xFF}) {
+      std::string bytes = whole;
+      bytes[at] = static_cast<char>(bytes[at] ^ flip);
+      SCOPED_TRACE(testing::Message() << at << " changed by " << flip);
+      ASSERT_NO_FATAL_FAILURE(use(bytes));
+    }
+  }
+}
+
+// 5000 icons of one kind: a message for each only where the icon's own fault is told.
+TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
+  constexpr std::size_t many = 5000;
+  samples::shp_icon huge = blank_icon(2, 2);
+  huge.head.no_of_rows = 32767;
+  const struct {
+    samples::shp_icon icon;
+    int moved_by;  // the places of the icons
+    std::size_t messages;
+  } cases[] = {
+      {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, many},        {huge, 0, 1},
+      {plain_icon(1, 1, 1), 1 << 30, 1}, {plain_icon(1, 1, 1), -(1 << 30), 1},
+  };
+  for (const auto& c : cases) {
+    std::string file = samples::shp_file(std::vector<samples::shp_icon>(many, c.icon));
+    for (std::size_t n = 0; n < many; ++n) {
+      file[8 + 8 * n + 3] = static_cast<char>(file[8 + 8 * n + 3] + c.moved_by / (1 << 24));
+    }
+    begin();
+    open_archive({{"I.SHP", file}});
+    click_row("I.SHP");
+    EXPECT_EQ(new_messages().size(), c.messages) << c.moved_by;
+  }
+}
+
+}  // namespace
+}  // namespace ostrane
