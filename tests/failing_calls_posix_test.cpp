@@ -84,7 +84,11 @@ int replace(const place_on_disk& file, const place_on_disk& target) {
 int flush_folder(const place_on_disk& folder) {
   return made("flush_folder", [&] { return system_calls::flush_folder(folder); });
 }
-file_error_number error_number(int number) { return system_calls::error_number(number); }
-std::string error_words(int number) { return system_calls::error_words(number); }
+int remove_file(const place_on_disk& place) {
+  const auto remove = [&] { return system_calls::remove_file(place); };
+  return made("remove_file", remove, remove);  // a full disk too gives up its files
+}
+bool is_hidden(const place_on_disk& place) { return system_calls::is_hidden(place); }
+int errno_number(const std::error_code& reason) { return system_calls::errno_number(reason); }
 
 }  // namespace platform::file_calls

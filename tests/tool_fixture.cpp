@@ -175,10 +175,14 @@ void tool_test::build_in(const std::string& folder) {
   user::click(Form5.Command1);
 }
 
-void tool_test::compare_with(const std::string& folder, const std::string& shiplist) {
+void tool_test::choose_shiplist(const std::string& folder, const std::string& name) {
   user::click(Form1.mnu_read_filelist);
   Form6.Dir1.Path = folder;
-  Form6.Text1.Text = shiplist;
+  Form6.Text1.Text = name;
+}
+
+void tool_test::compare_with(const std::string& folder, const std::string& name) {
+  choose_shiplist(folder, name);
   user::click(Form6.Command1);
 }
 

@@ -62,7 +62,8 @@ class tool_test : public testing::Test {
   static void extract_into(const std::string& folder);
   static void open_build_dialog(const std::string& folder = "C:\\work");
   static void build_in(const std::string& folder = "C:\\work");
-  static void compare_with(const std::string& folder, const std::string& shiplist);
+  static void choose_shiplist(const std::string& folder, const std::string& name);
+  static void compare_with(const std::string& folder, const std::string& name);
 
   // The messages since the last call.
   std::vector<std::string> new_messages();

@@ -40,6 +40,7 @@ std::string error_words(int errno_number) {
       return "it is not there";
     case EACCES:
     case EPERM:
+    case ENOTSUP:  // asked for the size of what is no file
       return "access is not allowed";
     case EBUSY:
       return "it is in use";

@@ -92,12 +92,6 @@ std::int64_t size_of(int file) {
   return GetFileSizeEx(handle_of(file), &size) != 0 ? size.QuadPart : last_error();
 }
 
-int cut_to(int file, std::int64_t size) {
-  FILE_END_OF_FILE_INFO end = {};
-  end.EndOfFile.QuadPart = size;
-  return result(SetFileInformationByHandle(handle_of(file), FileEndOfFileInfo, &end, sizeof end));
-}
-
 int flush_to_disk(int file) { return result(FlushFileBuffers(handle_of(file))); }
 
 int close_file(int file) { return result(CloseHandle(handle_of(file))); }

@@ -1,0 +1,178 @@
+#include <fcntl.h>
+#include <grp.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "archive/builder.h"
+#include "icon_fixture.h"
+
+namespace ostrane {
+namespace {
+
+namespace fs = std::filesystem;
+using texts = std::vector<std::string>;
+using files = std::map<std::string, std::string>;
+
+// Places that are not what they should be.
+class places_test : public tool_test {
+ protected:
+  // What each command that reads or writes says, in a tool with an archive of one entry open, when
+  // `spoil` has changed what is on the disk behind its back.
+  template <typename Spoil>
+  texts told_by_each_command(const Spoil& spoil) {
+    const std::pair<std::function<void()>, std::function<void()>> commands[] = {
+        {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
+        {[] {}, [&] { click_row("A.TXT"); }},
+        {[] {}, [] { extract_into("D:\\x"); }},
+        {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); }},
+        {[] {}, [] { user::click(Form1.mnu_save); }},
+        {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); }},
+    };
+    texts told;
+    for (const auto& [open_dialog, command] : commands) {
+      fs::remove_all(place("D:\\x"));
+      write("D:\\x\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
+      write("D:\\x\\list.txt", "A\r\n");
+      begin("D:\\x");
+      open_archive("D:\\x");
+      open_dialog();
+      spoil();
+      command();
+      const texts messages = new_messages();
+      told.push_back(messages.size() == 1 ? messages[0] : testing::PrintToString(messages));
+      restore();
+    }
+    return told;
+  }
+  // What they say if that is the reason for which nothing can be opened.
+  static texts expected(const std::string& reason) {
+    const std::string cannot = " cannot be opened: " + reason + ".";
+    return {"D:\\x\\ostrane.dat" + cannot,
+            "D:\\x\\ostrane.dat" + cannot,
+            "D:\\x\\ostrane.dat" + cannot + " Nothing was extracted.",
+            "D:\\x\\list.txt cannot be read: " + reason + ". No new archive was made.",
+            "The list of files was not saved. shplist.txt" + cannot,
+            "D:\\x\\list.txt" + cannot + " Nothing was compared."};
+  }
+
+  std::function<void()> restore = [] {};
+  const std::string not_found = "D:\\x\\ostrane.dat is not found";
+};
+
+// Every command names the place and says why it cannot do its work, and nothing waits.
+TEST_F(places_test, EveryCommandTellsOfADriveThatWentAway) {
+  const fs::path away = root / "away";
+  restore = [&] { fs::rename(away, root / "d"); };
+  texts told = expected("it is not there");
+  told[0] = not_found;
+  told[2] = "The folder D:\\x\\ is not there. Nothing was extracted.";
+  EXPECT_EQ(told_by_each_command([&] { fs::rename(root / "d", away); }), told);
+}
+
+TEST_F(places_test, EveryCommandTellsOfAFolderWithoutPermission) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can make folders of another user";
+  const pid_t child = fork();
+  if (child == 0) {
+    fs::permissions(root, fs::perms::all);
+    for (const char* drive : {"c", "d", "c/program"}) fs::permissions(root / drive, fs::perms::all);
+    if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) _exit(77);
+    restore = [&] { fs::permissions(place("D:\\x"), fs::perms::all); };
+    texts told = expected("access is not allowed");
+    told[0] = not_found;
+    EXPECT_EQ(told_by_each_command([&] { fs::permissions(place("D:\\x"), fs::perms::none); }),
+              told);
+    _exit(HasFailure() ? 1 : 0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (WEXITSTATUS(status) == 77) GTEST_SKIP() << "no other user can be taken on here";
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(places_test, EveryCommandTellsOfWhatIsNoNormalFile) {
+  const std::pair<std::function<void(const fs::path&)>, const char*> kinds[] = {
+      {[](const fs::path& p) { fs::create_directory(p); }, "it is a folder"},
+      {[](const fs::path& p) { EXPECT_EQ(mkfifo(p.c_str(), 0600), 0); }, "access is not allowed"},
+      {[](const fs::path& p) { fs::create_symlink("/dev/zero", p); }, "access is not allowed"},
+  };
+  for (const auto& [make, reason] : kinds) {
+    texts told = expected(reason);
+    if (reason == std::string("it is a folder")) told[0] = not_found;
+    const auto replace_all = [&] {
+      for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
+        fs::remove(place("D:\\x") / name);
+        make(place("D:\\x") / name);
+      }
+    };
+    EXPECT_EQ(told_by_each_command(replace_all), told);
+  }
+}
+
+// An archive behind a link is read; a build takes the link's place and leaves the archive alone.
+TEST_F(places_test, AnArchiveBehindALinkIsReadAndNeverWrittenTo) {
+  const std::string archive = archive_bytes({{"A.TXT", "a"}});
+  write("D:\\real.dat", archive);
+  make_folder("C:\\work");
+  fs::create_symlink(place("D:\\real.dat"), place("C:\\work") / "ostrane.dat");
+  open_archive("C:\\work");
+  extract_into("C:\\work");
+  build_in();
+  EXPECT_EQ(files_in("C:\\work"), (files{{"A.TXT", "a"}, {"OSTRANE.DAT", archive}}));
+  EXPECT_FALSE(fs::is_symlink(place("C:\\work\\OSTRANE.DAT")));
+  write("C:\\work\\b.txt", "b");
+  build_in();
+  EXPECT_EQ(read("D:\\real.dat"), archive);
+  EXPECT_EQ(new_messages().size(), 3U);
+}
+
+TEST_F(places_test, TheLongestNamesAndThoseOfOtherCaseEachGiveAnEntry) {
+  const std::string longest(255, 'n');
+  const std::string folder = "C:\\" + std::string(255, 'f');
+  for (const auto& [name, bytes] : files{{"a.txt", "1"}, {"A.TXT", "2"}, {longest, "3"}}) {
+    write(folder + "\\" + name, bytes);
+  }
+  build_in(folder);
+  EXPECT_EQ(read(folder + "\\OSTRANE.DAT"),
+            archive_bytes({{"A.TXT", "2"}, {"A.TXT", "1"}, {"NNNNNNNNNNNNN", "3"}}));
+  open_archive(folder);
+  EXPECT_EQ(Form1.List1.ListCount(), 4);
+  EXPECT_EQ(new_messages().size(), 1U);
+  begin();
+  open_archive(folder);
+  user::click(Form1.mnu_ext);
+  user::type(Form4.Text2, longest + "n");
+  user::click(Form4.Command1);
+  EXPECT_TRUE(new_messages().back().ends_with("Error Number:  52"));
+}
+
+TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
+  make_folder("C:\\work");
+  const auto name = [&](std::size_t i) { return place("C:\\work") / ("f" + std::to_string(i)); };
+  for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
+  for (std::size_t count = 40000; const std::size_t left : {std::size_t{40000}, most_files + 1}) {
+    while (count > left) fs::remove(name(--count));
+    begin();
+    build_in();
+    EXPECT_EQ(new_messages(), texts{"There are " + std::to_string(left) +
+                                    " files in C:\\work. An archive holds at most 32766. No new "
+                                    "archive was made."});
+  }
+  fs::remove(name(most_files));
+  begin();
+  build_in();
+  open_archive("C:\\work");
+  EXPECT_EQ(Form1.List1.ListCount(), 32767);
+}
+
+#ifdef NDEBUG
+// What is given out stops where it would leave an array.
+TEST(released_program, StopsBeforeItReadsOutsideAnArray) {
+  const std::vector<int> numbers(3);
+  volatile std::size_t outside = 3;
+  EXPECT_DEATH(static_cast<void>(numbers[outside]), "");
+}
+#endif
+
+}  // namespace
+}  // namespace ostrane
