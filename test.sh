@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs all tests: as they are, and once more with the
-# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, where the tools
-# for that are there (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it
-# is not set.
+# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, and runs the
+# fuzz targets for a while, where the tools for that are there (CI installs them). OSTRANE_BUILD
+# names the folder to build in, build-test if it is not set.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
+. scripts/clang_tools.sh
 
 build=${OSTRANE_BUILD:-build-test}
 export QT_QPA_PLATFORM=offscreen
@@ -33,3 +34,9 @@ scripts/check_lint.sh "$build/plain"
 configure_and_build "$build/sanitized" -DOSTRANE_SANITIZE=ON -DOSTRANE_DESKTOP=OFF \
   -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1 -D_GLIBCXX_ASSERTIONS"
 run_tests "$build/sanitized"
+
+if [ -n "${CI:-}" ] || { clang_tool clang++ && is_installed "$clang_runtime"; } >/dev/null; then
+  fuzz/run.sh short
+else
+  echo "The fuzz targets are not run: no clang $clang_version with its runtime here"
+fi

@@ -3,6 +3,8 @@
 # failure if it is not there.
 
 clang_version=14
+# shellcheck disable=SC2034
+clang_runtime=libclang-rt-$clang_version-dev
 
 clang_tool() {
   local name

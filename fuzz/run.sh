@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long; what
+# it finds new is kept and built on at the next time. run.sh short [TARGET]: a few thousand inputs
+# each, the same ones every time. OSTRANE_BUILD names the folder to build in, build-test if it is
+# not set. Fails if there is a finding; its input stays in the folder "findings" there.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+. scripts/clang_tools.sh
+
+[ $# -ge 1 ] || {
+  echo "usage: fuzz/run.sh SECONDS|short [TARGET]" >&2
+  exit 2
+}
+targets=("${@:2}")
+[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build)
+
+need_packages cmake ninja-build "clang-$clang_version" "$clang_runtime"
+build=$(realpath -m "${OSTRANE_BUILD:-build-test}/fuzz")
+! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+cmake -S . -B "$build" -G Ninja -DCMAKE_CXX_COMPILER="clang++-$clang_version" -DOSTRANE_FUZZ=ON \
+  -DOSTRANE_DESKTOP=OFF -DOSTRANE_TESTS=OFF -DCMAKE_BUILD_TYPE=Debug \
+  -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1 -D_GLIBCXX_ASSERTIONS"
+cmake --build "$build" --target make_seeds "${targets[@]/#/fuzz_}"
+"$build/bin/make_seeds" "$build/seeds"
+
+# The drives of the tool lie in memory where the system has a folder there.
+work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export TMPDIR=$work
+export ASAN_OPTIONS=quarantine_size_mb=8
+
+short_runs() {
+  case $1 in
+    archive | icon) echo 1500 ;;
+    *) echo 2500 ;;
+  esac
+}
+
+options=(-rss_limit_mb=768 -malloc_limit_mb=64 -max_len=4096 -dict=fuzz/words.dict
+  -print_final_stats=1)
+
+# Puts what a run tells in a line.
+summary() {
+  awk -v target="$1" '
+    /cov: / { for (i = 1; i < NF; ++i) if ($i == "cov:") cov = $(i + 1) }
+    /number_of_executed_units/ { runs = $2 }
+    /average_exec_per_sec/ { pace = $2 }
+    /peak_rss_mb/ { peak = $2 }
+    END { printf "%s: %d executions, %d a second, cov %d, peak %d MB", target, runs, pace, cov, peak
+    }' "$2"
+}
+
+failed=0
+mkdir -p "$build/findings"
+for target in "${targets[@]}"; do
+  corpus=$build/corpus/$target
+  bound=(-max_total_time="$1" -timeout=5)
+  if [ "$1" = short ]; then
+    corpus=$work/corpus
+    rm -rf "$corpus"
+    bound=(-runs="$(short_runs "$target")" -seed=1 -timeout=30)
+  fi
+  mkdir -p "$corpus"
+  log=$work/$target.log
+  if "$build/bin/fuzz_$target" "${options[@]}" "${bound[@]}" \
+    -artifact_prefix="$build/findings/$target-" "$corpus" "$build/seeds/$target" >"$log" 2>&1; then
+    echo "$(summary "$target" "$log"), no findings"
+  else
+    failed=1
+    tail -n 60 "$log"
+    echo "$(summary "$target" "$log"), 1 finding"
+  fi
+done
+exit $failed
