@@ -1,6 +1,3 @@
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include "platform/binary_file.h"
 #include "platform/file_error.h"
 #include "platform/file_system.h"
@@ -46,19 +43,6 @@ TEST_F(files_test, WorksPathsOut) {
   EXPECT_THROW(platform::system_path("Q:\\x"), platform::file_error);
 }
 
-TEST_F(files_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
-  write("C:\\Mixed\\Name.TXT", "upper");
-  write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
-  platform::text_reader reader("c:\\mIXED\\name.txt");
-  EXPECT_EQ(reader.read_line(), "upper");
-  EXPECT_TRUE(platform::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
-  write("C:\\Mixed\\name.txt", "lower");
-  platform::text_reader exact("C:\\Mixed\\name.txt");
-  EXPECT_EQ(exact.read_line(), "lower");
-  EXPECT_FALSE(platform::file_exists("C:\\Mixed\\names.txt"));
-  EXPECT_FALSE(platform::file_exists("C:\\Mixed"));
-}
-
 // A file that a command has just made must be found in another case too.
 TEST_F(files_test, WritesASecondTimeIntoTheFileOfOtherCase) {
   for (const char* name : {"C:\\New.Txt", "C:\\NEW.TXT"}) {
@@ -68,19 +52,6 @@ TEST_F(files_test, WritesASecondTimeIntoTheFileOfOtherCase) {
     file.close();
   }
   EXPECT_EQ(names_in("C:\\"), (std::vector<std::string>{"New.Txt", "program"}));
-}
-
-TEST_F(files_test, ListsNormalFilesByTheirUpperCaseForm) {
-  for (const char* name : {"b.TXT", "a.txt", "_x", "C", ".hidden", "\xC3\xA9", "Z", "\xCE\xA9"}) {
-    write(std::string("D:\\") + name, "");
-  }
-  make_folder("D:\\folder");
-  ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
-  std::filesystem::create_symlink("a.txt", place("D:\\link"));
-  const platform::folder_contents found = platform::list_folder("D:\\");
-  EXPECT_EQ(found.files,
-            (std::vector<std::string>{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
-  EXPECT_EQ(found.folders, std::vector<std::string>{"folder"});
 }
 
 TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
@@ -113,19 +84,6 @@ TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
   EXPECT_EQ(lines_of("a\n\nb\rc\r\n\r\n"), (lines{"a", "", "b", "c", ""}));
   const std::string to_the_edge(65535, 'x');
   EXPECT_EQ(lines_of(to_the_edge + "\r\nnext"), (lines{to_the_edge, "next"}));
-}
-
-// Opening what is no file must fail with a word, not wait for the other end of a pipe.
-TEST_F(files_test, OpensNormalFilesAlone) {
-  ASSERT_EQ(mkfifo(place("C:\\pipe").c_str(), 0600), 0);
-  std::filesystem::create_symlink("/dev/null", place("C:\\device"));
-  for (const char* path : {"C:\\pipe", "C:\\program", "C:\\device", "C:\\missing"}) {
-    platform::binary_file file;
-    EXPECT_THROW(file.open_to_read(path), platform::file_error) << path;
-  }
-  platform::binary_file file;
-  EXPECT_THROW(file.open_to_write("C:\\pipe"), platform::file_error);
-  EXPECT_THROW(file.open_to_write("C:\\program"), platform::file_error);
 }
 
 TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {

@@ -92,14 +92,6 @@ TEST_F(index_test, RefusesADamagedIndexWhole) {
   }
 }
 
-TEST_F(index_test, TellsOfAnArchiveThatCannotBeOpened) {
-  std::filesystem::create_symlink("/dev/null", place("C:\\ostrane.dat"));
-  open_archive();
-  EXPECT_EQ(new_messages(), messages{"C:\\ostrane.dat cannot be opened: access is not allowed."});
-  EXPECT_FALSE(Form1.mnu_ext.Enabled());
-  EXPECT_FALSE(Form2.Visible());
-}
-
 TEST_F(index_test, TellsThatAnArchiveIsMissing) {
   make_folder("C:\\empty");
   open_archive("C:\\empty");

@@ -111,8 +111,6 @@ int replace(const fs::path& file, const fs::path& target) {
   const int replaced = result(MoveFileExW(file.c_str(), target.c_str(),
                                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
   if (read_only && replaced < 0) set_read_only(target, true);
-  // Where the case of the old name was another, it may have stayed.
-  if (replaced == 0) MoveFileExW(target.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
   return replaced;
 }
 

@@ -1,0 +1,64 @@
+#include <sys/stat.h>
+
+#include "platform/binary_file.h"
+#include "platform/file_error.h"
+#include "platform/file_system.h"
+#include "platform/text_file.h"
+#include "tool_fixture.h"
+
+// Names that tell case apart, links, pipes and devices.
+namespace ostrane {
+namespace {
+
+using files_posix_test = tool_test;
+
+TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
+  write("C:\\Mixed\\Name.TXT", "upper");
+  write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
+  platform::text_reader reader("c:\\mIXED\\name.txt");
+  EXPECT_EQ(reader.read_line(), "upper");
+  EXPECT_TRUE(platform::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
+  write("C:\\Mixed\\name.txt", "lower");
+  platform::text_reader exact("C:\\Mixed\\name.txt");
+  EXPECT_EQ(exact.read_line(), "lower");
+  EXPECT_FALSE(platform::file_exists("C:\\Mixed\\names.txt"));
+  EXPECT_FALSE(platform::file_exists("C:\\Mixed"));
+}
+
+TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
+  for (const char* name : {"b.TXT", "a.txt", "_x", "C", ".hidden", "\xC3\xA9", "Z", "\xCE\xA9"}) {
+    write(std::string("D:\\") + name, "");
+  }
+  make_folder("D:\\folder");
+  ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
+  std::filesystem::create_symlink("a.txt", place("D:\\link"));
+  const platform::folder_contents found = platform::list_folder("D:\\");
+  EXPECT_EQ(found.files,
+            (std::vector<std::string>{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
+  EXPECT_EQ(found.folders, std::vector<std::string>{"folder"});
+}
+
+// Opening what is no file must fail with a word, not wait for the other end of a pipe.
+TEST_F(files_posix_test, OpensNormalFilesAlone) {
+  ASSERT_EQ(mkfifo(place("C:\\pipe").c_str(), 0600), 0);
+  std::filesystem::create_symlink("/dev/null", place("C:\\device"));
+  for (const char* path : {"C:\\pipe", "C:\\program", "C:\\device", "C:\\missing"}) {
+    platform::binary_file file;
+    EXPECT_THROW(file.open_to_read(path), platform::file_error) << path;
+  }
+  platform::binary_file file;
+  EXPECT_THROW(file.open_to_write("C:\\pipe"), platform::file_error);
+  EXPECT_THROW(file.open_to_write("C:\\program"), platform::file_error);
+}
+
+TEST_F(files_posix_test, TellsOfAnArchiveThatCannotBeOpened) {
+  std::filesystem::create_symlink("/dev/null", place("C:\\ostrane.dat"));
+  open_archive();
+  EXPECT_EQ(new_messages(),
+            std::vector<std::string>{"C:\\ostrane.dat cannot be opened: access is not allowed."});
+  EXPECT_FALSE(Form1.mnu_ext.Enabled());
+  EXPECT_FALSE(Form2.Visible());
+}
+
+}  // namespace
+}  // namespace ostrane
