@@ -1,6 +1,7 @@
 #include "failing_calls.h"
 
 #include <csignal>
+#include <set>
 
 #include "tool_fixture.h"
 
@@ -14,6 +15,12 @@ namespace ostrane {
 namespace {
 
 failing_calls* present = nullptr;
+std::set<int> written;  // files that are open for writing
+
+int opened_to_write(int file) {
+  if (file >= 0) written.insert(file);
+  return file;
+}
 
 // The call as it is, or the error with which it fails behind a part of its work.
 template <typename Call, typename Part>
@@ -45,16 +52,17 @@ failing_calls::~failing_calls() { present = nullptr; }
 namespace platform::file_calls {
 
 using ostrane::made;
+using ostrane::opened_to_write;
 using place_on_disk = std::filesystem::path;
 
 int open_to_read(const place_on_disk& place) {
   return made("open_to_read", [&] { return system_calls::open_to_read(place); });
 }
 int open_to_write(const place_on_disk& place) {
-  return made("open_to_write", [&] { return system_calls::open_to_write(place); });
+  return opened_to_write(made("open_to_write", [&] { return system_calls::open_to_write(place); }));
 }
 int open_new(const place_on_disk& place) {
-  return made("open_new", [&] { return system_calls::open_new(place); });
+  return opened_to_write(made("open_new", [&] { return system_calls::open_new(place); }));
 }
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   return made("read_some", [&] { return system_calls::read_some(file, to, count); });
@@ -76,7 +84,9 @@ int flush_to_disk(int file) {
 }
 int close_file(int file) {
   const auto close = [&] { return system_calls::close_file(file); };
-  return made("close_file", close, close);  // the file is closed also if that fails
+  const bool was_written = ostrane::written.erase(file) > 0;
+  return made(was_written ? "close_written" : "close_read", close,
+              close);  // the file is closed also if that fails
 }
 int replace(const place_on_disk& file, const place_on_disk& target) {
   return made("replace", [&] { return system_calls::replace(file, target); });

@@ -53,7 +53,7 @@ class failing_disk_test : public icon_test {
 };
 
 // Calls that may fail unheard: those that tidy up, or come when the new file is in its place.
-const std::set<std::string> may_be_quiet = {"remove_file", "replace", "flush_folder", "close_file"};
+const std::set<std::string> may_be_quiet = {"remove_file", "replace", "flush_folder", "close_read"};
 
 const std::vector<entry> entries = {
     {"A.TXT", some_bytes(70000, 1)}, {"B.TXT", ""}, {"C.TXT", some_bytes(9, 2)}};
@@ -108,7 +108,7 @@ TEST_F(failing_disk_test, AnExtractionLeavesWholeEntriesAndTellsOfTheOthers) {
             EXPECT_TRUE(holds(told, {">" + e.name, "stopped", "Nothing"})) << told;
           }
         }
-        const bool whole = after.size() == entries.size() && call == "close_file";
+        const bool whole = after.size() == entries.size() && call == "close_read";
         EXPECT_TRUE(whole || (holds(told, {"C:\\ostrane.dat", "D:\\"}) && holds(told, {words})))
             << told;
         EXPECT_TRUE(read("C:\\ostrane.dat") == archive);

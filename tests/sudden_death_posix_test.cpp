@@ -101,7 +101,7 @@ TEST_F(sudden_death_test, ABuildFlushesBothTheArchiveAndItsFolder) {
   build_in();
   ASSERT_GT(none.made.size(), 5U);
   EXPECT_EQ(std::vector<std::string>(none.made.end() - 5, none.made.end()),
-            (std::vector<std::string>{"flush_to_disk", "close_file", "replace", "replace",
+            (std::vector<std::string>{"flush_to_disk", "close_written", "replace", "replace",
                                       "flush_folder"}));
 }
 

@@ -11,7 +11,10 @@ constexpr std::size_t block = 65536;
 // A file that is there must be a normal one that may be written to, though it is only replaced.
 const std::string& writable(const std::string& path) {
   std::error_code unknown;
-  if (std::filesystem::exists(system_path(path), unknown)) binary_file().open_to_write(path);
+  if (!std::filesystem::exists(system_path(path), unknown)) return path;
+  binary_file old;
+  old.open_to_write(path);
+  old.close();
   return path;
 }
 
