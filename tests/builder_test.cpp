@@ -12,17 +12,6 @@ const std::string closing = "Your new Ostrane.dat has been created and saved in:
 
 class builder_test : public tool_test {
  protected:
-  // The dialog at the folder of work, which it has just listed.
-  static void open_dialog() {
-    user::click(Form1.mnu_make);
-    Form5.Dir1.Path = "C:\\work";
-    Form5.File1.Refresh();
-    user::type(Form5.Text1, "C:\\work");
-  }
-  static void build() {
-    open_dialog();
-    user::click(Form5.Command1);
-  }
   // Begins anew with these files alone in the folder of work.
   void begin_with(const std::vector<entry>& files) {
     fs::remove_all(place("C:\\work"));
@@ -57,7 +46,7 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesBehindIt) {
   };
   for (const auto& [files, archive] : cases) {
     begin_with(files);
-    build();
+    build_in();
     EXPECT_EQ(new_messages(), texts{closing + "C:\\work\\ostrane.dat"});
     EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive);
     EXPECT_EQ(names_in("C:\\work").size(), files.size() + 1);
@@ -73,7 +62,7 @@ TEST_F(builder_test, ReplacesTheOldArchiveInWhateverCaseItsNameIs) {
       write("C:\\work\\" + name, some_bytes(500));
       fs::permissions(place("C:\\work\\" + name), fs::perms::owner_read);
     }
-    build();
+    build_in();
     EXPECT_EQ(names_in("C:\\work").size(), 2U) << old.front();
     EXPECT_TRUE(exists("C:\\work\\a.txt"));
     EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
@@ -116,7 +105,7 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
     begin_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});
     open_archive({{"OPEN.TXT", "open"}});
     recording_screen screen;
-    open_dialog();
+    open_build_dialog();
     c.before();
     texts names = names_in("C:\\work");
     screen.at_refresh = [&] {
@@ -140,7 +129,7 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
 TEST_F(builder_test, TheNewArchiveBecomesTheOpenOneIfOneWasOpen) {
   begin_with({{"new.txt", "new"}, {"game.pal", std::string(1024, 2)}});
   open_archive({{"OLD.TXT", "old"}, {"X", "x"}, {"GAME.PAL", std::string(1024, 1)}});
-  open_dialog();
+  open_build_dialog();
   write("C:\\work\\unlisted.txt", "came behind the list");
   user::click(Form5.Command1);
   EXPECT_EQ(tool_state.archive_path, "C:\\work\\ostrane.dat");
@@ -154,7 +143,7 @@ TEST_F(builder_test, TheNewArchiveBecomesTheOpenOneIfOneWasOpen) {
 TEST_F(builder_test, TellsEachFileAndGivesTheMainWindowBackBeforeTheClosingMessage) {
   begin_with({{"A b.txt", "a"}});
   recording_screen screen;
-  open_dialog();
+  open_build_dialog();
   screen.at_refresh = [] { expect_progress("Ostrane.dat tool - Make new Ostrane.dat", true); };
   screen.at_message = [] {
     expect_progress("Ostrane.dat tool ", false);
@@ -183,7 +172,7 @@ TEST_F(builder_test, MovesTheBarsAtTheirPaces) {
       files.push_back({std::to_string(i), some_bytes(c.size)});
     begin_with(files);
     screen.begin_bars();
-    build();
+    build_in();
     EXPECT_EQ(screen.values_2, c.total_bar) << c.files;
     EXPECT_EQ(screen.values_1, c.file_bar) << c.files << " of " << c.size;
     EXPECT_EQ(Form3.ProgressBar2.Max(), static_cast<float>(c.files + 1));
@@ -200,7 +189,7 @@ TEST_F(builder_test, AnExtractedArchiveIsBuiltAgainByteForByte) {
   user::click(Form1.mnu_ext);
   user::type(Form4.Text1, "C:\\work");
   user::click(Form4.Command2);
-  build();
+  build_in();
   EXPECT_TRUE(read("C:\\work\\OSTRANE.DAT") == archive_bytes(entries));
 }
 

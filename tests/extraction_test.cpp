@@ -9,20 +9,9 @@ using files = std::map<std::string, std::string>;
 
 class extraction_test : public tool_test {
  protected:
-  // Extracts the open archive into a folder, as typed into the dialog.
-  static void extract_into(const std::string& folder) {
-    user::click(Form1.mnu_ext);
-    user::type(Form4.Text1, folder);
-    user::click(Form4.Command2);
-  }
   void extract(const std::vector<entry>& entries, const std::string& folder = "D:\\") {
     open_archive(entries);
     extract_into(folder);
-  }
-  // Opens a file of these bytes as the archive.
-  void open_bytes(const std::string& bytes) {
-    write("C:\\ostrane.dat", bytes);
-    open_archive();
   }
 };
 

@@ -17,26 +17,22 @@ namespace {
 failing_calls* present = nullptr;
 std::set<int> written;  // files that are open for writing
 
-int opened_to_write(int file) {
-  if (file >= 0) written.insert(file);
-  return file;
-}
-
-// The call as it is, or the error with which it fails behind a part of its work.
-template <typename Call, typename Part>
-auto made(const char* name, const Call& call, const Part& part) -> decltype(call()) {
-  if (present == nullptr) return call();
+// The call as it is, or the error with which it fails. `done_all_the_same`: not before its work.
+template <typename Call, typename... Arguments>
+auto made(const char* name, bool done_all_the_same, const Call& call, const Arguments&... with) {
+  using outcome = decltype(call(with...));
+  if (present == nullptr) return call(with...);
   const int number = static_cast<int>(present->made.size());
   present->made.emplace_back(name);
-  if (number < present->at || (number > present->at && !present->lasting)) return call();
-  part();
+  if (number < present->at || (number > present->at && !present->lasting)) return call(with...);
+  if (done_all_the_same) call(with...);
   if (present->reason == 0) std::raise(SIGKILL);
-  return -present->reason;
+  return static_cast<outcome>(-present->reason);
 }
 
-template <typename Call>
-auto made(const char* name, const Call& call) -> decltype(call()) {
-  return made(name, call, [] {});
+int to_write(int file) {
+  if (file >= 0) written.insert(file);
+  return file;
 }
 
 }  // namespace
@@ -51,54 +47,40 @@ failing_calls::~failing_calls() { present = nullptr; }
 
 namespace platform::file_calls {
 
+namespace fs = std::filesystem;
+namespace real = platform::system_calls;
 using ostrane::made;
-using ostrane::opened_to_write;
-using place_on_disk = std::filesystem::path;
+using ostrane::to_write;
 
-int open_to_read(const place_on_disk& place) {
-  return made("open_to_read", [&] { return system_calls::open_to_read(place); });
+int open_to_read(const fs::path& at) { return made("open_to_read", false, real::open_to_read, at); }
+int open_to_write(const fs::path& at) {
+  return to_write(made("open_to_write", false, real::open_to_write, at));
 }
-int open_to_write(const place_on_disk& place) {
-  return opened_to_write(made("open_to_write", [&] { return system_calls::open_to_write(place); }));
-}
-int open_new(const place_on_disk& place) {
-  return opened_to_write(made("open_new", [&] { return system_calls::open_new(place); }));
-}
+int open_new(const fs::path& at) { return to_write(made("open_new", false, real::open_new, at)); }
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
-  return made("read_some", [&] { return system_calls::read_some(file, to, count); });
+  return made("read_some", false, real::read_some, file, to, count);
 }
+// The system may write less than it was given.
 std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
-  // The system may write less than it was given.
   const std::size_t part = ostrane::present == nullptr ? count : (count + 1) / 2;
-  const auto write = [&] { return system_calls::write_some(file, from, part); };
-  return made("write_some", write, write);
+  return made("write_some", true, real::write_some, file, from, part);
 }
 std::int64_t seek_to(int file, std::int64_t offset) {
-  return made("seek_to", [&] { return system_calls::seek_to(file, offset); });
+  return made("seek_to", false, real::seek_to, file, offset);
 }
-std::int64_t size_of(int file) {
-  return made("size_of", [&] { return system_calls::size_of(file); });
-}
-int flush_to_disk(int file) {
-  return made("flush_to_disk", [&] { return system_calls::flush_to_disk(file); });
-}
+std::int64_t size_of(int file) { return made("size_of", false, real::size_of, file); }
+int flush_to_disk(int file) { return made("flush_to_disk", false, real::flush_to_disk, file); }
+// A file is closed also if that fails, and a full disk too gives up its files.
 int close_file(int file) {
-  const auto close = [&] { return system_calls::close_file(file); };
   const bool was_written = ostrane::written.erase(file) > 0;
-  return made(was_written ? "close_written" : "close_read", close,
-              close);  // the file is closed also if that fails
+  return made(was_written ? "close_written" : "close_read", true, real::close_file, file);
 }
-int replace(const place_on_disk& file, const place_on_disk& target) {
-  return made("replace", [&] { return system_calls::replace(file, target); });
+int remove_file(const fs::path& at) { return made("remove_file", true, real::remove_file, at); }
+int replace(const fs::path& file, const fs::path& target) {
+  return made("replace", false, real::replace, file, target);
 }
-int flush_folder(const place_on_disk& folder) {
-  return made("flush_folder", [&] { return system_calls::flush_folder(folder); });
-}
-int remove_file(const place_on_disk& place) {
-  const auto remove = [&] { return system_calls::remove_file(place); };
-  return made("remove_file", remove, remove);  // a full disk too gives up its files
-}
-bool is_hidden(const place_on_disk& place) { return system_calls::is_hidden(place); }
-int errno_number(const std::error_code& reason) { return system_calls::errno_number(reason); }
+int flush_folder(const fs::path& at) { return made("flush_folder", false, real::flush_folder, at); }
+bool is_hidden(const fs::path& at) { return real::is_hidden(at); }
+int errno_number(const std::error_code& reason) { return real::errno_number(reason); }
 
 }  // namespace platform::file_calls

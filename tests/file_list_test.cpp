@@ -35,12 +35,5 @@ TEST_F(file_list_test, WithoutRowsItOnlyTells) {
   EXPECT_FALSE(exists("C:\\shplist.txt"));
 }
 
-TEST_F(file_list_test, TellsThatItCouldNotSave) {
-  open_archive({{"A", "1"}});
-  make_folder("C:\\shplist.txt");
-  EXPECT_EQ(save(), std::vector<std::string>{"The list of files was not saved. shplist.txt cannot "
-                                             "be opened: it is a folder."});
-}
-
 }  // namespace
 }  // namespace ostrane

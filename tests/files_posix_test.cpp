@@ -38,27 +38,5 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   EXPECT_EQ(found.folders, std::vector<std::string>{"folder"});
 }
 
-// Opening what is no file must fail with a word, not wait for the other end of a pipe.
-TEST_F(files_posix_test, OpensNormalFilesAlone) {
-  ASSERT_EQ(mkfifo(place("C:\\pipe").c_str(), 0600), 0);
-  std::filesystem::create_symlink("/dev/null", place("C:\\device"));
-  for (const char* path : {"C:\\pipe", "C:\\program", "C:\\device", "C:\\missing"}) {
-    platform::binary_file file;
-    EXPECT_THROW(file.open_to_read(path), platform::file_error) << path;
-  }
-  platform::binary_file file;
-  EXPECT_THROW(file.open_to_write("C:\\pipe"), platform::file_error);
-  EXPECT_THROW(file.open_to_write("C:\\program"), platform::file_error);
-}
-
-TEST_F(files_posix_test, TellsOfAnArchiveThatCannotBeOpened) {
-  std::filesystem::create_symlink("/dev/null", place("C:\\ostrane.dat"));
-  open_archive();
-  EXPECT_EQ(new_messages(),
-            std::vector<std::string>{"C:\\ostrane.dat cannot be opened: access is not allowed."});
-  EXPECT_FALSE(Form1.mnu_ext.Enabled());
-  EXPECT_FALSE(Form2.Visible());
-}
-
 }  // namespace
 }  // namespace ostrane

@@ -68,18 +68,13 @@ TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
   EXPECT_EQ(Form1.Frame1.Caption(), "GAME.PAL - The colours; four of them");
 
   make_folder("D:\\out");
-  user::click(Form1.mnu_ext);
-  Form4.Dir1.Path = "D:\\out";
-  user::click(Form4.Command2);
-  user::click(Form1.mnu_make);
-  Form5.Dir1.Path = "D:\\out";
-  user::click(Form5.Command1);
+  extract_into("D:\\out");
+  build_in("D:\\out");
   EXPECT_EQ(read("D:\\out\\OSTRANE.DAT"), archive);
 }
 
 TEST_F(formats_test, TheExamplesOfListsAreWrittenAndComparedAsThePageSays) {
-  write("C:\\ostrane.dat", example_archive());
-  open_archive();
+  open_bytes(example_archive());
   user::click(Form1.mnu_save);
   EXPECT_EQ(read("C:\\shplist.txt"), text_file("saved"));
   write("D:\\list.txt", text_file("shiplist"));

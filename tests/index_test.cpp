@@ -76,8 +76,7 @@ TEST_F(index_test, RefusesADamagedIndexWhole) {
   };
   for (const auto& c : cases) {
     begin();
-    write("C:\\ostrane.dat", good);
-    open_archive();
+    open_bytes(good);
     write("C:\\bad\\ostrane.dat", c.bytes);
     open_archive("C:\\bad");
     const messages told = new_messages();
@@ -122,8 +121,7 @@ TEST_F(index_test, TakesThePaletteFromTheLastRecordThatNamesIt) {
 TEST_F(index_test, APaletteOutsideTheFileCountsAsNone) {
   for (const std::int32_t offset : {0, -5, 2147483647}) {
     begin();
-    write("C:\\ostrane.dat", index_bytes(2, {{offset, "GAME.PAL"}, {38, ""}}) + palette_of(1));
-    open_archive();
+    open_bytes(index_bytes(2, {{offset, "GAME.PAL"}, {38, ""}}) + palette_of(1));
     EXPECT_EQ(tool_state.colour_table[1], 0xF0F0F0U) << offset;
   }
 }

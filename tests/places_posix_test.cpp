@@ -1,11 +1,10 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "archive/builder.h"
-#include "icon_fixture.h"
+#include "child_process.h"
+#include "tool_fixture.h"
 
 namespace ostrane {
 namespace {
@@ -72,22 +71,18 @@ TEST_F(places_test, EveryCommandTellsOfADriveThatWentAway) {
 
 TEST_F(places_test, EveryCommandTellsOfAFolderWithoutPermission) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can make folders of another user";
-  const pid_t child = fork();
-  if (child == 0) {
+  const int end = end_of(begin_process([&] {
     fs::permissions(root, fs::perms::all);
     for (const char* drive : {"c", "d", "c/program"}) fs::permissions(root / drive, fs::perms::all);
-    if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) _exit(77);
+    if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) _exit(not_possible);
     restore = [&] { fs::permissions(place("D:\\x"), fs::perms::all); };
     texts told = expected("access is not allowed");
     told[0] = not_found;
     EXPECT_EQ(told_by_each_command([&] { fs::permissions(place("D:\\x"), fs::perms::none); }),
               told);
-    _exit(HasFailure() ? 1 : 0);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  if (WEXITSTATUS(status) == 77) GTEST_SKIP() << "no other user can be taken on here";
-  EXPECT_EQ(status, 0);
+  }));
+  if (end == not_possible) GTEST_SKIP() << "no other user can be taken on here";
+  EXPECT_EQ(end, 0);
 }
 
 TEST_F(places_test, EveryCommandTellsOfWhatIsNoNormalFile) {

@@ -238,9 +238,7 @@ TEST_F(series_test, ADirectoryThatIsNotThereStopsTheSeries) {
 
 TEST_F(series_test, AnEntryOutsideTheFileHasNoIcons) {
   constexpr std::int32_t least = -2147483647 - 1;
-  write("C:\\ostrane.dat",
-        index_bytes(4, {{-1, "A.SHP"}, {500000, "B.SHP"}, {least, "C.SHP"}, {72, ""}}));
-  open_archive();
+  open_bytes(index_bytes(4, {{-1, "A.SHP"}, {500000, "B.SHP"}, {least, "C.SHP"}, {72, ""}}));
   for (const auto& [name, number] :
        {std::pair{"A.SHP", " 0"}, {"B.SHP", " 500001"}, {"C.SHP", "-2147483647"}}) {
     click_row(name);

@@ -1,10 +1,8 @@
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <chrono>
 #include <csignal>
 #include <random>
 
+#include "child_process.h"
 #include "failing_calls.h"
 #include "tool_fixture.h"
 
@@ -23,20 +21,6 @@ class sudden_death_test : public tool_test {
     for (const auto& [name, bytes] : sources) write("C:\\work\\" + name, bytes);
     write("C:\\work\\ostrane.dat", "the old one");
     begin();
-  }
-  // The process that does this; it never comes back from it.
-  template <typename Job>
-  static pid_t process(const Job& job) {
-    const pid_t child = fork();
-    if (child != 0) return child;
-    job();
-    _exit(0);
-  }
-  // True if the process was killed.
-  static bool was_killed(pid_t child) {
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFSIGNALED(status);
   }
   // What is there is the old archive or the new one, and the next build leaves nothing else.
   void check() {
@@ -63,10 +47,10 @@ TEST_F(sudden_death_test, ABuildKilledAtAnyCallLeavesAWholeArchive) {
   for (; killed; ++at) {
     SCOPED_TRACE(at);
     begin_anew();
-    killed = was_killed(process([at] {
-      const failing_calls death(at);
-      build_in();
-    }));
+    killed = end_of(begin_process([at] {
+               const failing_calls death(at);
+               build_in();
+             })) < 0;
     ASSERT_NO_FATAL_FAILURE(check());
   }
   EXPECT_GT(at, 40);
@@ -77,17 +61,17 @@ TEST_F(sudden_death_test, ABuildKilledAtAnyMomentLeavesAWholeArchive) {
   std::mt19937 random(std::random_device{}());
   const auto begun = clock::now();
   begin_anew();
-  ASSERT_FALSE(was_killed(process([] { build_in(); })));
+  ASSERT_EQ(end_of(begin_process([] { build_in(); })), 0);
   const std::chrono::duration<double, std::micro> whole = clock::now() - begun;
   int killed = 0;
   for (int time = 0; time < 200; ++time) {
     begin_anew();
     const auto pause = static_cast<useconds_t>(random() % static_cast<unsigned>(whole.count()));
     SCOPED_TRACE(pause);
-    const pid_t child = process([] { build_in(); });
+    const pid_t child = begin_process([] { build_in(); });
     usleep(pause);
     kill(child, SIGKILL);
-    killed += was_killed(child) ? 1 : 0;
+    killed += end_of(child) < 0 ? 1 : 0;
     ASSERT_NO_FATAL_FAILURE(check());
   }
   RecordProperty("killed", killed);

@@ -138,7 +138,11 @@ void tool_test::open_archive(const std::string& folder) {
 }
 
 void tool_test::open_archive(const std::vector<entry>& entries) {
-  write("C:\\ostrane.dat", archive_bytes(entries));
+  open_bytes(archive_bytes(entries));
+}
+
+void tool_test::open_bytes(const std::string& bytes) {
+  write("C:\\ostrane.dat", bytes);
   open_archive();
 }
 

@@ -56,6 +56,7 @@ class tool_test : public testing::Test {
   // Through Form2, as a user does it.
   void open_archive(const std::string& folder = "C:\\");
   void open_archive(const std::vector<entry>& entries);
+  void open_bytes(const std::string& bytes);
   void click_row(const std::string& name);
   void double_click_row(const std::string& name);
   // Through Form4, Form5 and Form6.
