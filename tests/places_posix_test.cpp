@@ -86,18 +86,21 @@ TEST_F(places_test, EveryCommandTellsOfAFolderWithoutPermission) {
 }
 
 TEST_F(places_test, EveryCommandTellsOfWhatIsNoNormalFile) {
-  const std::pair<std::function<void(const fs::path&)>, const char*> kinds[] = {
+  const struct {
+    std::function<void(const fs::path&)> make;
+    const char* reason;
+  } kinds[] = {
       {[](const fs::path& p) { fs::create_directory(p); }, "it is a folder"},
       {[](const fs::path& p) { EXPECT_EQ(mkfifo(p.c_str(), 0600), 0); }, "access is not allowed"},
       {[](const fs::path& p) { fs::create_symlink("/dev/zero", p); }, "access is not allowed"},
   };
-  for (const auto& [make, reason] : kinds) {
-    texts told = expected(reason);
-    if (reason == std::string("it is a folder")) told[0] = not_found;
+  for (const auto& kind : kinds) {
+    texts told = expected(kind.reason);
+    if (kind.reason == std::string("it is a folder")) told[0] = not_found;
     const auto replace_all = [&] {
       for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
         fs::remove(place("D:\\x") / name);
-        make(place("D:\\x") / name);
+        kind.make(place("D:\\x") / name);
       }
     };
     EXPECT_EQ(told_by_each_command(replace_all), told);
@@ -125,7 +128,7 @@ TEST_F(places_test, TheLongestNamesAndThoseOfOtherCaseEachGiveAnEntry) {
   const std::string longest(255, 'n');
   const std::string folder = "C:\\" + std::string(255, 'f');
   for (const auto& [name, bytes] : files{{"a.txt", "1"}, {"A.TXT", "2"}, {longest, "3"}}) {
-    write(folder + "\\" + name, bytes);
+    write(std::string(folder).append("\\").append(name), bytes);
   }
   build_in(folder);
   EXPECT_EQ(read(folder + "\\OSTRANE.DAT"),
