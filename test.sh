@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs all tests: as they are, and once more with the
-# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, and runs the
-# fuzz targets for a while, where the tools for that are there (CI installs them). OSTRANE_BUILD
-# names the folder to build in, build-test if it is not set.
+# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, runs the fuzz
+# targets for a while, and tests all but the windows under Wine, where the tools for that are there
+# (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it is not set.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -40,3 +40,5 @@ if [ -n "${CI:-}" ] || { clang_tool clang++ && is_installed "$clang_runtime"; } 
 else
   echo "The fuzz targets are not run: no clang $clang_version with its runtime here"
 fi
+
+scripts/test_windows.sh "$build/windows"
