@@ -1,7 +1,8 @@
 #include "icons/read_buffer.h"
 
+#include <span>
+
 #include "state/files.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -33,18 +34,6 @@ void refill_read_buffer() {
       if (!read_block(static_cast<std::size_t>(block))) return;
     }
   }
-}
-
-void take_stream_byte() {
-  if (tool_state.read_buffer_pos > tool_state.read_buffer_fill - 1) refill_read_buffer();
-  if (tool_state.read_buffer_fill == 0) {
-    tool_state.stream_ended = flag_true;
-    tool_state.stream_byte = 0;
-    return;
-  }
-  const auto next = static_cast<std::size_t>(tool_state.read_buffer_pos);
-  tool_state.stream_byte = std::to_integer<std::uint8_t>(tool_state.read_buffer[next]);
-  ++tool_state.read_buffer_pos;
 }
 
 }  // namespace ostrane

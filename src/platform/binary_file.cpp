@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t buffer_size = 65536;
+constexpr std::size_t buffer_size = 262144;
 
 }  // namespace
 

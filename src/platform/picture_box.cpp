@@ -29,18 +29,6 @@ void picture_box::Cls() {
   tell_screen(aspect::pixels);
 }
 
-void picture_box::Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t /*y2*/,
-                       colour c) {
-  if (y1 < 0 || y1 >= rows_) return;
-  const std::int32_t first = std::max(x1, 0);
-  const std::int32_t behind = std::min(x2, columns_);
-  if (first >= behind) return;
-  if (pixels_.empty()) take_memory();
-  std::fill_n(pixels_.begin() + static_cast<std::ptrdiff_t>(index_of(first, y1)), behind - first,
-              c);
-  damage(first, y1, behind);
-}
-
 colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
   if (x < 0 || y < 0 || x >= columns_ || y >= rows_ || pixels_.empty()) return unset;
   return pixels_[index_of(x, y)];

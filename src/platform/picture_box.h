@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "platform/control.h"
@@ -51,7 +52,18 @@ class picture_box : public control {
   }
 
   // Sets the pixels x1 to x2 - 1 of a row; what lies outside the drawing area is lost.
-  void Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, colour c);
+  void Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t /*y2*/, colour c) {
+    set_pixels(pixels_to_set(x1, y1, x2), [c](std::size_t) { return c; });
+  }
+
+  // PSet for `count` pixels of a row from x, y to the right; `colour_of` tells the colour of the
+  // pixel by its number, from 0 on.
+  template <typename ColourOf>
+  void PSet(std::int32_t x, std::int32_t y, std::int32_t count, ColourOf colour_of) {
+    const std::size_t lost = x < 0 ? static_cast<std::size_t>(-x) : 0;
+    set_pixels(pixels_to_set(x, y, x + count),
+               [&](std::size_t number) { return colour_of(lost + number); });
+  }
 
   // The colour of a pixel of the drawing area, `unset` if it has none.
   colour pixel(std::int32_t x, std::int32_t y) const;
@@ -65,6 +77,10 @@ class picture_box : public control {
   void written(aspect what, bool differs) override;
 
  private:
+  // Most runs are no longer. A loop of a fixed length has no end that the processor could guess
+  // wrong, which costs more than the pixels.
+  static constexpr std::size_t short_run = 16;
+
   std::size_t index_of(std::int32_t x, std::int32_t y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(columns_) +
            static_cast<std::size_t>(x);
@@ -79,6 +95,30 @@ class picture_box : public control {
     if (x2 > damaged_.right) damaged_.right = x2;
     if (y < damaged_.top) damaged_.top = y;
     if (y >= damaged_.bottom) damaged_.bottom = y + 1;
+  }
+  // Those of the pixels x1 to x2 - 1 of a row that the drawing area has, all to be set.
+  std::span<colour> pixels_to_set(std::int32_t x1, std::int32_t y, std::int32_t x2) {
+    if (y < 0 || y >= rows_) return {};
+    const std::int32_t first = x1 > 0 ? x1 : 0;
+    const std::int32_t behind = x2 < columns_ ? x2 : columns_;
+    if (first >= behind) return {};
+    if (pixels_.empty()) take_memory();
+    damage(first, y, behind);
+    return {pixels_.data() + index_of(first, y), static_cast<std::size_t>(behind - first)};
+  }
+  template <typename ColourOf>
+  void set_pixels(std::span<colour> row, ColourOf colour_of) {
+    const std::size_t count = row.size();
+    colour* to = row.data();
+    if (count == 0) return;
+    if (count > short_run || to + short_run > pixels_.data() + pixels_.size()) {
+      for (std::size_t i = 0; i < count; ++i) to[i] = colour_of(i);
+      return;
+    }
+    for (std::size_t i = 0; i < short_run; ++i) {
+      const colour now = colour_of(i < count ? i : 0);
+      to[i] = i < count ? now : to[i];
+    }
   }
   void take_memory();
   void take_size();

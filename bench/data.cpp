@@ -1,0 +1,127 @@
+#include "data.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+
+#include "archive/format.h"
+#include "platform/little_endian.h"
+
+namespace ostrane::bench {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct scratch_root {
+  fs::path place = fs::temp_directory_path() / ("ostrane-bench-" + std::to_string(getpid()));
+  ~scratch_root() {
+    std::error_code gone;
+    fs::remove_all(place, gone);
+  }
+};
+
+void append(std::string& to, std::span<const std::byte> bytes) {
+  to.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+record_name record_name_of(const std::string& text) {
+  record_name name = {};
+  std::copy_n(text.begin(), std::min(text.size(), name.size()), name.begin());
+  return name;
+}
+
+// A stretch of a row: a gap, a run in one colour or pixels that all differ.
+void draw_stretch(samples::picture& drawn, int row, int from, int behind, unsigned kind) {
+  for (int x = from; x < behind; ++x) {
+    if (kind == 0) continue;
+    const int index = kind == 1 ? from + row : x * 7 + row * 13;
+    drawn.set(x, row, static_cast<std::uint8_t>(index));
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> shuffled_names(int count) {
+  std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) names.push_back("F" + std::to_string(100000 + i) + ".SHP");
+  std::mt19937 order(1);  // NOLINT(cert-msc51-cpp): the same in every run
+  std::shuffle(names.begin(), names.end(), order);
+  return names;
+}
+
+std::vector<samples::picture> mixed_pictures(int count, int side) {
+  std::mt19937 chance(2);  // NOLINT(cert-msc51-cpp): the same in every run
+  std::vector<samples::picture> pictures;
+  for (int i = 0; i < count; ++i) {
+    samples::picture drawn(side, side);
+    for (int row = 0; row < side; ++row) {
+      for (int x = 0; x < side;) {
+        const int behind = std::min(side, x + 1 + static_cast<int>(chance() % 16));
+        draw_stretch(drawn, row, x, behind, static_cast<unsigned>(chance() % 3));
+        x = behind;
+      }
+    }
+    // The data takes up the whole picture.
+    drawn.set(0, 0, 1);
+    drawn.set(side - 1, side - 1, 1);
+    pictures.push_back(std::move(drawn));
+  }
+  return pictures;
+}
+
+std::vector<entry> files_of_64_mb() {
+  std::mt19937 chance(3);  // NOLINT(cert-msc51-cpp): the same in every run
+  std::vector<entry> files;
+  for (int i = 0; i < 4000; ++i) {
+    std::string bytes(8192 + chance() % 16384, '\0');
+    for (char& c : bytes) c = static_cast<char>(chance());
+    files.push_back({"FILE" + std::to_string(1000 + i) + ".BIN", std::move(bytes)});
+  }
+  return files;
+}
+
+void write_file(const fs::path& place, const std::string& bytes) {
+  std::ofstream file(place, std::ios::binary | std::ios::trunc);
+  file << bytes;
+  file.close();
+  if (!file) throw std::runtime_error(place.string() + " cannot be written");
+}
+
+void write_archive(const fs::path& folder, const std::vector<entry>& entries) {
+  const auto count = static_cast<std::int32_t>(entries.size()) + 1;
+  std::array<std::byte, record_size> record;
+  std::string index;
+  platform::put_int32(record, 0, count);
+  append(index, std::span(record).first<count_size>());
+  std::string bodies;
+  const auto body_start = static_cast<std::int32_t>(count_size) + record_size * count;
+  const auto add = [&](const std::string& name) {
+    encode_record({.offset = body_start + static_cast<std::int32_t>(bodies.size()),
+                   .name = record_name_of(name)},
+                  record);
+    append(index, record);
+  };
+  for (const entry& e : entries) {
+    add(e.name);
+    bodies += e.bytes;
+  }
+  add("");
+  fs::create_directories(folder);
+  write_file(folder / "ostrane.dat", index + bodies);
+}
+
+fs::path scratch(const std::string& name) {
+  static const scratch_root root;
+  fs::path place = root.place / name;
+  fs::create_directories(place);
+  return place;
+}
+
+}  // namespace ostrane::bench

@@ -1,0 +1,81 @@
+// bench_make_data FOLDER
+// Writes what peers.sh measures with: names (an index of 32,768 records, empty files of the same
+// names, a shiplist, and the two lists of names one a line), files (4000 files, 64 MB), archive
+// (the same as an archive), icons (one file of 300 and one of 999 icons and a text of 32 KB).
+#include <algorithm>
+#include <exception>
+#include <iostream>
+
+#include "data.h"
+#include "shp_writer.h"
+
+namespace {
+
+using namespace ostrane;
+namespace fs = std::filesystem;
+
+std::string lines_of(const std::vector<std::string>& names, const char* end) {
+  std::string lines;
+  for (const std::string& name : names) lines += name + end;
+  return lines;
+}
+
+void make_names(const fs::path& folder) {
+  std::vector<std::string> names = bench::shuffled_names(bench::most_names);
+  fs::create_directories(folder / "empty");
+  bench::write_file(folder / "shiplist.txt", lines_of(names, "\r\n"));
+  bench::write_file(folder / "shuffled", lines_of(names, "\n"));
+  std::sort(names.begin(), names.end());
+  std::vector<bench::entry> entries;
+  for (const std::string& name : names) {
+    entries.push_back({name, ""});
+    bench::write_file(folder / "empty" / name, "");
+  }
+  bench::write_file(folder / "in_order", lines_of(names, "\n"));
+  bench::write_archive(folder, entries);
+}
+
+void make_files(const fs::path& folder) {
+  const std::vector<bench::entry> files = bench::files_of_64_mb();
+  bench::write_archive(folder / "archive", files);
+  fs::create_directories(folder / "files");
+  for (const bench::entry& file : files) {
+    bench::write_file(folder / "files" / file.name, file.bytes);
+  }
+}
+
+std::string text_of_32_kb() {
+  std::string text;
+  for (int i = 0; text.size() < 32768; ++i) {
+    text += "Line " + std::to_string(i) + " tells of ships, ports and the wind between them.\r\n";
+  }
+  return text;
+}
+
+void make_icons(const fs::path& folder) {
+  bench::write_archive(folder,
+                       {{"I300.SHP", samples::shp_file(bench::mixed_pictures(300, 32))},
+                        {"I500.SHP", samples::shp_file(bench::mixed_pictures(500, 32))},
+                        {"I999.SHP", samples::shp_file(bench::mixed_pictures(999, 32))},
+                        {"LONG.TXT", text_of_32_kb()},
+                        {"SHORT.TXT", "short"}});
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::cerr << "usage: bench_make_data FOLDER\n";
+    return 2;
+  }
+  try {
+    const fs::path folder = fs::absolute(argv[1]);
+    make_names(folder / "names");
+    make_files(folder);
+    make_icons(folder / "icons");
+  } catch (const std::exception& failure) {
+    std::cerr << "bench_make_data: " << failure.what() << '\n';
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,27 @@
+#include <benchmark/benchmark.h>
+
+#include "data.h"
+#include "forms/forms.h"
+#include "platform/user.h"
+#include "shp_writer.h"
+#include "tool.h"
+
+namespace {
+
+using namespace ostrane;
+
+// One click on an icon file until its series is drawn, without a screen.
+void draw_series(benchmark::State& state) {
+  const auto count = static_cast<int>(state.range(0));
+  const std::filesystem::path folder = bench::scratch("series" + std::to_string(count));
+  bench::write_archive(
+      folder, {{"SERIES.SHP", samples::shp_file(bench::mixed_pictures(count, 32))}, {"N", "n"}});
+  bench::begin_tool_on(folder);
+  bench::open_archive("C:\\");
+  bench::widen_window(2600, 2000, 999);
+  for (auto _ : state) platform::user::select_row(Form1.List1, 0);
+  if (Form1.Text3.Text() != " 1 -  " + std::to_string(count)) state.SkipWithError(Form1.Text3.Text().c_str());
+}
+BENCHMARK(draw_series)->Arg(300)->Arg(500)->Arg(999)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

@@ -1,0 +1,60 @@
+#include "tool.h"
+
+#include <stdexcept>
+
+#include "forms/forms.h"
+#include "platform/application.h"
+#include "platform/drives.h"
+#include "platform/events.h"
+#include "platform/message_box.h"
+#include "platform/user.h"
+#include "state/start_up.h"
+
+namespace ostrane::bench {
+
+namespace user = platform::user;
+
+void begin_tool_on(const std::filesystem::path& folder) {
+  platform::set_drives({{'C', "bench", folder}}, "C:\\");
+  begin_tool("C:\\");
+}
+
+void open_archive(const std::string& folder) {
+  user::click(Form1.mnu_open);
+  platform::run_event([&] { Form2.Dir1.Path = folder; });
+  user::click(Form2.Command1);
+}
+
+void extract_into(const std::string& folder) {
+  user::click(Form1.mnu_ext);
+  platform::run_event([&] { Form4.Dir1.Path = folder; });
+  user::click(Form4.Command2);
+}
+
+void build_from(const std::string& folder) {
+  user::click(Form1.mnu_make);
+  platform::run_event([&] { Form5.Dir1.Path = folder; });
+  user::click(Form5.Command1);
+}
+
+void compare_with(const std::string& file_name) {
+  user::click(Form1.mnu_read_filelist);
+  platform::run_event([&] { Form6.Text1.Text = file_name; });
+  user::click(Form6.Command1);
+}
+
+void widen_window(int width, int height, int max_icons) {
+  user::resize(Form1, width * platform::application.TwipsPerPixelX,
+               height * platform::application.TwipsPerPixelY);
+  user::type(Form1.Text5, std::to_string(max_icons));
+  user::focus(&Form1.List1);
+}
+
+void expect_no_complaint() {
+  for (const std::string& message : platform::messages_shown()) {
+    const bool done = message.find("has been") != std::string::npos;
+    if (!done) throw std::runtime_error(message);
+  }
+}
+
+}  // namespace ostrane::bench
