@@ -60,8 +60,8 @@ void decode_icons_from_file(benchmark::State& state) {
     file_1.close();
   }
   const auto& last = pictures().back();
-  const platform::colour corner = tool_state.colour_table[static_cast<std::size_t>(
-      last.at(side - 1, side - 1))];
+  const platform::colour corner =
+      tool_state.colour_table[static_cast<std::size_t>(last.at(side - 1, side - 1))];
   if (slot.pixel(side - 1, side - 1) != corner) state.SkipWithError("not decoded");
 }
 BENCHMARK(decode_icons_from_file)->Unit(benchmark::kMicrosecond);

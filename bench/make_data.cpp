@@ -53,12 +53,11 @@ std::string text_of_32_kb() {
 }
 
 void make_icons(const fs::path& folder) {
-  bench::write_archive(folder,
-                       {{"I300.SHP", samples::shp_file(bench::mixed_pictures(300, 32))},
-                        {"I500.SHP", samples::shp_file(bench::mixed_pictures(500, 32))},
-                        {"I999.SHP", samples::shp_file(bench::mixed_pictures(999, 32))},
-                        {"LONG.TXT", text_of_32_kb()},
-                        {"SHORT.TXT", "short"}});
+  bench::write_archive(folder, {{"I300.SHP", samples::shp_file(bench::mixed_pictures(300, 32))},
+                                {"I500.SHP", samples::shp_file(bench::mixed_pictures(500, 32))},
+                                {"I999.SHP", samples::shp_file(bench::mixed_pictures(999, 32))},
+                                {"LONG.TXT", text_of_32_kb()},
+                                {"SHORT.TXT", "short"}});
 }
 
 }  // namespace
