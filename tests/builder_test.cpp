@@ -182,7 +182,7 @@ TEST_F(builder_test, MovesTheBarsAtTheirPaces) {
 
 TEST_F(builder_test, AnExtractedArchiveIsBuiltAgainByteForByte) {
   std::vector<entry> entries;
-  for (const std::size_t size : {0, 1, 9, 700, 1024, 1025, 8193, 70000})
+  for (const std::size_t size : {0U, 1U, 9U, 700U, 1024U, 1025U, 8193U, 70000U})
     entries.push_back({"NUMBER_" + std::to_string(entries.size()) + ".SHP", some_bytes(size)});
   begin_with({});
   open_archive(entries);

@@ -65,7 +65,7 @@ TEST_F(chunk_ladder_test, TakesTheBlocksOfEachAmount) {
 }
 
 TEST_F(chunk_ladder_test, StopsWhereAShortSourceEnds) {
-  for (const std::size_t there : {0, 1, 1030, 8192, 50001}) {
+  for (const std::size_t there : {0U, 1U, 1030U, 8192U, 50001U}) {
     recording_screen screen;
     write("C:\\source", some_bytes(there));
     platform::binary_file source;
