@@ -1,7 +1,6 @@
 #include "icons/series.h"
 
 #include <string>
-#include <utility>
 
 #include "forms/form1.h"
 #include "forms/form3.h"
@@ -58,13 +57,10 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
-// Sizes beyond all bounds are told of once a series, as a damaged file may hold thousands of them.
-bool size_was_told = false;
-
 void refuse_icon(icon_outcome outcome) {
-  if (outcome == icon_outcome::refused || !std::exchange(size_was_told, true)) {
-    say_that_icon_is_refused();
-  }
+  const bool box_is_bad = outcome == icon_outcome::refused;
+  if (box_is_bad || tool_state.size_was_told == flag_false) say_that_icon_is_refused();
+  if (!box_is_bad) tool_state.size_was_told = flag_true;
   ++tool_state.next_icon;
   stop_behind_last_icon();
 }
@@ -136,7 +132,7 @@ void show_next_series() {
 
 void draw_shp_series() {
   tool_state.series_first_icon = tool_state.next_icon;
-  size_was_told = false;
+  tool_state.size_was_told = flag_false;
   try {
     draw_from_archive();
   } catch (const platform::file_error& error) {

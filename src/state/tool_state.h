@@ -78,6 +78,9 @@ struct tool_state_record {
   std::int32_t series_first_icon = 0;
   std::int32_t series_next_icon = 0;  // number of the last icon dealt with
   flag slot_fits = flag_false;
+  // A message spoke of a size that no slot can have. It comes once a series, as a damaged file may
+  // hold thousands of such icons.
+  flag size_was_told = flag_false;
 
   std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
   std::int16_t icon_name_count = 0;
