@@ -25,6 +25,8 @@ namespace ostrane {
 
 namespace {
 
+constexpr std::int16_t files_a_bar_step = 97;
+
 struct build {
   std::string target_folder;
   std::vector<std::string> files;
@@ -60,13 +62,6 @@ void write_index(const build& job, platform::binary_file& archive) {
   }
 }
 
-void move_total_bar(build& job, std::size_t index) {
-  ++job.total_bar_tick;
-  if (job.total_bar_tick <= 96) return;
-  Form3.ProgressBar2.Value = static_cast<float>(index);
-  job.total_bar_tick = 0;
-}
-
 void show_file_in_work(const build& job, std::size_t index) {
   Form3.message.Caption =
       "Current File : " + job.target_folder + job.files[index] +
@@ -78,7 +73,7 @@ void show_file_in_work(const build& job, std::size_t index) {
 void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
   const std::int32_t size = tool_state.make_index[index].size;
   const std::string path = job.target_folder + job.files[index];
-  move_total_bar(job, index);
+  move_total_bar(job.total_bar_tick, files_a_bar_step, index);
   std::int16_t small_block_bytes = 0;
   Form3.ProgressBar1.Min = 0;
   Form3.ProgressBar1.Max = static_cast<float>(size);

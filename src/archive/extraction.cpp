@@ -24,6 +24,8 @@ namespace ostrane {
 
 namespace {
 
+constexpr std::int16_t entries_a_bar_step = 49;
+
 struct extraction {
   std::string target_folder;
   std::int64_t archive_position = 0;  // of the entry in work
@@ -31,13 +33,6 @@ struct extraction {
   std::int16_t total_bar_tick = 0;
   passed_over_entries passed_over;
 };
-
-void move_total_bar(extraction& job, std::int32_t index) {
-  ++job.total_bar_tick;
-  if (job.total_bar_tick <= 48) return;
-  Form3.ProgressBar2.Value = static_cast<float>(index);
-  job.total_bar_tick = 0;
-}
 
 void show_entry_in_work(const extraction& job, const std::string& name, std::int32_t index,
                         std::int32_t entry_size) {
@@ -83,7 +78,7 @@ std::string write_entry(extraction& job, const std::string& path, std::int32_t e
 void extract_entry(extraction& job, std::int32_t index) {
   const dat_record& record = tool_state.dat_index[static_cast<std::size_t>(index)];
   const dat_record& next = tool_state.dat_index[static_cast<std::size_t>(index) + 1];
-  move_total_bar(job, index);
+  move_total_bar(job.total_bar_tick, entries_a_bar_step, static_cast<std::size_t>(index));
   const std::int32_t entry_size = in_32_bits(std::int64_t{next.offset} - record.offset);
   const std::string name = name_with_blanks(record.name);
   show_entry_in_work(job, name, index, entry_size);

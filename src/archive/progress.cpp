@@ -27,4 +27,11 @@ void hide_progress(const char* caption) {
   Form3.Visible = false;
 }
 
+void move_total_bar(std::int16_t& tick, std::int16_t files_a_step, std::size_t index) {
+  ++tick;
+  if (tick < files_a_step) return;
+  Form3.ProgressBar2.Value = static_cast<float>(index);
+  tick = 0;
+}
+
 }  // namespace ostrane
