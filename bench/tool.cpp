@@ -3,12 +3,12 @@
 #include <stdexcept>
 
 #include "forms/forms.h"
+#include "handlers/start_up.h"
 #include "platform/application.h"
 #include "platform/drives.h"
 #include "platform/events.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
-#include "state/start_up.h"
 
 namespace ostrane::bench {
 

@@ -11,8 +11,8 @@
 #include <iostream>
 #include <string>
 
+#include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
-#include "desktop/look.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
 #include "platform/user.h"

@@ -9,10 +9,10 @@
 #include <sstream>
 
 #include "forms/forms.h"
+#include "handlers/start_up.h"
 #include "platform/drives.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
-#include "state/start_up.h"
 
 namespace ostrane::fuzz {
 

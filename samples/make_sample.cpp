@@ -8,11 +8,11 @@
 #include <string>
 
 #include "forms/forms.h"
+#include "handlers/start_up.h"
 #include "platform/drives.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
 #include "sample_files.h"
-#include "state/start_up.h"
 #include "texts.h"
 
 namespace {

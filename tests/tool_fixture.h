@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "forms/forms.h"
+#include "handlers/start_up.h"
 #include "platform/drives.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
-#include "state/start_up.h"
 #include "state/tool_state.h"
 
 namespace ostrane {

@@ -3,8 +3,8 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "desktop/designed_look.h"
 #include "desktop/keys.h"
-#include "desktop/look.h"
 #include "desktop/screen_text.h"
 #include "desktop/wrapped_text.h"
 #include "platform/user.h"

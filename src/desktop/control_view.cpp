@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 
 namespace desktop {

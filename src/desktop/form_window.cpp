@@ -5,8 +5,8 @@
 #include <QWindow>
 #include <utility>
 
+#include "desktop/designed_look.h"
 #include "desktop/exposure.h"
-#include "desktop/look.h"
 #include "desktop/screen_text.h"
 #include "desktop/window_place.h"
 #include "platform/application.h"

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 
 namespace desktop {

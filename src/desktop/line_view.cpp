@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "platform/events.h"
 #include "platform/user.h"

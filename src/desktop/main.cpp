@@ -3,12 +3,12 @@
 #include <clocale>
 
 #include "desktop/command_line.h"
+#include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
-#include "desktop/look.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
+#include "handlers/start_up.h"
 #include "platform/paths.h"
-#include "state/start_up.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QShortcut>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "platform/user.h"
 

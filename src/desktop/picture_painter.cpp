@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 
 namespace desktop {
 

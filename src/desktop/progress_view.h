@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "desktop/control_view.h"
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "platform/progress_bar.h"
 
 namespace desktop {

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <array>
 
+#include "desktop/designed_look.h"
 #include "desktop/keys.h"
-#include "desktop/look.h"
 #include "desktop/screen_text.h"
 #include "platform/events.h"
 

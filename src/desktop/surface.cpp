@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 #include "desktop/picture_painter.h"
 #include "desktop/screen_text.h"
 #include "platform/user.h"

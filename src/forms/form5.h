@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/look.h"
+#include "forms/shared_design.h"
 
 namespace ostrane {
 

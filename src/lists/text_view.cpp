@@ -5,10 +5,10 @@
 
 #include "archive/entry_bounds.h"
 #include "forms/form1.h"
+#include "icons/show_working_message.h"
 #include "platform/file_error.h"
 #include "platform/message_box.h"
 #include "state/files.h"
-#include "state/show_working_message.h"
 #include "state/tool_state.h"
 
 namespace ostrane {

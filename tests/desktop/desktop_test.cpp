@@ -13,8 +13,8 @@
 #include <string>
 
 #include "desktop/control_view.h"
+#include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
-#include "desktop/look.h"
 #include "desktop/qt_screen.h"
 #include "desktop/screen_text.h"
 #include "desktop/wrapped_text.h"

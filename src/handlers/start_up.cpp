@@ -1,7 +1,7 @@
-#include "state/start_up.h"
+#include "handlers/start_up.h"
 
 #include "forms/forms.h"
-#include "forms/wiring.h"
+#include "handlers/wiring.h"
 #include "platform/application.h"
 #include "platform/events.h"
 #include "state/tool_state.h"

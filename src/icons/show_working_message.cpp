@@ -1,4 +1,4 @@
-#include "state/show_working_message.h"
+#include "icons/show_working_message.h"
 
 #include "forms/form3.h"
 

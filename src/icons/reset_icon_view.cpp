@@ -1,4 +1,4 @@
-#include "state/reset_icon_view.h"
+#include "icons/reset_icon_view.h"
 
 #include "forms/form1.h"
 #include "state/tool_state.h"

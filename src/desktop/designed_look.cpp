@@ -1,4 +1,4 @@
-#include "desktop/look.h"
+#include "desktop/designed_look.h"
 
 #include <QApplication>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "forms/failing_drive.h"
+#include "handlers/failing_drive.h"
 
 #include <functional>
 #include <string>

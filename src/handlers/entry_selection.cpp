@@ -1,4 +1,4 @@
-#include "forms/entry_selection.h"
+#include "handlers/entry_selection.h"
 
 #include <algorithm>
 #include <string>

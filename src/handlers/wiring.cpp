@@ -1,21 +1,21 @@
-#include "forms/wiring.h"
+#include "handlers/wiring.h"
 
 #include "archive/builder.h"
 #include "archive/extraction.h"
 #include "archive/index_reader.h"
 #include "archive/new_folder.h"
-#include "forms/entry_selection.h"
-#include "forms/failing_drive.h"
 #include "forms/forms.h"
-#include "forms/main_window.h"
+#include "handlers/entry_selection.h"
+#include "handlers/failing_drive.h"
+#include "handlers/load_form1.h"
+#include "handlers/main_window.h"
+#include "handlers/window_hand_over.h"
 #include "icons/icon_report.h"
 #include "icons/motion.h"
 #include "icons/series.h"
 #include "lists/compare.h"
-#include "lists/file_list.h"
+#include "lists/saved_file_list.h"
 #include "platform/application.h"
-#include "state/load_form1.h"
-#include "state/window_hand_over.h"
 
 namespace ostrane {
 

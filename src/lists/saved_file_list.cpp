@@ -1,4 +1,4 @@
-#include "lists/file_list.h"
+#include "lists/saved_file_list.h"
 
 #include "forms/form1.h"
 #include "platform/file_error.h"

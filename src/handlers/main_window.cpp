@@ -1,4 +1,4 @@
-#include "forms/main_window.h"
+#include "handlers/main_window.h"
 
 #include <cmath>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "state/window_hand_over.h"
+#include "handlers/window_hand_over.h"
 
 #include "archive/index_reader.h"
 #include "forms/forms.h"

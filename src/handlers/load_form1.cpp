@@ -1,4 +1,4 @@
-#include "state/load_form1.h"
+#include "handlers/load_form1.h"
 
 #include "forms/forms.h"
 #include "icons/slots.h"
