@@ -26,24 +26,14 @@ void open_form6() {
   Form6.File1.Pattern = std::string("*.txt");
 }
 
-void cancel_form2() {
-  Form2.Visible = false;
+void give_up_over_form1(platform::form& dialog) {
+  dialog.Visible = false;
   Form1.Enabled = true;
 }
 
-void cancel_form4() {
-  Form4.Visible = false;
+void give_up_in_place_of_form1(platform::form& dialog) {
+  dialog.Visible = false;
   Form1.Visible = true;
-}
-
-void cancel_form5() {
-  Form5.Visible = false;
-  Form1.Visible = true;
-}
-
-void cancel_form6() {
-  Form6.Visible = false;
-  Form1.Enabled = true;
 }
 
 void read_archive_of_form2() {

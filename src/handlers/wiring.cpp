@@ -47,7 +47,7 @@ void wire_form2() {
   Form2.Drive1.Change = [] { follow_drive(Form2.Drive1, Form2.Dir1); };
   Form2.Dir1.Change = [] { Form2.File1.Path = Form2.Dir1.Path(); };
   Form2.Command1.Click = read_archive_of_form2;
-  Form2.Command2.Click = cancel_form2;
+  Form2.Command2.Click = [] { give_up_over_form1(Form2); };
 }
 
 void wire_form3() {
@@ -72,14 +72,14 @@ void wire_form4() {
   Form4.Dir1.Change = [] { follow_folder(Form4); };
   Form4.Command1.Click = make_new_folder;
   Form4.Command2.Click = extract_all_entries;
-  Form4.Command3.Click = cancel_form4;
+  Form4.Command3.Click = [] { give_up_in_place_of_form1(Form4); };
 }
 
 void wire_form5() {
   Form5.Drive1.Change = [] { follow_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
   Form5.Dir1.Change = [] { follow_folder(Form5); };
   Form5.Command1.Click = make_archive;
-  Form5.Command2.Click = cancel_form5;
+  Form5.Command2.Click = [] { give_up_in_place_of_form1(Form5); };
 }
 
 void wire_form6() {
@@ -87,7 +87,7 @@ void wire_form6() {
   Form6.Dir1.Change = [] { Form6.File1.Path = Form6.Dir1.Path(); };
   Form6.File1.Click = [] { Form6.Text1.Text = Form6.File1.FileName(); };
   Form6.Command1.Click = compare_with_shiplist;
-  Form6.Command2.Click = cancel_form6;
+  Form6.Command2.Click = [] { give_up_over_form1(Form6); };
 }
 
 }  // namespace
