@@ -28,7 +28,7 @@ void button_view::show_content() {
 }
 
 void button_view::show_colours() {
-  const platform::colour back = button_.BackColor;
+  const platform::colour back = button_.BackColor();
   const bool as_theme = back == platform::system_button_face;
   setPalette(as_theme ? QPalette()
                       : with_colours({}, QPalette::Button, QPalette::ButtonText, back));

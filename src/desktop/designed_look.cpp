@@ -82,8 +82,8 @@ int pixels_across(std::int32_t twips) {
 int pixels_down(std::int32_t twips) { return pixels(twips, platform::application.TwipsPerPixelY); }
 
 QRect place_of(const platform::control& shown) {
-  return QRect(pixels_across(shown.Left), pixels_down(shown.Top), pixels_across(shown.Width),
-               pixels_down(shown.Height));
+  return QRect(pixels_across(shown.Left()), pixels_down(shown.Top()), pixels_across(shown.Width()),
+               pixels_down(shown.Height()));
 }
 
 }  // namespace desktop

@@ -27,7 +27,7 @@ void drive_view::show_content() {
 void drive_view::show_selection() { setCurrentIndex(drives_.selected_row()); }
 
 void drive_view::show_colours() {
-  const platform::colour back = drives_.BackColor;
+  const platform::colour back = drives_.BackColor();
   const QPalette list = with_colours({}, QPalette::Base, QPalette::Text, back);
   setPalette(with_colours(list, QPalette::Button, QPalette::ButtonText, back));
 }

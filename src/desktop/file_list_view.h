@@ -15,7 +15,7 @@ class file_list_view : public rows_view {
   int row_count() const override { return files_.ListCount(); }
 
  protected:
-  int selected_row() const override { return files_.ListIndex; }
+  int selected_row() const override { return files_.ListIndex(); }
   void row_chosen(int row) override { platform::user::select_file(files_, row); }
 
  private:

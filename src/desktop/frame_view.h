@@ -15,7 +15,7 @@ class frame_view : public surface, public control_view {
  protected:
   void show_content() override;
   void show_colours() override { update(); }
-  platform::colour ground() const override { return frame_.BackColor; }
+  platform::colour ground() const override { return frame_.BackColor(); }
   void paint_over_ground(QPainter& painter, const QRect& dirty) override;
 
  private:

@@ -30,7 +30,7 @@ void label_view::show_content() {
 }
 
 void label_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, label_.BackColor));
+  setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, label_.BackColor()));
 }
 
 void label_view::paintEvent(QPaintEvent* /*event*/) {

@@ -36,7 +36,7 @@ void line_view::show_content() {
 }
 
 void line_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor));
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
 }
 
 }  // namespace desktop

@@ -15,7 +15,7 @@ class list_box_view : public rows_view {
   int row_count() const override { return list_.ListCount(); }
 
  protected:
-  int selected_row() const override { return list_.ListIndex; }
+  int selected_row() const override { return list_.ListIndex(); }
   void row_chosen(int row) override { platform::user::select_row(list_, row); }
   void row_double_clicked(int row) override { platform::user::double_click(list_, row); }
 

@@ -61,7 +61,7 @@ void page_view::show_content() {
 }
 
 void page_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor));
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
 }
 
 void page_view::focusOutEvent(QFocusEvent* event) {

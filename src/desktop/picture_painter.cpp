@@ -62,7 +62,7 @@ void paint_designed_picture(QPainter& painter, const char* name, const QRect& in
 
 void paint_picture(QPainter& painter, const picture_box& box, const QRect& place,
                    const QRect& dirty) {
-  const QColor ground = on_screen(box.BackColor);
+  const QColor ground = on_screen(box.BackColor());
   const QRect inner = place.adjusted(1, 1, -1, -1);
   if (!inner.contains(dirty)) {
     const QPalette theme = QApplication::palette();

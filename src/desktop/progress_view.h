@@ -20,7 +20,7 @@ class progress_view : public QProgressBar, public control_view {
 
  protected:
   void show_content() override {
-    const int steps = std::max(1, pixels_across(bar_.Width));
+    const int steps = std::max(1, pixels_across(bar_.Width()));
     setRange(0, steps);
     setValue(static_cast<int>(bar_.filled() * steps));
   }

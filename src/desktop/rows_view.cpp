@@ -49,7 +49,7 @@ void rows_view::show_selection() {
 }
 
 void rows_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, control.BackColor));
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, control.BackColor()));
 }
 
 void rows_view::choose(int row) {

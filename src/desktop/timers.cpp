@@ -12,7 +12,7 @@ void timers::follow(platform::timer& written) {
     QObject::connect(&timer, &QTimer::timeout, &timer,
                      [&written] { platform::user::tick(written); });
   }
-  const int interval = written.Interval;
+  const int interval = written.Interval();
   if (!written.Enabled() || interval <= 0) {
     timer.stop();
   } else if (!timer.isActive() || timer.interval() != interval) {

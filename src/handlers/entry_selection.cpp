@@ -18,7 +18,7 @@ namespace ostrane {
 
 namespace {
 
-std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex); }
+std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex()); }
 
 std::string extension_of(const std::string& row) {
   return platform::lower_case(platform::last_characters(platform::trimmed(row), 4));
@@ -51,7 +51,7 @@ void show_clicked_entry() {
   const std::string row = selected_row();
   Form1.Text6.Visible = false;
   Form1.Frame1.Caption = row;
-  tool_state.selected_index = Form1.List1.ListIndex;
+  tool_state.selected_index = Form1.List1.ListIndex();
   if (extension_of(row) == ".shp") {
     Form1.Text2.Text = "";
     clear_slots_for_icons();
@@ -76,7 +76,7 @@ void show_double_clicked_entry() {
     return;
   }
   Form1.Text2.Text = "";
-  tool_state.selected_index = Form1.List1.ListIndex;
+  tool_state.selected_index = Form1.List1.ListIndex();
   const std::int32_t last =
       std::min<std::int32_t>(tool_state.shp_head.icon_count, tool_state.slots_loaded);
   for (std::int32_t slot = 1; slot <= last; ++slot) shrink_slot(slot);

@@ -26,7 +26,7 @@ std::optional<std::int16_t> as_16_bits(const std::string& text) {
 void lay_out_main_window() {
   if (Form1.Height() > 1900) {
     Form1.Frame1.Height = Form1.Height() - 825;
-    Form1.List1.Height = Form1.Frame1.Height - 600;
+    Form1.List1.Height = Form1.Frame1.Height() - 600;
     Form1.Text6.Height = Form1.Height() - 1800;
   }
   if (Form1.Width() > 2500) {

@@ -40,7 +40,7 @@ std::string icon_report(std::int32_t Index, const dat_record& entry) {
 }  // namespace
 
 void show_icon_report(std::int32_t Index) {
-  const std::int32_t selected = Form1.List1.ListIndex;
+  const std::int32_t selected = Form1.List1.ListIndex();
   if (selected < 0 || Index < 1 || Index > most_slots) return;
   const dat_record& entry = tool_state.dat_index[static_cast<std::size_t>(selected)];
   if (!is_icon_file(entry)) return;

@@ -11,7 +11,7 @@ constexpr std::int32_t left_margin = 200;
 
 void show_on_present_row(platform::picture_box& slot) {
   slot.Move(tool_state.next_slot_left, tool_state.next_slot_top);
-  tool_state.next_slot_left += tool_state.slot_gap + slot.Width;
+  tool_state.next_slot_left += tool_state.slot_gap + slot.Width();
   slot.Visible = true;
   ++tool_state.next_icon;
 }
@@ -23,12 +23,12 @@ void begin_new_row() {
 
 bool fits_on_present_row(const platform::picture_box& slot) {
   return tool_state.current_slot == 1 ||
-         tool_state.next_slot_left + slot.Width + tool_state.slot_gap < Form1.Frame1.Width;
+         tool_state.next_slot_left + slot.Width() + tool_state.slot_gap < Form1.Frame1.Width();
 }
 
 bool new_row_fits(const platform::picture_box& slot) {
-  return tool_state.row_height + tool_state.next_slot_top + tool_state.slot_gap + slot.Height <
-         Form1.Frame1.Height;
+  return tool_state.row_height + tool_state.next_slot_top + tool_state.slot_gap + slot.Height() <
+         Form1.Frame1.Height();
 }
 
 void store_icon_data() {
@@ -48,11 +48,11 @@ void place_icon_slot() {
   platform::picture_box& slot = Form1.s16_image(tool_state.current_slot);
   if (fits_on_present_row(slot)) {
     show_on_present_row(slot);
-    if (slot.Height > tool_state.row_height) tool_state.row_height = slot.Height;
+    if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
   } else if (new_row_fits(slot)) {
     begin_new_row();
     show_on_present_row(slot);
-    tool_state.row_height = slot.Height;
+    tool_state.row_height = slot.Height();
   } else {
     tool_state.series_full = flag_true;
     tool_state.slot_fits = flag_false;

@@ -16,7 +16,7 @@ namespace ostrane {
 namespace {
 
 std::string selected_name() {
-  return std::string(platform::trimmed(Form1.List1.List(Form1.List1.ListIndex)));
+  return std::string(platform::trimmed(Form1.List1.List(Form1.List1.ListIndex())));
 }
 
 void cut_icon_count() {

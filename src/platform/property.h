@@ -23,8 +23,8 @@ enum class aspect {
 };
 
 // A property of a control. Writing it takes effect at once and tells its owner, which answers (a
-// picture box takes its new size) and passes it on to the screen. Reads like a plain value; where
-// the language needs one spelled out, `Text()` gives it.
+// picture box takes its new size) and passes it on to the screen. It is read by a pair of
+// brackets: `Text()`.
 template <typename Value, aspect What, typename Owner>
 class property {
  public:
@@ -38,9 +38,8 @@ class property {
     owner_.written(What, differs);
     return *this;
   }
-  property& operator=(const property& other) { return *this = other.value_; }
+  property& operator=(const property&) = delete;
 
-  operator const Value&() const { return value_; }
   const Value& operator()() const { return value_; }
 
   friend bool operator==(const property& a, const Value& b) { return a.value_ == b; }
@@ -65,7 +64,6 @@ class guarded_property {
     return *this;
   }
 
-  operator const Value&() const { return value_; }
   const Value& operator()() const { return value_; }
   friend bool operator==(const guarded_property& a, const Value& b) { return a.value_ == b; }
 
