@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <vector>
+#include <cstddef>
 
 namespace ostrane {
 
+// With the end record as many as a number of 16 bits can count.
 constexpr std::size_t most_files = 32766;
 
 // Builds `OSTRANE.DAT` in the folder of `Form5.Text1` from the files that `Form5.File1` lists, with

@@ -41,6 +41,8 @@ struct make_record {
 
 using record_bytes = std::span<std::byte, record_size>;
 
+// A record from and to its bytes in the file. Any 17 bytes are a record; what its offset is worth
+// is for the reader to see.
 dat_record decode_record(std::span<const std::byte, record_size> bytes);
 void encode_record(const dat_record& record, record_bytes bytes);
 

@@ -12,6 +12,7 @@ namespace ostrane {
 
 namespace {
 
+// Trimmed, cut at 13 characters or filled with blanks.
 record_name padded(const std::string& file_name) {
   record_name name;
   name.fill(' ');
@@ -29,13 +30,13 @@ std::int32_t offset_behind(std::int32_t offset, std::int64_t size, const std::st
                                  "the most that it can be."};
 }
 
-}  // namespace
-
-record_name record_name_of(const make_record& record) {
-  record_name name = record.name;
+// As the archive bears it: in upper case, with NUL for every blank.
+record_name stored_name(record_name name) {
   for (char& c : name) c = c == ' ' ? '\0' : platform::upper_case(c);
   return name;
 }
+
+}  // namespace
 
 std::vector<dat_record> make_new_index(const std::string& folder,
                                        const std::vector<std::string>& files) {
@@ -50,7 +51,7 @@ std::vector<dat_record> make_new_index(const std::string& folder,
     record.name = padded(files[i]);
     record.size = static_cast<std::int32_t>(size);
     record.offset = next_offset;
-    records.push_back({.offset = next_offset, .name = record_name_of(record)});
+    records.push_back({.offset = next_offset, .name = stored_name(record.name)});
     next_offset = behind;
   }
   records.push_back({.offset = next_offset, .name = {}});

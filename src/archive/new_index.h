@@ -1,15 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "archive/format.h"
 
 namespace ostrane {
-
-// The name of a record for a file: upper case, cut at 13 characters, NUL for every blank.
-record_name record_name_of(const make_record& record);
 
 // Fills `make_index` for the files of a folder (a path with "\" at its end) in their order, and
 // gives the new archive's records, the end record included. Throws file_error if a file is not to

@@ -11,6 +11,7 @@ struct passed_over_entries {
   std::int32_t count = 0;
 };
 
+// Adds an entry, by its name and why it was not written. From the 21st on it only counts.
 void pass_over(passed_over_entries& entries, const std::string& name, const std::string& reason);
 
 // One message about all of them, if there are any.

@@ -24,11 +24,13 @@ QColor text_on(platform::colour back);
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       platform::colour back);
 
+// The colour halfway.
 QColor between(const QColor& a, const QColor& b);
 
 // Whole pixels of a length or a place in twips; what is left over is dropped towards the left.
 int pixels_across(std::int32_t twips);
 int pixels_down(std::int32_t twips);
+// In pixels of what the control stands in.
 QRect place_of(const platform::control& shown);
 
 }  // namespace desktop

@@ -7,6 +7,7 @@
 
 namespace desktop {
 
+// A drop-down list of the drives.
 class drive_view : public QComboBox, public control_view {
  public:
   drive_view(platform::drive_list& shown, QWidget* parent);

@@ -6,6 +6,7 @@
 
 namespace desktop {
 
+// Names of files; choosing one selects it.
 class file_list_view : public rows_view {
  public:
   file_list_view(platform::file_list& shown, QWidget* parent)

@@ -6,6 +6,7 @@
 
 namespace desktop {
 
+// Rows of text; a press, a double click and the keyboard go to the tool.
 class list_box_view : public rows_view {
  public:
   list_box_view(platform::list_box& shown, QWidget* parent)

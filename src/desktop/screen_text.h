@@ -7,6 +7,7 @@
 // Text on its way between the tool (code page 1252) and the screen.
 namespace desktop {
 
+// Any text has a form on the screen.
 QString to_screen(std::string_view text);
 // With "?" for each character that the code page has not got.
 std::string from_screen(const QString& text);

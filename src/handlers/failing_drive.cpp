@@ -37,8 +37,8 @@ bool works(const step& tried) {
 void recover(platform::drive_list& Drive1, platform::dir_list& Dir1) {
   say_that_drive_fails(Drive1.Drive());
   running = recovery::to_drive_c;
-  works([&] { Drive1.Drive = std::string("C"); });
-  if (!works([&] { Dir1.Path = std::string("C:\\"); })) {
+  works([&] { Drive1.Drive = "C"; });
+  if (!works([&] { Dir1.Path = "C:\\"; })) {
     running = recovery::back;
     works([&] { Drive1.Drive = Dir1.Path(); });
   }

@@ -17,7 +17,7 @@ constexpr std::int16_t slots_at_start = 12;
 
 void send_form2_to_drive_c() {
   try {
-    Form2.Dir1.Path = std::string("C:\\");
+    Form2.Dir1.Path = "C:\\";
   } catch (const platform::file_error&) {
     // The dialog opens in the current folder then.
   }

@@ -6,9 +6,11 @@ namespace ostrane {
 // small leaves them as they are.
 void lay_out_main_window();
 
-// The focus left `Text4` or `Text5`: what is no number goes back to the start value, or to the last
-// good one.
+// The focus left `Text4`: what is no number goes back to 10 (hundredths of a second).
 void check_pace();
+
+// The focus left `Text5`: a number of 16 bits becomes `max_icons`, all else goes back to what that
+// was.
 void check_max_icons();
 
 }  // namespace ostrane

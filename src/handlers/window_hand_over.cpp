@@ -23,7 +23,7 @@ void open_form5() {
 void open_form6() {
   Form1.Enabled = false;
   Form6.Visible = true;
-  Form6.File1.Pattern = std::string("*.txt");
+  Form6.File1.Pattern = "*.txt";
 }
 
 void give_up_over_form1(platform::form& dialog) {

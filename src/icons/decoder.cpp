@@ -62,7 +62,8 @@ void paint_literals(platform::picture_box& slot) {
   }
 }
 
-void carry_out_stream_byte(platform::picture_box& slot) {
+// Carries out `stream_byte`, taking its operands from the stream.
+void decode_stream_op(platform::picture_box& slot) {
   if (tool_state.stream_byte == 0) {
     end_row();
   } else if (tool_state.stream_byte == 1) {
@@ -76,8 +77,6 @@ void carry_out_stream_byte(platform::picture_box& slot) {
 
 }  // namespace
 
-void decode_stream_op() { carry_out_stream_byte(Form1.s16_image(tool_state.current_slot)); }
-
 void decode_icon() {
   platform::picture_box& slot = Form1.s16_image(tool_state.current_slot);
   tool_state.cur_row = tool_state.icon_header.row_start;
@@ -86,7 +85,7 @@ void decode_icon() {
   while (tool_state.cur_row <= tool_state.icon_header.row_end) {
     take_stream_byte();
     if (tool_state.stream_ended == flag_true) return;
-    carry_out_stream_byte(slot);
+    decode_stream_op(slot);
   }
 }
 

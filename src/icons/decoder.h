@@ -11,11 +11,8 @@
 // The stream ends with the last row of the box; nothing marks its end.
 namespace ostrane {
 
-// Carries out `stream_byte` on the slot `current_slot`, taking its operands from the stream. What
-// falls outside the slot is lost, and `cur_col` moves on all the same.
-void decode_stream_op();
-
-// Paints the icon of `icon_header` on the slot `current_slot`. A stream that runs out ends it.
+// Paints the icon of `icon_header` from the stream on the slot `current_slot`, in the colours of
+// `colour_table`. What falls outside the slot is lost. A stream that runs out ends it.
 void decode_icon();
 
 }  // namespace ostrane

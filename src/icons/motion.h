@@ -3,7 +3,7 @@
 namespace ostrane {
 
 // Stacks the slots of the series on one spot, hides them and starts `Timer1` at the pace of
-// `Text4` (hundredths of a second).
+// `Text4` (hundredths of a second). What is no number above 0 there counts as 10.
 void start_motion();
 
 // One tick: the next slot of the stack comes up, or the motion ends on its last one.

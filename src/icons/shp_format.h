@@ -43,6 +43,8 @@ struct icon_head {
   std::int32_t row_end = 0;
 };
 
+// From the bytes in the file. Any bytes give numbers; whether they make sense is for the reader and
+// for judge_icon to see.
 shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes);
 shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes);
 icon_head decode_icon_head(std::span<const std::byte, icon_head_size> bytes);

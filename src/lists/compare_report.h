@@ -1,9 +1,8 @@
 #pragma once
 
-#include <string>
-
 namespace ostrane {
 
+// In the root of drive C, whatever the current folder is.
 constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
 
 // Walks the names of `List1` and of `shiplist_lines`, which is sorted, side by side and writes what

@@ -17,7 +17,7 @@ struct application_facts {
 extern application_facts application;
 
 // Ends the process at once. Without a screen `process_ended` becomes true and no event runs any
-// more.
+// more until `forget_end_of_process`.
 void end_process();
 bool process_ended();
 void forget_end_of_process();

@@ -8,6 +8,7 @@
 // leaves open (81, 8D, 8F, 90, 9D) stand for the control characters of the same number.
 namespace platform {
 
+// Any text has a form in UTF-8.
 std::string to_utf8(std::string_view text);
 
 // Nothing if the text is not UTF-8 or holds a character that the code page has not got.

@@ -8,6 +8,7 @@ namespace platform {
 // number of a system colour, which the screen turns into what its theme shows.
 using colour = std::uint32_t;
 
+// From and to parts of 0 to 255.
 constexpr colour rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
   return red | green << 8U | blue << 16U;
 }

@@ -26,9 +26,10 @@ void set_drives(std::vector<drive> given, std::string current = {});
 // The current folder that was given with set_drives, or empty.
 const std::string& given_current_folder();
 
+// Null if there is none. The letter is in upper case.
 const drive* find_drive(char letter);
 
-// "c: [home]".
+// As a drive list shows it: "c: [home]".
 std::string drive_text(const drive& shown);
 
 // The system's own drives; one file per system.

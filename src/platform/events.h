@@ -10,6 +10,7 @@ namespace platform {
 // leaves the handler is shown in a message box.
 void run_event(const std::function<void()>& handler, const void* key = nullptr);
 
+// True from the start of a handler to its end, also while a message box stands in it.
 bool handler_running();
 
 // Forgets what waits, so that a process can begin afresh.

@@ -24,6 +24,7 @@ int open_new(const std::filesystem::path& place);
 std::int64_t read_some(int file, std::byte* to, std::size_t count);
 std::int64_t write_some(int file, const std::byte* from, std::size_t count);
 
+// `offset` counts from the start of the file, in bytes; so does the size.
 std::int64_t seek_to(int file, std::int64_t offset);
 std::int64_t size_of(int file);
 int flush_to_disk(int file);

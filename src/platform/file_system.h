@@ -13,7 +13,7 @@ bool folder_exists(const std::string& path);
 // True if both paths lead to one file, also by links.
 bool is_same_file(const std::string& path, const std::string& other);
 
-// Throws file_error.
+// In bytes. Throws file_error.
 std::int64_t file_size(const std::string& path);
 // Read-only or not; a folder is no file. Throws file_error.
 void delete_file(const std::string& path);

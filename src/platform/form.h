@@ -52,6 +52,7 @@ class form : public container {
 
   // Repaints the form and its controls at once.
   void Refresh();
+  // The window gets the focus when the handler is done.
   void SetFocus();
 
   std::vector<menu*> menus;

@@ -34,7 +34,8 @@ class screen {
   virtual void end_process() = 0;
 };
 
-// The attached screen, or null.
+// The attached screen, or null, as at first. It is not owned and must live until another is
+// attached.
 screen* attached_screen();
 void attach_screen(screen* shown);
 

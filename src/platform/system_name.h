@@ -8,6 +8,7 @@
 // Names of files and folders: text in the tool, Unicode on the system.
 namespace platform {
 
+// Any text gives a name; whether the system takes it is seen when it is used.
 std::filesystem::path system_name(std::string_view text);
 
 // The last name of a place; nothing if it has no form in the code page.

@@ -34,6 +34,8 @@ class text_writer {
   // Throws file_error, as all the others do; at once if the old file may not be written to.
   explicit text_writer(const std::string& path);
 
+  // `line` comes without its end.
+
   void write_line(std::string_view line);
   void close();
 

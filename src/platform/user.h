@@ -9,9 +9,12 @@
 // none does anything to a control that takes no input at the moment the event comes.
 namespace platform::user {
 
+// A click with the mouse, or what the keyboard has for it.
 void click(button& pressed);
 void click(label& pressed);
 void click(menu_item& picked);
+
+// Element `index` must have been loaded.
 void double_click(picture_array& array, std::int32_t index);
 
 // A press on a row, the selected one too, or its selection by keyboard.
@@ -27,6 +30,7 @@ void focus(control* to);
 // Nothing has the focus, as in a new process.
 void forget_focus();
 
+// A number that no row has does nothing.
 void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
 void select_file(file_list& files, std::int32_t row);
