@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/designed_look.h"
@@ -85,7 +86,7 @@ void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active)
   winId();
   windowHandle()->setTransientParent(owner);
   if (!std::exchange(placed_, true)) {
-    move(first_place(*this, centre_of));
+    move(first_place(*this, form.designed, centre_of));
   } else if (!isMaximized()) {
     move(last_place_);
   }

@@ -2,12 +2,13 @@
 
 #include <QWidget>
 
-#include "desktop/form_window.h"
+#include "platform/form.h"
 
 namespace desktop {
 
-// The top left corner at which a window opens the first time: in the middle of the screen or of
-// `owner`, as designed, and wholly on the screen.
-QPoint first_place(const form_window& window, const QWidget* owner);
+// The top left corner at which the window of a form opens the first time: in the middle of the
+// screen or of `owner` (may be null), as designed, and wholly on the screen.
+QPoint first_place(const QWidget& window, const platform::form_design& designed,
+                   const QWidget* owner);
 
 }  // namespace desktop
