@@ -1,6 +1,7 @@
 #include <random>
 #include <utility>
 
+#include "lists/compare_key.h"
 #include "lists/shiplist.h"
 #include "tool_fixture.h"
 

@@ -1,7 +1,7 @@
 #include "lists/compare_report.h"
 
 #include "forms/form1.h"
-#include "lists/shiplist.h"
+#include "lists/compare_key.h"
 #include "platform/text_file.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"

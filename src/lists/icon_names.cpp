@@ -1,6 +1,9 @@
 #include "lists/icon_names.h"
 
-#include "platform/code_page.h"
+#include <string>
+#include <vector>
+
+#include "lists/compare_key.h"
 #include "platform/file_error.h"
 #include "platform/file_system.h"
 #include "platform/paths.h"
@@ -27,10 +30,6 @@ void read_rows(const std::string& path) {
   }
 }
 
-std::string compared(std::string_view name) {
-  return platform::upper_case(platform::trimmed(name));
-}
-
 }  // namespace
 
 void read_iconlist() {
@@ -50,9 +49,9 @@ void read_iconlist() {
 std::size_t find_icon_name(std::string_view entry_name) {
   const std::size_t dot = entry_name.find('.');
   const std::string wanted =
-      dot == std::string_view::npos ? "" : compared(entry_name.substr(0, dot));
+      dot == std::string_view::npos ? "" : compare_key(entry_name.substr(0, dot));
   for (std::size_t i = 1; i < tool_state.icon_names.size(); ++i) {
-    if (compared(tool_state.icon_names[i].name) == wanted) return i;
+    if (compare_key(tool_state.icon_names[i].name) == wanted) return i;
   }
   return 0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 // iconlist.csv: one line a row, two fields, separated by the first ";" of the line: an entry's name

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/code_page.h"
+#include "lists/compare_key.h"
 #include "platform/file_error.h"
-#include "platform/text.h"
 #include "platform/text_file.h"
 #include "state/tool_state.h"
 
@@ -20,10 +19,6 @@ struct keyed_line {
 };
 
 }  // namespace
-
-std::string compare_key(std::string_view name) {
-  return platform::upper_case(platform::trimmed(name));
-}
 
 void read_shiplist(const std::string& path) {
   platform::text_reader reader(path);

@@ -1,12 +1,8 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 namespace ostrane {
-
-// What names are compared by: trimmed and in upper case, by the values of the characters.
-std::string compare_key(std::string_view name);
 
 // Reads the lines of a shiplist into `shiplist_lines`; `shiplist_last` is the index of the final
 // one, which is no name but stands opposite the archive's end record. A file of no bytes is one
