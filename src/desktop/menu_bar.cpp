@@ -3,7 +3,6 @@
 #include <QMenu>
 #include <QShortcut>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "platform/user.h"
 

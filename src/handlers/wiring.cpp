@@ -2,7 +2,6 @@
 
 #include "archive/builder.h"
 #include "archive/extraction.h"
-#include "archive/index_reader.h"
 #include "archive/new_folder.h"
 #include "forms/forms.h"
 #include "handlers/entry_selection.h"

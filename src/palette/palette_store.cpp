@@ -1,6 +1,5 @@
 #include "palette/palette_store.h"
 
-#include <algorithm>
 #include <array>
 
 #include "palette/built_in_colours.h"
@@ -38,11 +37,13 @@ void set_default_palette() {
 
 void read_game_palette() {
   if (tool_state.game_pal_offset <= 0 || !platform::file_exists(tool_state.archive_path)) return;
-  std::array<std::byte, palette_size> bytes;
-  const std::size_t whole_colours = read_palette_bytes(bytes) / 4;
+  std::array<std::byte, palette_colours * colour_size> bytes;
+  const std::size_t whole_colours = read_palette_bytes(bytes) / colour_size;
   for (std::size_t i = 0; i < whole_colours; ++i) {
     auto& stored = tool_state.stored_palette[i];
-    for (std::size_t j = 0; j < 4; ++j) stored[j] = std::to_integer<std::uint8_t>(bytes[4 * i + j]);
+    for (std::size_t j = 0; j < colour_size; ++j) {
+      stored[j] = std::to_integer<std::uint8_t>(bytes[colour_size * i + j]);
+    }
     tool_state.colour_table[i] = platform::rgb(stored[2], stored[1], stored[0]);
   }
 }

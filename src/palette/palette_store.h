@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 // The entry GAME.PAL: 256 colours of 4 bytes, 1024 bytes from the entry's first on.
 //
@@ -12,7 +11,8 @@
 //   3                    1      nothing
 namespace ostrane {
 
-constexpr std::size_t palette_size = 1024;
+constexpr std::size_t palette_colours = 256;
+constexpr std::size_t colour_size = 4;  // bytes
 
 // Fills `colour_table` with the built-in colours.
 void set_default_palette();

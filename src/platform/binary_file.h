@@ -38,7 +38,6 @@ class binary_file {
   void close();
   // Closes without writing what is still buffered and without looking at failures.
   void abandon();
-  bool is_open() const { return file_ >= 0; }
 
  private:
   void take(int file, const std::string& path, bool writes);

@@ -1,7 +1,6 @@
 #include "platform/code_page.h"
 
 #include <array>
-#include <cstdint>
 
 namespace platform {
 

@@ -1,22 +1,10 @@
 #include "platform/form.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/screen.h"
 
 namespace platform {
-
-namespace {
-
-std::vector<form*>& forms() {
-  static std::vector<form*> all;
-  return all;
-}
-
-}  // namespace
-
-const std::vector<form*>& all_forms() { return forms(); }
 
 form::form(form_design as_designed)
     : designed(std::move(as_designed)),
@@ -24,11 +12,7 @@ form::form(form_design as_designed)
       Visible(*this, false),
       Enabled(*this, true),
       client_width_(designed.client_width),
-      client_height_(designed.client_height) {
-  forms().push_back(this);
-}
-
-form::~form() { forms().erase(std::remove(forms().begin(), forms().end(), this), forms().end()); }
+      client_height_(designed.client_height) {}
 
 void form::written(aspect what, bool differs) {
   if (!differs) return;

@@ -32,7 +32,6 @@ struct form_design {
 class form : public container {
  public:
   explicit form(form_design as_designed);
-  ~form() override;
 
   const form_design designed;
 
@@ -70,8 +69,5 @@ class form : public container {
   std::int32_t client_height_;
   bool resized_once_ = false;
 };
-
-// All forms that exist, in the order in which they were made.
-const std::vector<form*>& all_forms();
 
 }  // namespace platform

@@ -1,6 +1,5 @@
 #include "platform/user.h"
 
-#include "platform/application.h"
 #include "platform/events.h"
 
 namespace platform::user {
