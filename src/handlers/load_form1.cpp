@@ -1,6 +1,7 @@
 #include "handlers/load_form1.h"
 
 #include "forms/forms.h"
+#include "handlers/main_window.h"
 #include "icons/slots.h"
 #include "lists/icon_names.h"
 #include "palette/palette_store.h"
@@ -14,6 +15,7 @@ namespace ostrane {
 namespace {
 
 constexpr std::int16_t slots_at_start = 12;
+constexpr std::int16_t max_icons_at_start = 300;
 
 void send_form2_to_drive_c() {
   try {
@@ -32,12 +34,12 @@ void load_first_slots() {
 void load_form1() {
   tool_state.program_title = std::string("Ostrane.dat-tool - ") + version;
   tool_state.app_path = platform::application.Path;
-  tool_state.max_icons = 300;
+  tool_state.max_icons = max_icons_at_start;
   Form1.Caption = tool_state.program_title;
   Form1.Text5.Text = std::to_string(tool_state.max_icons);
   Form1.Timer1.Enabled = false;
   send_form2_to_drive_c();
-  Form1.Text4.Text = "10";
+  Form1.Text4.Text = pace_at_start;
   set_default_palette();
   read_iconlist();
   load_first_slots();

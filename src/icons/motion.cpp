@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/form1.h"
+#include "icons/grid.h"
 #include "platform/text.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -13,13 +14,13 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int32_t stack_left = 200;
-constexpr std::int32_t stack_top = 800;
+constexpr double longest_interval = 65535;  // milliseconds
+constexpr std::int32_t interval_at_no_number = 100;
 
 std::int32_t interval_in_milliseconds() {
   const double hundredths = platform::as_number(Form1.Text4.Text()).value_or(0);
-  if (hundredths <= 0) return 100;
-  const double milliseconds = std::nearbyint(std::min(hundredths * 10, 65535.0));
+  if (hundredths <= 0) return interval_at_no_number;
+  const double milliseconds = std::nearbyint(std::min(hundredths * 10, longest_interval));
   return std::max(1, static_cast<std::int32_t>(milliseconds));
 }
 
@@ -50,7 +51,7 @@ void start_motion() {
   Form1.Timer1.Interval = interval_in_milliseconds();
   tool_state.motion_last_slot = last_slot_of_motion();
   for (std::int32_t slot = 1; slot <= tool_state.motion_last_slot; ++slot) {
-    Form1.s16_image(slot).Move(stack_left, stack_top);
+    Form1.s16_image(slot).Move(grid_left, grid_top);
     Form1.s16_image(slot).Visible = false;
   }
   tool_state.loop_counter = 0;

@@ -1,13 +1,12 @@
 #include "icons/place_icon_slot.h"
 
 #include "forms/form1.h"
+#include "icons/grid.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
-
-constexpr std::int32_t left_margin = 200;
 
 void show_on_present_row(platform::picture_box& slot) {
   slot.Move(tool_state.next_slot_left, tool_state.next_slot_top);
@@ -18,7 +17,7 @@ void show_on_present_row(platform::picture_box& slot) {
 
 void begin_new_row() {
   tool_state.next_slot_top += tool_state.slot_gap + tool_state.row_height;
-  tool_state.next_slot_left = left_margin;
+  tool_state.next_slot_left = grid_left;
 }
 
 bool fits_on_present_row(const platform::picture_box& slot) {

@@ -1,6 +1,7 @@
 #include "icons/reset_icon_view.h"
 
 #include "forms/form1.h"
+#include "icons/grid.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -17,9 +18,9 @@ void reset_icon_view() {
   Form1.Text3.Text = "";
   tool_state.browse_ready = flag_false;
   Form1.Refresh();
-  tool_state.next_slot_left = 200;
-  tool_state.next_slot_top = 800;
-  tool_state.slot_gap = 15;
+  tool_state.next_slot_left = grid_left;
+  tool_state.next_slot_top = grid_top;
+  tool_state.slot_gap = grid_gap;
   tool_state.row_height = 0;
 }
 

@@ -42,12 +42,15 @@ void say_that_address_is_invalid(std::int64_t icon_position) {
                         sign_column_text(icon_position) + ", the picture is not displayed.");
 }
 
-// Far more bytes than a picture of this size has use for. Without such a bound a small directory
-// that names one long stream again and again would keep the tool busy for minutes.
+// Far more bytes than a picture has use for. Without such a bound a small directory that names one
+// long stream again and again would keep the tool busy for minutes.
+constexpr std::int64_t most_bytes_a_pixel = 16;
+constexpr std::int64_t most_bytes_besides = 65536;
+
 std::int64_t most_stream_bytes(const icon_head& head) {
   const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
   const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
-  return 16 * rows * columns + 65536;
+  return most_bytes_a_pixel * rows * columns + most_bytes_besides;
 }
 
 }  // namespace

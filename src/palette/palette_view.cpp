@@ -3,6 +3,7 @@
 #include <string>
 
 #include "forms/form1.h"
+#include "icons/grid.h"
 #include "icons/slots.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -10,6 +11,13 @@
 namespace ostrane {
 
 namespace {
+
+constexpr std::int16_t swatches_a_row = 16;
+// Lengths in twips.
+constexpr std::int32_t swatch_width = 400;
+constexpr std::int32_t swatch_height = 260;
+constexpr std::int32_t from_swatch_to_right = 440;
+constexpr std::int32_t from_swatch_down = 300;
 
 void clear_slots() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
@@ -28,8 +36,8 @@ std::string swatch_tool_tip(std::size_t index) {
 
 void show_swatch(std::size_t index) {
   platform::picture_box& swatch = Form1.s16_image(static_cast<std::int32_t>(index) + 1);
-  swatch.Height = 260;
-  swatch.Width = 400;
+  swatch.Height = swatch_height;
+  swatch.Width = swatch_width;
   swatch.BackColor = tool_state.colour_table[index];
   swatch.Move(tool_state.next_slot_left, tool_state.next_slot_top);
   swatch.Visible = true;
@@ -45,12 +53,12 @@ void show_palette_view() {
   clear_slots();
   std::int16_t palette_column = 0;
   std::int16_t palette_row = 0;
-  for (std::size_t i = 0; i < 256; ++i) {
+  for (std::size_t i = 0; i < tool_state.colour_table.size(); ++i) {
     load_slot(static_cast<std::int16_t>(i + 1));
     ++palette_column;
-    tool_state.next_slot_left = palette_column * 440;
-    tool_state.next_slot_top = palette_row * 300 + 800;
-    if (palette_column == 16) {
+    tool_state.next_slot_left = palette_column * from_swatch_to_right;
+    tool_state.next_slot_top = palette_row * from_swatch_down + grid_top;
+    if (palette_column == swatches_a_row) {
       ++palette_row;
       palette_column = 0;
     }
