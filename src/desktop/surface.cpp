@@ -1,5 +1,6 @@
 #include "desktop/surface.h"
 
+#include <QFocusEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -8,9 +9,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/cursor_step.h"
 #include "desktop/designed_look.h"
+#include "desktop/keys.h"
 #include "desktop/picture_painter.h"
 #include "desktop/screen_text.h"
+#include "platform/picture_array.h"
 #include "platform/user.h"
 
 namespace desktop {
@@ -19,6 +23,22 @@ namespace {
 
 // A region of many rectangles costs more than the painting that it saves.
 constexpr int most_damaged_parts = 40;
+
+void double_click(const platform::picture_box& box) {
+  if (box.array != nullptr) platform::user::double_click(*box.array, box.Index);
+}
+
+// The cursor goes round a picture: over its border and a pixel outside.
+QRect with_cursor(const QRect& place) {
+  return place.isNull() ? place : place.adjusted(-1, -1, 1, 1);
+}
+
+void paint_cursor(QPainter& painter, const QRect& place, const QColor& colour) {
+  if (place.isNull()) return;
+  painter.setPen(colour);
+  painter.drawRect(place.adjusted(0, 0, -1, -1));
+  painter.drawRect(place.adjusted(-1, -1, 0, 0));
+}
 
 }  // namespace
 
@@ -29,6 +49,10 @@ surface::surface(platform::container& shown, QWidget* parent) : QWidget(parent) 
     note(static_cast<platform::picture_box&>(*control));
   }
   catch_up_pictures();
+  const auto answers = [](const picture& p) {
+    return p.box->array != nullptr && p.box->array->DblClick;
+  };
+  if (std::any_of(pictures_.begin(), pictures_.end(), answers)) setFocusPolicy(Qt::TabFocus);
 }
 
 bool surface::note(platform::picture_box& box) {
@@ -54,8 +78,11 @@ void surface::catch_up(picture& p) {
   const QRect place = p.box->Visible() ? place_of(*p.box) : QRect();
   const platform::pixel_area painted = p.box->take_damage();
   if (place != p.place) {
+    const bool under_cursor = &p == &pictures_[cursor_] && hasFocus();
+    if (under_cursor) damage_cursor();
     damage(std::exchange(p.place, place));
     damage(place);
+    if (under_cursor) damage_cursor();
   } else if (!place.isNull() && !painted.empty()) {
     const int border = platform::picture_box::border;
     damage(QRect(place.left() + border + painted.left, place.top() + border + painted.top,
@@ -75,6 +102,9 @@ void surface::paintEvent(QPaintEvent* event) {
   for (const picture& p : pictures_) {
     if (!event->rect().intersects(p.place) || !event->region().intersects(p.place)) continue;
     paint_picture(painter, *p.box, p.place, event->rect() & p.place);
+  }
+  if (hasFocus() && !pictures_.empty()) {
+    paint_cursor(painter, pictures_[cursor_].place, palette().color(QPalette::Highlight));
   }
 }
 
@@ -100,8 +130,48 @@ bool surface::event(QEvent* event) {
 void surface::mouseDoubleClickEvent(QMouseEvent* event) {
   const picture* clicked = picture_at(event->position().toPoint());
   if (clicked == nullptr || event->button() != Qt::LeftButton) return;
-  if (clicked->box->array == nullptr) return;
-  platform::user::double_click(*clicked->box->array, clicked->box->Index);
+  double_click(*clicked->box);
+}
+
+void surface::damage_cursor() { damage(with_cursor(pictures_[cursor_].place)); }
+
+void surface::put_cursor(int key) {
+  std::vector<QRect> places;
+  places.reserve(pictures_.size());
+  for (const picture& p : pictures_) places.push_back(p.place);
+  damage_cursor();
+  // A cursor whose picture is gone begins anew.
+  cursor_ = cursor_step(places, cursor_, places[cursor_].isNull() ? Qt::Key_Home : key);
+  damage_cursor();
+  update(std::exchange(damage_, {}));
+}
+
+// Keys that a control on the surface had no use for come here too.
+void surface::keyPressEvent(QKeyEvent* event) {
+  const bool confirms = is_enter(*event) || event->key() == Qt::Key_Space;
+  if (!hasFocus() || (!confirms && !is_cursor_key(event->key()))) {
+    QWidget::keyPressEvent(event);
+  } else if (!confirms || pictures_[cursor_].place.isNull()) {
+    put_cursor(event->key());
+  } else if (!event->isAutoRepeat()) {
+    double_click(*pictures_[cursor_].box);
+  }
+}
+
+// Without a picture on show Tab leads past the surface.
+void surface::focusInEvent(QFocusEvent* event) {
+  const bool back = event->reason() == Qt::BacktabFocusReason;
+  const bool by_tab = back || event->reason() == Qt::TabFocusReason;
+  if (pictures_[cursor_].place.isNull()) put_cursor(Qt::Key_Home);
+  if (by_tab && pictures_[cursor_].place.isNull()) {
+    focusNextPrevChild(!back);
+  } else {
+    update(with_cursor(pictures_[cursor_].place));
+  }
+}
+
+void surface::focusOutEvent(QFocusEvent* /*event*/) {
+  update(with_cursor(pictures_[cursor_].place));
 }
 
 }  // namespace desktop

@@ -11,7 +11,9 @@
 namespace desktop {
 
 // The ground on which the controls of a form or a frame stand. It paints the picture boxes among
-// them itself, as there can be thousands; all other controls are widgets on it.
+// them itself, as there can be thousands; all other controls are widgets on it. Where double clicks
+// on pictures are answered, Tab leads to a cursor on them, which the arrow keys move; Enter and
+// Space do what a double click does.
 class surface : public QWidget {
  public:
   surface(platform::container& shown, QWidget* parent);
@@ -28,6 +30,9 @@ class surface : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   struct picture {
@@ -40,10 +45,13 @@ class surface : public QWidget {
   void catch_up(picture& p);
   void damage(const QRect& part);
   const picture* picture_at(const QPoint& position) const;
+  void put_cursor(int key);
+  void damage_cursor();
 
   std::vector<picture> pictures_;  // from back to front
   std::unordered_map<const platform::picture_box*, std::size_t> places_;
   std::vector<std::size_t> noted_;
+  std::size_t cursor_ = 0;  // index in pictures_
   QRegion damage_;
 };
 

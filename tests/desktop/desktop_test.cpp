@@ -225,6 +225,44 @@ TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
   EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(Desktop, KeysReachEveryPictureOnShow) {
+  int opened = 0;
+  form.pictures.DblClick = [&](int i) { opened = i; };
+  const QPoint places[] = {{0, 0}, {300, 300}, {600, 300}, {900, 300}, {300, 600}, {840, 600}};
+  for (int i = 1; i <= 5; ++i) {
+    form.pictures.Load(i);
+    form.pictures(i).Move(places[i].x(), places[i].y());
+    form.pictures(i).Visible = i != 2;
+  }
+  QWidget& window = show(form);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QWidget* field = widget_of(window, form.Field);
+  QWidget* frame = widget_of(window, form.Frame);
+  const auto has_cursor = [&] {  // round the first picture
+    return frame->grab().toImage().pixelColor(19, 19) == frame->palette().highlight().color();
+  };
+  field->setFocus();
+  QTest::keyClick(field, Qt::Key_Tab);
+  EXPECT_TRUE(has_cursor());
+  const std::pair<Qt::Key, int> steps[] = {
+      {Qt::Key_Right, 3}, {Qt::Key_Right, 4}, {Qt::Key_Down, 4}, {Qt::Key_End, 5},
+      {Qt::Key_Up, 3},    {Qt::Key_Up, 3},    {Qt::Key_Left, 1}, {Qt::Key_Left, 1},
+      {Qt::Key_Down, 4},  {Qt::Key_Home, 1}};
+  for (const auto& [key, reached] : steps) {
+    opened = 0;
+    QTest::keyClick(frame, key);
+    QTest::keyClick(frame, reached % 2 == 0 ? Qt::Key_Space : Qt::Key_Return);
+    EXPECT_EQ(opened, reached) << "by key " << key;
+  }
+  for (int i = 1; i <= 5; ++i) form.pictures(i).Visible = false;
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(has_cursor());
+  QTest::keyClick(frame, Qt::Key_Tab);
+  QTest::keyClick(window.focusWidget(), Qt::Key_Backtab);
+  EXPECT_EQ(window.focusWidget(), field) << "there is no picture to stop at";
+}
+
 double luminance(const QColor& c) {
   const auto linear = [](double v) { return std::pow(v, 2.2); };
   return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
