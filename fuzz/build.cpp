@@ -1,13 +1,10 @@
 // The parts of the input are names and bytes of files in turn, names as the system has them. The
 // archive built from them must give them back.
-#include <optional>
 #include <set>
 
 #include "archive/entry_bounds.h"
-#include "archive/format.h"
 #include "forms/forms.h"
 #include "platform/code_page.h"
-#include "platform/text.h"
 #include "platform/user.h"
 #include "tool_on_drives.h"
 
@@ -18,32 +15,22 @@ using namespace ostrane;
 
 namespace {
 
-// Names as rows of List1, and bytes.
-using files = std::multiset<std::pair<std::string, std::string>>;
+using contents = std::multiset<std::string>;
 
 void write_files(const fs::path& folder, const std::vector<std::string>& parts) {
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
-    const std::string& name = parts[i];
-    if (name.empty() || name.find_first_of(std::string("/\0", 2)) != name.npos) continue;
-    if (name == "." || name == "..") continue;
-    fuzz::write(folder / name, parts[i + 1]);
+    const bool is_name = parts[i].find_first_of(std::string("/\0", 2)) == std::string::npos;
+    if (is_name) fuzz::write(folder / parts[i], parts[i + 1]);
   }
 }
 
-std::string row_of(const std::string& file_name) {
-  std::string row(platform::upper_case(platform::trimmed(file_name).substr(0, name_size)));
-  std::erase(row, ' ');
-  return row;
-}
-
-// Those that the tool can name and that are not hidden, without archives.
-files files_in(const fs::path& folder) {
-  files found;
+// Of the files that the tool can name and that are not hidden, without archives.
+contents files_in(const fs::path& folder) {
+  contents found;
   for (const auto& entry : fs::directory_iterator(folder)) {
-    const std::optional<std::string> name = platform::from_utf8(entry.path().filename().string());
+    const auto name = platform::from_utf8(entry.path().filename().string());
     if (!name || name->front() == '.' || name->find('\\') != name->npos) continue;
-    if (platform::upper_case(*name) == "OSTRANE.DAT") continue;
-    found.emplace(row_of(*name), fuzz::read(entry.path()));
+    if (platform::upper_case(*name) != "OSTRANE.DAT") found.insert(fuzz::read(entry.path()));
   }
   return found;
 }
@@ -56,12 +43,11 @@ std::string build() {
   return fuzz::read(fuzz::drive_c() / "in" / "OSTRANE.DAT");
 }
 
-files entries_of(const std::string& archive) {
-  files found;
+contents entries_of(const std::string& archive) {
+  contents found;
   for (std::int32_t i = 0; i + 1 < Form1.List1.ListCount(); ++i) {
     const auto from = static_cast<std::size_t>(entry_start(i));
-    const auto to = static_cast<std::size_t>(entry_end(i));
-    found.emplace(Form1.List1.List(i), archive.substr(from, to - from));
+    found.insert(archive.substr(from, static_cast<std::size_t>(entry_end(i)) - from));
   }
   return found;
 }
@@ -73,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const fs::path folder = fuzz::drive_c() / "in";
   fs::create_directory(folder);
   write_files(folder, fuzz::parts_of(fuzz::text_of(data, size)));
-  const files before = files_in(folder);
+  const contents before = files_in(folder);
   const std::string archive = build();
   fuzz::open_archive("C:\\in");
   fuzz::check(entries_of(archive) == before, "the entries are the files");

@@ -24,8 +24,8 @@ void click_rows(const std::string& iconlist) {
     const std::string& name = Form1.List1.List(row);
     const std::string caption = Form1.Frame1.Caption();
     if (caption == name) continue;
-    const bool has_both = caption.size() >= name.size() + 3 && caption.starts_with(name + " - ");
-    fuzz::check(has_both && iconlist.find(caption.substr(name.size() + 3)) != std::string::npos,
+    fuzz::check(caption.starts_with(name + " - "), "a caption begins with the name");
+    fuzz::check(iconlist.find(caption.substr(name.size() + 3)) != std::string::npos,
                 "a description comes from the list");
   }
 }

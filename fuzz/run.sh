@@ -13,7 +13,7 @@ cd "$(dirname "$0")/.."
   exit 2
 }
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build)
+[ ${#targets[@]} -gt 0 ] || targets=(archive lists extract build)
 
 need_packages cmake ninja-build "clang-$clang_version" "$clang_runtime"
 build=$(realpath -m "${OSTRANE_BUILD:-build-test}/fuzz")
@@ -29,13 +29,6 @@ work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export TMPDIR=$work
 export ASAN_OPTIONS=quarantine_size_mb=8
-
-short_runs() {
-  case $1 in
-    archive | icon) echo 1500 ;;
-    *) echo 2500 ;;
-  esac
-}
 
 options=(-rss_limit_mb=768 -malloc_limit_mb=64 -max_len=4096 -dict=fuzz/words.dict
   -print_final_stats=1)
@@ -59,7 +52,7 @@ for target in "${targets[@]}"; do
   if [ "$1" = short ]; then
     corpus=$work/corpus
     rm -rf "$corpus"
-    bound=(-runs="$(short_runs "$target")" -seed=1 -timeout=30)
+    bound=(-runs=2500 -seed=1 -timeout=30)
   fi
   mkdir -p "$corpus"
   log=$work/$target.log

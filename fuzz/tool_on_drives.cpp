@@ -37,10 +37,6 @@ void count_given_back(const volatile void* at) {
 fs::path make_root() {
   std::string name = (fs::temp_directory_path() / "fuzz-XXXXXX").string();
   if (mkdtemp(name.data()) == nullptr) std::abort();
-  std::atexit([] {
-    std::error_code left;
-    fs::remove_all(everything(), left);
-  });
   __sanitizer_install_malloc_and_free_hooks(count_taken, count_given_back);
   return name;
 }

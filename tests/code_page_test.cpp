@@ -16,57 +16,36 @@ TEST(CodePage, EveryByteComesBackFromUtf8) {
 }
 
 TEST(CodePage, RefusesWhatItHasNoByteFor) {
-  const char* const cases[] = {
-      "\xCE\xA9",          // a Greek letter
-      "\xC2\x80",          // a control character whose byte is the Euro sign
-      "e\xCC\x81",         // an accent of its own
-      "\xC3",              // cut off
-      "\xC0\x80",          // overlong
-      "\xED\xA0\x80",      // half a surrogate pair
-      "\xF5\x80\x80\x80",  // behind the last code point
-      "\xE9",              // not UTF-8 at all
-  };
-  for (const char* text : cases) {
+  // A Greek letter, a control character whose byte is the Euro sign, and an accent of its own; cut
+  // off, overlong, half a surrogate pair, behind the last code point, not UTF-8 at all.
+  for (const char* text : {"\xCE\xA9", "\xC2\x80", "e\xCC\x81", "\xC3", "\xC0\x80", "\xED\xA0\x80",
+                           "\xF5\x80\x80\x80", "\xE9"}) {
     EXPECT_FALSE(from_utf8(text).has_value()) << text;
   }
   EXPECT_EQ(from_utf8_or_marks("a\xCE\xA9z\xFF"), "a?z?");
 }
 
 TEST(CodePage, FoldsAccentedLettersToo) {
-  const struct {
-    const char* small;
-    const char* capital;
-  } cases[] = {
-      {"az09.-", "AZ09.-"},
-      {"\xE0\xE9\xF6\xF8\xFE", "\xC0\xC9\xD6\xD8\xDE"},
-      {"\x9A\x9C\x9E\xFF", "\x8A\x8C\x8E\x9F"},
-      {"\xF7\xD7\xDF\x83\xB5", "\xF7\xD7\xDF\x83\xB5"},  // these have no other case
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(upper_case(c.small), c.capital);
-    EXPECT_EQ(lower_case(c.capital), c.small);
-  }
+  const std::string with_case = "az\xE0\xE9\xF6\xF8\xFE\x9A\x9C\x9E\xFF";
+  const std::string without = "09.-\xF7\xD7\xDF\x83\xB5";
+  const std::string capitals = "AZ\xC0\xC9\xD6\xD8\xDE\x8A\x8C\x8E\x9F";
+  EXPECT_EQ(upper_case(with_case + without), capitals + without);
+  EXPECT_EQ(lower_case(capitals + without), with_case + without);
 }
 
 TEST(Text, ReadsNumbersAndNothingElse) {
-  const struct {
-    const char* text;
-    bool good;
-    double value;
-  } cases[] = {
-      {"300", true, 300}, {"+5", true, 5},     {"-5", true, -5},  {"12.", true, 12},
-      {".5", true, .5},   {"3e2", true, 300},  {"1E+", false, 0}, {"2e-1", true, .2},
-      {"", false, 0},     {".", false, 0},     {"-", false, 0},   {"e5", false, 0},
-      {"1,0", false, 0},  {"&H1F", false, 0},  {"0x1", false, 0}, {"abc", false, 0},
-      {"1 ", false, 0},   {"1.2.3", false, 0}, {"--1", false, 0}, {"inf", false, 0},
-      {"1d2", false, 0},  {"\xB2", false, 0},  {"nan", false, 0}, {"1e-999", true, 0},
+  const std::pair<const char*, double> numbers[] = {
+      {"300", 300}, {"+5", 5},    {"-5", -5},   {"12.", 12},
+      {".5", .5},   {"3e2", 300}, {"2e-1", .2}, {"1e-999", 0},
   };
-  for (const auto& c : cases) {
-    const std::optional<double> number = as_number(c.text);
-    EXPECT_EQ(number.has_value(), c.good) << c.text;
-    EXPECT_DOUBLE_EQ(number.value_or(0), c.value) << c.text;
+  for (const auto& [text, value] : numbers) {
+    EXPECT_DOUBLE_EQ(as_number(text).value_or(-1), value) << text;
   }
   EXPECT_GT(as_number("9e999").value_or(0), 1e308);
+  for (const char* text : {"", ".", "-", "e5", "1E+", "1,0", "&H1F", "0x1", "abc", "1 ", "1.2.3",
+                           "--1", "inf", "nan", "1d2", "\xB2"}) {
+    EXPECT_FALSE(as_number(text).has_value()) << text;
+  }
 }
 
 }  // namespace

@@ -16,17 +16,11 @@ struct dialog {
   platform::menu_item& menu;
   platform::button& cancel;
 
-  // Where it stands: drive, folder, folder of the files, and the field or "" without one.
-  texts place() const {
-    return {Drive1.Drive(), Dir1.Path(), File1.Path(), Text1 == nullptr ? "" : Text1->Text()};
-  }
-  texts place(const std::string& drive, const std::string& folder, const std::string& field) const {
-    return {drive, folder, folder, Text1 == nullptr ? "" : field};
-  }
-  void choose(char letter) const {
-    for (std::size_t row = 0; row < Drive1.rows().size(); ++row) {
-      if (Drive1.rows()[row].front() == letter) user::choose(Drive1, static_cast<int>(row));
-    }
+  // With the folder of the files, and the field if there is one.
+  void expect_at(const std::string& drive, const std::string& folder,
+                 const std::string& field) const {
+    EXPECT_EQ((texts{Drive1.Drive(), Dir1.Path(), File1.Path()}), (texts{drive, folder, folder}));
+    EXPECT_EQ(Text1 == nullptr ? field : Text1->Text(), field);
   }
 };
 
@@ -56,33 +50,22 @@ class dialogs_test : public tool_test {
   }
 };
 
-std::string failure_of(const std::string& drive) {
-  return "You are trying to access a Drive that isn't responding.\n\rDrive in error: >" + drive +
-         "<\n\rCheck that the Drive is working properly, and has a Diskette or CD-ROM inserted. "
-         "Then try again.";
-}
-
-TEST_F(dialogs_test, HandsOverAndBack) {
-  with_each([](const dialog& d) {
-    const bool hides = d.Text1 != nullptr;  // the main window; the others disable it
-    EXPECT_TRUE(Form1.Visible() == !hides && Form1.Enabled() == hides && d.window.Visible());
-    user::click(d.cancel);
-    EXPECT_TRUE(Form1.Visible() && Form1.Enabled() && !d.window.Visible());
-  });
-}
-
-TEST_F(dialogs_test, ListsTheFilesOfItsPattern) {
+TEST_F(dialogs_test, ListsTheFilesOfItsPatternAndHandsBack) {
   for (const char* name : {"OsTrane.Dat", "b.TXT", "a.txt", "c.bin"}) {
     write(std::string("D:\\Sub\\") + name, "");
   }
-  const texts all = {"a.txt", "b.TXT", "c.bin", "OsTrane.Dat"};
-  const std::map<platform::form*, texts> expected = {
-      {&Form2, {"OsTrane.Dat"}}, {&Form4, all}, {&Form5, all}, {&Form6, {"a.txt", "b.TXT"}}};
+  const std::string all = "a.txt b.TXT c.bin OsTrane.Dat ";
+  const std::map<platform::form*, std::string> expected = {
+      {&Form2, "OsTrane.Dat "}, {&Form4, all}, {&Form5, all}, {&Form6, "a.txt b.TXT "}};
   with_each([&](const dialog& d) {
+    const bool hides = d.Text1 != nullptr;  // the main window; the others disable it
+    EXPECT_TRUE(Form1.Visible() == !hides && Form1.Enabled() == hides && d.window.Visible());
     d.Dir1.Path = "D:\\Sub";
-    texts names;
-    for (std::int32_t row = 0; row < d.File1.ListCount(); ++row) names.push_back(d.File1.List(row));
+    std::string names;
+    for (std::int32_t row = 0; row < d.File1.ListCount(); ++row) names += d.File1.List(row) + " ";
     EXPECT_EQ(names, expected.at(&d.window));
+    user::click(d.cancel);
+    EXPECT_TRUE(Form1.Visible() && Form1.Enabled() && !d.window.Visible());
   });
 }
 
@@ -90,13 +73,13 @@ TEST_F(dialogs_test, ListsTheFilesOfItsPattern) {
 // to the folder, the files and the field, and stays.
 TEST_F(dialogs_test, FollowsTheDriveAndKeepsTheFolderWhenCancelled) {
   with_each([](const dialog& d) {
-    EXPECT_EQ(d.place(), d.place("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", ""));
-    d.choose('c');
-    EXPECT_EQ(d.place(), d.place("c: [test]", "C:\\", "C:\\"));
-    d.choose('d');
+    d.expect_at("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", "");
+    user::choose(d.Drive1, 0);
+    d.expect_at("c: [test]", "C:\\", "C:\\");
+    user::choose(d.Drive1, 1);
     user::open_folder(d.Dir1, 1);
     for (int time = 0; time < 2; ++time) {
-      EXPECT_EQ(d.place(), d.place("d: [other]", "D:\\Sub", "D:\\Sub"));
+      d.expect_at("d: [other]", "D:\\Sub", "D:\\Sub");
       user::click(d.cancel);
       user::click(d.menu);
     }
@@ -110,10 +93,13 @@ TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
       d.Dir1.Path = "D:\\Sub\\Deep";  // not where the drive's text leads
       if (d.Text1 != nullptr) user::type(*d.Text1, "typed");
       if (!c_answers) fs::rename(root / "c", root / "away");
-      d.choose('e');
-      EXPECT_EQ(new_messages(), texts{failure_of("e: []")});
-      EXPECT_EQ(d.place(), c_answers ? d.place("c: [test]", "C:\\", "C:\\")
-                                     : d.place("d: [other]", "D:\\Sub\\Deep", "typed"));
+      user::choose(d.Drive1, 2);
+      EXPECT_EQ(new_messages(),
+                texts{"You are trying to access a Drive that isn't responding.\n\rDrive in error: "
+                      ">e: []<\n\rCheck that the Drive is working properly, and has a Diskette or "
+                      "CD-ROM inserted. Then try again."});
+      if (c_answers) d.expect_at("c: [test]", "C:\\", "C:\\");
+      if (!c_answers) d.expect_at("d: [other]", "D:\\Sub\\Deep", "typed");
       EXPECT_TRUE(d.window.Visible());
       if (!c_answers) fs::rename(root / "away", root / "c");
     });

@@ -8,80 +8,40 @@
 
 namespace ostrane {
 
+using samples::shp_icon;
+
 // The bytes of an icon's stream from numbers.
-inline std::string stream(std::initializer_list<int> bytes) {
-  std::string text;
-  for (const int byte : bytes) text += static_cast<char>(byte);
-  return text;
-}
+inline std::string stream(std::initializer_list<int> bytes) { return {bytes.begin(), bytes.end()}; }
 
-// A head whose data box is all of a picture of that many columns and rows.
-inline icon_head head_of_size(std::int16_t columns, std::int16_t rows) {
-  return {.no_of_rows = static_cast<std::int16_t>(rows - 1),
-          .no_of_cols = static_cast<std::int16_t>(columns - 1),
-          .col_start = 0,
-          .row_start = 0,
-          .col_end = columns - 1,
-          .row_end = rows - 1};
-}
-
-// An icon of that size in one colour.
-inline samples::shp_icon plain_icon(std::int16_t columns, std::int16_t rows, std::uint8_t index) {
+// An icon of that size in one colour, its data box all of the picture.
+inline shp_icon plain_icon(int columns, int rows, std::uint8_t index) {
   samples::picture drawn(columns, rows);
-  for (int y = 0; y < rows; ++y) {
-    for (int x = 0; x < columns; ++x) drawn.set(x, y, index);
-  }
+  for (int cell = 0; cell < columns * rows; ++cell)
+    drawn.set(cell % columns, cell / columns, index);
   return samples::make_icon(drawn);
 }
 
-inline std::vector<samples::shp_icon> plain_icons(std::size_t count, std::int16_t columns,
-                                                  std::int16_t rows) {
-  std::vector<samples::shp_icon> icons;
-  for (std::size_t i = 0; i < count; ++i) {
-    icons.push_back(plain_icon(columns, rows, static_cast<std::uint8_t>(i % 256)));
+inline std::vector<shp_icon> plain_icons(std::size_t count, int columns, int rows) {
+  std::vector<shp_icon> icons;
+  while (icons.size() < count) {
+    icons.push_back(plain_icon(columns, rows, static_cast<std::uint8_t>(icons.size())));
   }
   return icons;
 }
 
 // A blank icon: its data begins beyond the picture.
-inline samples::shp_icon blank_icon(std::int16_t columns, std::int16_t rows) {
-  samples::shp_icon icon{.head = head_of_size(columns, rows), .stream = ""};
+inline shp_icon blank_icon(int columns, int rows) {
+  shp_icon icon = plain_icon(columns, rows, 1);
   icon.head.col_start = columns;
   return icon;
 }
 
 // A refused icon: its data begins inside the picture and ends beyond it.
-inline samples::shp_icon refused_icon(std::int16_t columns, std::int16_t rows) {
-  samples::shp_icon icon{.head = head_of_size(columns, rows), .stream = ""};
+inline shp_icon refused_icon(int columns, int rows) {
+  shp_icon icon = plain_icon(columns, rows, 1);
   icon.head.row_end = rows;
   return icon;
 }
-
-class icon_test : public tool_test {
- protected:
-  // Opens an archive with the icon files and shows the first one.
-  void show(const std::vector<std::vector<samples::shp_icon>>& files) {
-    std::vector<entry> entries;
-    for (const auto& file : files) {
-      entries.push_back(
-          {"F" + std::to_string(entries.size() + 1) + ".SHP", samples::shp_file(file)});
-    }
-    entries.push_back({"N.TXT", "note"});
-    open_archive(entries);
-    click_row("F1.SHP");
-  }
-
-  static platform::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }
-
-  // The slots on the screen, from the first to the last.
-  static std::vector<std::int32_t> shown_slots() {
-    std::vector<std::int32_t> shown;
-    for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
-      if (slot(i).Visible()) shown.push_back(i);
-    }
-    return shown;
-  }
-};
 
 // A palette in which the blue of a colour tells its index.
 inline entry palette_entry() {
@@ -89,5 +49,48 @@ inline entry palette_entry() {
   for (std::size_t i = 0; i < 256; ++i) colours[4 * i] = static_cast<char>(i);
   return {"GAME.PAL", colours};
 }
+
+class icon_test : public tool_test {
+ protected:
+  // Opens an archive with the icon files and shows the first one, in colours that tell their index.
+  void show(const std::vector<std::vector<shp_icon>>& files) {
+    std::vector<entry> entries = {palette_entry(), {"N.TXT", "note"}};
+    for (const auto& file : files) {
+      const std::string number = std::to_string(entries.size() - 1);
+      entries.push_back({"F" + number + ".SHP", samples::shp_file(file)});
+    }
+    open_archive(entries);
+    click_row("F1.SHP");
+  }
+
+  static platform::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }
+
+  // The palette index of a cell of a slot, or a dot where nothing is painted.
+  static std::string cell(std::int32_t index, std::int32_t column, std::int32_t row) {
+    const platform::colour there = slot(index).pixel(column, row);
+    if (there == platform::picture_box::unset) return ".";
+    return std::to_string(platform::blue_of(there));
+  }
+
+  // The number of icons, those of the series, and the slots on show with their first cells.
+  static std::string view() {
+    std::string text = Form1.Text2.Text() + ":" + Form1.Text3.Text() + ":";
+    for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
+      if (slot(i).Visible()) text += " " + std::to_string(i) + "=" + cell(i, 0, 0);
+    }
+    return text;
+  }
+
+  // Where the slots on show stand.
+  static std::string places() {
+    std::string text;
+    for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
+      const platform::picture_box& shown = slot(i);
+      if (shown.Visible())
+        text += " " + std::to_string(shown.Left()) + "," + std::to_string(shown.Top());
+    }
+    return text;
+  }
+};
 
 }  // namespace ostrane

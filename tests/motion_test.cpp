@@ -3,14 +3,35 @@
 namespace ostrane {
 namespace {
 
-using slots = std::vector<std::int32_t>;
-
 class motion_test : public icon_test {
  protected:
-  static void tick(int times = 1) {
-    for (int i = 0; i < times; ++i) user::tick(Form1.Timer1);
+  // The number on show, where the slots stand, and what the buttons and the timer are ready for.
+  static std::string state() {
+    std::string text = Form1.Text3.Text() + ":" + places();
+    if (Form1.Timer1.Enabled()) text += " moving";
+    if (Form1.Command3.Enabled()) text += " back";
+    if (Form1.Command4.Enabled()) text += " on";
+    return text;
   }
-  static bool can_step() { return Form1.Command3.Enabled() && Form1.Command4.Enabled(); }
+
+  struct step {
+    const char* does;  // a letter an action
+    const char* state;
+  };
+  static void follow(std::initializer_list<step> steps) {
+    std::string done;
+    for (const step& s : steps) {
+      for (const char* action = s.does; *action != '\0'; ++action) {
+        if (*action == 'm') user::click(Form1.Command5);
+        if (*action == 't') user::tick(Form1.Timer1);
+        if (*action == '<') user::click(Form1.Command3);
+        if (*action == '>') user::click(Form1.Command4);
+        if (*action == 'n') user::click(Form1.Command6);
+      }
+      done += s.does;
+      EXPECT_EQ(state(), s.state) << done;
+    }
+  }
 };
 
 TEST_F(motion_test, SetsThePace) {
@@ -26,86 +47,48 @@ TEST_F(motion_test, SetsThePace) {
   }
 }
 
-TEST_F(motion_test, ShowsOneSlotAfterTheOther) {
-  show({plain_icons(3, 1, 1)});
-  EXPECT_FALSE(can_step());
-  user::click(Form1.Command5);
-  EXPECT_TRUE(Form1.Timer1.Enabled());
-  EXPECT_EQ(shown_slots(), slots{});
-  for (std::int32_t frame = 1; frame <= 3; ++frame) {
-    tick();
-    EXPECT_EQ(shown_slots(), slots{frame});
-    EXPECT_EQ(slot(frame).Left(), 200);
-    EXPECT_EQ(slot(frame).Top(), 800);
-    EXPECT_EQ(Form1.Text3.Text(), " " + std::to_string(frame));
-    EXPECT_FALSE(can_step());
-  }
-  tick();
-  EXPECT_FALSE(Form1.Timer1.Enabled());
-  EXPECT_TRUE(can_step());
-  EXPECT_EQ(shown_slots(), slots{3});
-}
-
-TEST_F(motion_test, StepsThroughTheStack) {
+TEST_F(motion_test, ShowsOneSlotAfterTheOtherAndStepsThroughTheStack) {
   show({plain_icons(3, 1, 1)});
   Form1.Command4.Enabled = true;
-  user::click(Form1.Command4);
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  3");
-  user::click(Form1.Command5);
-  tick(4);
-  user::click(Form1.Command4);
-  EXPECT_EQ(Form1.Text3.Text(), " 3");
-  user::click(Form1.Command3);
-  EXPECT_EQ(shown_slots(), slots{2});
-  EXPECT_EQ(Form1.Text3.Text(), "2");
-  user::click(Form1.Command3);
-  user::click(Form1.Command3);
-  EXPECT_EQ(shown_slots(), slots{1});
-  EXPECT_EQ(Form1.Text3.Text(), "1");
+  follow({{">", " 1 -  3: 200,800 260,800 320,800 on"},
+          {"m", " 1 -  3: moving"},
+          {"t", " 1: 200,800 moving"},
+          {"tt", " 3: 200,800 moving"},
+          {"t", " 3: 200,800 back on"},
+          {">", " 3: 200,800 back on"},
+          {"<", "2: 200,800 back on"},
+          {"<<", "1: 200,800 back on"},
+          {">", "2: 200,800 back on"}});
+  EXPECT_EQ(view(), "3:2: 2=1");
 }
 
 TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
   user::type(Form1.Text5, "3");
   show({plain_icons(9, 1, 1)});
-  user::click(Form1.Command6);
-  user::click(Form1.Command5);
-  EXPECT_EQ(shown_slots(), slots{3});
-  tick(3);
-  EXPECT_EQ(shown_slots(), (slots{2, 3}));
-  EXPECT_EQ(Form1.Text3.Text(), " 5");
-  EXPECT_FALSE(Form1.Timer1.Enabled());
-  user::click(Form1.Command4);
-  EXPECT_EQ(shown_slots(), slots{3});
-  EXPECT_EQ(slot(3).Left(), 200 + 2 * 60);
+  follow({{"nm", " 4 -  6: 320,800 moving"},
+          {"t", " 4: 200,800 320,800 moving"},
+          {"tt", " 5: 200,800 320,800 back on"},
+          {">", "6: 320,800 back on"}});
 }
 
 // A running motion must not walk into what is shown next, nor past the loaded slots.
 TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
   show({plain_icons(40, 1, 1), plain_icons(2, 1, 1)});
-  user::click(Form1.Command5);
-  tick(30);
+  follow({{"mtttttttttttttttttttttttttttttt", " 30: 200,800 moving"}});
   click_row("F2.SHP");
-  EXPECT_FALSE(Form1.Timer1.Enabled());
-  tick(50);
-  EXPECT_EQ(shown_slots(), (slots{1, 2}));
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  2");
+  follow({{"ttt", " 1 -  2: 200,800 260,800"}});
 }
 
 class report_test : public icon_test {
  protected:
-  void report(std::int32_t index) { user::double_click(Form1.s16_image, index); }
+  static void report(std::int32_t index) { user::double_click(Form1.s16_image, index); }
 };
 
 TEST_F(report_test, TellsTheNumbersOfAnIcon) {
-  samples::shp_icon icon{.head = {.no_of_rows = 9,
-                                  .no_of_cols = 63,
-                                  .col_start = -2,
-                                  .row_start = 3,
-                                  .col_end = 40,
-                                  .row_end = 8},
-                         .stream = ""};
   user::type(Form1.Text5, "2");
-  show({{plain_icon(1, 1, 1), plain_icon(1, 1, 1), plain_icon(1, 1, 1), icon}});
+  std::vector<shp_icon> icons = plain_icons(4, 1, 1);
+  icons[3].head = {9, 63, -2, 3, 40, 8};
+  show({icons});
   user::click(Form1.Command6);
   report(2);
   EXPECT_TRUE(Form3.Visible());
@@ -119,7 +102,7 @@ TEST_F(report_test, TellsTheNumbersOfAnIcon) {
             "Last row with data          :  8\r"
             "\r"
             "Icon-number in shp-file     :  4\r"
-            "SHP-Startpos in Ostrane.dat :  55\r"
+            "SHP-Startpos in Ostrane.dat :  1100\r"
             "\r"
             "Click >HERE< to make this message disappear...");
   EXPECT_FALSE(Form3.ProgressBar1.Visible());
@@ -132,19 +115,18 @@ TEST_F(report_test, TellsTheNumbersOfAnIcon) {
 
 TEST_F(report_test, AnswersOnlyForIconsOnShow) {
   show({{plain_icon(1, 1, 1), blank_icon(2, 2), refused_icon(1, 1)}});
-  const struct {
-    std::int32_t index;
-    bool reported;
-  } cases[] = {{0, false}, {1, true}, {2, true}, {3, false}, {12, false}};
-  for (const auto& c : cases) {
-    Form3.Visible = false;
-    report(c.index);
-    EXPECT_EQ(Form3.Visible(), c.reported) << c.index;
-  }
-  Form3.Visible = false;
+  const auto answered = [] {
+    std::string numbers;
+    for (const std::int32_t index : {0, 1, 2, 3, 12}) {
+      report(index);
+      if (Form3.Visible()) numbers += " " + std::to_string(index);
+      Form3.Visible = false;
+    }
+    return numbers;
+  };
+  EXPECT_EQ(answered(), " 1 2");
   click_row("N.TXT");
-  report(1);
-  EXPECT_FALSE(Form3.Visible());
+  EXPECT_EQ(answered(), "");
 }
 
 }  // namespace

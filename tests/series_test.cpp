@@ -1,304 +1,196 @@
+#include <climits>
+
 #include "icon_fixture.h"
-#include "icons/place_icon_slot.h"
-#include "icons/slots.h"
+#include "platform/little_endian.h"
 
 namespace ostrane {
 namespace {
 
-using samples::shp_icon;
 using messages = std::vector<std::string>;
-using slots = std::vector<std::int32_t>;
 
-constexpr const char* rotten =
-    "Something is rotten in the state of Denmark - fileformat has errors, icon is not displayed. ";
+// `bytes` with another number of 32 bits in one place.
+std::string with(std::string bytes, std::size_t at, std::int32_t number) {
+  platform::put_int32(std::as_writable_bytes(std::span(bytes)), at, number);
+  return bytes;
+}
+
+std::string invalid_address(const std::string& number) {
+  return "The adress of the file: A.SHP is invalid. Start offset for the shp-file is: " + number +
+         ", the picture is not displayed.";
+}
 
 class series_test : public icon_test {
  protected:
-  // Icons that do not fit the frame, for a series that its bottom ends.
-  static std::vector<shp_icon> large(std::size_t count) { return plain_icons(count, 200, 200); }
-
   static void type_max_icons(const char* text) {
     user::type(Form1.Text5, text);
     user::focus(&Form1.List1);
-  }
-
-  // An icon file of `icons` whose directory gives the offset of icon `n`, from 1, as `offset`.
-  static std::string with_offset(const std::vector<shp_icon>& icons, std::size_t n,
-                                 std::int32_t offset) {
-    std::string bytes = samples::shp_file(icons);
-    for (std::size_t i = 0; i < 4; ++i) {
-      bytes[8 * n + i] = static_cast<char>(static_cast<std::uint32_t>(offset) >> 8U * i);
-    }
-    return bytes;
-  }
-
-  static std::string with_count(std::string bytes, std::int32_t count) {
-    for (std::size_t i = 0; i < 4; ++i) {
-      bytes[4 + i] = static_cast<char>(static_cast<std::uint32_t>(count) >> 8U * i);
-    }
-    return bytes;
-  }
-
-  static std::string invalid_address(const char* name, const char* number) {
-    return std::string("The adress of the file: ") + name +
-           " is invalid. Start offset for the shp-file is: " + number +
-           ", the picture is not displayed.";
   }
 };
 
 TEST_F(series_test, DrawsAFileThatFitsWhole) {
   show({plain_icons(57, 1, 1)});
-  EXPECT_EQ(Form1.Text2.Text(), "57");
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  57");
-  EXPECT_EQ(shown_slots().size(), 57U);
+  const std::string whole = view();
+  EXPECT_EQ(whole.substr(0, 20), "57: 1 -  57: 1=0 2=1");
+  EXPECT_TRUE(whole.ends_with(" 57=56"));
   EXPECT_EQ(tool_state.slots_loaded, 57);
-  EXPECT_FALSE(Form3.Visible());
-  EXPECT_FALSE(Form3.ProgressBar1.Visible() || Form3.Label2.Visible());
-  EXPECT_EQ(slot(1).Left(), 200);
-  EXPECT_EQ(slot(1).Top(), 800);
-  EXPECT_EQ(slot(2).Left(), 260);
-  EXPECT_EQ(slot(57).pixel(0, 0), tool_state.colour_table[56]);
+  EXPECT_FALSE(Form3.Visible() || Form3.ProgressBar1.Visible() || Form3.Label2.Visible());
   EXPECT_EQ(slot(57).BackColor(), platform::system_button_face);
-  Form1.Text2.Text = "untouched";
   user::click(Form1.Command6);
-  EXPECT_EQ(Form1.Text2.Text(), "untouched");
-  EXPECT_EQ(shown_slots().size(), 57U);
+  EXPECT_EQ(view(), whole);
 }
 
-TEST_F(series_test, GoesOnBehindTheLastSeries) {
-  type_max_icons("30");
-  show({plain_icons(70, 1, 1)});
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  30");
-  user::click(Form1.Command6);
-  EXPECT_EQ(Form1.Text3.Text(), " 31 -  60");
-  EXPECT_EQ(slot(1).pixel(0, 0), tool_state.colour_table[30]);
-  user::click(Form1.Command6);
-  EXPECT_EQ(Form1.Text3.Text(), " 61 -  70");
-  EXPECT_EQ(shown_slots().size(), 10U);
-  EXPECT_EQ(slot(11).pixels(), nullptr);
-  EXPECT_EQ(Form1.Text2.Text(), "70");
-  EXPECT_EQ(tool_state.slots_loaded, 30);
-}
-
-TEST_F(series_test, TheBottomOfTheFrameEndsASeries) {
-  // A slot of 202 pixels is 3030 twips: two a row, and a second row only ends at 800 + 15 + 6060.
-  show({large(3)});
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  2");
-  EXPECT_EQ(tool_state.slots_drawn, 3);
-  EXPECT_EQ(shown_slots(), (slots{1, 2}));
-  user::click(Form1.Command6);
-  EXPECT_EQ(Form1.Text3.Text(), " 3 -  3");
-  EXPECT_EQ(shown_slots(), slots{1});
-  user::resize(Form1, 9330, 6690 + 400);
-  click_row("F1.SHP");
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  3");
-  EXPECT_EQ(slot(3).Left(), 200);
-  EXPECT_EQ(slot(3).Top(), 800 + 3030 + 15);
-}
-
-// The fit tests are strict: a sum that meets the frame's size does not fit.
-TEST_F(series_test, ASlotThatTouchesTheEdgeDoesNotFit) {
-  const std::int32_t frame_width = 200 + 2 * (180 + 15);
-  const std::int32_t frame_height = 800 + 2 * (180 + 15) - 15;
+// The next series begins behind the last icon on show and may have none of its own.
+TEST_F(series_test, ShowsSeriesBehindSeries) {
+  const std::vector<shp_icon> seven = plain_icons(7, 1, 1);
+  const shp_icon refused = refused_icon(3, 4);
+  const std::string first_of_7 = "7: 1 -  1: 1=0";
+  const std::string second_of_7 = "7: 2 -  2: 1=1";
   const struct {
-    std::int32_t wider, higher;
-    slots shown;
-    std::int32_t left_of_2;
+    const char* max_icons;
+    std::vector<shp_icon> icons;
+    messages series;
   } cases[] = {
-      {0, 0, {1}, 0},
-      {0, 1, {1, 2}, 200},
-      {1, 0, {1, 2}, 395},
-      {1, 1, {1, 2, 3, 4}, 395},
+      {"3", seven, {"7: 1 -  3: 1=0 2=1 3=2", "7: 4 -  6: 1=3 2=4 3=5", "7: 7 -  7: 1=6"}},
+      {"1", seven, {first_of_7, second_of_7}},
+      {"0", seven, {first_of_7, second_of_7}},
+      {"-5", seven, {first_of_7, second_of_7}},
+      {"4", {seven[5], blank_icon(9, 2), refused, seven[6]}, {"4: 1 -  4: 1=5 2=. 4=6"}},
+      {"4", {seven[5], refused}, {"2: 1 -  1: 1=5", "2: 3 -  0:"}},
+      {"9", plain_icons(3, 200, 200), {"3: 1 -  2: 1=0 2=1", "3: 3 -  3: 1=2"}},
+      {"9", {plain_icon(900, 900, 1), seven[2]}, {"2: 1 -  1: 1=1", "2: 2 -  2: 1=2"}},
   };
   for (const auto& c : cases) {
-    begin();
-    user::resize(Form1, frame_width + c.wider + 2100 - 225, frame_height + c.higher + 825 - 705);
-    ASSERT_EQ(Form1.Frame1.Width(), frame_width + c.wider);
-    ASSERT_EQ(Form1.Frame1.Height(), frame_height + c.higher);
-    show({plain_icons(9, 10, 10)});
-    EXPECT_EQ(shown_slots(), c.shown) << c.wider << c.higher;
-    if (c.shown.size() > 1) {
-      EXPECT_EQ(slot(2).Left(), c.left_of_2);
+    type_max_icons(c.max_icons);
+    show({c.icons});
+    for (const std::string& expected : c.series) {
+      EXPECT_EQ(view(), expected);
+      user::click(Form1.Command6);
     }
   }
+  EXPECT_EQ(slot(1).columns(), 1);
 }
 
-TEST_F(series_test, ARowIsAsHighAsItsTallestSlot) {
-  show({{plain_icon(200, 10, 1), plain_icon(200, 40, 2), plain_icon(200, 5, 3),
-         plain_icon(300, 1, 4)}});
-  EXPECT_EQ(slot(2).Top(), 800);
-  EXPECT_EQ(slot(3).Top(), 800 + 42 * 15 + 15);
-  EXPECT_EQ(slot(4).Top(), 800 + 42 * 15 + 15 + 7 * 15 + 15);
-  EXPECT_EQ(slot(1).Width(), 202 * 15);
-  EXPECT_EQ(slot(1).Height(), 12 * 15);
-}
-
-TEST_F(series_test, AnyLimitShowsAtLeastOneIcon) {
-  for (const char* text : {"1", "0", "-5"}) {
-    type_max_icons(text);
-    show({plain_icons(3, 1, 1)});
-    EXPECT_EQ(Form1.Text3.Text(), " 1 -  1") << text;
-  }
-  type_max_icons("3");
-  show({plain_icons(3, 1, 1)});
-  Form1.Text2.Text = "";
-  user::click(Form1.Command6);
-  EXPECT_EQ(Form1.Text2.Text(), "");
-}
-
-TEST_F(series_test, BlankAndRefusedIconsKeepTheirNumbers) {
-  show({{plain_icon(1, 1, 5), blank_icon(10, 20), refused_icon(3, 4), plain_icon(1, 1, 6)}});
-  EXPECT_EQ(new_messages(),
-            messages{std::string(rotten) + "\nNo-of-rows =  3\nRow-start =  0\nRow-end =  4"
-                                           "\nNo-of-cols =  2\nCol-start =  0\nCol-end =  2"});
-  EXPECT_EQ(shown_slots(), (slots{1, 2, 4}));
-  EXPECT_EQ(slot(2).Width(), 12 * 15);
-  EXPECT_EQ(slot(2).pixels(), nullptr);
-  EXPECT_EQ(slot(4).pixel(0, 0), tool_state.colour_table[6]);
-  EXPECT_EQ(slot(4).Left(), slot(2).Left() + 12 * 15 + 15);
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  4");
-}
-
-// Which outcome a head has, by the four comparisons and by the size that a slot can have.
-TEST_F(series_test, JudgesAHead) {
-  const auto head = [](std::int16_t rows, std::int16_t cols, std::int32_t col_start,
-                       std::int32_t row_start, std::int32_t col_end, std::int32_t row_end) {
-    return icon_head{rows, cols, col_start, row_start, col_end, row_end};
+// A slot has a border of one pixel each way; a pixel is 15 twips. A row is as high as its tallest
+// slot. A sum that meets the frame's size does not fit.
+TEST_F(series_test, PlacesTheSlots) {
+  using size = std::pair<std::int32_t, std::int32_t>;
+  const std::vector<shp_icon> tens = plain_icons(9, 10, 10);
+  constexpr std::int32_t two_columns = 200 + 2 * (180 + 15);
+  constexpr std::int32_t two_rows = 800 + 2 * (180 + 15) - 15;
+  const std::vector<shp_icon> uneven = {plain_icon(200, 10, 1), blank_icon(150, 40),
+                                        plain_icon(90, 20, 2), plain_icon(200, 5, 3),
+                                        plain_icon(300, 1, 4)};
+  const struct {
+    size frame;
+    std::vector<shp_icon> icons;
+    const char* places;
+  } cases[] = {
+      {{two_columns, two_rows}, tens, " 200,800"},
+      {{two_columns, two_rows + 1}, tens, " 200,800 200,995"},
+      {{two_columns + 1, two_rows}, tens, " 200,800 395,800"},
+      {{two_columns + 1, two_rows + 1}, tens, " 200,800 395,800 200,995 395,995"},
+      {{7455, 6570}, uneven, " 200,800 3245,800 5540,800 200,1445 200,1565"},
   };
+  for (const auto& c : cases) {
+    const auto& [width, height] = c.frame;
+    user::resize(Form1, width + 2100 - 225, height + 825 - 705);
+    ASSERT_EQ(size(Form1.Frame1.Width(), Form1.Frame1.Height()), c.frame);
+    show({c.icons});
+    EXPECT_EQ(places(), c.places);
+  }
+}
+
+// By the four comparisons of its head, and by the size that a slot can have.
+TEST_F(series_test, RefusesIcons) {
   const struct {
     icon_head head;
-    char outcome;
+    bool refused;
   } cases[] = {
-      {head(4, 5, 5, 4, 5, 4), 'd'},      {head(4, 5, 0, 0, 6, 0), 'r'},
-      {head(4, 5, 0, 0, 0, 5), 'r'},      {head(4, 5, 6, 0, 9, 0), 'b'},
-      {head(4, 5, 0, 5, 0, 9), 'b'},      {head(4, 5, 6, 5, 0, 0), 'b'},
-      {head(4, 5, 3, 3, 0, 0), 'd'},      {head(4, 5, -9, -9, -1, -1), 'd'},
-      {head(0, 0, 0, 0, 0, 0), 'd'},      {head(2181, 0, 0, 0, 0, 0), 'd'},
-      {head(2182, 0, 0, 0, 0, 0), 'r'},   {head(0, 2182, 0, 0, 0, 0), 'r'},
-      {head(32767, 0, 0, 0, 0, 0), 'r'},  {head(-2, -2, -2, -2, -2, -2), 'd'},
-      {head(-3, 0, -3, -3, -3, -3), 'r'}, {head(0, -32768, 0, 0, 0, 0), 'r'},
+      {{4, 5, 5, 4, 5, 4}, false},     {{4, 5, 0, 0, 6, 0}, true},
+      {{4, 5, 0, 0, 0, 5}, true},      {{4, 5, 6, 0, 9, 0}, false},
+      {{4, 5, 0, 5, 0, 9}, false},     {{4, 5, 3, 3, 0, 0}, false},
+      {{4, 5, -9, -9, -1, -1}, false}, {{2181, 0, 0, 0, 0, 0}, false},
+      {{2182, 0, 0, 0, 0, 0}, true},   {{0, 2182, 0, 0, 0, 0}, true},
+      {{32767, 0, 0, 0, 0, 0}, true},  {{-2, -2, -2, -2, -2, -2}, false},
+      {{-3, 0, -3, -3, -3, -3}, true}, {{0, -32768, 0, 0, 0, 0}, true},
   };
   for (const auto& c : cases) {
-    show({{{.head = c.head, .stream = stream({0})}, plain_icon(1, 1, 9)}});
-    const bool refused = new_messages().size() == 1;
-    EXPECT_EQ(refused, c.outcome == 'r') << c.head.no_of_rows << " " << c.head.no_of_cols;
-    EXPECT_EQ(slot(1).Visible(), !refused);
+    show({{{c.head, ""}, plain_icon(1, 1, 9)}});
+    EXPECT_EQ(new_messages().size(), c.refused ? 1U : 0U);
+    EXPECT_EQ(view(), c.refused ? "2: 1 -  2: 2=9" : "2: 1 -  2: 1=. 2=9");
   }
+  show({{{{7, 6, 5, -4, 3, 8}, ""}}});
+  EXPECT_EQ(new_messages(), messages{"Something is rotten in the state of Denmark - fileformat has "
+                                     "errors, icon is not displayed. \nNo-of-rows =  7\n"
+                                     "Row-start = -4\nRow-end =  8\nNo-of-cols =  6\n"
+                                     "Col-start =  5\nCol-end =  3"});
 }
 
-TEST_F(series_test, ARefusedLastIconEndsTheFile) {
-  show({{plain_icon(1, 1, 5), refused_icon(1, 1)}});
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  1");
-  // The next series has nothing behind it.
-  user::click(Form1.Command6);
-  EXPECT_EQ(shown_slots(), slots{});
-  EXPECT_EQ(tool_state.current_slot, 0);
-  EXPECT_EQ(Form1.Text2.Text(), "2");
-}
-
-TEST_F(series_test, AnAddressOutsideTheFileStopsTheSeries) {
-  const std::vector<shp_icon> icons = plain_icons(3, 1, 1);
-  const std::int32_t start = 4 + 17 * 2;
+// What an address leads to, and counts beyond reach.
+TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
+  const auto archive_with = [](const std::string& icon_file) {
+    return archive_bytes({palette_entry(), {" A.SHP", icon_file}});
+  };
+  const auto archive_of_entry_at = [](std::int32_t offset) {
+    return index_bytes(2, {{offset, " A.SHP"}, {38, ""}});
+  };
+  const std::string three = samples::shp_file(plain_icons(3, 1, 1));
+  const std::int32_t start = 4 + 3 * 17 + 1024;
+  const auto with_second_at = [&](std::int32_t offset) {
+    return archive_with(with(three, 16, offset));
+  };
+  const auto with_count = [&](std::int32_t count) { return archive_with(with(three, 4, count)); };
+  const std::string one_of_3 = "3: 1 -  1: 1=0";
   const struct {
-    std::int32_t offset;
-    const char* number;
+    std::string archive;
+    std::string number;  // in the message, if there is one
+    std::string view;
   } cases[] = {
-      {-start - 2, "-1"},
-      {-start - 1, " 0"},
-      {1000, " 1039"},
-      {2147483647, " 2147483647"},
-      {-2147483647 - 1, "-2147483609"},
+      {with_second_at(-start - 2), "-1", one_of_3},
+      {with_second_at(-start - 1), " 0", one_of_3},
+      {with_second_at(static_cast<std::int32_t>(three.size()) - 23), " 1170", one_of_3},
+      {with_second_at(INT_MAX), " 2147483647", one_of_3},
+      {with_second_at(INT_MIN), "-2147482568", one_of_3},
+      {with_count(0), "", "0: 1 -  0:"},
+      {with_count(-1), "", "-1: 1 -  0:"},
+      {with_count(INT_MIN), "", "-2147483648: 1 -  0:"},
+      {archive_with(with(three, 4, 7).substr(0, 8)), " 0", "7: 1 -  0:"},
+      {archive_with("shp"), " 1080", "0: 1 -  0:"},
+      {archive_with(""), " 1080", "0: 1 -  0:"},
+      {archive_of_entry_at(-1), " 0", "0: 1 -  0:"},
+      {archive_of_entry_at(500000), " 500001", "0: 1 -  0:"},
+      {archive_of_entry_at(INT_MIN), "-2147483647", "0: 1 -  0:"},
   };
   for (const auto& c : cases) {
-    open_archive({{" A.SHP", with_offset(icons, 2, c.offset)}});
+    open_bytes(c.archive);
     click_row(" A.SHP");
-    EXPECT_EQ(new_messages(), messages{invalid_address("A.SHP", c.number)});
-    EXPECT_EQ(shown_slots(), slots{1});
-    EXPECT_EQ(Form1.Text3.Text(), " 1 -  1");
-    EXPECT_EQ(Form1.Text2.Text(), "3");
+    const messages told = c.number.empty() ? messages{} : messages{invalid_address(c.number)};
+    EXPECT_EQ(new_messages(), told);
+    EXPECT_EQ(view(), c.view);
     user::click(Form1.Command6);
-    EXPECT_EQ(new_messages(), messages{invalid_address("A.SHP", c.number)});
-    EXPECT_EQ(shown_slots(), slots{});
-    EXPECT_EQ(Form1.Text3.Text(), " 2 -  0");
+    EXPECT_EQ(new_messages(), c.view.front() > '0' ? told : messages{});  // with icons left to show
+    EXPECT_EQ(view(), c.view == one_of_3 ? "3: 2 -  0:" : c.view);
   }
 }
 
-TEST_F(series_test, ADirectoryThatIsNotThereStopsTheSeries) {
-  const std::string file = samples::shp_file(plain_icons(1, 1, 1));
-  open_archive({{"A.SHP", with_count(file.substr(0, 8), 7)}, {"B.SHP", "shp"}, {"C.SHP", ""}});
-  click_row("B.SHP");
-  EXPECT_EQ(new_messages().size(), 1U);
-  EXPECT_EQ(Form1.Text2.Text(), "0");
-  EXPECT_EQ(shown_slots(), slots{});
-  click_row("A.SHP");
-  EXPECT_EQ(new_messages().size(), 1U);
-  EXPECT_EQ(Form1.Text2.Text(), "7");
-  EXPECT_EQ(shown_slots(), slots{});
-}
-
-TEST_F(series_test, AnEntryOutsideTheFileHasNoIcons) {
-  constexpr std::int32_t least = -2147483647 - 1;
-  open_bytes(index_bytes(4, {{-1, "A.SHP"}, {500000, "B.SHP"}, {least, "C.SHP"}, {72, ""}}));
-  for (const auto& [name, number] :
-       {std::pair{"A.SHP", " 0"}, {"B.SHP", " 500001"}, {"C.SHP", "-2147483647"}}) {
-    click_row(name);
-    EXPECT_EQ(new_messages(), messages{invalid_address(name, number)});
-    EXPECT_EQ(Form1.Text2.Text(), "0");
-  }
-}
-
-TEST_F(series_test, CountsOutOfReachEndInAnOrderlyWay) {
-  const std::string one = samples::shp_file(plain_icons(1, 1, 1));
-  for (const std::int32_t count : {0, -1, -2147483647 - 1}) {
-    open_archive({{"A.SHP", with_count(one, count)}});
-    click_row("A.SHP");
-    EXPECT_EQ(new_messages(), messages{});
-    EXPECT_EQ(shown_slots(), slots{});
-    EXPECT_EQ(Form1.Text2.Text(), std::to_string(count));
-    user::click(Form1.Command6);
-    EXPECT_EQ(tool_state.slots_loaded, 12);
-  }
-  open_archive({{"A.SHP", with_count(samples::shp_file(plain_icons(5001, 1, 1)), 5001)}});
-  click_row("A.SHP");
-  EXPECT_EQ(new_messages(),
-            messages{"The file: A.SHP says that it holds 5001 pictures. Only the first 5000 are "
-                     "displayed."});
+TEST_F(series_test, ShowsNoMoreThan5000Icons) {
+  show({plain_icons(5001, 1, 1)});
+  EXPECT_EQ(new_messages(), messages{"The file: F1.SHP says that it holds 5001 pictures. Only the "
+                                     "first 5000 are displayed."});
   EXPECT_EQ(Form1.Text2.Text(), "5000");
-}
-
-// No file has so many icons, but a series that is told to go on must stop where its table ends.
-TEST_F(series_test, ASeriesIsFullAtSlot9999) {
-  show({plain_icons(2, 1, 1)});
-  tool_state.max_icons = 30000;
-  for (std::int16_t next = 13; next <= 9999; ++next) load_slot(next);
-  for (const auto& [last, full] : {std::pair{9998, flag_false}, {9999, flag_true}}) {
-    tool_state.current_slot = static_cast<std::int16_t>(last);
-    tool_state.icon_number = 1;
-    tool_state.series_full = flag_false;
-    slot(last).Width = 45;
-    place_icon_slot();
-    EXPECT_EQ(tool_state.series_full, full) << last;
-  }
-}
-
-TEST_F(series_test, TheFirstSlotIsAlwaysPlaced) {
-  show({{plain_icon(900, 900, 1), plain_icon(1, 1, 2)}});
-  EXPECT_EQ(shown_slots(), slots{1});
-  user::click(Form1.Command6);
-  EXPECT_EQ(shown_slots(), slots{1});
-  EXPECT_EQ(slot(1).columns(), 1);
 }
 
 // After a click on an entry of another kind the next series is that of the icons still in view,
 // with the bytes of their entry.
 TEST_F(series_test, TheNextSeriesReadsTheEntryThatItsDirectoryCameFrom) {
   type_max_icons("1");
-  open_archive({{"A.TXT", ""}, {"F.SHP", samples::shp_file(plain_icons(2, 30, 30))}});
+  open_archive(
+      {{"A.TXT", ""}, palette_entry(), {"F.SHP", samples::shp_file(plain_icons(2, 30, 30))}});
   click_row("F.SHP");
   click_row("A.TXT");
   user::click(Form1.Command6);
   EXPECT_EQ(new_messages(), messages{});
-  EXPECT_EQ(slot(1).pixel(29, 29), tool_state.colour_table[1]);
+  EXPECT_EQ(cell(1, 29, 29), "1");
 }
 
 // The icons in view have no next series in another archive, nor in one that could not be read.
@@ -312,8 +204,7 @@ TEST_F(series_test, ANextSeriesNeverMixesTwoArchives) {
     new_messages();
     user::click(Form1.Command6);
     EXPECT_EQ(new_messages(), messages{});
-    EXPECT_EQ(Form1.Text3.Text(), " 1 -  1");
-    EXPECT_EQ(slot(1).pixel(4, 4), tool_state.colour_table[0]);
+    EXPECT_EQ(view(), "3: 1 -  1: 1=0");
     user::double_click(Form1.s16_image, 1);
     EXPECT_FALSE(Form3.Visible());
   }
@@ -323,15 +214,15 @@ TEST_F(series_test, AnArchiveThatIsGoneGivesAnEmptySeries) {
   type_max_icons("1");
   show({plain_icons(3, 1, 1)});
   std::filesystem::remove(place("C:\\ostrane.dat"));
+  const auto expect_nothing = [&](const char* empty_view) {
+    EXPECT_EQ(new_messages().size(), 1U);
+    EXPECT_EQ(view(), empty_view);
+    EXPECT_FALSE(Form3.Visible());
+  };
   user::click(Form1.Command6);
-  EXPECT_EQ(new_messages().size(), 1U);
-  EXPECT_EQ(shown_slots(), slots{});
-  EXPECT_EQ(Form1.Text2.Text(), "3");
+  expect_nothing("3: 2 -  0:");
   click_row("F1.SHP");
-  EXPECT_EQ(new_messages().size(), 1U);
-  EXPECT_EQ(shown_slots(), slots{});
-  EXPECT_EQ(Form1.Text2.Text(), "0");
-  EXPECT_FALSE(Form3.Visible());
+  expect_nothing("0: 1 -  0:");
   user::click(Form1.Command5);
   user::tick(Form1.Timer1);
   EXPECT_FALSE(Form1.Timer1.Enabled());
