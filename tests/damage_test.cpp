@@ -33,10 +33,18 @@ class damage_test : public icon_test {
       archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
 };
 
+// Nothing is shown of an index that is cut, nor extracted of an entry.
 TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     SCOPED_TRACE(length);
     ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
+    ASSERT_EQ(Form1.List1.ListCount(), length < 4 + 17 * 4 ? 0 : 4);
+    file_map whole_entries = {
+        {"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}};
+    if (length < whole.size() - 44) whole_entries.erase("I.SHP");
+    if (length < whole.size() - 40) whole_entries.erase("N.TXT");
+    if (length < whole.size()) whole_entries.erase("GAME.PAL");
+    ASSERT_EQ(files_in("D:\\"), whole_entries);
   }
 }
 

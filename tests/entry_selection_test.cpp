@@ -1,22 +1,11 @@
-#include "recording_screen.h"
-#include "shp_writer.h"
-#include "tool_fixture.h"
+#include "icon_fixture.h"
 
 namespace ostrane {
 namespace {
 
-using messages = std::vector<std::string>;
-using samples::picture;
+std::string dots(std::size_t count) { return samples::shp_file(plain_icons(count, 1, 1)); }
 
-constexpr const char* unknown_kind =
-    "This is not a shp image, I haven't got to display this yet... ";
-
-// An icon file of one-pixel icons.
-std::string dots(std::size_t count) {
-  std::vector<picture> pictures(count, picture(1, 1));
-  for (picture& p : pictures) p.set(0, 0, 7);
-  return samples::shp_file(pictures);
-}
+const entry palette = {"GAME.PAL", std::string(1024, '\1')};
 
 class entry_selection_test : public tool_test {
  protected:
@@ -30,7 +19,7 @@ TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
   open_archive({{"A.SHP", dots(2)},
                 {"b.shp", dots(3)},
                 {" C.ShP ", dots(4)},
-                {"GAME.PAL", std::string(1024, '\1')},
+                palette,
                 {"N.TXT", "note"},
                 {" 000DATUP.000", "data"},
                 {"000datup.000", "data"},
@@ -38,141 +27,99 @@ TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
                 {"SHP", "no dot"}});
   const struct {
     const char* name;
-    const char* text2;
-    const char* text6;  // null while hidden
-    bool unknown;
+    const char* seen;          // the number of pictures, and the text
+    const char* redrawn;       // by a double click
+    std::size_t click, twice;  // messages that the kind is not known
   } cases[] = {
-      {"A.SHP", "2", nullptr, false},       {"N.TXT", "2", "note", false},
-      {"b.shp", "3", nullptr, false},       {"X.WAV", "3", nullptr, true},
-      {" C.ShP ", "4", nullptr, false},     {" 000DATUP.000", "4", "data", false},
-      {"000datup.000", "4", nullptr, true}, {"GAME.PAL", "256", nullptr, false},
-      {"SHP", "256", nullptr, true},        {"", "256", nullptr, true},
+      {"A.SHP", "2", " 1 -  2", 0, 0},   {"N.TXT", "2 note", "", 0, 1},
+      {"b.shp", "3", " 1 -  3", 0, 0},   {"X.WAV", "3", "", 1, 1},
+      {" C.ShP ", "4", " 1 -  4", 0, 0}, {" 000DATUP.000", "4 data", "", 0, 1},
+      {"000datup.000", "4", "", 1, 1},   {"GAME.PAL", "256", "", 0, 0},
+      {"SHP", "256", "", 1, 1},          {"", "256", "", 1, 1},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const std::string unknown =
+        std::string("This is not a shp image, I haven't got to display this yet... ") + c.name;
     click_row(c.name);
-    EXPECT_EQ(Form1.Text2.Text(), c.text2) << c.name;
-    EXPECT_EQ(Form1.Text6.Visible(), c.text6 != nullptr) << c.name;
-    if (c.text6 != nullptr) {
-      EXPECT_EQ(Form1.Text6.Text(), c.text6);
-    }
-    EXPECT_EQ(new_messages(),
-              c.unknown ? messages{std::string(unknown_kind) + c.name} : messages{});
+    const std::string text = Form1.Text6.Visible() ? " " + Form1.Text6.Text() : "";
+    EXPECT_EQ(Form1.Text2.Text() + text, c.seen);
+    EXPECT_EQ(new_messages(), texts(c.click, unknown));
     EXPECT_EQ(tool_state.selected_index, Form1.List1.ListIndex());
+    Form1.Text3.Text = "";
+    user::double_click(Form1.List1, tool_state.selected_index);
+    EXPECT_EQ(Form1.Text3.Text(), c.redrawn);
+    EXPECT_EQ(new_messages(), texts(c.twice, unknown));
   }
   EXPECT_FALSE(Form3.Visible());
 }
 
-TEST_F(entry_selection_test, DoubleClicksTellOfAllKindsButIconsAndPalettes) {
-  open_archive({{"A.SHP", dots(2)}, {"GAME.PAL", std::string(1024, '\1')}, {"N.TXT", "note"}});
-  double_click_row("A.SHP");
-  EXPECT_EQ(Form1.Text3.Text(), " 1 -  2");
-  double_click_row("GAME.PAL");
-  EXPECT_EQ(new_messages(), messages{});
-  double_click_row("N.TXT");
-  EXPECT_EQ(new_messages(), messages{std::string(unknown_kind) + "N.TXT"});
-  EXPECT_TRUE(Form1.Text6.Visible());
-}
-
 TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFits) {
   write_icon_names(
-      "  ABC01 ; first ; second  \r\n"
-      "no separator\r\n"
-      "abc01;too late\r\n"
-      "\tTAB;tab\r\n"
-      ";nameless\r\n"
-      "EMPTY;\r\n"
-      "E\xC9;accents");
-  open_archive({{"ABC01.SHP", dots(1)},
-                {"abc01.TXT", ""},
-                {"TAB.TXT", ""},
-                {"EMPTY.TXT", ""},
-                {"A.B.TXT", ""},
-                {"e\xE9.TXT", ""},
-                {"NODOT", ""}});
-  const struct {
-    const char* name;
-    const char* caption;
-  } cases[] = {
-      {"ABC01.SHP", "ABC01.SHP - first ; second"},
-      {"abc01.TXT", "abc01.TXT - first ; second"},
-      {"TAB.TXT", "TAB.TXT"},
-      {"EMPTY.TXT", "EMPTY.TXT - "},
-      {"A.B.TXT", "A.B.TXT"},
-      {"e\xE9.TXT", "e\xE9.TXT - accents"},
-      {"NODOT", "NODOT - "},  // row 2 is blank
+      "  ABC01 ; first ; second  \r\nno separator\r\nabc01;too late\r\n\tTAB;tab\r\n;nameless\r\n"
+      "EMPTY;\r\nE\xC9;accents");
+  const std::pair<std::string, const char*> cases[] = {
+      {"ABC01.SHP", " - first ; second"},
+      {"abc01.TXT", " - first ; second"},
+      {"TAB.TXT", ""},
+      {"EMPTY.TXT", " - "},
+      {"A.B.TXT", ""},
+      {"e\xE9.TXT", " - accents"},
+      {"NODOT", " - "},  // row 2 is blank
       {"", " - "},
   };
-  for (const auto& c : cases) {
-    click_row(c.name);
-    EXPECT_EQ(Form1.Frame1.Caption(), c.caption);
+  std::vector<entry> entries;
+  for (const auto& [name, added] : cases) entries.push_back({name, ""});
+  open_archive(entries);
+  for (const auto& [name, added] : cases) {
+    click_row(name);
+    EXPECT_EQ(Form1.Frame1.Caption(), name + added);
   }
 }
 
 TEST_F(entry_selection_test, CountsTheLinesOfTheIconNames) {
   std::string many;
-  for (int i = 0; i < 32005; ++i) many += "N" + std::to_string(i + 1) + ";d\r\n";
-  const struct {
-    std::string lines;
-    std::int16_t count;
-  } cases[] = {{"", 1}, {"one;1", 1}, {"a;1\r\n\r\nc;3\r\n", 3}, {many, 32000}};
-  for (const auto& c : cases) {
-    write_icon_names(c.lines);
-    EXPECT_EQ(tool_state.icon_name_count, c.count);
+  for (int i = 1; i <= 32005; ++i) many += "N" + std::to_string(i) + ";d\r\n";
+  const std::pair<std::string, std::int16_t> cases[] = {
+      {"", 1}, {"one;1", 1}, {"a;1\r\n\r\nc;3\r\n", 3}, {many, 32000}};
+  for (const auto& [lines, count] : cases) {
+    write_icon_names(lines);
+    EXPECT_EQ(tool_state.icon_name_count, count);
   }
   EXPECT_EQ(tool_state.icon_names[32000].name, "N32000");
 }
 
-TEST_F(entry_selection_test, ShowsTextsWhole) {
-  const std::string long_text = some_bytes(40000);
-  std::string shown = long_text;
-  for (char& c : shown) c = c == '\0' ? ' ' : c;
-  open_archive({{"EMPTY.TXT", ""}, {"LONG.TXT", long_text}, {"A.TXT", std::string("a\0b\r\n", 5)}});
-  click_row("LONG.TXT");
-  EXPECT_EQ(Form1.Text6.Text(), shown);
-  click_row("A.TXT");
-  EXPECT_EQ(Form1.Text6.Text(), "a b\r\n");
+// At most 16 MiB, and no byte that lies outside the file.
+TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
+  constexpr std::int32_t data = 4 + 17 * 9;
+  constexpr std::int32_t zeros = data + 40005;
+  constexpr std::int32_t end = zeros + (17 << 20);
+  std::string long_text = some_bytes(40000);
+  write("C:\\ostrane.dat", index_bytes(9, {{data, "A.TXT"},
+                                           {data + 5, "LONG.TXT"},
+                                           {zeros, "EMPTY.TXT"},
+                                           {zeros, "BIG.TXT"},
+                                           {end - 3, "LAST.TXT"},
+                                           {end + 500, "BEHIND.TXT"},
+                                           {-9, "BEFORE.TXT"},
+                                           {INT32_MAX, "FAR.TXT"},
+                                           {INT32_MIN, ""}}) +
+                               std::string("a\0b\r\n", 5) + long_text);
+  std::filesystem::resize_file(place("C:\\ostrane.dat"), end);
+  open_archive();
+  std::replace(long_text.begin(), long_text.end(), '\0', ' ');
+  const std::pair<const char*, std::string> cases[] = {
+      {"LONG.TXT", long_text}, {"A.TXT", "a b\r\n"}, {"EMPTY.TXT", ""},
+      {"LAST.TXT", "   "},     {"BEHIND.TXT", ""},   {"BIG.TXT", std::string(1 << 24, ' ')},
+      {"BEFORE.TXT", ""},      {"FAR.TXT", ""},
+  };
+  for (const auto& [name, text] : cases) {
+    click_row(name);
+    EXPECT_TRUE(Form1.Text6.Visible() && Form1.Text6.Text() == text) << name;
+  }
   EXPECT_EQ(Form3.Caption(), "This is just to let you know, I'm working...");
   EXPECT_FALSE(Form3.Visible());
-  click_row("EMPTY.TXT");
-  EXPECT_EQ(Form1.Text6.Text(), "");
-  EXPECT_TRUE(Form1.Text6.Visible());
-}
-
-struct text_watch : recording_screen {
-  int writes = 0;
-  void control_changed(platform::control& changed, platform::aspect what) override {
-    if (&changed == &Form1.Text6 && what == platform::aspect::text) ++writes;
-  }
-};
-
-TEST_F(entry_selection_test, ShowsALongTextInOnePieceAndUpTo16MiB) {
-  constexpr std::int32_t size = 17 << 20;
-  write("C:\\ostrane.dat", index_bytes(2, {{38, "A.TXT"}, {38 + size, ""}}));
-  std::filesystem::resize_file(place("C:\\ostrane.dat"), 38 + size);
-  open_archive();
-  text_watch screen;
-  click_row("A.TXT");
-  EXPECT_TRUE(Form1.Text6.Text() == std::string(16U << 20U, ' '));
-  EXPECT_EQ(screen.writes, 1);
-}
-
-TEST_F(entry_selection_test, ShowsOfABadlyPlacedTextWhatThereIs) {
-  const std::int32_t data = 4 + 17 * 6;
-  open_bytes(index_bytes(6, {{data, "A.TXT"},
-                             {data + 500, "B.TXT"},
-                             {-9, "C.TXT"},
-                             {data + 2, "D.TXT"},
-                             {2147483647, "E.TXT"},
-                             {-2147483647 - 1, ""}}) +
-             "hello");
-  for (const auto& [name, text] : {std::pair{"A.TXT", "hello"},
-                                   {"B.TXT", ""},
-                                   {"C.TXT", ""},
-                                   {"D.TXT", "llo"},
-                                   {"E.TXT", ""}}) {
-    click_row(name);
-    EXPECT_EQ(Form1.Text6.Text(), text) << name;
-  }
+  EXPECT_EQ(new_messages(), texts{});
   std::filesystem::remove(place("C:\\ostrane.dat"));
   click_row("A.TXT");
   EXPECT_EQ(Form1.Text6.Text(), "");
@@ -184,39 +131,34 @@ TEST_F(entry_selection_test, ShowsThePaletteAsSwatches) {
   colours.replace(4 * 17, 4, "\x88\xE4\xE8z");
   open_archive({{"OTHER.PAL", "not read"}, {"GAME.PAL", colours}});
   click_row("OTHER.PAL");
-  EXPECT_EQ(Form1.Text2.Text(), "256");
-  EXPECT_EQ(Form1.Text3.Text(), "palette 0 - 255");
+  EXPECT_EQ(Form1.Text2.Text() + Form1.Text3.Text(), "256palette 0 - 255");
   EXPECT_EQ(tool_state.slots_loaded, 256);
-  const struct {
-    std::int32_t index, left, top;
-  } places[] = {{0, 440, 800}, {15, 7040, 800}, {16, 440, 1100}, {255, 7040, 5300}};
-  for (const auto& p : places) {
-    const platform::picture_box& swatch = Form1.s16_image(p.index + 1);
-    EXPECT_EQ(swatch.Left(), p.left);
-    EXPECT_EQ(swatch.Top(), p.top);
-    EXPECT_EQ(swatch.Width(), 400);
-    EXPECT_EQ(swatch.Height(), 260);
-    EXPECT_TRUE(swatch.Visible());
+  using numbers = std::vector<std::int32_t>;
+  const std::pair<std::int32_t, numbers> places[] = {
+      {1, {440, 800}}, {16, {7040, 800}}, {17, {440, 1100}}, {256, {7040, 5300}}};
+  for (const auto& [slot, at] : places) {
+    const platform::picture_box& swatch = Form1.s16_image(slot);
+    EXPECT_EQ((numbers{swatch.Left(), swatch.Top()}), at);
+    EXPECT_TRUE(swatch.Width() == 400 && swatch.Height() == 260 && swatch.Visible());
   }
   EXPECT_EQ(Form1.s16_image(18).BackColor(), platform::rgb(232, 228, 136));
   EXPECT_EQ(Form1.s16_image(18).ToolTipText(), "Palette #  17 : (red= 232, green= 228, blue= 136)");
 }
 
 TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
-  open_archive(
-      {{"MANY.SHP", dots(300)}, {"GAME.PAL", std::string(1024, '\1')}, {"A.SHP", dots(1)}});
+  open_archive({{"MANY.SHP", dots(300)}, palette, {"A.SHP", dots(1)}});
+  const auto slot = [](std::int32_t number) -> auto& { return Form1.s16_image(number); };
   click_row("MANY.SHP");
   user::click(Form1.Command5);
   EXPECT_TRUE(Form1.Timer1.Enabled());
   click_row("GAME.PAL");
-  EXPECT_FALSE(Form1.Timer1.Enabled());
-  EXPECT_EQ(Form1.s16_image(1).pixels(), nullptr);
-  EXPECT_FALSE(Form1.s16_image(257).Visible());
-  EXPECT_EQ(Form1.s16_image(257).Width(), 100);
+  EXPECT_FALSE(Form1.Timer1.Enabled() || slot(257).Visible());
+  EXPECT_EQ(slot(1).pixels(), nullptr);
+  EXPECT_EQ(slot(257).Width(), 100);
   click_row("A.SHP");
-  EXPECT_FALSE(Form1.s16_image(2).Visible());
-  EXPECT_EQ(Form1.s16_image(2).ToolTipText(), icon_tool_tip);
-  EXPECT_EQ(Form1.s16_image(1).BackColor(), platform::system_button_face);
+  EXPECT_FALSE(slot(2).Visible());
+  EXPECT_EQ(slot(2).ToolTipText(), icon_tool_tip);
+  EXPECT_EQ(slot(1).BackColor(), platform::system_button_face);
   EXPECT_EQ(tool_state.slots_loaded, 300);
 }
 

@@ -1,7 +1,5 @@
 #include <sys/stat.h>
 
-#include "platform/binary_file.h"
-#include "platform/file_error.h"
 #include "platform/file_system.h"
 #include "platform/text_file.h"
 #include "tool_fixture.h"
@@ -33,9 +31,8 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
   std::filesystem::create_symlink("a.txt", place("D:\\link"));
   const platform::folder_contents found = platform::list_folder("D:\\");
-  EXPECT_EQ(found.files,
-            (std::vector<std::string>{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
-  EXPECT_EQ(found.folders, std::vector<std::string>{"folder"});
+  EXPECT_EQ(found.files, (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
+  EXPECT_EQ(found.folders, texts{"folder"});
 }
 
 }  // namespace

@@ -8,37 +8,22 @@
 namespace ostrane {
 namespace {
 
-class files_test : public tool_test {
- protected:
-  std::vector<std::string> lines_of(const std::string& bytes) const {
-    write("C:\\lines.txt", bytes);
-    platform::text_reader reader("C:\\lines.txt");
-    std::vector<std::string> lines;
-    while (!reader.at_end()) lines.push_back(reader.read_line());
-    return lines;
-  }
-};
+using files_test = tool_test;
 
 TEST_F(files_test, WorksPathsOut) {
-  const struct {
-    const char* current;
-    const char* path;
-    const char* whole;
-  } cases[] = {
-      {"C:\\work", "a.txt", "C:\\work\\a.txt"},
-      {"C:\\work", "\\a\\b", "C:\\a\\b"},
-      {"C:\\work", "", "C:\\work"},
-      {"C:\\work", "..\\..\\..\\x", "C:\\x"},
-      {"C:\\work", "c: [test]", "C:\\work"},
-      {"C:\\work", "d: [other]", "D:\\"},
-      {"C:\\work", "D:", "D:\\"},
-      {"C:\\work", "d:\\a\\.\\b\\..\\\\c\\", "D:\\a\\c"},
-      {"D:\\", "\\", "D:\\"},
-      {"D:\\", "C:x/y", "C:\\x\\y"},
-  };
-  for (const auto& c : cases) {
-    begin(c.current);
-    EXPECT_EQ(platform::full_path(c.path), c.whole) << c.path;
+  const char* const cases[][3] = {{"C:\\work", "a.txt", "C:\\work\\a.txt"},
+                                  {"C:\\work", "\\a\\b", "C:\\a\\b"},
+                                  {"C:\\work", "", "C:\\work"},
+                                  {"C:\\work", "..\\..\\..\\x", "C:\\x"},
+                                  {"C:\\work", "c: [test]", "C:\\work"},
+                                  {"C:\\work", "d: [other]", "D:\\"},
+                                  {"C:\\work", "D:", "D:\\"},
+                                  {"C:\\work", "d:\\a\\.\\b\\..\\\\c\\", "D:\\a\\c"},
+                                  {"D:\\", "\\", "D:\\"},
+                                  {"D:\\", "C:x/y", "C:\\x\\y"}};
+  for (const auto& [current, path, whole] : cases) {
+    begin(current);
+    EXPECT_EQ(platform::full_path(path), whole) << path;
   }
   EXPECT_THROW(platform::system_path("Q:\\x"), platform::file_error);
 }
@@ -51,39 +36,39 @@ TEST_F(files_test, WritesASecondTimeIntoTheFileOfOtherCase) {
     file.write(std::as_bytes(std::span("12345", 5)));
     file.close();
   }
-  EXPECT_EQ(names_in("C:\\"), (std::vector<std::string>{"New.Txt", "program"}));
+  EXPECT_EQ(names_in("C:\\"), (texts{"New.Txt", "program"}));
 }
 
 TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
-  const struct {
-    const char* name;
-    const char* pattern;
-    bool matches;
-  } cases[] = {
-      {"OSTRANE.DAT", "ostrane.dat", true},
-      {"ostrane.dat2", "ostrane.dat", false},
-      {"a.TXT", "*.txt", true},
-      {"a.txt.bak", "*.txt", false},
-      {".txt", "*.txt", true},
-      {"abc", "a?c", true},
-      {"ac", "a?c", false},
-      {"", "*", true},
-      {"aXbXc", "a*x*c", true},
-      {"anything", "*", true},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(platform::matches_pattern(c.name, c.pattern), c.matches) << c.name << c.pattern;
-  }
+  const char* const matching[][2] = {{"OSTRANE.DAT", "ostrane.dat"},
+                                     {"a.TXT", "*.txt"},
+                                     {".txt", "*.txt"},
+                                     {"abc", "a?c"},
+                                     {"", "*"},
+                                     {"aXbXc", "a*x*c"},
+                                     {"anything", "*"}};
+  const char* const others[][2] = {
+      {"ostrane.dat2", "ostrane.dat"}, {"a.txt.bak", "*.txt"}, {"ac", "a?c"}};
+  for (const auto& [name, pattern] : matching)
+    EXPECT_TRUE(platform::matches_pattern(name, pattern)) << name;
+  for (const auto& [name, pattern] : others)
+    EXPECT_FALSE(platform::matches_pattern(name, pattern)) << name;
 }
 
 TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
-  using lines = std::vector<std::string>;
-  EXPECT_EQ(lines_of(""), lines{});
-  EXPECT_EQ(lines_of("a\r\nb"), (lines{"a", "b"}));
-  EXPECT_EQ(lines_of("a\r\nb\r\n"), (lines{"a", "b"}));
-  EXPECT_EQ(lines_of("a\n\nb\rc\r\n\r\n"), (lines{"a", "", "b", "c", ""}));
   const std::string to_the_edge(65535, 'x');
-  EXPECT_EQ(lines_of(to_the_edge + "\r\nnext"), (lines{to_the_edge, "next"}));
+  const std::pair<std::string, texts> cases[] = {{"", {}},
+                                                 {"a\r\nb", {"a", "b"}},
+                                                 {"a\r\nb\r\n", {"a", "b"}},
+                                                 {"a\n\nb\rc\r\n\r\n", {"a", "", "b", "c", ""}},
+                                                 {to_the_edge + "\r\nnext", {to_the_edge, "next"}}};
+  for (const auto& [bytes, lines] : cases) {
+    write("C:\\lines.txt", bytes);
+    platform::text_reader reader("C:\\lines.txt");
+    texts read;
+    while (!reader.at_end()) read.push_back(reader.read_line());
+    EXPECT_EQ(read, lines);
+  }
 }
 
 TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {

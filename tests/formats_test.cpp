@@ -10,9 +10,9 @@ namespace {
 class formats_test : public tool_test {
  protected:
   // The lines of the block that begins with ``` and the word.
-  static std::vector<std::string> block(const std::string& word) {
+  static texts block(const std::string& word) {
     std::ifstream page(FORMATS_PAGE);
-    std::vector<std::string> lines;
+    texts lines;
     std::string line;
     while (std::getline(page, line) && line != "```" + word) continue;
     while (std::getline(page, line) && line != "```") lines.push_back(line);
@@ -43,23 +43,19 @@ TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
   const std::string archive = example_archive();
   ASSERT_EQ(archive.size(), 141U);
   write("C:\\program\\iconlist.csv", text_file("iconlist"));
-  write("C:\\ostrane.dat", archive);
   begin();
-  open_archive();
+  open_bytes(archive);
 
   click_row("A.SHP");
   EXPECT_EQ(Form1.Frame1.Caption(), "A.SHP - A red corner");
-  std::vector<std::string> picture;
+  texts picture;
   const platform::picture_box& slot = Form1.s16_image(1);
+  const std::map<platform::colour, char> signs = {{platform::picture_box::unset, '.'},
+                                                  {platform::rgb(224, 48, 32), '2'},
+                                                  {platform::rgb(48, 192, 64), '3'}};
   for (std::int32_t y = 0; y < slot.rows(); ++y) {
     picture.emplace_back();
-    for (std::int32_t x = 0; x < slot.columns(); ++x) {
-      const platform::colour c = slot.pixel(x, y);
-      picture.back() += c == platform::picture_box::unset ? '.'
-                        : c == platform::rgb(224, 48, 32) ? '2'
-                        : c == platform::rgb(48, 192, 64) ? '3'
-                                                          : '?';
-    }
+    for (std::int32_t x = 0; x < slot.columns(); ++x) picture.back() += signs.at(slot.pixel(x, y));
   }
   EXPECT_EQ(picture, block("picture"));
   click_row("B.TXT");
@@ -78,10 +74,7 @@ TEST_F(formats_test, TheExamplesOfListsAreWrittenAndComparedAsThePageSays) {
   user::click(Form1.mnu_save);
   EXPECT_EQ(read("C:\\shplist.txt"), text_file("saved"));
   write("D:\\list.txt", text_file("shiplist"));
-  user::click(Form1.mnu_read_filelist);
-  Form6.Dir1.Path = "D:\\";
-  user::select_file(Form6.File1, 0);
-  user::click(Form6.Command1);
+  compare_with("D:\\", "list.txt");
   EXPECT_EQ(read("C:\\Shiplist-compare.txt"), text_file("report"));
 }
 

@@ -6,59 +6,16 @@
 #include <sstream>
 
 #include "archive/format.h"
+#include "archive_writer.h"
 #include "platform/case_blind.h"
-#include "platform/little_endian.h"
 
 namespace ostrane {
-
-namespace fs = std::filesystem;
-
-std::string index_bytes(std::int32_t count,
-                        const std::vector<std::pair<std::int32_t, std::string>>& records) {
-  std::array<std::byte, record_size> bytes;
-  std::string text;
-  const auto append = [&](std::size_t size) {
-    text.append(reinterpret_cast<const char*>(bytes.data()), size);
-  };
-  platform::put_int32(bytes, 0, count);
-  append(count_size);
-  for (const auto& [offset, name] : records) {
-    dat_record record{.offset = offset, .name = {}};
-    std::copy_n(name.begin(), std::min(name.size(), name_size), record.name.begin());
-    encode_record(record, bytes);
-    append(record_size);
-  }
-  return text;
-}
-
-std::string archive_bytes(const std::vector<entry>& entries) {
-  const auto count = static_cast<std::int32_t>(entries.size()) + 1;
-  std::int32_t offset = count_size + record_size * count;
-  std::vector<std::pair<std::int32_t, std::string>> records;
-  std::string data;
-  for (const entry& e : entries) {
-    records.emplace_back(offset, e.name);
-    offset += static_cast<std::int32_t>(e.bytes.size());
-    data += e.bytes;
-  }
-  records.emplace_back(offset, "");
-  return index_bytes(count, records) + data;
-}
-
-std::string some_bytes(std::size_t count, unsigned seed) {
-  std::string bytes(count, ' ');
-  unsigned state = seed * 2654435761U + 1;
-  for (char& c : bytes) {
-    state = state * 1664525U + 1013904223U;
-    c = static_cast<char>(state >> 24U);
-  }
-  return bytes;
-}
-
 namespace {
 
-fs::path path_of(const std::string& utf8) {
-  return fs::path(std::u8string(utf8.begin(), utf8.end()));
+std::string little_endian(std::int32_t number) {
+  std::string bytes;
+  for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(number >> shift);
+  return bytes;
 }
 
 std::string name_of(const fs::path& place) {
@@ -73,6 +30,27 @@ std::string bytes_of(const fs::path& file) {
 }
 
 }  // namespace
+
+std::string index_bytes(std::int32_t count,
+                        const std::vector<std::pair<std::int32_t, std::string>>& records) {
+  std::string bytes = little_endian(count);
+  for (const auto& [offset, name] : records) {
+    bytes += little_endian(offset) + name;
+    bytes.resize(bytes.size() + name_size - name.size());
+  }
+  return bytes;
+}
+
+std::string archive_bytes(const std::vector<entry>& entries) {
+  return samples::archive_file(entries);
+}
+
+std::string some_bytes(std::size_t count, unsigned seed) {
+  std::string bytes(count, ' ');
+  std::minstd_rand numbers(seed + 1);
+  for (char& c : bytes) c = static_cast<char>(numbers() >> 8U);
+  return bytes;
+}
 
 tool_test::tool_test() {
   std::random_device any;
@@ -99,7 +77,8 @@ void tool_test::begin(const std::string& current) {
 fs::path tool_test::place(const std::string& path) const {
   std::string rest = path.substr(3);
   std::replace(rest.begin(), rest.end(), '\\', '/');
-  return root / std::string(1, static_cast<char>(path[0] | 0x20)) / path_of(rest);
+  return root / std::string(1, static_cast<char>(path[0] | 0x20)) /
+         std::u8string(rest.begin(), rest.end());
 }
 
 void tool_test::write(const std::string& path, const std::string& bytes) const {
@@ -114,21 +93,19 @@ bool tool_test::exists(const std::string& path) const { return fs::exists(place(
 
 void tool_test::make_folder(const std::string& path) const { fs::create_directories(place(path)); }
 
-std::vector<std::string> tool_test::names_in(const std::string& folder) const {
-  std::vector<std::string> names;
-  for (const auto& found : fs::directory_iterator(place(folder))) {
-    names.push_back(name_of(found.path()));
-  }
+texts tool_test::names_in(const std::string& folder) const {
+  texts names;
+  for (const auto& found : fs::directory_iterator(place(folder))) names.push_back(name_of(found));
   std::sort(names.begin(), names.end());
   return names;
 }
 
-std::map<std::string, std::string> tool_test::files_in(const std::string& folder) const {
-  std::map<std::string, std::string> files;
+file_map tool_test::files_in(const std::string& folder) const {
+  file_map found_there;
   for (const auto& found : fs::directory_iterator(place(folder))) {
-    if (found.is_regular_file()) files[name_of(found.path())] = bytes_of(found.path());
+    if (found.is_regular_file()) found_there[name_of(found)] = bytes_of(found);
   }
-  return files;
+  return found_there;
 }
 
 void tool_test::open_archive(const std::string& folder) {
@@ -155,11 +132,6 @@ std::int32_t tool_test::row_of(const std::string& name) const {
 }
 
 void tool_test::click_row(const std::string& name) { user::select_row(Form1.List1, row_of(name)); }
-
-void tool_test::double_click_row(const std::string& name) {
-  click_row(name);
-  user::double_click(Form1.List1, row_of(name));
-}
 
 void tool_test::extract_into(const std::string& folder) {
   user::click(Form1.mnu_ext);
@@ -190,9 +162,9 @@ void tool_test::compare_with(const std::string& folder, const std::string& name)
   user::click(Form6.Command1);
 }
 
-std::vector<std::string> tool_test::new_messages() {
-  const std::vector<std::string>& all = platform::messages_shown();
-  std::vector<std::string> fresh(all.begin() + static_cast<std::ptrdiff_t>(told_), all.end());
+texts tool_test::new_messages() {
+  const texts& all = platform::messages_shown();
+  texts fresh(all.begin() + static_cast<std::ptrdiff_t>(told_), all.end());
   told_ = all.size();
   return fresh;
 }

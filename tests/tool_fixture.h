@@ -12,16 +12,17 @@
 #include "platform/drives.h"
 #include "platform/message_box.h"
 #include "platform/user.h"
+#include "sample_files.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace user = platform::user;
+namespace fs = std::filesystem;
 
-struct entry {
-  std::string name;
-  std::string bytes;
-};
+using entry = samples::sample_file;
+using texts = std::vector<std::string>;
+using file_map = std::map<std::string, std::string>;  // bytes by names
 
 // The bytes of an archive in normal form: the entries in this order, then the end record.
 std::string archive_bytes(const std::vector<entry>& entries);
@@ -43,22 +44,21 @@ class tool_test : public testing::Test {
   // Begins the tool afresh in `current`, a path of the tool.
   void begin(const std::string& current = "C:\\");
 
-  std::filesystem::path place(const std::string& path) const;
+  fs::path place(const std::string& path) const;
   void write(const std::string& path, const std::string& bytes) const;
   std::string read(const std::string& path) const;
   bool exists(const std::string& path) const;
   void make_folder(const std::string& path) const;
   // Names in a folder, hidden ones too, ascending.
-  std::vector<std::string> names_in(const std::string& folder) const;
+  texts names_in(const std::string& folder) const;
   // The bytes of the files in a folder by their names on this system, hidden ones too.
-  std::map<std::string, std::string> files_in(const std::string& folder) const;
+  file_map files_in(const std::string& folder) const;
 
   // Through Form2, as a user does it.
   void open_archive(const std::string& folder = "C:\\");
   void open_archive(const std::vector<entry>& entries);
   void open_bytes(const std::string& bytes);
   void click_row(const std::string& name);
-  void double_click_row(const std::string& name);
   // Through Form4, Form5 and Form6.
   static void extract_into(const std::string& folder);
   static void open_build_dialog(const std::string& folder = "C:\\work");
@@ -67,9 +67,9 @@ class tool_test : public testing::Test {
   static void compare_with(const std::string& folder, const std::string& name);
 
   // The messages since the last call.
-  std::vector<std::string> new_messages();
+  texts new_messages();
 
-  std::filesystem::path root;
+  fs::path root;
 
  private:
   std::int32_t row_of(const std::string& name) const;
