@@ -1,7 +1,7 @@
 // bench_make_data FOLDER
 // Writes what peers.sh measures with: names (an index of 32,768 records, empty files of the same
 // names, a shiplist, and the two lists of names one a line), files (4000 files, 64 MB), archive
-// (the same as an archive), icons (one file of 300 and one of 999 icons and a text of 32 KB).
+// (the same as an archive), icons (one file each of 300, 500 and 999 icons, and a text of 32 KB).
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -58,6 +58,7 @@ void make_icons(const fs::path& folder) {
                                 {"I999.SHP", samples::shp_file(bench::mixed_pictures(999, 32))},
                                 {"LONG.TXT", text_of_32_kb()},
                                 {"SHORT.TXT", "short"}});
+  bench::write_file(folder / "long.txt", text_of_32_kb());
 }
 
 }  // namespace

@@ -19,8 +19,8 @@ void show_and_wait(QWidget& window) {
 }
 
 void sync_with_screen() {
+  if (QGuiApplication::platformName() != QLatin1String("xcb")) return;
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
   xcb_connection_t* connection = x11->connection();
   std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }

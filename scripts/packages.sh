@@ -37,3 +37,5 @@ need_packages() {
 build_packages=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev fonts-liberation)
 # shellcheck disable=SC2034
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
+# shellcheck disable=SC2034
+bench_packages=(libbenchmark-dev libpng-dev libxcb1-dev pkg-config)

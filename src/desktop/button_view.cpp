@@ -44,7 +44,7 @@ void button_view::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(option.palette.color(QPalette::ButtonText));
   QRect inside = rect().adjusted(side_margin, 0, -side_margin, 0);
   if (isDown()) inside.translate(1, 1);
-  paint_wrapped(painter, inside, with_plain_breaks(to_screen(button_.Caption())), true);
+  paint_wrapped_in_middle(painter, inside, with_plain_breaks(to_screen(button_.Caption())));
 }
 
 void button_view::keyPressEvent(QKeyEvent* event) {

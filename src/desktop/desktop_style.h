@@ -1,21 +1,20 @@
 #pragma once
 
 #include <QProxyStyle>
-#include <QStyleFactory>
 
 namespace desktop {
 
 // The same look on every desktop. Shortcuts of the menus work without marks under their letters,
-// which the captions as designed have not got.
+// which the captions as designed have not got; fields have plain frames, which fill their places
+// and are painted fast.
 class desktop_style : public QProxyStyle {
  public:
-  desktop_style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+  desktop_style();
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    if (hint == SH_UnderlineShortcut || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-    return QProxyStyle::styleHint(hint, option, widget, answer);
-  }
+                QStyleHintReturn* answer) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };
 
 }  // namespace desktop

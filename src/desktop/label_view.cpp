@@ -5,11 +5,11 @@
 #include <QMouseEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
+#include <algorithm>
 
 #include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
-#include "desktop/wrapped_text.h"
 #include "platform/user.h"
 
 namespace desktop {
@@ -25,19 +25,38 @@ label_view::label_view(platform::label& shown, QWidget* parent)
 }
 
 void label_view::show_content() {
-  setText(with_plain_breaks(to_screen(label_.Caption())));
-  setAccessibleName(text());
+  const QString caption = with_plain_breaks(to_screen(label_.Caption()));
+  const int old_top = text_top();
+  const wrapped_text::band changed = lines_.set(
+      caption, font(), label_.designed.centred ? Qt::AlignHCenter : Qt::AlignLeft, width());
+  // A label's own way is to paint all of itself.
+  setAttribute(Qt::WA_UpdatesDisabled);
+  setText(caption);
+  setAttribute(Qt::WA_UpdatesDisabled, false);
+  setAccessibleName(caption);
+  if (text_top() != old_top) {
+    update();
+  } else {
+    update(0, old_top + changed.top, width(), changed.bottom - changed.top);
+  }
+}
+
+// Where the text begins. Pixels.
+int label_view::text_top() const {
+  return label_.designed.centred ? std::max(0, (height() - lines_.height()) / 2) : 0;
 }
 
 void label_view::show_colours() {
   setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, label_.BackColor()));
 }
 
-void label_view::paintEvent(QPaintEvent* /*event*/) {
+void label_view::resizeEvent(QResizeEvent* /*event*/) { show_content(); }
+
+void label_view::paintEvent(QPaintEvent* event) {
   QStylePainter painter(this);
   const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
   painter.setPen(palette().color(group, QPalette::WindowText));
-  paint_wrapped(painter, rect(), text(), label_.designed.centred);
+  lines_.paint(painter, {0, text_top()}, event->rect());
   if (!focus_by_key_) return;
   QStyleOptionFocusRect option;
   option.initFrom(this);

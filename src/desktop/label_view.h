@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "desktop/control_view.h"
+#include "desktop/wrapped_text.h"
 #include "platform/label.h"
 
 namespace desktop {
@@ -16,6 +17,7 @@ class label_view : public QLabel, public control_view {
  protected:
   void show_content() override;
   void show_colours() override;
+  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -23,7 +25,10 @@ class label_view : public QLabel, public control_view {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  int text_top() const;
+
   platform::label& label_;
+  wrapped_text lines_;
   bool focus_by_key_ = false;
 };
 

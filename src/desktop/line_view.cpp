@@ -12,6 +12,8 @@ namespace desktop {
 line_view::line_view(platform::text_box& shown, QWidget* parent)
     : QLineEdit(parent), control_view(shown), box_(shown) {
   setFont(font_for(shown.designed.font));
+  // As desktop_style paints it. Nothing beneath has to be painted with it.
+  setAttribute(Qt::WA_OpaquePaintEvent);
   setReadOnly(shown.designed.locked);
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
   connect(this, &QLineEdit::textEdited, this, [this] { take_edit(); });

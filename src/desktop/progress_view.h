@@ -1,32 +1,28 @@
 #pragma once
 
 #include <QProgressBar>
-#include <algorithm>
 
 #include "desktop/control_view.h"
-#include "desktop/designed_look.h"
 #include "platform/progress_bar.h"
 
 namespace desktop {
 
-// Moves in steps of a pixel, so that a value that shows no difference paints nothing.
+// Moves in steps of a pixel, and paints the strip that it moved by: a job moves it thousands of
+// times.
 class progress_view : public QProgressBar, public control_view {
  public:
-  progress_view(platform::progress_bar& shown, QWidget* parent)
-      : QProgressBar(parent), control_view(shown), bar_(shown) {
-    setTextVisible(false);
-  }
+  progress_view(platform::progress_bar& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
  protected:
-  void show_content() override {
-    const int steps = std::max(1, pixels_across(bar_.Width()));
-    setRange(0, steps);
-    setValue(static_cast<int>(bar_.filled() * steps));
-  }
+  void show_content() override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
+  int filled_width() const;
+
   platform::progress_bar& bar_;
+  int painted_ = 0;  // pixels that are filled on the screen
 };
 
 }  // namespace desktop

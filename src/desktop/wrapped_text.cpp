@@ -1,53 +1,82 @@
 #include "desktop/wrapped_text.h"
 
 #include <QFontMetrics>
-#include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 
 namespace desktop {
 
-namespace {
-
-// Text in lines beneath one another.
-class text_block {
- public:
-  text_block(QString text, const QFont& font, Qt::Alignment alignment, int width)
-      : layout_(text.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)), font) {
-    QTextOption option(alignment);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout_.setTextOption(option);
-    lay_out(width, QFontMetrics(font).height());
-  }
-
-  int height() const { return height_; }
-  void paint(QPainter& painter, const QPoint& top_left) { layout_.draw(&painter, top_left); }
-
- private:
-  void lay_out(int width, int line_height) {
-    layout_.beginLayout();
-    for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
-      line.setLineWidth(width);
-      line.setPosition(QPointF(0, height_));
-      height_ += line_height;
+wrapped_text::band wrapped_text::set(const QString& text, const QFont& font,
+                                     Qt::Alignment alignment, int width) {
+  const int before = height();
+  const QStringList parts = text.split(QLatin1Char('\n'));
+  const bool as_before = width == width_ && alignment == alignment_ && font == font_;
+  if (!as_before) paragraphs_.clear();
+  font_ = font;
+  alignment_ = alignment;
+  width_ = width;
+  paragraphs_.resize(static_cast<std::size_t>(parts.size()));
+  band changed{before, 0};
+  int top = 0;
+  for (qsizetype i = 0; i < parts.size(); ++i) {
+    paragraph& p = paragraphs_[static_cast<std::size_t>(i)];
+    const int old_bottom = p.top + p.height;
+    const bool other = p.layout == nullptr || p.text != parts[i];
+    if (other) {
+      p.text = parts[i];
+      lay_out(p);
     }
-    layout_.endLayout();
+    if (other || p.top != top) {
+      changed.top = std::min({changed.top, p.top, top});
+      changed.bottom = std::max({changed.bottom, old_bottom, top + p.height});
+    }
+    p.top = top;
+    top += p.height;
   }
+  if (top < before || !as_before)
+    return {as_before ? std::min(changed.top, top) : 0, std::max(top, before)};
+  return changed;
+}
 
-  QTextLayout layout_;
-  int height_ = 0;
-};
+int wrapped_text::height() const {
+  return paragraphs_.empty() ? 0 : paragraphs_.back().top + paragraphs_.back().height;
+}
 
-}  // namespace
+void wrapped_text::lay_out(paragraph& p) const {
+  const int line_height = QFontMetrics(font_).height();
+  QTextOption option(alignment_);
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  p.layout = std::make_unique<QTextLayout>(p.text, font_);
+  p.layout->setCacheEnabled(true);
+  p.layout->setTextOption(option);
+  p.height = 0;
+  p.layout->beginLayout();
+  for (QTextLine line = p.layout->createLine(); line.isValid(); line = p.layout->createLine()) {
+    line.setLineWidth(width_);
+    line.setPosition(QPointF(0, p.height));
+    p.height += line_height;
+  }
+  p.layout->endLayout();
+}
 
-void paint_wrapped(QPainter& painter, const QRect& where, const QString& text, bool centred) {
-  text_block block(text, painter.font(), centred ? Qt::AlignHCenter : Qt::AlignLeft, where.width());
-  const int above = centred ? std::max(0, (where.height() - block.height()) / 2) : 0;
-  block.paint(painter, where.topLeft() + QPoint(0, above));
+void wrapped_text::paint(QPainter& painter, const QPoint& top_left, const QRect& dirty) const {
+  for (const paragraph& p : paragraphs_) {
+    const QRect place(top_left.x(), top_left.y() + p.top, width_, p.height);
+    if (place.intersects(dirty)) p.layout->draw(&painter, place.topLeft());
+  }
+}
+
+void paint_wrapped_in_middle(QPainter& painter, const QRect& where, const QString& text) {
+  wrapped_text block;
+  block.set(text, painter.font(), Qt::AlignHCenter, where.width());
+  const int above = std::max(0, (where.height() - block.height()) / 2);
+  block.paint(painter, where.topLeft() + QPoint(0, above), where);
 }
 
 int wrapped_height(const QString& text, const QFont& font, int width) {
-  return text_block(text, font, Qt::AlignLeft, width).height();
+  wrapped_text block;
+  block.set(text, font, Qt::AlignLeft, width);
+  return block.height();
 }
 
 }  // namespace desktop

@@ -1,0 +1,134 @@
+#!/usr/bin/env bash
+# bench/peers.sh [ROUNDS]: what the tool's jobs take beside what other programs take for the same
+# bytes. Both sides of a row run in turns, ROUNDS times each (11 if not told); a table of the medians
+# goes to the standard output. The data is made here, where no disk is asked if the system has such
+# a place; OSTRANE_BUILD is the folder to build in.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+rounds=${1:-11}
+build=${OSTRANE_BUILD:-build-bench}
+need_packages "${build_packages[@]}" "${bench_packages[@]}" "${virtual_display_packages[@]}"
+[ -n "${OSTRANE_ON_DISPLAY:-}" ] ||
+  OSTRANE_ON_DISPLAY=yes exec scripts/on_virtual_display.sh "bench/$(basename "$0")" "$@"
+! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+{
+  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_BENCH=ON -DOSTRANE_TESTS=OFF
+  cmake --build "$build"
+} >&2
+bin=$(cd "$build/bin" && pwd)
+
+data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-peers.XXXXXX")
+trap 'rm -rf "$data"' EXIT
+"$bin/bench_make_data" "$data"
+tar -C "$data/names/empty" -cf "$data/names.tar" .
+tar -C "$data/files" -cf "$data/files.tar" .
+
+# Each sets `took`, in microseconds.
+wall() {
+  local began=${EPOCHREALTIME/./}
+  "$@" >"$data/output"
+  took=$((${EPOCHREALTIME/./} - began))
+}
+told() { # The program tells what it took, and its memory in KB.
+  "$@" >"$data/output"
+  read -r took memory <"$data/output"
+}
+memory_of() {
+  told "$@"
+  took=$memory
+}
+
+in_new_folder() {
+  rm -rf "$data/archive/out" "$data/tar"
+  mkdir "$data/archive/out" "$data/tar"
+  "$@"
+}
+without_archive() {
+  rm -f "$data/files/OSTRANE.DAT" "$data/new.tar"
+  "$@"
+}
+
+list_names() { wall tar -tf "$data/names.tar"; }
+sort_and_comm() { wall bash -c "LC_ALL=C sort '$data/names/shuffled' | LC_ALL=C comm - '$data/names/in_order'"; }
+untar() { in_new_folder wall tar -C "$data/tar" -xf "$data/files.tar"; }
+tar_up() { without_archive wall tar -C "$data/files" -cf "$data/new.tar" .; }
+job() { wall "$bin/bench_job" "$1" "$data/$2"; }
+window() { told "$bin/bench_window" "$@"; }
+bare() { told "$bin/bench_bare_qt" "$@"; }
+
+median() { sort -n "$1" | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
+
+line() { # NAME OURS PEER GOAL UNIT
+  awk -v name="$1" -v ours="$2" -v peer="$3" -v goal="$4" -v unit="$5" 'BEGIN {
+    printf "| %s | %.2f %s | %.2f %s | %.2f | %s |\n", name, ours, unit, peer, unit, ours / peer, goal}'
+}
+
+row() { # NAME GOAL UNIT DIVISOR, then OURS... -- PEER...
+  local name=$1 goal=$2 unit=$3 divisor=$4 ours=() i
+  shift 4
+  while [ "$1" != -- ]; do
+    ours+=("$1")
+    shift
+  done
+  shift
+  : >"$data/ours"
+  : >"$data/peer"
+  for ((i = 0; i < rounds; i++)); do
+    "${ours[@]}" && echo "$took" >>"$data/ours"
+    "$@" && echo "$took" >>"$data/peer"
+  done
+  line "$name" "$(median "$data/ours" | awk "{print \$1 / $divisor}")" \
+    "$(median "$data/peer" | awk "{print \$1 / $divisor}")" "$goal" "$unit"
+}
+
+heading() {
+  printf '| Work | Tool | Peer | Ratio | Goal |\n|---|--:|--:|--:|---|\n'
+}
+
+programs() {
+  row 'index of 32,768 records; `tar -tf`' 0.3 ms 1000 job index names -- list_names
+  row 'compare 32,767 names; `sort` and `comm`' 1.0 ms 1000 job compare names -- sort_and_comm
+  row 'extract 4,000 files, 64 MB; `tar -xf`' 1.0 ms 1000 in_new_folder job extract archive -- untar
+  row 'build from the same; `tar -cf`' 1.0 ms 1000 without_archive job build files -- tar_up
+}
+
+windows() { # PLATFORM
+  local on=$1
+  row "series of 300 icons, $on; painted once" 3 ms 1000 window icons "$data/icons" 300 -- bare icons 300
+  row "the same; painted one by one, $on" '' ms 1000 window icons "$data/icons" 300 -- bare refreshes 300
+  row "series of 999 icons, $on; of 500" 2.2 ms 1000 window icons "$data/icons" 999 -- \
+    window icons "$data/icons" 500
+  row "32 KB of text, $on; \`setPlainText\`" 1.5 ms 1000 window text "$data/icons" -- \
+    bare text "$data/icons/long.txt"
+  row "start to window, $on; empty window" 1.3 ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
+    wall "$bin/bench_bare_qt" start
+  row "memory then, $on; empty window" 1.5 MB 1024 memory_of "$bin/bench_window" start "$data/icons" -- \
+    memory_of "$bin/bench_bare_qt" start
+  row "extract, with the window, $on; \`tar -xf\`" 3 ms 1000 \
+    in_new_folder window extract "$data/archive" -- untar
+  row "build, with the window, $on; \`tar -cf\`" 3 ms 1000 \
+    without_archive window build "$data/files" -- tar_up
+}
+
+in_process() {
+  "$bin/ostrane_bench" --benchmark_format=csv --benchmark_repetitions="$rounds" \
+    --benchmark_enable_random_interleaving=true --benchmark_min_time=0.05 \
+    --benchmark_filter='index|fread|decode|libpng|bare|memset|series' 2>"$data/complaints" |
+    tr -d '"' | awk -F, '$1 ~ /_median$/ {sub("_median", "", $1); print $1, $3 / 1000}' >"$data/in_process"
+  of() { awk -v name="$1" '$1 == name {print $2}' "$data/in_process"; }
+  between() { line "$1" "$(of "$2")" "$(of "$3")" "$4" ms; }
+  between 'index of 32,768 records; `fread` and splitting' read_index_into_list fread_and_split 3
+  between '5,000 icons from the file; libpng' decode_icons_from_file libpng_from_file 0.25
+  between 'their streams alone; `memset`' decode_streams_in_memory memset_of_the_pixels 8
+  between 'the same; a bare loop' decode_streams_in_memory bare_loop_over_streams ''
+  between 'series of 999 icons without a screen; of 500' draw_series/999 draw_series/500 2.2
+  printf '| series of 300 icons without a screen | %.2f ms | | | 30 ms |\n' "$(of draw_series/300)"
+}
+
+heading
+in_process
+programs
+QT_QPA_PLATFORM=offscreen windows offscreen
+QT_QPA_PLATFORM=xcb windows Xvfb
