@@ -16,8 +16,8 @@ class places_test : public tool_test {
  protected:
   // What each command that reads or writes says, in a tool with an archive of one entry open, when
   // `spoil` has changed what is on the disk behind its back.
-  template <typename Spoil>
-  texts told_by_each_command(const Spoil& spoil) {
+  texts told_by_each_command(const std::function<void()>& spoil,
+                             const std::function<void()>& restore) {
     const std::pair<std::function<void()>, std::function<void()>> commands[] = {
         {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
         {[] {}, [&] { click_row("A.TXT"); }},
@@ -42,6 +42,13 @@ class places_test : public tool_test {
     }
     return told;
   }
+  // Puts what `make` makes in the place of each file.
+  void replace_all(const std::function<void(const fs::path&)>& make) const {
+    for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
+      fs::remove(place("D:\\x") / name);
+      make(place("D:\\x") / name);
+    }
+  }
   // What they say if that is the reason for which nothing can be opened.
   static texts expected(const std::string& reason) {
     const std::string cannot = " cannot be opened: " + reason + ".";
@@ -52,59 +59,49 @@ class places_test : public tool_test {
             "The list of files was not saved. shplist.txt" + cannot,
             "D:\\x\\list.txt" + cannot + " Nothing was compared."};
   }
-
-  std::function<void()> restore = [] {};
-  const std::string not_found = "D:\\x\\ostrane.dat is not found";
 };
 
-// Every command names the place and says why it cannot do its work, and nothing waits.
-TEST_F(places_test, EveryCommandTellsOfADriveThatWentAway) {
+// Every command names the place and says why it cannot do its work. One that waits, for the other
+// end of a pipe, is ended by the alarm.
+TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
+  const fs::path drive = root / "d";
   const fs::path away = root / "away";
-  restore = [&] { fs::rename(away, root / "d"); };
-  texts told = expected("it is not there");
-  told[0] = not_found;
-  told[2] = "The folder D:\\x\\ is not there. Nothing was extracted.";
-  EXPECT_EQ(told_by_each_command([&] { fs::rename(root / "d", away); }), told);
-}
-
-TEST_F(places_test, EveryCommandTellsOfAFolderWithoutPermission) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can make folders of another user";
+  const std::string missing = "D:\\x\\ostrane.dat is not found";
+  const std::string no_folder = "The folder D:\\x\\ is not there. Nothing was extracted.";
+  const auto nothing = [] {};
+  const auto forbid = [&] { fs::permissions(drive / "x", fs::perms::none); };
+  const auto allow = [&] { fs::permissions(drive / "x", fs::perms::all); };
+  const auto make_folder = [](const fs::path& p) { fs::create_directory(p); };
+  const auto make_pipe = [](const fs::path& p) { mkfifo(p.c_str(), 0600); };
+  const auto link_device = [](const fs::path& p) { fs::create_symlink("/dev/zero", p); };
+  const struct {
+    const char* reason;
+    std::string opening, extracting;  // what these say instead
+    std::function<void()> spoil, restore;
+  } cases[] = {
+      {"it is not there", missing, no_folder, [&] { fs::rename(drive, away); },
+       [&] { fs::rename(away, drive); }},
+      {"access is not allowed", missing, "", forbid, allow},
+      {"it is a folder", missing, "", [&] { replace_all(make_folder); }, nothing},
+      {"access is not allowed", "", "", [&] { replace_all(make_pipe); }, nothing},
+      {"access is not allowed", "", "", [&] { replace_all(link_device); }, nothing},
+  };
   const int end = end_of(begin_process([&] {
-    fs::permissions(root, fs::perms::all);
-    for (const char* drive : {"c", "d", "c/program"}) fs::permissions(root / drive, fs::perms::all);
-    if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) _exit(not_possible);
-    restore = [&] { fs::permissions(place("D:\\x"), fs::perms::all); };
-    texts told = expected("access is not allowed");
-    told[0] = not_found;
-    EXPECT_EQ(told_by_each_command([&] { fs::permissions(place("D:\\x"), fs::perms::none); }),
-              told);
+    alarm(60);
+    for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
+    // What root may do is not forbidden by a folder.
+    const bool root_left =
+        geteuid() != 0 || (setgroups(0, nullptr) == 0 && setgid(65534) == 0 && setuid(65534) == 0);
+    if (!root_left) _exit(not_possible);
+    for (const auto& c : cases) {
+      texts told = expected(c.reason);
+      if (!c.opening.empty()) told[0] = c.opening;
+      if (!c.extracting.empty()) told[2] = c.extracting;
+      EXPECT_EQ(told_by_each_command(c.spoil, c.restore), told);
+    }
   }));
   if (end == not_possible) GTEST_SKIP() << "no other user can be taken on here";
   EXPECT_EQ(end, 0);
-}
-
-// A command that waits for the other end of a pipe is ended by the alarm.
-TEST_F(places_test, EveryCommandTellsOfWhatIsNoNormalFile) {
-  const std::tuple<const char*, std::string, std::function<void(const fs::path&)>> kinds[] = {
-      {"it is a folder", not_found, [](const fs::path& p) { fs::create_directory(p); }},
-      {"access is not allowed", "", [](const fs::path& p) { mkfifo(p.c_str(), 0600); }},
-      {"access is not allowed", "", [](const fs::path& p) { fs::create_symlink("/dev/zero", p); }},
-  };
-  for (const auto& [reason, told_of_archive, make] : kinds) {
-    texts told = expected(reason);
-    if (!told_of_archive.empty()) told[0] = told_of_archive;
-    const auto replace_all = [&, &make = make] {
-      for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
-        fs::remove(place("D:\\x") / name);
-        make(place("D:\\x") / name);
-      }
-    };
-    const pid_t child = begin_process([&] {
-      alarm(30);
-      EXPECT_EQ(told_by_each_command(replace_all), told);
-    });
-    EXPECT_EQ(end_of(child), 0) << reason;
-  }
 }
 
 // An archive behind a link is read; a build takes the link's place and leaves the archive alone.
@@ -149,12 +146,10 @@ TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
     while (count > left) fs::remove(name(--count));
     begin();
     build_in();
-    EXPECT_EQ(new_messages(),
-              texts{left == most_files
-                        ? "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat"
-                        : "There are " + std::to_string(left) +
-                              " files in C:\\work. An archive "
-                              "holds at most 32766. No new archive was made."});
+    const std::string refusal = "There are " + std::to_string(left) +
+                                " files in C:\\work. An archive holds at most 32766. No new "
+                                "archive was made.";
+    EXPECT_EQ(new_messages().front() == refusal, left > most_files) << left;
   }
   open_archive("C:\\work");
   EXPECT_EQ(Form1.List1.ListCount(), 32767);
@@ -168,7 +163,7 @@ TEST(released_program, StopsBeforeItLeavesItsMemory) {
   EXPECT_DEATH(static_cast<void>(numbers[outside]), "Assertion");
   char buffer[3];
   outside = 4;
-  EXPECT_DEATH(std::memset(buffer, 0, outside), "buffer overflow");
+  EXPECT_DEATH(std::memset(buffer, 0, outside), "buffer.overflow");
 }
 #endif
 
