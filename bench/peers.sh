@@ -14,7 +14,7 @@ need_packages "${build_packages[@]}" "${bench_packages[@]}" "${virtual_display_p
   OSTRANE_ON_DISPLAY=yes exec scripts/on_virtual_display.sh "bench/$(basename "$0")" "$@"
 ! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 {
-  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_BENCH=ON -DOSTRANE_TESTS=OFF
+  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_BENCH=ON
   cmake --build "$build"
 } >&2
 bin=$(cd "$build/bin" && pwd)

@@ -53,14 +53,13 @@ void drop_half_written(const std::string& path, bool is_new) {
 
 // Gives why the entry was not written whole, or nothing. Throws file_error if the disk is full.
 std::string write_entry(extraction& job, const std::string& path, std::int32_t entry_size) {
-  const bool is_new = !platform::file_exists(path);
-  if (!is_new && platform::is_same_file(path, tool_state.archive_path_copy)) {
-    return "it would be written over the open archive";
-  }
-  bool opened = false;
+  bool is_new = false;
   try {
-    file_6.open_to_write(path);
-    opened = true;
+    is_new = file_6.open_to_write(path);
+    if (!is_new && platform::is_same_file(path, tool_state.archive_path_copy)) {
+      file_6.abandon();
+      return "it would be written over the open archive";
+    }
     const std::int32_t copied = chunk_ladder(file_5, file_6, entry_size, job.small_block_bytes);
     if (copied == entry_size) {
       file_6.close();
@@ -69,7 +68,7 @@ std::string write_entry(extraction& job, const std::string& path, std::int32_t e
     drop_half_written(path, is_new);
     return "the archive ends before it does";
   } catch (const platform::file_error& error) {
-    drop_half_written(path, opened && is_new);
+    drop_half_written(path, is_new);
     if (error.number == platform::file_error_number::disk_full) throw;
     return error.text;
   }

@@ -10,28 +10,33 @@ namespace ostrane {
 
 namespace {
 
-// Where the walk stands: at item i of `List1` and at line j of the shiplist.
+// Where the walk stands, at item i of `List1` and at line j of the shiplist, and the names there.
 struct walk_position {
-  std::int32_t i = 0;
-  std::int32_t j = 0;
+  std::int32_t i = -1;
+  std::int32_t j = -1;
+  std::string list_key;
+  std::string ship_key;
 };
 
-std::string list_key(std::int32_t i) { return compare_key(Form1.List1.List(i)); }
+void step_list(walk_position& at) { at.list_key = compare_key(Form1.List1.List(++at.i)); }
 
 // A line behind the final one is empty.
-std::string ship_key(std::int32_t j) {
-  const auto at = static_cast<std::size_t>(j);
-  return at < tool_state.shiplist_lines.size() ? compare_key(tool_state.shiplist_lines[at]) : "";
+void step_ship(walk_position& at) {
+  const auto line = static_cast<std::size_t>(++at.j);
+  const bool there = line < tool_state.shiplist_lines.size();
+  at.ship_key = there ? compare_key(tool_state.shiplist_lines[line]) : "";
 }
 
-void write_list_row(platform::text_writer& report, std::int32_t i) {
-  const std::string number = std::to_string(i);
+void write_list_row(platform::text_writer& report, walk_position& at) {
+  const std::string number = std::to_string(at.i);
   const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
-  report.write_line(indent + number + " " + list_key(i));
+  report.write_line(indent + number + " " + at.list_key);
+  step_list(at);
 }
 
-void write_ship_row(platform::text_writer& report, std::int32_t j) {
-  report.write_line(std::string(20, ' ') + ship_key(j));
+void write_ship_row(platform::text_writer& report, walk_position& at) {
+  report.write_line(std::string(20, ' ') + at.ship_key);
+  step_ship(at);
 }
 
 void write_head(platform::text_writer& report) {
@@ -53,28 +58,26 @@ void write_head(platform::text_writer& report) {
 // Writes the names that are less than the other side's present one, first of the archive, then of
 // the shiplist. The bound of the first run takes in the end record.
 void write_lesser_names(platform::text_writer& report, walk_position& at) {
-  while (at.i < tool_state.record_count && list_key(at.i) < ship_key(at.j)) {
-    write_list_row(report, at.i++);
-  }
-  while (at.j < tool_state.shiplist_last && list_key(at.i) > ship_key(at.j)) {
-    write_ship_row(report, at.j++);
-  }
+  while (at.i < tool_state.record_count && at.list_key < at.ship_key) write_list_row(report, at);
+  while (at.j < tool_state.shiplist_last && at.list_key > at.ship_key) write_ship_row(report, at);
 }
 
 void walk(platform::text_writer& report) {
   walk_position at;
   tool_state.shiplist_walk_done = flag_false;
+  step_list(at);
+  step_ship(at);
   while (tool_state.shiplist_walk_done == flag_false) {
     write_lesser_names(report, at);
     // Both sides step on, whether or not their names agree now.
-    ++at.i;
-    ++at.j;
+    step_list(at);
+    step_ship(at);
     if (at.i >= tool_state.record_count - 1 || at.j >= tool_state.shiplist_last) {
       tool_state.shiplist_walk_done = flag_true;
     }
   }
-  while (at.i < tool_state.record_count - 1) write_list_row(report, at.i++);
-  while (at.j < tool_state.shiplist_last) write_ship_row(report, at.j++);
+  while (at.i < tool_state.record_count - 1) write_list_row(report, at);
+  while (at.j < tool_state.shiplist_last) write_ship_row(report, at);
 }
 
 }  // namespace

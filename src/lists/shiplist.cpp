@@ -13,11 +13,6 @@ namespace {
 
 constexpr std::size_t most_lines = 32768;
 
-struct keyed_line {
-  std::string key;
-  std::string line;
-};
-
 }  // namespace
 
 void read_shiplist(const std::string& path) {
@@ -39,21 +34,25 @@ void read_shiplist(const std::string& path) {
 // stand the wrong way round, leave the same lines: of equal keys the one that stood first.
 void sort_shiplist() {
   std::vector<std::string>& lines = tool_state.shiplist_lines;
-  std::vector<keyed_line> names;
-  for (std::int16_t i = 0; i < tool_state.shiplist_last; ++i) {
-    std::string& line = lines[static_cast<std::size_t>(i)];
-    names.push_back({compare_key(line), std::move(line)});
+  const auto count = static_cast<std::size_t>(tool_state.shiplist_last);
+  std::vector<std::string> keys(count);
+  std::vector<std::size_t> order(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    keys[i] = compare_key(lines[i]);
+    order[i] = i;
   }
-  std::stable_sort(names.begin(), names.end(),
-                   [](const keyed_line& a, const keyed_line& b) { return a.key < b.key; });
-  const auto behind =
-      std::unique(names.begin(), names.end(),
-                  [](const keyed_line& a, const keyed_line& b) { return a.key == b.key; });
-  std::string final_line = std::move(lines.back());
-  lines.clear();
-  for (auto at = names.begin(); at != behind; ++at) lines.push_back(std::move(at->line));
-  tool_state.shiplist_last = static_cast<std::int16_t>(lines.size());
-  lines.push_back(std::move(final_line));
+  std::sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) {
+    const int difference = keys[a].compare(keys[b]);
+    return difference == 0 ? a < b : difference < 0;
+  });
+  const auto same = [&keys](std::size_t a, std::size_t b) { return keys[a] == keys[b]; };
+  order.erase(std::unique(order.begin(), order.end(), same), order.end());
+  std::vector<std::string> sorted;
+  sorted.reserve(order.size() + 1);
+  for (const std::size_t i : order) sorted.push_back(std::move(lines[i]));
+  sorted.push_back(std::move(lines.back()));
+  lines = std::move(sorted);
+  tool_state.shiplist_last = static_cast<std::int16_t>(order.size());
 }
 
 }  // namespace ostrane

@@ -1,6 +1,7 @@
 #include "platform/binary_file.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 
 #include "platform/case_blind.h"
@@ -25,10 +26,12 @@ void binary_file::open_to_read(const std::string& path) {
   take(file_calls::open_to_read(system_path(path)), path, false);
 }
 
-void binary_file::open_to_write(const std::string& path) {
+bool binary_file::open_to_write(const std::string& path) {
   const std::filesystem::path place = system_path(path);
-  take(file_calls::open_to_write(place), path, true);
-  remember_file(place);
+  const int made = file_calls::open_new(place);
+  take(made == -EEXIST ? file_calls::open_to_write(place) : made, path, true);
+  if (made >= 0) remember_file(place);
+  return made >= 0;
 }
 
 void binary_file::take_written(int file, const std::string& path) { take(file, path, true); }

@@ -20,8 +20,9 @@ class binary_file {
   ~binary_file() { abandon(); }
 
   void open_to_read(const std::string& path);
-  // Makes a missing file; one that is there is written over from its first byte and not emptied.
-  void open_to_write(const std::string& path);
+  // Makes a missing file and gives true; one that is there is written over from its first byte and
+  // not emptied.
+  bool open_to_write(const std::string& path);
 
   // Takes a file that was opened for writing through file_calls; `path` is for messages.
   void take_written(int file, const std::string& path);

@@ -1,7 +1,7 @@
 #include "platform/case_blind.h"
 
-#include <map>
 #include <unordered_map>
+#include <utility>
 
 #include "platform/code_page.h"
 #include "platform/system_name.h"
@@ -12,24 +12,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The names of a folder by their upper-case form.
-using folded_names = std::unordered_map<std::string, fs::path::string_type>;
-std::map<fs::path, folded_names> remembered;
+// A few names are looked up one by one; for more of them the whole folder is read, once.
+constexpr int asked_one_by_one = 8;
 
-const folded_names& names_in(const fs::path& folder) {
-  const auto known = remembered.find(folder);
-  if (known != remembered.end()) return known->second;
-  folded_names& names = remembered[folder];
+struct remembered_folder {
+  int asked = 0;
+  bool is_read = false;
+  // The names in it by their upper-case form.
+  std::unordered_map<std::string, fs::path::string_type> names;
+};
+
+std::unordered_map<fs::path::string_type, remembered_folder> remembered;
+std::unordered_map<std::string, fs::path> remembered_places;
+
+void read_names(remembered_folder& known, const fs::path& folder) {
+  if (std::exchange(known.is_read, true)) return;
   std::error_code failed;
   for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
     const fs::path::string_type name = at->path().filename().native();
     const std::optional<std::string> text = name_as_text(at->path());
     if (!text) continue;
     // Of several names that differ in case only the first by code value stands for all.
-    const auto [entry, is_new] = names.emplace(upper_case(*text), name);
+    const auto [entry, is_new] = known.names.emplace(upper_case(*text), name);
     if (!is_new && name < entry->second) entry->second = name;
   }
-  return names;
 }
 
 bool is_there(const fs::path& place) {
@@ -40,23 +46,40 @@ bool is_there(const fs::path& place) {
 }  // namespace
 
 fs::path find_in_folder(const fs::path& folder, const std::string& name) {
-  fs::path exact = folder / system_name(name);
-  if (is_there(exact)) return exact;
-  const folded_names& names = names_in(folder);
-  const auto known = names.find(upper_case(name));
-  if (known == names.end()) return exact;
-  fs::path other_case = folder / known->second;
+  const fs::path as_given = system_name(name);
+  fs::path exact = folder / as_given;
+  remembered_folder& known = remembered[folder.native()];
+  const bool one_by_one = !known.is_read && ++known.asked <= asked_one_by_one;
+  if (one_by_one && is_there(exact)) return exact;
+  read_names(known, folder);
+  const auto found = known.names.find(upper_case(name));
+  if (found == known.names.end() || found->second == as_given.native() || is_there(exact)) {
+    return exact;
+  }
+  fs::path other_case = folder / found->second;
   return is_there(other_case) ? other_case : exact;
 }
 
+const fs::path* remembered_place(const std::string& folder) {
+  const auto known = remembered_places.find(folder);
+  return known == remembered_places.end() ? nullptr : &known->second;
+}
+
+const fs::path& remember_place(const std::string& folder, fs::path place) {
+  return remembered_places.insert_or_assign(folder, std::move(place)).first->second;
+}
+
 void remember_file(const fs::path& place) {
-  const auto known = remembered.find(place.parent_path());
-  if (known == remembered.end()) return;
+  const auto known = remembered.find(place.parent_path().native());
+  if (known == remembered.end() || !known->second.is_read) return;
   if (const std::optional<std::string> text = name_as_text(place)) {
-    known->second.emplace(upper_case(*text), place.filename().native());
+    known->second.names.emplace(upper_case(*text), place.filename().native());
   }
 }
 
-void forget_folders() { remembered.clear(); }
+void forget_folders() {
+  remembered.clear();
+  remembered_places.clear();
+}
 
 }  // namespace platform

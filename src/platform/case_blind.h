@@ -9,6 +9,10 @@ namespace platform {
 // only, else the name as given. A folder is read once and then remembered until forget_folders.
 std::filesystem::path find_in_folder(const std::filesystem::path& folder, const std::string& name);
 
+// The place of a folder of the tool that was looked up before, or null; and keeping it.
+const std::filesystem::path* remembered_place(const std::string& folder);
+const std::filesystem::path& remember_place(const std::string& folder, std::filesystem::path place);
+
 // A file has come into being at `place`; what is remembered of its folder takes it in.
 void remember_file(const std::filesystem::path& place);
 

@@ -89,7 +89,7 @@ void create_folder(const std::string& path) {
     failed = std::make_error_code(std::errc::file_exists);
   }
   if (failed) fail(path, failed, " cannot be made: ");
-  remember_file(place);
+  forget_folders();
 }
 
 folder_contents list_folder(const std::string& path) {

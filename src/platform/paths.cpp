@@ -52,6 +52,19 @@ std::vector<std::string> names_of(const std::string& whole_path) {
   return names;
 }
 
+fs::path found_in(const fs::path& folder, const std::string& name, const std::string& whole) {
+  if (drives_are_the_systems && name.find(':') != name.npos) say_that_it_is_no_name(whole);
+  return find_in_folder(folder, name);
+}
+
+fs::path place_of_folder(const std::string& whole) {
+  const drive* on = find_drive(whole[0]);
+  if (on == nullptr) say_that_there_is_no_drive(whole);
+  fs::path place = on->folder;
+  for (const std::string& name : names_of(whole)) place = found_in(place, name, whole);
+  return place;
+}
+
 // How deep `place` lies in `folder`; nothing if it lies elsewhere.
 std::optional<fs::path> inside(const fs::path& place, const fs::path& folder) {
   const fs::path rest = place.lexically_relative(folder);
@@ -75,7 +88,6 @@ char drive_letter(std::string_view path) {
 }
 
 std::string full_path(const std::string& path) {
-  const std::string current = current_folder();
   std::string_view rest = path;
   char letter = 0;
   if (path.size() > 1 && path[1] == ':') {
@@ -84,10 +96,13 @@ std::string full_path(const std::string& path) {
     rest.remove_prefix(2);
     if (is_drive_text(path)) rest = {};
   }
-  if (letter == 0) letter = current[0];
   std::vector<std::string> names;
   const bool from_root = !rest.empty() && is_separator(rest.front());
-  if (!from_root && letter == current[0]) names = names_of(current);
+  if (letter == 0 || !from_root) {
+    const std::string current = current_folder();
+    if (letter == 0) letter = current[0];
+    if (!from_root && letter == current[0]) names = names_of(current);
+  }
   walk(names, rest);
   std::string whole = {letter, ':', '\\'};
   for (const std::string& name : names) {
@@ -99,14 +114,12 @@ std::string full_path(const std::string& path) {
 
 fs::path system_path(const std::string& path) {
   const std::string whole = full_path(path);
-  const drive* on = find_drive(whole[0]);
-  if (on == nullptr) say_that_there_is_no_drive(whole);
-  fs::path place = on->folder;
-  for (const std::string& name : names_of(whole)) {
-    if (drives_are_the_systems && name.find(':') != name.npos) say_that_it_is_no_name(whole);
-    place = find_in_folder(place, name);
-  }
-  return place;
+  const std::size_t name_at = whole.rfind('\\') + 1;
+  const std::string name = whole.substr(name_at);
+  const std::string folder = whole.substr(0, name_at);
+  const fs::path* place = remembered_place(folder);
+  if (place == nullptr) place = &remember_place(folder, place_of_folder(folder));
+  return name.empty() ? *place : found_in(*place, name, whole);
 }
 
 std::string current_folder() {
