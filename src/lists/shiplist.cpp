@@ -13,6 +13,21 @@ namespace {
 
 constexpr std::size_t most_lines = 32768;
 
+struct place_in_order {
+  std::uint64_t first_characters = 0;
+  std::size_t line = 0;
+};
+
+// As a number, which is less where the characters are: most keys are told apart without a look at
+// them.
+std::uint64_t first_characters(const std::string& key) {
+  std::uint64_t number = 0;
+  for (std::size_t i = 0; i < sizeof(number); ++i) {
+    number = number << 8U | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+  }
+  return number;
+}
+
 }  // namespace
 
 void read_shiplist(const std::string& path) {
@@ -36,20 +51,23 @@ void sort_shiplist() {
   std::vector<std::string>& lines = tool_state.shiplist_lines;
   const auto count = static_cast<std::size_t>(tool_state.shiplist_last);
   std::vector<std::string> keys(count);
-  std::vector<std::size_t> order(count);
+  std::vector<place_in_order> order(count);
   for (std::size_t i = 0; i < count; ++i) {
     keys[i] = compare_key(lines[i]);
-    order[i] = i;
+    order[i] = {first_characters(keys[i]), i};
   }
-  std::sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) {
-    const int difference = keys[a].compare(keys[b]);
-    return difference == 0 ? a < b : difference < 0;
+  std::sort(order.begin(), order.end(), [&keys](const place_in_order& a, const place_in_order& b) {
+    if (a.first_characters != b.first_characters) return a.first_characters < b.first_characters;
+    const int difference = keys[a.line].compare(keys[b.line]);
+    return difference == 0 ? a.line < b.line : difference < 0;
   });
-  const auto same = [&keys](std::size_t a, std::size_t b) { return keys[a] == keys[b]; };
+  const auto same = [&keys](const place_in_order& a, const place_in_order& b) {
+    return keys[a.line] == keys[b.line];
+  };
   order.erase(std::unique(order.begin(), order.end(), same), order.end());
   std::vector<std::string> sorted;
   sorted.reserve(order.size() + 1);
-  for (const std::size_t i : order) sorted.push_back(std::move(lines[i]));
+  for (const place_in_order& at : order) sorted.push_back(std::move(lines[at.line]));
   sorted.push_back(std::move(lines.back()));
   lines = std::move(sorted);
   tool_state.shiplist_last = static_cast<std::int16_t>(order.size());

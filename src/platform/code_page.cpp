@@ -68,10 +68,25 @@ void append_utf8(std::string& to, char32_t point) {
 }
 
 // The capital letter of a small one and the reverse, as distances in the code page.
-bool is_latin_small(unsigned char c) { return c >= 0xE0 && c != 0xF7 && c != 0xFF; }
-bool is_latin_capital(unsigned char c) { return c >= 0xC0 && c <= 0xDE && c != 0xD7; }
-bool is_carried_small(unsigned char c) { return c == 0x9A || c == 0x9C || c == 0x9E; }
-bool is_carried_capital(unsigned char c) { return c == 0x8A || c == 0x8C || c == 0x8E; }
+constexpr bool is_latin_small(unsigned char c) { return c >= 0xE0 && c != 0xF7 && c != 0xFF; }
+constexpr bool is_latin_capital(unsigned char c) { return c >= 0xC0 && c <= 0xDE && c != 0xD7; }
+constexpr bool is_carried_small(unsigned char c) { return c == 0x9A || c == 0x9C || c == 0x9E; }
+constexpr bool is_carried_capital(unsigned char c) { return c == 0x8A || c == 0x8C || c == 0x8E; }
+
+constexpr char upper_form(unsigned char byte) {
+  if ((byte >= 'a' && byte <= 'z') || is_latin_small(byte)) return static_cast<char>(byte - 0x20);
+  if (is_carried_small(byte)) return static_cast<char>(byte - 0x10);
+  if (byte == 0xFF) return static_cast<char>(0x9F);
+  return static_cast<char>(byte);
+}
+
+constexpr std::array<char, 256> upper_forms = [] {
+  std::array<char, 256> forms = {};
+  for (std::size_t byte = 0; byte < forms.size(); ++byte) {
+    forms[byte] = upper_form(static_cast<unsigned char>(byte));
+  }
+  return forms;
+}();
 
 }  // namespace
 
@@ -99,13 +114,7 @@ std::string from_utf8_or_marks(std::string_view utf8) {
   return text;
 }
 
-char upper_case(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  if ((byte >= 'a' && byte <= 'z') || is_latin_small(byte)) return static_cast<char>(byte - 0x20);
-  if (is_carried_small(byte)) return static_cast<char>(byte - 0x10);
-  if (byte == 0xFF) return static_cast<char>(0x9F);
-  return c;
-}
+char upper_case(char c) { return upper_forms[static_cast<unsigned char>(c)]; }
 
 std::string upper_case(std::string_view text) {
   std::string folded(text);

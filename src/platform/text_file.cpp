@@ -1,5 +1,7 @@
 #include "platform/text_file.h"
 
+#include <algorithm>
+
 #include "platform/paths.h"
 
 namespace platform {
@@ -34,15 +36,14 @@ bool text_reader::at_end() { return position_ == buffer_.size() && !fill(); }
 std::string text_reader::read_line() {
   std::string line;
   while (!at_end()) {
-    const std::size_t end = buffer_.find_first_of("\r\n", position_);
-    if (end == std::string::npos) {
-      line.append(buffer_, position_);
-      position_ = buffer_.size();
-      continue;
-    }
-    line.append(buffer_, position_, end - position_);
-    position_ = end + 1;
-    if (buffer_[end] == '\r' && !at_end() && buffer_[position_] == '\n') ++position_;
+    const std::string_view rest = std::string_view(buffer_).substr(position_);
+    const auto ends_line = [](char c) { return c == '\r' || c == '\n'; };
+    const auto at = std::find_if(rest.begin(), rest.end(), ends_line);
+    line.append(rest.begin(), at);
+    position_ += static_cast<std::size_t>(at - rest.begin());
+    if (at == rest.end()) continue;
+    const char end = buffer_[position_++];
+    if (end == '\r' && !at_end() && buffer_[position_] == '\n') ++position_;
     break;
   }
   return line;
