@@ -21,7 +21,7 @@ void compare_with_shuffled_shiplist(benchmark::State& state) {
   bench::write_archive(folder, entries);
   bench::begin_tool_on(folder);
   bench::open_archive("C:\\");
-  for (auto _ : state) bench::compare_with("ships.txt");
+  for (auto _ : state) bench::compare_with("C:\\", "ships.txt");
   bench::expect_no_complaint();
 }
 BENCHMARK(compare_with_shuffled_shiplist)->Unit(benchmark::kMicrosecond);

@@ -13,14 +13,15 @@ namespace {
 using namespace ostrane;
 
 void run(const std::string& job, const std::filesystem::path& folder) {
-  bench::begin_tool_on(folder);
+  bench::begin_tool_on(folder.parent_path());
+  const std::string path = "C:\\" + folder.filename().string();
   if (job == "build") {
-    bench::build_from("C:\\");
+    bench::build_from(path);
   } else {
-    bench::open_archive("C:\\");
+    bench::open_archive(path);
   }
-  if (job == "compare") bench::compare_with("shiplist.txt");
-  if (job == "extract") bench::extract_into("C:\\out");
+  if (job == "compare") bench::compare_with(path, "shiplist.txt");
+  if (job == "extract") bench::extract_into(path + "\\out");
   bench::expect_no_complaint();
 }
 

@@ -37,9 +37,12 @@ void build_from(const std::string& folder) {
   user::click(Form5.Command1);
 }
 
-void compare_with(const std::string& file_name) {
+void compare_with(const std::string& folder, const std::string& file_name) {
   user::click(Form1.mnu_read_filelist);
-  platform::run_event([&] { Form6.Text1.Text = file_name; });
+  platform::run_event([&] {
+    Form6.Dir1.Path = folder;
+    Form6.Text1.Text = file_name;
+  });
   user::click(Form6.Command1);
 }
 

@@ -15,8 +15,8 @@ void open_archive(const std::string& folder);
 void extract_into(const std::string& folder);
 // From a folder of the tool, through Form5.
 void build_from(const std::string& folder);
-// With a file in the root of the drive, through Form6.
-void compare_with(const std::string& file_name);
+// With a file in a folder of the tool, through Form6.
+void compare_with(const std::string& folder, const std::string& file_name);
 // Room for icons, and as many of them in a series as told. Pixels.
 void widen_window(int width, int height, int max_icons);
 

@@ -8,6 +8,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -43,19 +44,19 @@ void click(const std::string& name) {
   }
 }
 
-void prepare(const std::string& job) {
+void prepare(const std::string& job, const std::string& folder) {
   if (job == "start") return;
-  if (job != "build") bench::open_archive("C:\\");
+  if (job != "build") bench::open_archive(folder);
   if (job == "icons" || job == "text") bench::widen_window(1900, 1200, 999);
   if (job == "text") click("SHORT.TXT");
   settle();
 }
 
-void run(const std::string& job, const std::string& count) {
+void run(const std::string& job, const std::string& folder, const std::string& count) {
   if (job == "icons") click("I" + count + ".SHP");
   if (job == "text") click("LONG.TXT");
-  if (job == "extract") bench::extract_into("C:\\out");
-  if (job == "build") bench::build_from("C:\\");
+  if (job == "extract") bench::extract_into(folder + "\\out");
+  if (job == "build") bench::build_from(folder);
   // What the end of a job leaves to the event loop.
   QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents();
@@ -63,12 +64,12 @@ void run(const std::string& job, const std::string& count) {
 }
 
 [[noreturn]] void measure(desktop::qt_screen& shown, const std::string& job,
-                          const std::string& count) {
+                          const std::string& folder, const std::string& count) {
   bench::show_and_wait(*shown.window_of(Form1));
-  prepare(job);
+  prepare(job, folder);
   QElapsedTimer time;
   time.start();
-  if (job != "start") run(job, count);
+  if (job != "start") run(job, folder, count);
   const qint64 microseconds = time.nsecsElapsed() / 1000;
   bench::expect_no_complaint();
   std::cout << microseconds << ' ' << bench::peak_memory() << std::endl;
@@ -89,8 +90,11 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   screen shown;
   platform::attach_screen(&shown);
-  bench::begin_tool_on(argv[2]);
+  const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
+  bench::begin_tool_on(folder.parent_path());
   QCoreApplication::processEvents();
-  QTimer::singleShot(0, [&] { measure(shown, argv[1], argc > 3 ? argv[3] : ""); });
+  QTimer::singleShot(0, [&] {
+    measure(shown, argv[1], "C:\\" + folder.filename().string(), argc > 3 ? argv[3] : "");
+  });
   return QApplication::exec();
 }

@@ -80,7 +80,9 @@ int replace(const fs::path& file, const fs::path& target) {
   return made("replace", false, real::replace, file, target);
 }
 int flush_folder(const fs::path& at) { return made("flush_folder", false, real::flush_folder, at); }
-bool is_hidden(const fs::path& at) { return real::is_hidden(at); }
+int list(const fs::path& at, std::vector<platform::listed_entry>& found) {
+  return real::list(at, found);
+}
 int errno_number(const std::error_code& reason) { return real::errno_number(reason); }
 
 }  // namespace platform::file_calls

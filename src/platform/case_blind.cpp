@@ -2,8 +2,10 @@
 
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "platform/code_page.h"
+#include "platform/file_calls.h"
 #include "platform/system_name.h"
 
 namespace platform {
@@ -27,14 +29,14 @@ std::unordered_map<std::string, fs::path> remembered_places;
 
 void read_names(remembered_folder& known, const fs::path& folder) {
   if (std::exchange(known.is_read, true)) return;
-  std::error_code failed;
-  for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
-    const fs::path::string_type name = at->path().filename().native();
-    const std::optional<std::string> text = name_as_text(at->path());
+  std::vector<listed_entry> listed;
+  file_calls::list(folder, listed);
+  for (const listed_entry& found : listed) {
+    const std::optional<std::string> text = name_as_text(found.name);
     if (!text) continue;
     // Of several names that differ in case only the first by code value stands for all.
-    const auto [entry, is_new] = known.names.emplace(upper_case(*text), name);
-    if (!is_new && name < entry->second) entry->second = name;
+    const auto [entry, is_new] = known.names.emplace(upper_case(*text), found.name);
+    if (!is_new && found.name < entry->second) entry->second = found.name;
   }
 }
 
@@ -72,7 +74,7 @@ const fs::path& remember_place(const std::string& folder, fs::path place) {
 void remember_file(const fs::path& place) {
   const auto known = remembered.find(place.parent_path().native());
   if (known == remembered.end() || !known->second.is_read) return;
-  if (const std::optional<std::string> text = name_as_text(place)) {
+  if (const std::optional<std::string> text = name_as_text(place.filename().native())) {
     known->second.names.emplace(upper_case(*text), place.filename().native());
   }
 }

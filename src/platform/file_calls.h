@@ -5,8 +5,20 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "platform/file_error.h"
+
+namespace platform {
+
+struct listed_entry {
+  std::filesystem::path::string_type name;
+  bool is_hidden = false;  // the system does not list it by itself
+  bool is_folder = false;  // it or what it leads to, if it is a link
+  bool is_file = false;    // a normal one; so for a link too
+};
+
+}  // namespace platform
 
 // The few calls to the system through which all files are read and written; one file per system
 // carries them out. Each gives a negative number, an error of errno's numbering with its sign
@@ -37,8 +49,8 @@ int replace(const std::filesystem::path& file, const std::filesystem::path& targ
 // What was renamed, made or deleted in the folder outlives a loss of power.
 int flush_folder(const std::filesystem::path& folder);
 
-// True for a name that the system does not list by itself.
-bool is_hidden(const std::filesystem::path& place);
+// Puts what stands in the folder behind what was found before, in no order.
+int list(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 
 // The errno number of an error that the standard library gives.
 int errno_number(const std::error_code& reason);

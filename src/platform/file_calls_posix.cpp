@@ -1,9 +1,11 @@
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
+#include <string_view>
 
 #include "platform/file_calls.h"
 
@@ -22,6 +24,21 @@ int open_normal(const std::filesystem::path& place, int flags) {
   const int reason = S_ISDIR(facts.st_mode) ? EISDIR : EACCES;
   close(file);
   return -reason;
+}
+
+// Only a link, or an entry of a file system that tells no kinds, has to be looked at.
+listed_entry listed_as(const dirent& entry, int folder) {
+  listed_entry listed{.name = entry.d_name, .is_hidden = entry.d_name[0] == '.'};
+  if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) {
+    struct stat facts = {};
+    if (fstatat(folder, entry.d_name, &facts, 0) < 0) return listed;
+    listed.is_folder = S_ISDIR(facts.st_mode);
+    listed.is_file = S_ISREG(facts.st_mode);
+  } else {
+    listed.is_folder = entry.d_type == DT_DIR;
+    listed.is_file = entry.d_type == DT_REG;
+  }
+  return listed;
 }
 
 }  // namespace
@@ -81,8 +98,18 @@ int flush_folder(const std::filesystem::path& folder) {
   return flushed == -EINVAL ? 0 : flushed;
 }
 
-bool is_hidden(const std::filesystem::path& place) {
-  return place.filename().native().front() == '.';
+int list(const std::filesystem::path& folder, std::vector<listed_entry>& found) {
+  DIR* opened = opendir(folder.c_str());
+  if (opened == nullptr) return -errno;
+  errno = 0;
+  while (const dirent* entry = readdir(opened)) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") found.push_back(listed_as(*entry, dirfd(opened)));
+    errno = 0;
+  }
+  const int outcome = -errno;
+  closedir(opened);
+  return outcome;
 }
 
 int errno_number(const std::error_code& reason) { return reason.value(); }

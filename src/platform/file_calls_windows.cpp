@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <string_view>
+#include <utility>
 
 #include "platform/file_calls.h"
 
@@ -117,9 +118,18 @@ int replace(const fs::path& file, const fs::path& target) {
 // Renaming has written through already, and there is no call for a whole folder.
 int flush_folder(const fs::path& /*folder*/) { return 0; }
 
-bool is_hidden(const fs::path& place) {
-  return place.filename().native().front() == '.' ||
-         has_attribute(place, FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+int list(const fs::path& folder, std::vector<listed_entry>& found) {
+  std::error_code failed;
+  for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
+    std::error_code unknown;
+    listed_entry listed{.name = at->path().filename().native()};
+    listed.is_hidden = listed.name.front() == '.' ||
+                       has_attribute(at->path(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    listed.is_folder = at->is_directory(unknown);
+    listed.is_file = at->is_regular_file(unknown);
+    found.push_back(std::move(listed));
+  }
+  return failed ? -errno_number(failed) : 0;
 }
 
 int errno_number(const std::error_code& reason) {

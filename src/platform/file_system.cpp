@@ -32,15 +32,6 @@ fs::file_status status_of(const std::string& path) {
   }
 }
 
-// A name that can stand in a path of the tool, and that its folder does not hide.
-std::optional<std::string> listed_name(const fs::directory_entry& entry) {
-  std::optional<std::string> name = name_as_text(entry.path());
-  if (!name || name->find('\\') != name->npos || file_calls::is_hidden(entry.path())) {
-    return std::nullopt;
-  }
-  return name;
-}
-
 void sort_folded(std::vector<std::string>& names) {
   std::vector<std::pair<std::string, std::string>> keyed;
   keyed.reserve(names.size());
@@ -93,20 +84,17 @@ void create_folder(const std::string& path) {
 }
 
 folder_contents list_folder(const std::string& path) {
+  std::vector<listed_entry> listed;
+  const int failed = file_calls::list(system_path(path), listed);
+  if (failed < 0) fail(path, {-failed, std::generic_category()}, " cannot be read: ");
   folder_contents found;
-  std::error_code failed;
-  fs::directory_iterator at(system_path(path), failed);
-  for (; !failed && at != fs::directory_iterator(); at.increment(failed)) {
-    std::optional<std::string> name = listed_name(*at);
-    if (!name) continue;
-    std::error_code unknown;
-    if (at->is_directory(unknown)) {
-      found.folders.push_back(std::move(*name));
-    } else if (at->is_regular_file(unknown)) {
-      found.files.push_back(std::move(*name));
-    }
+  for (const listed_entry& entry : listed) {
+    if (entry.is_hidden || !(entry.is_folder || entry.is_file)) continue;
+    std::optional<std::string> name = name_as_text(entry.name);
+    // A name that cannot stand in a path of the tool is of no use to it.
+    if (!name || name->find('\\') != name->npos) continue;
+    (entry.is_folder ? found.folders : found.files).push_back(std::move(*name));
   }
-  if (failed) fail(path, failed, " cannot be read: ");
   sort_folded(found.folders);
   sort_folded(found.files);
   return found;

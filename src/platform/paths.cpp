@@ -144,7 +144,7 @@ std::string tool_path(const fs::path& place) {
   std::string whole = {nearest->letter, ':', '\\'};
   for (const fs::path& step : rest) {
     if (step == ".") continue;
-    const std::optional<std::string> name = name_as_text(step);
+    const std::optional<std::string> name = name_as_text(step.native());
     if (!name) return {};
     if (whole.back() != '\\') whole += '\\';
     whole += *name;

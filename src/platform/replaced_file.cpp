@@ -20,7 +20,7 @@ void require(int outcome, const std::string& path) {
 }
 
 std::string folded_name(const std::filesystem::path& place) {
-  const std::optional<std::string> name = name_as_text(place);
+  const std::optional<std::string> name = name_as_text(place.filename().native());
   return name ? upper_case(*name) : std::string();
 }
 

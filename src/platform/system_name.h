@@ -11,7 +11,7 @@ namespace platform {
 // Any text gives a name; whether the system takes it is seen when it is used.
 std::filesystem::path system_name(std::string_view text);
 
-// The last name of a place; nothing if it has no form in the code page.
-std::optional<std::string> name_as_text(const std::filesystem::path& place);
+// Nothing if the name has no form in the code page.
+std::optional<std::string> name_as_text(const std::filesystem::path::string_type& name);
 
 }  // namespace platform
