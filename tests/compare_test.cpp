@@ -41,6 +41,7 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       {{" b "}, "c\r\n\r\n", "", {"    0 B", "    1 "}},
       {{"Z"}, "\tx\r\n y \r\n\r\n", counts("2", "3"), {ship("\tX"), ship("Y")}},
       {{"A", "B", "C"}, "", counts("4", "1"), {"    1 B", "    2 C"}},
+      {{"A", "C", "D"}, "B", counts("4", "1"), {"    0 A", "    2 D"}},
       {{"A", "B"}, "B\nA\n\n", "", {}},
       {{}, "A\r\nB\r\n\r\n", counts("1", "3"), {"    0 ", ship("B")}},
       // By the values of the characters, an accented letter behind Z and folded like the others.

@@ -55,6 +55,7 @@ TEST_F(series_test, ShowsSeriesBehindSeries) {
       {"0", seven, {first_of_7, second_of_7}},
       {"-5", seven, {first_of_7, second_of_7}},
       {"4", {seven[5], blank_icon(9, 2), refused, seven[6]}, {"4: 1 -  4: 1=5 2=. 4=6"}},
+      {"1", {seven[5], blank_icon(1, 1)}, {"2: 1 -  1: 1=5", "2: 2 -  2: 1=."}},
       {"4", {seven[5], refused}, {"2: 1 -  1: 1=5", "2: 3 -  0:"}},
       {"9", plain_icons(3, 200, 200), {"3: 1 -  2: 1=0 2=1", "3: 3 -  3: 1=2"}},
       {"9", {plain_icon(900, 900, 1), seven[2]}, {"2: 1 -  1: 1=1", "2: 2 -  2: 1=2"}},
@@ -85,6 +86,7 @@ TEST_F(series_test, PlacesTheSlots) {
     std::vector<shp_icon> icons;
     const char* places;
   } cases[] = {
+      {{7455, 6570}, plain_icons(1, 40, 40), " 200,800"},
       {{two_columns, two_rows}, tens, " 200,800"},
       {{two_columns, two_rows + 1}, tens, " 200,800 200,995"},
       {{two_columns + 1, two_rows}, tens, " 200,800 395,800"},
