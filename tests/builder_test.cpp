@@ -60,8 +60,9 @@ TEST_F(builder_test, ReplacesTheOldArchiveInWhateverCaseItsNameIs) {
       fs::permissions(place("C:\\work\\" + name), fs::perms::owner_read);
     }
     build_in();
-    EXPECT_EQ(files_in("C:\\work"),
-              (file_map{{"a.txt", "a"}, {"OSTRANE.DAT", archive_bytes({{"A.TXT", "a"}})}}));
+    EXPECT_EQ(names_in("C:\\work").size(), 2U) << old.front();
+    EXPECT_EQ(read("C:\\work\\a.txt"), "a");
+    EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
   }
 }
 

@@ -14,9 +14,6 @@
 namespace ostrane {
 namespace {
 
-namespace fs = std::filesystem;
-using texts = std::vector<std::string>;
-
 class drives_windows_test : public tool_test {
  protected:
   // On the drives of the system, with the current folder of the process.
