@@ -1,5 +1,6 @@
 #include "platform/code_page.h"
 
+#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -73,6 +74,10 @@ constexpr bool is_latin_capital(unsigned char c) { return c >= 0xC0 && c <= 0xDE
 constexpr bool is_carried_small(unsigned char c) { return c == 0x9A || c == 0x9C || c == 0x9E; }
 constexpr bool is_carried_capital(unsigned char c) { return c == 0x8A || c == 0x8C || c == 0x8E; }
 
+bool is_ascii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
 constexpr char upper_form(unsigned char byte) {
   if ((byte >= 'a' && byte <= 'z') || is_latin_small(byte)) return static_cast<char>(byte - 0x20);
   if (is_carried_small(byte)) return static_cast<char>(byte - 0x10);
@@ -91,6 +96,7 @@ constexpr std::array<char, 256> upper_forms = [] {
 }  // namespace
 
 std::string to_utf8(std::string_view text) {
+  if (is_ascii(text)) return std::string(text);
   std::string utf8;
   utf8.reserve(text.size());
   for (const char c : text) append_utf8(utf8, code_point(static_cast<unsigned char>(c)));
@@ -98,6 +104,7 @@ std::string to_utf8(std::string_view text) {
 }
 
 std::optional<std::string> from_utf8(std::string_view utf8) {
+  if (is_ascii(utf8)) return std::string(utf8);
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) {

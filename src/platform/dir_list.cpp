@@ -12,7 +12,7 @@ void dir_list::about_to_show() {
   if (!Path().empty()) return;
   Path.value_ = current_folder();
   try {
-    show(list_folder(Path()).folders);
+    show(folders_in(Path()));
   } catch (const file_error&) {
     show({});
   }
@@ -20,14 +20,14 @@ void dir_list::about_to_show() {
 
 void dir_list::set_path(const std::string& path) {
   const std::string whole = full_path(path);
-  const std::vector<std::string> folders = list_folder(whole).folders;
+  const std::vector<std::string> folders = folders_in(whole);
   const bool other = whole != Path();
   Path.value_ = whole;
   show(folders);
   if (other && Change) Change();
 }
 
-void dir_list::Refresh() { show(list_folder(Path()).folders); }
+void dir_list::Refresh() { show(folders_in(Path())); }
 
 void dir_list::show(const std::vector<std::string>& folders_inside) {
   rows_.clear();

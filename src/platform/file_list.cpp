@@ -30,7 +30,7 @@ void file_list::Refresh() { read(Path(), Pattern()); }
 
 void file_list::read(const std::string& path, const std::string& pattern) {
   std::vector<std::string> found;
-  for (std::string& name : list_folder(path).files) {
+  for (std::string& name : files_in(path)) {
     if (matches_pattern(name, pattern)) found.push_back(std::move(name));
   }
   names_ = std::move(found);

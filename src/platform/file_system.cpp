@@ -47,6 +47,21 @@ void sort_folded(std::vector<std::string>& names) {
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
 }
 
+std::vector<std::string> sorted_names(const std::string& path, bool listed_entry::*is_wanted) {
+  std::vector<listed_entry> listed;
+  const int failed = file_calls::list(system_path(path), listed);
+  if (failed < 0) fail(path, {-failed, std::generic_category()}, " cannot be read: ");
+  std::vector<std::string> names;
+  for (const listed_entry& entry : listed) {
+    if (entry.is_hidden || !(entry.*is_wanted)) continue;
+    std::optional<std::string> name = name_as_text(entry.name);
+    // A name that cannot stand in a path of the tool is of no use to it.
+    if (name && name->find('\\') == name->npos) names.push_back(std::move(*name));
+  }
+  sort_folded(names);
+  return names;
+}
+
 }  // namespace
 
 bool file_exists(const std::string& path) {
@@ -83,21 +98,12 @@ void create_folder(const std::string& path) {
   forget_folders();
 }
 
-folder_contents list_folder(const std::string& path) {
-  std::vector<listed_entry> listed;
-  const int failed = file_calls::list(system_path(path), listed);
-  if (failed < 0) fail(path, {-failed, std::generic_category()}, " cannot be read: ");
-  folder_contents found;
-  for (const listed_entry& entry : listed) {
-    if (entry.is_hidden || !(entry.is_folder || entry.is_file)) continue;
-    std::optional<std::string> name = name_as_text(entry.name);
-    // A name that cannot stand in a path of the tool is of no use to it.
-    if (!name || name->find('\\') != name->npos) continue;
-    (entry.is_folder ? found.folders : found.files).push_back(std::move(*name));
-  }
-  sort_folded(found.folders);
-  sort_folded(found.files);
-  return found;
+std::vector<std::string> folders_in(const std::string& path) {
+  return sorted_names(path, &listed_entry::is_folder);
+}
+
+std::vector<std::string> files_in(const std::string& path) {
+  return sorted_names(path, &listed_entry::is_file);
 }
 
 bool matches_pattern(const std::string& name, const std::string& pattern) {

@@ -20,14 +20,10 @@ void delete_file(const std::string& path);
 // Throws file_error, also if the folder is there already.
 void create_folder(const std::string& path);
 
-struct folder_contents {
-  std::vector<std::string> folders;
-  std::vector<std::string> files;
-};
-
-// What lies in a folder: its folders and its normal files, each ascending by their upper-case
-// form. Hidden names and names that have no form in the code page are left out. Throws file_error.
-folder_contents list_folder(const std::string& path);
+// The folders, or the normal files, in a folder, ascending by their upper-case form. Hidden names
+// and names that have no form in the code page are left out. Both throw file_error.
+std::vector<std::string> folders_in(const std::string& path);
+std::vector<std::string> files_in(const std::string& path);
 
 // True if `name` is what the pattern names, without regard to case; "*" stands for any characters,
 // "?" for any one.

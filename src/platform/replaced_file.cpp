@@ -1,6 +1,7 @@
 #include "platform/replaced_file.h"
 
 #include <optional>
+#include <vector>
 
 #include "platform/case_blind.h"
 #include "platform/code_page.h"
@@ -19,22 +20,23 @@ void require(int outcome, const std::string& path) {
                    path + " cannot be written: " + file_calls::error_words(-outcome) + "."};
 }
 
-std::string folded_name(const std::filesystem::path& place) {
-  const std::optional<std::string> name = name_as_text(place.filename().native());
+std::string folded_name(const std::filesystem::path::string_type& system_name) {
+  const std::optional<std::string> name = name_as_text(system_name);
   return name ? upper_case(*name) : std::string();
 }
 
 // Where names tell case apart, files of the same name in another case may lie beside `file`, which
 // is there. They go, as the name means one file only.
 void remove_other_cases(const std::filesystem::path& file) {
-  const std::string folded = folded_name(file);
-  std::error_code failed;
-  for (std::filesystem::directory_iterator at(file.parent_path(), failed), end;
-       !failed && at != end; at.increment(failed)) {
+  const std::string folded = folded_name(file.filename().native());
+  std::vector<listed_entry> listed;
+  file_calls::list(file.parent_path(), listed);
+  for (const listed_entry& entry : listed) {
+    if (entry.is_folder || folded_name(entry.name) != folded) continue;
+    const std::filesystem::path other = file.parent_path() / entry.name;
     std::error_code unknown;
-    if (folded_name(at->path()) != folded || at->is_directory(unknown)) continue;
-    if (std::filesystem::equivalent(at->path(), file, unknown) || unknown) continue;
-    file_calls::remove_file(at->path());
+    if (std::filesystem::equivalent(other, file, unknown) || unknown) continue;
+    file_calls::remove_file(other);
   }
 }
 

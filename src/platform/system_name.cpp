@@ -10,7 +10,11 @@ namespace fs = std::filesystem;
 
 fs::path system_name(std::string_view text) {
   const std::string utf8 = to_utf8(text);
-  return fs::path(std::u8string(utf8.begin(), utf8.end()));
+  if constexpr (std::is_same_v<fs::path::value_type, char>) {
+    return utf8;
+  } else {
+    return std::u8string(utf8.begin(), utf8.end());
+  }
 }
 
 std::optional<std::string> name_as_text(const fs::path::string_type& name) {
