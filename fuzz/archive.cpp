@@ -1,7 +1,8 @@
-// The input is an archive. Every row is clicked, and all series of its icons are looked at as a
+// The input is an archive, or the one icon file in it for fuzz_icon. Every row is clicked, and all series of its icons are looked at as a
 // user would: motion, stepping, reports.
 #include <algorithm>
 
+#include "archive_writer.h"
 #include "forms/forms.h"
 #include "platform/user.h"
 #include "state/tool_state.h"
@@ -56,7 +57,13 @@ std::int32_t browse(std::int32_t row, std::int32_t most_series) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::begin();
-  fuzz::open_archive_of(fuzz::text_of(data, size));
+  const std::string input(fuzz::text_of(data, size));
+#ifdef INPUT_IS_AN_ICON_FILE
+  fuzz::open_archive_of(
+      samples::archive_file({{"F.SHP", input}, {"N.TXT", std::string(64, '\3')}}));
+#else
+  fuzz::open_archive_of(input);
+#endif
   fuzz::check(fuzz::messages() <= 1, "an archive gives one message");
   // Many rows can lead to one icon file of many icons; what a user meets in one go is enough.
   std::int32_t actions = 30;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long; what
-# it finds new is kept and built on at the next time. run.sh short [TARGET]: a few thousand inputs
+# it finds new is kept and built on at the next time. run.sh short [TARGET]: some thousand inputs
 # each, the same ones every time. OSTRANE_BUILD names the folder to build in, build-test if it is
 # not set. Fails if there is a finding; its input stays in the folder "findings" there.
 set -euo pipefail
@@ -13,7 +13,7 @@ cd "$(dirname "$0")/.."
   exit 2
 }
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(archive lists extract build)
+[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build)
 
 need_packages cmake ninja-build "clang-$clang_version" "$clang_runtime"
 build=$(realpath -m "${OSTRANE_BUILD:-build-test}/fuzz")
@@ -52,7 +52,7 @@ for target in "${targets[@]}"; do
   if [ "$1" = short ]; then
     corpus=$work/corpus
     rm -rf "$corpus"
-    bound=(-runs=2500 -seed=1 -timeout=30)
+    bound=(-runs=1500 -seed=1 -timeout=30)
   fi
   mkdir -p "$corpus"
   log=$work/$target.log
