@@ -87,7 +87,7 @@ TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
       {"access is not allowed", "", "", [&] { replace_all(link_device); }, nothing},
   };
   const int end = end_of(begin_process([&] {
-    alarm(60);
+    alarm(30);
     for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
     // What root may do is not forbidden by a folder.
     const bool root_left =
