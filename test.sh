@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs all tests: as they are, and once more with the
-# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, runs the fuzz
-# targets for a while, and tests all but the windows under Wine, where the tools for that are there
-# (CI installs them). OSTRANE_BUILD names the folder to build in, build-test if it is not set.
+# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, runs each
+# benchmark once and the fuzz targets for a while, and tests all but the windows under Wine, where
+# the tools for that are there (CI installs them). OSTRANE_BUILD names the folder to build in,
+# build-test if it is not set.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -26,6 +27,12 @@ scripts/check_layout.sh
 
 configure_and_build "$build/plain" -DCMAKE_BUILD_TYPE=Release
 run_tests "$build/plain"
+
+if [ -n "${CI:-}" ] || is_installed libbenchmark-dev; then
+  OSTRANE_BUILD=$build/plain bench/peers.sh 1
+else
+  echo "The benchmarks are not run: no libbenchmark-dev here"
+fi
 
 scripts/check_packaging.sh "$build/plain"
 scripts/check_lint.sh "$build/plain"

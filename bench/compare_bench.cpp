@@ -17,6 +17,7 @@ void compare_with_shuffled_shiplist(benchmark::State& state) {
   bench::write_file(folder / "ships.txt", shiplist);
   std::sort(names.begin(), names.end());
   std::vector<bench::entry> entries;
+  entries.reserve(names.size());
   for (const std::string& name : names) entries.push_back({name, ""});
   bench::write_archive(folder, entries);
   bench::begin_tool_on(folder);

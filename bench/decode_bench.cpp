@@ -71,7 +71,7 @@ void libpng_from_file(benchmark::State& state) {
   for (const samples::picture& drawn : pictures()) all += bench::png_of(drawn);
   const std::filesystem::path place = bench::scratch("png") / "all";
   bench::write_file(place, all);
-  std::vector<unsigned char> pixels(side * side);
+  std::vector<unsigned char> pixels(std::size_t{side} * side);
   std::string bytes(all.size(), '\0');
   for (auto _ : state) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(place.c_str(), "rb"),
@@ -139,7 +139,7 @@ void bare_loop(const std::string& stream, const platform::colour* colours, platf
 
 void bare_loop_over_streams(benchmark::State& state) {
   const std::vector<stream_in_memory> streams = all_streams();
-  std::vector<platform::colour> pixels(side * side);
+  std::vector<platform::colour> pixels(std::size_t{side} * side);
   const std::vector<platform::colour> colours(256, 7);
   for (auto _ : state) {
     for (const stream_in_memory& stream : streams) {
@@ -151,7 +151,7 @@ void bare_loop_over_streams(benchmark::State& state) {
 BENCHMARK(bare_loop_over_streams)->Unit(benchmark::kMicrosecond);
 
 void memset_of_the_pixels(benchmark::State& state) {
-  std::vector<platform::colour> pixels(side * side);
+  std::vector<platform::colour> pixels(std::size_t{side} * side);
   for (auto _ : state) {
     for (int i = 0; i < icons; ++i) {
       std::memset(pixels.data(), i, pixels.size() * sizeof(platform::colour));

@@ -17,7 +17,7 @@ namespace {
 using namespace ostrane;
 
 std::filesystem::path folder_of_names() {
-  const std::filesystem::path folder = bench::scratch("names");
+  std::filesystem::path folder = bench::scratch("names");
   if (exists(folder / "ostrane.dat")) return folder;
   std::vector<bench::entry> entries;
   for (const std::string& name : bench::shuffled_names(bench::most_names)) {

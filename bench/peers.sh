@@ -76,8 +76,10 @@ row() { # NAME GOAL UNIT DIVISOR, then OURS... -- PEER...
   : >"$data/ours"
   : >"$data/peer"
   for ((i = 0; i < rounds; i++)); do
-    "${ours[@]}" && echo "$took" >>"$data/ours"
-    "$@" && echo "$took" >>"$data/peer"
+    "${ours[@]}"
+    echo "$took" >>"$data/ours"
+    "$@"
+    echo "$took" >>"$data/peer"
   done
   line "$name" "$(median "$data/ours" | awk "{print \$1 / $divisor}")" \
     "$(median "$data/peer" | awk "{print \$1 / $divisor}")" "$goal" "$unit"

@@ -20,8 +20,9 @@ void draw_series(benchmark::State& state) {
   bench::open_archive("C:\\");
   bench::widen_window(2600, 2000, 999);
   for (auto _ : state) platform::user::select_row(Form1.List1, 0);
-  if (Form1.Text3.Text() != " 1 -  " + std::to_string(count))
+  if (Form1.Text3.Text() != " 1 -  " + std::to_string(count)) {
     state.SkipWithError(Form1.Text3.Text().c_str());
+  }
 }
 BENCHMARK(draw_series)->Arg(300)->Arg(500)->Arg(999)->Unit(benchmark::kMicrosecond);
 

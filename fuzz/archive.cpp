@@ -1,5 +1,5 @@
-// The input is an archive, or the one icon file in it for fuzz_icon. Every row is clicked, and all series of its icons are looked at as a
-// user would: motion, stepping, reports.
+// The input is an archive, or for fuzz_icon the one icon file in an archive. Every row is clicked,
+// and all series of its icons are looked at as a user would: motion, stepping, reports.
 #include <algorithm>
 
 #include "archive_writer.h"
