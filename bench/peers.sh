@@ -110,6 +110,8 @@ windows() { # PLATFORM
     memory_of "$bin/bench_bare_qt" start
   row "extract, with the window, $on; \`tar -xf\`" 3 ms 1000 \
     in_new_folder window extract "$data/archive" -- untar
+  row "the same; as many repaints alone, $on" '' ms 1000 \
+    in_new_folder window extract "$data/archive" -- bare bars 4000
   row "build, with the window, $on; \`tar -cf\`" 3 ms 1000 \
     without_archive window build "$data/files" -- tar_up
 }
