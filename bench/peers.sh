@@ -62,6 +62,7 @@ median() { sort -n "$1" | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] 
 
 line() { # NAME OURS PEER GOAL UNIT
   awk -v name="$1" -v ours="$2" -v peer="$3" -v goal="$4" -v unit="$5" 'BEGIN {
+    if (ours <= 0 || peer <= 0) exit 1
     printf "| %s | %.2f %s | %.2f %s | %.2f | %s |\n", name, ours, unit, peer, unit, ours / peer, goal}'
 }
 
@@ -106,6 +107,8 @@ windows() { # PLATFORM
     bare text "$data/icons/long.txt"
   row "start to window, $on; empty window" 1.3 ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
     wall "$bin/bench_bare_qt" start
+  row "the same; a window with a word in it, $on" '' ms 1000 \
+    wall "$bin/bench_window" start "$data/icons" -- wall "$bin/bench_bare_qt" label
   row "memory then, $on; empty window" 1.5 MB 1024 memory_of "$bin/bench_window" start "$data/icons" -- \
     memory_of "$bin/bench_bare_qt" start
   row "extract, with the window, $on; \`tar -xf\`" 3 ms 1000 \
@@ -117,7 +120,7 @@ windows() { # PLATFORM
 }
 
 in_process() {
-  "$bin/ostrane_bench" --benchmark_format=csv --benchmark_repetitions="$rounds" \
+  "$bin/ostrane_bench" --benchmark_format=csv --benchmark_repetitions=$((rounds > 1 ? rounds : 2)) \
     --benchmark_enable_random_interleaving=true --benchmark_min_time=0.05 \
     --benchmark_filter='index|fread|decode|libpng|bare|memset|series' 2>"$data/complaints" |
     tr -d '"' | awk -F, '$1 ~ /_median$/ {sub("_median", "", $1); print $1, $3 / 1000}' >"$data/in_process"

@@ -14,6 +14,7 @@
 
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
+#include "desktop/exposure.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
 #include "platform/user.h"
@@ -83,6 +84,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: bench_window start|icons|text|extract|build FOLDER [COUNT]\n";
     return 2;
   }
+  desktop::send_pixels_without_waiting();
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setStyle(new desktop::desktop_style);

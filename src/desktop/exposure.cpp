@@ -18,6 +18,11 @@ void take_all_but_user_input() {
 
 }  // namespace
 
+void send_pixels_without_waiting() {
+  constexpr const char* setting = "QT_XCB_NO_MITSHM";
+  if (!qEnvironmentVariableIsSet(setting)) qputenv(setting, "1");
+}
+
 void wait_until_exposed(QWindow& shown) {
   const QDeadlineTimer end(longest_wait_in_milliseconds);
   while (!shown.isExposed() && !end.hasExpired()) {

@@ -4,6 +4,12 @@
 
 namespace desktop {
 
+// To be called before there is an application. Where pixels go to the X server through shared
+// memory, Qt waits for the server's answer before it paints again over what it sent last, as each
+// step of a long job does; through the connection they follow one another, and a whole window takes
+// hardly longer. The user's own setting stays.
+void send_pixels_without_waiting();
+
 // A window that is shown comes to the screen only when the window system has said so, which it
 // does through the event loop. This waits for that in the middle of a handler, for a moment at
 // most. No user input is taken meanwhile; whatever else comes, the tool queues behind the handler.

@@ -5,6 +5,7 @@
 #include "desktop/command_line.h"
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
+#include "desktop/exposure.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
 #include "handlers/start_up.h"
@@ -26,6 +27,7 @@ void set_program_icon() {
 
 int main(int argc, char** argv) {
   if (desktop::answer_command_line(argc, argv)) return 0;
+  desktop::send_pixels_without_waiting();
   const QApplication application(argc, argv);
   // Qt takes the user's locale for the whole process; numbers of the tool have their own form.
   std::setlocale(LC_NUMERIC, "C");
