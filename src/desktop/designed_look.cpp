@@ -71,6 +71,10 @@ QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::C
   return start;
 }
 
+QColor line_colour(const QColor& back, const QColor& text) {
+  return between(back, between(back, text));
+}
+
 QColor between(const QColor& a, const QColor& b) {
   return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }

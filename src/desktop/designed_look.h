@@ -24,6 +24,9 @@ QColor text_on(platform::colour back);
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       platform::colour back);
 
+// Of a line on `back` round what stands there, to be seen in light and dark themes.
+QColor line_colour(const QColor& back, const QColor& text);
+
 // The colour halfway.
 QColor between(const QColor& a, const QColor& b);
 

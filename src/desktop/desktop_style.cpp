@@ -4,15 +4,31 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "desktop/designed_look.h"
+
 namespace desktop {
 
 namespace {
 
-void draw_field(QPainter& painter, const QStyleOption& option) {
+// Of a disabled field too, which the tool shows as any other.
+QColor frame_colour(const QStyleOption& option) {
+  const auto colour = [&option](QPalette::ColorRole role) {
+    return option.palette.color(QPalette::Active, role);
+  };
   const bool focused = (option.state & QStyle::State_HasFocus) != 0;
-  painter.fillRect(option.rect, focused ? option.palette.color(QPalette::Highlight)
-                                        : option.palette.color(QPalette::Window).darker(140));
+  return focused ? colour(QPalette::Highlight)
+                 : line_colour(colour(QPalette::Window), colour(QPalette::WindowText));
+}
+
+void draw_field(QPainter& painter, const QStyleOption& option) {
+  painter.fillRect(option.rect, frame_colour(option));
   painter.fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.color(QPalette::Base));
+}
+
+// Of a list or a page; what is inside it paints itself.
+void draw_frame(QPainter& painter, const QStyleOption& option) {
+  painter.setPen(frame_colour(option));
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
 }
 
 }  // namespace
@@ -29,6 +45,8 @@ void desktop_style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                                   QPainter* painter, const QWidget* widget) const {
   if (element == PE_PanelLineEdit) {
     draw_field(*painter, *option);
+  } else if (element == PE_Frame) {
+    draw_frame(*painter, *option);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }

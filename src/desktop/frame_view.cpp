@@ -39,7 +39,7 @@ void frame_view::paint_over_ground(QPainter& painter, const QRect& dirty) {
   const QColor back = on_screen(ground());
   const QColor text = text_on(ground());
   const int line_top = fontMetrics().height() / 2;
-  painter.setPen(between(back, between(back, text)));
+  painter.setPen(line_colour(back, text));
   painter.drawRect(0, line_top, width() - 1, height() - 1 - line_top);
   const QRect caption = caption_place();
   if (!caption.intersects(dirty)) return;

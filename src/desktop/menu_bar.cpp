@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QShortcut>
 
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "platform/user.h"
 
@@ -33,6 +34,8 @@ menu_bar::menu_bar(platform::form& shown, QWidget* window) : QMenuBar(window) {
 
 void menu_bar::add(const platform::menu& shown, const QString& caption) {
   QMenu* column = addMenu(caption);
+  // A desktop may have a font of its own for menus.
+  column->setFont(font_for({}));
   QString taken;
   for (platform::menu_item* item : shown.items) {
     if (item->is_separator()) {

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QMessageBox>
 
+#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 
 namespace desktop {
@@ -23,6 +24,8 @@ void widen(QMessageBox& box) {
 void show_message(const std::string& title, const std::string& text, QWidget* owner) {
   QMessageBox box(owner);
   box.setWindowModality(Qt::ApplicationModal);
+  // A desktop may have a font of its own for such boxes.
+  box.setFont(font_for({}));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_screen(title));
   box.setText(with_plain_breaks(to_screen(text), true));

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/designed_look.h"
+
 namespace desktop {
 
 progress_view::progress_view(platform::progress_bar& shown, QWidget* parent)
@@ -34,7 +36,10 @@ void progress_view::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QRect inner = rect().adjusted(1, 1, -1, -1);
   const QRect dirty = event->rect();
-  if (!inner.contains(dirty)) painter.fillRect(dirty, palette().color(QPalette::Dark));
+  if (!inner.contains(dirty)) {
+    painter.fillRect(dirty, line_colour(palette().color(QPalette::Window),
+                                        palette().color(QPalette::WindowText)));
+  }
   const QRect filled(inner.topLeft(), QSize(painted_, inner.height()));
   const QRect rest = inner.adjusted(painted_, 0, 0, 0);
   painter.fillRect(filled & dirty, palette().color(QPalette::Highlight));
