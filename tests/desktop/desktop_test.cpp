@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPaintEvent>
 #include <QPushButton>
 #include <QTest>
@@ -258,8 +260,28 @@ TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
         EXPECT_GE(std::abs(text - base), 100) << std::hex << back;
       }
     }
+    QWidget& window = show(form);
+    const auto frame_of = [&window](const platform::control& shown) {
+      return widget_of(window, shown)->grab().toImage().pixel(0, 0);
+    };
+    const int ground = qGray(theme.color(QPalette::Window).rgb());
+    EXPECT_GE(std::abs(qGray(frame_of(form.Text1)) - ground), 40);
+    EXPECT_GE(std::abs(qGray(frame_of(form.Text6)) - ground), 40);
+    EXPECT_EQ(frame_of(form.List1), QApplication::palette().color(QPalette::Highlight).rgb())
+        << "has the focus";
   }
   QApplication::setPalette(light);
+}
+
+TEST_F(Desktop, MenusAreInTheToolsFontOnADesktopWithAnotherOne) {
+  QFont large;
+  large.setPixelSize(40);
+  QApplication::setFont(large, "QMenu");
+  const auto* bar = show(form).findChild<QMenuBar*>();
+  for (const QAction* shown : bar->actions()) {
+    EXPECT_EQ(shown->menu()->font().pixelSize(), desktop::font_for({}).pixelSize());
+  }
+  QApplication::setFont(QFont());
 }
 
 TEST_F(Desktop, NothingIsCutOffAtTheDesignSize) {
