@@ -18,7 +18,7 @@ std::string archive_file(const std::vector<sample_file>& files) {
   platform::put_int32(bytes, 0, static_cast<std::int32_t>(count));
   append(count_size);
   const auto append_record = [&](const std::string& name) {
-    dat_record record;
+    dat_record record = {};
     record.offset = static_cast<std::int32_t>(count_size + record_size * count + bodies.size());
     std::copy_n(name.begin(), std::min(name.size(), name_size), record.name.begin());
     encode_record(record, bytes);

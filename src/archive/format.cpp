@@ -9,7 +9,7 @@
 namespace ostrane {
 
 dat_record decode_record(std::span<const std::byte, record_size> bytes) {
-  dat_record record;
+  dat_record record = {};
   record.offset = platform::int32_at(bytes, 0);
   std::memcpy(record.name.data(), bytes.data() + 4, name_size);
   return record;

@@ -28,15 +28,15 @@ static_assert(record_size == 4 + name_size);
 using record_name = std::array<char, name_size>;
 
 struct dat_record {
-  std::int32_t offset = 0;
-  record_name name = {};  // as in the file, NUL characters included
+  std::int32_t offset;
+  record_name name;  // as in the file, NUL characters included
 };
 
 // One file of a new archive.
 struct make_record {
-  std::int32_t size = 0;
-  record_name name = {};  // trimmed, cut or filled with blanks, in the case of the file name
-  std::int32_t offset = 0;
+  std::int32_t size;
+  record_name name;  // trimmed, cut or filled with blanks, in the case of the file name
+  std::int32_t offset;
 };
 
 using record_bytes = std::span<std::byte, record_size>;

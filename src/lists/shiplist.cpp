@@ -33,6 +33,7 @@ std::uint64_t first_characters(const std::string& key) {
 void read_shiplist(const std::string& path) {
   platform::text_reader reader(path);
   std::vector<std::string> lines;
+  lines.reserve(most_lines);
   while (!reader.at_end()) {
     if (lines.size() == most_lines) {
       throw platform::file_error{platform::file_error_number::device_error,

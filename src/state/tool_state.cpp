@@ -1,12 +1,15 @@
 #include "state/tool_state.h"
 
 #include <memory>
+#include <utility>
 
 namespace ostrane {
 
 tool_state_record tool_state;
 
 void make_state_afresh() {
+  static bool was_used = false;
+  if (!std::exchange(was_used, true)) return;
   std::destroy_at(&tool_state);
   std::construct_at(&tool_state);
 }

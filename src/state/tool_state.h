@@ -22,7 +22,9 @@ constexpr std::int32_t most_icon_names = 32000;
 constexpr std::int32_t most_slots = 9999;
 
 // All that the tool knows while it runs. Every handler and procedure reads and writes it directly.
-// Lengths are twips. Arrays that count from 1 leave element 0 unused.
+// Lengths are twips. Arrays that count from 1 leave element 0 unused. The large ones have no first
+// value written here: a new process gets its memory as zeros, and to write them again would take as
+// long as all else at its start.
 struct tool_state_record {
   std::string app_path;       // folder of the running program
   std::string program_title;  // caption of the main window
@@ -49,10 +51,10 @@ struct tool_state_record {
 
   std::array<platform::colour, 256> colour_table = {};
 
-  std::uint8_t stream_byte = 0;    // current byte of the run-length stream
-  flag stream_ended = flag_false;  // no byte was left to take
-  std::array<std::int32_t, most_icons + 1> icon_positions = {};  // in the file, counted from 1
-  std::int32_t cur_row = 0;                                      // of the pixel being drawn
+  std::uint8_t stream_byte = 0;                             // current byte of the run-length stream
+  flag stream_ended = flag_false;                           // no byte was left to take
+  std::array<std::int32_t, most_icons + 1> icon_positions;  // in the file, counted from 1
+  std::int32_t cur_row = 0;                                 // of the pixel being drawn
   std::int32_t cur_col = 0;
   std::int16_t run_length = 0;    // of the current operation
   std::int16_t icon_number = 0;   // of the icon in work, from 1
@@ -84,7 +86,7 @@ struct tool_state_record {
 
   std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
   std::int16_t icon_name_count = 0;
-  std::array<icon_data_record, most_slots + 1> slot_data = {};
+  std::array<icon_data_record, most_slots + 1> slot_data;
   std::int16_t max_icons = 0;  // most slots in one series
 
   std::vector<std::string> shiplist_lines;
