@@ -73,8 +73,8 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
     std::function<void()> spoil;
     const char* fault;
   } cases[] = {
-      {"E:\\", [] {}, "The folder E:\\ is not there."},
-      {"D:\\", [&] { open_archive("C:\\program"); }, "No archive is open."},
+      {"E:\\", [] {}, "The folder E:\\ is not there. Make it or choose another."},
+      {"D:\\", [&] { open_archive("C:\\program"); }, "No archive is open. Read one first."},
       {"D:\\",
        [&] {
          open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}}));

@@ -67,7 +67,8 @@ TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
   const fs::path drive = root / "d";
   const fs::path away = root / "away";
   const std::string missing = "D:\\x\\ostrane.dat is not found";
-  const std::string no_folder = "The folder D:\\x\\ is not there. Nothing was extracted.";
+  const std::string no_folder =
+      "The folder D:\\x\\ is not there. Make it or choose another. Nothing was extracted.";
   const auto nothing = [] {};
   const auto forbid = [&] { fs::permissions(drive / "x", fs::perms::none); };
   const auto allow = [&] { fs::permissions(drive / "x", fs::perms::all); };
