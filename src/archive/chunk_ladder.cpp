@@ -1,6 +1,7 @@
 #include "archive/chunk_ladder.h"
 
 #include <array>
+#include <span>
 
 #include "forms/form3.h"
 
@@ -27,12 +28,14 @@ struct copy_in_work {
 };
 
 void copy_block(copy_in_work& copy, std::int32_t size) {
-  static std::array<std::byte, largest_block> buffer;
-  const auto block = std::span(buffer).first(static_cast<std::size_t>(size));
-  const std::size_t got = copy.source.read(block);
-  copy.destination.write(block.first(got));
-  copy.copied += static_cast<std::int32_t>(got);
-  copy.source_ended = got < block.size();
+  auto left = static_cast<std::size_t>(size);
+  while (left > 0 && !copy.source_ended) {
+    const std::span<const std::byte> part = copy.source.next(left);
+    copy.destination.write(part);
+    left -= part.size();
+    copy.source_ended = part.empty();
+  }
+  copy.copied += size - static_cast<std::int32_t>(left);
 }
 
 void count_small_block(copy_in_work& copy, std::int32_t size, std::int32_t value) {

@@ -74,6 +74,20 @@ std::size_t binary_file::read_from_system(std::span<std::byte> to) {
   return static_cast<std::size_t>(moved);
 }
 
+void binary_file::fill_buffer() {
+  buffer_start_ += static_cast<std::int64_t>(fill_);
+  position_ = 0;
+  fill_ = 0;
+  fill_ = read_from_system(buffer_);
+}
+
+std::span<const std::byte> binary_file::next(std::size_t most) {
+  if (position_ == fill_) fill_buffer();
+  const auto bytes = std::span(buffer_).subspan(position_, std::min(most, fill_ - position_));
+  position_ += bytes.size();
+  return bytes;
+}
+
 std::size_t binary_file::read(std::span<std::byte> to) {
   std::size_t got = 0;
   while (got < to.size()) {
@@ -88,10 +102,7 @@ std::size_t binary_file::read(std::span<std::byte> to) {
         got += moved;
         continue;
       }
-      buffer_start_ += static_cast<std::int64_t>(fill_);
-      position_ = 0;
-      fill_ = 0;
-      fill_ = read_from_system(buffer_);
+      fill_buffer();
       if (fill_ == 0) break;
     }
     const std::size_t part = std::min(fill_ - position_, to.size() - got);

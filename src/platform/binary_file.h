@@ -30,6 +30,8 @@ class binary_file {
   void seek(std::int64_t offset);
   // Bytes read: fewer than asked for only at the end of the file.
   std::size_t read(std::span<std::byte> to);
+  // The next bytes, at most so many and none at the end of the file. They stay until the next call.
+  std::span<const std::byte> next(std::size_t most);
   void write(std::span<const std::byte> from);
   std::int64_t size();
 
@@ -44,6 +46,7 @@ class binary_file {
   void take(int file, const std::string& path, bool writes);
   [[noreturn]] void fail(std::int64_t outcome, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
+  void fill_buffer();
 
   int file_ = -1;
   bool writes_ = false;
