@@ -21,8 +21,8 @@ void encode_record(const dat_record& record, record_bytes bytes) {
 }
 
 std::string name_without_nuls(const record_name& name) {
-  std::string text;
-  std::copy_if(name.begin(), name.end(), std::back_inserter(text), [](char c) { return c != 0; });
+  std::string text(name.begin(), name.end());
+  std::erase(text, '\0');
   return text;
 }
 
