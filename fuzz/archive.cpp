@@ -3,13 +3,8 @@
 #include <algorithm>
 
 #include "archive_writer.h"
-#include "forms/forms.h"
-#include "platform/user.h"
-#include "state/tool_state.h"
-#include "tool_on_drives.h"
+#include "target.h"
 
-namespace fuzz = ostrane::fuzz;
-namespace user = platform::user;
 using namespace ostrane;
 
 namespace {
@@ -36,7 +31,7 @@ std::int32_t browse(std::int32_t row, std::int32_t most_series) {
   std::int32_t first_icon = 1;
   tool_state.next_icon = 0;
   for (std::int32_t series = 1;; ++series) {
-    const std::size_t messages_before = fuzz::messages();
+    new_messages();
     if (series == 1) {
       user::select_row(Form1.List1, row);
     } else {
@@ -44,7 +39,7 @@ std::int32_t browse(std::int32_t row, std::int32_t most_series) {
     }
     // Each icon that is dealt with may give one; so may the file, and the place of the next icon.
     const std::int32_t dealt_with = std::max(tool_state.next_icon - first_icon, 0);
-    fuzz::check(fuzz::messages() - messages_before <= static_cast<std::size_t>(dealt_with) + 2,
+    fuzz::check(new_messages().size() <= static_cast<std::size_t>(dealt_with) + 2,
                 "messages follow from the icons");
     if (tool_state.next_icon == 0) return series;
     look_at_series();
@@ -56,21 +51,18 @@ std::int32_t browse(std::int32_t row, std::int32_t most_series) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::begin();
-  const std::string input(fuzz::text_of(data, size));
+  fuzz::begin_on_empty_drives();
+  std::string archive = fuzz::text_of(data, size);
 #ifdef INPUT_IS_AN_ICON_FILE
-  fuzz::open_archive_of(
-      samples::archive_file({{"F.SHP", input}, {"N.TXT", std::string(64, '\3')}}));
-#else
-  fuzz::open_archive_of(input);
+  archive = samples::archive_file({{"F.SHP", archive}, {"N.TXT", std::string(64, '\3')}});
 #endif
-  fuzz::check(fuzz::messages() <= 1, "an archive gives one message");
+  open_bytes(archive);
+  fuzz::check(new_messages().size() <= 1, "an archive gives one message");
   // Many rows can lead to one icon file of many icons; what a user meets in one go is enough.
   std::int32_t actions = 30;
   for (std::int32_t row = 0; row < Form1.List1.ListCount() && actions > 0; ++row) {
     actions -= browse(row, actions);
     user::double_click(Form1.List1, row);
   }
-  fuzz::check_memory(fuzz::memory_for_pictures, size);
   return 0;
 }

@@ -30,7 +30,7 @@ trap 'rm -rf "$work"' EXIT
 export TMPDIR=$work
 export ASAN_OPTIONS=quarantine_size_mb=8
 
-options=(-rss_limit_mb=768 -malloc_limit_mb=64 -max_len=4096 -dict=fuzz/words.dict
+options=(-rss_limit_mb=768 -malloc_limit_mb=32 -max_len=4096 -dict=fuzz/words.dict
   -print_final_stats=1)
 
 # Puts what a run tells in a line.

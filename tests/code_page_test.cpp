@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/text.h"
-
 namespace platform {
 namespace {
 
@@ -31,21 +29,6 @@ TEST(CodePage, FoldsAccentedLettersToo) {
   const std::string capitals = "AZ\xC0\xC9\xD6\xD8\xDE\x8A\x8C\x8E\x9F";
   EXPECT_EQ(upper_case(with_case + without), capitals + without);
   EXPECT_EQ(lower_case(capitals + without), with_case + without);
-}
-
-TEST(Text, ReadsNumbersAndNothingElse) {
-  const std::pair<const char*, double> numbers[] = {
-      {"300", 300}, {"+5", 5},    {"-5", -5},   {"12.", 12},
-      {".5", .5},   {"3e2", 300}, {"2e-1", .2}, {"1e-999", 0},
-  };
-  for (const auto& [text, value] : numbers) {
-    EXPECT_DOUBLE_EQ(as_number(text).value_or(-1), value) << text;
-  }
-  EXPECT_GT(as_number("9e999").value_or(0), 1e308);
-  for (const char* text : {"", ".", "-", "e5", "1E+", "1,0", "&H1F", "0x1", "abc", "1 ", "1.2.3",
-                           "--1", "inf", "nan", "1d2", "\xB2"}) {
-    EXPECT_FALSE(as_number(text).has_value()) << text;
-  }
 }
 
 }  // namespace

@@ -4,10 +4,9 @@ namespace ostrane {
 namespace {
 
 // A small archive of every kind of entry, damaged in one place after the other.
-class damage_test : public icon_test {
- protected:
+struct damage_test : icon_test {
   // Opens these bytes, looks at every entry in every way, and extracts them all.
-  void use(const std::string& bytes) {
+  static void use(const std::string& bytes) {
     write("C:\\ostrane.dat", bytes);
     begin();
     open_archive();

@@ -3,8 +3,7 @@
 namespace ostrane {
 namespace {
 
-class decoder_test : public icon_test {
- protected:
+struct decoder_test : icon_test {
   // The cells of slot 1, row by row.
   static std::string cells() {
     std::string text;
@@ -84,7 +83,7 @@ TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
   for (std::size_t kept = 0; kept <= bytes.size(); ++kept) {
     open_archive({palette_entry(), {"F1.SHP", file.substr(0, file.size() - bytes.size() + kept)}});
     click_row("F1.SHP");
-    EXPECT_EQ(new_messages(), std::vector<std::string>{});
+    EXPECT_EQ(new_messages(), texts{});
     EXPECT_EQ(cells(), stages[stage_of[kept]]) << kept;
   }
 }

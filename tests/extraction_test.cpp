@@ -1,4 +1,4 @@
-#include "recording_screen.h"
+#include "tool_fixture.h"
 
 namespace ostrane {
 namespace {
@@ -33,10 +33,10 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
 TEST_F(extraction_test, WritesOverFilesWithoutEmptyingThem) {
   write("D:\\long.txt", "0123456789");
   write("D:\\EMPTY", "kept");
-  open_archive({{"LONG.TXT", "abc"}, {"EMPTY", ""}, {"TWICE", "first"}, {"TWICE", "2nd"}});
+  open_archive({{"LONG.TXT", "abc"}, {"EMPTY", ""}, {"Twice", "first"}, {"TWICE", "2nd"}});
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"),
-            (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"TWICE", "2ndst"}}));
+            (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"Twice", "2ndst"}}));
 }
 
 // A size below 0 takes nothing and moves nothing; offsets seek nothing.
@@ -45,25 +45,6 @@ TEST_F(extraction_test, CopesWithOffsetsOutOfOrder) {
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), (file_map{{"A", "0123456789"}, {"C", "abcde"}}));
   EXPECT_EQ(new_messages().front(), refusal + "\n>B<: the index gives it a size below 0");
-}
-
-// The progress window goes before the closing message, the dialog behind it.
-TEST_F(extraction_test, TellsEachEntryAndGivesTheMainWindowBackBehindTheClosingMessage) {
-  recording_screen screen;
-  open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
-  screen.texts.clear();
-  screen.at_refresh = [] { expect_progress("Ostrane.dat tool - File Extraction", true); };
-  screen.at_message = [] {
-    expect_progress("Ostrane.dat tool - ", false);
-    EXPECT_TRUE(Form4.Visible() && !Form1.Visible());
-  };
-  extract_into("");  // the root of the current drive
-  EXPECT_EQ(screen.texts,
-            (texts{"Extracting file: \\A.SHP\r\nFile number:      1\r\nTotal number of files:  2",
-                   "Extracting file: \\B C\r\nFile number:      2\r\nTotal number of files:  2"}));
-  EXPECT_EQ(screen.messages, texts{closing + "\\"});
-  EXPECT_EQ(read("C:\\A.SHP"), "a");
-  EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }
 
 // The dialog stays, and not even a folder comes into being.
@@ -137,34 +118,6 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
             (texts{refusal + "\n>OSTRANE.DAT<: it would be written over the open archive"
                              "\n>LINKED<: it would be written over the open archive",
                    closing + "C:\\"}));
-}
-
-TEST_F(extraction_test, MakesTheNewFolderAndGoesThereOrTellsWhyNot) {
-  open_archive({{"A.TXT", "a"}});
-  user::click(Form1.mnu_ext);
-  const struct {
-    std::string in, name, result;  // where the dialog stands then, the error, or nothing
-  } cases[] = {
-      {"D:\\", "   ", ""},        {"D:\\", "one", "D:\\one"}, {"D:\\one", " two", "D:\\one\\ two"},
-      {"D:\\", "ONE", "58"},      {"D:\\missing", "x", "53"}, {"Q:", "x", "68"},
-      {"", "three", "C:\\three"},
-  };
-  const std::string problem =
-      "Problem encountered while trying to make new Folder. The error reported from Windows is: "
-      "Error Number:  ";
-  std::string stands = Form4.Dir1.Path();
-  for (const auto& c : cases) {
-    user::type(Form4.Text1, c.in);
-    user::type(Form4.Text2, c.name);
-    user::click(Form4.Command1);
-    const bool made = c.result.size() > 2;
-    if (made) stands = c.result;
-    EXPECT_EQ((texts{Form4.Dir1.Path(), Form4.File1.Path(), Form4.Text1.Text()}),
-              (texts{stands, stands, made ? stands : c.in}));
-    EXPECT_EQ(new_messages(), made || c.result.empty() ? texts{} : texts{problem + c.result});
-    EXPECT_TRUE(fs::is_directory(place(stands))) << stands;
-  }
-  EXPECT_EQ(names_in("D:\\"), texts{"one"});
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 #include <sys/mount.h>
 
 #include <cerrno>
-#include <fstream>
 #include <set>
-#include <sstream>
 
 #include "child_process.h"
 #include "failing_calls.h"
@@ -23,8 +21,7 @@ struct file_job {
 // Calls that may fail unheard: those that tidy up, or come when the new file is in its place.
 const std::set<std::string> may_be_quiet = {"remove_file", "replace", "flush_folder", "close_read"};
 
-class failing_disk_test : public tool_test {
- protected:
+struct failing_disk_test : tool_test {
   // An archive is open; each job finds the file that it replaces.
   void prepare() {
     fs::remove_all(root / "d");
@@ -33,30 +30,28 @@ class failing_disk_test : public tool_test {
     write("D:\\work\\ostrane.dat", "the old one");
     write("D:\\out\\B.TXT", "older");  // stays, as its entry is empty
     write("D:\\lists\\shplist.txt", "old");
-    write("D:\\lists\\Shiplist-compare.txt", "old");
+    write("C:\\Shiplist-compare.txt", "old");
     write("D:\\ships.txt", "X\r\n\r\n");
     begin("D:\\lists");
     open_bytes(archive);
   }
   // With no archive open, as a new one would be read at once.
-  void build_afresh() {
+  static void build_afresh() {
     begin();
     build_in("D:\\work");
   }
   // All files on the drives, by names without regard to case: of each there is one.
-  file_map all_files() const {
+  static file_map all_files() {
     file_map there;
     for (const auto& found : fs::recursive_directory_iterator(root)) {
       if (!found.is_regular_file()) continue;
-      const std::string name = found.path().lexically_relative(root).string();
-      std::ostringstream bytes;
-      bytes << std::ifstream(found.path(), std::ios::binary).rdbuf();
-      EXPECT_TRUE(there.emplace(platform::upper_case(name), bytes.str()).second) << name;
+      const std::string name = platform::upper_case(found.path().lexically_relative(root).string());
+      EXPECT_TRUE(there.emplace(name, bytes_of(found.path())).second) << name;
     }
     return there;
   }
-  void check(const file_job& tried, const std::string& call, const std::string& words,
-             const file_map& before, const file_map& done) {
+  static void check(const file_job& tried, const std::string& call, const std::string& words,
+                    const file_map& before, const file_map& done) {
     const file_map after = all_files();
     for (const auto& [name, bytes] : after) {
       const auto is_whole_in = [&, &name = name, &bytes = bytes](const file_map& some) {
@@ -96,15 +91,15 @@ class failing_disk_test : public tool_test {
 // or as the job makes it, whole, and what was not done is told with its reason.
 TEST_F(failing_disk_test, EachFileIsTheOldOneOrTheNewOneWhole) {
   const file_job jobs[] = {
-      {[this] { build_afresh(); }, {" No new archive was made."}},
+      {[] { build_afresh(); }, {" No new archive was made."}},
       {[] { extract_into("D:\\out"); },
        {"not extracted:\n>", "was stopped. ", " Nothing was extracted."}},
       {[] { user::click(Form1.mnu_save); }, {"The list of files was not saved. "}},
       {[] { compare_with("D:\\", "ships.txt"); }, {" Nothing was compared."}},
       // A palette that cannot be read leaves the colours as they are.
-      {[this] { open_archive(); }, {"C:\\ostrane.dat"}, true},
-      {[this] { click_row("A.TXT"); }, {"C:\\ostrane.dat"}},
-      {[this] { click_row("I.SHP"); }, {"C:\\ostrane.dat"}},
+      {[] { open_archive(); }, {"C:\\ostrane.dat"}, true},
+      {[] { click_row("A.TXT"); }, {"C:\\ostrane.dat"}},
+      {[] { click_row("I.SHP"); }, {"C:\\ostrane.dat"}},
   };
   const std::pair<int, const char*> reasons[] = {{ENOSPC, "the disk is full"},
                                                  {EIO, "Input/output error"}};

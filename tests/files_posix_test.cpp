@@ -29,7 +29,7 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   }
   make_folder("D:\\folder");
   ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
-  std::filesystem::create_symlink("a.txt", place("D:\\link"));
+  fs::create_symlink("a.txt", place("D:\\link"));
   EXPECT_EQ(platform::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
   EXPECT_EQ(platform::folders_in("D:\\"), texts{"folder"});
 }

@@ -23,9 +23,7 @@ inline shp_icon plain_icon(int columns, int rows, std::uint8_t index) {
 
 inline std::vector<shp_icon> plain_icons(std::size_t count, int columns, int rows) {
   std::vector<shp_icon> icons;
-  while (icons.size() < count) {
-    icons.push_back(plain_icon(columns, rows, static_cast<std::uint8_t>(icons.size())));
-  }
+  for (std::uint8_t i = 0; icons.size() < count; ++i) icons.push_back(plain_icon(columns, rows, i));
   return icons;
 }
 
@@ -50,10 +48,9 @@ inline entry palette_entry() {
   return {"GAME.PAL", colours};
 }
 
-class icon_test : public tool_test {
- protected:
+struct icon_test : tool_test {
   // Opens an archive with the icon files and shows the first one, in colours that tell their index.
-  void show(const std::vector<std::vector<shp_icon>>& files) {
+  static void show(const std::vector<std::vector<shp_icon>>& files) {
     std::vector<entry> entries = {palette_entry(), {"N.TXT", "note"}};
     for (const auto& file : files) {
       const std::string number = std::to_string(entries.size() - 1);
@@ -85,9 +82,8 @@ class icon_test : public tool_test {
   static std::string places() {
     std::string text;
     for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
-      const platform::picture_box& shown = slot(i);
-      if (shown.Visible())
-        text += " " + std::to_string(shown.Left()) + "," + std::to_string(shown.Top());
+      if (!slot(i).Visible()) continue;
+      text += " " + std::to_string(slot(i).Left()) + "," + std::to_string(slot(i).Top());
     }
     return text;
   }

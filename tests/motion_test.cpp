@@ -3,8 +3,7 @@
 namespace ostrane {
 namespace {
 
-class motion_test : public icon_test {
- protected:
+struct motion_test : icon_test {
   // The number on show, where the slots stand, and what the buttons and the timer are ready for.
   static std::string state() {
     std::string text = Form1.Text3.Text() + ":" + places();
@@ -34,20 +33,13 @@ class motion_test : public icon_test {
   }
 };
 
-TEST_F(motion_test, SetsThePace) {
-  const struct {
-    const char* pace;
-    std::int32_t milliseconds;
-  } cases[] = {{"10", 100}, {"0", 100}, {"-3", 100}, {".5", 5}, {"99", 990}, {".1", 1}, {"x", 100}};
-  show({plain_icons(2, 1, 1)});
-  for (const auto& c : cases) {
-    user::type(Form1.Text4, c.pace);
-    user::click(Form1.Command5);
-    EXPECT_EQ(Form1.Timer1.Interval(), c.milliseconds) << c.pace;
-  }
-}
-
 TEST_F(motion_test, ShowsOneSlotAfterTheOtherAndStepsThroughTheStack) {
+  show({plain_icons(3, 1, 1)});
+  for (const auto& [pace, milliseconds] : {std::pair{"-3", 100}, {".1", 1}, {"99", 990}}) {
+    user::type(Form1.Text4, pace);
+    user::click(Form1.Command5);
+    EXPECT_EQ(Form1.Timer1.Interval(), milliseconds);
+  }
   show({plain_icons(3, 1, 1)});
   Form1.Command4.Enabled = true;
   follow({{">", " 1 -  3: 200,800 260,800 320,800 on"},
@@ -79,54 +71,31 @@ TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
   follow({{"ttt", " 1 -  2: 200,800 260,800"}});
 }
 
-class report_test : public icon_test {
- protected:
-  static void report(std::int32_t index) { user::double_click(Form1.s16_image, index); }
-};
+using report_test = icon_test;
 
-TEST_F(report_test, TellsTheNumbersOfAnIcon) {
-  user::type(Form1.Text5, "2");
-  std::vector<shp_icon> icons = plain_icons(4, 1, 1);
-  icons[3].head = {9, 63, -2, 3, 40, 8};
+TEST_F(report_test, TellsTheNumbersOfAnIconOnShow) {
+  std::vector<shp_icon> icons = {plain_icon(1, 1, 1), blank_icon(2, 2), plain_icon(1, 1, 1),
+                                 refused_icon(1, 1)};
+  icons[2].head = {9, 63, -2, 3, 40, 8};
+  user::type(Form1.Text5, "1");
   show({icons});
+  user::type(Form1.Text5, "9");
   user::click(Form1.Command6);
-  report(2);
-  EXPECT_TRUE(Form3.Visible());
-  EXPECT_EQ(Form3.Caption(), "Icon-data for picture number:  2, on this screen.");
-  EXPECT_EQ(Form3.message.Caption(),
-            "Number of cols(0-#)         :  63\r"
-            "Number of rows(0-#)         :  9\r"
-            "First column with data      : -2\r"
-            "Last column with data       :  40\r"
-            "First row with data         :  3\r"
-            "Last row with data          :  8\r"
-            "\r"
-            "Icon-number in shp-file     :  4\r"
-            "SHP-Startpos in Ostrane.dat :  1100\r"
-            "\r"
-            "Click >HERE< to make this message disappear...");
-  EXPECT_FALSE(Form3.ProgressBar1.Visible());
-  report(1);
-  EXPECT_EQ(Form3.Caption(), "Icon-data for picture number:  1, on this screen.");
-  user::click(Form3.message);
-  EXPECT_FALSE(Form3.Visible());
-  EXPECT_EQ(Form3.Caption() + Form3.message.Caption(), "");
-}
-
-TEST_F(report_test, AnswersOnlyForIconsOnShow) {
-  show({{plain_icon(1, 1, 1), blank_icon(2, 2), refused_icon(1, 1)}});
-  const auto answered = [] {
-    std::string numbers;
-    for (const std::int32_t index : {0, 1, 2, 3, 12}) {
-      report(index);
-      if (Form3.Visible()) numbers += " " + std::to_string(index);
-      Form3.Visible = false;
+  const auto reports = [] {
+    std::string told;
+    for (const std::int32_t slot : {0, 1, 2, 3, 12}) {
+      user::double_click(Form1.s16_image, slot);
+      told += Form3.Visible() ? Form3.Caption() + Form3.message.Caption() : "\n";
+      user::click(Form3.message);
     }
-    return numbers;
+    std::erase_if(told, [](char c) { return c > ' ' && (c < '0' || c > '9'); });
+    std::erase(told, ' ');
+    return told;
   };
-  EXPECT_EQ(answered(), " 1 2");
+  EXPECT_EQ(reports(),
+            "\n101\r01\r2\r1\r0\r1\r\r2\r1100\r\r2063\r09\r2\r40\r3\r8\r\r3\r1100\r\r\n\n");
   click_row("N.TXT");
-  EXPECT_EQ(answered(), "");
+  EXPECT_EQ(reports(), "\n\n\n\n\n");
 }
 
 }  // namespace

@@ -12,15 +12,14 @@ namespace ostrane {
 namespace {
 
 // Places that are not what they should be.
-class places_test : public tool_test {
- protected:
+struct places_test : tool_test {
   // What each command that reads or writes says, in a tool with an archive of one entry open, when
   // `spoil` has changed what is on the disk behind its back.
-  texts told_by_each_command(const std::function<void()>& spoil,
-                             const std::function<void()>& restore) {
+  static texts told_by_each_command(const std::function<void()>& spoil,
+                                    const std::function<void()>& restore) {
     const std::pair<std::function<void()>, std::function<void()>> commands[] = {
         {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
-        {[] {}, [&] { click_row("A.TXT"); }},
+        {[] {}, [] { click_row("A.TXT"); }},
         {[] {}, [] { extract_into("D:\\x"); }},
         {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); }},
         {[] {}, [] { user::click(Form1.mnu_save); }},
@@ -43,7 +42,7 @@ class places_test : public tool_test {
     return told;
   }
   // Puts what `make` makes in the place of each file.
-  void replace_all(const std::function<void(const fs::path&)>& make) const {
+  static void replace_all(const std::function<void(const fs::path&)>& make) {
     for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
       fs::remove(place("D:\\x") / name);
       make(place("D:\\x") / name);

@@ -1,46 +1,45 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <vector>
 
 #include "platform/screen.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
 
-// A screen that paints nothing and keeps what it was told, while it lives.
+// A screen that paints nothing and keeps what it was told of a job, while it lives.
 class recording_screen : public platform::screen {
  public:
   recording_screen() { platform::attach_screen(this); }
   ~recording_screen() override { platform::attach_screen(nullptr); }
 
-  std::vector<std::string> texts;     // of `message`, at each Refresh of `Form3`
-  std::vector<float> values_1;        // that `ProgressBar1.Value` went to
-  std::vector<float> values_2;        // that `ProgressBar2.Value` went to
-  std::vector<std::string> messages;  // of message boxes
-  std::function<void()> at_refresh;   // called at each Refresh of `Form3`
-  std::function<void()> at_message;   // called while a message box stands
+  texts told;         // by Form3 at each Refresh, and by message boxes, with the windows on show
+  std::string moves;  // of the bars, each to a value
+  std::function<void()> at_refresh = [] {};
 
-  // Forgets the values; the bar stands at one that no job gives it.
+  // The bars stand at a value that no job gives them.
   void begin_bars() {
     for (auto* bar : {&Form3.ProgressBar1, &Form3.ProgressBar2}) bar->Value = -1;
-    values_1 = values_2 = {};
+    moves.clear();
   }
 
   void refresh(platform::form& shown) override {
     if (&shown != &Form3) return;
-    texts.push_back(Form3.message.Caption());
-    if (at_refresh) at_refresh();
+    told.push_back(on_show() + Form3.Caption() + "|" + Form3.message.Caption());
+    at_refresh();
   }
+  // A change of the range alone leaves the value as it was told last.
   void control_changed(platform::control& changed, platform::aspect what) override {
     if (what != platform::aspect::range) return;
-    if (&changed == &Form3.ProgressBar1) keep(values_1, Form3.ProgressBar1);
-    if (&changed == &Form3.ProgressBar2) keep(values_2, Form3.ProgressBar2);
+    for (const int number : {1, 2}) {
+      const auto& bar = number == 1 ? Form3.ProgressBar1 : Form3.ProgressBar2;
+      if (&changed != &bar || bar.Value() == last_[number]) continue;
+      last_[number] = bar.Value();
+      moves += " " + std::to_string(number) + ":" + std::to_string(std::lround(bar.Value()));
+    }
   }
   void message_box(const std::string&, const std::string& text) override {
-    messages.push_back(text);
-    if (at_message) at_message();
+    told.push_back(on_show() + text);
   }
 
   void form_changed(platform::form&, platform::aspect) override {}
@@ -50,20 +49,18 @@ class recording_screen : public platform::screen {
   void end_process() override {}
 
  private:
-  // A change of the range alone leaves the value as it was kept last.
-  static void keep(std::vector<float>& values, const platform::progress_bar& bar) {
-    const float last = values.empty() ? -1 : values.back();
-    if (bar.Value() != last) values.push_back(bar.Value());
+  static std::string on_show() {
+    std::string windows = Form1.Visible() ? "main " : "";
+    if (Form4.Visible() || Form5.Visible()) windows += "dialog ";
+    if (Form3.Visible()) windows += "progress ";
+    for (const platform::control* part : std::initializer_list<const platform::control*>{
+             &Form3.ProgressBar1, &Form3.ProgressBar2, &Form3.Label1, &Form3.Label2}) {
+      windows += part->Visible() ? "+" : "-";
+    }
+    return windows + " ";
   }
-};
 
-// The progress window as it is in a job, or as a job leaves it.
-inline void expect_progress(const char* caption, bool working) {
-  EXPECT_EQ(Form3.Caption(), caption);
-  EXPECT_EQ(Form3.Visible(), working);
-  const platform::control* shown[] = {&Form3.ProgressBar1, &Form3.ProgressBar2, &Form3.Label1,
-                                      &Form3.Label2};
-  for (const platform::control* control : shown) EXPECT_EQ(control->Visible(), working);
-}
+  float last_[3] = {};
+};
 
 }  // namespace ostrane

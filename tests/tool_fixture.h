@@ -2,78 +2,69 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <map>
-#include <string>
-#include <vector>
+#include <random>
 
-#include "forms/forms.h"
-#include "handlers/start_up.h"
+#include "archive_writer.h"
 #include "platform/drives.h"
-#include "platform/message_box.h"
-#include "platform/user.h"
-#include "sample_files.h"
-#include "state/tool_state.h"
+#include "platform/little_endian.h"
+#include "tool_on_drives.h"
 
 namespace ostrane {
 
-namespace user = platform::user;
-namespace fs = std::filesystem;
-
-using entry = samples::sample_file;
-using texts = std::vector<std::string>;
-using file_map = std::map<std::string, std::string>;  // bytes by names
-
 // The bytes of an archive in normal form: the entries in this order, then the end record.
-std::string archive_bytes(const std::vector<entry>& entries);
+inline std::string archive_bytes(const std::vector<entry>& entries) {
+  return samples::archive_file(entries);
+}
+
+inline void open_archive(const std::vector<entry>& entries) { open_bytes(archive_bytes(entries)); }
+
+// `bytes` with another number of 32 bits in one place.
+inline std::string with_number(std::string bytes, std::size_t at, std::int32_t number) {
+  platform::put_int32(std::as_writable_bytes(std::span(bytes)), at, number);
+  return bytes;
+}
 
 // The bytes of an index alone: a count and records of offset and name.
-std::string index_bytes(std::int32_t count,
-                        const std::vector<std::pair<std::int32_t, std::string>>& records);
+inline std::string index_bytes(std::int32_t count,
+                               const std::vector<std::pair<std::int32_t, std::string>>& records) {
+  std::string bytes = with_number(std::string(4, '\0'), 0, count);
+  for (const auto& [offset, name] : records) {
+    bytes += with_number(std::string(4, '\0') + name, 0, offset);
+    bytes.resize(bytes.size() + 13 - name.size());
+  }
+  return bytes;
+}
 
 // `count` bytes that differ from their neighbours and from those of another seed.
-std::string some_bytes(std::size_t count, unsigned seed = 1);
+inline std::string some_bytes(std::size_t count, unsigned seed = 1) {
+  std::string bytes(count, ' ');
+  std::minstd_rand numbers(seed + 1);
+  for (char& c : bytes) c = static_cast<char>(numbers() >> 8U);
+  return bytes;
+}
 
-// A tool as a new process has it, on drives of its own: C: is an empty folder, D: another one, and
-// E: a drive that does not answer.
-class tool_test : public testing::Test {
- protected:
-  tool_test();
-  ~tool_test() override;
+// The first row of that name, or one that is not there.
+inline std::int32_t row_of(const std::string& name) {
+  std::int32_t row = 0;
+  while (row < Form1.List1.ListCount() && Form1.List1.List(row) != name) ++row;
+  EXPECT_LT(row, Form1.List1.ListCount()) << "no row " << name;
+  return row;
+}
 
-  // Begins the tool afresh in `current`, a path of the tool.
-  void begin(const std::string& current = "C:\\");
+inline void click_row(const std::string& name) { user::select_row(Form1.List1, row_of(name)); }
 
-  fs::path place(const std::string& path) const;
-  void write(const std::string& path, const std::string& bytes) const;
-  std::string read(const std::string& path) const;
-  bool exists(const std::string& path) const;
-  void make_folder(const std::string& path) const;
-  // Names in a folder, hidden ones too, ascending.
-  texts names_in(const std::string& folder) const;
-  // The bytes of the files in a folder by their names on this system, hidden ones too.
-  file_map files_in(const std::string& folder) const;
-
-  // Through Form2, as a user does it.
-  void open_archive(const std::string& folder = "C:\\");
-  void open_archive(const std::vector<entry>& entries);
-  void open_bytes(const std::string& bytes);
-  void click_row(const std::string& name);
-  // Through Form4, Form5 and Form6.
-  static void extract_into(const std::string& folder);
-  static void open_build_dialog(const std::string& folder = "C:\\work");
-  static void build_in(const std::string& folder = "C:\\work");
-  static void choose_shiplist(const std::string& folder, const std::string& name);
-  static void compare_with(const std::string& folder, const std::string& name);
-
-  // The messages since the last call.
-  texts new_messages();
-
-  fs::path root;
-
- private:
-  std::int32_t row_of(const std::string& name) const;
-  std::size_t told_ = 0;
+// A tool as a new process has it, on empty drives.
+struct tool_test : testing::Test {
+  tool_test() {
+    root = new_folder();
+    empty_drives();
+    begin();
+  }
+  ~tool_test() override {
+    platform::set_drives({});
+    std::error_code left;
+    fs::remove_all(root, left);
+  }
 };
 
 }  // namespace ostrane

@@ -2,12 +2,9 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPaintEvent>
-#include <QPushButton>
 #include <QTest>
 #include <map>
 #include <string>
@@ -16,8 +13,6 @@
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
 #include "desktop/qt_screen.h"
-#include "desktop/screen_text.h"
-#include "desktop/wrapped_text.h"
 #include "forms/forms.h"
 #include "platform/application.h"
 #include "platform/events.h"
@@ -76,24 +71,38 @@ class Desktop : public ::testing::Test {
     return window;
   }
 
+  QWidget& show_active() {
+    QWidget& window = show(form);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    return window;
+  }
+
   platform::picture_box& picture() { return form.s16_image(1); }
 
   desktop::qt_screen screen;
   ostrane::form1 form;  // with nothing wired to it
 };
 
+// Each pixel is painted by itself, as when a part alone has changed.
 TEST_F(Desktop, APictureIsOnTheScreenPixelByPixel) {
   picture().PSet(0, 0, platform::rgb(255, 0, 0));
   picture().PSet(2, 3, platform::rgb(1, 2, 250));
   picture().Visible = true;
-  const QImage frame = widget_of(show(form), form.Frame1)->grab().toImage();
-  std::map<QRgb, char> letters = {
-      {qRgb(255, 0, 0), 'R'}, {qRgb(1, 2, 250), 'B'}, {qRgb(9, 8, 7), '-'}};
-  letters[frame.pixel(16, 56)] = '#';
-  letters[frame.pixel(15, 55)] = ' ';
+  QWidget* frame = widget_of(show(form), form.Frame1);
+  QImage pixel(1, 1, QImage::Format_RGB32);
+  const auto painted = [&](int x, int y) {
+    frame->render(&pixel, {}, QRect(x, y, 1, 1));
+    return pixel.pixel(0, 0);
+  };
+  std::map<QRgb, char> letters = {{qRgb(255, 0, 0), 'R'},
+                                  {qRgb(1, 2, 250), 'B'},
+                                  {qRgb(9, 8, 7), '-'},
+                                  {painted(16, 56), '#'},
+                                  {painted(15, 55), ' '}};
   std::string seen;
   for (int y = 55; y < 63; ++y) {
-    for (int x = 15; x < 22; ++x) seen += letters[frame.pixel(x, y)];  // NUL for any other colour
+    for (int x = 15; x < 22; ++x) seen += letters[painted(x, y)];  // NUL for any other colour
     seen += '|';
   }
   EXPECT_EQ(seen,
@@ -159,9 +168,7 @@ TEST_F(Desktop, WhatTheUserDoesReachesTheTool) {
   form.s16_image.DblClick = [&](int i) { log += "picture" + std::to_string(i) + " "; };
   form.Unload = [&] { log += "close "; };
   picture().Visible = true;
-  QWidget& window = show(form);
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QWidget& window = show_active();
   auto* list = static_cast<QAbstractItemView*>(widget_of(window, form.List1));
   QWidget* button = widget_of(window, form.Command3);
   QWidget* field = widget_of(window, form.Text4);
@@ -217,9 +224,7 @@ TEST_F(Desktop, KeysReachEveryPictureOnShow) {
     form.s16_image(i).Move(places[i].x(), places[i].y());
     form.s16_image(i).Visible = i != 2;
   }
-  QWidget& window = show(form);
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QWidget& window = show_active();
   QWidget* field = widget_of(window, form.Text1);
   QWidget* frame = widget_of(window, form.Frame1);
   const auto has_cursor = [&] {  // round the first picture
@@ -282,32 +287,6 @@ TEST_F(Desktop, MenusAreInTheToolsFontOnADesktopWithAnotherOne) {
     EXPECT_EQ(shown->menu()->font().pixelSize(), desktop::font_for({}).pixelSize());
   }
   QApplication::setFont(QFont());
-}
-
-TEST_F(Desktop, NothingIsCutOffAtTheDesignSize) {
-  ostrane::make_forms_afresh();
-  for (platform::form* designed :
-       std::initializer_list<platform::form*>{&ostrane::Form1, &ostrane::Form2, &ostrane::Form3,
-                                              &ostrane::Form4, &ostrane::Form5, &ostrane::Form6}) {
-    const QWidget& window = show(*designed);
-    const auto fits = [&](const QWidget& widget, const QString& text, int margin) {
-      EXPECT_LE(desktop::wrapped_height(text, widget.font(), widget.width() - margin),
-                widget.height())
-          << designed->designed.name << " " << text.toStdString();
-    };
-    for (const auto* label : window.findChildren<QLabel*>()) fits(*label, label->text(), 0);
-    for (const auto* button : window.findChildren<QPushButton*>()) fits(*button, button->text(), 6);
-    for (const auto* field : window.findChildren<QLineEdit*>()) fits(*field, "Xg", 0);
-    platform::run_event([&] { designed->Visible = false; });
-  }
-}
-
-TEST_F(Desktop, TextKeepsItsCharactersOnTheWayToTheScreenAndBack) {
-  std::string all;
-  for (int c = 1; c < 256; ++c) all += static_cast<char>(c);
-  EXPECT_EQ(desktop::from_screen(desktop::to_screen(all)), all);
-  EXPECT_EQ(desktop::with_plain_breaks("a\r\nb\rc\nd\n\re", true), "a\nb\nc\nd\ne");
-  EXPECT_EQ(desktop::with_plain_breaks("a\n\rb"), "a\n\nb");
 }
 
 }  // namespace

@@ -1,0 +1,79 @@
+#include "recording_screen.h"
+
+namespace ostrane {
+namespace {
+
+using progress_test = tool_test;
+
+// The progress window goes before the closing message. A build gives the main window back before
+// it, an extraction behind it.
+TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
+  recording_screen screen;
+  write("C:\\work\\A b.txt", "a");
+  const std::string building = "dialog progress ++++ Ostrane.dat tool - Make new Ostrane.dat|";
+  const std::string offsets = "Calculation internal offsets for the files in Ostrane.dat";
+  build_in();
+  EXPECT_EQ(screen.told,
+            (texts{building, building + offsets, building + offsets,
+                   building + "Current File : C:\\work\\A b.txt\r\nCurrent File Number:  0\r\n"
+                              "Total Number of Files:  1",
+                   "main ---- Your new Ostrane.dat has been created and saved in:"
+                   "C:\\work\\ostrane.dat"}));
+  open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
+  screen.told.clear();
+  extract_into("");  // the root of the current drive
+  const std::string extracting = "dialog progress ++++ Ostrane.dat tool - File Extraction|";
+  EXPECT_EQ(screen.told,
+            (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1\r\n"
+                                "Total number of files:  2",
+                   extracting + "Extracting file: \\B C\r\nFile number:      2\r\n"
+                                "Total number of files:  2",
+                   "dialog ---- All files from Ostrane.dat has been extracted into: \\"}));
+  EXPECT_EQ(read("C:\\A.SHP"), "a");
+  EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
+}
+
+// In building, and in extracting what was built: the ends of both bars, and where they went.
+TEST_F(progress_test, BarsMoveAtTheirPaces) {
+  const struct {
+    std::size_t files, size;
+    const char* built;
+    const char* extracted;
+  } cases[] = {
+      {0, 0, "1 100", "0 100"},
+      {48, 1, "49 1", "47 1"},
+      {97, 1, "98 1 2:96", "96 1 2:48"},
+      {194, 0, "195 0 2:96 2:193", "193 0 2:48 2:97 2:146"},
+      {4, 700, "5 700", "3 700 1:384 1:128"},
+      {3, 1024, "4 1024", "2 1024 1:128 1:256"},
+      {2, 1025, "3 1025 1:1024", "1 1025 1:1024"},
+      {1, 20000, "2 20000 1:8192 1:16384 1:1024 1:2048 1:3072",
+       "0 20000 1:8192 1:16384 1:1024 1:2048 1:3072"},
+  };
+  recording_screen screen;
+  const auto bars = [&screen] {
+    const float ends[] = {Form3.ProgressBar2.Max(), Form3.ProgressBar1.Max()};
+    std::string all = std::to_string(std::lround(ends[0])) + " ";
+    all += std::to_string(std::lround(ends[1])) + screen.moves;
+    EXPECT_TRUE(Form3.ProgressBar1.filled() >= 0 && Form3.ProgressBar2.filled() <= 1);
+    screen.begin_bars();
+    return all;
+  };
+  for (const auto& c : cases) {
+    fs::remove_all(place("C:\\work"));
+    make_folder("C:\\work");
+    for (std::size_t i = 0; i < c.files; ++i) {
+      write("C:\\work\\" + std::to_string(i), std::string(c.size, 'x'));
+    }
+    begin();
+    screen.begin_bars();
+    build_in();
+    EXPECT_EQ(bars(), c.built);
+    open_archive("C:\\work");
+    extract_into("D:\\");
+    EXPECT_EQ(bars(), c.extracted);
+  }
+}
+
+}  // namespace
+}  // namespace ostrane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "forms/forms.h"
+#include "platform/message_box.h"
+#include "platform/user.h"
+#include "sample_files.h"
+#include "state/tool_state.h"
+
+// The tool on drives of its own, and what its user does there in several steps.
+namespace ostrane {
+
+namespace user = platform::user;
+namespace fs = std::filesystem;
+
+using entry = samples::sample_file;
+using texts = std::vector<std::string>;
+using file_map = std::map<std::string, std::string>;  // bytes by names
+
+extern fs::path root;  // the folder of the drives
+
+fs::path new_folder();
+
+// C: has an empty folder "program", D: nothing.
+void empty_drives();
+
+// Begins the tool afresh in `current`, a path of the tool. E: is a drive that does not answer.
+void begin(const std::string& current = "C:\\");
+
+fs::path place(const std::string& path);
+void write(const std::string& path, const std::string& bytes);
+std::string bytes_of(const fs::path& file);
+std::string read(const std::string& path);
+void make_folder(const std::string& path);
+// Names in a folder, hidden ones too, ascending.
+texts names_in(const std::string& folder);
+// The bytes of the files in a folder by their names on this system, hidden ones too.
+file_map files_in(const std::string& folder);
+
+// Through the dialogs.
+void open_archive(const std::string& folder = "C:\\");
+void open_bytes(const std::string& archive);
+void extract_into(const std::string& folder);
+void open_build_dialog(const std::string& folder = "C:\\work");
+void build_in(const std::string& folder = "C:\\work");
+void choose_shiplist(const std::string& folder, const std::string& name);
+void compare_with(const std::string& folder, const std::string& name);
+
+// The messages since the last call.
+texts new_messages();
+
+}  // namespace ostrane
