@@ -9,26 +9,26 @@ using progress_test = tool_test;
 // it, an extraction behind it.
 TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
   recording_screen screen;
-  write("C:\\work\\A b.txt", "a");
-  const std::string building = "dialog progress ++++ Ostrane.dat tool - Make new Ostrane.dat|";
+  for (const char* folder : {"C:\\", "C:\\program\\"}) write(folder + std::string("A b.txt"), "a");
+  begin("C:\\program");
+  const std::string building = "dialog progress bars Ostrane.dat tool - Make new Ostrane.dat|";
   const std::string offsets = "Calculation internal offsets for the files in Ostrane.dat";
-  build_in();
-  EXPECT_EQ(screen.told,
-            (texts{building, building + offsets, building + offsets,
-                   building + "Current File : C:\\work\\A b.txt\r\nCurrent File Number:  0\r\n"
-                              "Total Number of Files:  1",
-                   "main ---- Your new Ostrane.dat has been created and saved in:"
-                   "C:\\work\\ostrane.dat"}));
+  user::click(Form1.mnu_make);
+  user::click(Form5.Command1);  // fields without a folder mean the root of the current drive
+  EXPECT_EQ(screen.told, (texts{building, building + offsets, building + offsets,
+                                building + "Current File : \\A b.txt\r\nCurrent File Number:  0\r\n"
+                                           "Total Number of Files:  1",
+                                "main Your new Ostrane.dat has been created and saved in:"
+                                "\\ostrane.dat"}));
   open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
   screen.told.clear();
-  extract_into("");  // the root of the current drive
-  const std::string extracting = "dialog progress ++++ Ostrane.dat tool - File Extraction|";
-  EXPECT_EQ(screen.told,
-            (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1\r\n"
-                                "Total number of files:  2",
-                   extracting + "Extracting file: \\B C\r\nFile number:      2\r\n"
-                                "Total number of files:  2",
-                   "dialog ---- All files from Ostrane.dat has been extracted into: \\"}));
+  extract_into("");
+  const std::string extracting = "dialog progress bars Ostrane.dat tool - File Extraction|";
+  EXPECT_EQ(screen.told, (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1\r\n"
+                                             "Total number of files:  2",
+                                extracting + "Extracting file: \\B C\r\nFile number:      2\r\n"
+                                             "Total number of files:  2",
+                                "dialog All files from Ostrane.dat has been extracted into: \\"}));
   EXPECT_EQ(read("C:\\A.SHP"), "a");
   EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }

@@ -53,11 +53,8 @@ class recording_screen : public platform::screen {
     std::string windows = Form1.Visible() ? "main " : "";
     if (Form4.Visible() || Form5.Visible()) windows += "dialog ";
     if (Form3.Visible()) windows += "progress ";
-    for (const platform::control* part : std::initializer_list<const platform::control*>{
-             &Form3.ProgressBar1, &Form3.ProgressBar2, &Form3.Label1, &Form3.Label2}) {
-      windows += part->Visible() ? "+" : "-";
-    }
-    return windows + " ";
+    if (Form3.ProgressBar1.Visible()) windows += "bars ";
+    return windows;
   }
 
   float last_[3] = {};

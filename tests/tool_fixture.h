@@ -43,15 +43,13 @@ inline std::string some_bytes(std::size_t count, unsigned seed = 1) {
   return bytes;
 }
 
-// The first row of that name, or one that is not there.
-inline std::int32_t row_of(const std::string& name) {
+// The first row of that name.
+inline void click_row(const std::string& name) {
   std::int32_t row = 0;
   while (row < Form1.List1.ListCount() && Form1.List1.List(row) != name) ++row;
   EXPECT_LT(row, Form1.List1.ListCount()) << "no row " << name;
-  return row;
+  user::select_row(Form1.List1, row);
 }
-
-inline void click_row(const std::string& name) { user::select_row(Form1.List1, row_of(name)); }
 
 // A tool as a new process has it, on empty drives.
 struct tool_test : testing::Test {

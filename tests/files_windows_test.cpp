@@ -1,0 +1,23 @@
+#include "platform/binary_file.h"
+#include "platform/file_error.h"
+#include "tool_fixture.h"
+
+namespace ostrane {
+namespace {
+
+using files_windows_test = tool_test;
+
+// Neither devices, whatever folder they are named in, nor hidden parts of files, nor other drives.
+TEST_F(files_windows_test, OpensNormalFilesAlone) {
+  write("C:\\a.txt", "a");
+  for (const char* name : {"NUL", "con", "COM1", "Com1.txt", "program", "a.txt:part", "D:x"}) {
+    const std::string path = std::string("C:\\") + name;
+    platform::binary_file file;
+    EXPECT_THROW(file.open_to_read(path), platform::file_error) << path;
+    EXPECT_THROW(file.open_to_write(path), platform::file_error) << path;
+  }
+  EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
+}
+
+}  // namespace
+}  // namespace ostrane
