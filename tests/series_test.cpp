@@ -181,5 +181,12 @@ TEST_F(series_test, ANextSeriesNeverMixesTwoArchives) {
   }
 }
 
+TEST_F(series_test, AnArchiveThatIsGoneGivesAnEmptySeries) {
+  show({plain_icons(3, 1, 1)});
+  fs::remove(place("C:\\ostrane.dat"));
+  click_row("F1.SHP");
+  EXPECT_EQ(view(), "0: 1 -  0:");
+}
+
 }  // namespace
 }  // namespace ostrane
