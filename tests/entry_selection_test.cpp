@@ -106,7 +106,7 @@ TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
 
 TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
   std::string colours(1024, '\0');
-  colours.replace(4 * 17, 4, "\x88\xE4\xE8z");
+  colours.replace(68, 4, "\x88\xE4\xE8z");
   open_archive({{"MANY.SHP", dots(300)}, {"GAME.PAL", colours}, {"A.SHP", dots(1)}});
   const auto slot = [](std::int32_t number) -> auto& { return Form1.s16_image(number); };
   click_row("MANY.SHP");

@@ -15,20 +15,19 @@ TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
   const std::string offsets = "Calculation internal offsets for the files in Ostrane.dat";
   user::click(Form1.mnu_make);
   user::click(Form5.Command1);  // fields without a folder mean the root of the current drive
+  const std::string file = "Current File : \\A b.txt\r\nCurrent File Number:  0\r\n";
+  const std::string made = "main Your new Ostrane.dat has been created and saved in:\\ostrane.dat";
   EXPECT_EQ(screen.told, (texts{building, building + offsets, building + offsets,
-                                building + "Current File : \\A b.txt\r\nCurrent File Number:  0\r\n"
-                                           "Total Number of Files:  1",
-                                "main Your new Ostrane.dat has been created and saved in:"
-                                "\\ostrane.dat"}));
+                                building + file + "Total Number of Files:  1", made}));
   open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
   screen.told.clear();
   extract_into("");
   const std::string extracting = "dialog progress bars Ostrane.dat tool - File Extraction|";
-  EXPECT_EQ(screen.told, (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1\r\n"
-                                             "Total number of files:  2",
-                                extracting + "Extracting file: \\B C\r\nFile number:      2\r\n"
-                                             "Total number of files:  2",
-                                "dialog All files from Ostrane.dat has been extracted into: \\"}));
+  const std::string of_2 = "\r\nTotal number of files:  2";
+  EXPECT_EQ(screen.told,
+            (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1" + of_2,
+                   extracting + "Extracting file: \\B C\r\nFile number:      2" + of_2,
+                   "dialog All files from Ostrane.dat has been extracted into: \\"}));
   EXPECT_EQ(read("C:\\A.SHP"), "a");
   EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }

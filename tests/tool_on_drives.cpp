@@ -26,8 +26,9 @@ fs::path root;
 fs::path new_folder() {
   std::random_device any;
   fs::path made;
-  do made = fs::temp_directory_path() / ("tool-test-" + std::to_string(any()));
-  while (!fs::create_directory(made));
+  do {
+    made = fs::temp_directory_path() / ("tool-test-" + std::to_string(any()));
+  } while (!fs::create_directory(made));
   return made;
 }
 
