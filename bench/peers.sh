@@ -54,7 +54,7 @@ list_names() { wall tar -tf "$data/names.tar"; }
 sort_and_comm() { wall bash -c "LC_ALL=C sort '$data/names/shuffled' | LC_ALL=C comm - '$data/names/in_order'"; }
 untar() { in_new_folder wall tar -C "$data/tar" -xf "$data/files.tar"; }
 tar_up() { without_archive wall tar -C "$data/files" -cf "$data/new.tar" .; }
-job() { wall "$bin/bench_job" "$1" "$data/$2"; }
+job() { told "$bin/bench_job" "$1" "$data/$2"; }
 window() { told "$bin/bench_window" "$@"; }
 bare() { told "$bin/bench_bare_qt" "$@"; }
 
@@ -100,7 +100,7 @@ programs() {
 windows() { # PLATFORM
   local on=$1
   row "series of 300 icons, $on; painted once" 3 ms 1000 window icons "$data/icons" 300 -- bare icons 300
-  row "the same; painted one by one, $on" '' ms 1000 window icons "$data/icons" 300 -- bare refreshes 300
+  row "the same; one by one behind a message, $on" '' ms 1000 window icons "$data/icons" 300 -- bare refreshes 300
   row "series of 999 icons, $on; of 500" 2.2 ms 1000 window icons "$data/icons" 999 -- \
     window icons "$data/icons" 500
   row "32 KB of text, $on; \`setPlainText\`" 1.5 ms 1000 window text "$data/icons" -- \

@@ -13,19 +13,33 @@ namespace {
 
 constexpr std::size_t most_lines = 32768;
 
+// The first characters of a line's key as two numbers, which are less where the characters are:
+// names are told apart by them without a look at the lines.
 struct place_in_order {
-  std::uint64_t first_characters = 0;
+  std::uint64_t first = 0;
+  std::uint64_t second = 0;
   std::size_t line = 0;
 };
 
-// As a number, which is less where the characters are: most keys are told apart without a look at
-// them.
-std::uint64_t first_characters(const std::string& key) {
+std::uint64_t as_number(std::string_view key, std::size_t from) {
   std::uint64_t number = 0;
-  for (std::size_t i = 0; i < sizeof(number); ++i) {
+  for (std::size_t i = from; i < from + sizeof(number); ++i) {
     number = number << 8U | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
   }
   return number;
+}
+
+place_in_order place_of(const std::string& line, std::size_t number) {
+  const std::string key = compare_key(line);
+  return {as_number(key, 0), as_number(key, sizeof(std::uint64_t)), number};
+}
+
+// Below 0, 0 or above it, as the key of the one is less, the same or greater.
+int difference(const place_in_order& a, const place_in_order& b) {
+  if (a.first != b.first) return a.first < b.first ? -1 : 1;
+  if (a.second != b.second) return a.second < b.second ? -1 : 1;
+  const std::vector<std::string>& lines = tool_state.shiplist_lines;
+  return compare_key(lines[a.line]).compare(compare_key(lines[b.line]));
 }
 
 }  // namespace
@@ -51,20 +65,14 @@ void read_shiplist(const std::string& path) {
 void sort_shiplist() {
   std::vector<std::string>& lines = tool_state.shiplist_lines;
   const auto count = static_cast<std::size_t>(tool_state.shiplist_last);
-  std::vector<std::string> keys(count);
-  std::vector<place_in_order> order(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    keys[i] = compare_key(lines[i]);
-    order[i] = {first_characters(keys[i]), i};
-  }
-  std::sort(order.begin(), order.end(), [&keys](const place_in_order& a, const place_in_order& b) {
-    if (a.first_characters != b.first_characters) return a.first_characters < b.first_characters;
-    const int difference = keys[a.line].compare(keys[b.line]);
-    return difference == 0 ? a.line < b.line : difference < 0;
+  std::vector<place_in_order> order;
+  order.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) order.push_back(place_of(lines[i], i));
+  std::sort(order.begin(), order.end(), [](const place_in_order& a, const place_in_order& b) {
+    const int way = difference(a, b);
+    return way == 0 ? a.line < b.line : way < 0;
   });
-  const auto same = [&keys](const place_in_order& a, const place_in_order& b) {
-    return keys[a.line] == keys[b.line];
-  };
+  const auto same = [](const auto& a, const auto& b) { return difference(a, b) == 0; };
   order.erase(std::unique(order.begin(), order.end(), same), order.end());
   std::vector<std::string> sorted;
   sorted.reserve(order.size() + 1);

@@ -48,13 +48,14 @@ bool is_there(const fs::path& place) {
 }  // namespace
 
 fs::path find_in_folder(const fs::path& folder, const std::string& name) {
-  fs::path exact = folder / system_name(name);
+  const fs::path as_given = system_name(name);
+  fs::path exact = folder / as_given;
   remembered_folder& known = remembered[folder.native()];
   const bool one_by_one = !known.is_read && ++known.asked <= asked_one_by_one;
   if (one_by_one && is_there(exact)) return exact;
   read_names(known, folder);
   const auto found = known.names.find(upper_case(name));
-  if (found == known.names.end() || exact.filename() == found->second || is_there(exact)) {
+  if (found == known.names.end() || found->second == as_given.native() || is_there(exact)) {
     return exact;
   }
   fs::path other_case = folder / found->second;
