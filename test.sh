@@ -13,7 +13,7 @@ build=${OSTRANE_BUILD:-build-test}
 export QT_QPA_PLATFORM=offscreen
 
 need_packages "${build_packages[@]}" libgtest-dev
-[ -z "${CI:-}" ] || need_packages clang-format clang-tidy desktop-file-utils appstream dpkg-dev
+[ -z "${CI:-}" ] || need_packages clang-format clang-tidy desktop-file-utils appstream dpkg-dev file
 ! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 
 configure_and_build() {
