@@ -33,8 +33,8 @@ wrapped_text::band wrapped_text::set(const QString& text, const QFont& font,
     p.top = top;
     top += p.height;
   }
-  if (top < before || !as_before)
-    return {as_before ? std::min(changed.top, top) : 0, std::max(top, before)};
+  if (!as_before) return {0, std::max(top, before)};
+  if (top < before) return {std::min(changed.top, top), before};
   return changed;
 }
 
