@@ -6,7 +6,8 @@
 namespace platform {
 
 // The place of `name` in `folder`: the exact name if it is there, else one that differs in case
-// only, else the name as given. A folder is read once and then remembered until forget_folders.
+// only, else the name as given. A folder is read once at most
+// and remembered until forget_folders.
 std::filesystem::path find_in_folder(const std::filesystem::path& folder, const std::string& name);
 
 // The place of a folder of the tool that was looked up before, or null; and keeping it.
