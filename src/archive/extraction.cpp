@@ -102,8 +102,9 @@ void extract_entries(extraction& job) {
 
 // Why nothing can be extracted at all, or nothing. Leaves the archive open.
 std::string open_both_ends(const extraction& job) {
-  if (Form1.List1.ListCount() != tool_state.record_count)
+  if (Form1.List1.ListCount() != tool_state.record_count) {
     return "No archive is open. Read one first.";
+  }
   if (!platform::folder_exists(job.target_folder)) {
     return "The folder " + job.target_folder + " is not there. Make it or choose another.";
   }
