@@ -5,15 +5,13 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
-#include <clocale>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <iostream>
 #include <string>
 
-#include "desktop/designed_look.h"
-#include "desktop/desktop_style.h"
+#include "desktop/application_setup.h"
 #include "desktop/exposure.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
@@ -86,10 +84,7 @@ int main(int argc, char** argv) {
   }
   desktop::send_pixels_without_waiting();
   const QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
-  QApplication::setStyle(new desktop::desktop_style);
-  QApplication::setFont(desktop::font_for({}));
-  QApplication::setQuitOnLastWindowClosed(false);
+  desktop::set_up_application();
   screen shown;
   platform::attach_screen(&shown);
   const std::filesystem::path folder = std::filesystem::absolute(argv[2]);

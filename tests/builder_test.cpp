@@ -75,7 +75,7 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
       {[&] { fs::resize_file(b, 2147483647); }, nothing,
        "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
        "be."},
-      {[&] { user::type(Form5.Text1, "Q:\\"); }, nothing, "There is no drive Q:"},
+      {[&] { user::type(Form5.Text1, "Q:\\"); }, nothing, "There is no drive Q."},
   };
   for (const auto& c : cases) {
     begin_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});

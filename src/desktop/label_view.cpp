@@ -36,7 +36,7 @@ void label_view::show_content() {
   setAccessibleName(caption);
   if (text_top() != old_top) {
     update();
-  } else {
+  } else if (changed.bottom > changed.top) {
     update(0, old_top + changed.top, width(), changed.bottom - changed.top);
   }
 }

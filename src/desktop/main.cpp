@@ -1,10 +1,8 @@
 #include <QApplication>
 #include <QIcon>
-#include <clocale>
 
+#include "desktop/application_setup.h"
 #include "desktop/command_line.h"
-#include "desktop/designed_look.h"
-#include "desktop/desktop_style.h"
 #include "desktop/exposure.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
@@ -29,11 +27,7 @@ int main(int argc, char** argv) {
   if (desktop::answer_command_line(argc, argv)) return 0;
   desktop::send_pixels_without_waiting();
   const QApplication application(argc, argv);
-  // Qt takes the user's locale for the whole process; numbers of the tool have their own form.
-  std::setlocale(LC_NUMERIC, "C");
-  QApplication::setStyle(new desktop::desktop_style);
-  QApplication::setFont(desktop::font_for({}));
-  QApplication::setQuitOnLastWindowClosed(false);
+  desktop::set_up_application();
   set_program_icon();
   desktop::qt_screen screen;
   platform::attach_screen(&screen);

@@ -32,6 +32,8 @@ void progress_view::show_content() {
   update(1 + left, 1, right - left, height() - 2);
 }
 
+void progress_view::resizeEvent(QResizeEvent* /*event*/) { show_content(); }
+
 void progress_view::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QRect inner = rect().adjusted(1, 1, -1, -1);

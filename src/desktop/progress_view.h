@@ -16,6 +16,7 @@ class progress_view : public QProgressBar, public control_view {
 
  protected:
   void show_content() override;
+  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -20,14 +20,15 @@ wrapped_text::band wrapped_text::set(const QString& text, const QFont& font,
   int top = 0;
   for (qsizetype i = 0; i < parts.size(); ++i) {
     paragraph& p = paragraphs_[static_cast<std::size_t>(i)];
-    const int old_bottom = p.top + p.height;
+    const int old_top = p.layout == nullptr ? top : p.top;
+    const int old_bottom = old_top + p.height;
     const bool other = p.layout == nullptr || p.text != parts[i];
     if (other) {
       p.text = parts[i];
       lay_out(p);
     }
     if (other || p.top != top) {
-      changed.top = std::min({changed.top, p.top, top});
+      changed.top = std::min({changed.top, old_top, top});
       changed.bottom = std::max({changed.bottom, old_bottom, top + p.height});
     }
     p.top = top;

@@ -11,7 +11,8 @@ namespace platform {
 void drive_list::set_drive(const std::string& text) {
   const drive* named = find_drive(drive_letter(text));
   if (named == nullptr) {
-    throw file_error{file_error_number::device_unavailable, "There is no drive " + text};
+    throw file_error{file_error_number::device_unavailable,
+                     "There is no drive " + text.substr(0, 1) + "."};
   }
   const std::string wanted = drive_text(*named);
   if (wanted == Drive()) return;

@@ -36,14 +36,15 @@ void walk(std::vector<std::string>& names, std::string_view path) {
 bool is_drive_text(std::string_view path) { return path.size() > 2 && path[2] == ' '; }
 
 [[noreturn]] void say_that_there_is_no_drive(const std::string& path) {
-  throw file_error{file_error_number::device_unavailable, "There is no drive " + path.substr(0, 2)};
+  throw file_error{file_error_number::device_unavailable,
+                   "There is no drive " + path.substr(0, 1) + "."};
 }
 
 // On Windows a colon in a name would lead to another drive or into a hidden part of a file.
 constexpr bool drives_are_the_systems = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void say_that_it_is_no_name(const std::string& path) {
-  throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon"};
+  throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon."};
 }
 
 std::vector<std::string> names_of(const std::string& whole_path) {

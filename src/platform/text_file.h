@@ -35,7 +35,6 @@ class text_writer {
   explicit text_writer(const std::string& path);
 
   // `line` comes without its end.
-
   void write_line(std::string_view line);
   void close();
 

@@ -9,9 +9,9 @@
 #include <map>
 #include <string>
 
+#include "desktop/application_setup.h"
 #include "desktop/control_view.h"
 #include "desktop/designed_look.h"
-#include "desktop/desktop_style.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
 #include "platform/application.h"
@@ -294,7 +294,6 @@ TEST_F(Desktop, MenusAreInTheToolsFontOnADesktopWithAnotherOne) {
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
-  QApplication::setStyle(new desktop::desktop_style);
-  QApplication::setQuitOnLastWindowClosed(false);
+  desktop::set_up_application();
   return RUN_ALL_TESTS();
 }
