@@ -1,3 +1,6 @@
+#include <fstream>
+#include <functional>
+
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -62,6 +65,27 @@ TEST_F(dialogs_test, FollowsTheDriveAndHandsBackWhenCancelled) {
       user::click(d.cancel);
       EXPECT_TRUE(Form1.Visible() && Form1.Enabled() && !d.window.Visible());
       user::click(d.menu);
+    }
+  });
+}
+
+// Asked for it, by a key or by opening the open folder again, it shows what came meanwhile.
+TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
+  with_each([](const dialog& d) {
+    d.Dir1.Path = "D:\\Sub\\Deep";
+    const std::function<void()> ways[] = {[&] { user::read_anew(d.window); },
+                                          [&] { user::open_folder(d.Dir1, d.Dir1.open_row()); }};
+    for (const auto& ask : ways) {
+      const auto folders = d.Dir1.rows().size();
+      make_folder("D:\\Sub\\Deep\\Came");
+      const fs::path file = place("D:\\Sub\\Deep\\ostrane.dat");
+      std::ofstream(d.File1.Pattern() == "*.txt" ? fs::path(file).replace_extension(".txt") : file);
+      ask();
+      EXPECT_EQ(d.Dir1.rows().size(), folders + 1);
+      EXPECT_EQ(d.File1.ListCount(), 1);
+      for (const auto& entry : fs::directory_iterator(file.parent_path())) fs::remove(entry);
+      ask();
+      EXPECT_EQ(d.File1.ListCount(), 0);
     }
   });
 }

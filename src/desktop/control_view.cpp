@@ -16,6 +16,13 @@ constexpr unsigned bit(aspect what) { return 1U << static_cast<unsigned>(what); 
 constexpr unsigned content =
     bit(aspect::caption) | bit(aspect::text) | bit(aspect::items) | bit(aspect::range);
 
+// The window's layout puts the lower edge of its list a pixel below the window, where it would not
+// be seen.
+QRect with_edge_in_sight(QRect place, const QWidget& ground) {
+  if (place.bottom() == ground.height()) place.setBottom(ground.height() - 1);
+  return place;
+}
+
 }  // namespace
 
 bool control_view::note(aspect what) {
@@ -28,7 +35,9 @@ void control_view::catch_up() {
   const unsigned noted = std::exchange(noted_, 0U);
   const auto has = [noted](unsigned bits) { return (noted & bits) != 0; };
   QWidget& shown = widget();
-  if (has(bit(aspect::place))) shown.setGeometry(place_of(control));
+  if (has(bit(aspect::place))) {
+    shown.setGeometry(with_edge_in_sight(place_of(control), *shown.parentWidget()));
+  }
   if (has(bit(aspect::back_color))) show_colours();
   if (has(bit(aspect::tool_tip))) shown.setToolTip(as_tool_tip(control.ToolTipText()));
   if (has(content)) show_content();

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -80,6 +81,15 @@ void form_window::closeEvent(QCloseEvent* event) {
 void form_window::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ApplicationPaletteChange) views_.show_all();
   QWidget::changeEvent(event);
+}
+
+// Keys that no control had use for.
+void form_window::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Refresh)) {
+    platform::user::read_anew(form);
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active) {

@@ -96,6 +96,9 @@ class control {
   // Called when the form is about to come up on the screen, each time.
   virtual void about_to_show() {}
 
+  // Called when the user wants to see what drives and folders hold now. Throws file_error.
+  virtual void read_anew() {}
+
   // Called after a property was written; `differs` is false if it had that value before.
   virtual void written(aspect what, bool differs);
 

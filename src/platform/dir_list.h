@@ -34,6 +34,7 @@ class dir_list : public control {
 
   // Reads the folders anew.
   void Refresh();
+  void read_anew() override { Refresh(); }
   const std::vector<row>& rows() const { return rows_; }
   // The row of the current folder.
   std::int32_t open_row() const { return open_row_; }

@@ -23,6 +23,7 @@ class drive_list : public control {
 
   // Looks which drives there are now. The first time the current drive becomes the selected one.
   void about_to_show() override;
+  void read_anew() override { about_to_show(); }
   const std::vector<std::string>& rows() const { return rows_; }
   std::int32_t selected_row() const;
 

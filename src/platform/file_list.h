@@ -35,6 +35,7 @@ class file_list : public control {
 
   // Reads the folder anew; nothing is selected then.
   void Refresh();
+  void read_anew() override { Refresh(); }
 
  private:
   void read(const std::string& path, const std::string& pattern);

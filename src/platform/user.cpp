@@ -19,6 +19,10 @@ void move_focus(control* to) {
   if (from != nullptr) raise(from->LostFocus);
 }
 
+void read_lists_anew(form& window) {
+  for (control* c : window.controls()) c->read_anew();
+}
+
 }  // namespace
 
 void forget_focus() { focused = nullptr; }
@@ -92,7 +96,11 @@ void open_folder(dir_list& folders, std::int32_t row) {
     if (!folders.takes_input() || row < 0 || row >= count) return;
     move_focus(&folders);
     const std::string path = folders.rows()[static_cast<std::size_t>(row)].path;
-    folders.Path = path;
+    if (row == folders.open_row()) {
+      read_lists_anew(folders.owner_form());
+    } else {
+      folders.Path = path;
+    }
   });
 }
 
@@ -102,6 +110,12 @@ void select_file(file_list& files, std::int32_t row) {
     move_focus(&files);
     files.ListIndex = row;
     raise(files.Click);
+  });
+}
+
+void read_anew(form& window) {
+  run_event([&window] {
+    if (window.Visible() && window.Enabled()) read_lists_anew(window);
   });
 }
 

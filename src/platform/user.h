@@ -35,6 +35,10 @@ void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
 void select_file(file_list& files, std::int32_t row);
 
+// The drives, folders and files in the lists of a form are read anew. To open the folder that is
+// open already does that too.
+void read_anew(form& window);
+
 // The window got a new client size in twips.
 void resize(form& window, std::int32_t client_width, std::int32_t client_height);
 // Windows without a control box and disabled ones stay.
