@@ -8,6 +8,7 @@
 #include "archive/entry_bounds.h"
 #include "data.h"
 #include "forms/forms.h"
+#include "archive/open_archive.h"
 #include "icons/decoder.h"
 #include "icons/shp_reader.h"
 #include "platform/user.h"
@@ -49,7 +50,7 @@ void decode_icons_from_file(benchmark::State& state) {
   platform::picture_box& slot = size_slot(1);
   tool_state.current_slot = 1;
   for (auto _ : state) {
-    file_1.open_to_read(tool_state.archive_path);
+    open_archive_file(file_1);
     read_directory();
     for (std::int16_t i = 1; i <= icons; ++i) {
       tool_state.icon_number = i;

@@ -16,7 +16,7 @@ namespace user = platform::user;
 
 void begin_tool_on(const std::filesystem::path& folder) {
   platform::set_drives({{'C', "bench", folder}}, "C:\\");
-  begin_tool("C:\\");
+  begin_tool(folder);
 }
 
 void open_archive(const std::string& folder) {

@@ -37,7 +37,7 @@ void write_files(const fs::path& folder) {
 // Has the tool build the archive, as its user would, into the folder `files` of `folder`.
 void build_archive(const fs::path& folder) {
   platform::set_drives({{'C', "sample", folder}}, "C:\\");
-  begin_tool("C:\\");
+  begin_tool(folder);
   platform::user::click(Form1.mnu_make);
   Form5.Dir1.Path = "C:\\files";
   platform::user::click(Form5.Command1);

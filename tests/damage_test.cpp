@@ -69,7 +69,7 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
     int moved_by;  // the places of the icons
     std::size_t messages;
   } cases[] = {
-      {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, many},        {huge, 0, 1},
+      {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, 20},        {huge, 0, 1},
       {plain_icon(1, 1, 1), 1 << 30, 1}, {plain_icon(1, 1, 1), -(1 << 30), 1},
   };
   for (const auto& c : cases) {

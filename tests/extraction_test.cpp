@@ -6,7 +6,11 @@ namespace {
 using extraction_test = tool_test;
 
 const std::string closing = "All files from Ostrane.dat has been extracted into: ";
-const std::string refusal = "These entries were not extracted:";
+const std::string refusal = "\nThese entries were not extracted:";
+
+std::string closing_of(const char* numbers) {
+  return numbers + std::string(" files from Ostrane.dat has been extracted into: ");
+}
 
 // The last names only look like those that are refused.
 TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
@@ -26,7 +30,8 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   open_archive(entries);
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), expected);
-  EXPECT_EQ(new_messages(), texts{closing + "D:\\"});
+  EXPECT_EQ(new_messages(), texts{closing + "D:\\\nThese files are hidden on this system:\n>..a<: its "
+                                            "name begins with a dot"});
 }
 
 // Every entry goes over what is there from its first byte on, and cuts nothing off.
@@ -44,7 +49,8 @@ TEST_F(extraction_test, CopesWithOffsetsOutOfOrder) {
   open_bytes(index_bytes(4, {{72, "A"}, {82, "B"}, {76, "C"}, {81, ""}}) + "0123456789abcdefghij");
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), (file_map{{"A", "0123456789"}, {"C", "abcde"}}));
-  EXPECT_EQ(new_messages().front(), refusal + "\n>B<: the index gives it a size below 0");
+  EXPECT_EQ(new_messages(), texts{closing_of("2 of 3") + "D:\\" + refusal +
+                                  "\n>B<: the index gives it a size below 0"});
 }
 
 // The dialog stays, and not even a folder comes into being.
@@ -81,15 +87,15 @@ TEST_F(extraction_test, PassesOverEntriesThatMustOrCanNotBeWritten) {
       {"it has no name", {""}},
       {"its name means a folder", {".", ".."}},
       {"its name holds a separator of paths", {"A\\B", "..\\UP.TXT", "A/B", "/etc/x", "C:X"}},
-      {"its name holds a control character", {"A\tB", "A\x7F"}},
+      {"its name holds a control character", {"A\tB", "A\x7F", "\x81", "\x8D.X"}},
       {"D:\\in\\DIR cannot be opened: it is a folder.", {"DIR"}},
       {"its name means a device",
        {"CON", "prn.txt", "AUX.A.B", "Nul .TXT", "COM1", "lpt9.shp", "COM\xB9", "LPT\xB3.TXT",
-        "NUL", "COM2"}},
+        "NUL", "COM2", "CON.A"}},
   };
   make_folder("D:\\in\\DIR");
   std::vector<entry> entries;
-  std::string told = refusal;
+  std::string told = closing_of("1 of 25") + "D:\\in\\" + refusal;
   for (const auto& [reason, names] : refused) {
     for (std::string name : names) {
       entries.push_back({name, some_bytes(1000 + entries.size())});
@@ -102,7 +108,7 @@ TEST_F(extraction_test, PassesOverEntriesThatMustOrCanNotBeWritten) {
   extract_into("D:\\in");
   EXPECT_EQ(files_in("D:\\in"), (file_map{{"GOOD", "good"}}));
   EXPECT_EQ(names_in("D:\\"), texts{"in"});
-  EXPECT_EQ(new_messages(), (texts{told + "\nand 1 more.", closing + "D:\\in\\"}));
+  EXPECT_EQ(new_messages(), texts{told + "\nand 4 more."});
 }
 
 TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
@@ -115,9 +121,9 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
   EXPECT_EQ(files_in("C:\\"),
             (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
   EXPECT_EQ(new_messages(),
-            (texts{refusal + "\n>OSTRANE.DAT<: it would be written over the open archive"
-                             "\n>LINKED<: it would be written over the open archive",
-                   closing + "C:\\"}));
+            texts{closing_of("2 of 4") + "C:\\" + refusal +
+                  "\n>OSTRANE.DAT<: it would be written over the open archive"
+                  "\n>LINKED<: it would be written over the open archive"});
 }
 
 }  // namespace

@@ -13,68 +13,88 @@ namespace ostrane {
 namespace {
 
 struct file_job {
+  std::function<void()> open_dialog;
   std::function<void()> job;
   texts told;          // a message of failure holds one of these
   bool quiet = false;  // also where it need not be told
 };
 
-// Calls that may fail unheard: those that tidy up, or come when the new file is in its place.
-const std::set<std::string> may_be_quiet = {"remove_file", "replace", "flush_folder", "close_read"};
+// How it all ends: the files by names without regard to case, and what was told.
+struct outcome {
+  file_map files;
+  texts messages;
+};
+
+// Calls that may fail unheard: those that tidy up, that ask what need not be known, or that come
+// when the new file is in its place.
+const std::set<std::string> may_be_quiet = {
+    "remove_file", "replace", "flush_folder", "close_read", "close_written", "lock",
+    "set_rights",  "list",    "facts_at",     "facts_of"};
+
+const std::pair<call_fault, std::string> faults[] = {
+    {{.reason = ENOSPC}, "the disk is full"},
+    {{.reason = ENOSPC, .lasting = true}, "the disk is full"},
+    {{.reason = EIO}, "Input/output error"},
+    {{.reason = EIO, .lasting = true}, "Input/output error"},
+    {{.kind = call_fault::lies, .reason = EIO}, "Input/output error"},
+    {{.kind = call_fault::interrupted}, "Interrupted"}};
 
 struct failing_disk_test : tool_test {
   // An archive is open; each job finds the file that it replaces.
   void prepare() {
-    fs::remove_all(root / "d");
+    for (const char* drive : {"c", "d"}) fs::remove_all(root / drive);
     write("D:\\work\\a.txt", some_bytes(70000));
     write("D:\\work\\b.txt", "");
-    write("D:\\work\\ostrane.dat", "the old one");
+    write("D:\\work\\Ostrane.dat", "the old one");
     write("D:\\out\\B.TXT", "older");  // stays, as its entry is empty
     write("D:\\lists\\shplist.txt", "old");
     write("C:\\Shiplist-compare.txt", "old");
     write("D:\\ships.txt", "X\r\n\r\n");
     begin("D:\\lists");
     open_bytes(archive);
+    new_messages();
   }
-  // With no archive open, as a new one would be read at once.
-  static void build_afresh() {
-    begin();
-    build_in("D:\\work");
-  }
-  // All files on the drives, by names without regard to case: of each there is one.
-  static file_map all_files() {
-    file_map there;
+  // Of each file there is one, whatever the case of its name.
+  static outcome outcome_of(const std::function<void()>& job) {
+    job();
+    outcome all = {{}, new_messages()};
     for (const auto& found : fs::recursive_directory_iterator(root)) {
       if (!found.is_regular_file()) continue;
       const std::string name = platform::upper_case(found.path().lexically_relative(root).string());
-      EXPECT_TRUE(there.emplace(name, bytes_of(found.path())).second) << name;
+      EXPECT_TRUE(all.files.emplace(name, bytes_of(found.path())).second) << name;
     }
-    return there;
+    return all;
   }
-  static void check(const file_job& tried, const std::string& call, const std::string& words,
-                    const file_map& before, const file_map& done) {
-    const file_map after = all_files();
-    for (const auto& [name, bytes] : after) {
-      const auto is_whole_in = [&, &name = name, &bytes = bytes](const file_map& some) {
-        const auto found = some.find(name);
-        return found != some.end() && found->second == bytes;
+  static bool is_hidden(const file_map::value_type& file) {
+    return file.first.find("/.") != std::string::npos;
+  }
+  static void expect_whole_files(const outcome& after, const outcome& before, const outcome& done) {
+    for (const auto& [name, bytes] : after.files) {
+      const auto is_whole_in = [&, &name = name, &bytes = bytes](const outcome& some) {
+        const auto found = some.files.find(name);
+        return found != some.files.end() && found->second == bytes;
       };
       EXPECT_TRUE(is_whole_in(before) || is_whole_in(done)) << name;
     }
-    for (const auto& [name, bytes] : before) EXPECT_TRUE(after.contains(name)) << name;
-    const texts messages = new_messages();
+    for (const auto& [name, bytes] : before.files) EXPECT_TRUE(after.files.contains(name)) << name;
+  }
+  static void check(const file_job& tried, const std::string& call, const std::string& words,
+                    const outcome& after, const outcome& done) {
     // An extraction tells of entries and of its end.
-    EXPECT_LE(messages.size(), tried.told.size() > 1 ? 2U : 1U);
+    EXPECT_LE(after.messages.size(), tried.told.size() > 1 ? 2U : 1U);
     std::string told;
-    for (const std::string& message : messages) told += message + "\n";
+    for (const std::string& message : after.messages) told += message + "\n";
     const auto holds = [&told](const std::string& part) { return told.find(part) != told.npos; };
     const bool full = call == "write_some" && words == "the disk is full";
-    EXPECT_TRUE(!full || tried.told.size() == 1 || holds("The extraction was stopped. ")) << told;
+    EXPECT_TRUE(!full || tried.told.size() < 3 || holds("The extraction was stopped. ")) << told;
     if (holds(words)) {
       EXPECT_TRUE(std::any_of(tried.told.begin(), tried.told.end(), holds)) << told;
     } else {
-      EXPECT_TRUE(tried.quiet || may_be_quiet.contains(call)) << told;
-      EXPECT_TRUE(after == done) << told;
+      EXPECT_TRUE(tried.quiet || may_be_quiet.contains(call) || words == "Interrupted") << told;
     }
+    const bool says_done = !done.messages.empty() && holds(done.messages.back() + "\n");
+    EXPECT_TRUE((!says_done && !told.empty()) || after.files == done.files) << told;
+    EXPECT_TRUE(words != "Interrupted" || after.messages == done.messages) << told;
     EXPECT_TRUE(Form1.List1.ListCount() == 0 || Form1.List1.ListCount() == 6);
     EXPECT_FALSE(Form2.Visible() || Form3.Visible());
     EXPECT_TRUE(Form1.Enabled() || Form6.Visible());
@@ -87,47 +107,65 @@ struct failing_disk_test : tool_test {
                                              palette_entry()});
 };
 
-// Each call to the system fails in turn, alone and with all behind it: each file is left as it was
-// or as the job makes it, whole, and what was not done is told with its reason.
+// Each call to the system goes wrong in turn: each file is left as it was or as the job makes it,
+// whole, what was not done is told with its reason, and what is told to be done is done.
 TEST_F(failing_disk_test, EachFileIsTheOldOneOrTheNewOneWhole) {
   const file_job jobs[] = {
-      {[] { build_afresh(); }, {" No new archive was made."}},
-      {[] { extract_into("D:\\out"); },
+      // With no archive open, as a new one would be read at once.
+      {[] {
+         begin();
+         open_build_dialog("D:\\work");
+       },
+       [] { user::click(Form5.Command1); },
+       {" No new archive was made.", "Your new Ostrane.dat"}},
+      {[] { open_extract_dialog("D:\\out"); },
+       [] { user::click(Form4.Command2); },
        {"not extracted:\n>", "was stopped. ", " Nothing was extracted."}},
-      {[] { user::click(Form1.mnu_save); }, {"The list of files was not saved. "}},
-      {[] { compare_with("D:\\", "ships.txt"); }, {" Nothing was compared."}},
+      {[] {}, [] { user::click(Form1.mnu_save); }, {"The list of files was not saved. "}},
+      {[] { choose_shiplist("D:\\", "ships.txt"); },
+       [] { user::click(Form6.Command1); },
+       {" Nothing was compared."}},
       // A palette that cannot be read leaves the colours as they are.
-      {[] { open_archive(); }, {"C:\\ostrane.dat"}, true},
-      {[] { click_row("A.TXT"); }, {"C:\\ostrane.dat"}},
-      {[] { click_row("I.SHP"); }, {"C:\\ostrane.dat"}},
+      {[] { user::click(Form1.mnu_open); },
+       [] { user::click(Form2.Command1); },
+       {"C:\\ostrane.dat"},
+       true},
+      {[] {}, [] { click_row("A.TXT"); }, {"C:\\ostrane.dat"}},
+      {[] {}, [] { click_row("I.SHP"); }, {"C:\\ostrane.dat"}},
   };
-  const std::pair<int, const char*> reasons[] = {{ENOSPC, "the disk is full"},
-                                                 {EIO, "Input/output error"}};
-  int faults = 0;
-  for (const file_job& tried : jobs) {
+  int tried = 0;
+  for (const file_job& job : jobs) {
     prepare();
-    const file_map before = all_files();
-    tried.job();
-    const file_map done = all_files();
-    for (const auto& [reason, words] : reasons) {
-      for (const bool lasting : {false, true}) {
-        for (int at = 0;; ++at) {
-          prepare();
-          new_messages();
-          failing_calls failing(at, reason, lasting);
-          tried.job();
-          if (!failing.happened()) break;
-          const std::string& call = failing.made[static_cast<std::size_t>(at)];
-          SCOPED_TRACE(testing::Message() << &tried - jobs << call << at << lasting << words);
-          check(tried, call, words, before, done);
-          ++faults;
+    job.open_dialog();
+    const outcome before = outcome_of([] {});
+    const outcome done = outcome_of(job.job);
+    for (const auto& [fault, words] : faults) {
+      for (int at = 0;; ++at, ++tried) {
+        prepare();
+        job.open_dialog();
+        outcome after;
+        failing_calls failing(at, fault);
+        after = outcome_of(job.job);
+        if (!failing.happened()) break;
+        const std::string& call = failing.made[static_cast<std::size_t>(at)];
+        SCOPED_TRACE(testing::Message() << &job - jobs << call << at << fault.lasting << words);
+        // What cannot be looked at is not deleted. The next build does it.
+        const bool lies = fault.kind == call_fault::lies;
+        const bool is_blind = fault.lasting || lies || call.starts_with("facts");
+        if (is_blind) std::erase_if(after.files, is_hidden);
+        // Nobody knows whose a file is that was made and reported not to be.
+        if (lies && call == "open_new") {
+          std::erase_if(after.files, [&](const auto& file) {
+            return file.second.empty() && !before.files.contains(file.first);
+          });
         }
-        EXPECT_TRUE(all_files() == done);
+        expect_whole_files(after, before, done);
+        check(job, call, words, after, done);
       }
     }
   }
-  RecordProperty("faults", faults);
-  EXPECT_GT(faults, 400);
+  RecordProperty("faults", tried);
+  EXPECT_GT(tried, 1000);
 }
 
 // A drive of 256 kB that is really full; in a process of its own, with which the drive goes.

@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "platform/file_system.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 #include "tool_fixture.h"
 
@@ -13,11 +14,11 @@ using files_posix_test = tool_test;
 TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
   write("C:\\Mixed\\Name.TXT", "upper");
   write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
-  platform::text_reader reader("c:\\mIXED\\name.txt");
+  platform::text_reader reader(platform::on_drives("c:\\mIXED\\name.txt"));
   EXPECT_EQ(reader.read_line(), "upper");
   EXPECT_TRUE(platform::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
   write("C:\\Mixed\\name.txt", "lower");
-  platform::text_reader exact("C:\\Mixed\\name.txt");
+  platform::text_reader exact(platform::on_drives("C:\\Mixed\\name.txt"));
   EXPECT_EQ(exact.read_line(), "lower");
   EXPECT_FALSE(platform::file_exists("C:\\Mixed\\names.txt"));
   EXPECT_FALSE(platform::file_exists("C:\\Mixed"));

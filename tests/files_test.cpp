@@ -50,7 +50,7 @@ TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
                                                  {to_the_edge + "\r\nnext", {to_the_edge, "next"}}};
   for (const auto& [bytes, lines] : cases) {
     write("C:\\lines.txt", bytes);
-    platform::text_reader reader("C:\\lines.txt");
+    platform::text_reader reader(platform::on_drives("C:\\lines.txt"));
     texts read;
     while (!reader.at_end()) read.push_back(reader.read_line());
     EXPECT_EQ(read, lines);
@@ -61,7 +61,7 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   const std::string bytes = some_bytes(300000);
   write("C:\\data", bytes);
   platform::binary_file file;
-  file.open_to_read("C:\\data");
+  file.open_to_read(platform::on_drives("C:\\data"));
   for (const std::int64_t at : {0, 10, 70000, 69990, 5, 250000, 299990, 65536, 131071}) {
     for (const std::size_t count : {std::size_t{9}, std::size_t{70000}}) {
       file.seek(at);

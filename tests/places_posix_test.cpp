@@ -138,14 +138,14 @@ TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
   make_folder("C:\\work");
   const auto name = [&](std::size_t i) { return place("C:\\work") / ("f" + std::to_string(i)); };
   for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
-  for (std::size_t count = 40000; const std::size_t left : {count, most_files + 1, most_files}) {
+  for (std::size_t count = 40000; const std::size_t left : {count, max_files + 1, max_files}) {
     while (count > left) fs::remove(name(--count));
     begin();
     build_in();
     const std::string refusal = "There are " + std::to_string(left) +
                                 " files in C:\\work. An archive holds at most 32766. No new "
                                 "archive was made.";
-    EXPECT_EQ(new_messages().front() == refusal, left > most_files) << left;
+    EXPECT_EQ(new_messages().front() == refusal, left > max_files) << left;
   }
   open_archive("C:\\work");
   EXPECT_EQ(Form1.List1.ListCount(), 32767);

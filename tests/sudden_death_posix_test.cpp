@@ -34,7 +34,7 @@ struct sudden_death_test : tool_test {
     if (killed_after > 0) kill(child, SIGKILL);
     const bool killed = end_of(child) < 0;
     file_map left = files_in("C:\\work");
-    left.erase(".OSTRANE.DAT.new");
+    std::erase_if(left, [](const auto& file) { return file.first.starts_with(".OSTRANE.DAT."); });
     EXPECT_TRUE(left == sources_and("ostrane.dat", "the old one") ||
                 left == sources_and("ostrane.dat", archive) ||
                 left == sources_and("OSTRANE.DAT", archive));
@@ -76,11 +76,13 @@ TEST_F(sudden_death_test, ABuildKilledAtAnyMomentLeavesAWholeArchive) {
 // A new archive is on the disk before it takes the old one's place, and its name is there behind.
 TEST_F(sudden_death_test, ABuildFlushesBothTheArchiveAndItsFolder) {
   begin_beside_old_archive();
-  const failing_calls none(1000000);
+  const failing_calls none(1000000, {});
   build_in();
-  ASSERT_GT(none.made.size(), 5U);
-  EXPECT_EQ(texts(none.made.end() - 5, none.made.end()),
-            (texts{"flush_to_disk", "close_written", "replace", "replace", "flush_folder"}));
+  texts flushes = none.made;
+  std::erase_if(flushes, [](const std::string& call) {
+    return call != "replace" && !call.starts_with("flush_");
+  });
+  EXPECT_EQ(flushes, (texts{"flush_to_disk", "replace", "replace", "flush_folder"}));
 }
 
 }  // namespace

@@ -44,6 +44,7 @@ file_map files_in(const std::string& folder);
 // Through the dialogs.
 void open_archive(const std::string& folder = "C:\\");
 void open_bytes(const std::string& archive);
+void open_extract_dialog(const std::string& folder);
 void extract_into(const std::string& folder);
 void open_build_dialog(const std::string& folder = "C:\\work");
 void build_in(const std::string& folder = "C:\\work");

@@ -8,15 +8,19 @@
 #include "archive/index_reader.h"
 #include "archive/new_index.h"
 #include "archive/progress.h"
+#include "archive/skipped_files.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms/form5.h"
+#include "platform/case_blind.h"
 #include "platform/code_page.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
+#include "platform/file_system.h"
 #include "platform/little_endian.h"
 #include "platform/message_box.h"
 #include "platform/paths.h"
 #include "platform/replaced_file.h"
+#include "platform/system_name.h"
 #include "state/files.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -25,13 +29,15 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int16_t files_a_bar_step = 97;
+constexpr std::int16_t files_per_bar_step = 97;
+constexpr const char* archive_name = "OSTRANE.DAT";
 
 struct build {
   std::string target_folder;
   std::vector<std::string> files;
   std::vector<dat_record> records;
   std::int16_t total_bar_tick = 0;
+  std::string left_out;  // a message, or ""
 };
 
 [[noreturn]] void fail(const std::string& text) {
@@ -45,9 +51,9 @@ std::vector<std::string> build_list() {
     const std::string& name = Form5.File1.List(i);
     if (platform::lower_case(name) != "ostrane.dat") files.push_back(name);
   }
-  if (files.size() > most_files) {
+  if (files.size() > max_files) {
     fail("There are " + std::to_string(files.size()) + " files in " + Form5.File1.Path() +
-         ". An archive holds at most " + std::to_string(most_files) + ".");
+         ". An archive holds at most " + std::to_string(max_files) + ".");
   }
   return files;
 }
@@ -62,7 +68,7 @@ void write_index(const build& job, platform::binary_file& archive) {
   }
 }
 
-void show_file_in_work(const build& job, std::size_t index) {
+void show_current_file(const build& job, std::size_t index) {
   Form3.message.Caption =
       "Current File : " + job.target_folder + job.files[index] +
       "\r\nCurrent File Number: " + sign_column_text(static_cast<std::int64_t>(index)) +
@@ -73,12 +79,12 @@ void show_file_in_work(const build& job, std::size_t index) {
 void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
   const std::int32_t size = tool_state.make_index[index].size;
   const std::string path = job.target_folder + job.files[index];
-  move_total_bar(job.total_bar_tick, files_a_bar_step, index);
+  move_total_bar(job.total_bar_tick, files_per_bar_step, index);
   std::int16_t small_block_bytes = 0;
   Form3.ProgressBar1.Min = 0;
   Form3.ProgressBar1.Max = static_cast<float>(size);
-  file_5.open_to_read(path);
-  show_file_in_work(job, index);
+  file_5.open_to_read(platform::on_drives(path));
+  show_current_file(job, index);
   const std::int32_t copied = chunk_ladder(file_5, archive, size, small_block_bytes);
   std::array<std::byte, 1> one_more;
   if (copied < size || file_5.read(one_more) > 0) fail(path + " has changed its size meanwhile.");
@@ -86,12 +92,29 @@ void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
 }
 
 void write_archive(build& job) {
-  platform::replaced_file archive(job.target_folder + "OSTRANE.DAT");
+  const std::string path = job.target_folder + archive_name;
+  platform::replaced_file archive(platform::on_drives(path));
   write_index(job, archive.file());
   Form3.ProgressBar2.Max = static_cast<float>(job.records.size());
   Form3.ProgressBar2.Min = 0;
   for (std::size_t i = 0; i < job.files.size(); ++i) copy_file(job, i, archive.file());
   archive.put_in_place();
+  // The old archive has its name until the new one is there, so there never are two. If the
+  // spelling cannot be changed the old one stays; names compare without regard to case.
+  archive.respell(platform::system_path(job.target_folder) / platform::system_name(archive_name));
+  archive.flush_folder();
+  platform::forget_folders();
+}
+
+std::string files_left_out(const build& job) {
+  skipped_files left_out;
+  for (const platform::unlisted_file& file :
+       platform::unlisted_files_in(job.target_folder, job.files)) {
+    if (platform::upper_case(file.name) != archive_name) {
+      add_skipped(left_out, file.name, file.reason);
+    }
+  }
+  return text_of(left_out, "These files are not in the new Ostrane.dat:");
 }
 
 void run(build& job) {
@@ -101,10 +124,15 @@ void run(build& job) {
   job.records = make_new_index(job.target_folder, job.files);
   Form3.Refresh();
   write_archive(job);
+  try {
+    job.left_out = files_left_out(job);
+  } catch (const platform::file_error& error) {
+    job.left_out = error.text;  // the archive is made all the same
+  }
 }
 
 void keep_new_index(const build& job) {
-  if (Form1.mnu_ext.Enabled()) {
+  if (tool_state.archive_is_open == flag_true) {
     read_archive(job.target_folder);
     return;
   }
@@ -119,12 +147,7 @@ void make_archive() {
   job.target_folder = platform::with_separator(Form5.Text1.Text());
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   Form3.Refresh();
-  std::string failure;
-  try {
-    run(job);
-  } catch (const platform::file_error& error) {
-    failure = error.text;
-  }
+  const std::string failure = platform::failure_of([&] { run(job); });
   file_5.close();
   hide_progress("Ostrane.dat tool ");
   if (!failure.empty()) {
@@ -134,6 +157,7 @@ void make_archive() {
   keep_new_index(job);
   Form1.Visible = true;
   Form5.Visible = false;
+  if (!job.left_out.empty()) platform::message_box(job.left_out);
   platform::message_box("Your new Ostrane.dat has been created and saved in:" + job.target_folder +
                         "ostrane.dat");
 }

@@ -11,7 +11,11 @@ namespace ostrane {
 
 namespace {
 
-bool is_control_character(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+// Five bytes of the code page stand for control characters too.
+bool is_control_character(char c) {
+  constexpr std::string_view in_code_page = "\x7F\x81\x8D\x8F\x90\x9D";
+  return static_cast<unsigned char>(c) < 0x20 || in_code_page.find(c) != in_code_page.npos;
+}
 
 // The raised digits 1 to 3 count as digits too.
 bool has_number(std::string_view stem, std::string_view device) {
@@ -32,7 +36,7 @@ bool is_device(const std::string& name) {
 
 }  // namespace
 
-std::string fault_of_file_name(const std::string& name) {
+std::string unsafe_name_reason(const std::string& name) {
   if (name.empty()) return "it has no name";
   if (name == "." || name == "..") return "its name means a folder";
   if (name.find_first_of("\\/:") != std::string::npos) {

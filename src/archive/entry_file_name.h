@@ -4,8 +4,8 @@
 
 namespace ostrane {
 
-// Why an entry of this name cannot become a file in a folder, as the end of a sentence; empty if it
-// can. Refused are names that would lead out of the folder or that mean a device.
-std::string fault_of_file_name(const std::string& name);
+// Why an entry of this name must not become a file, as the end of a sentence, or "". Unsafe are
+// names that would lead out of the folder, that mean a device, or that hold a control character.
+std::string unsafe_name_reason(const std::string& name);
 
 }  // namespace ostrane

@@ -7,12 +7,14 @@
 #include "archive/entry_bounds.h"
 #include "archive/entry_file_name.h"
 #include "archive/format.h"
-#include "archive/passed_over.h"
+#include "archive/open_archive.h"
 #include "archive/progress.h"
+#include "archive/skipped_files.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms/form4.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
+#include "platform/file_calls.h"
 #include "platform/file_system.h"
 #include "platform/message_box.h"
 #include "platform/paths.h"
@@ -24,17 +26,20 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int16_t entries_a_bar_step = 49;
+constexpr std::int16_t entries_per_bar_step = 49;
 
 struct extraction {
   std::string target_folder;
-  std::int64_t archive_position = 0;  // of the entry in work
+  platform::file_stamp archive;
+  std::int64_t archive_position = 0;  // of the current entry
   std::int16_t small_block_bytes = 0;
   std::int16_t total_bar_tick = 0;
-  passed_over_entries passed_over;
+  std::int32_t written = 0;
+  skipped_files skipped;
+  skipped_files hidden;
 };
 
-void show_entry_in_work(const extraction& job, const std::string& name, std::int32_t index,
+void show_current_entry(const extraction& job, const std::string& name, std::int32_t index,
                         std::int32_t entry_size) {
   Form3.message.Caption =
       "Extracting file: " + job.target_folder + name +
@@ -45,30 +50,57 @@ void show_entry_in_work(const extraction& job, const std::string& name, std::int
   Form3.ProgressBar1.Min = 0;
 }
 
-// Closes the entry's file as it is and takes it away if it is new.
-void drop_half_written(const std::string& path, bool is_new) {
-  file_6.abandon();
-  if (is_new) platform::delete_file(path);
+// The file of an entry, in file 6. If it is new it is removed unless it was written whole.
+struct entry_file {
+  platform::file_path path;
+  bool is_new = false;
+  bool is_whole = false;
+
+  explicit entry_file(platform::file_path at) : path(std::move(at)) {
+    is_new = file_6.open_to_write(path);
+  }
+  entry_file(const entry_file&) = delete;
+  entry_file& operator=(const entry_file&) = delete;
+  ~entry_file() {
+    if (is_whole) return;
+    const bool drop = is_new && platform::file_calls::is_at(file_6.handle(), path.system) != 0;
+    file_6.abandon();
+    if (drop) platform::file_calls::remove_file(path.system);
+  }
+};
+
+// Returns why the entry was not written, or "". Throws file_error.
+std::string write_entry(extraction& job, const std::string& path, std::int32_t entry_size) {
+  entry_file file(platform::on_drives(path));
+  if (!file.is_new && file_6.facts().stamp.identity == job.archive.identity) {
+    return "it would be written over the open archive";
+  }
+  file_5.seek(job.archive_position);
+  const std::int32_t copied = chunk_ladder(file_5, file_6, entry_size, job.small_block_bytes);
+  if (copied < entry_size) return "the archive ends before it does";
+  file_6.close();
+  file.is_whole = true;
+  return "";
 }
 
-// Gives why the entry was not written whole, or nothing. Throws file_error if the disk is full.
-std::string write_entry(extraction& job, const std::string& path, std::int32_t entry_size) {
-  bool is_new = false;
+// Why the entry cannot be written, before its file is touched, or "".
+std::string reason_to_skip(const extraction& job, const std::string& name,
+                           std::int32_t entry_size) {
+  if (entry_size < 0) return "the index gives it a size below 0";
+  std::string reason = unsafe_name_reason(name);
+  if (reason.empty() && job.archive_position + entry_size > job.archive.size) {
+    reason = "the archive ends before it does";
+  }
+  return reason;
+}
+
+// A full disk stops the job; any other failure skips the entry.
+std::string try_to_write_entry(extraction& job, const std::string& name, std::int32_t entry_size) {
+  std::string reason = reason_to_skip(job, name, entry_size);
+  if (!reason.empty()) return reason;
   try {
-    is_new = file_6.open_to_write(path);
-    if (!is_new && platform::is_same_file(path, tool_state.archive_path_copy)) {
-      file_6.abandon();
-      return "it would be written over the open archive";
-    }
-    const std::int32_t copied = chunk_ladder(file_5, file_6, entry_size, job.small_block_bytes);
-    if (copied == entry_size) {
-      file_6.close();
-      return "";
-    }
-    drop_half_written(path, is_new);
-    return "the archive ends before it does";
+    return write_entry(job, job.target_folder + name, entry_size);
   } catch (const platform::file_error& error) {
-    drop_half_written(path, is_new);
     if (error.number == platform::file_error_number::disk_full) throw;
     return error.text;
   }
@@ -77,22 +109,22 @@ std::string write_entry(extraction& job, const std::string& path, std::int32_t e
 void extract_entry(extraction& job, std::int32_t index) {
   const dat_record& record = tool_state.dat_index[static_cast<std::size_t>(index)];
   const dat_record& next = tool_state.dat_index[static_cast<std::size_t>(index) + 1];
-  move_total_bar(job.total_bar_tick, entries_a_bar_step, static_cast<std::size_t>(index));
+  move_total_bar(job.total_bar_tick, entries_per_bar_step, static_cast<std::size_t>(index));
   const std::int32_t entry_size = in_32_bits(std::int64_t{next.offset} - record.offset);
   const std::string name = name_with_blanks(record.name);
-  show_entry_in_work(job, name, index, entry_size);
-  std::string fault =
-      entry_size < 0 ? "the index gives it a size below 0" : fault_of_file_name(name);
-  if (fault.empty()) fault = write_entry(job, job.target_folder + name, entry_size);
+  show_current_entry(job, name, index, entry_size);
+  const std::string reason = try_to_write_entry(job, name, entry_size);
   job.archive_position += std::max(entry_size, 0);
-  if (fault.empty()) return;
-  pass_over(job.passed_over, name, fault);
-  file_5.seek(job.archive_position);
+  if (!reason.empty()) {
+    add_skipped(job.skipped, name, reason);
+    return;
+  }
+  ++job.written;
+  if (name.front() == '.') add_skipped(job.hidden, name, "its name begins with a dot");
 }
 
 void extract_entries(extraction& job) {
   job.archive_position = tool_state.dat_index[0].offset;
-  if (tool_state.record_count > 1) file_5.seek(job.archive_position);
   Form3.ProgressBar2.Max = static_cast<float>(std::max(tool_state.record_count - 2, 0));
   Form3.ProgressBar2.Min = 0;
   for (std::int32_t index = 0; index <= tool_state.record_count - 2; ++index) {
@@ -100,35 +132,32 @@ void extract_entries(extraction& job) {
   }
 }
 
-// Why nothing can be extracted at all, or nothing. Leaves the archive open.
-std::string open_both_ends(const extraction& job) {
-  if (Form1.List1.ListCount() != tool_state.record_count) {
-    return "No archive is open. Read one first.";
-  }
+// Opens the archive as file 5. Returns why nothing can be extracted at all, or "".
+std::string open_both_ends(extraction& job) {
   if (!platform::folder_exists(job.target_folder)) {
     return "The folder " + job.target_folder + " is not there. Make it or choose another.";
   }
   if (tool_state.record_count > 1 && tool_state.dat_index[0].offset < 0) {
     return "The index of " + tool_state.archive_path_copy + " puts entries before the file.";
   }
-  try {
-    file_5.open_to_read(tool_state.archive_path_copy);
-  } catch (const platform::file_error& error) {
-    return error.text;
-  }
-  return "";
+  return platform::failure_of([&] {
+    open_archive_file(file_5);
+    job.archive = file_5.facts().stamp;
+  });
 }
 
-// Why the job stopped before its end, or nothing.
-std::string run(extraction& job) {
-  std::string stopped;
-  try {
-    extract_entries(job);
-  } catch (const platform::file_error& error) {
-    stopped = error.text;
+std::string closing_text(const extraction& job, const std::string& stopped) {
+  std::string text;
+  if (!stopped.empty()) {
+    text = "The extraction was stopped. " + stopped;
+  } else if (job.skipped.count == 0) {
+    text = "All files from Ostrane.dat has been extracted into: " + job.target_folder;
+  } else {
+    text = std::to_string(job.written) + " of " + std::to_string(tool_state.record_count - 1) +
+           " files from Ostrane.dat has been extracted into: " + job.target_folder;
   }
-  file_5.close();
-  return stopped;
+  return text + text_of(job.skipped, "\nThese entries were not extracted:") +
+         text_of(job.hidden, "\nThese files are hidden on this system:");
 }
 
 }  // namespace
@@ -138,18 +167,17 @@ void extract_all_entries() {
   job.target_folder = platform::with_separator(Form4.Text1.Text());
   const std::string fault = open_both_ends(job);
   if (!fault.empty()) {
+    file_5.close();
     platform::message_box(fault + " Nothing was extracted.");
     return;
   }
   show_progress("Ostrane.dat tool - File Extraction");
-  const std::string stopped = run(job);
+  const std::string stopped = platform::failure_of([&] { extract_entries(job); });
+  file_5.close();
   hide_progress("Ostrane.dat tool - ");
-  tell_what_was_passed_over(job.passed_over);
-  if (!stopped.empty()) {
-    platform::message_box("The extraction was stopped. " + stopped);
-    return;
-  }
-  platform::message_box("All files from Ostrane.dat has been extracted into: " + job.target_folder);
+  platform::message_box(closing_text(job, stopped));
+  const bool none_written = job.skipped.count > 0 && job.written == 0;
+  if (!stopped.empty() || none_written) return;
   Form4.Visible = false;
   Form1.Visible = true;
 }

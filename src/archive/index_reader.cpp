@@ -8,7 +8,7 @@
 #include "forms/form1.h"
 #include "palette/palette_store.h"
 #include "platform/code_page.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
 #include "platform/file_system.h"
 #include "platform/little_endian.h"
 #include "platform/message_box.h"
@@ -42,13 +42,12 @@ std::int32_t read_count() {
 }
 
 std::vector<dat_record> read_records() {
-  file_1.open_to_read(tool_state.archive_path);
   const std::int32_t count = read_count();
   std::vector<dat_record> records;
   records.reserve(static_cast<std::size_t>(count));
   std::array<std::byte, record_size> bytes;
   for (std::int32_t i = 0; i < count; ++i) {
-    if (file_1.read(bytes) < bytes.size()) refuse("it has become shorter meanwhile.");
+    if (file_1.read(bytes) < bytes.size()) refuse("it was cut meanwhile.");
     records.push_back(decode_record(bytes));
   }
   return records;
@@ -71,23 +70,36 @@ void keep_records(const std::vector<dat_record>& records) {
   }
 }
 
-// False, after a message, if there is no index to be had.
-bool read_index() {
+// From then on this archive is the open one. If it is not the one before, the icons in view are not
+// of this archive, so there is no next series of them.
+void keep_stamp(const platform::file_stamp& stamp) {
+  if (stamp != tool_state.archive_stamp) tool_state.directory_index = -1;
+  tool_state.archive_stamp = stamp;
+  tool_state.archive_is_open = flag_true;
+}
+
+void read_index() {
+  file_1.open_to_read(platform::on_drives(tool_state.archive_path));
+  const platform::file_stamp stamp = file_1.facts().stamp;
+  const std::vector<dat_record> records = read_records();
+  if (file_1.facts().stamp != stamp) refuse("it was written to meanwhile.");
+  file_1.close();
+  keep_records(records);
+  keep_stamp(stamp);
+}
+
+// Shows why the index cannot be read.
+bool try_to_read_index() {
   if (!platform::file_exists(tool_state.archive_path)) {
     platform::message_box(tool_state.archive_path + " is not found");
     return false;
   }
-  std::vector<dat_record> records;
-  bool good = true;
-  try {
-    records = read_records();
-  } catch (const platform::file_error& error) {
-    platform::message_box(error.text);
-    good = false;
-  }
+  const std::string failure = platform::failure_of(read_index);
+  if (failure.empty()) return true;
   file_1.close();
-  if (good) keep_records(records);
-  return good;
+  Form1.List1.Clear();
+  platform::message_box(failure);
+  return false;
 }
 
 }  // namespace
@@ -96,9 +108,8 @@ void read_archive(const std::string& folder) {
   if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
   tool_state.archive_path = platform::with_separator(folder) + "ostrane.dat";
   tool_state.archive_path_copy = tool_state.archive_path;
-  // The icons in view are not this archive's, so there is no next series of them.
-  tool_state.directory_index = -1;
-  if (read_index()) {
+  tool_state.archive_is_open = flag_false;
+  if (try_to_read_index()) {
     Form1.mnu_ext.Enabled = true;
     Form1.mnu_save.Enabled = true;
     Form1.mnu_read_filelist.Enabled = true;

@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   set_program_icon();
   desktop::qt_screen screen;
   platform::attach_screen(&screen);
-  ostrane::begin_tool(platform::tool_path(desktop::program_folder()));
+  ostrane::begin_tool(desktop::program_folder());
   const int outcome = QApplication::exec();
   platform::attach_screen(nullptr);
   return outcome;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "archive/open_archive.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "icons/decoder.h"
@@ -10,7 +11,7 @@
 #include "icons/show_working_message.h"
 #include "icons/shp_reader.h"
 #include "icons/slots.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
 #include "platform/message_box.h"
 #include "state/files.h"
 #include "state/sign_column_text.h"
@@ -19,6 +20,8 @@
 namespace ostrane {
 
 namespace {
+
+constexpr std::int16_t max_refusals_told = 20;
 
 // Two pixels more than the picture each way, for the border of the slot.
 std::int32_t slot_height() {
@@ -59,8 +62,13 @@ void show_blank_icon() {
 
 void refuse_icon(icon_outcome outcome) {
   const bool box_is_bad = outcome == icon_outcome::refused;
-  if (box_is_bad || tool_state.size_was_told == flag_false) say_that_icon_is_refused();
-  if (!box_is_bad) tool_state.size_was_told = flag_true;
+  if (box_is_bad && tool_state.refusals_told < max_refusals_told) {
+    ++tool_state.refusals_told;
+    report_refused_icon(tool_state.refusals_told == max_refusals_told);
+  } else if (!box_is_bad && tool_state.size_was_told == flag_false) {
+    tool_state.size_was_told = flag_true;
+    report_refused_icon(false);
+  }
   ++tool_state.next_icon;
   stop_behind_last_icon();
 }
@@ -88,7 +96,7 @@ void draw_next_icon() {
 }
 
 void draw_from_archive() {
-  file_1.open_to_read(tool_state.archive_path);
+  open_archive_file(file_1);
   if (tool_state.directory_read == flag_false) read_directory();
   while (tool_state.series_full == flag_false) {
     if (tool_state.next_icon > tool_state.shp_head.icon_count) break;
@@ -119,7 +127,8 @@ void show_shp_series() {
 }
 
 void show_next_series() {
-  const bool of_open_archive = tool_state.directory_index >= 0;
+  const bool of_open_archive =
+      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
   if (tool_state.series_next_icon >= tool_state.shp_head.icon_count || !of_open_archive) return;
   Form1.Text2.Text = "";
   reset_icon_view();
@@ -133,10 +142,10 @@ void show_next_series() {
 void draw_shp_series() {
   tool_state.series_first_icon = tool_state.next_icon;
   tool_state.size_was_told = flag_false;
-  try {
-    draw_from_archive();
-  } catch (const platform::file_error& error) {
-    platform::message_box(error.text);
+  tool_state.refusals_told = 0;
+  const std::string failure = platform::failure_of(draw_from_archive);
+  if (!failure.empty()) {
+    platform::message_box(failure);
     if (tool_state.directory_read == flag_false) tool_state.shp_head = {};
   }
   file_1.close();

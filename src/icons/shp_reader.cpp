@@ -55,7 +55,7 @@ std::int64_t most_stream_bytes(const icon_head& head) {
 
 }  // namespace
 
-void say_that_icon_is_refused() {
+void report_refused_icon(bool is_last) {
   const icon_head& head = tool_state.icon_header;
   platform::message_box(
       "Something is rotten in the state of Denmark - fileformat has errors, icon is not "
@@ -63,7 +63,8 @@ void say_that_icon_is_refused() {
       sign_column_text(head.no_of_rows) + "\nRow-start = " + sign_column_text(head.row_start) +
       "\nRow-end = " + sign_column_text(head.row_end) + "\nNo-of-cols = " +
       sign_column_text(head.no_of_cols) + "\nCol-start = " + sign_column_text(head.col_start) +
-      "\nCol-end = " + sign_column_text(head.col_end));
+      "\nCol-end = " + sign_column_text(head.col_end) +
+      (is_last ? "\nFurther icons of this series are refused without a message." : ""));
 }
 
 void read_directory() {

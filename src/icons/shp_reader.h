@@ -13,7 +13,7 @@ void read_directory();
 // place in the file, a message says so and `series_full` becomes true.
 void read_icon_head();
 
-// The message about the icon of `icon_header`.
-void say_that_icon_is_refused();
+// The message about the icon of `icon_header`; `is_last` adds that further ones come without one.
+void report_refused_icon(bool is_last);
 
 }  // namespace ostrane

@@ -2,6 +2,7 @@
 
 #include "forms/form1.h"
 #include "lists/compare_key.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -83,7 +84,7 @@ void walk(platform::text_writer& report) {
 }  // namespace
 
 void write_compare_report() {
-  platform::text_writer report(compare_report_path);
+  platform::text_writer report(platform::on_drives(compare_report_path));
   write_head(report);
   walk(report);
   report.close();

@@ -4,9 +4,8 @@
 #include <vector>
 
 #include "lists/compare_key.h"
-#include "platform/file_error.h"
-#include "platform/file_system.h"
-#include "platform/paths.h"
+#include "platform/case_blind.h"
+#include "platform/failure.h"
 #include "platform/text.h"
 #include "platform/text_file.h"
 #include "state/tool_state.h"
@@ -22,8 +21,9 @@ icon_name_pair pair_of(std::string_view line) {
           .description = std::string(platform::trimmed(line.substr(separator + 1)))};
 }
 
-void read_rows(const std::string& path) {
-  platform::text_reader reader(path);
+void read_rows() {
+  platform::text_reader reader(
+      {platform::find_in_folder(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
   std::vector<icon_name_pair>& rows = tool_state.icon_names;
   while (!reader.at_end() && rows.size() <= most_icon_names) {
     rows.push_back(pair_of(reader.read_line()));
@@ -34,14 +34,8 @@ void read_rows(const std::string& path) {
 
 void read_iconlist() {
   tool_state.icon_names.assign(1, {});
-  const std::string path = platform::with_separator(tool_state.app_path) + "iconlist.csv";
-  if (platform::file_exists(path)) {
-    try {
-      read_rows(path);
-    } catch (const platform::file_error&) {
-      // The descriptions are an extra: what could be read of them serves.
-    }
-  }
+  // The descriptions are an extra: without a file, or with a part of it, the tool works too.
+  platform::failure_of(read_rows);
   if (tool_state.icon_names.size() < 2) tool_state.icon_names.resize(2);
   tool_state.icon_name_count = static_cast<std::int16_t>(tool_state.icon_names.size() - 1);
 }

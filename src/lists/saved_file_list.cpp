@@ -1,8 +1,9 @@
 #include "lists/saved_file_list.h"
 
 #include "forms/form1.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
 #include "platform/message_box.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 
 namespace ostrane {
@@ -10,7 +11,7 @@ namespace ostrane {
 namespace {
 
 void write_rows() {
-  platform::text_writer writer("shplist.txt");
+  platform::text_writer writer(platform::in_current_folder("shplist.txt"));
   for (std::int32_t i = 0; i < Form1.List1.ListCount(); ++i) {
     writer.write_line(Form1.List1.List(i));
   }
@@ -20,12 +21,11 @@ void write_rows() {
 }  // namespace
 
 void save_file_list() {
-  try {
-    if (Form1.List1.ListCount() > 0) write_rows();
-    platform::message_box("A list of all files in ostrane.dat are saved in shplist.txt");
-  } catch (const platform::file_error& error) {
-    platform::message_box("The list of files was not saved. " + error.text);
-  }
+  std::string failure;
+  if (Form1.List1.ListCount() > 0) failure = platform::failure_of(write_rows);
+  platform::message_box(failure.empty()
+                            ? "A list of all files in ostrane.dat are saved in shplist.txt"
+                            : "The list of files was not saved. " + failure);
 }
 
 }  // namespace ostrane

@@ -4,6 +4,7 @@
 
 #include "lists/compare_key.h"
 #include "platform/file_error.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 #include "state/tool_state.h"
 
@@ -45,7 +46,7 @@ int difference(const place_in_order& a, const place_in_order& b) {
 }  // namespace
 
 void read_shiplist(const std::string& path) {
-  platform::text_reader reader(path);
+  platform::text_reader reader(platform::on_drives(path));
   std::vector<std::string> lines;
   lines.reserve(most_lines);
   while (!reader.at_end()) {

@@ -4,9 +4,10 @@
 #include <string>
 
 #include "archive/entry_bounds.h"
+#include "archive/open_archive.h"
 #include "forms/form1.h"
 #include "icons/show_working_message.h"
-#include "platform/file_error.h"
+#include "platform/failure.h"
 #include "platform/message_box.h"
 #include "state/files.h"
 #include "state/tool_state.h"
@@ -15,19 +16,32 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int64_t most_text = std::int64_t{16} << 20U;
+constexpr std::int64_t max_shown_bytes = std::int64_t{2} << 20U;
 
-// The bytes of the entry that the file holds.
-std::string read_text(std::int32_t offset) {
-  const std::int64_t there = offset < 0 ? 0 : file_1.size() - offset;
-  const std::int64_t count =
-      std::clamp<std::int64_t>(tool_state.entry_bytes_left, 0, std::max<std::int64_t>(there, 0));
-  std::string text(static_cast<std::size_t>(std::min(count, most_text)), ' ');
+// How many bytes of the entry the file holds.
+std::int64_t bytes_there(std::int32_t offset) {
+  const std::int64_t to_end_of_file = offset < 0 ? 0 : file_1.size() - offset;
+  return std::clamp<std::int64_t>(tool_state.entry_bytes_left, 0,
+                                  std::max<std::int64_t>(to_end_of_file, 0));
+}
+
+std::string read_text(std::int32_t offset, std::int64_t count) {
+  std::string text(static_cast<std::size_t>(count), ' ');
   if (text.empty()) return text;
   file_1.seek(offset);
   text.resize(file_1.read(std::as_writable_bytes(std::span(text))));
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
+}
+
+// Returns what the user has to know about it, or "".
+std::string show_text(std::int32_t offset) {
+  open_archive_file(file_1);
+  const std::int64_t count = bytes_there(offset);
+  Form1.Text6.Text = read_text(offset, std::min(count, max_shown_bytes));
+  if (count <= max_shown_bytes) return "";
+  return "This text has " + std::to_string(count) + " bytes. Only the first " +
+         std::to_string(max_shown_bytes) + " of them are shown.";
 }
 
 }  // namespace
@@ -37,14 +51,12 @@ void show_text_entry() {
   tool_state.entry_bytes_left =
       in_32_bits(std::int64_t{entry_end(tool_state.selected_index)} - offset);
   Form1.Text6.Text = "";
-  try {
-    file_1.open_to_read(tool_state.archive_path);
-    show_working_message();
-    Form1.Text6.Text = read_text(offset);
-  } catch (const platform::file_error& error) {
-    platform::message_box(error.text);
-  }
+  show_working_message();
+  std::string told;
+  const std::string failure = platform::failure_of([&] { told = show_text(offset); });
   file_1.close();
+  if (!failure.empty()) told = failure;
+  if (!told.empty()) platform::message_box(told);
 }
 
 }  // namespace ostrane

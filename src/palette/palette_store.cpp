@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "archive/open_archive.h"
 #include "palette/built_in_colours.h"
-#include "platform/file_error.h"
-#include "platform/file_system.h"
+#include "platform/failure.h"
 #include "state/files.h"
 #include "state/tool_state.h"
 
@@ -14,16 +14,14 @@ namespace {
 
 // The bytes that are there, at most 1024.
 std::size_t read_palette_bytes(std::span<std::byte> bytes) {
-  try {
-    file_1.open_to_read(tool_state.archive_path);
+  std::size_t got = 0;
+  platform::failure_of([&] {
+    open_archive_file(file_1);
     file_1.seek(tool_state.game_pal_offset);
-    const std::size_t got = file_1.read(bytes);
-    file_1.close();
-    return got;
-  } catch (const platform::file_error&) {
-    file_1.close();
-    return 0;
-  }
+    got = file_1.read(bytes);
+  });
+  file_1.close();
+  return got;
 }
 
 }  // namespace
@@ -36,7 +34,7 @@ void set_default_palette() {
 }
 
 void read_game_palette() {
-  if (tool_state.game_pal_offset <= 0 || !platform::file_exists(tool_state.archive_path)) return;
+  if (tool_state.game_pal_offset <= 0) return;
   std::array<std::byte, palette_colours * colour_size> bytes;
   const std::size_t whole_colours = read_palette_bytes(bytes) / colour_size;
   for (std::size_t i = 0; i < whole_colours; ++i) {

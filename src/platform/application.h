@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <string>
 
 namespace platform {
@@ -8,7 +10,9 @@ namespace platform {
 // The running program as the forms see it.
 struct application_facts {
   std::string Title;  // title of all message boxes
-  std::string Path;   // folder of the running program, a path of the tool
+  std::filesystem::path Path;  // folder of the running program
+  // Memory for a handler's work could not be had. Brings the windows back to a usable state.
+  std::function<void()> OutOfMemory;
   // A pixel is a device-independent one, whatever the screen.
   static constexpr std::int32_t TwipsPerPixelX = 15;
   static constexpr std::int32_t TwipsPerPixelY = 15;

@@ -6,8 +6,6 @@
 
 #include "platform/case_blind.h"
 #include "platform/file_calls.h"
-#include "platform/file_error.h"
-#include "platform/paths.h"
 
 namespace platform {
 
@@ -22,25 +20,26 @@ void binary_file::abandon() {
   file_ = -1;
 }
 
-void binary_file::open_to_read(const std::string& path) {
-  take(file_calls::open_to_read(system_path(path)), path, false);
+void binary_file::open_to_read(const file_path& path) {
+  take(file_calls::open_to_read(path.system), path.shown, false);
 }
 
-bool binary_file::open_to_write(const std::string& path) {
-  const std::filesystem::path place = system_path(path);
-  const int made = file_calls::open_new(place);
-  take(made == -EEXIST ? file_calls::open_to_write(place) : made, path, true);
-  if (made >= 0) remember_file(place);
+bool binary_file::open_to_write(const file_path& path) {
+  const int made = file_calls::open_new(path.system);
+  take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, path.shown, true);
+  if (made >= 0) remember_file(path.system);
   return made >= 0;
 }
 
-void binary_file::take_written(int file, const std::string& path) { take(file, path, true); }
+void binary_file::take_written(int file, const std::string& shown_path) {
+  take(file, shown_path, true);
+}
 
-void binary_file::take(int file, const std::string& path, bool writes) {
+void binary_file::take(int file, const std::string& shown_path, bool writes) {
   abandon();
-  path_ = path;
-  if (file < 0) fail(file, " cannot be opened: ");
   file_ = file;
+  path_ = shown_path;
+  if (file < 0) fail(file, " cannot be opened: ");
   writes_ = writes;
   buffer_.resize(buffer_size);
   position_ = 0;
@@ -49,9 +48,7 @@ void binary_file::take(int file, const std::string& path, bool writes) {
 }
 
 void binary_file::fail(std::int64_t outcome, const char* what) {
-  const int number = static_cast<int>(-outcome);
-  throw file_error{file_calls::error_number(number),
-                   path_ + what + file_calls::error_words(number) + "."};
+  file_calls::fail(path_, what, outcome);
 }
 
 void binary_file::seek(std::int64_t offset) {
@@ -81,9 +78,9 @@ void binary_file::fill_buffer() {
   fill_ = read_from_system(buffer_);
 }
 
-std::span<const std::byte> binary_file::next(std::size_t most) {
+std::span<const std::byte> binary_file::next(std::size_t max) {
   if (position_ == fill_) fill_buffer();
-  const auto bytes = std::span(buffer_).subspan(position_, std::min(most, fill_ - position_));
+  const auto bytes = std::span(buffer_).subspan(position_, std::min(max, fill_ - position_));
   position_ += bytes.size();
   return bytes;
 }
@@ -123,21 +120,29 @@ void binary_file::write(std::span<const std::byte> from) {
   }
 }
 
-std::int64_t binary_file::size() {
-  const std::int64_t bytes = file_calls::size_of(file_);
-  if (bytes < 0) fail(bytes, " cannot be read: ");
-  return bytes;
+file_facts binary_file::facts() {
+  file_facts found;
+  const int outcome = file_calls::facts_of(file_, found);
+  if (outcome < 0) fail(outcome, " cannot be read: ");
+  return found;
+}
+
+void binary_file::cut() {
+  flush();
+  const int outcome = file_calls::set_size(file_, buffer_start_);
+  if (outcome < 0) fail(outcome, " cannot be written: ");
 }
 
 void binary_file::flush(bool to_disk) {
   std::size_t written = 0;
   const std::size_t count = position_;
-  position_ = 0;  // what could not be written is not tried again at closing
+  position_ = 0;  // what could not be written is not tried again at close
   while (writes_ && written < count) {
     const std::int64_t moved =
         file_calls::write_some(file_, buffer_.data() + written, count - written);
-    if (moved < 0) fail(moved, " cannot be written: ");
+    if (moved <= 0) fail(moved < 0 ? moved : -EIO, " cannot be written: ");
     written += static_cast<std::size_t>(moved);
+    buffer_start_ += moved;
   }
   if (!to_disk) return;
   const int flushed = file_calls::flush_to_disk(file_);

@@ -6,44 +6,53 @@
 #include <string>
 #include <vector>
 
+#include "platform/file_path.h"
+#include "platform/system_calls.h"
+
 namespace platform {
 
 // A file of bytes with a current position. It is buffered, so that blocks of one byte cost no call
 // to the system each. All operations throw file_error, with the path in its text, if the system
-// fails; reading past the end is no failure and moves fewer bytes.
+// fails. Reading past the end is not an error; it returns fewer bytes.
 class binary_file {
  public:
   binary_file() = default;
   binary_file(const binary_file&) = delete;
   binary_file& operator=(const binary_file&) = delete;
-  // Closes an open file without looking at failures.
+  // Closes an open file and ignores failures.
   ~binary_file() { abandon(); }
 
-  void open_to_read(const std::string& path);
-  // Makes a missing file and gives true; one that is there is written over from its first byte and
+  void open_to_read(const file_path& path);
+  // Makes a missing file and returns true. An existing file is written over from its first byte and
   // not emptied.
-  bool open_to_write(const std::string& path);
+  bool open_to_write(const file_path& path);
 
-  // Takes a file that was opened for writing through file_calls; `path` is for messages.
-  void take_written(int file, const std::string& path);
+  // Takes a file that was opened for writing through file_calls; `shown_path` is for messages.
+  void take_written(int file, const std::string& shown_path);
 
   void seek(std::int64_t offset);
   // Bytes read: fewer than asked for only at the end of the file.
   std::size_t read(std::span<std::byte> to);
-  // The next bytes, at most so many and none at the end of the file. They stay until the next call.
-  std::span<const std::byte> next(std::size_t most);
+  // The next bytes, at most `max` and none at the end of the file. Valid until the next call.
+  std::span<const std::byte> next(std::size_t max);
   void write(std::span<const std::byte> from);
-  std::int64_t size();
+  // Cuts a written file after its last byte written.
+  void cut();
+  file_facts facts();
+  std::int64_t size() { return facts().stamp.size; }
 
   // Writes what is still buffered, and to the disk itself too if `to_disk`.
   void flush(bool to_disk = false);
-  // Closing a file that was written can fail, so it is looked at.
+  // Throws if what was written cannot be stored.
   void close();
-  // Closes without writing what is still buffered and without looking at failures.
+  // Closes without writing what is still buffered, and ignores failures.
   void abandon();
 
+  // The number of the open file, for file_calls.
+  int handle() const { return file_; }
+
  private:
-  void take(int file, const std::string& path, bool writes);
+  void take(int file, const std::string& shown_path, bool writes);
   [[noreturn]] void fail(std::int64_t outcome, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
@@ -54,7 +63,7 @@ class binary_file {
   std::vector<std::byte> buffer_;
   std::size_t position_ = 0;       // of the next byte in the buffer
   std::size_t fill_ = 0;           // bytes in the buffer while reading
-  std::int64_t buffer_start_ = 0;  // place in the file of the buffer's first byte, while reading
+  std::int64_t buffer_start_ = 0;  // file offset of the buffer's first byte
 };
 
 }  // namespace platform

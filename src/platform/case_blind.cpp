@@ -59,7 +59,12 @@ fs::path find_in_folder(const fs::path& folder, const std::string& name) {
     return exact;
   }
   fs::path other_case = folder / found->second;
-  return is_there(other_case) ? other_case : exact;
+  if (is_there(other_case)) return other_case;
+  // It was deleted meanwhile. Another spelling of it may be there.
+  known = {};
+  read_names(known, folder);
+  const auto left = known.names.find(upper_case(name));
+  return left == known.names.end() ? exact : folder / left->second;
 }
 
 const fs::path* remembered_place(const std::string& folder) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <deque>
+#include <new>
+#include <utility>
 
 #include "platform/application.h"
 #include "platform/case_blind.h"
@@ -33,6 +35,9 @@ void run_one(const std::function<void()>& handler) {
     handler();
   } catch (const file_error& error) {
     message_box(error.text);
+  } catch (const std::bad_alloc&) {
+    if (application.OutOfMemory) application.OutOfMemory();
+    message_box("There is not enough memory for this.");
   }
   forget_folders();
 }
@@ -50,7 +55,7 @@ void run_event(const std::function<void()>& handler, const void* key) {
   const running_mark mark;
   run_one(handler);
   while (!waiting.empty() && !process_ended()) {
-    const waiting_event next = waiting.front();
+    const waiting_event next = std::move(waiting.front());
     waiting.pop_front();
     run_one(next.handler);
   }

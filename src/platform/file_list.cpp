@@ -19,11 +19,8 @@ void file_list::about_to_show() {
 void file_list::set_path(const std::string& path) { read(full_path(path), Pattern()); }
 
 void file_list::set_pattern(const std::string& pattern) {
-  if (Path().empty()) {
-    Pattern.value_ = pattern;
-  } else {
-    read(Path(), std::string(pattern));
-  }
+  Pattern.value_ = pattern;
+  if (!Path().empty()) read(Path(), Pattern());
 }
 
 void file_list::Refresh() { read(Path(), Pattern()); }

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <string_view>
+#include <unordered_set>
 
 #include "platform/case_blind.h"
 #include "platform/code_page.h"
 #include "platform/file_calls.h"
-#include "platform/file_error.h"
 #include "platform/paths.h"
 #include "platform/system_name.h"
 
@@ -16,12 +17,6 @@ namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(const std::string& path, const std::error_code& reason, const char* what) {
-  const int number = file_calls::errno_number(reason);
-  throw file_error{file_calls::error_number(number),
-                   path + what + file_calls::error_words(number) + "."};
-}
 
 fs::file_status status_of(const std::string& path) {
   try {
@@ -47,16 +42,26 @@ void sort_folded(std::vector<std::string>& names) {
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
 }
 
-std::vector<std::string> sorted_names(const std::string& path, bool listed_entry::*is_wanted) {
+std::vector<listed_entry> listed_in(const std::string& path) {
   std::vector<listed_entry> listed;
   const int failed = file_calls::list(system_path(path), listed);
-  if (failed < 0) fail(path, {-failed, std::generic_category()}, " cannot be read: ");
+  if (failed < 0) file_calls::fail(path, " cannot be read: ", failed);
+  return listed;
+}
+
+// A name that cannot stand in a path of the tool is of no use to it.
+const char* unlisted_reason(const listed_entry& entry, const std::optional<std::string>& name) {
+  if (!name) return "its name has characters that the code page lacks";
+  if (name->find('\\') != name->npos) return "its name holds a separator of paths";
+  return entry.is_hidden ? "it is hidden" : "";
+}
+
+std::vector<std::string> sorted_names(const std::string& path, bool listed_entry::*is_wanted) {
   std::vector<std::string> names;
-  for (const listed_entry& entry : listed) {
-    if (entry.is_hidden || !(entry.*is_wanted)) continue;
+  for (const listed_entry& entry : listed_in(path)) {
+    if (!(entry.*is_wanted)) continue;
     std::optional<std::string> name = name_as_text(entry.name);
-    // A name that cannot stand in a path of the tool is of no use to it.
-    if (name && name->find('\\') == name->npos) names.push_back(std::move(*name));
+    if (*unlisted_reason(entry, name) == '\0') names.push_back(std::move(*name));
   }
   sort_folded(names);
   return names;
@@ -71,21 +76,11 @@ bool file_exists(const std::string& path) {
 
 bool folder_exists(const std::string& path) { return fs::is_directory(status_of(path)); }
 
-bool is_same_file(const std::string& path, const std::string& other) {
-  std::error_code failed;
-  return fs::equivalent(system_path(path), system_path(other), failed) && !failed;
-}
-
 std::int64_t file_size(const std::string& path) {
   std::error_code failed;
   const std::uintmax_t bytes = fs::file_size(system_path(path), failed);
-  if (failed) fail(path, failed, " cannot be read: ");
+  if (failed) file_calls::fail(path, " cannot be read: ", -file_calls::errno_number(failed));
   return static_cast<std::int64_t>(bytes);
-}
-
-void delete_file(const std::string& path) {
-  const int deleted = file_calls::remove_file(system_path(path));
-  if (deleted < 0) fail(path, {-deleted, std::generic_category()}, " cannot be deleted: ");
 }
 
 void create_folder(const std::string& path) {
@@ -94,7 +89,7 @@ void create_folder(const std::string& path) {
   if (!fs::create_directory(place, failed) && !failed) {
     failed = std::make_error_code(std::errc::file_exists);
   }
-  if (failed) fail(path, failed, " cannot be made: ");
+  if (failed) file_calls::fail(path, " cannot be made: ", -file_calls::errno_number(failed));
   forget_folders();
 }
 
@@ -104,6 +99,22 @@ std::vector<std::string> folders_in(const std::string& path) {
 
 std::vector<std::string> files_in(const std::string& path) {
   return sorted_names(path, &listed_entry::is_file);
+}
+
+std::vector<unlisted_file> unlisted_files_in(const std::string& path,
+                                             const std::vector<std::string>& listed) {
+  const std::unordered_set<std::string_view> known(listed.begin(), listed.end());
+  std::vector<unlisted_file> unlisted;
+  for (const listed_entry& entry : listed_in(path)) {
+    if (!entry.is_file) continue;
+    const std::optional<std::string> name = name_as_text(entry.name);
+    const char* reason = unlisted_reason(entry, name);
+    if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";
+    if (*reason != '\0') unlisted.push_back({name ? *name : name_with_marks(entry.name), reason});
+  }
+  std::sort(unlisted.begin(), unlisted.end(),
+            [](const auto& a, const auto& b) { return a.name < b.name; });
+  return unlisted;
 }
 
 bool matches_pattern(const std::string& name, const std::string& pattern) {

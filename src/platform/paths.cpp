@@ -6,6 +6,7 @@
 #include "platform/case_blind.h"
 #include "platform/code_page.h"
 #include "platform/drives.h"
+#include "platform/file_calls.h"
 #include "platform/file_error.h"
 #include "platform/system_name.h"
 
@@ -32,8 +33,10 @@ void walk(std::vector<std::string>& names, std::string_view path) {
   }
 }
 
-// A drive's text has a blank behind the colon, as no path has.
-bool is_drive_text(std::string_view path) { return path.size() > 2 && path[2] == ' '; }
+bool is_drive_text(const std::string& path, char letter) {
+  const drive* named = find_drive(letter);
+  return named != nullptr && drive_text(*named) == path;
+}
 
 [[noreturn]] void say_that_there_is_no_drive(const std::string& path) {
   throw file_error{file_error_number::device_unavailable,
@@ -66,9 +69,9 @@ fs::path place_of_folder(const std::string& whole) {
   return place;
 }
 
-// How deep `place` lies in `folder`; nothing if it lies elsewhere.
-std::optional<fs::path> inside(const fs::path& place, const fs::path& folder) {
-  const fs::path rest = place.lexically_relative(folder);
+// `path` relative to `folder`, or nullopt if it is outside.
+std::optional<fs::path> inside(const fs::path& path, const fs::path& folder) {
+  const fs::path rest = path.lexically_relative(folder);
   if (rest.empty() || *rest.begin() == "..") return std::nullopt;
   return rest;
 }
@@ -95,7 +98,7 @@ std::string full_path(const std::string& path) {
     letter = drive_letter(path);
     if (letter == 0) say_that_there_is_no_drive(path);
     rest.remove_prefix(2);
-    if (is_drive_text(path)) rest = {};
+    if (is_drive_text(path, letter)) rest = {};
   }
   std::vector<std::string> names;
   const bool from_root = !rest.empty() && is_separator(rest.front());
@@ -123,6 +126,16 @@ fs::path system_path(const std::string& path) {
   return name.empty() ? *place : found_in(*place, name, whole);
 }
 
+file_path on_drives(const std::string& path) { return {system_path(path), path}; }
+
+file_path in_current_folder(const std::string& name) {
+  if (!given_current_folder().empty()) return on_drives(name);
+  std::error_code failed;
+  const fs::path folder = fs::current_path(failed);
+  if (failed) file_calls::fail(name, " cannot be found: ", -file_calls::errno_number(failed));
+  return {find_in_folder(folder, name), name};
+}
+
 std::string current_folder() {
   if (!given_current_folder().empty()) return given_current_folder();
   std::error_code failed;
@@ -130,11 +143,11 @@ std::string current_folder() {
   return current.empty() ? "C:\\" : current;
 }
 
-std::string tool_path(const fs::path& place) {
+std::string tool_path(const fs::path& path) {
   const drive* nearest = nullptr;
   fs::path rest;
   for (const drive& d : drives()) {
-    const std::optional<fs::path> from_drive = inside(place, d.folder);
+    const std::optional<fs::path> from_drive = inside(path, d.folder);
     const bool nearer =
         nearest == nullptr || d.folder.native().size() > nearest->folder.native().size();
     if (!from_drive || !nearer) continue;

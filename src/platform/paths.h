@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_path.h"
+
 // Paths of the tool are "\"-separated and begin with a drive letter, such as "C:\icons\a.shp".
 namespace platform {
 
@@ -11,23 +13,30 @@ namespace platform {
 std::string with_separator(std::string_view folder);
 
 // The whole path, drive first, for a path that may lack its drive or start at the current folder;
-// "." and ".." are worked out and a root keeps its "\" at the end. A drive's text such as
-// "c: [home]" gives the current folder of that drive. Throws file_error if what stands before the
-// colon is no letter.
+// "." and ".." are resolved and a root keeps its "\" at the end. A drive's text as the drive list
+// shows it, such as "c: [home]", gives the current folder of that drive. Throws file_error if what
+// stands before the colon is no letter.
 std::string full_path(const std::string& path);
 
 // The letter of the drive that a path or a drive's text names, upper case; 0 if it names none.
 char drive_letter(std::string_view path);
 
-// Where a path of the tool lies on this system. Names compare without regard to case: an exact
-// match first, else one that differs in case only; a name that is not there yet stays as given.
-// Throws file_error if there is no such drive.
+// The system's path for a path of the tool. Names compare without regard to case: an exact match
+// first, else one that differs in case only; a name that does not exist yet stays as given. Throws
+// file_error if there is no such drive.
 std::filesystem::path system_path(const std::string& path);
+// The same with the path as it was given, for messages.
+file_path on_drives(const std::string& path);
 
-// The current folder of the process, as a path of the tool.
+// A file of that name in the current folder of the process, even if the folder's path has no form
+// in the code page.
+file_path in_current_folder(const std::string& name);
+
+// The current folder of the process, as a path of the tool; "C:\" if it has no form in the code
+// page.
 std::string current_folder();
 
-// The path of the tool for a place on this system; empty if its name has no form in the code page.
-std::string tool_path(const std::filesystem::path& place);
+// The path of the tool for a path of this system; empty if it has no form in the code page.
+std::string tool_path(const std::filesystem::path& path);
 
 }  // namespace platform

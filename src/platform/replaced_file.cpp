@@ -1,76 +1,115 @@
 #include "platform/replaced_file.h"
 
+#include <cerrno>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/case_blind.h"
 #include "platform/code_page.h"
 #include "platform/file_calls.h"
-#include "platform/file_error.h"
-#include "platform/paths.h"
+#include "platform/hidden_name.h"
 #include "platform/system_name.h"
 
 namespace platform {
 
 namespace {
 
-void require(int outcome, const std::string& path) {
-  if (outcome >= 0) return;
-  throw file_error{file_calls::error_number(-outcome),
-                   path + " cannot be written: " + file_calls::error_words(-outcome) + "."};
-}
+namespace fs = std::filesystem;
 
-std::string folded_name(const std::filesystem::path::string_type& system_name) {
+constexpr int max_tries = 100;  // for a name that is free
+constexpr const char* cannot_write = " cannot be written: ";
+
+std::string folded_name(const fs::path::string_type& system_name) {
   const std::optional<std::string> name = name_as_text(system_name);
   return name ? upper_case(*name) : std::string();
 }
 
-// Where names tell case apart, files of the same name in another case may lie beside `file`, which
-// is there. They go, as the name means one file only.
-void remove_other_cases(const std::filesystem::path& file) {
-  const std::string folded = folded_name(file.filename().native());
-  std::vector<listed_entry> listed;
-  file_calls::list(file.parent_path(), listed);
-  for (const listed_entry& entry : listed) {
-    if (entry.is_folder || folded_name(entry.name) != folded) continue;
-    const std::filesystem::path other = file.parent_path() / entry.name;
-    std::error_code unknown;
-    if (std::filesystem::equivalent(other, file, unknown) || unknown) continue;
-    file_calls::remove_file(other);
-  }
-}
-
 }  // namespace
 
-replaced_file::replaced_file(const std::string& path) : path_(path), old_place_(system_path(path)) {
-  const std::string whole = full_path(path);
-  const std::filesystem::path folder = old_place_.parent_path();
-  const std::string name = whole.substr(whole.rfind('\\') + 1);
-  new_place_ = folder / system_name(name);
-  written_ = folder / system_name("." + name + ".new");
-  file_calls::remove_file(written_);
-  file_.take_written(file_calls::open_new(written_), path);
+replaced_file::replaced_file(file_path target)
+    : target_(std::move(target)), lock_(target_.system, target_.shown) {
+  remove_leftovers();
+  int file = -EEXIST;
+  for (int tries = 0; file == -EEXIST && tries < max_tries; ++tries) {
+    temporary_ = temporary_beside(target_.system);
+    file = file_calls::open_new(temporary_);
+  }
+  try {
+    file_.take_written(file, target_.shown);
+  } catch (...) {
+    file_calls::remove_file(temporary_);
+    throw;
+  }
+  // Tells other copies that it is no leftover, should they have got past the other lock.
+  file_calls::lock(file);
+  take_rights();
 }
 
 replaced_file::~replaced_file() {
-  if (in_place_) return;
+  if (is_own(temporary_)) file_calls::remove_file(temporary_);
   file_.abandon();
-  file_calls::remove_file(written_);
 }
 
-// The old name is replaced before its case is changed: a sudden death between the two leaves one
-// whole archive, and there never are two. From the replacement on nothing can be lost: a change of
-// case that fails leaves the old spelling, which names compare equal to.
+void replaced_file::remove_leftovers() const {
+  std::vector<listed_entry> listed;
+  file_calls::list(target_.system.parent_path(), listed);
+  for (const listed_entry& entry : listed) {
+    if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
+    const fs::path leftover = target_.system.parent_path() / entry.name;
+    const int file = file_calls::open_to_read(leftover);
+    if (file < 0) continue;
+    if (file_calls::lock(file) >= 0 && file_calls::is_at(file, leftover) == 1) {
+      file_calls::remove_file(leftover);
+    }
+    file_calls::close_file(file);
+  }
+}
+
+void replaced_file::take_rights() {
+  file_facts old;
+  if (file_calls::facts_at(target_.system, old) < 0 || !old.is_file) return;
+  file_calls::set_rights(file_.handle(), old);
+}
+
+bool replaced_file::is_own(const fs::path& name) const {
+  return file_calls::is_at(file_.handle(), name) == 1;
+}
+
+void replaced_file::require_own_file() const {
+  const int own = file_calls::is_at(file_.handle(), temporary_);
+  if (own < 0) file_calls::fail(target_.shown, cannot_write, own);
+  if (own == 1) return;
+  throw file_error{file_error_number::device_error,
+                   target_.shown + cannot_write + "another program has moved what was written."};
+}
+
+// A system may report a failure of what it has done. So the outcome is looked up.
 void replaced_file::put_in_place() {
   file_.flush(true);
-  file_.close();
-  require(file_calls::replace(written_, old_place_), path_);
-  in_place_ = true;
-  const bool new_case =
-      old_place_ == new_place_ || file_calls::replace(old_place_, new_place_) >= 0;
-  remove_other_cases(new_case ? new_place_ : old_place_);
-  file_calls::flush_folder(new_place_.parent_path());
-  forget_folders();
+  require_own_file();
+  const int replaced = file_calls::replace(temporary_, target_.system);
+  const int own = file_calls::is_at(file_.handle(), target_.system);
+  if (own == 1 || (own < 0 && replaced >= 0)) return;
+  if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
+  throw file_error{file_error_number::device_error,
+                   target_.shown + cannot_write + "another program has replaced it."};
 }
+
+void replaced_file::respell(const fs::path& target) {
+  if (target != target_.system) file_calls::replace(target_.system, target);
+  const fs::path& kept = is_own(target) ? target : target_.system;
+  if (!is_own(kept)) return;
+  const std::string folded = folded_name(kept.filename().native());
+  std::vector<listed_entry> listed;
+  file_calls::list(kept.parent_path(), listed);
+  for (const listed_entry& entry : listed) {
+    if (entry.is_folder || folded_name(entry.name) != folded) continue;
+    const fs::path other = kept.parent_path() / entry.name;
+    if (file_calls::is_at(file_.handle(), other) == 0) file_calls::remove_file(other);
+  }
+}
+
+void replaced_file::flush_folder() { file_calls::flush_folder(target_.system.parent_path()); }
 
 }  // namespace platform

@@ -1,37 +1,49 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-
 #include "platform/binary_file.h"
+#include "platform/writing_lock.h"
 
 namespace platform {
 
-// A file that is written anew beside an old one, under a hidden name, and takes its place in one
-// step when it is whole. Until then, and after any failure, the old file is as it was; a new file
-// that is not put in place is taken away. What a sudden death left behind goes at the next time.
+// New content for a file, written to a hidden file beside it, which takes the file's place in one
+// step when it is whole. Until then, and after any failure, the old file is as it was. Copies of
+// the tool that write the same file wait for each other. A hidden file that a crash has left is
+// removed by the next one.
+//
+// Nothing is put in place or deleted under a name that does not lead to what was written here.
 class replaced_file {
  public:
-  // `path` is the file to be replaced or made; its last name is the one that the new file will
-  // bear, whatever the case of the old one's. Throws file_error.
-  explicit replaced_file(const std::string& path);
+  // `target` is the file to replace or make; the new file gets the rights and the owner of the old
+  // one. Throws file_error, as the others do.
+  explicit replaced_file(file_path target);
   replaced_file(const replaced_file&) = delete;
   replaced_file& operator=(const replaced_file&) = delete;
+  // Removes what was not put in place.
   ~replaced_file();
 
   binary_file& file() { return file_; }
 
-  // Flushes the new file to the disk and puts it in place; no file of the same name in another case
-  // is left beside it. Throws file_error.
+  // Flushes the new content to the disk and puts it in place.
   void put_in_place();
 
+  // For a file that is in place: another spelling of its name, in the same folder. If that fails
+  // the name stays. Other files of the same name in another case are deleted.
+  void respell(const std::filesystem::path& target);
+
+  // Flushes the folder, so that a loss of power does not bring the old file back.
+  void flush_folder();
+
  private:
-  std::string path_;
-  std::filesystem::path old_place_;  // where the old file lies, or where one would
-  std::filesystem::path new_place_;  // the name as given
-  std::filesystem::path written_;    // the hidden name
+  void remove_leftovers() const;
+  void take_rights();
+  void require_own_file() const;
+  // True if `name` leads to what was written here.
+  bool is_own(const std::filesystem::path& name) const;
+
+  file_path target_;
+  writing_lock lock_;
+  std::filesystem::path temporary_;
   binary_file file_;
-  bool in_place_ = false;
 };
 
 }  // namespace platform

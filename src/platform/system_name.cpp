@@ -9,16 +9,15 @@ namespace fs = std::filesystem;
 namespace {
 
 // Where names are bytes they are UTF-8.
-[[maybe_unused]] std::optional<std::string> as_text(const std::string& name) {
-  return from_utf8(name);
-}
+[[maybe_unused]] std::string utf8_of(const std::string& name) { return name; }
 
-[[maybe_unused]] std::optional<std::string> as_text(const std::wstring& name) {
+// Windows lets half a surrogate pair stand in a name, which is then no UTF-8.
+[[maybe_unused]] std::string utf8_of(const std::wstring& name) {
   try {
     const std::u8string utf8 = fs::path(name).u8string();
-    return from_utf8(std::string(utf8.begin(), utf8.end()));
+    return {utf8.begin(), utf8.end()};
   } catch (const fs::filesystem_error&) {
-    return std::nullopt;  // Windows lets half a surrogate pair stand in a name
+    return "\xFF";
   }
 }
 
@@ -29,6 +28,12 @@ fs::path system_name(std::string_view text) {
   return fs::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-std::optional<std::string> name_as_text(const fs::path::string_type& name) { return as_text(name); }
+std::optional<std::string> name_as_text(const fs::path::string_type& name) {
+  return from_utf8(utf8_of(name));
+}
+
+std::string name_with_marks(const fs::path::string_type& name) {
+  return from_utf8_or_marks(utf8_of(name));
+}
 
 }  // namespace platform

@@ -13,5 +13,7 @@ std::filesystem::path system_name(std::string_view text);
 
 // Nothing if the name has no form in the code page.
 std::optional<std::string> name_as_text(const std::filesystem::path::string_type& name);
+// With "?" for each character that the code page lacks.
+std::string name_with_marks(const std::filesystem::path::string_type& name);
 
 }  // namespace platform

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/paths.h"
+#include "platform/file_error.h"
 
 namespace platform {
 
@@ -10,19 +10,21 @@ namespace {
 
 constexpr std::size_t block = 65536;
 
-// A file that is there must be a normal one that may be written to, though it is only replaced.
-const std::string& writable(const std::string& path) {
-  std::error_code unknown;
-  if (!std::filesystem::exists(system_path(path), unknown)) return path;
-  binary_file old;
-  old.open_to_write(path);
-  old.close();
-  return path;
+// Where a link leads, if it leads to a file.
+file_path behind_links(const file_path& path) {
+  std::error_code nowhere;
+  const std::filesystem::path target = std::filesystem::canonical(path.system, nowhere);
+  return {nowhere ? path.system : target, path.shown};
+}
+
+bool is_there(const file_path& path) {
+  std::error_code failed;
+  return std::filesystem::exists(std::filesystem::symlink_status(path.system, failed));
 }
 
 }  // namespace
 
-text_reader::text_reader(const std::string& path) { file_.open_to_read(path); }
+text_reader::text_reader(const file_path& path) { file_.open_to_read(path); }
 
 bool text_reader::fill() {
   buffer_.resize(block);
@@ -49,14 +51,33 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const std::string& path) : new_file_(writable(path)) {}
-
-void text_writer::write_line(std::string_view line) {
-  new_file_.file().write(std::as_bytes(std::span(line)));
-  constexpr std::string_view end = "\r\n";
-  new_file_.file().write(std::as_bytes(std::span(end)));
+text_writer::text_writer(const file_path& path) {
+  const bool replaces = is_there(path);
+  if (replaces) old_file_.open_to_write(path);
+  try {
+    new_file_.emplace(behind_links(path));
+    old_file_.abandon();
+  } catch (const file_error& error) {
+    if (!replaces || error.number != file_error_number::permission_denied) throw;
+  }
 }
 
-void text_writer::close() { new_file_.put_in_place(); }
+void text_writer::write_line(std::string_view line) {
+  file().write(std::as_bytes(std::span(line)));
+  constexpr std::string_view end = "\r\n";
+  file().write(std::as_bytes(std::span(end)));
+}
+
+void text_writer::close() {
+  if (new_file_) {
+    new_file_->put_in_place();
+    new_file_->flush_folder();
+    new_file_.reset();
+  } else {
+    old_file_.cut();
+    old_file_.flush(true);
+    old_file_.close();
+  }
+}
 
 }  // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,12 +9,12 @@
 
 namespace platform {
 
-// Reads lines. A line ends at CR LF, at LF alone or at CR alone; a last line without an end counts
-// as a line, and behind a line's end at the end of the file there is no further one.
+// Reads lines. A line ends at CR LF, at LF alone or at CR alone. A last line without an end counts
+// as a line; a line end at the end of the file adds no empty line.
 class text_reader {
  public:
   // Throws file_error, as reading does.
-  explicit text_reader(const std::string& path);
+  explicit text_reader(const file_path& path);
 
   bool at_end();
   // The next line without its end. Not to be called at the end.
@@ -27,19 +28,24 @@ class text_reader {
   std::size_t position_ = 0;
 };
 
-// Writes lines, each ended by CR LF, into a new file, which takes the place of the old one when it
-// is closed. Until then, and if anything fails, the old file stays as it was.
+// Writes lines, each ended by CR LF, into a file that replaces the old one when it is closed. Until
+// then, and after any failure, the old file is as it was. A link stays, and the file that it leads
+// to is replaced. Where no file can be made beside the old one the lines are written into that; a
+// failure then leaves a part of them.
 class text_writer {
  public:
-  // Throws file_error, as all the others do; at once if the old file may not be written to.
-  explicit text_writer(const std::string& path);
+  // Throws file_error, as the others do; at once if the old file is read-only.
+  explicit text_writer(const file_path& path);
 
   // `line` comes without its end.
   void write_line(std::string_view line);
   void close();
 
  private:
-  replaced_file new_file_;
+  binary_file& file() { return new_file_ ? new_file_->file() : old_file_; }
+
+  binary_file old_file_;
+  std::optional<replaced_file> new_file_;
 };
 
 }  // namespace platform

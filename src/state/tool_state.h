@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "icons/shp_format.h"
 #include "lists/icon_name_pair.h"
 #include "platform/colour.h"
+#include "platform/system_calls.h"
 
 namespace ostrane {
 
@@ -26,8 +28,8 @@ constexpr std::int32_t most_slots = 9999;
 // value written here: a new process gets its memory as zeros, and to write them again would take as
 // long as all else at its start.
 struct tool_state_record {
-  std::string app_path;       // folder of the running program
-  std::string program_title;  // caption of the main window
+  std::filesystem::path app_path;  // folder of the running program
+  std::string program_title;       // caption of the main window
 
   std::array<std::byte, read_buffer_size> read_buffer;  // bytes of the run-length stream
   std::int32_t read_buffer_fill = 0;                    // valid bytes in it
@@ -41,6 +43,10 @@ struct tool_state_record {
   std::array<dat_record, most_records> dat_index;
   std::array<make_record, most_records> make_index;
   std::string archive_path_copy;  // always equal to archive_path; what extraction opens
+  // An archive is open: dat_index and List1 are those of the file at archive_path, which had this
+  // stamp when they were read. The stamp stays when another archive cannot be read.
+  flag archive_is_open = flag_false;
+  platform::file_stamp archive_stamp;
 
   ostrane::shp_head shp_head;
   ostrane::shp_dir_entry dir_entry;   // the one read last
@@ -80,9 +86,10 @@ struct tool_state_record {
   std::int32_t series_first_icon = 0;
   std::int32_t series_next_icon = 0;  // number of the last icon dealt with
   flag slot_fits = flag_false;
-  // A message spoke of a size that no slot can have. It comes once a series, as a damaged file may
-  // hold thousands of such icons.
+  // A damaged file may hold thousands of icons that are refused. So a message about a size that no
+  // slot can have comes once per series, and those about bad boxes are counted.
   flag size_was_told = flag_false;
+  std::int16_t refusals_told = 0;
 
   std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
   std::int16_t icon_name_count = 0;
