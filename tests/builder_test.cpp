@@ -76,6 +76,8 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
        "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
        "be."},
       {[&] { user::type(Form5.Text1, "Q:\\"); }, nothing, "There is no drive Q."},
+      {[] { make_folder("C:\\work\\.OSTRANE.DAT.lock"); }, nothing,
+       "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };
   for (const auto& c : cases) {
     begin_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});

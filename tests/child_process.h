@@ -13,7 +13,11 @@ template <typename Job>
 pid_t begin_process(const Job& job) {
   const pid_t child = fork();
   if (child != 0) return child;
-  job();
+  try {
+    job();
+  } catch (const std::exception& error) {
+    ADD_FAILURE() << error.what();
+  }
   _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 

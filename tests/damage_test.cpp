@@ -21,8 +21,9 @@ struct damage_test : icon_test {
       user::click(Form1.Command5);
       ASSERT_TRUE(Form1.Visible() && Form1.Enabled() && !Form3.Visible());
     }
-    if (rows > 0) extract_into("D:\\");
-    ASSERT_LE(new_messages().size(), 24U);
+    if (rows > 0) extract_into("D:\\new");
+    if (rows > 0) extract_into("D:\\old");
+    ASSERT_LE(new_messages().size(), 25U);
     ASSERT_TRUE(read("C:\\ostrane.dat") == bytes);
   }
 
@@ -32,10 +33,12 @@ struct damage_test : icon_test {
       archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
 };
 
-// Nothing is shown of an index that is cut, nor extracted of an entry.
+// Nothing is shown of an index that is cut, nor extracted of an entry, and a file of its name stays.
 TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     SCOPED_TRACE(length);
+    make_folder("D:\\new");
+    write("D:\\old\\I.SHP", "older than the icons");
     ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
     ASSERT_EQ(Form1.List1.ListCount(), length < 4 + 17 * 4 ? 0 : 4);
     file_map whole_entries = {
@@ -43,7 +46,10 @@ TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
     if (length < whole.size() - 44) whole_entries.erase("I.SHP");
     if (length < whole.size() - 40) whole_entries.erase("N.TXT");
     if (length < whole.size()) whole_entries.erase("GAME.PAL");
-    ASSERT_EQ(files_in("D:\\"), whole_entries);
+    ASSERT_EQ(files_in("D:\\new"), whole_entries);
+    whole_entries.try_emplace("I.SHP", "older than the icons");
+    ASSERT_EQ(files_in("D:\\old"), whole_entries);
+    for (const char* folder : {"D:\\new", "D:\\old"}) fs::remove_all(place(folder));
   }
 }
 

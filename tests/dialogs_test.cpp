@@ -90,6 +90,15 @@ TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
   });
 }
 
+TEST_F(dialogs_test, ListsTextFilesAlsoAfterAFolderThatCannotBeRead) {
+  begin("D:\\gone");
+  open_archive({{"A.TXT", "a"}});
+  user::click(Form1.mnu_read_filelist);
+  write("D:\\here\\a.dat", "");
+  Form6.Dir1.Path = "D:\\here";
+  EXPECT_TRUE(Form6.Visible() && Form6.File1.ListCount() == 0);
+}
+
 // It goes to drive C:. Where that does not answer either it stays where it was, and says so once.
 TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
   for (const bool c_answers : {true, false}) {

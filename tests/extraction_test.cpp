@@ -1,3 +1,6 @@
+#include <cerrno>
+
+#include "failing_calls.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -53,6 +56,32 @@ TEST_F(extraction_test, CopesWithOffsetsOutOfOrder) {
                                   "\n>B<: the index gives it a size below 0"});
 }
 
+// Offsets of which the sum leaves any file are skipped, and shift nothing behind them.
+TEST_F(extraction_test, SkipsEntriesThatNoFileCanReach) {
+  std::vector<std::pair<std::int32_t, std::string>> records;
+  for (int i = 0; i < 10000; ++i) records.push_back({i % 2 == 0 ? 38 : INT32_MAX, "A"});
+  open_bytes(index_bytes(10000, records));
+  extract_into("D:\\");
+  EXPECT_TRUE(new_messages().front().starts_with("0 of 9999 files"));
+  EXPECT_EQ(names_in("D:\\"), texts{});
+  EXPECT_TRUE(Form4.Visible());
+}
+
+// Names that differ in case mean one file, also if the first of them could not be written.
+TEST_F(extraction_test, WritesOneFileForNamesThatDifferInCase) {
+  open_archive({{"Abc", "1"}, {"ABC", "22"}, {"abc", "333"}, {"aBC", "4444"}});
+  int first_write = INT32_MAX;
+  for (const bool fails : {false, true}) {
+    open_extract_dialog("D:\\");
+    const failing_calls calls(fails ? first_write : INT32_MAX, {.reason = EIO});
+    user::click(Form4.Command2);
+    const auto at = std::find(calls.made.begin(), calls.made.end(), "write_some");
+    first_write = static_cast<int>(at - calls.made.begin());
+    EXPECT_EQ(files_in("D:\\"), (file_map{{fails ? "ABC" : "Abc", "4444"}}));
+    for (const std::string& name : names_in("D:\\")) fs::remove(place("D:\\" + name));
+  }
+}
+
 // The dialog stays, and not even a folder comes into being.
 TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
   const struct {
@@ -67,6 +96,9 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
          open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}}));
        },
        "The index of C:\\ostrane.dat puts entries before the file."},
+      {"D:\\",
+       [&] { write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}})); },
+       "C:\\ostrane.dat has changed since it was read. Read it again."},
   };
   for (const auto& c : cases) {
     begin();

@@ -17,6 +17,8 @@ TEST_F(files_test, WorksPathsOut) {
                                   {"C:\\work", "..\\..\\..\\x", "C:\\x"},
                                   {"C:\\work", "c: [test]", "C:\\work"},
                                   {"C:\\work", "d: [other]", "D:\\"},
+                                  {"C:\\work", "c: [test]\\A", "C:\\work\\ [test]\\A"},
+                                  {"C:\\work", "C: x", "C:\\work\\ x"},
                                   {"C:\\work", "D:", "D:\\"},
                                   {"C:\\work", "d:\\a\\.\\b\\..\\\\c\\", "D:\\a\\c"},
                                   {"D:\\", "\\", "D:\\"},

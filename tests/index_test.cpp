@@ -1,4 +1,4 @@
-#include "tool_fixture.h"
+#include "icon_fixture.h"
 
 namespace ostrane {
 namespace {
@@ -71,6 +71,43 @@ TEST_F(index_test, AMissingArchiveLeavesTheOpenOne) {
   open_archive("C:\\program");
   EXPECT_EQ(new_messages(), texts{"C:\\program\\ostrane.dat is not found"});
   EXPECT_EQ(shown(), "2+++");
+}
+
+// An archive that was written to is not looked into with the old index. Reading it again helps.
+TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
+  const std::string icons = samples::shp_file(plain_icons(3, 400, 400));
+  open_archive({{"A.SHP", icons}, {"N.TXT", "note"}});
+  const std::string bytes = archive_bytes({{"A.SHP", icons}, {"N.TXT", "tone"}});
+  write("C:\\ostrane.dat", bytes);
+  for (const char* name : {"A.SHP", "N.TXT"}) {
+    click_row(name);
+    EXPECT_EQ(new_messages(), texts{"C:\\ostrane.dat has changed since it was read. Read it again."});
+  }
+  EXPECT_TRUE(Form1.Text6.Text().empty() && Form1.Text2.Text() == "0");
+  open_archive();
+  click_row("N.TXT");
+  EXPECT_EQ(Form1.Text6.Text(), "tone");
+}
+
+// It goes on after the same archive was read again, and ends with another one or none.
+TEST_F(index_test, NextSeriesIsOneOfTheOpenArchive) {
+  const std::vector<entry> entries = {{"A.SHP", samples::shp_file(plain_icons(9, 300, 300))}};
+  write("C:\\other\\ostrane.dat", archive_bytes(entries));
+  for (const auto& [folders, next] : {std::pair{texts{"C:\\"}, true},
+                                      {{"C:\\program", "C:\\"}, true},
+                                      {{"C:\\other"}, false},
+                                      {{"C:\\program"}, false}}) {
+    begin();
+    open_archive(entries);
+    click_row("A.SHP");
+    const std::string first = Form1.Text3.Text();
+    for (const std::string& folder : folders) open_archive(folder);
+    user::click(Form1.Command6);
+    EXPECT_EQ(Form1.Text3.Text() != first, next) << folders.front();
+  }
+  new_messages();
+  compare_with("D:\\", "x.txt");
+  EXPECT_EQ(new_messages(), texts{"No archive is open. Read one first. Nothing was compared."});
 }
 
 // From the last record that names one, as far as the file holds it. Without a palette of its own an

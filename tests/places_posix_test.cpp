@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <cstring>
+#include <fstream>
 
 #include "archive/builder.h"
 #include "child_process.h"
@@ -132,6 +133,32 @@ TEST_F(places_test, TheLongestNamesAndThoseOfOtherCaseEachGiveAnEntry) {
             archive_bytes({{"A.TXT", "2"}, {"A.TXT", "1"}, {"NNNNNNNNNNNNN", "3"}}));
   open_archive(folder);
   EXPECT_EQ(Form1.List1.ListCount(), 4);
+}
+
+// One message in front lists what is in the folder and not in the archive.
+TEST_F(places_test, TellsWhatItLeavesOut) {
+  std::vector<entry> files = {{".HID.TXT", "h"}, {"\xCE\xA9.TXT", "o"}, {"a\\b", "s"}, {"ok", ""}};
+  const std::string told = "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
+  const std::string others =
+      "\n>?.TXT<: its name has characters that the code page lacks"
+      "\n>a\\b<: its name holds a separator of paths\n>late<: it came after the files were listed";
+  for (const int hidden : {1, 25}) {
+    for (int i = 1; i < hidden; ++i) files.push_back({".i" + std::to_string(100 + i), ""});
+    fs::remove_all(place("C:\\work"));
+    make_folder("C:\\work");
+    begin();
+    for (const entry& file : files) std::ofstream(place("C:\\work") / file.name) << file.bytes;
+    open_build_dialog();
+    write("C:\\work\\late", "");
+    user::click(Form5.Command1);
+    const texts messages = new_messages();
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_TRUE(hidden == 1 ? messages[0] == told + others
+                            : messages[0].ends_with(">.i119<: it is hidden\nand 8 more."))
+        << messages[0];
+    EXPECT_EQ(messages[1], "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat");
+    EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}}));
+  }
 }
 
 TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {

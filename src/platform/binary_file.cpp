@@ -21,30 +21,37 @@ void binary_file::abandon() {
 }
 
 void binary_file::open_to_read(const file_path& path) {
-  take(file_calls::open_to_read(path.system), path.shown, false);
+  prepare(path.shown);
+  take(file_calls::open_to_read(path.system), false);
 }
 
 bool binary_file::open_to_write(const file_path& path) {
+  prepare(path.shown);
   const int made = file_calls::open_new(path.system);
-  take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, path.shown, true);
+  take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, true);
   if (made >= 0) remember_file(path.system);
   return made >= 0;
 }
 
 void binary_file::take_written(int file, const std::string& shown_path) {
-  take(file, shown_path, true);
+  prepare(shown_path);
+  take(file, true);
 }
 
-void binary_file::take(int file, const std::string& shown_path, bool writes) {
+// Takes the memory before any file is made.
+void binary_file::prepare(const std::string& shown_path) {
   abandon();
-  file_ = file;
   path_ = shown_path;
-  if (file < 0) fail(file, " cannot be opened: ");
-  writes_ = writes;
   buffer_.resize(buffer_size);
   position_ = 0;
   fill_ = 0;
   buffer_start_ = 0;
+}
+
+void binary_file::take(int file, bool writes) {
+  if (file < 0) fail(file, " cannot be opened: ");
+  file_ = file;
+  writes_ = writes;
 }
 
 void binary_file::fail(std::int64_t outcome, const char* what) {

@@ -52,7 +52,8 @@ class binary_file {
   int handle() const { return file_; }
 
  private:
-  void take(int file, const std::string& shown_path, bool writes);
+  void prepare(const std::string& shown_path);
+  void take(int file, bool writes);
   [[noreturn]] void fail(std::int64_t outcome, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();

@@ -76,11 +76,15 @@ const fs::path& remember_place(const std::string& folder, fs::path place) {
   return remembered_places.insert_or_assign(folder, std::move(place)).first->second;
 }
 
-void remember_file(const fs::path& place) {
-  const auto known = remembered.find(place.parent_path().native());
-  if (known == remembered.end() || !known->second.is_read) return;
-  if (const std::optional<std::string> text = name_as_text(place.filename().native())) {
-    known->second.names.emplace(upper_case(*text), place.filename().native());
+void remember_file(const fs::path& path) {
+  try {
+    const auto known = remembered.find(path.parent_path().native());
+    if (known == remembered.end() || !known->second.is_read) return;
+    if (const std::optional<std::string> text = name_as_text(path.filename().native())) {
+      known->second.names.emplace(upper_case(*text), path.filename().native());
+    }
+  } catch (const std::bad_alloc&) {
+    forget_folders();
   }
 }
 

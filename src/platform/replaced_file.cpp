@@ -38,6 +38,7 @@ replaced_file::replaced_file(file_path target)
   try {
     file_.take_written(file, target_.shown);
   } catch (...) {
+    if (file >= 0) file_calls::close_file(file);
     file_calls::remove_file(temporary_);
     throw;
   }
