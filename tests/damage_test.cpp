@@ -33,7 +33,8 @@ struct damage_test : icon_test {
       archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
 };
 
-// Nothing is shown of an index that is cut, nor extracted of an entry, and a file of its name stays.
+// Nothing is shown of an index that is cut, nor extracted of an entry, and a file of its name
+// stays.
 TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     SCOPED_TRACE(length);
@@ -75,7 +76,7 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
     int moved_by;  // the places of the icons
     std::size_t messages;
   } cases[] = {
-      {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, 20},        {huge, 0, 1},
+      {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, 20},          {huge, 0, 1},
       {plain_icon(1, 1, 1), 1 << 30, 1}, {plain_icon(1, 1, 1), -(1 << 30), 1},
   };
   for (const auto& c : cases) {

@@ -33,8 +33,9 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   open_archive(entries);
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), expected);
-  EXPECT_EQ(new_messages(), texts{closing + "D:\\\nThese files are hidden on this system:\n>..a<: its "
-                                            "name begins with a dot"});
+  EXPECT_EQ(new_messages(),
+            texts{closing + "D:\\\nThese files are hidden on this system:\n>..a<: its "
+                            "name begins with a dot"});
 }
 
 // Every entry goes over what is there from its first byte on, and cuts nothing off.
@@ -97,7 +98,9 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
        },
        "The index of C:\\ostrane.dat puts entries before the file."},
       {"D:\\",
-       [&] { write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}})); },
+       [&] {
+         write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}}));
+       },
        "C:\\ostrane.dat has changed since it was read. Read it again."},
   };
   for (const auto& c : cases) {
@@ -152,10 +155,9 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
   const std::string bytes = archive_bytes(entries);
   EXPECT_EQ(files_in("C:\\"),
             (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
-  EXPECT_EQ(new_messages(),
-            texts{closing_of("2 of 4") + "C:\\" + refusal +
-                  "\n>OSTRANE.DAT<: it would be written over the open archive"
-                  "\n>LINKED<: it would be written over the open archive"});
+  EXPECT_EQ(new_messages(), texts{closing_of("2 of 4") + "C:\\" + refusal +
+                                  "\n>OSTRANE.DAT<: it would be written over the open archive"
+                                  "\n>LINKED<: it would be written over the open archive"});
 }
 
 }  // namespace

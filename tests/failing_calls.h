@@ -15,12 +15,12 @@ struct call_fault {
     kills,        // the process ends there
     stops,        // the process is stopped there, until it is continued
   } kind = fails;
-  int reason = 0;       // of errno's numbering
+  int reason = 0;        // of errno's numbering
   bool lasting = false;  // all calls after it fail too
 };
 
-// While it lives the tool's calls to the system for files are counted, and one of them goes wrong. A
-// read or a write moves half of what it is asked to.
+// While it lives the tool's calls to the system for files are counted, and one of them goes wrong.
+// A read or a write moves half of what it is asked to.
 class failing_calls {
  public:
   explicit failing_calls(int at, call_fault with = {.kind = call_fault::kills});

@@ -29,9 +29,9 @@ struct outcome {
 
 // Calls that may fail unheard: those that tidy up, that ask what need not be known, or that come
 // when the new file is in its place.
-const std::set<std::string> may_be_quiet = {
-    "remove_file", "replace", "flush_folder", "close_read", "close_written", "lock",
-    "set_rights",  "list",    "facts_at",     "facts_of"};
+const std::set<std::string> may_be_quiet = {"remove_file", "replace",  "flush_folder",
+                                            "close_file",  "lock",     "set_rights",
+                                            "list",        "facts_at", "facts_of"};
 
 const std::pair<call_fault, std::string> faults[] = {
     {{.reason = ENOSPC}, "the disk is full"},
@@ -150,7 +150,8 @@ TEST_F(failing_disk_test, EachFileIsTheOldOneOrTheNewOneWhole) {
         after = outcome_of(job.job);
         if (!failing.happened()) break;
         const std::string& call = failing.made[static_cast<std::size_t>(at)];
-        SCOPED_TRACE(testing::Message() << &job - jobs.data() << call << at << fault.lasting << words);
+        SCOPED_TRACE(testing::Message()
+                     << &job - jobs.data() << call << at << fault.lasting << words);
         // What cannot be looked at is not deleted. The next build does it.
         const bool lies = fault.kind == call_fault::lies;
         const bool is_blind = fault.lasting || lies || call.starts_with("facts");
@@ -172,8 +173,8 @@ TEST_F(failing_disk_test, EachFileIsTheOldOneOrTheNewOneWhole) {
   EXPECT_GT(tried, 1000);
 }
 
-// Requests for memory fail in turn, the later ones by a sample. The command ends with a message, and
-// another try does its work.
+// Requests for memory fail in turn, the later ones by a sample. The command ends with a message,
+// and another try does its work.
 TEST_F(failing_disk_test, ALackOfMemoryEndsTheCommandAlone) {
   for (const file_job& job : jobs) {
     prepare();
@@ -202,8 +203,8 @@ TEST_F(failing_disk_test, ALackOfMemoryEndsTheCommandAlone) {
   }
 }
 
-// A drive of 256 kB that is really full, and a limit on the size of files; in processes of their own,
-// with which both go.
+// A drive of 256 kB that is really full, and a limit on the size of files; in processes of their
+// own, with which both go.
 TEST_F(failing_disk_test, ARealFullDiskAndALimitOnSizesLeaveNothingHalfMade) {
   const auto mount_full_drive = [&] {
     return unshare(CLONE_NEWNS) == 0 &&
@@ -227,8 +228,9 @@ TEST_F(failing_disk_test, ARealFullDiskAndALimitOnSizesLeaveNothingHalfMade) {
       const file_map before = files_in("D:\\");
       if (!behind_the_files()) _exit(not_possible);
       extract_into("D:\\");
-      EXPECT_EQ(new_messages(), texts{"The extraction was stopped. D:\\LONG.TXT cannot be written: " +
-                                      std::string(reason) + "."});
+      EXPECT_EQ(new_messages(),
+                texts{"The extraction was stopped. D:\\LONG.TXT cannot be written: " +
+                      std::string(reason) + "."});
       begin();
       build_in("D:\\");
       EXPECT_EQ(new_messages(), texts{"D:\\OSTRANE.DAT cannot be written: " + std::string(reason) +

@@ -81,7 +81,8 @@ TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
   write("C:\\ostrane.dat", bytes);
   for (const char* name : {"A.SHP", "N.TXT"}) {
     click_row(name);
-    EXPECT_EQ(new_messages(), texts{"C:\\ostrane.dat has changed since it was read. Read it again."});
+    EXPECT_EQ(new_messages(),
+              texts{"C:\\ostrane.dat has changed since it was read. Read it again."});
   }
   EXPECT_TRUE(Form1.Text6.Text().empty() && Form1.Text2.Text() == "0");
   open_archive();

@@ -156,7 +156,8 @@ TEST_F(places_test, TellsWhatItLeavesOut) {
     EXPECT_TRUE(hidden == 1 ? messages[0] == told + others
                             : messages[0].ends_with(">.i119<: it is hidden\nand 8 more."))
         << messages[0];
-    EXPECT_EQ(messages[1], "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat");
+    EXPECT_EQ(messages[1],
+              "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat");
     EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}}));
   }
 }

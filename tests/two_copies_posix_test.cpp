@@ -102,7 +102,8 @@ TEST_F(two_copies_test, OfWhichAThirdIsKilledLeaveAWholeArchive) {
     replace_archive("Ostrane.dat");
     const auto begin_one = [&] {
       const bool dies = random() % 3 == 0;
-      return begin_copy(dies ? static_cast<int>(random() % 70) : INT32_MAX, {.kind = call_fault::kills});
+      return begin_copy(dies ? static_cast<int>(random() % 70) : INT32_MAX,
+                        {.kind = call_fault::kills});
     };
     const pid_t first = begin_one();
     const pid_t second = begin_one();
@@ -148,9 +149,10 @@ TEST_F(two_copies_test, ABuildWhoseFileIsTakenAwayKeepsTheOldArchive) {
         if (screen.told.back().find("C:\\work\\c.txt") != std::string::npos) spoil();
       };
       build_in();
-      EXPECT_EQ(screen.told.back(),
-                "dialog C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
-                "written. No new archive was made.");
+      EXPECT_EQ(
+          screen.told.back(),
+          "dialog C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
+          "written. No new archive was made.");
     }
     if (fs::exists(place("C:\\moved"))) fs::rename(place("C:\\moved"), work);
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one") << &spoil - spoilings;

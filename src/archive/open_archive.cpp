@@ -14,9 +14,9 @@ void open_archive_file(platform::binary_file& file) {
   file.open_to_read(platform::on_drives(tool_state.archive_path_copy));
   if (file.facts().stamp == tool_state.archive_stamp) return;
   file.close();
-  throw platform::file_error{platform::file_error_number::device_error,
-                             tool_state.archive_path_copy +
-                                 " has changed since it was read. Read it again."};
+  throw platform::file_error{
+      platform::file_error_number::device_error,
+      tool_state.archive_path_copy + " has changed since it was read. Read it again."};
 }
 
 }  // namespace ostrane

@@ -9,7 +9,7 @@ namespace platform {
 
 // The running program as the forms see it.
 struct application_facts {
-  std::string Title;  // title of all message boxes
+  std::string Title;           // title of all message boxes
   std::filesystem::path Path;  // folder of the running program
   // Memory for a handler's work could not be had. Brings the windows back to a usable state.
   std::function<void()> OutOfMemory;

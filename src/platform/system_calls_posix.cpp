@@ -83,7 +83,8 @@ int facts_at(const fs::path& path, file_facts& facts) {
 // A group that the file was not given gets no more rights than everybody has.
 int set_rights(int file, const file_facts& like) {
   std::uint32_t rights = like.rights;
-  if (fchown(file, like.owner, like.group) < 0 && fchown(file, static_cast<uid_t>(-1), like.group)) {
+  if (fchown(file, like.owner, like.group) < 0 &&
+      fchown(file, static_cast<uid_t>(-1), like.group)) {
     rights &= 0707U;
     rights |= (rights & 07U) << 3U;
   }
