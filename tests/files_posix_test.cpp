@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "platform/file_system.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 #include "tool_fixture.h"
 
@@ -32,6 +33,14 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   fs::create_symlink("a.txt", place("D:\\link"));
   EXPECT_EQ(platform::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
   EXPECT_EQ(platform::folders_in("D:\\"), texts{"folder"});
+}
+
+TEST_F(files_posix_test, TheLastDriveIsTheRootOfTheFileSystem) {
+  platform::set_drives({}, "C:\\");
+  user::click(Form1.mnu_make);
+  user::choose(Form5.Drive1, static_cast<std::int32_t>(Form5.Drive1.rows().size()) - 1);
+  EXPECT_EQ((texts{Form5.Drive1.Drive(), Form5.Text1.Text()}), (texts{"z: [root]", "Z:\\"}));
+  EXPECT_EQ(platform::system_path("Z:\\tmp"), "/tmp");
 }
 
 }  // namespace
