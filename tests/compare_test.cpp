@@ -1,4 +1,4 @@
-#include "tool_fixture.h"
+#include "recording_screen.h"
 
 namespace ostrane {
 namespace {
@@ -11,6 +11,7 @@ void open_names(const texts& names) {
   open_archive(entries);
 }
 
+// The names in the archive, the shiplist, and the counts (if they differ) and rows of the report.
 TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
   const auto counts = [](const char* archive, const char* shiplist) {
     return std::string("Different number of Icons:\r\n\r\n# in Ostrane.dat= ") + archive +
@@ -20,12 +21,8 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       "The following differences was found between your Ostrane.dat and the shiplist\r\n\r\n"
       "      Present in    Present in   \r\nIcon# Ostrane.dat   Shiplist     \r\n";
   const auto ship = [](const std::string& name) { return std::string(20, ' ') + name; };
-  const struct {
-    texts names;
-    std::string shiplist;
-    std::string counts;  // if they differ
-    texts rows;
-  } cases[] = {
+  const std::string long_name = "ABCDEFGHIJKLMNOP";
+  const std::tuple<texts, std::string, std::string, texts> cases[] = {
       {{"A.SHP", "B.SHP"}, "A.SHP\r\nB.SHP\r\n\r\n", "", {}},
       {{"AAA.SHP", "BBB.SHP", "CCC.SHP"},
        "AAA.SHP\r\nBBX.SHP\r\nCCC.SHP\r\nDDD.SHP\r\n\r\n",
@@ -42,29 +39,46 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       // By the values of the characters, an accented letter behind Z and folded like the others.
       {{"A.1", "A0", "A\xC9"}, "A.1\r\nA\xE9\r\na0\r\n\r\n", "", {}},
       {{"A\xC9", "AZ"}, "AZ\r\n\r\n", counts("3", "2"), {ship("AZ"), "    1 AZ"}},
+      {{"Z"},
+       long_name + "2\r\n" + long_name + "1\r\n" + long_name + "2\r\n\r\n",
+       counts("2", "3"),
+       {ship(long_name + "1"), ship(long_name + "2")}},
   };
-  for (const auto& c : cases) {
-    open_names(c.names);
-    write("D:\\list.txt", c.shiplist);
-    compare_with("D:\\", "list.txt");
-    std::string report = c.counts + head;
-    for (const std::string& row : c.rows) report += row + "\r\n";
-    EXPECT_EQ(read("C:\\Shiplist-compare.txt"), report) << c.shiplist;
-    EXPECT_EQ(new_messages(), texts{});
+  write("D:\\a.dat", "no text");
+  for (const auto& [names, shiplist, head_of_counts, rows] : cases) {
+    open_names(names);
+    write("D:\\list.txt", shiplist);
+    const recording_screen screen;
+    user::click(Form1.mnu_read_filelist);
+    Form6.Dir1.Path = "D:\\";
+    user::select_file(Form6.File1, 0);
+    user::click(Form6.Command1);
+    std::string report = head_of_counts + head;
+    for (const std::string& row : rows) report += row + "\r\n";
+    EXPECT_EQ(read("C:\\Shiplist-compare.txt"), report) << shiplist;
+    EXPECT_EQ(screen.told, texts{"Form1"});  // which takes the focus
     EXPECT_TRUE(Form1.Enabled() && !Form6.Visible());
   }
 }
 
-TEST_F(compare_test, WithoutAShiplistOrWithOneTooLongTheDialogStays) {
+// Without rows no list is saved, but the message comes.
+TEST_F(compare_test, WithoutRowsOrAShiplistOrWithOneTooLongNothingIsWritten) {
+  begin("D:\\");
   write("D:\\many.txt", std::string(32769, '\n'));
+  open_names({"A"});
+  open_archive("C:\\program");
+  user::click(Form1.mnu_save);
   open_names({"A"});
   compare_with("D:\\", "  ");
   user::click(Form6.Command2);
   compare_with("D:\\", " many.txt ");
   EXPECT_EQ(new_messages(),
-            (texts{"No shiplist is chosen. Click one in the list of files.",
+            (texts{"C:\\program\\ostrane.dat is not found",
+                   "A list of all files in ostrane.dat are saved in shplist.txt",
+                   "No shiplist is chosen. Click one in the list of files.",
                    "D:\\many.txt has more than 32768 lines. Nothing was compared."}));
   EXPECT_TRUE(Form6.Visible() && !Form1.Enabled());
+  EXPECT_EQ(names_in("D:\\"), texts{"many.txt"});
 }
 
 }  // namespace

@@ -15,14 +15,30 @@ struct decoder_test : icon_test {
   }
 };
 
+TEST_F(decoder_test, APictureClipsToItsDrawingAreaAndKeepsItsCellsWhenResized) {
+  const auto blue = [](std::uint32_t index) { return platform::rgb(0, 0, index); };
+  platform::picture_box& box = slot(1);
+  box.Width = 15 * 6;
+  box.Height = 15 * 5;
+  box.Line(-5, 0, 2, 0, blue(7));
+  box.Line(3, 2, 2000000000, 2, blue(8));
+  box.Line(0, 3, 4, 3, blue(9));
+  box.Line(2, 1, 2, 1, blue(9));
+  for (const auto& [x, y] : {std::pair{-1, 1}, {4, 1}, {1, -1}, {1, 3}}) box.PSet(x, y, blue(9));
+  box.PSet(0, 1, blue(4));
+  box.PSet(3, 1, blue(5));
+  EXPECT_EQ(cells(), "7 7 . . | 4 . . 5 | . . . 8 | ");
+  box.Width = 15 * 7;
+  box.Height = 15 * 4;
+  EXPECT_EQ(cells(), "7 7 . . . | 4 . . 5 . | ");
+  box.Width = 15 * 5;
+  EXPECT_EQ(cells(), "7 7 . | 4 . . | ");
+}
+
 TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
   const icon_head row_of_4 = plain_icon(4, 1, 0).head;
   const icon_head margins{2, 3, 1, 1, 2, 1};
-  const struct {
-    icon_head head;
-    std::string bytes;
-    const char* cells;
-  } cases[] = {
+  const std::tuple<icon_head, std::string, const char*> cases[] = {
       // A run, a skip and literals.
       {{1, 5, 1, 0, 4, 1},
        stream({6, 42, 0, 1, 2, 5, 16, 17, 0}),
@@ -46,9 +62,9 @@ TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
       {plain_icon(2, 2, 0).head, stream({0, 0}), ". . | . . | "},
       {plain_icon(1, 1, 0).head, stream({2, 3, 0}), "3 | "},
   };
-  for (const auto& c : cases) {
-    show({{{c.head, c.bytes}}});
-    EXPECT_EQ(cells(), c.cells);
+  for (const auto& [head, bytes, painted] : cases) {
+    show({{{head, bytes}}});
+    EXPECT_EQ(cells(), painted);
   }
 }
 
@@ -96,15 +112,21 @@ TEST_F(decoder_test, AnEndlessStreamIsGivenUp) {
   EXPECT_EQ(cells(), "5 . | ");
 }
 
-// An icon is given the bytes up to the end of its entry and 23 more, and not those behind.
+// An icon gets the bytes up to the end of its entry and 23 more, but none after them. Some of these
+// streams fill the buffer exactly, or have up to 8 bytes more.
 TEST_F(decoder_test, AnIconEndsWithTheBytesOfItsEntry) {
-  const std::string file =
-      samples::shp_file(std::vector<shp_icon>{{plain_icon(4, 1, 0).head, stream({2, 5})}});
-  std::string behind = stream({255, 7, 8, 9, 9});
-  for (int i = 0; i < 10; ++i) behind = stream({1, 0}) + behind;
-  open_archive({{"F1.SHP", file}, {"NEXT.BIN", behind}, palette_entry()});
-  click_row("F1.SHP");
-  EXPECT_EQ(cells(), "5 7 8 . | ");
+  for (const auto bytes :
+       {32U, 33U, 3231U, 32767U, 32768U, 32769U, 32775U, 32776U, 65536U, 65537U}) {
+    std::string whole = bytes % 2 == 0 ? "" : stream({0});
+    while (whole.size() + 2 < bytes) whole += stream({1, 0});
+    whole += stream({255, 7, 8, 9});
+    const shp_icon icon = {plain_icon(4, 2, 0).head, whole.substr(0, bytes - 23)};
+    open_archive({{"F1.SHP", samples::shp_file(std::vector<shp_icon>{icon})},
+                  {"NEXT.BIN", whole.substr(bytes - 23)},
+                  palette_entry()});
+    click_row("F1.SHP");
+    EXPECT_EQ(cells(), bytes % 2 == 0 ? "7 . . . | . . . . | " : ". . . . | 7 . . . | ") << bytes;
+  }
 }
 
 }  // namespace

@@ -78,12 +78,15 @@ TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
     for (const auto& ask : ways) {
       const auto folders = d.Dir1.rows().size();
       make_folder("D:\\Sub\\Deep\\Came");
-      const fs::path file = place("D:\\Sub\\Deep\\ostrane.dat");
-      std::ofstream(d.File1.Pattern() == "*.txt" ? fs::path(file).replace_extension(".txt") : file);
+      for (const char* name : {"a.txt", "oStrane.dat", "ostrane.data", "b.txt.x"}) {
+        std::ofstream(place("D:\\Sub\\Deep") / name);
+      }
       ask();
       EXPECT_EQ(d.Dir1.rows().size(), folders + 1);
-      EXPECT_EQ(d.File1.ListCount(), 1);
-      for (const auto& entry : fs::directory_iterator(file.parent_path())) fs::remove(entry);
+      const bool all = d.Text1 != nullptr;
+      EXPECT_EQ(d.File1.ListCount(), all ? 4 : 1);
+      EXPECT_EQ(d.File1.List(0), all || &d.window == &Form6 ? "a.txt" : "oStrane.dat");
+      for (const auto& e : fs::directory_iterator(place("D:\\Sub\\Deep"))) fs::remove(e);
       ask();
       EXPECT_EQ(d.File1.ListCount(), 0);
     }
@@ -97,6 +100,31 @@ TEST_F(dialogs_test, ListsTextFilesAlsoAfterAFolderThatCannotBeRead) {
   write("D:\\here\\a.dat", "");
   Form6.Dir1.Path = "D:\\here";
   EXPECT_TRUE(Form6.Visible() && Form6.File1.ListCount() == 0);
+}
+
+// What is typed as folder and name, the folder in the dialog afterwards, and the error number. The
+// name is used as typed; blanks alone do nothing.
+TEST_F(dialogs_test, MakesANewFolderAndGoesThere) {
+  const char* const cases[][4] = {{"D:\\", "  ", "D:\\", ""},
+                                  {"D:\\", " New", "D:\\ New", ""},
+                                  {"D:\\ New", "In", "D:\\ New\\In", ""},
+                                  {"D:\\", " New", "D:\\ New\\In", " 58"},
+                                  {"Q:\\", "In", "D:\\ New\\In", " 68"}};
+  const std::string fault =
+      "Problem encountered while trying to make new Folder. The error reported from Windows is: "
+      "Error Number: ";
+  begin("D:\\");
+  open_archive({{"A.TXT", "a"}});
+  user::click(Form1.mnu_ext);
+  for (const auto& [typed, name, folder, error] : cases) {
+    user::type(Form4.Text1, typed);
+    user::type(Form4.Text2, name);
+    user::click(Form4.Command1);
+    const bool made = *error == '\0';
+    EXPECT_EQ((texts{Form4.Dir1.Path(), Form4.File1.Path(), Form4.Text1.Text()}),
+              (texts{folder, folder, made ? folder : typed}));
+    EXPECT_EQ(new_messages(), made ? texts{} : texts{fault + error});
+  }
 }
 
 // It goes to drive C:. Where that does not answer either it stays where it was, and says so once.

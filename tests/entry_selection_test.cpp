@@ -12,6 +12,8 @@ void write_icon_names(const std::string& lines) {
 
 using entry_selection_test = tool_test;
 
+// The name; the number of pictures, the text, and the icons of a double click; how often it is told
+// that the kind is not known.
 TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
   open_archive({{" A.ShP ", dots(2)},
                 {"b.shp", dots(3)},
@@ -20,30 +22,26 @@ TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
                 {" 000DATUP.000", "data"},
                 {"000datup.000", "data"},
                 {"SHP", "no dot"}});
-  const struct {
-    const char* name;
-    const char* seen;      // the number of pictures, the text, and the icons of a double click
-    std::size_t messages;  // that the kind is not known
-  } cases[] = {
+  const std::tuple<const char*, const char*, std::size_t> cases[] = {
       {" A.ShP ", "2 1 -  2", 0}, {"N.TXT", "2note", 1},
       {"b.shp", "3 1 -  3", 0},   {" 000DATUP.000", "3data", 1},
       {"000datup.000", "3", 2},   {"GAME.PAL", "256", 0},
       {"SHP", "256", 2},          {"", "256", 2},
   };
-  for (const auto& c : cases) {
-    click_row(c.name);
+  for (const auto& [name, shown, messages] : cases) {
+    click_row(name);
     std::string seen = Form1.Text2.Text();
     if (Form1.Text6.Visible()) seen += Form1.Text6.Text();
     EXPECT_EQ(tool_state.selected_index, Form1.List1.ListIndex());
     Form1.Text3.Text = "";
     user::double_click(Form1.List1, tool_state.selected_index);
-    EXPECT_EQ(seen + Form1.Text3.Text(), c.seen);
+    EXPECT_EQ(seen + Form1.Text3.Text(), shown);
     const std::string unknown = "This is not a shp image, I haven't got to display this yet... ";
-    EXPECT_EQ(new_messages(), texts(c.messages, unknown + c.name));
+    EXPECT_EQ(new_messages(), texts(messages, unknown + name));
   }
 }
 
-TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFits) {
+TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFitsOfAtMost32000) {
   write_icon_names(
       "  ABC01 ; first ; second  \r\nno separator\r\nabc01;too late\r\n\tTAB;tab\r\n;nameless\r\n"
       "EMPTY;\r\nE\xC9;accents");
@@ -63,14 +61,10 @@ TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFits) {
     click_row(name);
     EXPECT_EQ(Form1.Frame1.Caption(), name + added);
   }
-}
-
-TEST_F(entry_selection_test, TakesNoMoreThan32000IconNames) {
   std::string many;
   for (int i = 1; i <= 32005; ++i) many += "N" + std::to_string(i) + ";d\r\n";
   write_icon_names(many);
-  EXPECT_EQ(tool_state.icon_name_count, 32000);
-  EXPECT_EQ(tool_state.icon_names[32000].name, "N32000");
+  EXPECT_EQ(tool_state.icon_names.back().name, "N32000");
 }
 
 // At most 2 MiB, which is told, and no byte that lies outside the file.
@@ -105,10 +99,26 @@ TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
   EXPECT_FALSE(Form3.Visible());
 }
 
+// An offset of 0 is no palette. The sum is that of the 256 built-in colours.
+TEST_F(entry_selection_test, ShowsTheBuiltInColoursAsSwatches) {
+  open_bytes(index_bytes(2, {{0, "GAME.PAL"}, {38, ""}}) + some_bytes(1024));
+  click_row("GAME.PAL");
+  EXPECT_EQ(Form1.Text2.Text() + Form1.Text3.Text(), "256palette 0 - 255");
+  std::uint32_t sum = 0;
+  for (std::int32_t i = 0; i < 256; ++i) {
+    const platform::picture_box& swatch = Form1.s16_image(i + 1);
+    EXPECT_TRUE(swatch.Visible() && swatch.Width() == 400 && swatch.Height() == 260 &&
+                swatch.Left() == 440 + 440 * (i % 16) && swatch.Top() == 800 + 300 * (i / 16))
+        << i;
+    sum = 31 * sum + swatch.BackColor();
+  }
+  EXPECT_EQ(sum, 0xDCE76EF8);
+}
+
 TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
   std::string colours(1024, '\0');
   colours.replace(68, 4, "\x88\xE4\xE8z");
-  open_archive({{"MANY.SHP", dots(300)}, {"GAME.PAL", colours}, {"A.SHP", dots(1)}});
+  open_archive({{"MANY.SHP", dots(301)}, {"GAME.PAL", colours}, {"A.SHP", dots(1)}});
   const auto slot = [](std::int32_t number) -> auto& { return Form1.s16_image(number); };
   click_row("MANY.SHP");
   user::click(Form1.Command5);
@@ -116,13 +126,12 @@ TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
   click_row("GAME.PAL");
   EXPECT_FALSE(Form1.Timer1.Enabled() || slot(257).Visible());
   EXPECT_EQ(slot(1).pixels(), nullptr);
-  EXPECT_TRUE(slot(256).Visible() && slot(256).Left() == 7040 && slot(256).Top() == 5300);
-  EXPECT_EQ(slot(18).BackColor(), platform::rgb(232, 228, 136));
   EXPECT_EQ(slot(18).ToolTipText(), "Palette #  17 : (red= 232, green= 228, blue= 136)");
+  user::click(Form1.Command6);
+  EXPECT_EQ(slot(18).BackColor(), platform::system_button_face);
   click_row("A.SHP");
   EXPECT_FALSE(slot(2).Visible());
   EXPECT_EQ(slot(2).ToolTipText(), icon_tool_tip);
-  EXPECT_EQ(slot(1).BackColor(), platform::system_button_face);
   EXPECT_EQ(tool_state.slots_loaded, 300);
 }
 

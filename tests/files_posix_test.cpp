@@ -35,5 +35,13 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   EXPECT_EQ(platform::folders_in("D:\\"), texts{"folder"});
 }
 
+TEST_F(files_posix_test, TheLastDriveIsTheRootOfTheFileSystem) {
+  platform::set_drives({}, "C:\\");
+  user::click(Form1.mnu_make);
+  user::choose(Form5.Drive1, static_cast<std::int32_t>(Form5.Drive1.rows().size()) - 1);
+  EXPECT_EQ((texts{Form5.Drive1.Drive(), Form5.Text1.Text()}), (texts{"z: [root]", "Z:\\"}));
+  EXPECT_EQ(platform::system_path("Z:\\tmp"), "/tmp");
+}
+
 }  // namespace
 }  // namespace ostrane

@@ -5,35 +5,7 @@
 namespace ostrane {
 namespace {
 
-using platform::picture_box;
-
-struct forms_layer_test : tool_test {
-  // A box of 4 by 3 pixels to draw on.
-  forms_layer_test() {
-    box.Width = 15 * 6;
-    box.Height = 15 * 5;
-  }
-
-  picture_box& box = Form1.s16_image(1);
-};
-
-TEST_F(forms_layer_test, APictureClipsToItsDrawingArea) {
-  box.Line(-5, 0, 2, 0, 7);
-  box.Line(3, 2, 2000000000, 2, 8);
-  box.Line(0, 3, 4, 3, 9);
-  box.Line(2, 1, 2, 1, 9);
-  for (const auto& [x, y] : {std::pair{-1, 1}, {4, 1}, {1, -1}, {1, 3}}) box.PSet(x, y, 9);
-  box.PSet(3, 1, 5);
-  std::string cells;
-  for (int y = 0; y < box.rows(); ++y) {
-    for (int x = 0; x < box.columns(); ++x) {
-      const platform::colour there = box.pixel(x, y);
-      cells += there == picture_box::unset ? "." : std::to_string(there);
-    }
-    cells += "|";
-  }
-  EXPECT_EQ(cells, "77..|...5|...8|");
-}
+using forms_layer_test = tool_test;
 
 // What arrives while a handler runs, or while a message box stands in it, must not run inside it,
 // and an error that leaves a handler is told and keeps nothing from running.

@@ -1,3 +1,4 @@
+#include "platform/application.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -5,36 +6,60 @@ namespace {
 
 using main_window_test = tool_test;
 
-TEST_F(main_window_test, ADriveCThatFailsAtTheStartIsNoMatterForAMessage) {
-  fs::remove_all(root / "c");
-  begin("D:\\");
-  user::click(Form1.mnu_open);
-  EXPECT_EQ(new_messages(), texts{});
-  EXPECT_EQ(Form2.Dir1.Path() + Form2.File1.Path(), "D:\\D:\\");
+// Without drive C: there is no message. While a dialog is open the window does not close.
+TEST_F(main_window_test, StartsAsDesignedAndEndsWithAndWithoutDriveC) {
+  for (const bool c_is_there : {true, false}) {
+    begin("D:\\");
+    EXPECT_EQ(Form1.Caption(), "Ostrane.dat-tool - v2r1m0");
+    EXPECT_EQ(Form1.Text1.Text() + Form1.Text4.Text() + Form1.Text5.Text(), "10300");
+    EXPECT_FALSE(Form1.Text6.Visible() || Form1.Timer1.Enabled() || Form1.mnu_ext.Enabled() ||
+                 Form1.mnu_save.Enabled() || Form1.mnu_read_filelist.Enabled());
+    EXPECT_EQ(Form1.s16_image.loaded(), 1 + 12);
+    user::click(Form1.mnu_open);
+    EXPECT_EQ(new_messages(), texts{});
+    EXPECT_EQ(Form2.Dir1.Path() + Form2.File1.Path(), c_is_there ? "C:\\C:\\" : "D:\\D:\\");
+    user::close(Form1);
+    user::click(Form1.mnu_exit);
+    EXPECT_FALSE(platform::process_ended());
+    user::click(Form2.Command2);
+    c_is_there ? user::close(Form1) : user::click(Form1.mnu_exit);
+    EXPECT_TRUE(platform::process_ended());
+    fs::remove_all(root / "c");
+  }
 }
 
-TEST_F(main_window_test, ChecksTheMostIconsAndThePaceWhenTheFocusLeaves) {
-  const struct {
-    const char* typed;
-    const char* as_most_icons;
-    std::int16_t most_icons;
-    const char* as_pace;
-  } cases[] = {
+// Each axis follows the window from one twip above its limit on, without regard to the other axis.
+TEST_F(main_window_test, LaysOutItsControlsDownToAMinimumSize) {
+  const std::tuple<std::int32_t, std::int32_t, std::string> cases[] = {
+      {9330 + 225, 6690 + 705, "7455x6570 1695x5970 7155x5595 "},
+      {2501, 1900, "401x6570 1695x5970 101x5595 "},
+      {2500, 1901, "401x1076 1695x476 101x101 "},
+      {10100, 8000, "8000x7175 1695x6575 7700x6200 "}};
+  const auto size = [](const platform::control& sized) {
+    return std::to_string(sized.Width()) + "x" + std::to_string(sized.Height()) + " ";
+  };
+  for (const auto& [width, height, sizes] : cases) {  // of the whole window
+    user::resize(Form1, width - 225, height - 705);
+    EXPECT_EQ(size(Form1.Frame1) + size(Form1.List1) + size(Form1.Text6), sizes);
+  }
+}
+
+// What is typed into both fields, then Text5 and max_icons, and Text4.
+TEST_F(main_window_test, ChecksMaxIconsAndThePaceWhenTheFocusLeaves) {
+  const std::tuple<const char*, const char*, std::int16_t, const char*> cases[] = {
       {"12.", "12.", 12, "12"},      {"abc", "12", 12, "10"},
       {"", "12", 12, "10"},          {".5", ".5", 0, ".5"},
       {"1.5", "1.5", 2, "1."},       {"2.5", "2.5", 2, "2."},
       {"-5", "-5", -5, "-5"},        {"3e4", "3e4", 30000, "10"},
       {"4e4", "30000", 30000, "10"}, {"9e999", "30000", 30000, "10"},
       {"1,0", "30000", 30000, "10"}, {"1e-999", "30000", 30000, "10"},
-      {"0x1", "30000", 30000, "10"}, {"inf", "30000", 30000, "10"},
-  };
-  for (const auto& c : cases) {
-    user::type(Form1.Text5, c.typed);
-    user::type(Form1.Text4, c.typed);
+      {"0x1", "30000", 30000, "10"}, {"inf", "30000", 30000, "10"}};
+  for (const auto& [typed, as_max_icons, max_icons, as_pace] : cases) {
+    user::type(Form1.Text5, typed);
+    user::type(Form1.Text4, typed);
     user::focus(&Form1.List1);
-    EXPECT_EQ(Form1.Text5.Text(), c.as_most_icons) << c.typed;
-    EXPECT_EQ(tool_state.max_icons, c.most_icons) << c.typed;
-    EXPECT_EQ(Form1.Text4.Text(), c.as_pace) << c.typed;
+    EXPECT_EQ((texts{Form1.Text5.Text(), Form1.Text4.Text()}), (texts{as_max_icons, as_pace}));
+    EXPECT_EQ(tool_state.max_icons, max_icons) << typed;
   }
 }
 

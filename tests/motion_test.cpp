@@ -1,3 +1,5 @@
+#include <array>
+
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -15,7 +17,7 @@ struct motion_test : icon_test {
 
   struct step {
     const char* does;  // a letter an action
-    const char* state;
+    std::string state;
   };
   static void follow(std::initializer_list<step> steps) {
     std::string done;
@@ -52,6 +54,7 @@ TEST_F(motion_test, ShowsOneSlotAfterTheOtherAndStepsThroughTheStack) {
           {"<<", "1: 200,800 back on"},
           {">", "2: 200,800 back on"}});
   EXPECT_EQ(view(), "3:2: 2=1");
+  follow({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});
 }
 
 TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
@@ -60,15 +63,25 @@ TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
   follow({{"nm", " 4 -  6: 320,800 moving"},
           {"t", " 4: 200,800 320,800 moving"},
           {"tt", " 5: 200,800 320,800 back on"},
-          {">", "6: 320,800 back on"}});
+          {">", "6: 320,800 back on"},
+          {"n", " 7 -  9: 200,800 260,800 320,800"}});
 }
 
-// A running motion must not walk into what is shown next, nor past the loaded slots.
+// A running motion must not step through the next series. A motion without slots ends at its first
+// tick, and the buttons cannot step through slots of an earlier series.
 TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
-  show({plain_icons(40, 1, 1), plain_icons(2, 1, 1)});
-  follow({{"mtttttttttttttttttttttttttttttt", " 30: 200,800 moving"}});
-  click_row("F2.SHP");
-  follow({{"ttt", " 1 -  2: 200,800 260,800"}});
+  const std::string nine = samples::shp_file(plain_icons(9, 1, 1));
+  open_archive({{"A.SHP", nine}, {"B.SHP", with_number(nine, 4, -5)}});
+  const std::pair<const char*, std::string> cases[] = {{"A.SHP", " 1 -  1: 200,800"},
+                                                       {"B.SHP", " 1 -  0:"}};
+  for (const auto& [row, grid] : cases) {
+    user::type(Form1.Text5, "9");
+    click_row("A.SHP");
+    follow({{"mttttt", " 5: 200,800 moving"}});
+    user::type(Form1.Text5, "1");
+    click_row(row);
+    follow({{"t", grid}, {"m", grid + " moving"}, {"t<>", grid + " back on"}});
+  }
 }
 
 using report_test = icon_test;
@@ -82,20 +95,28 @@ TEST_F(report_test, TellsTheNumbersOfAnIconOnShow) {
   user::type(Form1.Text5, "9");
   user::click(Form1.Command6);
   const auto reports = [] {
-    std::string told;
+    texts told;
     for (const std::int32_t slot : {0, 1, 2, 3, 12}) {
       user::double_click(Form1.s16_image, slot);
-      told += Form3.Visible() ? Form3.Caption() + Form3.message.Caption() : "\n";
+      if (Form3.Visible()) told.push_back(Form3.Caption() + Form3.message.Caption());
       user::click(Form3.message);
     }
-    std::erase_if(told, [](char c) { return c > ' ' && (c < '0' || c > '9'); });
-    std::erase(told, ' ');
     return told;
   };
-  EXPECT_EQ(reports(),
-            "\n101\r01\r2\r1\r0\r1\r\r2\r1100\r\r2063\r09\r2\r40\r3\r8\r\r3\r1100\r\r\n\n");
+  const auto report = [](const std::string& slot, const std::array<const char*, 8>& numbers) {
+    const char* const labels[] = {
+        "Number of cols(0-#)         : ",   "Number of rows(0-#)         : ",
+        "First column with data      : ",   "Last column with data       : ",
+        "First row with data         : ",   "Last row with data          : ",
+        "\rIcon-number in shp-file     : ", "SHP-Startpos in Ostrane.dat : "};
+    std::string text = "Icon-data for picture number:  " + slot + ", on this screen.";
+    for (std::size_t i = 0; i < 8; ++i) text += std::string(labels[i]) + numbers[i] + "\r";
+    return text + "\rClick >HERE< to make this message disappear...";
+  };
+  EXPECT_EQ(reports(), (texts{report("1", {" 1", " 1", " 2", " 1", " 0", " 1", " 2", " 1100"}),
+                              report("2", {" 63", " 9", "-2", " 40", " 3", " 8", " 3", " 1100"})}));
   click_row("N.TXT");
-  EXPECT_EQ(reports(), "\n\n\n\n\n");
+  EXPECT_EQ(reports(), texts{});
 }
 
 }  // namespace

@@ -32,13 +32,10 @@ TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
   EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }
 
-// In building, and in extracting what was built: the ends of both bars, and where they went.
+// The number of files and the size of each; then the Max of both bars and their moves, in building
+// and in extracting what was built.
 TEST_F(progress_test, BarsMoveAtTheirPaces) {
-  const struct {
-    std::size_t files, size;
-    const char* built;
-    const char* extracted;
-  } cases[] = {
+  const std::tuple<std::size_t, std::size_t, const char*, const char*> cases[] = {
       {0, 0, "1 100", "0 100"},
       {48, 1, "49 1", "47 1"},
       {97, 1, "98 1 2:96", "96 1 2:48"},
@@ -58,19 +55,19 @@ TEST_F(progress_test, BarsMoveAtTheirPaces) {
     screen.begin_bars();
     return all;
   };
-  for (const auto& c : cases) {
+  for (const auto& [files, size, built, extracted] : cases) {
     fs::remove_all(place("C:\\work"));
     make_folder("C:\\work");
-    for (std::size_t i = 0; i < c.files; ++i) {
-      write("C:\\work\\" + std::to_string(i), std::string(c.size, 'x'));
+    for (std::size_t i = 0; i < files; ++i) {
+      write("C:\\work\\" + std::to_string(i), std::string(size, 'x'));
     }
     begin();
     screen.begin_bars();
     build_in();
-    EXPECT_EQ(bars(), c.built);
+    EXPECT_EQ(bars(), built);
     open_archive("C:\\work");
     extract_into("D:\\");
-    EXPECT_EQ(bars(), c.extracted);
+    EXPECT_EQ(bars(), extracted);
   }
 }
 

@@ -13,7 +13,9 @@ class recording_screen : public platform::screen {
   recording_screen() { platform::attach_screen(this); }
   ~recording_screen() override { platform::attach_screen(nullptr); }
 
-  texts told;         // by Form3 at each Refresh, and by message boxes, with the windows on show
+  // A text per Refresh of Form3 and per message box, with the windows on show; the fields Text2 and
+  // Text3 per Refresh of Form1; the name of a form that takes the focus.
+  texts told;
   std::string moves;  // of the bars, each to a value
   std::function<void()> at_refresh = [] {};
 
@@ -24,6 +26,7 @@ class recording_screen : public platform::screen {
   }
 
   void refresh(platform::form& shown) override {
+    if (&shown == &Form1) told.push_back(Form1.Text2.Text() + ":" + Form1.Text3.Text());
     if (&shown != &Form3) return;
     told.push_back(on_show() + Form3.Caption() + "|" + Form3.message.Caption());
     at_refresh();
@@ -42,7 +45,9 @@ class recording_screen : public platform::screen {
     told.push_back(on_show() + text);
   }
 
-  void form_changed(platform::form&, platform::aspect) override {}
+  void form_changed(platform::form& changed, platform::aspect what) override {
+    if (what == platform::aspect::focus) told.push_back(changed.designed.name);
+  }
   void menu_changed(platform::form&, platform::menu_item&) override {}
   void timer_changed(platform::timer&) override {}
   void refresh(platform::control&) override {}

@@ -1,6 +1,7 @@
 #include <climits>
 
 #include "icon_fixture.h"
+#include "recording_screen.h"
 
 namespace ostrane {
 namespace {
@@ -23,11 +24,7 @@ TEST_F(series_test, ShowsSeriesBehindSeries) {
   const shp_icon refused = refused_icon(3, 4);
   const std::string first_of_7 = "7: 1 -  1: 1=0";
   const std::string second_of_7 = "7: 2 -  2: 1=1";
-  const struct {
-    const char* max_icons;
-    std::vector<shp_icon> icons;
-    texts series;
-  } cases[] = {
+  const std::tuple<const char*, std::vector<shp_icon>, texts> cases[] = {
       {"3", seven, {"7: 1 -  3: 1=0 2=1 3=2", "7: 4 -  6: 1=3 2=4 3=5", "7: 7 -  7: 1=6"}},
       {"1", seven, {first_of_7, second_of_7}},
       {"-5", seven, {first_of_7, second_of_7}},
@@ -37,15 +34,32 @@ TEST_F(series_test, ShowsSeriesBehindSeries) {
       {"9", plain_icons(3, 200, 200), {"3: 1 -  2: 1=0 2=1", "3: 3 -  3: 1=2"}},
       {"9", {plain_icon(900, 900, 1), seven[2]}, {"2: 1 -  1: 1=1", "2: 2 -  2: 1=2"}},
   };
-  for (const auto& c : cases) {
-    type_max_icons(c.max_icons);
-    show({c.icons});
-    for (const std::string& expected : c.series) {
+  for (const auto& [max_icons, icons, series] : cases) {
+    type_max_icons(max_icons);
+    show({icons});
+    for (const std::string& expected : series) {
       EXPECT_EQ(view(), expected);
       user::click(Form1.Command6);
     }
   }
   EXPECT_EQ(slot(1).columns(), 1);
+}
+
+// The working message comes before the first icon, and each icon's number is on the screen in turn.
+TEST_F(series_test, ShowsTheWorkingMessageAndTheNumberOfEachIcon) {
+  recording_screen screen;
+  type_max_icons("2");
+  show({plain_icons(3, 1, 1)});
+  user::click(Form1.Command6);
+  click_row("N.TXT");
+  const std::string working =
+      "This is just to let you know, I'm working...|It's only Visual Basic, so it takes some "
+      "time.\rWorking on the job...\rHave patience.................\rIt's painting all these "
+      "little dots that takes most of the time... \rReading and unpacking the shp-file takes less "
+      "than a 25%, the rest is Visual Basic overhead...";
+  const std::string drawing = "main progress " + working;
+  EXPECT_EQ(screen.told, (texts{":", drawing, "1:", "2:", "3: 1 -  2", ":", drawing,
+                                "3:", "main " + working, "3: 3 -  3"}));
 }
 
 // A slot has a border of one pixel each way; a pixel is 15 twips. A row is as high as its tallest
@@ -57,19 +71,15 @@ TEST_F(series_test, PlacesTheSlots) {
   const std::vector<shp_icon> uneven = {plain_icon(200, 10, 1), blank_icon(150, 40),
                                         plain_icon(90, 20, 2), plain_icon(200, 5, 3),
                                         plain_icon(300, 1, 4)};
-  const struct {
-    std::int32_t width, height;  // of the frame
-    std::vector<shp_icon> icons;
-    const char* places;
-  } cases[] = {
+  const std::tuple<std::int32_t, std::int32_t, std::vector<shp_icon>, const char*> cases[] = {
       {two_columns, two_rows, tens, " 200,800"},
       {two_columns + 1, two_rows + 1, tens, " 200,800 395,800 200,995 395,995"},
       {7455, 6570, uneven, " 200,800 3245,800 5540,800 200,1445 200,1565"},
   };
-  for (const auto& c : cases) {
-    user::resize(Form1, c.width + 2100 - 225, c.height + 825 - 705);
-    show({c.icons});
-    EXPECT_EQ(places(), c.places);
+  for (const auto& [width, height, icons, seen] : cases) {  // of the frame
+    user::resize(Form1, width + 2100 - 225, height + 825 - 705);
+    show({icons});
+    EXPECT_EQ(places(), seen);
   }
 }
 
@@ -99,7 +109,7 @@ TEST_F(series_test, RefusesIcons) {
             "No-of-cols =  6\nCol-start =  5\nCol-end =  3");
 }
 
-// What an address leads to, and counts beyond reach.
+// Bad addresses and counts: the archive, the number in the message if there is one, and the view.
 TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
   const std::string three = samples::shp_file(plain_icons(3, 1, 1));
   const auto at = [](std::int32_t offset) {
@@ -114,11 +124,7 @@ TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
   const auto count = [&](std::int32_t number) { return holding(with_number(three, 4, number)); };
   constexpr std::int32_t start = 4 + 3 * 17 + 1024;
   const std::string one_of_3 = "3: 1 -  1: 1=0";
-  const struct {
-    std::string archive;
-    std::string number;  // in the message, if there is one
-    std::string view;
-  } cases[] = {
+  const std::tuple<std::string, std::string, std::string> cases[] = {
       {second_at(-start - 2), "-1", one_of_3},
       {second_at(-start - 1), " 0", one_of_3},
       {second_at(static_cast<std::int32_t>(three.size()) - 23), " 1170", one_of_3},
@@ -132,23 +138,26 @@ TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
       {at(500000), " 500001", "0: 1 -  0:"},
       {at(INT_MIN), "-2147483647", "0: 1 -  0:"},
   };
-  for (const auto& c : cases) {
-    open_bytes(c.archive);
+  for (const auto& [archive, number, seen] : cases) {
+    open_bytes(archive);
     click_row(" A.SHP");
-    const texts told = c.number.empty() ? texts{} : texts{invalid_address(c.number)};
+    const texts told = number.empty() ? texts{} : texts{invalid_address(number)};
     EXPECT_EQ(new_messages(), told);
-    EXPECT_EQ(view(), c.view);
+    EXPECT_EQ(view(), seen);
     user::click(Form1.Command6);
-    EXPECT_EQ(new_messages(), c.view.front() > '0' ? told : texts{});  // with icons left to show
-    EXPECT_EQ(view(), c.view == one_of_3 ? "3: 2 -  0:" : c.view);
+    EXPECT_EQ(new_messages(), seen.front() > '0' ? told : texts{});  // with icons left to show
+    EXPECT_EQ(view(), seen == one_of_3 ? "3: 2 -  0:" : seen);
   }
 }
 
-TEST_F(series_test, ShowsNoMoreThan5000Icons) {
+TEST_F(series_test, ShowsNoMoreThan5000IconsAndNoneOfAnArchiveThatIsGone) {
   show({plain_icons(5001, 1, 1)});
   EXPECT_EQ(new_messages(), texts{"The file: F1.SHP says that it holds 5001 pictures. Only the "
                                   "first 5000 are displayed."});
   EXPECT_EQ(Form1.Text2.Text(), "5000");
+  fs::remove(place("C:\\ostrane.dat"));
+  click_row("F1.SHP");
+  EXPECT_EQ(view(), "0: 1 -  0:");
 }
 
 // After a click on an entry of another kind the next series is that of the icons still in view,
@@ -179,13 +188,6 @@ TEST_F(series_test, ANextSeriesNeverMixesTwoArchives) {
     user::double_click(Form1.s16_image, 1);
     EXPECT_FALSE(Form3.Visible());
   }
-}
-
-TEST_F(series_test, AnArchiveThatIsGoneGivesAnEmptySeries) {
-  show({plain_icons(3, 1, 1)});
-  fs::remove(place("C:\\ostrane.dat"));
-  click_row("F1.SHP");
-  EXPECT_EQ(view(), "0: 1 -  0:");
 }
 
 }  // namespace
