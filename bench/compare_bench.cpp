@@ -11,7 +11,7 @@ using namespace ostrane;
 
 void compare_with_shuffled_shiplist(benchmark::State& state) {
   const std::filesystem::path folder = bench::scratch("compare");
-  std::vector<std::string> names = bench::shuffled_names(bench::most_names);
+  std::vector<std::string> names = bench::shuffled_names(bench::max_names);
   std::string shiplist;
   for (const std::string& name : names) shiplist += name + "\r\n";
   bench::write_file(folder / "ships.txt", shiplist);

@@ -10,7 +10,7 @@
 #include <stdexcept>
 
 #include "archive/format.h"
-#include "platform/little_endian.h"
+#include "files/little_endian.h"
 
 namespace ostrane::bench {
 
@@ -98,7 +98,7 @@ void write_archive(const fs::path& folder, const std::vector<entry>& entries) {
   const auto count = static_cast<std::int32_t>(entries.size()) + 1;
   std::array<std::byte, record_size> record;
   std::string index;
-  platform::put_int32(record, 0, count);
+  files::put_int32(record, 0, count);
   append(index, std::span(record).first<count_size>());
   std::string bodies;
   const auto body_start = static_cast<std::int32_t>(count_size) + record_size * count;

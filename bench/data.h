@@ -15,7 +15,7 @@ struct entry {
   std::string bytes;
 };
 
-constexpr int most_names = 32767;
+constexpr int max_names = 32767;
 
 // Different names of files in an order that is not sorted.
 std::vector<std::string> shuffled_names(int count);

@@ -6,12 +6,12 @@
 #include <numeric>
 
 #include "archive/entry_bounds.h"
+#include "archive/open_archive.h"
 #include "data.h"
 #include "forms/forms.h"
-#include "archive/open_archive.h"
+#include "forms_layer/user.h"
 #include "icons/decoder.h"
 #include "icons/shp_reader.h"
-#include "platform/user.h"
 #include "png_pictures.h"
 #include "shp_writer.h"
 #include "state/files.h"
@@ -30,8 +30,8 @@ const std::vector<samples::picture>& pictures() {
   return drawn;
 }
 
-platform::picture_box& size_slot(std::int16_t index) {
-  platform::picture_box& slot = Form1.s16_image(index);
+forms_layer::picture_box& size_slot(std::int16_t index) {
+  forms_layer::picture_box& slot = Form1.s16_image(index);
   slot.Width = (side + 2) * tool_state.twips_per_pixel_x;
   slot.Height = (side + 2) * tool_state.twips_per_pixel_y;
   return slot;
@@ -42,12 +42,12 @@ void begin_tool_on_icons() {
   bench::write_archive(folder, {{"ICONS.SHP", samples::shp_file(pictures())}, {"N", "n"}});
   bench::begin_tool_on(folder);
   bench::open_archive("C:\\");
-  platform::user::select_row(Form1.List1, 0);
+  forms_layer::user::select_row(Form1.List1, 0);
 }
 
 void decode_icons_from_file(benchmark::State& state) {
   begin_tool_on_icons();
-  platform::picture_box& slot = size_slot(1);
+  forms_layer::picture_box& slot = size_slot(1);
   tool_state.current_slot = 1;
   for (auto _ : state) {
     open_archive_file(file_1);
@@ -61,7 +61,7 @@ void decode_icons_from_file(benchmark::State& state) {
     file_1.close();
   }
   const auto& last = pictures().back();
-  const platform::colour corner =
+  const forms_layer::colour corner =
       tool_state.colour_table[static_cast<std::size_t>(last.at(side - 1, side - 1))];
   if (slot.pixel(side - 1, side - 1) != corner) state.SkipWithError("not decoded");
 }
@@ -118,9 +118,10 @@ void decode_streams_in_memory(benchmark::State& state) {
 BENCHMARK(decode_streams_in_memory)->Unit(benchmark::kMicrosecond);
 
 // What the streams themselves cost: no clipping, no record of what changed, no end of the buffer.
-void bare_loop(const std::string& stream, const platform::colour* colours, platform::colour* row) {
+void bare_loop(const std::string& stream, const forms_layer::colour* colours,
+               forms_layer::colour* row) {
   const auto* at = reinterpret_cast<const unsigned char*>(stream.data());
-  platform::colour* to = row;
+  forms_layer::colour* to = row;
   for (int rows = 0; rows < side;) {
     const unsigned op = *at++;
     if (op == 0) {
@@ -130,7 +131,7 @@ void bare_loop(const std::string& stream, const platform::colour* colours, platf
     } else if (op == 1) {
       to += *at++;
     } else if (op % 2 == 0) {
-      const platform::colour colour = colours[*at++];
+      const forms_layer::colour colour = colours[*at++];
       for (unsigned i = 0; i < op / 2; ++i) *to++ = colour;
     } else {
       for (unsigned i = 0; i < op / 2; ++i) *to++ = colours[*at++];
@@ -140,8 +141,8 @@ void bare_loop(const std::string& stream, const platform::colour* colours, platf
 
 void bare_loop_over_streams(benchmark::State& state) {
   const std::vector<stream_in_memory> streams = all_streams();
-  std::vector<platform::colour> pixels(std::size_t{side} * side);
-  const std::vector<platform::colour> colours(256, 7);
+  std::vector<forms_layer::colour> pixels(std::size_t{side} * side);
+  const std::vector<forms_layer::colour> colours(256, 7);
   for (auto _ : state) {
     for (const stream_in_memory& stream : streams) {
       bare_loop(stream.bytes, colours.data(), pixels.data());
@@ -152,10 +153,10 @@ void bare_loop_over_streams(benchmark::State& state) {
 BENCHMARK(bare_loop_over_streams)->Unit(benchmark::kMicrosecond);
 
 void memset_of_the_pixels(benchmark::State& state) {
-  std::vector<platform::colour> pixels(std::size_t{side} * side);
+  std::vector<forms_layer::colour> pixels(std::size_t{side} * side);
   for (auto _ : state) {
     for (int i = 0; i < icons; ++i) {
-      std::memset(pixels.data(), i, pixels.size() * sizeof(platform::colour));
+      std::memset(pixels.data(), i, pixels.size() * sizeof(forms_layer::colour));
       benchmark::ClobberMemory();
     }
   }

@@ -21,7 +21,7 @@ std::string lines_of(const std::vector<std::string>& names, const char* end) {
 }
 
 void make_names(const fs::path& folder) {
-  std::vector<std::string> names = bench::shuffled_names(bench::most_names);
+  std::vector<std::string> names = bench::shuffled_names(bench::max_names);
   fs::create_directories(folder / "empty");
   bench::write_file(folder / "shiplist.txt", lines_of(names, "\r\n"));
   bench::write_file(folder / "shuffled", lines_of(names, "\n"));

@@ -2,7 +2,7 @@
 
 #include "data.h"
 #include "forms/forms.h"
-#include "platform/user.h"
+#include "forms_layer/user.h"
 #include "shp_writer.h"
 #include "tool.h"
 
@@ -19,7 +19,7 @@ void draw_series(benchmark::State& state) {
   bench::begin_tool_on(folder);
   bench::open_archive("C:\\");
   bench::widen_window(2600, 2000, 999);
-  for (auto _ : state) platform::user::select_row(Form1.List1, 0);
+  for (auto _ : state) forms_layer::user::select_row(Form1.List1, 0);
   if (Form1.Text3.Text() != " 1 -  " + std::to_string(count)) {
     state.SkipWithError(Form1.Text3.Text().c_str());
   }

@@ -15,14 +15,14 @@
 #include "desktop/exposure.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
-#include "platform/user.h"
+#include "forms_layer/user.h"
 #include "screen_sync.h"
 #include "tool.h"
 
 namespace {
 
 using namespace ostrane;
-namespace user = platform::user;
+namespace user = forms_layer::user;
 
 // Messages are answered at once.
 class screen : public desktop::qt_screen {
@@ -82,11 +82,11 @@ int main(int argc, char** argv) {
     std::cerr << "usage: bench_window start|icons|text|extract|build FOLDER [COUNT]\n";
     return 2;
   }
-  desktop::send_pixels_without_waiting();
+  desktop::disable_shared_memory();
   const QApplication application(argc, argv);
   desktop::set_up_application();
   screen shown;
-  platform::attach_screen(&shown);
+  forms_layer::attach_screen(&shown);
   const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
   bench::begin_tool_on(folder.parent_path());
   QCoreApplication::processEvents();

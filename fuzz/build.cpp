@@ -4,7 +4,7 @@
 #include <set>
 
 #include "archive/entry_bounds.h"
-#include "platform/code_page.h"
+#include "files/code_page.h"
 #include "target.h"
 
 using namespace ostrane;
@@ -24,9 +24,9 @@ void write_files(const texts& parts) {
 contents files_there() {
   contents found;
   for (const auto& [utf8, bytes] : files_in("C:\\work")) {
-    const auto name = platform::from_utf8(utf8);
+    const auto name = files::from_utf8(utf8);
     if (!name || name->front() == '.' || name->find('\\') != name->npos) continue;
-    if (platform::upper_case(*name) != "OSTRANE.DAT") found.insert(bytes);
+    if (files::upper_case(*name) != "OSTRANE.DAT") found.insert(bytes);
   }
   return found;
 }

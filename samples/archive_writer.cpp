@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "archive/format.h"
-#include "platform/little_endian.h"
+#include "files/little_endian.h"
 
 namespace ostrane::samples {
 
@@ -15,7 +15,7 @@ std::string archive_file(const std::vector<sample_file>& files) {
     index.append(reinterpret_cast<const char*>(bytes.data()), size);
   };
   const std::size_t count = files.size() + 1;
-  platform::put_int32(bytes, 0, static_cast<std::int32_t>(count));
+  files::put_int32(bytes, 0, static_cast<std::int32_t>(count));
   append(count_size);
   const auto append_record = [&](const std::string& name) {
     dat_record record = {};

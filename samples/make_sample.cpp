@@ -7,11 +7,11 @@
 #include <stdexcept>
 #include <string>
 
+#include "files/drives.h"
 #include "forms/forms.h"
+#include "forms_layer/message_box.h"
+#include "forms_layer/user.h"
 #include "handlers/start_up.h"
-#include "platform/drives.h"
-#include "platform/message_box.h"
-#include "platform/user.h"
 #include "sample_files.h"
 #include "texts.h"
 
@@ -36,13 +36,13 @@ void write_files(const fs::path& folder) {
 
 // Has the tool build the archive, as its user would, into the folder `files` of `folder`.
 void build_archive(const fs::path& folder) {
-  platform::set_drives({{'C', "sample", folder}}, "C:\\");
+  files::set_drives({{'C', "sample", folder}}, "C:\\");
   begin_tool(folder);
-  platform::user::click(Form1.mnu_make);
+  forms_layer::user::click(Form1.mnu_make);
   Form5.Dir1.Path = "C:\\files";
-  platform::user::click(Form5.Command1);
+  forms_layer::user::click(Form5.Command1);
 
-  const auto& messages = platform::messages_shown();
+  const auto& messages = forms_layer::messages_shown();
   const std::string done =
       "Your new Ostrane.dat has been created and saved in:C:\\files\\ostrane.dat";
   if (messages.size() != 1 || messages.front() != done) {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/code_page.h"
+#include "files/code_page.h"
 
 namespace ostrane::samples {
 namespace {
@@ -72,7 +72,7 @@ WORLDS;Planets and moons
 
 std::string as_file(std::string_view utf8) {
   std::string bytes;
-  for (const char c : platform::from_utf8_or_marks(utf8)) {
+  for (const char c : files::from_utf8_lossy(utf8)) {
     if (c == '\n') bytes += '\r';
     bytes += c;
   }

@@ -110,7 +110,7 @@ TEST_F(builder_test, TheNewArchiveBecomesTheOpenOneIfOneWasOpen) {
   EXPECT_EQ(tool_state.archive_path, "C:\\work\\ostrane.dat");
   EXPECT_EQ(tool_state.archive_path_copy, tool_state.archive_path);
   EXPECT_EQ(Form1.List1.ListCount(), 3);
-  EXPECT_EQ(tool_state.colour_table[9], platform::rgb(2, 2, 2));
+  EXPECT_EQ(tool_state.colour_table[9], forms_layer::rgb(2, 2, 2));
   click_row("NEW.TXT");
   EXPECT_EQ(Form1.Text6.Text(), "new");
 }

@@ -1,8 +1,8 @@
-#include "platform/code_page.h"
+#include "files/code_page.h"
 
 #include <gtest/gtest.h>
 
-namespace platform {
+namespace files {
 namespace {
 
 TEST(CodePage, EveryByteComesBackFromUtf8) {
@@ -24,7 +24,7 @@ TEST(CodePage, RefusesWhatItHasNoByteFor) {
                            "\xF0\x82\x82\xAC", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xE9"}) {
     EXPECT_FALSE(from_utf8(text).has_value()) << text;
   }
-  EXPECT_EQ(from_utf8_or_marks("a\xCE\xA9z\xFF"), "a?z?");
+  EXPECT_EQ(from_utf8_lossy("a\xCE\xA9z\xFF"), "a?z?");
 }
 
 TEST(CodePage, FoldsAccentedLettersToo) {
@@ -36,4 +36,4 @@ TEST(CodePage, FoldsAccentedLettersToo) {
 }
 
 }  // namespace
-}  // namespace platform
+}  // namespace files

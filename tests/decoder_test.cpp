@@ -16,8 +16,8 @@ struct decoder_test : icon_test {
 };
 
 TEST_F(decoder_test, APictureClipsToItsDrawingAreaAndKeepsItsCellsWhenResized) {
-  const auto blue = [](std::uint32_t index) { return platform::rgb(0, 0, index); };
-  platform::picture_box& box = slot(1);
+  const auto blue = [](std::uint32_t index) { return forms_layer::rgb(0, 0, index); };
+  forms_layer::picture_box& box = slot(1);
   box.Width = 15 * 6;
   box.Height = 15 * 5;
   box.Line(-5, 0, 2, 0, blue(7));

@@ -8,13 +8,13 @@ namespace {
 
 // What the four dialogs have in common.
 struct dialog {
-  platform::form& window;
-  platform::drive_list& Drive1;
-  platform::dir_list& Dir1;
-  platform::file_list& File1;
-  platform::text_box* Text1;  // that shows the folder, if there is one
-  platform::menu_item& menu;
-  platform::button& cancel;
+  forms_layer::form& window;
+  forms_layer::drive_list& Drive1;
+  forms_layer::dir_list& Dir1;
+  forms_layer::file_list& File1;
+  forms_layer::text_box* Text1;  // that shows the folder, if there is one
+  forms_layer::menu_item& menu;
+  forms_layer::button& cancel;
 
   // The drive, the folder, and with it that of the files and the field if there is one.
   void expect_at(const std::string& drive, const std::string& folder,
@@ -26,8 +26,8 @@ struct dialog {
 };
 
 template <typename Form>
-dialog dialog_of(Form& form, platform::text_box* field, platform::menu_item& menu,
-                 platform::button& cancel) {
+dialog dialog_of(Form& form, forms_layer::text_box* field, forms_layer::menu_item& menu,
+                 forms_layer::button& cancel) {
   return {form, form.Drive1, form.Dir1, form.File1, field, menu, cancel};
 }
 
@@ -73,7 +73,7 @@ TEST_F(dialogs_test, FollowsTheDriveAndHandsBackWhenCancelled) {
 TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
   with_each([](const dialog& d) {
     d.Dir1.Path = "D:\\Sub\\Deep";
-    const std::function<void()> ways[] = {[&] { user::read_anew(d.window); },
+    const std::function<void()> ways[] = {[&] { user::reload(d.window); },
                                           [&] { user::open_folder(d.Dir1, d.Dir1.open_row()); }};
     for (const auto& ask : ways) {
       const auto folders = d.Dir1.rows().size();

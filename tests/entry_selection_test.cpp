@@ -106,7 +106,7 @@ TEST_F(entry_selection_test, ShowsTheBuiltInColoursAsSwatches) {
   EXPECT_EQ(Form1.Text2.Text() + Form1.Text3.Text(), "256palette 0 - 255");
   std::uint32_t sum = 0;
   for (std::int32_t i = 0; i < 256; ++i) {
-    const platform::picture_box& swatch = Form1.s16_image(i + 1);
+    const forms_layer::picture_box& swatch = Form1.s16_image(i + 1);
     EXPECT_TRUE(swatch.Visible() && swatch.Width() == 400 && swatch.Height() == 260 &&
                 swatch.Left() == 440 + 440 * (i % 16) && swatch.Top() == 800 + 300 * (i / 16))
         << i;
@@ -128,7 +128,7 @@ TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
   EXPECT_EQ(slot(1).pixels(), nullptr);
   EXPECT_EQ(slot(18).ToolTipText(), "Palette #  17 : (red= 232, green= 228, blue= 136)");
   user::click(Form1.Command6);
-  EXPECT_EQ(slot(18).BackColor(), platform::system_button_face);
+  EXPECT_EQ(slot(18).BackColor(), forms_layer::system_button_face);
   click_row("A.SHP");
   EXPECT_FALSE(slot(2).Visible());
   EXPECT_EQ(slot(2).ToolTipText(), icon_tool_tip);

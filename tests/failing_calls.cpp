@@ -6,14 +6,14 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/system_calls.h"
+#include "files/system_calls.h"
 
 namespace ostrane {
 namespace {
 
 namespace fs = std::filesystem;
 
-const platform::system_call_table real = platform::system_calls;
+const files::system_call_table real = files::system_calls;
 failing_calls* current = nullptr;
 
 // What the call returns: its own outcome, or an error in its place. Of an open file that is
@@ -42,7 +42,7 @@ struct call_name {
   constexpr call_name(const char* name) { std::copy_n(name, std::strlen(name), text); }
 };
 
-using table = platform::system_call_table;
+using table = files::system_call_table;
 
 template <call_name Name, auto Member>
 struct counted;
@@ -85,11 +85,11 @@ table counted_calls() {
 
 failing_calls::failing_calls(int number, call_fault with) : at(number), fault(with) {
   current = this;
-  platform::system_calls = counted_calls();
+  files::system_calls = counted_calls();
 }
 
 failing_calls::~failing_calls() {
-  platform::system_calls = real;
+  files::system_calls = real;
   current = nullptr;
 }
 

@@ -8,8 +8,8 @@
 #include "child_process.h"
 #include "failing_calls.h"
 #include "failing_memory.h"
+#include "files/code_page.h"
 #include "icon_fixture.h"
-#include "platform/code_page.h"
 
 namespace ostrane {
 namespace {
@@ -62,7 +62,7 @@ struct failing_disk_test : tool_test {
     outcome all = {{}, new_messages()};
     for (const auto& found : fs::recursive_directory_iterator(root)) {
       if (!found.is_regular_file()) continue;
-      const std::string name = platform::upper_case(found.path().lexically_relative(root).string());
+      const std::string name = files::upper_case(found.path().lexically_relative(root).string());
       EXPECT_TRUE(all.files.emplace(name, bytes_of(found.path())).second) << name;
     }
     return all;

@@ -1,8 +1,8 @@
 #include <sys/stat.h>
 
-#include "platform/file_system.h"
-#include "platform/paths.h"
-#include "platform/text_file.h"
+#include "files/file_system.h"
+#include "files/paths.h"
+#include "files/text_file.h"
 #include "tool_fixture.h"
 
 // Names that tell case apart, links, pipes and devices.
@@ -14,14 +14,14 @@ using files_posix_test = tool_test;
 TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
   write("C:\\Mixed\\Name.TXT", "upper");
   write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
-  platform::text_reader reader(platform::on_drives("c:\\mIXED\\name.txt"));
+  files::text_reader reader(files::on_drives("c:\\mIXED\\name.txt"));
   EXPECT_EQ(reader.read_line(), "upper");
-  EXPECT_TRUE(platform::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
+  EXPECT_TRUE(files::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
   write("C:\\Mixed\\name.txt", "lower");
-  platform::text_reader exact(platform::on_drives("C:\\Mixed\\name.txt"));
+  files::text_reader exact(files::on_drives("C:\\Mixed\\name.txt"));
   EXPECT_EQ(exact.read_line(), "lower");
-  EXPECT_FALSE(platform::file_exists("C:\\Mixed\\names.txt"));
-  EXPECT_FALSE(platform::file_exists("C:\\Mixed"));
+  EXPECT_FALSE(files::file_exists("C:\\Mixed\\names.txt"));
+  EXPECT_FALSE(files::file_exists("C:\\Mixed"));
 }
 
 TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
@@ -31,16 +31,16 @@ TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
   make_folder("D:\\folder");
   ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
   fs::create_symlink("a.txt", place("D:\\link"));
-  EXPECT_EQ(platform::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
-  EXPECT_EQ(platform::folders_in("D:\\"), texts{"folder"});
+  EXPECT_EQ(files::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
+  EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
 }
 
 TEST_F(files_posix_test, TheLastDriveIsTheRootOfTheFileSystem) {
-  platform::set_drives({}, "C:\\");
+  files::set_drives({}, "C:\\");
   user::click(Form1.mnu_make);
   user::choose(Form5.Drive1, static_cast<std::int32_t>(Form5.Drive1.rows().size()) - 1);
   EXPECT_EQ((texts{Form5.Drive1.Drive(), Form5.Text1.Text()}), (texts{"z: [root]", "Z:\\"}));
-  EXPECT_EQ(platform::system_path("Z:\\tmp"), "/tmp");
+  EXPECT_EQ(files::system_path("Z:\\tmp"), "/tmp");
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
-#include "platform/binary_file.h"
-#include "platform/file_error.h"
-#include "platform/file_system.h"
-#include "platform/paths.h"
-#include "platform/text_file.h"
+#include "files/binary_file.h"
+#include "files/file_error.h"
+#include "files/file_system.h"
+#include "files/paths.h"
+#include "files/text_file.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -25,9 +25,9 @@ TEST_F(files_test, WorksPathsOut) {
                                   {"D:\\", "C:x/y", "C:\\x\\y"}};
   for (const auto& [current, path, whole] : cases) {
     begin(current);
-    EXPECT_EQ(platform::full_path(path), whole) << path;
+    EXPECT_EQ(files::full_path(path), whole) << path;
   }
-  EXPECT_THROW(platform::system_path("Q:\\x"), platform::file_error);
+  EXPECT_THROW(files::system_path("Q:\\x"), files::file_error);
 }
 
 TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
@@ -41,7 +41,7 @@ TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
       {"ostrane.dat2", "ostrane.dat", false},
       {"a.txt.bak", "*.txt", false}};
   for (const auto& [name, pattern, matches] : cases) {
-    EXPECT_EQ(platform::matches_pattern(name, pattern), matches) << name;
+    EXPECT_EQ(files::matches_pattern(name, pattern), matches) << name;
   }
 }
 
@@ -52,7 +52,7 @@ TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
                                                  {to_the_edge + "\r\nnext", {to_the_edge, "next"}}};
   for (const auto& [bytes, lines] : cases) {
     write("C:\\lines.txt", bytes);
-    platform::text_reader reader(platform::on_drives("C:\\lines.txt"));
+    files::text_reader reader(files::on_drives("C:\\lines.txt"));
     texts read;
     while (!reader.at_end()) read.push_back(reader.read_line());
     EXPECT_EQ(read, lines);
@@ -62,8 +62,8 @@ TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
 TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   const std::string bytes = some_bytes(300000);
   write("C:\\data", bytes);
-  platform::binary_file file;
-  file.open_to_read(platform::on_drives("C:\\data"));
+  files::binary_file file;
+  file.open_to_read(files::on_drives("C:\\data"));
   for (const std::int64_t at : {0, 10, 70000, 69990, 5, 250000, 299990, 65536, 131071}) {
     for (const std::size_t count : {std::size_t{9}, std::size_t{70000}}) {
       file.seek(at);

@@ -1,6 +1,6 @@
-#include "platform/binary_file.h"
-#include "platform/file_error.h"
-#include "platform/paths.h"
+#include "files/binary_file.h"
+#include "files/file_error.h"
+#include "files/paths.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -13,9 +13,9 @@ TEST_F(files_windows_test, OpensNormalFilesAlone) {
   write("C:\\a.txt", "a");
   for (const char* name : {"NUL", "con", "COM1", "Com1.txt", "program", "a.txt:part", "D:x"}) {
     const std::string path = std::string("C:\\") + name;
-    platform::binary_file file;
-    EXPECT_THROW(file.open_to_read(platform::on_drives(path)), platform::file_error) << path;
-    EXPECT_THROW(file.open_to_write(platform::on_drives(path)), platform::file_error) << path;
+    files::binary_file file;
+    EXPECT_THROW(file.open_to_read(files::on_drives(path)), files::file_error) << path;
+    EXPECT_THROW(file.open_to_write(files::on_drives(path)), files::file_error) << path;
   }
   EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
 }

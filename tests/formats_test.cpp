@@ -48,10 +48,10 @@ TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
   click_row("A.SHP");
   EXPECT_EQ(Form1.Frame1.Caption(), "A.SHP - A red corner");
   texts picture;
-  const platform::picture_box& slot = Form1.s16_image(1);
-  const std::map<platform::colour, char> signs = {{platform::picture_box::unset, '.'},
-                                                  {platform::rgb(224, 48, 32), '2'},
-                                                  {platform::rgb(48, 192, 64), '3'}};
+  const forms_layer::picture_box& slot = Form1.s16_image(1);
+  const std::map<forms_layer::colour, char> signs = {{forms_layer::picture_box::unset, '.'},
+                                                     {forms_layer::rgb(224, 48, 32), '2'},
+                                                     {forms_layer::rgb(48, 192, 64), '3'}};
   for (std::int32_t y = 0; y < slot.rows(); ++y) {
     picture.emplace_back();
     for (std::int32_t x = 0; x < slot.columns(); ++x) picture.back() += signs.at(slot.pixel(x, y));

@@ -1,5 +1,5 @@
-#include "platform/events.h"
-#include "platform/file_error.h"
+#include "files/file_error.h"
+#include "forms_layer/events.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -13,16 +13,16 @@ TEST_F(forms_layer_test, EventsComeOneAtATime) {
   std::string order;
   Form1.Command5.Click = [&] {
     order += "(";
-    platform::message_box("wait");
+    forms_layer::message_box("wait");
     order += ")";
   };
   Form1.Command6.Click = [&] {
     order += "6";
-    throw platform::file_error{platform::file_error_number::device_error, "gone"};
+    throw files::file_error{files::file_error_number::device_error, "gone"};
   };
   Form1.Timer1.Timer = [&] { order += "t"; };
   Form1.Timer1.Enabled = true;
-  platform::on_message_box([&](const std::string& text) {
+  forms_layer::on_message_box([&](const std::string& text) {
     order += text;
     if (text != "wait") return;
     user::tick(Form1.Timer1);

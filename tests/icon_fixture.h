@@ -60,13 +60,13 @@ struct icon_test : tool_test {
     click_row("F1.SHP");
   }
 
-  static platform::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }
+  static forms_layer::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }
 
   // The palette index of a cell of a slot, or a dot where nothing is painted.
   static std::string cell(std::int32_t index, std::int32_t column, std::int32_t row) {
-    const platform::colour there = slot(index).pixel(column, row);
-    if (there == platform::picture_box::unset) return ".";
-    return std::to_string(platform::blue_of(there));
+    const forms_layer::colour there = slot(index).pixel(column, row);
+    if (there == forms_layer::picture_box::unset) return ".";
+    return std::to_string(forms_layer::blue_of(there));
   }
 
   // The number of icons, those of the series, and the slots on show with their first cells.

@@ -126,7 +126,7 @@ TEST_F(index_test, TakesThePaletteThatTheArchiveHolds) {
   const struct {
     std::string before, archive;  // opened in turn
     std::size_t index;
-    platform::colour colour;
+    forms_layer::colour colour;
   } cases[] = {
       {own, twice, 7, 0x020202U},     {own, twice, 9, 0x102030U},
       {"", placed(-5), 1, 0xF0F0F0U}, {"", placed(INT32_MAX), 1, 0xF0F0F0U},

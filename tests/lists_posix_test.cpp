@@ -4,8 +4,8 @@
 #include <fstream>
 
 #include "child_process.h"
+#include "files/code_page.h"
 #include "handlers/start_up.h"
-#include "platform/code_page.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -18,7 +18,7 @@ TEST_F(lists_test, AReplacedListKeepsRightsLinksAndOtherSpellings) {
   const std::string saved = "A\r\n\r\n";
   for (const char* name : {"D:\\shplist.txt", "C:\\Shiplist-compare.txt"}) {
     const fs::path list = place(name);
-    const fs::path other = list.parent_path() / platform::upper_case(list.filename().string());
+    const fs::path other = list.parent_path() / files::upper_case(list.filename().string());
     const auto save = [&] {
       begin("D:\\");
       write("D:\\x.txt", "X");

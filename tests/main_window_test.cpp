@@ -1,4 +1,4 @@
-#include "platform/application.h"
+#include "forms_layer/application.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -20,10 +20,10 @@ TEST_F(main_window_test, StartsAsDesignedAndEndsWithAndWithoutDriveC) {
     EXPECT_EQ(Form2.Dir1.Path() + Form2.File1.Path(), c_is_there ? "C:\\C:\\" : "D:\\D:\\");
     user::close(Form1);
     user::click(Form1.mnu_exit);
-    EXPECT_FALSE(platform::process_ended());
+    EXPECT_FALSE(forms_layer::process_ended());
     user::click(Form2.Command2);
     c_is_there ? user::close(Form1) : user::click(Form1.mnu_exit);
-    EXPECT_TRUE(platform::process_ended());
+    EXPECT_TRUE(forms_layer::process_ended());
     fs::remove_all(root / "c");
   }
 }
@@ -35,7 +35,7 @@ TEST_F(main_window_test, LaysOutItsControlsDownToAMinimumSize) {
       {2501, 1900, "401x6570 1695x5970 101x5595 "},
       {2500, 1901, "401x1076 1695x476 101x101 "},
       {10100, 8000, "8000x7175 1695x6575 7700x6200 "}};
-  const auto size = [](const platform::control& sized) {
+  const auto size = [](const forms_layer::control& sized) {
     return std::to_string(sized.Width()) + "x" + std::to_string(sized.Height()) + " ";
   };
   for (const auto& [width, height, sizes] : cases) {  // of the whole window

@@ -2,16 +2,16 @@
 
 #include <functional>
 
-#include "platform/screen.h"
+#include "forms_layer/screen.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
 
 // A screen that paints nothing and keeps what it was told of a job, while it lives.
-class recording_screen : public platform::screen {
+class recording_screen : public forms_layer::screen {
  public:
-  recording_screen() { platform::attach_screen(this); }
-  ~recording_screen() override { platform::attach_screen(nullptr); }
+  recording_screen() { forms_layer::attach_screen(this); }
+  ~recording_screen() override { forms_layer::attach_screen(nullptr); }
 
   // A text per Refresh of Form3 and per message box, with the windows on show; the fields Text2 and
   // Text3 per Refresh of Form1; the name of a form that takes the focus.
@@ -25,15 +25,15 @@ class recording_screen : public platform::screen {
     moves.clear();
   }
 
-  void refresh(platform::form& shown) override {
+  void refresh(forms_layer::form& shown) override {
     if (&shown == &Form1) told.push_back(Form1.Text2.Text() + ":" + Form1.Text3.Text());
     if (&shown != &Form3) return;
     told.push_back(on_show() + Form3.Caption() + "|" + Form3.message.Caption());
     at_refresh();
   }
   // A change of the range alone leaves the value as it was told last.
-  void control_changed(platform::control& changed, platform::aspect what) override {
-    if (what != platform::aspect::range) return;
+  void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
+    if (what != forms_layer::property_id::range) return;
     for (const int number : {1, 2}) {
       const auto& bar = number == 1 ? Form3.ProgressBar1 : Form3.ProgressBar2;
       if (&changed != &bar || bar.Value() == last_[number]) continue;
@@ -45,12 +45,12 @@ class recording_screen : public platform::screen {
     told.push_back(on_show() + text);
   }
 
-  void form_changed(platform::form& changed, platform::aspect what) override {
-    if (what == platform::aspect::focus) told.push_back(changed.designed.name);
+  void form_changed(forms_layer::form& changed, forms_layer::property_id what) override {
+    if (what == forms_layer::property_id::focus) told.push_back(changed.designed.name);
   }
-  void menu_changed(platform::form&, platform::menu_item&) override {}
-  void timer_changed(platform::timer&) override {}
-  void refresh(platform::control&) override {}
+  void menu_changed(forms_layer::form&, forms_layer::menu_item&) override {}
+  void timer_changed(forms_layer::timer&) override {}
+  void refresh(forms_layer::control&) override {}
   void end_process() override {}
 
  private:

@@ -5,8 +5,8 @@
 #include <random>
 
 #include "archive_writer.h"
-#include "platform/drives.h"
-#include "platform/little_endian.h"
+#include "files/drives.h"
+#include "files/little_endian.h"
 #include "tool_on_drives.h"
 
 namespace ostrane {
@@ -20,7 +20,7 @@ inline void open_archive(const std::vector<entry>& entries) { open_bytes(archive
 
 // `bytes` with another number of 32 bits in one place.
 inline std::string with_number(std::string bytes, std::size_t at, std::int32_t number) {
-  platform::put_int32(std::as_writable_bytes(std::span(bytes)), at, number);
+  files::put_int32(std::as_writable_bytes(std::span(bytes)), at, number);
   return bytes;
 }
 
@@ -59,7 +59,7 @@ struct tool_test : testing::Test {
     begin();
   }
   ~tool_test() override {
-    platform::set_drives({});
+    files::set_drives({});
     std::error_code left;
     fs::remove_all(root, left);
   }

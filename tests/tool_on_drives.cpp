@@ -5,9 +5,9 @@
 #include <random>
 #include <sstream>
 
+#include "files/case_insensitive_lookup.h"
+#include "files/drives.h"
 #include "handlers/start_up.h"
-#include "platform/case_blind.h"
-#include "platform/drives.h"
 
 namespace ostrane {
 namespace {
@@ -42,8 +42,8 @@ void empty_drives() {
 }
 
 void begin(const std::string& current) {
-  platform::set_drives(
-      {{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}}, current);
+  files::set_drives({{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}},
+                    current);
   begin_tool(root / "c" / "program");
   told = 0;
 }
@@ -58,7 +58,7 @@ fs::path place(const std::string& path) {
 void write(const std::string& path, const std::string& bytes) {
   fs::create_directories(place(path).parent_path());
   std::ofstream(place(path), std::ios::binary) << bytes;
-  platform::forget_folders();
+  files::forget_folders();
 }
 
 std::string bytes_of(const fs::path& file) {
@@ -131,7 +131,7 @@ void compare_with(const std::string& folder, const std::string& name) {
 }
 
 texts new_messages() {
-  const texts& all = platform::messages_shown();
+  const texts& all = forms_layer::messages_shown();
   texts fresh(all.begin() + static_cast<std::ptrdiff_t>(told), all.end());
   told = all.size();
   return fresh;

@@ -6,15 +6,15 @@
 #include <vector>
 
 #include "forms/forms.h"
-#include "platform/message_box.h"
-#include "platform/user.h"
+#include "forms_layer/message_box.h"
+#include "forms_layer/user.h"
 #include "sample_files.h"
 #include "state/tool_state.h"
 
 // The tool on drives of its own, and what its user does there in several steps.
 namespace ostrane {
 
-namespace user = platform::user;
+namespace user = forms_layer::user;
 namespace fs = std::filesystem;
 
 using entry = samples::sample_file;

@@ -9,18 +9,18 @@
 #include "archive/new_index.h"
 #include "archive/progress.h"
 #include "archive/skipped_files.h"
+#include "files/case_insensitive_lookup.h"
+#include "files/code_page.h"
+#include "files/failure.h"
+#include "files/file_system.h"
+#include "files/little_endian.h"
+#include "files/paths.h"
+#include "files/replaced_file.h"
+#include "files/system_name.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms/form5.h"
-#include "platform/case_blind.h"
-#include "platform/code_page.h"
-#include "platform/failure.h"
-#include "platform/file_system.h"
-#include "platform/little_endian.h"
-#include "platform/message_box.h"
-#include "platform/paths.h"
-#include "platform/replaced_file.h"
-#include "platform/system_name.h"
+#include "forms_layer/message_box.h"
 #include "state/files.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -41,7 +41,7 @@ struct build {
 };
 
 [[noreturn]] void fail(const std::string& text) {
-  throw platform::file_error{platform::file_error_number::device_error, text};
+  throw files::file_error{files::file_error_number::device_error, text};
 }
 
 // What the list of files shows, without the archive itself.
@@ -49,7 +49,7 @@ std::vector<std::string> build_list() {
   std::vector<std::string> files;
   for (std::int32_t i = 0; i < Form5.File1.ListCount(); ++i) {
     const std::string& name = Form5.File1.List(i);
-    if (platform::lower_case(name) != "ostrane.dat") files.push_back(name);
+    if (files::lower_case(name) != "ostrane.dat") files.push_back(name);
   }
   if (files.size() > max_files) {
     fail("There are " + std::to_string(files.size()) + " files in " + Form5.File1.Path() +
@@ -58,9 +58,9 @@ std::vector<std::string> build_list() {
   return files;
 }
 
-void write_index(const build& job, platform::binary_file& archive) {
+void write_index(const build& job, files::binary_file& archive) {
   std::array<std::byte, record_size> bytes;
-  platform::put_int32(bytes, 0, static_cast<std::int32_t>(job.records.size()));
+  files::put_int32(bytes, 0, static_cast<std::int32_t>(job.records.size()));
   archive.write(std::span(bytes).first<count_size>());
   for (const dat_record& record : job.records) {
     encode_record(record, bytes);
@@ -76,14 +76,14 @@ void show_current_file(const build& job, std::size_t index) {
   Form3.Refresh();
 }
 
-void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
+void copy_file(build& job, std::size_t index, files::binary_file& archive) {
   const std::int32_t size = tool_state.make_index[index].size;
   const std::string path = job.target_folder + job.files[index];
   move_total_bar(job.total_bar_tick, files_per_bar_step, index);
   std::int16_t small_block_bytes = 0;
   Form3.ProgressBar1.Min = 0;
   Form3.ProgressBar1.Max = static_cast<float>(size);
-  file_5.open_to_read(platform::on_drives(path));
+  file_5.open_to_read(files::on_drives(path));
   show_current_file(job, index);
   const std::int32_t copied = chunk_ladder(file_5, archive, size, small_block_bytes);
   std::array<std::byte, 1> one_more;
@@ -93,7 +93,7 @@ void copy_file(build& job, std::size_t index, platform::binary_file& archive) {
 
 void write_archive(build& job) {
   const std::string path = job.target_folder + archive_name;
-  platform::replaced_file archive(platform::on_drives(path));
+  files::replaced_file archive(files::on_drives(path));
   write_index(job, archive.file());
   Form3.ProgressBar2.Max = static_cast<float>(job.records.size());
   Form3.ProgressBar2.Min = 0;
@@ -101,16 +101,15 @@ void write_archive(build& job) {
   archive.put_in_place();
   // The old archive has its name until the new one is there, so there never are two. If the
   // spelling cannot be changed the old one stays; names compare without regard to case.
-  archive.respell(platform::system_path(job.target_folder) / platform::system_name(archive_name));
+  archive.respell(files::system_path(job.target_folder) / files::system_name(archive_name));
   archive.flush_folder();
-  platform::forget_folders();
+  files::forget_folders();
 }
 
 std::string files_left_out(const build& job) {
   skipped_files left_out;
-  for (const platform::unlisted_file& file :
-       platform::unlisted_files_in(job.target_folder, job.files)) {
-    if (platform::upper_case(file.name) != archive_name) {
+  for (const files::unlisted_file& file : files::unlisted_files_in(job.target_folder, job.files)) {
+    if (files::upper_case(file.name) != archive_name) {
       add_skipped(left_out, file.name, file.reason);
     }
   }
@@ -126,7 +125,7 @@ void run(build& job) {
   write_archive(job);
   try {
     job.left_out = files_left_out(job);
-  } catch (const platform::file_error& error) {
+  } catch (const files::file_error& error) {
     job.left_out = error.text;  // the archive is made all the same
   }
 }
@@ -144,22 +143,22 @@ void keep_new_index(const build& job) {
 
 void make_archive() {
   build job;
-  job.target_folder = platform::with_separator(Form5.Text1.Text());
+  job.target_folder = files::with_separator(Form5.Text1.Text());
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   Form3.Refresh();
-  const std::string failure = platform::failure_of([&] { run(job); });
+  const std::string failure = files::failure_of([&] { run(job); });
   file_5.close();
   hide_progress("Ostrane.dat tool ");
   if (!failure.empty()) {
-    platform::message_box(failure + " No new archive was made.");
+    forms_layer::message_box(failure + " No new archive was made.");
     return;
   }
   keep_new_index(job);
   Form1.Visible = true;
   Form5.Visible = false;
-  if (!job.left_out.empty()) platform::message_box(job.left_out);
-  platform::message_box("Your new Ostrane.dat has been created and saved in:" + job.target_folder +
-                        "ostrane.dat");
+  if (!job.left_out.empty()) forms_layer::message_box(job.left_out);
+  forms_layer::message_box(
+      "Your new Ostrane.dat has been created and saved in:" + job.target_folder + "ostrane.dat");
 }
 
 }  // namespace ostrane

@@ -19,15 +19,15 @@ struct rung {
 constexpr std::array<rung, 4> rungs = {
     {{largest_block, true}, {1024, true}, {128, false}, {8, false}}};
 
-struct copy_in_work {
-  platform::binary_file& source;
-  platform::binary_file& destination;
+struct running_copy {
+  files::binary_file& source;
+  files::binary_file& destination;
   std::int16_t& small_block_bytes;
   std::int32_t copied = 0;
   bool source_ended = false;
 };
 
-void copy_block(copy_in_work& copy, std::int32_t size) {
+void copy_block(running_copy& copy, std::int32_t size) {
   auto left = static_cast<std::size_t>(size);
   while (left > 0 && !copy.source_ended) {
     const std::span<const std::byte> part = copy.source.next(left);
@@ -38,14 +38,14 @@ void copy_block(copy_in_work& copy, std::int32_t size) {
   copy.copied += size - static_cast<std::int32_t>(left);
 }
 
-void count_small_block(copy_in_work& copy, std::int32_t size, std::int32_t value) {
+void count_small_block(running_copy& copy, std::int32_t size, std::int32_t value) {
   copy.small_block_bytes = static_cast<std::int16_t>(copy.small_block_bytes + size);
   if (copy.small_block_bytes <= 1024) return;
   Form3.ProgressBar1.Value = static_cast<float>(value);
   copy.small_block_bytes = 0;
 }
 
-void copy_blocks(copy_in_work& copy, const rung& step, std::int32_t blocks) {
+void copy_blocks(running_copy& copy, const rung& step, std::int32_t blocks) {
   for (std::int32_t i = 1; i <= blocks && !copy.source_ended; ++i) {
     if (step.moves_bar_always) {
       Form3.ProgressBar1.Value = static_cast<float>(i * step.block);
@@ -58,9 +58,9 @@ void copy_blocks(copy_in_work& copy, const rung& step, std::int32_t blocks) {
 
 }  // namespace
 
-std::int32_t chunk_ladder(platform::binary_file& source, platform::binary_file& destination,
+std::int32_t chunk_ladder(files::binary_file& source, files::binary_file& destination,
                           std::int32_t amount, std::int16_t& small_block_bytes) {
-  copy_in_work copy{source, destination, small_block_bytes};
+  running_copy copy{source, destination, small_block_bytes};
   std::int32_t remaining = amount;
   for (const rung& step : rungs) {
     if (remaining <= step.block) continue;

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "platform/binary_file.h"
+#include "files/binary_file.h"
 
 namespace ostrane {
 
@@ -15,7 +15,7 @@ namespace ostrane {
 //
 // Gives the number of bytes copied: less than the amount if the source ended before. Throws
 // file_error if the system fails.
-std::int32_t chunk_ladder(platform::binary_file& source, platform::binary_file& destination,
+std::int32_t chunk_ladder(files::binary_file& source, files::binary_file& destination,
                           std::int32_t amount, std::int16_t& small_block_bytes);
 
 }  // namespace ostrane

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "platform/code_page.h"
-#include "platform/text.h"
+#include "files/code_page.h"
+#include "files/text.h"
 
 namespace ostrane {
 
@@ -25,9 +25,9 @@ bool has_number(std::string_view stem, std::string_view device) {
 
 // Windows takes these for devices, with any extension and blanks behind the name.
 bool is_device(const std::string& name) {
-  const std::string folded = platform::upper_case(name);
+  const std::string folded = files::upper_case(name);
   const std::string_view stem =
-      platform::trimmed(std::string_view(folded).substr(0, folded.find('.')));
+      files::trimmed(std::string_view(folded).substr(0, folded.find('.')));
   constexpr std::array<std::string_view, 6> devices = {"CON", "PRN",    "AUX",
                                                        "NUL", "CONIN$", "CONOUT$"};
   return std::find(devices.begin(), devices.end(), stem) != devices.end() ||

@@ -10,14 +10,14 @@
 #include "archive/open_archive.h"
 #include "archive/progress.h"
 #include "archive/skipped_files.h"
+#include "files/failure.h"
+#include "files/file_calls.h"
+#include "files/file_system.h"
+#include "files/paths.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms/form4.h"
-#include "platform/failure.h"
-#include "platform/file_calls.h"
-#include "platform/file_system.h"
-#include "platform/message_box.h"
-#include "platform/paths.h"
+#include "forms_layer/message_box.h"
 #include "state/files.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -30,7 +30,7 @@ constexpr std::int16_t entries_per_bar_step = 49;
 
 struct extraction {
   std::string target_folder;
-  platform::file_stamp archive;
+  files::file_stamp archive;
   std::int64_t archive_position = 0;  // of the current entry
   std::int16_t small_block_bytes = 0;
   std::int16_t total_bar_tick = 0;
@@ -52,26 +52,26 @@ void show_current_entry(const extraction& job, const std::string& name, std::int
 
 // The file of an entry, in file 6. If it is new it is removed unless it was written whole.
 struct entry_file {
-  platform::file_path path;
+  files::file_path path;
   bool is_new = false;
   bool is_whole = false;
 
-  explicit entry_file(platform::file_path at) : path(std::move(at)) {
+  explicit entry_file(files::file_path at) : path(std::move(at)) {
     is_new = file_6.open_to_write(path);
   }
   entry_file(const entry_file&) = delete;
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
     if (is_whole) return;
-    const bool drop = is_new && platform::file_calls::is_at(file_6.handle(), path.system) != 0;
+    const bool drop = is_new && files::file_calls::is_at(file_6.handle(), path.system) != 0;
     file_6.abandon();
-    if (drop) platform::file_calls::remove_file(path.system);
+    if (drop) files::file_calls::remove_file(path.system);
   }
 };
 
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& path, std::int32_t entry_size) {
-  entry_file file(platform::on_drives(path));
+  entry_file file(files::on_drives(path));
   if (!file.is_new && file_6.facts().stamp.identity == job.archive.identity) {
     return "it would be written over the open archive";
   }
@@ -100,8 +100,8 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
   if (!reason.empty()) return reason;
   try {
     return write_entry(job, job.target_folder + name, entry_size);
-  } catch (const platform::file_error& error) {
-    if (error.number == platform::file_error_number::disk_full) throw;
+  } catch (const files::file_error& error) {
+    if (error.number == files::file_error_number::disk_full) throw;
     return error.text;
   }
 }
@@ -134,13 +134,13 @@ void extract_entries(extraction& job) {
 
 // Opens the archive as file 5. Returns why nothing can be extracted at all, or "".
 std::string open_both_ends(extraction& job) {
-  if (!platform::folder_exists(job.target_folder)) {
+  if (!files::folder_exists(job.target_folder)) {
     return "The folder " + job.target_folder + " is not there. Make it or choose another.";
   }
   if (tool_state.record_count > 1 && tool_state.dat_index[0].offset < 0) {
     return "The index of " + tool_state.archive_path_copy + " puts entries before the file.";
   }
-  return platform::failure_of([&] {
+  return files::failure_of([&] {
     open_archive_file(file_5);
     job.archive = file_5.facts().stamp;
   });
@@ -164,18 +164,18 @@ std::string closing_text(const extraction& job, const std::string& stopped) {
 
 void extract_all_entries() {
   extraction job;
-  job.target_folder = platform::with_separator(Form4.Text1.Text());
+  job.target_folder = files::with_separator(Form4.Text1.Text());
   const std::string fault = open_both_ends(job);
   if (!fault.empty()) {
     file_5.close();
-    platform::message_box(fault + " Nothing was extracted.");
+    forms_layer::message_box(fault + " Nothing was extracted.");
     return;
   }
   show_progress("Ostrane.dat tool - File Extraction");
-  const std::string stopped = platform::failure_of([&] { extract_entries(job); });
+  const std::string stopped = files::failure_of([&] { extract_entries(job); });
   file_5.close();
   hide_progress("Ostrane.dat tool - ");
-  platform::message_box(closing_text(job, stopped));
+  forms_layer::message_box(closing_text(job, stopped));
   const bool none_written = job.skipped.count > 0 && job.written == 0;
   if (!stopped.empty() || none_written) return;
   Form4.Visible = false;

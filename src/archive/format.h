@@ -22,7 +22,7 @@ namespace ostrane {
 constexpr std::size_t name_size = 13;
 constexpr std::int32_t count_size = 4;
 constexpr std::int32_t record_size = 17;
-constexpr std::int32_t most_records = 32768;
+constexpr std::int32_t max_records = 32768;
 static_assert(record_size == 4 + name_size);
 
 using record_name = std::array<char, name_size>;

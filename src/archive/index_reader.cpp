@@ -5,15 +5,15 @@
 #include <vector>
 
 #include "archive/format.h"
+#include "files/code_page.h"
+#include "files/failure.h"
+#include "files/file_system.h"
+#include "files/little_endian.h"
+#include "files/paths.h"
+#include "files/text.h"
 #include "forms/form1.h"
+#include "forms_layer/message_box.h"
 #include "palette/palette_store.h"
-#include "platform/code_page.h"
-#include "platform/failure.h"
-#include "platform/file_system.h"
-#include "platform/little_endian.h"
-#include "platform/message_box.h"
-#include "platform/paths.h"
-#include "platform/text.h"
 #include "state/files.h"
 #include "state/tool_state.h"
 
@@ -22,17 +22,17 @@ namespace ostrane {
 namespace {
 
 [[noreturn]] void refuse(const std::string& what) {
-  throw platform::file_error{platform::file_error_number::device_error,
-                             tool_state.archive_path + " cannot be read as an archive: " + what};
+  throw files::file_error{files::file_error_number::device_error,
+                          tool_state.archive_path + " cannot be read as an archive: " + what};
 }
 
 std::int32_t read_count() {
   std::array<std::byte, count_size> bytes;
   if (file_1.read(bytes) < bytes.size()) refuse("it ends within the number of its records.");
-  const std::int32_t count = platform::int32_at(bytes, 0);
-  if (count < 0 || count > most_records) {
+  const std::int32_t count = files::int32_at(bytes, 0);
+  if (count < 0 || count > max_records) {
     refuse("it gives " + std::to_string(count) +
-           " as the number of its records, which is from 0 to " + std::to_string(most_records) +
+           " as the number of its records, which is from 0 to " + std::to_string(max_records) +
            ".");
   }
   if (file_1.size() < count_size + std::int64_t{record_size} * count) {
@@ -54,8 +54,8 @@ std::vector<dat_record> read_records() {
 }
 
 bool names_the_palette(std::string_view row) {
-  const std::string_view name = platform::trimmed(row);
-  return name.size() == 8 && platform::upper_case(name) == "GAME.PAL";
+  const std::string_view name = files::trimmed(row);
+  return name.size() == 8 && files::upper_case(name) == "GAME.PAL";
 }
 
 void keep_records(const std::vector<dat_record>& records) {
@@ -72,15 +72,15 @@ void keep_records(const std::vector<dat_record>& records) {
 
 // From then on this archive is the open one. If it is not the one before, the icons in view are not
 // of this archive, so there is no next series of them.
-void keep_stamp(const platform::file_stamp& stamp) {
+void keep_stamp(const files::file_stamp& stamp) {
   if (stamp != tool_state.archive_stamp) tool_state.directory_index = -1;
   tool_state.archive_stamp = stamp;
   tool_state.archive_is_open = flag_true;
 }
 
 void read_index() {
-  file_1.open_to_read(platform::on_drives(tool_state.archive_path));
-  const platform::file_stamp stamp = file_1.facts().stamp;
+  file_1.open_to_read(files::on_drives(tool_state.archive_path));
+  const files::file_stamp stamp = file_1.facts().stamp;
   const std::vector<dat_record> records = read_records();
   if (file_1.facts().stamp != stamp) refuse("it was written to meanwhile.");
   file_1.close();
@@ -90,15 +90,15 @@ void read_index() {
 
 // Shows why the index cannot be read.
 bool try_to_read_index() {
-  if (!platform::file_exists(tool_state.archive_path)) {
-    platform::message_box(tool_state.archive_path + " is not found");
+  if (!files::file_exists(tool_state.archive_path)) {
+    forms_layer::message_box(tool_state.archive_path + " is not found");
     return false;
   }
-  const std::string failure = platform::failure_of(read_index);
+  const std::string failure = files::failure_of(read_index);
   if (failure.empty()) return true;
   file_1.close();
   Form1.List1.Clear();
-  platform::message_box(failure);
+  forms_layer::message_box(failure);
   return false;
 }
 
@@ -106,7 +106,7 @@ bool try_to_read_index() {
 
 void read_archive(const std::string& folder) {
   if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
-  tool_state.archive_path = platform::with_separator(folder) + "ostrane.dat";
+  tool_state.archive_path = files::with_separator(folder) + "ostrane.dat";
   tool_state.archive_path_copy = tool_state.archive_path;
   tool_state.archive_is_open = flag_false;
   if (try_to_read_index()) {

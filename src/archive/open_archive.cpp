@@ -1,21 +1,21 @@
 #include "archive/open_archive.h"
 
-#include "platform/file_error.h"
-#include "platform/paths.h"
+#include "files/file_error.h"
+#include "files/paths.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
-void open_archive_file(platform::binary_file& file) {
+void open_archive_file(files::binary_file& file) {
   if (tool_state.archive_is_open == flag_false) {
-    throw platform::file_error{platform::file_error_number::file_not_found,
-                               "No archive is open. Read one first."};
+    throw files::file_error{files::file_error_number::file_not_found,
+                            "No archive is open. Read one first."};
   }
-  file.open_to_read(platform::on_drives(tool_state.archive_path_copy));
+  file.open_to_read(files::on_drives(tool_state.archive_path_copy));
   if (file.facts().stamp == tool_state.archive_stamp) return;
   file.close();
-  throw platform::file_error{
-      platform::file_error_number::device_error,
+  throw files::file_error{
+      files::file_error_number::device_error,
       tool_state.archive_path_copy + " has changed since it was read. Read it again."};
 }
 

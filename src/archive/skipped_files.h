@@ -5,7 +5,8 @@
 
 namespace ostrane {
 
-// Files or entries that a job has to tell of: the first 20 by name and reason, the others by number.
+// Files or entries that a job has to tell of: the first 20 by name and reason, the others by
+// number.
 struct skipped_files {
   std::string named;
   std::int32_t count = 0;

@@ -3,14 +3,14 @@
 #include <cstdlib>
 
 #include "desktop/screen_text.h"
-#include "platform/container.h"
+#include "forms_layer/container.h"
 
 namespace desktop {
 
 namespace {
 
-using platform::control_kind;
-using platform::place;
+using forms_layer::control_kind;
+using forms_layer::place;
 
 constexpr std::int32_t near = 150;  // twips
 
@@ -43,8 +43,8 @@ QString name_of_kind(control_kind kind) {
 
 }  // namespace
 
-QString accessible_name(platform::control& shown) {
-  for (const platform::control* other : shown.parent.controls()) {
+QString accessible_name(forms_layer::control& shown) {
+  for (const forms_layer::control* other : shown.parent.controls()) {
     if (other->kind != control_kind::label) continue;
     const place& label = other->designed.at;
     if (is_beside(label, shown.designed.at) || is_above(label, shown.designed.at)) {

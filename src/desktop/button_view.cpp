@@ -7,7 +7,7 @@
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
 #include "desktop/wrapped_text.h"
-#include "platform/user.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -17,19 +17,19 @@ constexpr int side_margin = 3;
 
 }  // namespace
 
-button_view::button_view(platform::button& shown, QWidget* parent)
+button_view::button_view(forms_layer::button& shown, QWidget* parent)
     : QPushButton(parent), control_view(shown), button_(shown) {
   setFont(font_for(shown.designed.font));
-  connect(this, &QPushButton::clicked, this, [this] { platform::user::click(button_); });
+  connect(this, &QPushButton::clicked, this, [this] { forms_layer::user::click(button_); });
 }
 
 void button_view::show_content() {
-  setText(without_shortcut(with_plain_breaks(to_screen(button_.Caption()))));
+  setText(escape_ampersands(normalize_newlines(to_screen(button_.Caption()))));
 }
 
 void button_view::show_colours() {
-  const platform::colour back = button_.BackColor();
-  const bool as_theme = back == platform::system_button_face;
+  const forms_layer::colour back = button_.BackColor();
+  const bool as_theme = back == forms_layer::system_button_face;
   setPalette(as_theme ? QPalette()
                       : with_colours({}, QPalette::Button, QPalette::ButtonText, back));
 }
@@ -44,7 +44,7 @@ void button_view::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(option.palette.color(QPalette::ButtonText));
   QRect inside = rect().adjusted(side_margin, 0, -side_margin, 0);
   if (isDown()) inside.translate(1, 1);
-  paint_wrapped_in_middle(painter, inside, with_plain_breaks(to_screen(button_.Caption())));
+  paint_wrapped_in_middle(painter, inside, normalize_newlines(to_screen(button_.Caption())));
 }
 
 void button_view::keyPressEvent(QKeyEvent* event) {

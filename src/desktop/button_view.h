@@ -3,14 +3,14 @@
 #include <QPushButton>
 
 #include "desktop/control_view.h"
-#include "platform/button.h"
+#include "forms_layer/button.h"
 
 namespace desktop {
 
 // A push button whose caption wraps, and which Enter presses wherever it stands.
 class button_view : public QPushButton, public control_view {
  public:
-  button_view(platform::button& shown, QWidget* parent);
+  button_view(forms_layer::button& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
  protected:
@@ -20,7 +20,7 @@ class button_view : public QPushButton, public control_view {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  platform::button& button_;
+  forms_layer::button& button_;
 };
 
 }  // namespace desktop

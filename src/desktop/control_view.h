@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/control.h"
+#include "forms_layer/control.h"
 
 namespace desktop {
 
@@ -10,16 +10,16 @@ namespace desktop {
 // were written meanwhile, and tells the tool what the user does to it.
 class control_view {
  public:
-  explicit control_view(platform::control& shown) : control(shown) {}
+  explicit control_view(forms_layer::control& shown) : control(shown) {}
   control_view(const control_view&) = delete;
   control_view& operator=(const control_view&) = delete;
   virtual ~control_view() = default;
 
-  platform::control& control;
+  forms_layer::control& control;
   virtual QWidget& widget() = 0;
 
   // Keeps in mind that a property was written; true if nothing was kept before.
-  bool note(platform::aspect what);
+  bool note(forms_layer::property_id what);
   // Shows all that was noted.
   void catch_up();
   // Shows everything, as for a new widget or a new theme.

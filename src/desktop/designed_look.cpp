@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <cstring>
 
-#include "platform/application.h"
+#include "forms_layer/application.h"
 
 namespace desktop {
 
@@ -18,15 +18,15 @@ int pixels(std::int32_t twips, std::int32_t twips_per_pixel) {
   return twips % twips_per_pixel < 0 ? whole - 1 : whole;
 }
 
-QPalette::ColorRole role_of(platform::colour system_colour) {
-  return system_colour == platform::system_window ? QPalette::Base : QPalette::Window;
+QPalette::ColorRole role_of(forms_layer::colour system_colour) {
+  return system_colour == forms_layer::system_window ? QPalette::Base : QPalette::Window;
 }
 
 bool is_light(const QColor& c) { return qGray(c.rgb()) > 127; }
 
 }  // namespace
 
-QFont font_for(const platform::font_design& designed) {
+QFont font_for(const forms_layer::font_design& designed) {
   QFont font;
   if (std::strcmp(designed.name, "Courier New") == 0) {
     font.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("Cousine"),
@@ -42,19 +42,20 @@ QFont font_for(const platform::font_design& designed) {
   return font;
 }
 
-QColor on_screen(platform::colour c) {
+QColor on_screen(forms_layer::colour c) {
   const QPalette theme = QApplication::palette();
-  if (c == platform::system_light) {
+  if (c == forms_layer::system_light) {
     return between(theme.color(QPalette::Window), theme.color(QPalette::Base));
   }
-  if (platform::is_system_colour(c)) return theme.color(role_of(c));
-  return QColor(static_cast<int>(platform::red_of(c)), static_cast<int>(platform::green_of(c)),
-                static_cast<int>(platform::blue_of(c)));
+  if (forms_layer::is_system_colour(c)) return theme.color(role_of(c));
+  return QColor(static_cast<int>(forms_layer::red_of(c)),
+                static_cast<int>(forms_layer::green_of(c)),
+                static_cast<int>(forms_layer::blue_of(c)));
 }
 
-QColor text_on(platform::colour back) {
+QColor text_on(forms_layer::colour back) {
   const QPalette theme = QApplication::palette();
-  if (platform::is_system_colour(back)) {
+  if (forms_layer::is_system_colour(back)) {
     const bool window = role_of(back) == QPalette::Base;
     return theme.color(QPalette::Active, window ? QPalette::Text : QPalette::WindowText);
   }
@@ -62,7 +63,7 @@ QColor text_on(platform::colour back) {
 }
 
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
-                      platform::colour back) {
+                      forms_layer::colour back) {
   const QColor ground = on_screen(back);
   const QColor text = text_on(back);
   start.setColor(back_role, ground);
@@ -80,12 +81,14 @@ QColor between(const QColor& a, const QColor& b) {
 }
 
 int pixels_across(std::int32_t twips) {
-  return pixels(twips, platform::application.TwipsPerPixelX);
+  return pixels(twips, forms_layer::application.TwipsPerPixelX);
 }
 
-int pixels_down(std::int32_t twips) { return pixels(twips, platform::application.TwipsPerPixelY); }
+int pixels_down(std::int32_t twips) {
+  return pixels(twips, forms_layer::application.TwipsPerPixelY);
+}
 
-QRect place_of(const platform::control& shown) {
+QRect place_of(const forms_layer::control& shown) {
   return QRect(pixels_across(shown.Left()), pixels_down(shown.Top()), pixels_across(shown.Width()),
                pixels_down(shown.Height()));
 }

@@ -5,24 +5,24 @@
 #include <QPalette>
 #include <QRect>
 
-#include "platform/control.h"
+#include "forms_layer/control.h"
 
 // Fonts, colours and places as designed, in terms of the screen.
 namespace desktop {
 
 // An installed font of about the widths of the designed one.
-QFont font_for(const platform::font_design& designed);
+QFont font_for(const forms_layer::font_design& designed);
 
 // A system colour becomes what the theme has for it.
-QColor on_screen(platform::colour c);
+QColor on_screen(forms_layer::colour c);
 
 // The theme's text colour on a system colour; black or white, whichever can be read, on a fixed
 // one.
-QColor text_on(platform::colour back);
+QColor text_on(forms_layer::colour back);
 
 // `start` with `back` and its text colour for a pair of roles, greyed a little when disabled.
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
-                      platform::colour back);
+                      forms_layer::colour back);
 
 // Of a line on `back` round what stands there, to be seen in light and dark themes.
 QColor line_colour(const QColor& back, const QColor& text);
@@ -34,6 +34,6 @@ QColor between(const QColor& a, const QColor& b);
 int pixels_across(std::int32_t twips);
 int pixels_down(std::int32_t twips);
 // In pixels of what the control stands in.
-QRect place_of(const platform::control& shown);
+QRect place_of(const forms_layer::control& shown);
 
 }  // namespace desktop

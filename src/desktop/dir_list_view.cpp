@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/user.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -49,6 +49,6 @@ void dir_list_view::show_content() {
   rows_view::show_content();
 }
 
-void dir_list_view::open(int row) { platform::user::open_folder(folders_, row); }
+void dir_list_view::open(int row) { forms_layer::user::open_folder(folders_, row); }
 
 }  // namespace desktop

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "desktop/rows_view.h"
-#include "platform/dir_list.h"
+#include "forms_layer/dir_list.h"
 
 namespace desktop {
 
 // Folders as a tree. A press only moves the highlight; a double click or Enter opens the folder.
 class dir_list_view : public rows_view {
  public:
-  dir_list_view(platform::dir_list& shown, QWidget* parent)
+  dir_list_view(forms_layer::dir_list& shown, QWidget* parent)
       : rows_view(shown, parent), folders_(shown) {}
 
   std::string_view row_text(int row) const override { return at(row).name; }
@@ -25,12 +25,12 @@ class dir_list_view : public rows_view {
   void enter_pressed(int row) override { open(row); }
 
  private:
-  const platform::dir_list::row& at(int row) const {
+  const forms_layer::dir_list::row& at(int row) const {
     return folders_.rows()[static_cast<std::size_t>(row)];
   }
   void open(int row);
 
-  platform::dir_list& folders_;
+  forms_layer::dir_list& folders_;
   int highlighted_ = 0;
 };
 

@@ -4,18 +4,18 @@
 
 #include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
-#include "platform/events.h"
-#include "platform/user.h"
+#include "forms_layer/events.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
-drive_view::drive_view(platform::drive_list& shown, QWidget* parent)
+drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent)
     : QComboBox(parent), control_view(shown), drives_(shown) {
   setFont(font_for(shown.designed.font));
   connect(this, &QComboBox::activated, this, [this](int row) {
-    platform::user::choose(drives_, row);
+    forms_layer::user::choose(drives_, row);
     // The tool may have gone to another drive than the chosen one.
-    if (!platform::handler_running()) show_selection();
+    if (!forms_layer::handler_running()) show_selection();
   });
 }
 
@@ -27,7 +27,7 @@ void drive_view::show_content() {
 void drive_view::show_selection() { setCurrentIndex(drives_.selected_row()); }
 
 void drive_view::show_colours() {
-  const platform::colour back = drives_.BackColor();
+  const forms_layer::colour back = drives_.BackColor();
   const QPalette list = with_colours({}, QPalette::Base, QPalette::Text, back);
   setPalette(with_colours(list, QPalette::Button, QPalette::ButtonText, back));
 }

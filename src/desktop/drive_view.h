@@ -3,14 +3,14 @@
 #include <QComboBox>
 
 #include "desktop/control_view.h"
-#include "platform/drive_list.h"
+#include "forms_layer/drive_list.h"
 
 namespace desktop {
 
 // A drop-down list of the drives.
 class drive_view : public QComboBox, public control_view {
  public:
-  drive_view(platform::drive_list& shown, QWidget* parent);
+  drive_view(forms_layer::drive_list& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
  protected:
@@ -20,7 +20,7 @@ class drive_view : public QComboBox, public control_view {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  platform::drive_list& drives_;
+  forms_layer::drive_list& drives_;
 };
 
 }  // namespace desktop

@@ -18,7 +18,7 @@ void take_all_but_user_input() {
 
 }  // namespace
 
-void send_pixels_without_waiting() {
+void disable_shared_memory() {
   constexpr const char* setting = "QT_XCB_NO_MITSHM";
   if (!qEnvironmentVariableIsSet(setting)) qputenv(setting, "1");
 }
@@ -31,7 +31,7 @@ void wait_until_exposed(QWindow& shown) {
   }
 }
 
-void answer_window_system() {
+void pump_window_events() {
   static QElapsedTimer since_last;
   if (since_last.isValid() && since_last.elapsed() < answer_after_milliseconds) return;
   take_all_but_user_input();

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "desktop/rows_view.h"
-#include "platform/file_list.h"
-#include "platform/user.h"
+#include "forms_layer/file_list.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
 // Names of files; choosing one selects it.
 class file_list_view : public rows_view {
  public:
-  file_list_view(platform::file_list& shown, QWidget* parent)
+  file_list_view(forms_layer::file_list& shown, QWidget* parent)
       : rows_view(shown, parent), files_(shown) {}
 
   std::string_view row_text(int row) const override { return files_.List(row); }
@@ -17,10 +17,10 @@ class file_list_view : public rows_view {
 
  protected:
   int selected_row() const override { return files_.ListIndex(); }
-  void row_chosen(int row) override { platform::user::select_file(files_, row); }
+  void row_chosen(int row) override { forms_layer::user::select_file(files_, row); }
 
  private:
-  platform::file_list& files_;
+  forms_layer::file_list& files_;
 };
 
 }  // namespace desktop

@@ -11,21 +11,21 @@
 #include "desktop/exposure.h"
 #include "desktop/screen_text.h"
 #include "desktop/window_place.h"
-#include "platform/application.h"
-#include "platform/user.h"
+#include "forms_layer/application.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
 namespace {
 
-Qt::WindowFlags flags_for(const platform::form_design& designed) {
+Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
   if (designed.control_box) return Qt::Window;
   return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
 }
 
 }  // namespace
 
-form_window::form_window(platform::form& shown, views& all_views)
+form_window::form_window(forms_layer::form& shown, views& all_views)
     : QWidget(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
   setFont(font_for({}));
   if (!form.menus.empty()) menus_ = new menu_bar(form, this);
@@ -68,14 +68,14 @@ void form_window::lay_out() {
 void form_window::resizeEvent(QResizeEvent* /*event*/) {
   lay_out();
   if (!isVisible()) return;
-  platform::user::resize(form, client_->width() * platform::application.TwipsPerPixelX,
-                         client_->height() * platform::application.TwipsPerPixelY);
+  forms_layer::user::resize(form, client_->width() * forms_layer::application.TwipsPerPixelX,
+                            client_->height() * forms_layer::application.TwipsPerPixelY);
 }
 
 // Whether the window goes is for the tool to say.
 void form_window::closeEvent(QCloseEvent* event) {
   event->ignore();
-  platform::user::close(form);
+  forms_layer::user::close(form);
 }
 
 void form_window::changeEvent(QEvent* event) {
@@ -86,7 +86,7 @@ void form_window::changeEvent(QEvent* event) {
 // Keys that no control had use for.
 void form_window::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Refresh)) {
-    platform::user::read_anew(form);
+    forms_layer::user::reload(form);
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -129,7 +129,7 @@ void form_window::show_caption() {
   setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
 }
 
-void form_window::show_menu_item(const platform::menu_item& item) {
+void form_window::show_menu_item(const forms_layer::menu_item& item) {
   if (menus_ != nullptr) menus_->show_item(item);
 }
 

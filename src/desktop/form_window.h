@@ -6,16 +6,16 @@
 #include "desktop/menu_bar.h"
 #include "desktop/surface.h"
 #include "desktop/views.h"
-#include "platform/form.h"
+#include "forms_layer/form.h"
 
 namespace desktop {
 
 // The window of one form: the menu bar if it has menus, and beneath it the client area.
 class form_window : public QWidget {
  public:
-  form_window(platform::form& shown, views& all_views);
+  form_window(forms_layer::form& shown, views& all_views);
 
-  platform::form& form;
+  forms_layer::form& form;
 
   // Brings the window up over `owner` (null: over nothing). It goes to its place as designed the
   // first time, later to where it was. Over `centre_of` it centres if it is so designed.
@@ -23,7 +23,7 @@ class form_window : public QWidget {
   void go_away();
   void take_focus();
   void show_caption();
-  void show_menu_item(const platform::menu_item& item);
+  void show_menu_item(const forms_layer::menu_item& item);
 
   // Paints what waits to be painted, now. The first time since the window came up, it is waited
   // until the window is on the screen, for a moment at most.

@@ -15,7 +15,7 @@ constexpr int caption_margin = 2;
 
 }  // namespace
 
-frame_view::frame_view(platform::frame& shown, QWidget* parent)
+frame_view::frame_view(forms_layer::frame& shown, QWidget* parent)
     : surface(shown, parent), control_view(shown), frame_(shown) {
   setFont(font_for(shown.designed.font));
 }

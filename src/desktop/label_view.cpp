@@ -10,11 +10,11 @@
 #include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
-#include "platform/user.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
-label_view::label_view(platform::label& shown, QWidget* parent)
+label_view::label_view(forms_layer::label& shown, QWidget* parent)
     : QLabel(parent), control_view(shown), label_(shown) {
   setTextFormat(Qt::PlainText);
   setFont(font_for(shown.designed.font));
@@ -25,7 +25,7 @@ label_view::label_view(platform::label& shown, QWidget* parent)
 }
 
 void label_view::show_content() {
-  const QString caption = with_plain_breaks(to_screen(label_.Caption()));
+  const QString caption = normalize_newlines(to_screen(label_.Caption()));
   const int old_top = text_top();
   const wrapped_text::band changed = lines_.set(
       caption, font(), label_.designed.centred ? Qt::AlignHCenter : Qt::AlignLeft, width());
@@ -65,12 +65,12 @@ void label_view::paintEvent(QPaintEvent* event) {
 
 void label_view::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-  platform::user::click(label_);
+  forms_layer::user::click(label_);
 }
 
 void label_view::keyPressEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat() && (is_enter(*event) || event->key() == Qt::Key_Space)) {
-    platform::user::click(label_);
+    forms_layer::user::click(label_);
   } else {
     QLabel::keyPressEvent(event);
   }

@@ -4,14 +4,14 @@
 
 #include "desktop/control_view.h"
 #include "desktop/wrapped_text.h"
-#include "platform/label.h"
+#include "forms_layer/label.h"
 
 namespace desktop {
 
 // Wraps where the tool's labels wrap. One that answers a click answers Enter and Space too.
 class label_view : public QLabel, public control_view {
  public:
-  label_view(platform::label& shown, QWidget* parent);
+  label_view(forms_layer::label& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
  protected:
@@ -27,7 +27,7 @@ class label_view : public QLabel, public control_view {
  private:
   int text_top() const;
 
-  platform::label& label_;
+  forms_layer::label& label_;
   wrapped_text lines_;
   bool focus_by_key_ = false;
 };

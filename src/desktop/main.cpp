@@ -6,8 +6,8 @@
 #include "desktop/exposure.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
+#include "files/paths.h"
 #include "handlers/start_up.h"
-#include "platform/paths.h"
 
 namespace {
 
@@ -25,14 +25,14 @@ void set_program_icon() {
 
 int main(int argc, char** argv) {
   if (desktop::answer_command_line(argc, argv)) return 0;
-  desktop::send_pixels_without_waiting();
+  desktop::disable_shared_memory();
   const QApplication application(argc, argv);
   desktop::set_up_application();
   set_program_icon();
   desktop::qt_screen screen;
-  platform::attach_screen(&screen);
+  forms_layer::attach_screen(&screen);
   ostrane::begin_tool(desktop::program_folder());
   const int outcome = QApplication::exec();
-  platform::attach_screen(nullptr);
+  forms_layer::attach_screen(nullptr);
   return outcome;
 }

@@ -5,7 +5,7 @@
 
 #include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
-#include "platform/user.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -17,39 +17,39 @@ QString with_shortcut(const std::string& caption, QString& taken) {
     const QChar letter = text[at].toUpper();
     if (!letter.isLetter() || taken.contains(letter)) continue;
     taken += letter;
-    return without_shortcut(text.left(at)) + QLatin1Char('&') + without_shortcut(text.mid(at));
+    return escape_ampersands(text.left(at)) + QLatin1Char('&') + escape_ampersands(text.mid(at));
   }
-  return without_shortcut(text);
+  return escape_ampersands(text);
 }
 
 }  // namespace
 
-menu_bar::menu_bar(platform::form& shown, QWidget* window) : QMenuBar(window) {
+menu_bar::menu_bar(forms_layer::form& shown, QWidget* window) : QMenuBar(window) {
   setNativeMenuBar(false);
   QString taken;
-  for (const platform::menu* m : shown.menus) add(*m, with_shortcut(m->Caption, taken));
+  for (const forms_layer::menu* m : shown.menus) add(*m, with_shortcut(m->Caption, taken));
   auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), window);
   connect(f10, &QShortcut::activated, this, [this] { open_first(); });
 }
 
-void menu_bar::add(const platform::menu& shown, const QString& caption) {
+void menu_bar::add(const forms_layer::menu& shown, const QString& caption) {
   QMenu* column = addMenu(caption);
   // A desktop may have a font of its own for menus.
   column->setFont(font_for({}));
   QString taken;
-  for (platform::menu_item* item : shown.items) {
+  for (forms_layer::menu_item* item : shown.items) {
     if (item->is_separator()) {
       column->addSeparator();
       continue;
     }
     QAction* action = column->addAction(with_shortcut(item->Caption, taken));
-    connect(action, &QAction::triggered, this, [item] { platform::user::click(*item); });
+    connect(action, &QAction::triggered, this, [item] { forms_layer::user::click(*item); });
     actions_[item] = action;
     show_item(*item);
   }
 }
 
-void menu_bar::show_item(const platform::menu_item& item) {
+void menu_bar::show_item(const forms_layer::menu_item& item) {
   const auto at = actions_.find(&item);
   if (at != actions_.end()) at->second->setEnabled(item.Enabled());
 }

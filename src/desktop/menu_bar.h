@@ -4,7 +4,7 @@
 #include <QMenuBar>
 #include <unordered_map>
 
-#include "platform/form.h"
+#include "forms_layer/form.h"
 
 namespace desktop {
 
@@ -12,15 +12,15 @@ namespace desktop {
 // shortcut, with Alt in the bar and alone in an open menu; F10 opens the first menu.
 class menu_bar : public QMenuBar {
  public:
-  menu_bar(platform::form& shown, QWidget* window);
+  menu_bar(forms_layer::form& shown, QWidget* window);
 
-  void show_item(const platform::menu_item& item);
+  void show_item(const forms_layer::menu_item& item);
 
  private:
-  void add(const platform::menu& shown, const QString& caption);
+  void add(const forms_layer::menu& shown, const QString& caption);
   void open_first();
 
-  std::unordered_map<const platform::menu_item*, QAction*> actions_;
+  std::unordered_map<const forms_layer::menu_item*, QAction*> actions_;
 };
 
 }  // namespace desktop

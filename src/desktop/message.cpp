@@ -28,7 +28,7 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
   box.setFont(font_for({}));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_screen(title));
-  box.setText(with_plain_breaks(to_screen(text), true));
+  box.setText(normalize_newlines(to_screen(text), true));
   widen(box);
   box.setStandardButtons(QMessageBox::Ok);
   box.show();

@@ -12,11 +12,11 @@ namespace desktop {
 
 namespace {
 
-using platform::picture_box;
+using forms_layer::picture_box;
 
-QRgb as_rgb(platform::colour c) {
-  return 0xFF000000U | platform::red_of(c) << 16U | platform::green_of(c) << 8U |
-         platform::blue_of(c);
+QRgb as_rgb(forms_layer::colour c) {
+  return 0xFF000000U | forms_layer::red_of(c) << 16U | forms_layer::green_of(c) << 8U |
+         forms_layer::blue_of(c);
 }
 
 void paint_border(QPainter& painter, const QRect& place, const QColor& colour) {
@@ -33,7 +33,7 @@ const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QR
   rows.resize(static_cast<std::size_t>(part.width()) * static_cast<std::size_t>(part.height()));
   QRgb* to = rows.data();
   for (int y = part.top(); y <= part.bottom(); ++y) {
-    const platform::colour* from =
+    const forms_layer::colour* from =
         box.pixels() + static_cast<std::ptrdiff_t>(y) * box.columns() + part.left();
     for (int x = 0; x < part.width(); ++x) {
       *to++ = from[x] == picture_box::unset ? ground : as_rgb(from[x]);

@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-progress_view::progress_view(platform::progress_bar& shown, QWidget* parent)
+progress_view::progress_view(forms_layer::progress_bar& shown, QWidget* parent)
     : QProgressBar(parent), control_view(shown), bar_(shown) {
   setTextVisible(false);
   setAttribute(Qt::WA_OpaquePaintEvent);

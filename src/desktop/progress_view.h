@@ -3,7 +3,7 @@
 #include <QProgressBar>
 
 #include "desktop/control_view.h"
-#include "platform/progress_bar.h"
+#include "forms_layer/progress_bar.h"
 
 namespace desktop {
 
@@ -11,7 +11,7 @@ namespace desktop {
 // times.
 class progress_view : public QProgressBar, public control_view {
  public:
-  progress_view(platform::progress_bar& shown, QWidget* parent);
+  progress_view(forms_layer::progress_bar& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
  protected:
@@ -22,7 +22,7 @@ class progress_view : public QProgressBar, public control_view {
  private:
   int filled_width() const;
 
-  platform::progress_bar& bar_;
+  forms_layer::progress_bar& bar_;
   int painted_ = 0;  // pixels that are filled on the screen
 };
 

@@ -8,7 +8,7 @@
 
 #include "desktop/exposure.h"
 #include "desktop/message.h"
-#include "platform/events.h"
+#include "forms_layer/events.h"
 
 namespace desktop {
 
@@ -16,31 +16,31 @@ qt_screen::qt_screen() { qApp->installEventFilter(&gate_); }
 
 qt_screen::~qt_screen() = default;
 
-void qt_screen::control_changed(platform::control& changed, platform::aspect what) {
+void qt_screen::control_changed(forms_layer::control& changed, forms_layer::property_id what) {
   if (views_.note(changed, what)) catch_up_soon();
 }
 
-void qt_screen::form_changed(platform::form& changed, platform::aspect what) {
-  if (what == platform::aspect::focus) takes_focus_ = &changed;
+void qt_screen::form_changed(forms_layer::form& changed, forms_layer::property_id what) {
+  if (what == forms_layer::property_id::focus) takes_focus_ = &changed;
   noted_forms_.push_back(&changed);
   catch_up_soon();
 }
 
-void qt_screen::menu_changed(platform::form& owner, platform::menu_item& changed) {
+void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& changed) {
   if (form_window* window = window_of(owner)) window->show_menu_item(changed);
 }
 
-void qt_screen::timer_changed(platform::timer& changed) { timers_.follow(changed); }
+void qt_screen::timer_changed(forms_layer::timer& changed) { timers_.follow(changed); }
 
-void qt_screen::refresh(platform::form& shown) {
+void qt_screen::refresh(forms_layer::form& shown) {
   catch_up();
   form_window* window = window_of(shown);
   if (window == nullptr) return;
-  if (platform::handler_running()) answer_window_system();
+  if (forms_layer::handler_running()) pump_window_events();
   window->paint_now();
 }
 
-void qt_screen::refresh(platform::control& shown) { refresh(shown.owner_form()); }
+void qt_screen::refresh(forms_layer::control& shown) { refresh(shown.owner_form()); }
 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   catch_up();
@@ -50,7 +50,7 @@ void qt_screen::message_box(const std::string& title, const std::string& text) {
 // Nothing is open and nothing is to be saved.
 void qt_screen::end_process() { std::_Exit(EXIT_SUCCESS); }
 
-form_window* qt_screen::window_of(const platform::form& shown) const {
+form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   const auto at = windows_.find(&shown);
   return at == windows_.end() ? nullptr : at->second.get();
 }
@@ -67,21 +67,21 @@ void qt_screen::catch_up_soon() {
 void qt_screen::catch_up() {
   views_.catch_up();
   if (!noted_forms_.empty()) catch_up_forms();
-  if (!platform::handler_running()) give_focus();
+  if (!forms_layer::handler_running()) give_focus();
 }
 
 // What comes is shown before what goes is hidden, so that the user never sees nothing at all.
 void qt_screen::catch_up_forms() {
-  const std::vector<platform::form*> noted = std::exchange(noted_forms_, {});
-  for (platform::form* form : noted) {
+  const std::vector<forms_layer::form*> noted = std::exchange(noted_forms_, {});
+  for (forms_layer::form* form : noted) {
     if (form->Visible()) show_window(*form);
   }
-  for (platform::form* form : noted) {
+  for (forms_layer::form* form : noted) {
     if (!form->Visible()) hide_window(*form);
   }
 }
 
-void qt_screen::show_window(platform::form& shown) {
+void qt_screen::show_window(forms_layer::form& shown) {
   form_window& window = made_window(shown);
   window.show_caption();
   if (window.isVisible()) return;
@@ -89,10 +89,10 @@ void qt_screen::show_window(platform::form& shown) {
   if (main_ == nullptr) main_ = &window;
   on_screen_.push_back(&window);
   window.come_up(owner == nullptr ? nullptr : owner->windowHandle(), main_,
-                 !platform::handler_running());
+                 !forms_layer::handler_running());
 }
 
-void qt_screen::hide_window(platform::form& shown) {
+void qt_screen::hide_window(forms_layer::form& shown) {
   form_window* window = window_of(shown);
   if (window == nullptr) return;
   window->show_caption();
@@ -109,17 +109,17 @@ void qt_screen::hide_window(platform::form& shown) {
   if (was_active && next != nullptr) next->take_focus();
 }
 
-form_window& qt_screen::made_window(platform::form& shown) {
+form_window& qt_screen::made_window(forms_layer::form& shown) {
   std::unique_ptr<form_window>& window = windows_[&shown];
   if (window == nullptr) {
     window = std::make_unique<form_window>(shown, views_);
-    for (platform::timer* timer : shown.timers) timers_.follow(*timer);
+    for (forms_layer::timer* timer : shown.timers) timers_.follow(*timer);
   }
   return *window;
 }
 
 // The latest window shown whose form stays, other than `but`'s.
-form_window* qt_screen::topmost(const platform::form* but) const {
+form_window* qt_screen::topmost(const forms_layer::form* but) const {
   const auto stays = [but](const form_window* w) { return &w->form != but && w->form.Visible(); };
   const auto at = std::find_if(on_screen_.rbegin(), on_screen_.rend(), stays);
   return at == on_screen_.rend() ? nullptr : *at;

@@ -10,7 +10,7 @@
 #include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
-#include "platform/events.h"
+#include "forms_layer/events.h"
 
 namespace desktop {
 
@@ -20,7 +20,7 @@ constexpr int text_margin = 2;
 
 }  // namespace
 
-rows_view::rows_view(platform::control& shown, QWidget* parent)
+rows_view::rows_view(forms_layer::control& shown, QWidget* parent)
     : QListView(parent), control_view(shown), model_(*this), painter_(*this) {
   setFont(font_for(shown.designed.font));
   setModel(&model_);
@@ -35,7 +35,7 @@ int rows_view::row_height() const { return fontMetrics().height() + 1; }
 
 void rows_view::show_content() {
   width_ = widest_row();
-  model_.read_anew();
+  model_.reload();
 }
 
 void rows_view::show_selection() {
@@ -54,7 +54,7 @@ void rows_view::show_colours() {
 
 void rows_view::choose(int row) {
   row_chosen(row);
-  if (!platform::handler_running()) show_selection();
+  if (!forms_layer::handler_running()) show_selection();
 }
 
 void rows_view::mousePressEvent(QMouseEvent* event) {
@@ -108,7 +108,7 @@ int rows_view::widest_row() const {
   return widest + 2 * text_margin;
 }
 
-void rows_view::rows_model::read_anew() {
+void rows_view::rows_model::reload() {
   beginResetModel();
   count_ = view_.row_count();
   endResetModel();

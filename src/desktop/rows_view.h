@@ -13,7 +13,7 @@ namespace desktop {
 // The rows are read from the control as they come into sight, so that long lists cost nothing.
 class rows_view : public QListView, public control_view {
  public:
-  rows_view(platform::control& shown, QWidget* parent);
+  rows_view(forms_layer::control& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
 
   // The text in the tool's code page.
@@ -45,7 +45,7 @@ class rows_view : public QListView, public control_view {
   class rows_model : public QAbstractListModel {
    public:
     explicit rows_model(const rows_view& view) : view_(view) {}
-    void read_anew();
+    void reload();
     int rowCount(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 

@@ -2,7 +2,7 @@
 
 #include <QTextDocument>
 
-#include "platform/code_page.h"
+#include "files/code_page.h"
 
 namespace desktop {
 
@@ -13,20 +13,18 @@ constexpr qsizetype longest_plain_tool_tip = 90;
 
 }  // namespace
 
-QString to_screen(std::string_view text) { return QString::fromStdString(platform::to_utf8(text)); }
+QString to_screen(std::string_view text) { return QString::fromStdString(files::to_utf8(text)); }
 
-std::string from_screen(const QString& text) {
-  return platform::from_utf8_or_marks(text.toStdString());
-}
+std::string from_screen(const QString& text) { return files::from_utf8_lossy(text.toStdString()); }
 
-QString with_plain_breaks(QString text, bool pairs_turned) {
+QString normalize_newlines(QString text, bool pairs_turned) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   if (pairs_turned) text.replace(QLatin1String("\n\r"), QLatin1String("\n"));
   text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   return text;
 }
 
-QString without_shortcut(QString caption) {
+QString escape_ampersands(QString caption) {
   return caption.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 

@@ -13,10 +13,10 @@ QString to_screen(std::string_view text);
 std::string from_screen(const QString& text);
 
 // With "\n" for each CR LF, CR and LF, and with `pairs_turned` for each LF CR as well.
-QString with_plain_breaks(QString text, bool pairs_turned = false);
+QString normalize_newlines(QString text, bool pairs_turned = false);
 
 // For captions in which Qt would take "&" for the mark of a shortcut.
-QString without_shortcut(QString caption);
+QString escape_ampersands(QString caption);
 
 // Never taken for markup; a long text is broken into lines.
 QString as_tool_tip(const std::string& text);

@@ -14,8 +14,8 @@
 #include "desktop/keys.h"
 #include "desktop/picture_painter.h"
 #include "desktop/screen_text.h"
-#include "platform/picture_array.h"
-#include "platform/user.h"
+#include "forms_layer/picture_array.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -24,8 +24,8 @@ namespace {
 // A region of many rectangles costs more than the painting that it saves.
 constexpr int most_damaged_parts = 40;
 
-void double_click(const platform::picture_box& box) {
-  if (box.array != nullptr) platform::user::double_click(*box.array, box.Index);
+void double_click(const forms_layer::picture_box& box) {
+  if (box.array != nullptr) forms_layer::user::double_click(*box.array, box.Index);
 }
 
 // The cursor goes round a picture: over its border and a pixel outside.
@@ -42,11 +42,11 @@ void paint_cursor(QPainter& painter, const QRect& place, const QColor& colour) {
 
 }  // namespace
 
-surface::surface(platform::container& shown, QWidget* parent) : QWidget(parent) {
+surface::surface(forms_layer::container& shown, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  for (platform::control* control : shown.controls()) {
-    if (control->kind != platform::control_kind::picture_box) continue;
-    note(static_cast<platform::picture_box&>(*control));
+  for (forms_layer::control* control : shown.controls()) {
+    if (control->kind != forms_layer::control_kind::picture_box) continue;
+    note(static_cast<forms_layer::picture_box&>(*control));
   }
   catch_up_pictures();
   const auto answers = [](const picture& p) {
@@ -55,14 +55,14 @@ surface::surface(platform::container& shown, QWidget* parent) : QWidget(parent) 
   if (std::any_of(pictures_.begin(), pictures_.end(), answers)) setFocusPolicy(Qt::TabFocus);
 }
 
-bool surface::note(platform::picture_box& box) {
+bool surface::note(forms_layer::picture_box& box) {
   picture& noted = find_or_add(box);
   if (std::exchange(noted.noted, true)) return false;
   noted_.push_back(static_cast<std::size_t>(&noted - pictures_.data()));
   return noted_.size() == 1;
 }
 
-surface::picture& surface::find_or_add(platform::picture_box& box) {
+surface::picture& surface::find_or_add(forms_layer::picture_box& box) {
   const auto [at, is_new] = places_.try_emplace(&box, pictures_.size());
   if (is_new) pictures_.push_back({&box, {}, false});
   return pictures_[at->second];
@@ -76,7 +76,7 @@ void surface::catch_up_pictures() {
 void surface::catch_up(picture& p) {
   p.noted = false;
   const QRect place = p.box->Visible() ? place_of(*p.box) : QRect();
-  const platform::pixel_area painted = p.box->take_damage();
+  const forms_layer::pixel_area painted = p.box->consume_damage();
   if (place != p.place) {
     const bool under_cursor = &p == &pictures_[cursor_] && hasFocus();
     if (under_cursor) damage_cursor();
@@ -84,7 +84,7 @@ void surface::catch_up(picture& p) {
     damage(place);
     if (under_cursor) damage_cursor();
   } else if (!place.isNull() && !painted.empty()) {
-    const int border = platform::picture_box::border;
+    const int border = forms_layer::picture_box::border;
     damage(QRect(place.left() + border + painted.left, place.top() + border + painted.top,
                  painted.right - painted.left, painted.bottom - painted.top));
   }

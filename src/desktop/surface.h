@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/container.h"
-#include "platform/picture_box.h"
+#include "forms_layer/container.h"
+#include "forms_layer/picture_box.h"
 
 namespace desktop {
 
@@ -16,15 +16,15 @@ namespace desktop {
 // Space do what a double click does.
 class surface : public QWidget {
  public:
-  surface(platform::container& shown, QWidget* parent);
+  surface(forms_layer::container& shown, QWidget* parent);
 
   // Keeps in mind that a picture box on it was written; true if nothing was kept before.
-  bool note(platform::picture_box& box);
+  bool note(forms_layer::picture_box& box);
   // Asks for the painting of what was noted.
   void catch_up_pictures();
 
  protected:
-  virtual platform::colour ground() const { return platform::system_button_face; }
+  virtual forms_layer::colour ground() const { return forms_layer::system_button_face; }
   virtual void paint_over_ground(QPainter& /*painter*/, const QRect& /*dirty*/) {}
 
   void paintEvent(QPaintEvent* event) override;
@@ -36,12 +36,12 @@ class surface : public QWidget {
 
  private:
   struct picture {
-    platform::picture_box* box;
+    forms_layer::picture_box* box;
     QRect place;  // as on the screen; null while the box is hidden
     bool noted;
   };
 
-  picture& find_or_add(platform::picture_box& box);
+  picture& find_or_add(forms_layer::picture_box& box);
   void catch_up(picture& p);
   void damage(const QRect& part);
   const picture* picture_at(const QPoint& position) const;
@@ -49,7 +49,7 @@ class surface : public QWidget {
   void damage_cursor();
 
   std::vector<picture> pictures_;  // from back to front
-  std::unordered_map<const platform::picture_box*, std::size_t> places_;
+  std::unordered_map<const forms_layer::picture_box*, std::size_t> places_;
   std::vector<std::size_t> noted_;
   std::size_t cursor_ = 0;  // index in pictures_
   QRegion damage_;

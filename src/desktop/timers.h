@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <map>
 
-#include "platform/timer.h"
+#include "forms_layer/timer.h"
 
 namespace desktop {
 
@@ -12,10 +12,10 @@ class timers {
  public:
   // Goes by what the timer's properties are now. A running one keeps its pace unless its interval
   // is another one now.
-  void follow(platform::timer& written);
+  void follow(forms_layer::timer& written);
 
  private:
-  std::map<platform::timer*, QTimer> running_;
+  std::map<forms_layer::timer*, QTimer> running_;
 };
 
 }  // namespace desktop

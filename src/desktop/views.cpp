@@ -11,32 +11,32 @@ namespace desktop {
 
 namespace {
 
-bool has_caption(const platform::control& shown) {
-  return shown.kind == platform::control_kind::frame ||
-         shown.kind == platform::control_kind::label ||
-         shown.kind == platform::control_kind::button;
+bool has_caption(const forms_layer::control& shown) {
+  return shown.kind == forms_layer::control_kind::frame ||
+         shown.kind == forms_layer::control_kind::label ||
+         shown.kind == forms_layer::control_kind::button;
 }
 
 }  // namespace
 
-void views::make_all(platform::container& shown, surface& ground) {
+void views::make_all(forms_layer::container& shown, surface& ground) {
   grounds_[&shown] = &ground;
-  for (platform::control* control : shown.controls()) {
+  for (forms_layer::control* control : shown.controls()) {
     control_view* view = make_view(*control, &ground);
     if (view == nullptr) continue;
     all_.push_back(view);
     by_control_[control] = view;
     view->show_all();
     if (!has_caption(*control)) view->widget().setAccessibleName(accessible_name(*control));
-    if (control->kind == platform::control_kind::frame) {
-      make_all(static_cast<platform::frame&>(*control), static_cast<frame_view&>(*view));
+    if (control->kind == forms_layer::control_kind::frame) {
+      make_all(static_cast<forms_layer::frame&>(*control), static_cast<frame_view&>(*view));
     }
   }
 }
 
-bool views::note(platform::control& written, platform::aspect what) {
-  if (written.kind == platform::control_kind::picture_box) {
-    return note_picture(static_cast<platform::picture_box&>(written));
+bool views::note(forms_layer::control& written, forms_layer::property_id what) {
+  if (written.kind == forms_layer::control_kind::picture_box) {
+    return note_picture(static_cast<forms_layer::picture_box&>(written));
   }
   const auto at = by_control_.find(&written);
   if (at == by_control_.end() || !at->second->note(what)) return false;
@@ -44,7 +44,7 @@ bool views::note(platform::control& written, platform::aspect what) {
   return true;
 }
 
-bool views::note_picture(platform::picture_box& box) {
+bool views::note_picture(forms_layer::picture_box& box) {
   const auto at = grounds_.find(&box.parent);
   if (at == grounds_.end() || !at->second->note(box)) return false;
   noted_grounds_.push_back(at->second);
@@ -60,7 +60,7 @@ void views::show_all() {
   for (control_view* view : all_) view->show_all();
 }
 
-std::vector<QWidget*> views::in_tab_order(const platform::form& shown) const {
+std::vector<QWidget*> views::in_tab_order(const forms_layer::form& shown) const {
   std::vector<control_view*> in_order;
   for (control_view* view : all_) {
     if (&view->control.owner_form() == &shown) in_order.push_back(view);

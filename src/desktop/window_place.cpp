@@ -13,10 +13,10 @@ constexpr int title_height = 24;
 
 }  // namespace
 
-QPoint first_place(const QWidget& window, const platform::form_design& designed,
+QPoint first_place(const QWidget& window, const forms_layer::form_design& designed,
                    const QWidget* owner) {
   const bool over_owner = owner != nullptr && owner != &window &&
-                          designed.opens == platform::start_position::owner_centre;
+                          designed.opens == forms_layer::start_position::owner_centre;
   const QScreen* screen = over_owner ? owner->screen() : window.screen();
   const QRect free = screen->availableGeometry();
   QRect place(QPoint(0, 0), window.size() + QSize(0, title_height));

@@ -5,95 +5,98 @@
 namespace ostrane {
 
 // The main window: the entries on the left, what they hold on the right. Lengths are twips.
-struct form1 : platform::form {
+struct form1 : forms_layer::form {
   form1()
       : form({.name = "Form1",
               .client_width = 9330,
               .client_height = 6690,
               .control_box = true,
               .resizable = true,
-              .opens = platform::start_position::screen_centre}) {}
+              .opens = forms_layer::start_position::screen_centre}) {}
 
-  platform::list_box List1{*this,
-                           {.name = "List1",
-                            .at = {0, 735, 1695, 5715},
-                            .tab_index = 0,
-                            .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
-                            .back_color = pale_green}};
-  platform::text_box Text1{*this,
-                           {.name = "Text1",
-                            .at = {945, 420, 750, 285},
-                            .tab_index = 1,
-                            .tool_tip = "Displays the number of files in your Ostrane.dat file.",
-                            .back_color = platform::system_menu,
-                            .locked = true}};
-  platform::label Label1{
+  forms_layer::list_box List1{
+      *this,
+      {.name = "List1",
+       .at = {0, 735, 1695, 5715},
+       .tab_index = 0,
+       .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
+       .back_color = pale_green}};
+  forms_layer::text_box Text1{*this,
+                              {.name = "Text1",
+                               .at = {945, 420, 750, 285},
+                               .tab_index = 1,
+                               .tool_tip = "Displays the number of files in your Ostrane.dat file.",
+                               .back_color = forms_layer::system_menu,
+                               .locked = true}};
+  forms_layer::label Label1{
       *this, {.name = "Label1", .at = {0, 420, 855, 255}, .tab_index = 2, .text = "# of files:"}};
-  platform::frame Frame1{
+  forms_layer::frame Frame1{
       *this, {.name = "Frame1", .at = {1800, 0, 7455, 6570}, .tab_index = 3, .text = "Icon View"}};
-  platform::picture_array s16_image{Frame1,
-                                    {.name = "s16_image",
-                                     .at = {240, 840, 100, 100},
-                                     .tab_index = 4,
-                                     .tool_tip = icon_tool_tip,
-                                     .visible = false}};
-  platform::button Command3{
+  forms_layer::picture_array s16_image{Frame1,
+                                       {.name = "s16_image",
+                                        .at = {240, 840, 100, 100},
+                                        .tab_index = 4,
+                                        .tool_tip = icon_tool_tip,
+                                        .visible = false}};
+  forms_layer::button Command3{
       Frame1,
       {.name = "Command3",
        .at = {1680, 240, 855, 255},
        .tab_index = 5,
        .text = "Prev icon",
        .tool_tip = "Click to get the previous picture in the selected s16-file"}};
-  platform::label Label2{Frame1,
-                         {.name = "Label2",
-                          .at = {120, 240, 1455, 375},
-                          .tab_index = 6,
-                          .text = "Tot # of Icon in s16"}};
-  platform::text_box Text2{Frame1,
-                           {.name = "Text2",
-                            .at = {120, 480, 1455, 285},
-                            .tab_index = 7,
-                            .tool_tip = "Displays the number of pictures in the selected s16-file",
-                            .back_color = platform::system_menu,
-                            .locked = true,
-                            .centred = true}};
-  platform::label Label3{Frame1,
-                         {.name = "Label3",
-                          .at = {2640, 240, 1575, 255},
-                          .tab_index = 8,
-                          .text = "Displayed picture #"}};
-  platform::text_box Text3{Frame1,
-                           {.name = "Text3",
-                            .at = {2640, 480, 1335, 285},
-                            .tab_index = 9,
-                            .tool_tip = "Displays the current picture-number in the s16-file.",
-                            .back_color = platform::system_menu,
-                            .locked = true,
-                            .centred = true}};
-  platform::text_box Text4{
+  forms_layer::label Label2{Frame1,
+                            {.name = "Label2",
+                             .at = {120, 240, 1455, 375},
+                             .tab_index = 6,
+                             .text = "Tot # of Icon in s16"}};
+  forms_layer::text_box Text2{
+      Frame1,
+      {.name = "Text2",
+       .at = {120, 480, 1455, 285},
+       .tab_index = 7,
+       .tool_tip = "Displays the number of pictures in the selected s16-file",
+       .back_color = forms_layer::system_menu,
+       .locked = true,
+       .centred = true}};
+  forms_layer::label Label3{Frame1,
+                            {.name = "Label3",
+                             .at = {2640, 240, 1575, 255},
+                             .tab_index = 8,
+                             .text = "Displayed picture #"}};
+  forms_layer::text_box Text3{Frame1,
+                              {.name = "Text3",
+                               .at = {2640, 480, 1335, 285},
+                               .tab_index = 9,
+                               .tool_tip = "Displays the current picture-number in the s16-file.",
+                               .back_color = forms_layer::system_menu,
+                               .locked = true,
+                               .centred = true}};
+  forms_layer::text_box Text4{
       Frame1,
       {.name = "Text4",
        .at = {5040, 480, 615, 285},
        .tab_index = 10,
        .tool_tip = "Type in the interval between display of pictures. (* 1/100 seconds)",
-       .back_color = platform::system_window,
+       .back_color = forms_layer::system_window,
        .max_length = 2}};
-  platform::button Command4{Frame1,
-                            {.name = "Command4",
-                             .at = {1680, 480, 855, 255},
-                             .tab_index = 11,
-                             .text = "Next icon",
-                             .tool_tip = "Click to get the next picture in the selected s16-file"}};
-  platform::button Command5{Frame1,
-                            {.name = "Command5",
-                             .at = {4080, 240, 855, 495},
-                             .tab_index = 12,
-                             .text = "Start motion",
-                             .tool_tip = "Click here to get these icons animated."}};
-  platform::label Label4{
+  forms_layer::button Command4{
+      Frame1,
+      {.name = "Command4",
+       .at = {1680, 480, 855, 255},
+       .tab_index = 11,
+       .text = "Next icon",
+       .tool_tip = "Click to get the next picture in the selected s16-file"}};
+  forms_layer::button Command5{Frame1,
+                               {.name = "Command5",
+                                .at = {4080, 240, 855, 495},
+                                .tab_index = 12,
+                                .text = "Start motion",
+                                .tool_tip = "Click here to get these icons animated."}};
+  forms_layer::label Label4{
       Frame1,
       {.name = "Label4", .at = {5040, 240, 855, 255}, .tab_index = 13, .text = "1/100 sec"}};
-  platform::button Command6{
+  forms_layer::button Command6{
       Frame1,
       {.name = "Command6",
        .at = {6120, 240, 1095, 495},
@@ -101,7 +104,7 @@ struct form1 : platform::form {
        .text = "Next series",
        .tool_tip = "Click here to get the next series of icons displayed from the selected "
                    "s16-file."}};
-  platform::text_box Text5{
+  forms_layer::text_box Text5{
       *this,
       {.name = "Text5",
        .at = {960, 105, 735, 285},
@@ -109,31 +112,31 @@ struct form1 : platform::form {
        .tool_tip = "Type the maximum number of icons you want displayed at one time.( If you want "
                    "too many, you might crash due to memory problems, 128MB RAM has a max of about "
                    "300)",
-       .back_color = platform::system_window,
+       .back_color = forms_layer::system_window,
        .max_length = 3}};
-  platform::label Label5{
+  forms_layer::label Label5{
       *this, {.name = "Label5", .at = {0, 105, 855, 255}, .tab_index = 16, .text = "Max icons:"}};
-  platform::text_box Text6{Frame1,
-                           {.name = "Text6",
-                            .at = {120, 840, 7095, 5535},
-                            .tab_index = 17,
-                            .back_color = platform::system_window,
-                            .multi_line = true}};
+  forms_layer::text_box Text6{Frame1,
+                              {.name = "Text6",
+                               .at = {120, 840, 7095, 5535},
+                               .tab_index = 17,
+                               .back_color = forms_layer::system_window,
+                               .multi_line = true}};
 
-  platform::timer Timer1{*this, "Timer1", 500, true};
+  forms_layer::timer Timer1{*this, "Timer1", 500, true};
 
-  platform::menu mnu_file{*this, "mnu_file", "File"};
-  platform::menu_item mnu_open{mnu_file, "mnu_open", "Open"};
-  platform::menu_item mnu_slash{mnu_file, "mnu_slash", ""};
-  platform::menu_item mnu_exit{mnu_file, "mnu_exit", "Exit"};
-  platform::menu mnu_imp{*this, "mnu_imp", "Import/export"};
-  platform::menu_item mnu_ext{mnu_imp, "mnu_ext", "Extract Ostrane.dat Files"};
-  platform::menu_item mnu_make{mnu_imp, "mnu_make", "Make Ostrane.dat"};
-  platform::menu mnu_rep{*this, "mnu_rep", "Reports"};
-  platform::menu_item mnu_save{mnu_rep, "mnu_save", "Save filelist as \"s16list.txt\""};
-  platform::menu_item mnu_skillin3{mnu_rep, "mnu_skillin3", ""};
-  platform::menu_item mnu_read_filelist{mnu_rep, "mnu_read_filelist",
-                                        "Compare current Ostrane.dat with \"s16list.txt\""};
+  forms_layer::menu mnu_file{*this, "mnu_file", "File"};
+  forms_layer::menu_item mnu_open{mnu_file, "mnu_open", "Open"};
+  forms_layer::menu_item mnu_slash{mnu_file, "mnu_slash", ""};
+  forms_layer::menu_item mnu_exit{mnu_file, "mnu_exit", "Exit"};
+  forms_layer::menu mnu_imp{*this, "mnu_imp", "Import/export"};
+  forms_layer::menu_item mnu_ext{mnu_imp, "mnu_ext", "Extract Ostrane.dat Files"};
+  forms_layer::menu_item mnu_make{mnu_imp, "mnu_make", "Make Ostrane.dat"};
+  forms_layer::menu mnu_rep{*this, "mnu_rep", "Reports"};
+  forms_layer::menu_item mnu_save{mnu_rep, "mnu_save", "Save filelist as \"s16list.txt\""};
+  forms_layer::menu_item mnu_skillin3{mnu_rep, "mnu_skillin3", ""};
+  forms_layer::menu_item mnu_read_filelist{mnu_rep, "mnu_read_filelist",
+                                           "Compare current Ostrane.dat with \"s16list.txt\""};
 };
 
 extern form1 Form1;

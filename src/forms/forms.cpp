@@ -14,20 +14,20 @@ form6 Form6;
 namespace {
 
 template <typename Form>
-void make_afresh(Form& window) {
+void reset(Form& window) {
   std::destroy_at(&window);
   std::construct_at(&window);
 }
 
 }  // namespace
 
-void make_forms_afresh() {
-  make_afresh(Form1);
-  make_afresh(Form2);
-  make_afresh(Form3);
-  make_afresh(Form4);
-  make_afresh(Form5);
-  make_afresh(Form6);
+void reset_forms() {
+  reset(Form1);
+  reset(Form2);
+  reset(Form3);
+  reset(Form4);
+  reset(Form5);
+  reset(Form6);
 }
 
 }  // namespace ostrane

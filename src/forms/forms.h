@@ -10,6 +10,6 @@
 namespace ostrane {
 
 // All forms as designed, as a new process has them: nothing shown, nothing wired.
-void make_forms_afresh();
+void reset_forms();
 
 }  // namespace ostrane

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <string>
 
+#include "files/code_page.h"
+#include "files/text.h"
 #include "forms/form1.h"
+#include "forms_layer/message_box.h"
 #include "icons/series.h"
 #include "icons/slots.h"
 #include "lists/icon_names.h"
 #include "lists/text_view.h"
 #include "palette/palette_view.h"
-#include "platform/code_page.h"
-#include "platform/message_box.h"
-#include "platform/text.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -21,15 +21,15 @@ namespace {
 std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex()); }
 
 std::string extension_of(const std::string& row) {
-  return platform::lower_case(platform::last_characters(platform::trimmed(row), 4));
+  return files::lower_case(files::last_characters(files::trimmed(row), 4));
 }
 
 bool is_text(const std::string& row) {
-  return extension_of(row) == ".txt" || platform::trimmed(row) == "000DATUP.000";
+  return extension_of(row) == ".txt" || files::trimmed(row) == "000DATUP.000";
 }
 
-void say_that_kind_is_unknown(const std::string& row) {
-  platform::message_box("This is not a shp image, I haven't got to display this yet... " + row);
+void report_unknown_kind(const std::string& row) {
+  forms_layer::message_box("This is not a shp image, I haven't got to display this yet... " + row);
 }
 
 void draw_first_series() {
@@ -62,7 +62,7 @@ void show_clicked_entry() {
     Form1.Text6.Visible = true;
     show_text_entry();
   } else {
-    say_that_kind_is_unknown(row);
+    report_unknown_kind(row);
   }
   add_description(row);
   Form1.Refresh();
@@ -72,7 +72,7 @@ void show_double_clicked_entry() {
   const std::string row = selected_row();
   if (extension_of(row) == ".pal") return;
   if (extension_of(row) != ".shp") {
-    say_that_kind_is_unknown(row);
+    report_unknown_kind(row);
     return;
   }
   Form1.Text2.Text = "";

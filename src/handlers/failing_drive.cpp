@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/file_error.h"
-#include "platform/message_box.h"
+#include "files/file_error.h"
+#include "forms_layer/message_box.h"
 
 namespace ostrane {
 
@@ -18,8 +18,8 @@ recovery running = recovery::none;
 
 using step = std::function<void()>;
 
-void say_that_drive_fails(const std::string& drive) {
-  platform::message_box(
+void report_failing_drive(const std::string& drive) {
+  forms_layer::message_box(
       "You are trying to access a Drive that isn't responding.\n\rDrive in error: >" + drive +
       "<\n\rCheck that the Drive is working properly, and has a Diskette or CD-ROM inserted. Then "
       "try again.");
@@ -29,13 +29,13 @@ bool works(const step& tried) {
   try {
     tried();
     return true;
-  } catch (const platform::file_error&) {
+  } catch (const files::file_error&) {
     return false;
   }
 }
 
-void recover(platform::drive_list& Drive1, platform::dir_list& Dir1) {
-  say_that_drive_fails(Drive1.Drive());
+void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
+  report_failing_drive(Drive1.Drive());
   running = recovery::to_drive_c;
   works([&] { Drive1.Drive = "C"; });
   if (!works([&] { Dir1.Path = "C:\\"; })) {
@@ -45,7 +45,8 @@ void recover(platform::drive_list& Drive1, platform::dir_list& Dir1) {
   running = recovery::none;
 }
 
-void follow(platform::drive_list& Drive1, platform::dir_list& Dir1, platform::file_list* File1) {
+void follow(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+            forms_layer::file_list* File1) {
   if (running == recovery::back) return;
   bool recovered = running != recovery::none;
   const auto run_step = [&](const step& tried) {
@@ -59,12 +60,12 @@ void follow(platform::drive_list& Drive1, platform::dir_list& Dir1, platform::fi
 
 }  // namespace
 
-void follow_drive(platform::drive_list& Drive1, platform::dir_list& Dir1) {
+void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
   follow(Drive1, Dir1, nullptr);
 }
 
-void follow_drive(platform::drive_list& Drive1, platform::dir_list& Dir1,
-                  platform::file_list& File1) {
+void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+                   forms_layer::file_list& File1) {
   follow(Drive1, Dir1, &File1);
 }
 

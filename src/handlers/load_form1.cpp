@@ -1,12 +1,12 @@
 #include "handlers/load_form1.h"
 
+#include "files/file_error.h"
 #include "forms/forms.h"
+#include "forms_layer/application.h"
 #include "handlers/main_window.h"
 #include "icons/slots.h"
 #include "lists/icon_names.h"
 #include "palette/palette_store.h"
-#include "platform/application.h"
-#include "platform/file_error.h"
 #include "state/tool_state.h"
 #include "state/version.h"
 
@@ -20,7 +20,7 @@ constexpr std::int16_t max_icons_at_start = 300;
 void send_form2_to_drive_c() {
   try {
     Form2.Dir1.Path = "C:\\";
-  } catch (const platform::file_error&) {
+  } catch (const files::file_error&) {
     // The dialog opens in the current folder then.
   }
 }
@@ -33,7 +33,7 @@ void load_first_slots() {
 
 void load_form1() {
   tool_state.program_title = std::string("Ostrane.dat-tool - ") + version;
-  tool_state.app_path = platform::application.Path;
+  tool_state.app_path = forms_layer::application.Path;
   tool_state.max_icons = max_icons_at_start;
   Form1.Caption = tool_state.program_title;
   Form1.Text5.Text = std::to_string(tool_state.max_icons);
@@ -43,8 +43,8 @@ void load_form1() {
   set_default_palette();
   read_iconlist();
   load_first_slots();
-  tool_state.twips_per_pixel_x = static_cast<std::int16_t>(platform::application.TwipsPerPixelX);
-  tool_state.twips_per_pixel_y = static_cast<std::int16_t>(platform::application.TwipsPerPixelY);
+  tool_state.twips_per_pixel_x = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelX);
+  tool_state.twips_per_pixel_y = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelY);
   Form1.mnu_ext.Enabled = false;
   Form1.mnu_make.Enabled = true;
   Form1.mnu_save.Enabled = false;

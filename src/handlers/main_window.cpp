@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "files/text.h"
 #include "forms/form1.h"
-#include "platform/text.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -24,7 +24,7 @@ constexpr std::int32_t too_narrow = 2500;
 
 // Whole, halves to the nearest even one; nothing for what 16 bits cannot hold.
 std::optional<std::int16_t> as_16_bits(const std::string& text) {
-  const std::optional<double> number = platform::as_number(text);
+  const std::optional<double> number = files::as_number(text);
   if (!number) return std::nullopt;
   const double whole = std::nearbyint(*number);
   if (whole < INT16_MIN || whole > INT16_MAX) return std::nullopt;
@@ -46,7 +46,7 @@ void lay_out_main_window() {
 }
 
 void check_pace() {
-  if (!platform::as_number(Form1.Text4.Text())) Form1.Text4.Text = pace_at_start;
+  if (!files::as_number(Form1.Text4.Text())) Form1.Text4.Text = pace_at_start;
 }
 
 void check_max_icons() {

@@ -1,23 +1,23 @@
 #include "handlers/start_up.h"
 
 #include "forms/forms.h"
+#include "forms_layer/application.h"
+#include "forms_layer/events.h"
 #include "handlers/out_of_memory.h"
 #include "handlers/wiring.h"
-#include "platform/application.h"
-#include "platform/events.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 void begin_tool(const std::filesystem::path& program_folder) {
-  platform::begin_process();
-  platform::application.Title = "Ostrane.dat-tool";
-  platform::application.Path = program_folder;
-  platform::application.OutOfMemory = recover_from_lack_of_memory;
-  make_state_afresh();
-  make_forms_afresh();
+  forms_layer::begin_process();
+  forms_layer::application.Title = "Ostrane.dat-tool";
+  forms_layer::application.Path = program_folder;
+  forms_layer::application.OutOfMemory = recover_from_lack_of_memory;
+  reset_state();
+  reset_forms();
   wire_forms();
-  platform::run_event([] {
+  forms_layer::run_event([] {
     Form1.Load();
     Form1.Visible = true;
   });

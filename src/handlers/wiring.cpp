@@ -4,17 +4,17 @@
 #include "archive/extraction.h"
 #include "archive/new_folder.h"
 #include "forms/forms.h"
+#include "forms_layer/application.h"
 #include "handlers/entry_selection.h"
 #include "handlers/failing_drive.h"
 #include "handlers/load_form1.h"
 #include "handlers/main_window.h"
-#include "handlers/window_hand_over.h"
+#include "handlers/window_switching.h"
 #include "icons/icon_report.h"
 #include "icons/motion.h"
 #include "icons/series.h"
 #include "lists/compare.h"
 #include "lists/saved_file_list.h"
-#include "platform/application.h"
 
 namespace ostrane {
 
@@ -22,9 +22,9 @@ namespace {
 
 void wire_form1() {
   Form1.Load = load_form1;
-  Form1.Unload = platform::end_process;
+  Form1.Unload = forms_layer::end_process;
   Form1.Resize = lay_out_main_window;
-  Form1.mnu_exit.Click = platform::end_process;
+  Form1.mnu_exit.Click = forms_layer::end_process;
   Form1.mnu_open.Click = open_form2;
   Form1.mnu_ext.Click = open_form4;
   Form1.mnu_make.Click = open_form5;
@@ -43,10 +43,10 @@ void wire_form1() {
 }
 
 void wire_form2() {
-  Form2.Drive1.Change = [] { follow_drive(Form2.Drive1, Form2.Dir1); };
+  Form2.Drive1.Change = [] { sync_to_drive(Form2.Drive1, Form2.Dir1); };
   Form2.Dir1.Change = [] { Form2.File1.Path = Form2.Dir1.Path(); };
   Form2.Command1.Click = read_archive_of_form2;
-  Form2.Command2.Click = [] { give_up_over_form1(Form2); };
+  Form2.Command2.Click = [] { cancel_overlay(Form2); };
 }
 
 void wire_form3() {
@@ -59,7 +59,7 @@ void wire_form3() {
 
 // Change of the folder of `Form4` and `Form5`.
 template <typename Form>
-void follow_folder(Form& dialog) {
+void sync_to_folder(Form& dialog) {
   dialog.File1.Path = dialog.Dir1.Path();
   dialog.Text1.Text = dialog.Dir1.Path();
   dialog.Dir1.Refresh();
@@ -67,26 +67,26 @@ void follow_folder(Form& dialog) {
 }
 
 void wire_form4() {
-  Form4.Drive1.Change = [] { follow_drive(Form4.Drive1, Form4.Dir1, Form4.File1); };
-  Form4.Dir1.Change = [] { follow_folder(Form4); };
+  Form4.Drive1.Change = [] { sync_to_drive(Form4.Drive1, Form4.Dir1, Form4.File1); };
+  Form4.Dir1.Change = [] { sync_to_folder(Form4); };
   Form4.Command1.Click = make_new_folder;
   Form4.Command2.Click = extract_all_entries;
-  Form4.Command3.Click = [] { give_up_in_place_of_form1(Form4); };
+  Form4.Command3.Click = [] { cancel_replacement(Form4); };
 }
 
 void wire_form5() {
-  Form5.Drive1.Change = [] { follow_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
-  Form5.Dir1.Change = [] { follow_folder(Form5); };
+  Form5.Drive1.Change = [] { sync_to_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
+  Form5.Dir1.Change = [] { sync_to_folder(Form5); };
   Form5.Command1.Click = make_archive;
-  Form5.Command2.Click = [] { give_up_in_place_of_form1(Form5); };
+  Form5.Command2.Click = [] { cancel_replacement(Form5); };
 }
 
 void wire_form6() {
-  Form6.Drive1.Change = [] { follow_drive(Form6.Drive1, Form6.Dir1); };
+  Form6.Drive1.Change = [] { sync_to_drive(Form6.Drive1, Form6.Dir1); };
   Form6.Dir1.Change = [] { Form6.File1.Path = Form6.Dir1.Path(); };
   Form6.File1.Click = [] { Form6.Text1.Text = Form6.File1.FileName(); };
   Form6.Command1.Click = compare_with_shiplist;
-  Form6.Command2.Click = [] { give_up_over_form1(Form6); };
+  Form6.Command2.Click = [] { cancel_overlay(Form6); };
 }
 
 }  // namespace

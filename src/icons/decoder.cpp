@@ -12,10 +12,10 @@ namespace ostrane {
 namespace {
 
 // Far behind every slot, and far enough from the end of the numbers for one more step.
-constexpr std::int32_t rightmost = std::numeric_limits<std::int32_t>::max() - 1024;
+constexpr std::int32_t column_limit = std::numeric_limits<std::int32_t>::max() - 1024;
 
 void move_right(std::int32_t columns) {
-  if (tool_state.cur_col < rightmost) tool_state.cur_col += columns;
+  if (tool_state.cur_col < column_limit) tool_state.cur_col += columns;
 }
 
 void end_row() {
@@ -28,7 +28,7 @@ void skip() {
   move_right(tool_state.stream_byte);
 }
 
-void paint_run(platform::picture_box& slot) {
+void paint_run(forms_layer::picture_box& slot) {
   tool_state.run_length = static_cast<std::int16_t>(tool_state.stream_byte / 2);
   take_stream_byte();
   if (tool_state.stream_ended == flag_true) return;
@@ -38,7 +38,7 @@ void paint_run(platform::picture_box& slot) {
 }
 
 // Colours for the pixels whose palette indices come next in the buffer.
-void paint_buffered_literals(platform::picture_box& slot, std::int32_t count) {
+void paint_buffered_literals(forms_layer::picture_box& slot, std::int32_t count) {
   const std::byte* index =
       tool_state.read_buffer.data() + static_cast<std::size_t>(tool_state.read_buffer_pos);
   slot.PSet(tool_state.cur_col, tool_state.cur_row, count, [index](std::size_t number) {
@@ -49,7 +49,7 @@ void paint_buffered_literals(platform::picture_box& slot, std::int32_t count) {
   move_right(count);
 }
 
-void paint_literals(platform::picture_box& slot) {
+void paint_literals(forms_layer::picture_box& slot) {
   tool_state.run_length = static_cast<std::int16_t>((tool_state.stream_byte - 1) / 2);
   for (std::int32_t left = tool_state.run_length; left > 0;) {
     const std::int32_t count = std::min(left, bytes_at_hand());
@@ -63,7 +63,7 @@ void paint_literals(platform::picture_box& slot) {
 }
 
 // Carries out `stream_byte`, taking its operands from the stream.
-void decode_stream_op(platform::picture_box& slot) {
+void decode_stream_op(forms_layer::picture_box& slot) {
   if (tool_state.stream_byte == 0) {
     end_row();
   } else if (tool_state.stream_byte == 1) {
@@ -78,7 +78,7 @@ void decode_stream_op(platform::picture_box& slot) {
 }  // namespace
 
 void decode_icon() {
-  platform::picture_box& slot = Form1.s16_image(tool_state.current_slot);
+  forms_layer::picture_box& slot = Form1.s16_image(tool_state.current_slot);
   tool_state.cur_row = tool_state.icon_header.row_start;
   tool_state.cur_col = tool_state.icon_header.col_start;
   tool_state.stream_ended = flag_false;

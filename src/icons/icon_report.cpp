@@ -3,10 +3,10 @@
 #include <string>
 
 #include "archive/format.h"
+#include "files/code_page.h"
+#include "files/text.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
-#include "platform/code_page.h"
-#include "platform/text.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
@@ -15,8 +15,8 @@ namespace ostrane {
 namespace {
 
 bool is_icon_file(const dat_record& record) {
-  const std::string name = platform::upper_case(name_with_blanks(record.name));
-  return platform::last_characters(name, 4) == ".SHP";
+  const std::string name = files::upper_case(name_with_blanks(record.name));
+  return files::last_characters(name, 4) == ".SHP";
 }
 
 std::string report_line(const char* label, std::int64_t number) {
@@ -41,7 +41,7 @@ std::string icon_report(std::int32_t Index, const dat_record& entry) {
 
 void show_icon_report(std::int32_t Index) {
   const std::int32_t selected = Form1.List1.ListIndex();
-  if (selected < 0 || Index < 1 || Index > most_slots) return;
+  if (selected < 0 || Index < 1 || Index > max_slots) return;
   const dat_record& entry = tool_state.dat_index[static_cast<std::size_t>(selected)];
   if (!is_icon_file(entry)) return;
   Form3.Visible = true;

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <string>
 
+#include "files/text.h"
 #include "forms/form1.h"
-#include "icons/grid.h"
-#include "platform/text.h"
+#include "icons/slot_grid.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
@@ -18,7 +18,7 @@ constexpr double longest_interval = 65535;  // milliseconds
 constexpr std::int32_t interval_at_no_number = 100;
 
 std::int32_t interval_in_milliseconds() {
-  const double hundredths = platform::as_number(Form1.Text4.Text()).value_or(0);
+  const double hundredths = files::as_number(Form1.Text4.Text()).value_or(0);
   if (hundredths <= 0) return interval_at_no_number;
   const double milliseconds = std::nearbyint(std::min(hundredths * 10, longest_interval));
   return std::max(1, static_cast<std::int32_t>(milliseconds));

@@ -1,7 +1,7 @@
 #include "icons/reset_icon_view.h"
 
 #include "forms/form1.h"
-#include "icons/grid.h"
+#include "icons/slot_grid.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -13,7 +13,7 @@ void reset_icon_view() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
     Form1.s16_image(slot).Visible = false;
     Form1.s16_image(slot).Cls();
-    Form1.s16_image(slot).BackColor = platform::system_button_face;
+    Form1.s16_image(slot).BackColor = forms_layer::system_button_face;
   }
   Form1.Text3.Text = "";
   tool_state.browse_ready = flag_false;

@@ -3,16 +3,16 @@
 #include <string>
 
 #include "archive/open_archive.h"
+#include "files/failure.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
+#include "forms_layer/message_box.h"
 #include "icons/decoder.h"
 #include "icons/place_icon_slot.h"
 #include "icons/reset_icon_view.h"
 #include "icons/show_working_message.h"
 #include "icons/shp_reader.h"
 #include "icons/slots.h"
-#include "platform/failure.h"
-#include "platform/message_box.h"
 #include "state/files.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -39,12 +39,12 @@ bool slot_size_is_good() {
 }
 
 void size_slot() {
-  platform::picture_box& slot = Form1.s16_image(tool_state.current_slot);
+  forms_layer::picture_box& slot = Form1.s16_image(tool_state.current_slot);
   slot.Height = slot_height();
   slot.Width = slot_width();
 }
 
-void stop_behind_last_icon() {
+void stop_after_last_icon() {
   if (tool_state.icon_number == tool_state.shp_head.icon_count) tool_state.series_full = flag_true;
 }
 
@@ -60,8 +60,8 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
-void refuse_icon(icon_outcome outcome) {
-  const bool box_is_bad = outcome == icon_outcome::refused;
+void refuse_icon(icon_kind outcome) {
+  const bool box_is_bad = outcome == icon_kind::refused;
   if (box_is_bad && tool_state.refusals_told < max_refusals_told) {
     ++tool_state.refusals_told;
     report_refused_icon(tool_state.refusals_told == max_refusals_told);
@@ -70,14 +70,14 @@ void refuse_icon(icon_outcome outcome) {
     report_refused_icon(false);
   }
   ++tool_state.next_icon;
-  stop_behind_last_icon();
+  stop_after_last_icon();
 }
 
 void draw_icon() {
-  const icon_outcome outcome = judge_icon(tool_state.icon_header);
-  if (outcome == icon_outcome::refused || !slot_size_is_good()) {
+  const icon_kind outcome = classify_icon(tool_state.icon_header);
+  if (outcome == icon_kind::refused || !slot_size_is_good()) {
     refuse_icon(outcome);
-  } else if (outcome == icon_outcome::drawable) {
+  } else if (outcome == icon_kind::drawable) {
     draw_drawable_icon();
   } else {
     show_blank_icon();
@@ -104,7 +104,7 @@ void draw_from_archive() {
   }
 }
 
-void draw_behind_working_message() {
+void draw_under_working_message() {
   show_working_message();
   draw_shp_series();
   Form3.Visible = false;
@@ -123,7 +123,7 @@ void show_shp_series() {
   Form3.ProgressBar2.Visible = false;
   Form3.Label1.Visible = false;
   Form3.Label2.Visible = false;
-  draw_behind_working_message();
+  draw_under_working_message();
 }
 
 void show_next_series() {
@@ -136,16 +136,16 @@ void show_next_series() {
   tool_state.current_slot = 0;
   tool_state.series_next_icon = 0;
   Form3.Visible = true;
-  draw_behind_working_message();
+  draw_under_working_message();
 }
 
 void draw_shp_series() {
   tool_state.series_first_icon = tool_state.next_icon;
   tool_state.size_was_told = flag_false;
   tool_state.refusals_told = 0;
-  const std::string failure = platform::failure_of(draw_from_archive);
+  const std::string failure = files::failure_of(draw_from_archive);
   if (!failure.empty()) {
-    platform::message_box(failure);
+    forms_layer::message_box(failure);
     if (tool_state.directory_read == flag_false) tool_state.shp_head = {};
   }
   file_1.close();

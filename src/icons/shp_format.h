@@ -24,7 +24,7 @@ namespace ostrane {
 constexpr std::size_t shp_head_size = 8;
 constexpr std::size_t shp_dir_entry_size = 8;
 constexpr std::size_t icon_head_size = 24;
-constexpr std::int32_t most_icons = 5000;
+constexpr std::int32_t max_icons_per_file = 5000;
 
 struct shp_head {
   std::int32_t icon_count = 0;
@@ -44,15 +44,15 @@ struct icon_head {
 };
 
 // From the bytes in the file. Any bytes give numbers; whether they make sense is for the reader and
-// for judge_icon to see.
+// for classify_icon to see.
 shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes);
 shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes);
 icon_head decode_icon_head(std::span<const std::byte, icon_head_size> bytes);
 
-enum class icon_outcome { drawable, refused, blank };
+enum class icon_kind { drawable, refused, blank };
 
 // Drawable if the data box ends inside the picture, refused if only its end lies outside, blank if
 // its start does.
-icon_outcome judge_icon(const icon_head& head);
+icon_kind classify_icon(const icon_head& head);
 
 }  // namespace ostrane

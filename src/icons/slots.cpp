@@ -29,7 +29,7 @@ void shrink_slot(std::int32_t slot) {
 void clear_slots_for_icons() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
     Form1.s16_image(slot).ToolTipText = icon_tool_tip;
-    Form1.s16_image(slot).BackColor = platform::system_button_face;
+    Form1.s16_image(slot).BackColor = forms_layer::system_button_face;
     shrink_slot(slot);
   }
 }

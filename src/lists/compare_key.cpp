@@ -1,12 +1,10 @@
 #include "lists/compare_key.h"
 
-#include "platform/code_page.h"
-#include "platform/text.h"
+#include "files/code_page.h"
+#include "files/text.h"
 
 namespace ostrane {
 
-std::string compare_key(std::string_view name) {
-  return platform::upper_case(platform::trimmed(name));
-}
+std::string compare_key(std::string_view name) { return files::upper_case(files::trimmed(name)); }
 
 }  // namespace ostrane

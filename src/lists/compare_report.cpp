@@ -1,9 +1,9 @@
 #include "lists/compare_report.h"
 
+#include "files/paths.h"
+#include "files/text_file.h"
 #include "forms/form1.h"
 #include "lists/compare_key.h"
-#include "platform/paths.h"
-#include "platform/text_file.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
@@ -28,19 +28,19 @@ void step_ship(walk_position& at) {
   at.ship_key = there ? compare_key(tool_state.shiplist_lines[line]) : "";
 }
 
-void write_list_row(platform::text_writer& report, walk_position& at) {
+void write_list_row(files::text_writer& report, walk_position& at) {
   const std::string number = std::to_string(at.i);
   const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
   report.write_line(indent + number + " " + at.list_key);
   step_list(at);
 }
 
-void write_ship_row(platform::text_writer& report, walk_position& at) {
+void write_ship_row(files::text_writer& report, walk_position& at) {
   report.write_line(std::string(20, ' ') + at.ship_key);
   step_ship(at);
 }
 
-void write_head(platform::text_writer& report) {
+void write_head(files::text_writer& report) {
   const std::int32_t lines = tool_state.shiplist_last + 1;
   if (tool_state.record_count != lines) {
     report.write_line("Different number of Icons:");
@@ -58,18 +58,18 @@ void write_head(platform::text_writer& report) {
 
 // Writes the names that are less than the other side's present one, first of the archive, then of
 // the shiplist. The bound of the first run takes in the end record.
-void write_lesser_names(platform::text_writer& report, walk_position& at) {
+void write_smaller_names(files::text_writer& report, walk_position& at) {
   while (at.i < tool_state.record_count && at.list_key < at.ship_key) write_list_row(report, at);
   while (at.j < tool_state.shiplist_last && at.list_key > at.ship_key) write_ship_row(report, at);
 }
 
-void walk(platform::text_writer& report) {
+void walk(files::text_writer& report) {
   walk_position at;
   tool_state.shiplist_walk_done = flag_false;
   step_list(at);
   step_ship(at);
   while (tool_state.shiplist_walk_done == flag_false) {
-    write_lesser_names(report, at);
+    write_smaller_names(report, at);
     // Both sides step on, whether or not their names agree now.
     step_list(at);
     step_ship(at);
@@ -84,7 +84,7 @@ void walk(platform::text_writer& report) {
 }  // namespace
 
 void write_compare_report() {
-  platform::text_writer report(platform::on_drives(compare_report_path));
+  files::text_writer report(files::on_drives(compare_report_path));
   write_head(report);
   walk(report);
   report.close();

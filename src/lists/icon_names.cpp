@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "files/case_insensitive_lookup.h"
+#include "files/failure.h"
+#include "files/text.h"
+#include "files/text_file.h"
 #include "lists/compare_key.h"
-#include "platform/case_blind.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "platform/text_file.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -17,15 +17,15 @@ namespace {
 icon_name_pair pair_of(std::string_view line) {
   const std::size_t separator = line.find(';');
   if (separator == std::string_view::npos) return {};
-  return {.name = std::string(platform::trimmed(line.substr(0, separator))),
-          .description = std::string(platform::trimmed(line.substr(separator + 1)))};
+  return {.name = std::string(files::trimmed(line.substr(0, separator))),
+          .description = std::string(files::trimmed(line.substr(separator + 1)))};
 }
 
 void read_rows() {
-  platform::text_reader reader(
-      {platform::find_in_folder(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
+  files::text_reader reader(
+      {files::find_in_folder(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
   std::vector<icon_name_pair>& rows = tool_state.icon_names;
-  while (!reader.at_end() && rows.size() <= most_icon_names) {
+  while (!reader.at_end() && rows.size() <= max_icon_names) {
     rows.push_back(pair_of(reader.read_line()));
   }
 }
@@ -35,7 +35,7 @@ void read_rows() {
 void read_iconlist() {
   tool_state.icon_names.assign(1, {});
   // The descriptions are an extra: without a file, or with a part of it, the tool works too.
-  platform::failure_of(read_rows);
+  files::failure_of(read_rows);
   if (tool_state.icon_names.size() < 2) tool_state.icon_names.resize(2);
   tool_state.icon_name_count = static_cast<std::int16_t>(tool_state.icon_names.size() - 1);
 }

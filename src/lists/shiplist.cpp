@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
+#include "files/file_error.h"
+#include "files/paths.h"
+#include "files/text_file.h"
 #include "lists/compare_key.h"
-#include "platform/file_error.h"
-#include "platform/paths.h"
-#include "platform/text_file.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
 
-constexpr std::size_t most_lines = 32768;
+constexpr std::size_t max_lines = 32768;
 
 // The first characters of a line's key as two numbers, which are less where the characters are:
 // names are told apart by them without a look at the lines.
@@ -46,13 +46,13 @@ int difference(const place_in_order& a, const place_in_order& b) {
 }  // namespace
 
 void read_shiplist(const std::string& path) {
-  platform::text_reader reader(platform::on_drives(path));
+  files::text_reader reader(files::on_drives(path));
   std::vector<std::string> lines;
-  lines.reserve(most_lines);
+  lines.reserve(max_lines);
   while (!reader.at_end()) {
-    if (lines.size() == most_lines) {
-      throw platform::file_error{platform::file_error_number::device_error,
-                                 path + " has more than " + std::to_string(most_lines) + " lines."};
+    if (lines.size() == max_lines) {
+      throw files::file_error{files::file_error_number::device_error,
+                              path + " has more than " + std::to_string(max_lines) + " lines."};
     }
     lines.push_back(reader.read_line());
   }

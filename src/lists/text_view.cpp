@@ -5,10 +5,10 @@
 
 #include "archive/entry_bounds.h"
 #include "archive/open_archive.h"
+#include "files/failure.h"
 #include "forms/form1.h"
+#include "forms_layer/message_box.h"
 #include "icons/show_working_message.h"
-#include "platform/failure.h"
-#include "platform/message_box.h"
 #include "state/files.h"
 #include "state/tool_state.h"
 
@@ -53,10 +53,10 @@ void show_text_entry() {
   Form1.Text6.Text = "";
   show_working_message();
   std::string told;
-  const std::string failure = platform::failure_of([&] { told = show_text(offset); });
+  const std::string failure = files::failure_of([&] { told = show_text(offset); });
   file_1.close();
   if (!failure.empty()) told = failure;
-  if (!told.empty()) platform::message_box(told);
+  if (!told.empty()) forms_layer::message_box(told);
 }
 
 }  // namespace ostrane

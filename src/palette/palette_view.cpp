@@ -3,7 +3,7 @@
 #include <string>
 
 #include "forms/form1.h"
-#include "icons/grid.h"
+#include "icons/slot_grid.h"
 #include "icons/slots.h"
 #include "state/sign_column_text.h"
 #include "state/tool_state.h"
@@ -12,7 +12,7 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int16_t swatches_a_row = 16;
+constexpr std::int16_t swatches_per_row = 16;
 // Lengths in twips.
 constexpr std::int32_t swatch_width = 400;
 constexpr std::int32_t swatch_height = 260;
@@ -35,7 +35,7 @@ std::string swatch_tool_tip(std::size_t index) {
 }
 
 void show_swatch(std::size_t index) {
-  platform::picture_box& swatch = Form1.s16_image(static_cast<std::int32_t>(index) + 1);
+  forms_layer::picture_box& swatch = Form1.s16_image(static_cast<std::int32_t>(index) + 1);
   swatch.Height = swatch_height;
   swatch.Width = swatch_width;
   swatch.BackColor = tool_state.colour_table[index];
@@ -58,7 +58,7 @@ void show_palette_view() {
     ++palette_column;
     tool_state.next_slot_left = palette_column * from_swatch_to_right;
     tool_state.next_slot_top = palette_row * from_swatch_down + grid_top;
-    if (palette_column == swatches_a_row) {
+    if (palette_column == swatches_per_row) {
       ++palette_row;
       palette_column = 0;
     }

@@ -2,8 +2,8 @@
 
 namespace ostrane {
 
-platform::binary_file file_1;
-platform::binary_file file_5;
-platform::binary_file file_6;
+files::binary_file file_1;
+files::binary_file file_5;
+files::binary_file file_6;
 
 }  // namespace ostrane

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/binary_file.h"
+#include "files/binary_file.h"
 
 namespace ostrane {
 
 // The files that a command holds open, by number: 1 to read or report, 5 and 6 for the two ends of
 // a copy. None stays open between two commands.
-extern platform::binary_file file_1;
-extern platform::binary_file file_5;
-extern platform::binary_file file_6;
+extern files::binary_file file_1;
+extern files::binary_file file_5;
+extern files::binary_file file_6;
 
 }  // namespace ostrane

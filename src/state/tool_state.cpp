@@ -7,7 +7,7 @@ namespace ostrane {
 
 tool_state_record tool_state;
 
-void make_state_afresh() {
+void reset_state() {
   static bool was_used = false;
   if (!std::exchange(was_used, true)) return;
   std::destroy_at(&tool_state);

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "archive/format.h"
+#include "files/system_calls.h"
+#include "forms_layer/colour.h"
 #include "icons/icon_data.h"
 #include "icons/shp_format.h"
 #include "lists/icon_name_pair.h"
-#include "platform/colour.h"
-#include "platform/system_calls.h"
 
 namespace ostrane {
 
@@ -20,8 +20,8 @@ constexpr flag flag_true = -1;
 constexpr flag flag_false = 0;
 
 constexpr std::int32_t read_buffer_size = 32768;
-constexpr std::int32_t most_icon_names = 32000;
-constexpr std::int32_t most_slots = 9999;
+constexpr std::int32_t max_icon_names = 32000;
+constexpr std::int32_t max_slots = 9999;
 
 // All that the tool knows while it runs. Every handler and procedure reads and writes it directly.
 // Lengths are twips. Arrays that count from 1 leave element 0 unused. The large ones have no first
@@ -40,13 +40,13 @@ struct tool_state_record {
   std::array<std::array<std::uint8_t, 4>, 256> stored_palette = {};  // as stored: blue, green, red
 
   std::int32_t record_count = 0;  // records of the index, end record included
-  std::array<dat_record, most_records> dat_index;
-  std::array<make_record, most_records> make_index;
+  std::array<dat_record, max_records> dat_index;
+  std::array<make_record, max_records> make_index;
   std::string archive_path_copy;  // always equal to archive_path; what extraction opens
   // An archive is open: dat_index and List1 are those of the file at archive_path, which had this
   // stamp when they were read. The stamp stays when another archive cannot be read.
   flag archive_is_open = flag_false;
-  platform::file_stamp archive_stamp;
+  files::file_stamp archive_stamp;
 
   ostrane::shp_head shp_head;
   ostrane::shp_dir_entry dir_entry;   // the one read last
@@ -55,12 +55,12 @@ struct tool_state_record {
   std::int32_t directory_index = -1;  // index in dat_index of the entry in icon_positions, or -1
   std::string archive_path;
 
-  std::array<platform::colour, 256> colour_table = {};
+  std::array<forms_layer::colour, 256> colour_table = {};
 
-  std::uint8_t stream_byte = 0;                             // current byte of the run-length stream
-  flag stream_ended = flag_false;                           // no byte was left to take
-  std::array<std::int32_t, most_icons + 1> icon_positions;  // in the file, counted from 1
-  std::int32_t cur_row = 0;                                 // of the pixel being drawn
+  std::uint8_t stream_byte = 0;    // current byte of the run-length stream
+  flag stream_ended = flag_false;  // no byte was left to take
+  std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // in the file, counted from 1
+  std::int32_t cur_row = 0;                                         // of the pixel being drawn
   std::int32_t cur_col = 0;
   std::int16_t run_length = 0;    // of the current operation
   std::int16_t icon_number = 0;   // of the icon in work, from 1
@@ -93,7 +93,7 @@ struct tool_state_record {
 
   std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
   std::int16_t icon_name_count = 0;
-  std::array<icon_data_record, most_slots + 1> slot_data;
+  std::array<icon_data_record, max_slots + 1> slot_data;
   std::int16_t max_icons = 0;  // most slots in one series
 
   std::vector<std::string> shiplist_lines;
@@ -104,6 +104,6 @@ struct tool_state_record {
 extern tool_state_record tool_state;
 
 // All fields at the values that a new process has.
-void make_state_afresh();
+void reset_state();
 
 }  // namespace ostrane

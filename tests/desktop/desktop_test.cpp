@@ -14,12 +14,12 @@
 #include "desktop/designed_look.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
-#include "platform/application.h"
-#include "platform/events.h"
+#include "forms_layer/application.h"
+#include "forms_layer/events.h"
 
 namespace {
 
-QWidget* widget_of(const QWidget& window, const platform::control& shown) {
+QWidget* widget_of(const QWidget& window, const forms_layer::control& shown) {
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     const auto* view = dynamic_cast<desktop::control_view*>(widget);
     if (view != nullptr && &view->control == &shown) return widget;
@@ -53,17 +53,17 @@ class paint_watch : public QObject {
 class Desktop : public ::testing::Test {
  protected:
   Desktop() {
-    platform::begin_process();
-    platform::attach_screen(&screen);
+    forms_layer::begin_process();
+    forms_layer::attach_screen(&screen);
     form.Text6.Visible = false;
     for (int i = 1; i <= 5; ++i) form.s16_image.Load(i);
     picture().Width = 75;
-    picture().BackColor = platform::rgb(9, 8, 7);
+    picture().BackColor = forms_layer::rgb(9, 8, 7);
   }
-  ~Desktop() override { platform::attach_screen(nullptr); }
+  ~Desktop() override { forms_layer::attach_screen(nullptr); }
 
-  QWidget& show(platform::form& shown) {
-    platform::run_event([&shown] { shown.Visible = true; });
+  QWidget& show(forms_layer::form& shown) {
+    forms_layer::run_event([&shown] { shown.Visible = true; });
     QCoreApplication::processEvents();
     QWidget& window = *screen.window_of(shown);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -78,7 +78,7 @@ class Desktop : public ::testing::Test {
     return window;
   }
 
-  platform::picture_box& picture() { return form.s16_image(1); }
+  forms_layer::picture_box& picture() { return form.s16_image(1); }
 
   desktop::qt_screen screen;
   ostrane::form1 form;  // with nothing wired to it
@@ -86,8 +86,8 @@ class Desktop : public ::testing::Test {
 
 // Each pixel is painted by itself, as when a part alone has changed.
 TEST_F(Desktop, APictureIsOnTheScreenPixelByPixel) {
-  picture().PSet(0, 0, platform::rgb(255, 0, 0));
-  picture().PSet(2, 3, platform::rgb(1, 2, 250));
+  picture().PSet(0, 0, forms_layer::rgb(255, 0, 0));
+  picture().PSet(2, 3, forms_layer::rgb(1, 2, 250));
   picture().Visible = true;
   QWidget* frame = widget_of(show(form), form.Frame1);
   QImage pixel(1, 1, QImage::Format_RGB32);
@@ -127,7 +127,7 @@ TEST_F(Desktop, ARefreshPaintsWhatChangedAndNoMore) {
   };
   for (const auto& c : cases) {
     watch.painted = {};
-    platform::run_event([&] {
+    forms_layer::run_event([&] {
       c.write();
       form.Refresh();
       EXPECT_EQ(watch.painted, c.painted) << c.what;
@@ -140,7 +140,7 @@ TEST_F(Desktop, AWindowShownInAHandlerIsPaintedBeforeTheHandlerEnds) {
   std::string log;
   QWidget& window = show(form);
   form.Unload = [&] { log += "close "; };
-  platform::run_event([&] {
+  forms_layer::run_event([&] {
     QMetaObject::invokeMethod(
         &window, [&] { window.close(); }, Qt::QueuedConnection);
     ostrane::form2 second;
@@ -255,9 +255,10 @@ TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
   const QPalette light = QApplication::palette();
   for (const QPalette& theme : {light, QPalette(QColor(35, 35, 38))}) {
     QApplication::setPalette(theme);
-    for (const platform::colour back :
-         {ostrane::pale_green, ostrane::pale_cyan, platform::system_menu, platform::system_window,
-          platform::system_button_face, platform::system_light, platform::rgb(0, 0, 60)}) {
+    for (const forms_layer::colour back :
+         {ostrane::pale_green, ostrane::pale_cyan, forms_layer::system_menu,
+          forms_layer::system_window, forms_layer::system_button_face, forms_layer::system_light,
+          forms_layer::rgb(0, 0, 60)}) {
       const QPalette used = desktop::with_colours({}, QPalette::Base, QPalette::Text, back);
       for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const int text = qGray(used.color(group, QPalette::Text).rgb());
@@ -266,7 +267,7 @@ TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
       }
     }
     QWidget& window = show(form);
-    const auto frame_of = [&window](const platform::control& shown) {
+    const auto frame_of = [&window](const forms_layer::control& shown) {
       return widget_of(window, shown)->grab().toImage().pixel(0, 0);
     };
     const int ground = qGray(theme.color(QPalette::Window).rgb());

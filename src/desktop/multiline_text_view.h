@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "desktop/control_view.h"
+#include "forms_layer/text_box.h"
+
+namespace desktop {
+
+// A text box of several lines with scroll bars both ways. The tool learns of an edit when the user
+// pauses or leaves, as the text may be megabytes long.
+class multiline_text_view : public QPlainTextEdit, public control_view {
+ public:
+  multiline_text_view(forms_layer::text_box& shown, QWidget* parent);
+  QWidget& widget() override { return *this; }
+
+ protected:
+  void show_content() override;
+  void show_colours() override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void take_edit();
+
+  forms_layer::text_box& box_;
+  QTimer pause_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,44 @@
+#include "desktop/text_field_view.h"
+
+#include <algorithm>
+
+#include "desktop/designed_look.h"
+#include "desktop/screen_text.h"
+#include "forms_layer/events.h"
+#include "forms_layer/user.h"
+
+namespace desktop {
+
+text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
+    : QLineEdit(parent), control_view(shown), box_(shown) {
+  setFont(font_for(shown.designed.font));
+  // As desktop_style paints it. Nothing beneath has to be painted with it.
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setReadOnly(shown.designed.locked);
+  if (shown.designed.centred) setAlignment(Qt::AlignCenter);
+  connect(this, &QLineEdit::textEdited, this, [this] { take_edit(); });
+}
+
+void text_field_view::take_edit() {
+  forms_layer::user::type(box_, from_screen(text()));
+  // The tool may have kept another text, and says so only if it differs from the one before.
+  if (!forms_layer::handler_running()) show_content();
+}
+
+void text_field_view::show_content() {
+  const QString now = to_screen(box_.Text());
+  // The limit holds for what the user types, not for what the tool writes.
+  const int limit = box_.designed.max_length;
+  if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
+  if (now == text()) return;
+  const int cursor = cursorPosition();
+  setText(now);
+  if (hasFocus()) setCursorPosition(cursor);
+  if (!hasFocus()) setCursorPosition(0);
+}
+
+void text_field_view::show_colours() {
+  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
+}
+
+}  // namespace desktop

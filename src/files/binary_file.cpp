@@ -1,0 +1,168 @@
+#include "files/binary_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "files/case_insensitive_lookup.h"
+#include "files/file_calls.h"
+
+namespace files {
+
+namespace {
+
+constexpr std::size_t buffer_size = 262144;
+
+}  // namespace
+
+void binary_file::abandon() {
+  if (file_ >= 0) file_calls::close_file(file_);
+  file_ = -1;
+}
+
+void binary_file::open_to_read(const file_path& path) {
+  prepare(path.shown);
+  take(file_calls::open_to_read(path.system), false);
+}
+
+bool binary_file::open_to_write(const file_path& path) {
+  prepare(path.shown);
+  const int made = file_calls::open_new(path.system);
+  take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, true);
+  if (made >= 0) remember_file(path.system);
+  return made >= 0;
+}
+
+void binary_file::take_written(int file, const std::string& shown_path) {
+  prepare(shown_path);
+  take(file, true);
+}
+
+// Takes the memory before any file is made.
+void binary_file::prepare(const std::string& shown_path) {
+  abandon();
+  path_ = shown_path;
+  buffer_.resize(buffer_size);
+  position_ = 0;
+  fill_ = 0;
+  buffer_start_ = 0;
+}
+
+void binary_file::take(int file, bool writes) {
+  if (file < 0) fail(file, " cannot be opened: ");
+  file_ = file;
+  writes_ = writes;
+}
+
+void binary_file::fail(std::int64_t outcome, const char* what) {
+  file_calls::fail(path_, what, outcome);
+}
+
+void binary_file::seek(std::int64_t offset) {
+  if (writes_) flush();
+  const std::int64_t ahead = offset - buffer_start_;
+  if (!writes_ && ahead >= 0 && ahead <= static_cast<std::int64_t>(fill_)) {
+    position_ = static_cast<std::size_t>(ahead);
+    return;
+  }
+  position_ = 0;
+  fill_ = 0;
+  buffer_start_ = offset;
+  const std::int64_t at = file_calls::seek_to(file_, offset);
+  if (at < 0) fail(at, " cannot be read: ");
+}
+
+std::size_t binary_file::read_from_system(std::span<std::byte> to) {
+  const std::int64_t moved = file_calls::read_some(file_, to.data(), to.size());
+  if (moved < 0) fail(moved, " cannot be read: ");
+  return static_cast<std::size_t>(moved);
+}
+
+void binary_file::fill_buffer() {
+  buffer_start_ += static_cast<std::int64_t>(fill_);
+  position_ = 0;
+  fill_ = 0;
+  fill_ = read_from_system(buffer_);
+}
+
+std::span<const std::byte> binary_file::next(std::size_t max) {
+  if (position_ == fill_) fill_buffer();
+  const auto bytes = std::span(buffer_).subspan(position_, std::min(max, fill_ - position_));
+  position_ += bytes.size();
+  return bytes;
+}
+
+std::size_t binary_file::read(std::span<std::byte> to) {
+  std::size_t got = 0;
+  while (got < to.size()) {
+    if (position_ == fill_) {
+      // A large block goes straight to where it is wanted.
+      if (to.size() - got >= buffer_size) {
+        const std::size_t moved = read_from_system(to.subspan(got));
+        if (moved == 0) break;
+        buffer_start_ += static_cast<std::int64_t>(fill_ + moved);
+        position_ = 0;
+        fill_ = 0;
+        got += moved;
+        continue;
+      }
+      fill_buffer();
+      if (fill_ == 0) break;
+    }
+    const std::size_t part = std::min(fill_ - position_, to.size() - got);
+    std::memcpy(to.data() + got, buffer_.data() + position_, part);
+    position_ += part;
+    got += part;
+  }
+  return got;
+}
+
+void binary_file::write(std::span<const std::byte> from) {
+  while (!from.empty()) {
+    if (position_ == buffer_size) flush();
+    const std::size_t part = std::min(buffer_size - position_, from.size());
+    std::memcpy(buffer_.data() + position_, from.data(), part);
+    position_ += part;
+    from = from.subspan(part);
+  }
+}
+
+file_facts binary_file::facts() {
+  file_facts found;
+  const int outcome = file_calls::facts_of(file_, found);
+  if (outcome < 0) fail(outcome, " cannot be read: ");
+  return found;
+}
+
+void binary_file::cut() {
+  flush();
+  const int outcome = file_calls::set_size(file_, buffer_start_);
+  if (outcome < 0) fail(outcome, " cannot be written: ");
+}
+
+void binary_file::flush(bool to_disk) {
+  std::size_t written = 0;
+  const std::size_t count = position_;
+  position_ = 0;  // what could not be written is not tried again at close
+  while (writes_ && written < count) {
+    const std::int64_t moved =
+        file_calls::write_some(file_, buffer_.data() + written, count - written);
+    if (moved <= 0) fail(moved < 0 ? moved : -EIO, " cannot be written: ");
+    written += static_cast<std::size_t>(moved);
+    buffer_start_ += moved;
+  }
+  if (!to_disk) return;
+  const int flushed = file_calls::flush_to_disk(file_);
+  if (flushed < 0) fail(flushed, " cannot be written: ");
+}
+
+void binary_file::close() {
+  if (file_ < 0) return;
+  if (writes_) flush();
+  const int file = file_;
+  file_ = -1;
+  const int closed = file_calls::close_file(file);
+  if (closed < 0 && writes_) fail(closed, " cannot be written: ");
+}
+
+}  // namespace files

@@ -1,0 +1,151 @@
+#include "files/file_calls.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace files::file_calls {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+template <typename Call, typename... Arguments>
+auto uninterrupted(Call call, Arguments&&... with) {
+  for (;;) {
+    const auto outcome = call(with...);
+    if (outcome != -EINTR) return outcome;
+  }
+}
+
+}  // namespace
+
+int open_to_read(const fs::path& path) { return uninterrupted(system_calls.open_to_read, path); }
+int open_to_write(const fs::path& path) { return uninterrupted(system_calls.open_to_write, path); }
+int open_new(const fs::path& path) { return uninterrupted(system_calls.open_new, path); }
+
+std::int64_t read_some(int file, std::byte* to, std::size_t count) {
+  return uninterrupted(system_calls.read_some, file, to, count);
+}
+std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
+  return uninterrupted(system_calls.write_some, file, from, count);
+}
+std::int64_t seek_to(int file, std::int64_t offset) {
+  return uninterrupted(system_calls.seek_to, file, offset);
+}
+int set_size(int file, std::int64_t size) {
+  return uninterrupted(system_calls.set_size, file, size);
+}
+
+int facts_of(int file, file_facts& facts) {
+  return uninterrupted(system_calls.facts_of, file, facts);
+}
+int facts_at(const fs::path& path, file_facts& facts) {
+  return uninterrupted(system_calls.facts_at, path, facts);
+}
+int set_rights(int file, const file_facts& like) {
+  return uninterrupted(system_calls.set_rights, file, like);
+}
+int lock(int file) { return uninterrupted(system_calls.lock, file); }
+
+int flush_to_disk(int file) { return uninterrupted(system_calls.flush_to_disk, file); }
+
+// The file is closed also if that was interrupted.
+int close_file(int file) {
+  const int outcome = system_calls.close_file(file);
+  return outcome == -EINTR ? 0 : outcome;
+}
+
+int remove_file(const fs::path& path) { return uninterrupted(system_calls.remove_file, path); }
+int replace(const fs::path& file, const fs::path& target) {
+  return uninterrupted(system_calls.replace, file, target);
+}
+int flush_folder(const fs::path& folder) {
+  return uninterrupted(system_calls.flush_folder, folder);
+}
+
+int list(const fs::path& folder, std::vector<listed_entry>& found) {
+  const std::size_t before = found.size();
+  for (;;) {
+    const int outcome = system_calls.list(folder, found);
+    if (outcome != -EINTR) return outcome;
+    found.resize(before);
+  }
+}
+
+int is_at(int file, const fs::path& path) {
+  file_facts open;
+  file_facts found;
+  int outcome = facts_of(file, open);
+  if (outcome >= 0) outcome = facts_at(path, found);
+  if (outcome == -ENOENT || outcome == -ENOTDIR) return 0;
+  if (outcome < 0) return outcome;
+  return open.stamp.identity == found.stamp.identity ? 1 : 0;
+}
+
+file_error_number error_number(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return file_error_number::file_not_found;
+    case ENOTDIR:
+      return file_error_number::path_not_found;
+    case EEXIST:
+      return file_error_number::file_exists;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBUSY:
+      return file_error_number::permission_denied;
+    case EISDIR:
+      return file_error_number::path_access;
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+    case EFBIG:
+      return file_error_number::disk_full;
+    case EINVAL:
+    case ENAMETOOLONG:
+      return file_error_number::bad_file_name;
+    default:
+      return file_error_number::device_error;
+  }
+}
+
+std::string error_words(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return "it is not there";
+    case EACCES:
+    case EPERM:
+    case ENOTSUP:  // from a question for the size of a folder or a device
+      return "access is not allowed";
+    case EBUSY:
+      return "it is in use";
+    case EISDIR:
+      return "it is a folder";
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+      return "the disk is full";
+    case EROFS:
+      return "the disk cannot be written to";
+    case EEXIST:
+      return "it is there already";
+    case ENOTDIR:
+      return "it is not in a folder";
+    case ENAMETOOLONG:
+      return "its name is too long";
+    case EFBIG:
+      return "it would be larger than the system allows";
+    default:
+      return std::strerror(errno_number);
+  }
+}
+
+void fail(const std::string& path, const char* what, std::int64_t outcome) {
+  const int number = static_cast<int>(-outcome);
+  throw file_error{error_number(number), path + what + error_words(number) + "."};
+}
+
+}  // namespace files::file_calls

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace files {
+
+// The numbers by which the forms layer tells its file errors apart.
+enum class file_error_number {
+  file_not_found = 53,
+  device_error = 57,
+  file_exists = 58,
+  disk_full = 61,
+  bad_file_name = 52,
+  device_unavailable = 68,
+  permission_denied = 70,
+  path_access = 75,
+  path_not_found = 76,
+};
+
+// Thrown by the operations of files, folders and drives that say so.
+struct file_error {
+  file_error_number number;
+  std::string text;  // names the path and says what is wrong, in a sentence for the user
+};
+
+}  // namespace files

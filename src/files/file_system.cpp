@@ -1,0 +1,146 @@
+#include "files/file_system.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <unordered_set>
+
+#include "files/case_insensitive_lookup.h"
+#include "files/code_page.h"
+#include "files/file_calls.h"
+#include "files/paths.h"
+#include "files/system_name.h"
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::file_status status_of(const std::string& path) {
+  try {
+    std::error_code failed;
+    return fs::status(system_path(path), failed);
+  } catch (const file_error&) {
+    return {};
+  }
+}
+
+void sort_folded(std::vector<std::string>& names) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  keyed.reserve(names.size());
+  for (std::string& name : names) keyed.emplace_back(upper_case(name), std::move(name));
+  const auto by_bytes = [](const std::string& a, const std::string& b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+      return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
+    });
+  };
+  std::sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
+    return a.first == b.first ? by_bytes(a.second, b.second) : by_bytes(a.first, b.first);
+  });
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
+}
+
+std::vector<listed_entry> listed_in(const std::string& path) {
+  std::vector<listed_entry> listed;
+  const int failed = file_calls::list(system_path(path), listed);
+  if (failed < 0) file_calls::fail(path, " cannot be read: ", failed);
+  return listed;
+}
+
+// A name that cannot stand in a path of the tool is of no use to it.
+const char* unlisted_reason(const listed_entry& entry, const std::optional<std::string>& name) {
+  if (!name) return "its name has characters that the code page lacks";
+  if (name->find('\\') != name->npos) return "its name holds a separator of paths";
+  return entry.is_hidden ? "it is hidden" : "";
+}
+
+std::vector<std::string> sorted_names(const std::string& path, bool listed_entry::*is_wanted) {
+  std::vector<std::string> names;
+  for (const listed_entry& entry : listed_in(path)) {
+    if (!(entry.*is_wanted)) continue;
+    std::optional<std::string> name = name_as_text(entry.name);
+    if (*unlisted_reason(entry, name) == '\0') names.push_back(std::move(*name));
+  }
+  sort_folded(names);
+  return names;
+}
+
+}  // namespace
+
+bool file_exists(const std::string& path) {
+  const fs::file_status status = status_of(path);
+  return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool folder_exists(const std::string& path) { return fs::is_directory(status_of(path)); }
+
+std::int64_t file_size(const std::string& path) {
+  std::error_code failed;
+  const std::uintmax_t bytes = fs::file_size(system_path(path), failed);
+  if (failed) file_calls::fail(path, " cannot be read: ", -file_calls::errno_number(failed));
+  return static_cast<std::int64_t>(bytes);
+}
+
+void create_folder(const std::string& path) {
+  std::error_code failed;
+  const fs::path place = system_path(path);
+  if (!fs::create_directory(place, failed) && !failed) {
+    failed = std::make_error_code(std::errc::file_exists);
+  }
+  if (failed) file_calls::fail(path, " cannot be made: ", -file_calls::errno_number(failed));
+  forget_folders();
+}
+
+std::vector<std::string> folders_in(const std::string& path) {
+  return sorted_names(path, &listed_entry::is_folder);
+}
+
+std::vector<std::string> files_in(const std::string& path) {
+  return sorted_names(path, &listed_entry::is_file);
+}
+
+std::vector<unlisted_file> unlisted_files_in(const std::string& path,
+                                             const std::vector<std::string>& listed) {
+  const std::unordered_set<std::string_view> known(listed.begin(), listed.end());
+  std::vector<unlisted_file> unlisted;
+  for (const listed_entry& entry : listed_in(path)) {
+    if (!entry.is_file) continue;
+    const std::optional<std::string> name = name_as_text(entry.name);
+    const char* reason = unlisted_reason(entry, name);
+    if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";
+    if (*reason != '\0')
+      unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
+  }
+  std::sort(unlisted.begin(), unlisted.end(),
+            [](const auto& a, const auto& b) { return a.name < b.name; });
+  return unlisted;
+}
+
+bool matches_pattern(const std::string& name, const std::string& pattern) {
+  const std::string text = upper_case(name);
+  const std::string wanted = upper_case(pattern);
+  std::size_t at = 0;
+  std::size_t in_pattern = 0;
+  std::size_t star = std::string::npos;
+  std::size_t star_ends = 0;
+  while (at < text.size()) {
+    const bool more = in_pattern < wanted.size();
+    if (more && wanted[in_pattern] == '*') {
+      star = in_pattern++;
+      star_ends = at;
+    } else if (more && (wanted[in_pattern] == '?' || wanted[in_pattern] == text[at])) {
+      ++at;
+      ++in_pattern;
+    } else if (star != std::string::npos) {
+      in_pattern = star + 1;
+      at = ++star_ends;
+    } else {
+      return false;
+    }
+  }
+  return wanted.find_first_not_of('*', in_pattern) == std::string::npos;
+}
+
+}  // namespace files

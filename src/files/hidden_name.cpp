@@ -1,0 +1,59 @@
+#include "files/hidden_name.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+#include "files/code_page.h"
+#include "files/system_name.h"
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A name of 255 bytes, the longest that systems take, leaves room for what is added.
+constexpr std::size_t max_kept_of_name = 200;
+constexpr std::string_view ending_of_temporary = ".new";
+
+std::string hexadecimal(std::uint64_t number) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string text;
+  for (; number != 0; number >>= 4U) text.push_back(digits[number & 15U]);
+  return text;
+}
+
+// In upper case, so that all spellings of a name have the same hidden names.
+fs::path::string_type stem_of(const fs::path& target) {
+  fs::path name = target.filename();
+  if (const auto text = name_as_text(name.native())) name = system_name(upper_case(*text));
+  return fs::path(".").native() + name.native().substr(0, max_kept_of_name);
+}
+
+}  // namespace
+
+fs::path hidden_beside(const fs::path& target, std::string_view ending) {
+  return target.parent_path() / (stem_of(target) + fs::path(ending).native());
+}
+
+fs::path temporary_beside(const fs::path& target) {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+  std::string ending = "." + hexadecimal(static_cast<std::uint64_t>(now));
+  return hidden_beside(target, ending.append(ending_of_temporary));
+}
+
+bool is_temporary_of(const fs::path& target, const fs::path& name) {
+  const fs::path::string_type stem = stem_of(target);
+  const fs::path::string_type ending = fs::path(ending_of_temporary).native();
+  const fs::path::string_type& text = name.native();
+  if (text.size() < stem.size() + ending.size() || !text.starts_with(stem)) return false;
+  return text.ends_with(ending) &&
+         std::all_of(text.begin() + static_cast<std::ptrdiff_t>(stem.size()),
+                     text.end() - static_cast<std::ptrdiff_t>(ending.size()), [](auto c) {
+                       return c == '.' || (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
+                     });
+}
+
+}  // namespace files

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+// Numbers as all files of the game hold them: the low byte first. All their bytes must be there:
+// from `at` on, in bytes.
+namespace files {
+
+inline std::int16_t int16_at(std::span<const std::byte> bytes, std::size_t at) {
+  return static_cast<std::int16_t>(std::to_integer<unsigned>(bytes[at]) |
+                                   std::to_integer<unsigned>(bytes[at + 1]) << 8U);
+}
+
+inline std::int32_t int32_at(std::span<const std::byte> bytes, std::size_t at) {
+  return static_cast<std::int32_t>(std::to_integer<std::uint32_t>(bytes[at]) |
+                                   std::to_integer<std::uint32_t>(bytes[at + 1]) << 8U |
+                                   std::to_integer<std::uint32_t>(bytes[at + 2]) << 16U |
+                                   std::to_integer<std::uint32_t>(bytes[at + 3]) << 24U);
+}
+
+inline void put_int32(std::span<std::byte> bytes, std::size_t at, std::int32_t value) {
+  const auto bits = static_cast<std::uint32_t>(value);
+  for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<std::byte>(bits >> 8U * i);
+}
+
+}  // namespace files

@@ -1,0 +1,169 @@
+#include "files/paths.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "files/case_insensitive_lookup.h"
+#include "files/code_page.h"
+#include "files/drives.h"
+#include "files/file_calls.h"
+#include "files/file_error.h"
+#include "files/system_name.h"
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool is_separator(char c) { return c == '\\' || c == '/'; }
+
+// Puts the names of a path behind those that stand already.
+void walk(std::vector<std::string>& names, std::string_view path) {
+  while (!path.empty()) {
+    const auto at = std::find_if(path.begin(), path.end(), is_separator);
+    const std::string name(path.begin(), at);
+    path.remove_prefix(name.size() + (at == path.end() ? 0 : 1));
+    if (name.empty() || name == ".") continue;
+    if (name != "..") {
+      names.push_back(name);
+    } else if (!names.empty()) {
+      names.pop_back();
+    }
+  }
+}
+
+bool is_drive_text(const std::string& path, char letter) {
+  const drive* named = find_drive(letter);
+  return named != nullptr && drive_text(*named) == path;
+}
+
+[[noreturn]] void report_missing_drive(const std::string& path) {
+  throw file_error{file_error_number::device_unavailable,
+                   "There is no drive " + path.substr(0, 1) + "."};
+}
+
+// On Windows a colon in a name would lead to another drive or into a hidden part of a file.
+constexpr bool drives_are_the_systems = fs::path::preferred_separator == '\\';
+
+[[noreturn]] void report_colon_in_name(const std::string& path) {
+  throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon."};
+}
+
+std::vector<std::string> names_of(const std::string& whole_path) {
+  std::vector<std::string> names;
+  walk(names, std::string_view(whole_path).substr(2));
+  return names;
+}
+
+fs::path found_in(const fs::path& folder, const std::string& name, const std::string& whole) {
+  if (drives_are_the_systems && name.find(':') != name.npos) report_colon_in_name(whole);
+  return find_in_folder(folder, name);
+}
+
+fs::path place_of_folder(const std::string& whole) {
+  const drive* on = find_drive(whole[0]);
+  if (on == nullptr) report_missing_drive(whole);
+  fs::path place = on->folder;
+  for (const std::string& name : names_of(whole)) place = found_in(place, name, whole);
+  return place;
+}
+
+// `path` relative to `folder`, or nullopt if it is outside.
+std::optional<fs::path> inside(const fs::path& path, const fs::path& folder) {
+  const fs::path rest = path.lexically_relative(folder);
+  if (rest.empty() || *rest.begin() == "..") return std::nullopt;
+  return rest;
+}
+
+}  // namespace
+
+std::string with_separator(std::string_view folder) {
+  std::string whole(folder);
+  if (whole.empty() || whole.back() != '\\') whole += '\\';
+  return whole;
+}
+
+char drive_letter(std::string_view path) {
+  if (path.empty()) return 0;
+  const char letter = upper_case(path.front());
+  const bool named = letter >= 'A' && letter <= 'Z' && (path.size() == 1 || path[1] == ':');
+  return named ? letter : '\0';
+}
+
+std::string full_path(const std::string& path) {
+  std::string_view rest = path;
+  char letter = 0;
+  if (path.size() > 1 && path[1] == ':') {
+    letter = drive_letter(path);
+    if (letter == 0) report_missing_drive(path);
+    rest.remove_prefix(2);
+    if (is_drive_text(path, letter)) rest = {};
+  }
+  std::vector<std::string> names;
+  const bool from_root = !rest.empty() && is_separator(rest.front());
+  if (letter == 0 || !from_root) {
+    const std::string current = current_folder();
+    if (letter == 0) letter = current[0];
+    if (!from_root && letter == current[0]) names = names_of(current);
+  }
+  walk(names, rest);
+  std::string whole = {letter, ':', '\\'};
+  for (const std::string& name : names) {
+    if (whole.back() != '\\') whole += '\\';
+    whole += name;
+  }
+  return whole;
+}
+
+fs::path system_path(const std::string& path) {
+  const std::string whole = full_path(path);
+  const std::size_t name_at = whole.rfind('\\') + 1;
+  const std::string name = whole.substr(name_at);
+  const std::string folder = whole.substr(0, name_at);
+  const fs::path* place = remembered_place(folder);
+  if (place == nullptr) place = &remember_place(folder, place_of_folder(folder));
+  return name.empty() ? *place : found_in(*place, name, whole);
+}
+
+file_path on_drives(const std::string& path) { return {system_path(path), path}; }
+
+file_path in_current_folder(const std::string& name) {
+  if (!given_current_folder().empty()) return on_drives(name);
+  std::error_code failed;
+  const fs::path folder = fs::current_path(failed);
+  if (failed) file_calls::fail(name, " cannot be found: ", -file_calls::errno_number(failed));
+  return {find_in_folder(folder, name), name};
+}
+
+std::string current_folder() {
+  if (!given_current_folder().empty()) return given_current_folder();
+  std::error_code failed;
+  const std::string current = to_tool_path(fs::current_path(failed));
+  return current.empty() ? "C:\\" : current;
+}
+
+std::string to_tool_path(const fs::path& path) {
+  const drive* nearest = nullptr;
+  fs::path rest;
+  for (const drive& d : drives()) {
+    const std::optional<fs::path> from_drive = inside(path, d.folder);
+    const bool nearer =
+        nearest == nullptr || d.folder.native().size() > nearest->folder.native().size();
+    if (!from_drive || !nearer) continue;
+    nearest = &d;
+    rest = *from_drive;
+  }
+  if (nearest == nullptr) return {};
+  std::string whole = {nearest->letter, ':', '\\'};
+  for (const fs::path& step : rest) {
+    if (step == ".") continue;
+    const std::optional<std::string> name = name_as_text(step.native());
+    if (!name) return {};
+    if (whole.back() != '\\') whole += '\\';
+    whole += *name;
+  }
+  return whole;
+}
+
+}  // namespace files

@@ -1,0 +1,116 @@
+#include "files/replaced_file.h"
+
+#include <cerrno>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "files/case_insensitive_lookup.h"
+#include "files/code_page.h"
+#include "files/file_calls.h"
+#include "files/hidden_name.h"
+#include "files/system_name.h"
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int max_tries = 100;  // for a name that is free
+constexpr const char* cannot_write = " cannot be written: ";
+
+std::string folded_name(const fs::path::string_type& system_name) {
+  const std::optional<std::string> name = name_as_text(system_name);
+  return name ? upper_case(*name) : std::string();
+}
+
+}  // namespace
+
+replaced_file::replaced_file(file_path target)
+    : target_(std::move(target)), lock_(target_.system, target_.shown) {
+  remove_leftovers();
+  int file = -EEXIST;
+  for (int tries = 0; file == -EEXIST && tries < max_tries; ++tries) {
+    temporary_ = temporary_beside(target_.system);
+    file = file_calls::open_new(temporary_);
+  }
+  try {
+    file_.take_written(file, target_.shown);
+  } catch (...) {
+    if (file >= 0) file_calls::close_file(file);
+    file_calls::remove_file(temporary_);
+    throw;
+  }
+  // Tells other copies that it is no leftover, should they have got past the other lock.
+  file_calls::lock(file);
+  take_rights();
+}
+
+replaced_file::~replaced_file() {
+  if (is_own(temporary_)) file_calls::remove_file(temporary_);
+  file_.abandon();
+}
+
+void replaced_file::remove_leftovers() const {
+  std::vector<listed_entry> listed;
+  file_calls::list(target_.system.parent_path(), listed);
+  for (const listed_entry& entry : listed) {
+    if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
+    const fs::path leftover = target_.system.parent_path() / entry.name;
+    const int file = file_calls::open_to_read(leftover);
+    if (file < 0) continue;
+    if (file_calls::lock(file) >= 0 && file_calls::is_at(file, leftover) == 1) {
+      file_calls::remove_file(leftover);
+    }
+    file_calls::close_file(file);
+  }
+}
+
+void replaced_file::take_rights() {
+  file_facts old;
+  if (file_calls::facts_at(target_.system, old) < 0 || !old.is_file) return;
+  file_calls::set_rights(file_.handle(), old);
+}
+
+bool replaced_file::is_own(const fs::path& name) const {
+  return file_calls::is_at(file_.handle(), name) == 1;
+}
+
+void replaced_file::require_own_file() const {
+  const int own = file_calls::is_at(file_.handle(), temporary_);
+  if (own < 0) file_calls::fail(target_.shown, cannot_write, own);
+  if (own == 1) return;
+  throw file_error{file_error_number::device_error,
+                   target_.shown + cannot_write + "another program has moved what was written."};
+}
+
+// A system may report a failure of what it has done. So the outcome is looked up.
+void replaced_file::put_in_place() {
+  file_.flush(true);
+  require_own_file();
+  const int replaced = file_calls::replace(temporary_, target_.system);
+  const int own = file_calls::is_at(file_.handle(), target_.system);
+  if (own == 1 || (own < 0 && replaced >= 0)) return;
+  if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
+  throw file_error{file_error_number::device_error,
+                   target_.shown + cannot_write + "another program has replaced it."};
+}
+
+void replaced_file::respell(const fs::path& target) {
+  if (target != target_.system) file_calls::replace(target_.system, target);
+  const fs::path& kept = is_own(target) ? target : target_.system;
+  if (!is_own(kept)) return;
+  const std::string folded = folded_name(kept.filename().native());
+  std::vector<listed_entry> listed;
+  file_calls::list(kept.parent_path(), listed);
+  for (const listed_entry& entry : listed) {
+    if (entry.is_folder || folded_name(entry.name) != folded) continue;
+    const fs::path other = kept.parent_path() / entry.name;
+    if (file_calls::is_at(file_.handle(), other) == 0) file_calls::remove_file(other);
+  }
+}
+
+void replaced_file::flush_folder() { file_calls::flush_folder(target_.system.parent_path()); }
+
+}  // namespace files

@@ -1,0 +1,172 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <string_view>
+
+#include "files/file_calls.h"
+#include "files/system_calls.h"
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+int result(int outcome) { return outcome < 0 ? -errno : outcome; }
+
+// O_NONBLOCK keeps the opening of a pipe from waiting for its other end.
+int open_normal(const fs::path& path, int flags) {
+  const int file = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+  if (file < 0) return errno == ENXIO ? -EACCES : -errno;
+  struct stat status = {};
+  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode)) return file;
+  const int reason = S_ISDIR(status.st_mode) ? EISDIR : EACCES;
+  close(file);
+  return -reason;
+}
+
+int open_to_read(const fs::path& path) { return open_normal(path, O_RDONLY); }
+
+int open_to_write(const fs::path& path) { return open_normal(path, O_WRONLY | O_CREAT); }
+
+int open_new(const fs::path& path) { return open_normal(path, O_WRONLY | O_CREAT | O_EXCL); }
+
+std::int64_t read_some(int file, std::byte* to, std::size_t count) {
+  const ssize_t moved = read(file, to, count);
+  return moved < 0 ? -errno : moved;
+}
+
+std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
+  const ssize_t moved = write(file, from, count);
+  return moved < 0 ? -errno : moved;
+}
+
+std::int64_t seek_to(int file, std::int64_t offset) {
+  const off_t at = lseek(file, offset, SEEK_SET);
+  return at < 0 ? -errno : at;
+}
+
+int set_size(int file, std::int64_t size) { return result(ftruncate(file, size)); }
+
+void fill(file_facts& facts, const struct stat& status) {
+  constexpr std::int64_t nanoseconds_per_second = 1000000000;
+  facts.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
+                          static_cast<std::uint64_t>(status.st_ino)};
+  facts.stamp.size = status.st_size;
+  facts.stamp.modified = status.st_mtim.tv_sec * nanoseconds_per_second + status.st_mtim.tv_nsec;
+  facts.is_file = S_ISREG(status.st_mode);
+  facts.rights = status.st_mode & 07777U;
+  facts.owner = status.st_uid;
+  facts.group = status.st_gid;
+}
+
+int facts_of(int file, file_facts& facts) {
+  struct stat status = {};
+  if (fstat(file, &status) < 0) return -errno;
+  fill(facts, status);
+  return 0;
+}
+
+int facts_at(const fs::path& path, file_facts& facts) {
+  struct stat status = {};
+  if (lstat(path.c_str(), &status) < 0) return -errno;
+  fill(facts, status);
+  return 0;
+}
+
+// A group that the file was not given gets no more rights than everybody has.
+int set_rights(int file, const file_facts& like) {
+  std::uint32_t rights = like.rights;
+  if (fchown(file, like.owner, like.group) < 0 &&
+      fchown(file, static_cast<uid_t>(-1), like.group)) {
+    rights &= 0707U;
+    rights |= (rights & 07U) << 3U;
+  }
+  return result(fchmod(file, rights));
+}
+
+int lock(int file) { return result(flock(file, LOCK_EX | LOCK_NB)); }
+
+int flush_to_disk(int file) { return result(fsync(file)); }
+
+int close_file(int file) { return result(close(file)); }
+
+int remove_file(const fs::path& path) { return result(unlink(path.c_str())); }
+
+int replace(const fs::path& file, const fs::path& target) {
+  return result(rename(file.c_str(), target.c_str()));
+}
+
+int flush_folder(const fs::path& folder) {
+  const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (opened < 0) return -errno;
+  const int flushed = result(fsync(opened));
+  close(opened);
+  // Some file systems cannot flush a folder; that is no fault of the file in it.
+  return flushed == -EINVAL ? 0 : flushed;
+}
+
+// Only a link, or an entry of a file system that tells no kinds, has to be looked at.
+listed_entry listed_as(const dirent& entry, int folder) {
+  listed_entry listed{.name = entry.d_name, .is_hidden = entry.d_name[0] == '.'};
+  if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) {
+    struct stat status = {};
+    if (fstatat(folder, entry.d_name, &status, 0) < 0) return listed;
+    listed.is_folder = S_ISDIR(status.st_mode);
+    listed.is_file = S_ISREG(status.st_mode);
+  } else {
+    listed.is_folder = entry.d_type == DT_DIR;
+    listed.is_file = entry.d_type == DT_REG;
+  }
+  return listed;
+}
+
+int list(const fs::path& folder, std::vector<listed_entry>& found) {
+  DIR* opened = opendir(folder.c_str());
+  if (opened == nullptr) return -errno;
+  const struct closing {
+    DIR* opened;
+    ~closing() { closedir(opened); }
+  } at_end{opened};
+  errno = 0;
+  while (const dirent* entry = readdir(opened)) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") found.push_back(listed_as(*entry, dirfd(opened)));
+    errno = 0;
+  }
+  return -errno;
+}
+
+}  // namespace
+
+system_call_table system_calls = {
+    .open_to_read = open_to_read,
+    .open_to_write = open_to_write,
+    .open_new = open_new,
+    .read_some = read_some,
+    .write_some = write_some,
+    .seek_to = seek_to,
+    .set_size = set_size,
+    .facts_of = facts_of,
+    .facts_at = facts_at,
+    .set_rights = set_rights,
+    .lock = lock,
+    .flush_to_disk = flush_to_disk,
+    .close_file = close_file,
+    .remove_file = remove_file,
+    .replace = replace,
+    .flush_folder = flush_folder,
+    .list = list,
+};
+
+void ignore_size_limit_signal() { std::signal(SIGXFSZ, SIG_IGN); }
+
+int file_calls::errno_number(const std::error_code& reason) { return reason.value(); }
+
+}  // namespace files

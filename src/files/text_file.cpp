@@ -1,0 +1,83 @@
+#include "files/text_file.h"
+
+#include <algorithm>
+
+#include "files/file_error.h"
+
+namespace files {
+
+namespace {
+
+constexpr std::size_t block = 65536;
+
+// Where a link leads, if it leads to a file.
+file_path behind_links(const file_path& path) {
+  std::error_code nowhere;
+  const std::filesystem::path target = std::filesystem::canonical(path.system, nowhere);
+  return {nowhere ? path.system : target, path.shown};
+}
+
+bool is_there(const file_path& path) {
+  std::error_code failed;
+  return std::filesystem::exists(std::filesystem::symlink_status(path.system, failed));
+}
+
+}  // namespace
+
+text_reader::text_reader(const file_path& path) { file_.open_to_read(path); }
+
+bool text_reader::fill() {
+  buffer_.resize(block);
+  position_ = 0;
+  buffer_.resize(file_.read(std::as_writable_bytes(std::span(buffer_))));
+  return !buffer_.empty();
+}
+
+bool text_reader::at_end() { return position_ == buffer_.size() && !fill(); }
+
+std::string text_reader::read_line() {
+  std::string line;
+  while (!at_end()) {
+    const std::string_view rest = std::string_view(buffer_).substr(position_);
+    const auto ends_line = [](char c) { return c == '\r' || c == '\n'; };
+    const auto at = std::find_if(rest.begin(), rest.end(), ends_line);
+    line.append(rest.begin(), at);
+    position_ += static_cast<std::size_t>(at - rest.begin());
+    if (at == rest.end()) continue;
+    const char end = buffer_[position_++];
+    if (end == '\r' && !at_end() && buffer_[position_] == '\n') ++position_;
+    break;
+  }
+  return line;
+}
+
+text_writer::text_writer(const file_path& path) {
+  const bool replaces = is_there(path);
+  if (replaces) old_file_.open_to_write(path);
+  try {
+    new_file_.emplace(behind_links(path));
+    old_file_.abandon();
+  } catch (const file_error& error) {
+    if (!replaces || error.number != file_error_number::permission_denied) throw;
+  }
+}
+
+void text_writer::write_line(std::string_view line) {
+  file().write(std::as_bytes(std::span(line)));
+  constexpr std::string_view end = "\r\n";
+  file().write(std::as_bytes(std::span(end)));
+}
+
+void text_writer::close() {
+  if (new_file_) {
+    new_file_->put_in_place();
+    new_file_->flush_folder();
+    new_file_.reset();
+  } else {
+    old_file_.cut();
+    old_file_.flush(true);
+    old_file_.close();
+  }
+}
+
+}  // namespace files

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "forms_layer/container.h"
+#include "forms_layer/control.h"
+#include "forms_layer/menu.h"
+
+namespace forms_layer {
+
+class timer;
+
+enum class start_position { screen_centre, owner_centre };
+
+// A form as designed. Lengths are twips; the client area is what lies inside the window's frame.
+struct form_design {
+  const char* name = "";
+  std::string caption = {};
+  std::int32_t client_width = 0;
+  std::int32_t client_height = 0;
+  bool control_box = false;  // without one the user cannot close the window
+  bool resizable = false;
+  start_position opens = start_position::owner_centre;
+  // What the window's frame and menu bar add to the client area, whatever the window manager draws.
+  std::int32_t frame_width = 225;
+  std::int32_t frame_height = 705;
+};
+
+// A window. It is made once and then only hidden and shown, and so keeps all that it holds.
+class form : public container {
+ public:
+  explicit form(form_design as_designed);
+
+  const form_design designed;
+
+  property<std::string, property_id::caption, form> Caption;
+  property<bool, property_id::visible, form> Visible;
+  property<bool, property_id::enabled, form> Enabled;
+
+  // The outer size in twips.
+  std::int32_t Width() const { return client_width_ + designed.frame_width; }
+  std::int32_t Height() const { return client_height_ + designed.frame_height; }
+  std::int32_t client_width() const { return client_width_; }
+  std::int32_t client_height() const { return client_height_; }
+
+  event Load;
+  event Unload;
+  event Resize;
+
+  // Repaints the form and its controls at once.
+  void Refresh();
+  // The window gets the focus when the handler is done.
+  void SetFocus();
+
+  std::vector<menu*> menus;
+  std::vector<timer*> timers;
+
+  form& containing_form() override { return *this; }
+
+  void written(property_id what, bool differs);
+
+  // The window got a new client size (twips); the Resize event is the caller's to raise.
+  void set_client_size(std::int32_t width, std::int32_t height);
+
+ private:
+  std::int32_t client_width_;
+  std::int32_t client_height_;
+  bool resized_once_ = false;
+};
+
+}  // namespace forms_layer

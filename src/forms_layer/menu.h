@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms_layer/control.h"
+
+namespace forms_layer {
+
+class form;
+class menu;
+
+// One line of a menu. An item without a caption is a separator.
+class menu_item {
+ public:
+  menu_item(menu& parent, const char* item_name, std::string caption);
+  menu_item(const menu_item&) = delete;
+  menu_item& operator=(const menu_item&) = delete;
+  ~menu_item() = default;
+
+  form& owner;
+  const char* const name;
+  const std::string Caption;
+  property<bool, property_id::menu, menu_item> Enabled;
+
+  event Click;
+
+  bool is_separator() const { return Caption.empty(); }
+  void written(property_id what, bool differs);
+};
+
+// A column of the menu bar.
+class menu {
+ public:
+  menu(form& shown_on, const char* menu_name, std::string caption);
+  menu(const menu&) = delete;
+  menu& operator=(const menu&) = delete;
+  ~menu() = default;
+
+  form& owner;
+  const char* const name;
+  const std::string Caption;
+  std::vector<menu_item*> items;
+};
+
+}  // namespace forms_layer

@@ -1,0 +1,75 @@
+#include "forms_layer/picture_box.h"
+
+#include <algorithm>
+
+#include "forms_layer/application.h"
+
+namespace forms_layer {
+
+namespace {
+
+// What a cleared box may keep for its next picture; more goes back to the system.
+constexpr std::size_t kept_pixels = 16384;
+
+}  // namespace
+
+picture_box::picture_box(container& parent_container, const design& as_designed,
+                         std::int32_t array_index)
+    : control(parent_container, control_kind::picture_box, as_designed), Index(array_index) {
+  apply_size();
+}
+
+void picture_box::Cls() {
+  if (pixels_.capacity() > kept_pixels) {
+    pixels_ = {};
+  } else {
+    pixels_.clear();
+  }
+  damaged_ = {0, 0, columns_, rows_};
+  tell_screen(property_id::pixels);
+}
+
+colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
+  if (x < 0 || y < 0 || x >= columns_ || y >= rows_ || pixels_.empty()) return unset;
+  return pixels_[index_of(x, y)];
+}
+
+pixel_area picture_box::consume_damage() {
+  const pixel_area taken = damaged_;
+  damaged_ = {};
+  return taken;
+}
+
+void picture_box::written(property_id what, bool differs) {
+  if (what == property_id::place && differs) apply_size();
+  if (what == property_id::back_color) {
+    Cls();
+  }
+  control::written(what, differs);
+}
+
+void picture_box::allocate() {
+  pixels_.assign(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_), unset);
+}
+
+void picture_box::apply_size() {
+  const std::int32_t columns = std::max(0, Width() / application.TwipsPerPixelX - 2 * border);
+  const std::int32_t rows = std::max(0, Height() / application.TwipsPerPixelY - 2 * border);
+  if (columns == columns_ && rows == rows_) return;
+  const std::vector<colour> old = std::move(pixels_);
+  const std::int32_t old_columns = columns_;
+  const std::int32_t kept_columns = std::min(columns, columns_);
+  const std::int32_t kept_rows = std::min(rows, rows_);
+  columns_ = columns;
+  rows_ = rows;
+  damaged_ = {};
+  pixels_.clear();
+  if (old.empty() || columns == 0 || rows == 0) return;
+  allocate();
+  for (std::int32_t y = 0; y < kept_rows; ++y) {
+    const auto from = old.begin() + static_cast<std::ptrdiff_t>(y) * old_columns;
+    std::copy_n(from, kept_columns, pixels_.begin() + static_cast<std::ptrdiff_t>(index_of(0, y)));
+  }
+}
+
+}  // namespace forms_layer

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "forms_layer/control.h"
+
+namespace forms_layer {
+
+// A field of text. `designed` tells whether it is locked, centred, of several lines, and how many
+// characters the user can type.
+class text_box : public control {
+ public:
+  text_box(container& parent_container, const design& as_designed)
+      : control(parent_container, control_kind::text_box, as_designed),
+        Text(*this, as_designed.text) {}
+
+  property<std::string, property_id::text, control> Text;
+};
+
+}  // namespace forms_layer

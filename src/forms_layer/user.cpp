@@ -1,0 +1,145 @@
+#include "forms_layer/user.h"
+
+#include "forms_layer/events.h"
+
+namespace forms_layer::user {
+
+namespace {
+
+control* focused = nullptr;
+
+void raise(const event& e) {
+  if (e) e();
+}
+
+void move_focus(control* to) {
+  if (to == focused) return;
+  control* from = focused;
+  focused = to;
+  if (from != nullptr) raise(from->LostFocus);
+}
+
+void reload_lists(form& window) {
+  for (control* c : window.controls()) c->reload();
+}
+
+}  // namespace
+
+void forget_focus() { focused = nullptr; }
+
+void focus(control* to) {
+  run_event([to] { move_focus(to); });
+}
+
+void click(button& pressed) {
+  run_event([&pressed] {
+    if (!pressed.takes_input()) return;
+    move_focus(&pressed);
+    raise(pressed.Click);
+  });
+}
+
+void click(label& pressed) {
+  run_event([&pressed] {
+    if (pressed.takes_input()) raise(pressed.Click);
+  });
+}
+
+void click(menu_item& picked) {
+  run_event([&picked] {
+    if (picked.Enabled() && picked.owner.Enabled() && picked.owner.Visible()) raise(picked.Click);
+  });
+}
+
+void double_click(picture_array& array, std::int32_t index) {
+  run_event([&array, index] {
+    if (array(index).takes_input() && array.DblClick) array.DblClick(index);
+  });
+}
+
+void select_row(list_box& list, std::int32_t row) {
+  run_event([&list, row] {
+    if (!list.takes_input() || row < 0 || row >= list.ListCount()) return;
+    move_focus(&list);
+    list.ListIndex = row;
+    raise(list.Click);
+  });
+}
+
+void double_click(list_box& list, std::int32_t row) {
+  run_event([&list, row] {
+    if (list.takes_input() && row >= 0 && row == list.ListIndex()) raise(list.DblClick);
+  });
+}
+
+void type(text_box& field, const std::string& text) {
+  run_event([&field, text] {
+    if (!field.takes_input() || field.designed.locked) return;
+    move_focus(&field);
+    const auto limit = static_cast<std::size_t>(field.designed.max_length);
+    field.Text = limit > 0 ? text.substr(0, limit) : text;
+  });
+}
+
+void choose(drive_list& drives, std::int32_t row) {
+  run_event([&drives, row] {
+    const auto count = static_cast<std::int32_t>(drives.rows().size());
+    if (!drives.takes_input() || row < 0 || row >= count) return;
+    move_focus(&drives);
+    drives.Drive = drives.rows()[static_cast<std::size_t>(row)];
+  });
+}
+
+void open_folder(dir_list& folders, std::int32_t row) {
+  run_event([&folders, row] {
+    const auto count = static_cast<std::int32_t>(folders.rows().size());
+    if (!folders.takes_input() || row < 0 || row >= count) return;
+    move_focus(&folders);
+    const std::string path = folders.rows()[static_cast<std::size_t>(row)].path;
+    if (row == folders.open_row()) {
+      reload_lists(folders.owner_form());
+    } else {
+      folders.Path = path;
+    }
+  });
+}
+
+void select_file(file_list& files, std::int32_t row) {
+  run_event([&files, row] {
+    if (!files.takes_input() || row < 0 || row >= files.ListCount()) return;
+    move_focus(&files);
+    files.ListIndex = row;
+    raise(files.Click);
+  });
+}
+
+void reload(form& window) {
+  run_event([&window] {
+    if (window.Visible() && window.Enabled()) reload_lists(window);
+  });
+}
+
+void resize(form& window, std::int32_t client_width, std::int32_t client_height) {
+  run_event([&window, client_width, client_height] {
+    const bool same =
+        window.client_width() == client_width && window.client_height() == client_height;
+    window.set_client_size(client_width, client_height);
+    if (!same) raise(window.Resize);
+  });
+}
+
+void close(form& window) {
+  run_event([&window] {
+    if (window.designed.control_box && window.Enabled()) raise(window.Unload);
+  });
+}
+
+void tick(timer& ticked) {
+  run_event(
+      [&ticked] {
+        if (ticked.Enabled()) raise(ticked.Timer);
+      },
+      &ticked);
+}
+
+}  // namespace forms_layer::user

@@ -1,0 +1,45 @@
+#include "handlers/window_switching.h"
+
+#include "archive/index_reader.h"
+#include "forms/forms.h"
+
+namespace ostrane {
+
+void open_form2() {
+  Form1.Enabled = false;
+  Form2.Visible = true;
+}
+
+void open_form4() {
+  Form4.Visible = true;
+  Form1.Visible = false;
+}
+
+void open_form5() {
+  Form1.Visible = false;
+  Form5.Visible = true;
+}
+
+void open_form6() {
+  Form1.Enabled = false;
+  Form6.Visible = true;
+  Form6.File1.Pattern = "*.txt";
+}
+
+void cancel_overlay(forms_layer::form& dialog) {
+  dialog.Visible = false;
+  Form1.Enabled = true;
+}
+
+void cancel_replacement(forms_layer::form& dialog) {
+  dialog.Visible = false;
+  Form1.Visible = true;
+}
+
+void read_archive_of_form2() {
+  read_archive(Form2.File1.Path());
+  Form1.Enabled = true;
+  Form2.Visible = false;
+}
+
+}  // namespace ostrane
