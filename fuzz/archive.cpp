@@ -52,14 +52,17 @@ std::int32_t browse(std::int32_t row, std::int32_t most_series) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::begin_on_empty_drives();
-  std::string archive = fuzz::text_of(data, size);
 #ifdef INPUT_IS_AN_ICON_FILE
-  archive = samples::archive_file({{"F.SHP", archive}, {"N.TXT", std::string(64, '\3')}});
+  const std::string file = fuzz::raw_or_made(data, size, fuzz::icon_file);
+  const std::string archive =
+      samples::archive_file({{"F.SHP", file}, {"N.TXT", std::string(64, '\3')}});
+#else
+  const std::string archive = fuzz::raw_or_made(data, size, fuzz::archive);
 #endif
   open_bytes(archive);
   fuzz::check(new_messages().size() <= 1, "an archive gives one message");
   // Many rows can lead to one icon file of many icons; what a user meets in one go is enough.
-  std::int32_t actions = 30;
+  std::int32_t actions = archive.size() < 65536 ? 30 : 2;
   for (std::int32_t row = 0; row < Form1.List1.ListCount() && actions > 0; ++row) {
     actions -= browse(row, actions);
     user::double_click(Form1.List1, row);

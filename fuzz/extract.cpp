@@ -22,7 +22,7 @@ void check_all_places(const fs::path& out, std::size_t archive_size) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string archive = fuzz::text_of(data, size);
+  const std::string archive = fuzz::raw_or_made(data, size, fuzz::archive);
   fuzz::begin_on_empty_drives();
   open_bytes(archive);
   new_messages();
@@ -34,6 +34,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::check(new_messages().size() <= 2, "an extraction gives two messages");
   fuzz::check(!Form3.Visible(), "the progress goes");
   fuzz::check(read("C:\\ostrane.dat") == archive, "the archive stays");
-  check_all_places(out, size);
+  check_all_places(out, archive.size());
   return 0;
 }

@@ -1,15 +1,17 @@
 #!/usr/bin/env bash
-# run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long; what
-# it finds new is kept and built on at the next time. run.sh short [TARGET]: some thousand inputs
-# each, the same ones every time. OSTRANE_BUILD names the folder to build in, build-test if it is
-# not set. Fails if there is a finding; its input stays in the folder "findings" there.
+# run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long,
+# starting from the inputs in fuzz/corpus; what it finds new is kept and built on at the next time.
+# run.sh short [TARGET]: some thousand inputs each, the same ones every time. run.sh corpus [TARGET]:
+# replaces fuzz/corpus by the fewest inputs, of these and of those kept, that reach the same.
+# OSTRANE_BUILD names the folder to build in, build-test if it is not set. Fails if there is a
+# finding; its input stays in the folder "findings" there.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 . scripts/clang_tools.sh
 
 [ $# -ge 1 ] || {
-  echo "usage: fuzz/run.sh SECONDS|short [TARGET]" >&2
+  echo "usage: fuzz/run.sh SECONDS|short|corpus [TARGET]" >&2
   exit 2
 }
 targets=("${@:2}")
@@ -21,8 +23,7 @@ build=$(realpath -m "${OSTRANE_BUILD:-build-test}/fuzz")
 cmake -S . -B "$build" -G Ninja -DCMAKE_CXX_COMPILER="clang++-$clang_version" -DOSTRANE_FUZZ=ON \
   -DOSTRANE_DESKTOP=OFF -DOSTRANE_TESTS=OFF -DCMAKE_BUILD_TYPE=Debug \
   -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1 -D_GLIBCXX_ASSERTIONS"
-cmake --build "$build" --target make_seeds "${targets[@]/#/fuzz_}"
-"$build/bin/make_seeds" "$build/seeds"
+cmake --build "$build" --target "${targets[@]/#/fuzz_}"
 
 # The drives of the tool lie in memory where the system has a folder there.
 work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
@@ -30,8 +31,7 @@ trap 'rm -rf "$work"' EXIT
 export TMPDIR=$work
 export ASAN_OPTIONS=quarantine_size_mb=8
 
-options=(-rss_limit_mb=768 -malloc_limit_mb=32 -max_len=4096 -dict=fuzz/words.dict
-  -print_final_stats=1)
+options=(-rss_limit_mb=768 -malloc_limit_mb=32 -max_len=4096 -print_final_stats=1)
 
 # Puts what a run tells in a line.
 summary() {
@@ -44,11 +44,25 @@ summary() {
     }' "$2"
 }
 
+# Judges by edges alone, not by how often they were reached: that keeps the corpus small.
+shrink_corpus() {
+  local shrunk=$work/shrunk
+  mkdir -p "$build/corpus/$1" "$shrunk"
+  "$build/bin/fuzz_$1" "${options[@]}" -merge=1 -use_counters=0 "$shrunk" "fuzz/corpus/$1" \
+    "$build/corpus/$1" 2>&1 | tail -n 1
+  rm -rf "fuzz/corpus/$1"
+  mv "$shrunk" "fuzz/corpus/$1"
+}
+
 failed=0
 mkdir -p "$build/findings"
 for target in "${targets[@]}"; do
+  if [ "$1" = corpus ]; then
+    shrink_corpus "$target"
+    continue
+  fi
   corpus=$build/corpus/$target
-  bound=(-max_total_time="$1" -timeout=5)
+  bound=(-max_total_time="$1" -timeout=10)
   if [ "$1" = short ]; then
     corpus=$work/corpus
     rm -rf "$corpus"
@@ -57,7 +71,7 @@ for target in "${targets[@]}"; do
   mkdir -p "$corpus"
   log=$work/$target.log
   if "$build/bin/fuzz_$target" "${options[@]}" "${bound[@]}" \
-    -artifact_prefix="$build/findings/$target-" "$corpus" "$build/seeds/$target" >"$log" 2>&1; then
+    -artifact_prefix="$build/findings/$target-" "$corpus" "fuzz/corpus/$target" >"$log" 2>&1; then
     echo "$(summary "$target" "$log"), no findings"
   else
     failed=1

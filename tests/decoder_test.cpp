@@ -27,6 +27,7 @@ TEST_F(decoder_test, APictureClipsToItsDrawingAreaAndKeepsItsCellsWhenResized) {
   for (const auto& [x, y] : {std::pair{-1, 1}, {4, 1}, {1, -1}, {1, 3}}) box.PSet(x, y, blue(9));
   box.PSet(0, 1, blue(4));
   box.PSet(3, 1, blue(5));
+  box.PSet(2147483647, 1, 2147483647, [blue](std::size_t) { return blue(9); });
   EXPECT_EQ(cells(), "7 7 . . | 4 . . 5 | . . . 8 | ");
   box.Width = 15 * 7;
   box.Height = 15 * 4;
@@ -57,6 +58,7 @@ TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
       // What lies beyond the picture is lost, on the left and above too.
       {row_of_4, stream({13, 1, 2, 3, 4, 5, 6, 0}), "1 2 3 4 | "},
       {{1, 2, -2, -1, 2, 1}, stream({2, 9, 0, 8, 5, 0, 7, 6, 6, 6, 0}), "5 5 . | 6 . . | "},
+      {{0, 3, INT32_MIN, 0, 3, 0}, stream({3, 5, 0}), ". . . . | "},
       // Nothing is taken behind the last row.
       {row_of_4, stream({0, 2, 9, 0}), ". . . . | "},
       {plain_icon(2, 2, 0).head, stream({0, 0}), ". . | . . | "},

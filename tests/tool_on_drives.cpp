@@ -5,7 +5,6 @@
 #include <random>
 #include <sstream>
 
-#include "files/case_insensitive_lookup.h"
 #include "files/drives.h"
 #include "handlers/start_up.h"
 
@@ -58,7 +57,6 @@ fs::path place(const std::string& path) {
 void write(const std::string& path, const std::string& bytes) {
   fs::create_directories(place(path).parent_path());
   std::ofstream(place(path), std::ios::binary) << bytes;
-  files::forget_folders();
 }
 
 std::string bytes_of(const fs::path& file) {

@@ -9,7 +9,6 @@
 #include "archive/new_index.h"
 #include "archive/progress.h"
 #include "archive/skipped_files.h"
-#include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_system.h"
@@ -34,6 +33,7 @@ constexpr const char* archive_name = "OSTRANE.DAT";
 
 struct build {
   std::string target_folder;
+  files::case_insensitive_lookup names;
   std::vector<std::string> files;
   std::vector<dat_record> records;
   std::int16_t total_bar_tick = 0;
@@ -83,7 +83,7 @@ void copy_file(build& job, std::size_t index, files::binary_file& archive) {
   std::int16_t small_block_bytes = 0;
   Form3.ProgressBar1.Min = 0;
   Form3.ProgressBar1.Max = static_cast<float>(size);
-  file_5.open_to_read(files::on_drives(path));
+  file_5.open_to_read(files::on_drives(path, job.names));
   show_current_file(job, index);
   const std::int32_t copied = chunk_ladder(file_5, archive, size, small_block_bytes);
   std::array<std::byte, 1> one_more;
@@ -92,8 +92,9 @@ void copy_file(build& job, std::size_t index, files::binary_file& archive) {
 }
 
 void write_archive(build& job) {
-  const std::string path = job.target_folder + archive_name;
-  files::replaced_file archive(files::on_drives(path));
+  const std::filesystem::path target =
+      files::system_path(job.target_folder, job.names) / files::system_name(archive_name);
+  files::replaced_file archive({target, job.target_folder + archive_name});
   write_index(job, archive.file());
   Form3.ProgressBar2.Max = static_cast<float>(job.records.size());
   Form3.ProgressBar2.Min = 0;
@@ -101,9 +102,8 @@ void write_archive(build& job) {
   archive.put_in_place();
   // The old archive has its name until the new one is there, so there never are two. If the
   // spelling cannot be changed the old one stays; names compare without regard to case.
-  archive.respell(files::system_path(job.target_folder) / files::system_name(archive_name));
+  archive.respell(target);
   archive.flush_folder();
-  files::forget_folders();
 }
 
 std::string files_left_out(const build& job) {
@@ -120,7 +120,7 @@ void run(build& job) {
   Form3.message.Caption = "Calculation internal offsets for the files in Ostrane.dat";
   Form3.Refresh();
   job.files = build_list();
-  job.records = make_new_index(job.target_folder, job.files);
+  job.records = make_new_index(job.target_folder, job.files, job.names);
   Form3.Refresh();
   write_archive(job);
   try {

@@ -30,6 +30,7 @@ constexpr std::int16_t entries_per_bar_step = 49;
 
 struct extraction {
   std::string target_folder;
+  files::case_insensitive_lookup names;
   files::file_stamp archive;
   std::int64_t archive_position = 0;  // of the current entry
   std::int16_t small_block_bytes = 0;
@@ -71,7 +72,8 @@ struct entry_file {
 
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& path, std::int32_t entry_size) {
-  entry_file file(files::on_drives(path));
+  entry_file file(files::on_drives(path, job.names));
+  if (file.is_new) job.names.add(file.path.system);
   if (!file.is_new && file_6.facts().stamp.identity == job.archive.identity) {
     return "it would be written over the open archive";
   }

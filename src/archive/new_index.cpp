@@ -5,6 +5,7 @@
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/file_system.h"
+#include "files/paths.h"
 #include "files/text.h"
 #include "state/tool_state.h"
 
@@ -39,13 +40,14 @@ record_name stored_name(record_name name) {
 }  // namespace
 
 std::vector<dat_record> make_new_index(const std::string& folder,
-                                       const std::vector<std::string>& files) {
+                                       const std::vector<std::string>& files,
+                                       files::case_insensitive_lookup& names) {
   const auto count = static_cast<std::int32_t>(files.size()) + 1;
   std::int32_t next_offset = count_size + record_size * count;
   std::vector<dat_record> records;
   records.reserve(files.size() + 1);
   for (std::size_t i = 0; i < files.size(); ++i) {
-    const std::int64_t size = files::file_size(folder + files[i]);
+    const std::int64_t size = files::file_size(files::on_drives(folder + files[i], names));
     const std::int32_t behind = offset_after(next_offset, size, folder + files[i]);
     make_record& record = tool_state.make_index[i];
     record.name = padded(files[i]);

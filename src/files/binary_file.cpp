@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include "files/case_insensitive_lookup.h"
 #include "files/file_calls.h"
 
 namespace files {
@@ -29,7 +28,6 @@ bool binary_file::open_to_write(const file_path& path) {
   prepare(path.shown);
   const int made = file_calls::open_new(path.system);
   take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, true);
-  if (made >= 0) remember_file(path.system);
   return made >= 0;
 }
 

@@ -1,6 +1,6 @@
 #include "files/case_insensitive_lookup.h"
 
-#include <unordered_map>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -15,19 +15,16 @@ namespace {
 namespace fs = std::filesystem;
 
 // A few names are looked up one by one; for more of them the whole folder is read, once.
-constexpr int asked_one_by_one = 8;
+constexpr int max_single_lookups = 8;
 
-struct remembered_folder {
-  int asked = 0;
-  bool is_read = false;
-  // The names in it by their upper-case form.
-  std::unordered_map<std::string, fs::path::string_type> names;
-};
+bool name_exists(const fs::path& path) {
+  std::error_code failed;
+  return fs::exists(fs::symlink_status(path, failed));
+}
 
-std::unordered_map<fs::path::string_type, remembered_folder> remembered;
-std::unordered_map<std::string, fs::path> remembered_places;
+}  // namespace
 
-void read_names(remembered_folder& known, const fs::path& folder) {
+void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) {
   if (std::exchange(known.is_read, true)) return;
   std::vector<listed_entry> listed;
   file_calls::list(folder, listed);
@@ -40,57 +37,32 @@ void read_names(remembered_folder& known, const fs::path& folder) {
   }
 }
 
-bool is_there(const fs::path& place) {
-  std::error_code failed;
-  return fs::exists(fs::symlink_status(place, failed));
-}
-
-}  // namespace
-
-fs::path find_in_folder(const fs::path& folder, const std::string& name) {
+fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string& name) {
   const fs::path as_given = system_name(name);
   fs::path exact = folder / as_given;
-  remembered_folder& known = remembered[folder.native()];
-  const bool one_by_one = !known.is_read && ++known.asked <= asked_one_by_one;
-  if (one_by_one && is_there(exact)) return exact;
-  read_names(known, folder);
+  folder_names& known = folders_[folder.native()];
+  const bool is_single = !known.is_read && ++known.lookups <= max_single_lookups;
+  if (is_single && name_exists(exact)) return exact;
+  read(known, folder);
   const auto found = known.names.find(upper_case(name));
-  if (found == known.names.end() || found->second == as_given.native() || is_there(exact)) {
+  if (found == known.names.end() || found->second == as_given.native() || name_exists(exact)) {
     return exact;
   }
   fs::path other_case = folder / found->second;
-  if (is_there(other_case)) return other_case;
+  if (name_exists(other_case)) return other_case;
   // It was deleted meanwhile. Another spelling of it may be there.
   known = {};
-  read_names(known, folder);
+  read(known, folder);
   const auto left = known.names.find(upper_case(name));
   return left == known.names.end() ? exact : folder / left->second;
 }
 
-const fs::path* remembered_place(const std::string& folder) {
-  const auto known = remembered_places.find(folder);
-  return known == remembered_places.end() ? nullptr : &known->second;
-}
-
-const fs::path& remember_place(const std::string& folder, fs::path place) {
-  return remembered_places.insert_or_assign(folder, std::move(place)).first->second;
-}
-
-void remember_file(const fs::path& path) {
-  try {
-    const auto known = remembered.find(path.parent_path().native());
-    if (known == remembered.end() || !known->second.is_read) return;
-    if (const std::optional<std::string> text = name_as_text(path.filename().native())) {
-      known->second.names.emplace(upper_case(*text), path.filename().native());
-    }
-  } catch (const std::bad_alloc&) {
-    forget_folders();
+void case_insensitive_lookup::add(const fs::path& path) {
+  const auto known = folders_.find(path.parent_path().native());
+  if (known == folders_.end() || !known->second.is_read) return;
+  if (const std::optional<std::string> text = name_as_text(path.filename().native())) {
+    known->second.names.emplace(upper_case(*text), path.filename().native());
   }
-}
-
-void forget_folders() {
-  remembered.clear();
-  remembered_places.clear();
 }
 
 }  // namespace files

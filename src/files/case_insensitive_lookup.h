@@ -2,22 +2,34 @@
 
 #include <filesystem>
 #include <string>
+#include <unordered_map>
 
 namespace files {
 
-// The place of `name` in `folder`: the exact name if it is there, else one that differs in case
-// only, else the name as given. A folder is read once at most
-// and remembered until forget_folders.
-std::filesystem::path find_in_folder(const std::filesystem::path& folder, const std::string& name);
+// Finds names in folders without regard to case. It reads a folder once at most and remembers the
+// names, so it lives no longer than one command.
+class case_insensitive_lookup {
+ public:
+  // The path of `name` in `folder`: the exact name if it exists, else one that differs in case
+  // only, else the name as given.
+  std::filesystem::path find(const std::filesystem::path& folder, const std::string& name);
 
-// The place of a folder of the tool that was looked up before, or null; and keeping it.
-const std::filesystem::path* remembered_place(const std::string& folder);
-const std::filesystem::path& remember_place(const std::string& folder, std::filesystem::path place);
+  // A file was made at `path`.
+  void add(const std::filesystem::path& path);
 
-// A file has come into being at `place`; what is remembered of its folder takes it in.
-void remember_file(const std::filesystem::path& place);
+  // The folders of the tool that were looked up before, by their paths with "\" at the end.
+  std::unordered_map<std::string, std::filesystem::path> known_folders;
 
-// To be called when somebody else may have changed the folders meanwhile.
-void forget_folders();
+ private:
+  struct folder_names {
+    int lookups = 0;
+    bool is_read = false;
+    // By their upper-case form.
+    std::unordered_map<std::string, std::filesystem::path::string_type> names;
+  };
+  static void read(folder_names& known, const std::filesystem::path& folder);
+
+  std::unordered_map<std::filesystem::path::string_type, folder_names> folders_;
+};
 
 }  // namespace files

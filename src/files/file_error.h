@@ -1,6 +1,8 @@
 #pragma once
 
+#include <exception>
 #include <string>
+#include <utility>
 
 namespace files {
 
@@ -18,7 +20,11 @@ enum class file_error_number {
 };
 
 // Thrown by the operations of files, folders and drives that say so.
-struct file_error {
+struct file_error : std::exception {
+  file_error(file_error_number what_failed, std::string sentence)
+      : number(what_failed), text(std::move(sentence)) {}
+  const char* what() const noexcept override { return text.c_str(); }
+
   file_error_number number;
   std::string text;  // names the path and says what is wrong, in a sentence for the user
 };

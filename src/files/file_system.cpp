@@ -6,7 +6,6 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/file_calls.h"
 #include "files/paths.h"
@@ -76,10 +75,10 @@ bool file_exists(const std::string& path) {
 
 bool folder_exists(const std::string& path) { return fs::is_directory(status_of(path)); }
 
-std::int64_t file_size(const std::string& path) {
+std::int64_t file_size(const file_path& path) {
   std::error_code failed;
-  const std::uintmax_t bytes = fs::file_size(system_path(path), failed);
-  if (failed) file_calls::fail(path, " cannot be read: ", -file_calls::errno_number(failed));
+  const std::uintmax_t bytes = fs::file_size(path.system, failed);
+  if (failed) file_calls::fail(path.shown, " cannot be read: ", -file_calls::errno_number(failed));
   return static_cast<std::int64_t>(bytes);
 }
 
@@ -90,7 +89,6 @@ void create_folder(const std::string& path) {
     failed = std::make_error_code(std::errc::file_exists);
   }
   if (failed) file_calls::fail(path, " cannot be made: ", -file_calls::errno_number(failed));
-  forget_folders();
 }
 
 std::vector<std::string> folders_in(const std::string& path) {

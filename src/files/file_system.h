@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "files/file_path.h"
+
 // The file-system service, on paths of the tool.
 namespace files {
 
@@ -12,7 +14,7 @@ bool file_exists(const std::string& path);
 bool folder_exists(const std::string& path);
 
 // In bytes. Throws file_error.
-std::int64_t file_size(const std::string& path);
+std::int64_t file_size(const file_path& path);
 // Throws file_error, also if the folder exists already.
 void create_folder(const std::string& path);
 

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
-#include "files/drives.h"
 #include "files/file_calls.h"
 #include "files/file_error.h"
 #include "files/system_name.h"
@@ -56,17 +54,16 @@ std::vector<std::string> names_of(const std::string& whole_path) {
   return names;
 }
 
-fs::path found_in(const fs::path& folder, const std::string& name, const std::string& whole) {
+fs::path found_in(const fs::path& folder, const std::string& name, const std::string& whole,
+                  case_insensitive_lookup& names) {
   if (drives_are_the_systems && name.find(':') != name.npos) report_colon_in_name(whole);
-  return find_in_folder(folder, name);
+  return names.find(folder, name);
 }
 
-fs::path place_of_folder(const std::string& whole) {
-  const drive* on = find_drive(whole[0]);
-  if (on == nullptr) report_missing_drive(whole);
-  fs::path place = on->folder;
-  for (const std::string& name : names_of(whole)) place = found_in(place, name, whole);
-  return place;
+fs::path find_folder(const std::string& whole, case_insensitive_lookup& names) {
+  fs::path path = drive_of(whole).folder;
+  for (const std::string& name : names_of(whole)) path = found_in(path, name, whole, names);
+  return path;
 }
 
 // `path` relative to `folder`, or nullopt if it is outside.
@@ -89,6 +86,12 @@ char drive_letter(std::string_view path) {
   const char letter = upper_case(path.front());
   const bool named = letter >= 'A' && letter <= 'Z' && (path.size() == 1 || path[1] == ':');
   return named ? letter : '\0';
+}
+
+const drive& drive_of(const std::string& path) {
+  const drive* named = find_drive(drive_letter(path));
+  if (named == nullptr) report_missing_drive(path);
+  return *named;
 }
 
 std::string full_path(const std::string& path) {
@@ -116,14 +119,25 @@ std::string full_path(const std::string& path) {
   return whole;
 }
 
-fs::path system_path(const std::string& path) {
+fs::path system_path(const std::string& path, case_insensitive_lookup& names) {
   const std::string whole = full_path(path);
   const std::size_t name_at = whole.rfind('\\') + 1;
   const std::string name = whole.substr(name_at);
   const std::string folder = whole.substr(0, name_at);
-  const fs::path* place = remembered_place(folder);
-  if (place == nullptr) place = &remember_place(folder, place_of_folder(folder));
-  return name.empty() ? *place : found_in(*place, name, whole);
+  auto known = names.known_folders.find(folder);
+  if (known == names.known_folders.end()) {
+    known = names.known_folders.emplace(folder, find_folder(folder, names)).first;
+  }
+  return name.empty() ? known->second : found_in(known->second, name, whole, names);
+}
+
+fs::path system_path(const std::string& path) {
+  case_insensitive_lookup names;
+  return system_path(path, names);
+}
+
+file_path on_drives(const std::string& path, case_insensitive_lookup& names) {
+  return {system_path(path, names), path};
 }
 
 file_path on_drives(const std::string& path) { return {system_path(path), path}; }
@@ -133,7 +147,7 @@ file_path in_current_folder(const std::string& name) {
   std::error_code failed;
   const fs::path folder = fs::current_path(failed);
   if (failed) file_calls::fail(name, " cannot be found: ", -file_calls::errno_number(failed));
-  return {find_in_folder(folder, name), name};
+  return {case_insensitive_lookup().find(folder, name), name};
 }
 
 std::string current_folder() {

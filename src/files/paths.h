@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "files/case_insensitive_lookup.h"
+#include "files/drives.h"
 #include "files/file_path.h"
 
 // Paths of the tool are "\"-separated and begin with a drive letter, such as "C:\icons\a.shp".
@@ -21,12 +23,17 @@ std::string full_path(const std::string& path);
 // The letter of the drive that a path or a drive's text names, upper case; 0 if it names none.
 char drive_letter(std::string_view path);
 
+// The drive that a path or a drive's text names. Throws file_error if there is none.
+const drive& drive_of(const std::string& path);
+
 // The system's path for a path of the tool. Names compare without regard to case: an exact match
 // first, else one that differs in case only; a name that does not exist yet stays as given. Throws
 // file_error if there is no such drive.
 std::filesystem::path system_path(const std::string& path);
+std::filesystem::path system_path(const std::string& path, case_insensitive_lookup& names);
 // The same with the path as it was given, for messages.
 file_path on_drives(const std::string& path);
+file_path on_drives(const std::string& path, case_insensitive_lookup& names);
 
 // A file of that name in the current folder of the process, even if the folder's path has no form
 // in the code page.

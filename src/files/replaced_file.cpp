@@ -29,6 +29,10 @@ std::string folded_name(const fs::path::string_type& system_name) {
 
 replaced_file::replaced_file(file_path target)
     : target_(std::move(target)), lock_(target_.system, target_.shown) {
+  // The copy that had the lock before may have changed the spelling.
+  if (const auto name = name_as_text(target_.system.filename().native())) {
+    target_.system = case_insensitive_lookup().find(target_.system.parent_path(), *name);
+  }
   remove_leftovers();
   int file = -EEXIST;
   for (int tries = 0; file == -EEXIST && tries < max_tries; ++tries) {

@@ -13,7 +13,8 @@ namespace files {
 // Nothing is put in place or deleted under a name that does not lead to what was written here.
 class replaced_file {
  public:
-  // `target` is the file to replace or make; the new file gets the rights and the owner of the old
+  // `target` is the file to replace or make. An old file whose name differs in case only is it too,
+  // unless there is one of the exact name. The new file gets the rights and the owner of the old
   // one. Throws file_error, as the others do.
   explicit replaced_file(file_path target);
   replaced_file(const replaced_file&) = delete;

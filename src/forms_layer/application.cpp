@@ -1,5 +1,6 @@
 #include "forms_layer/application.h"
 
+#include "forms_layer/file_service.h"
 #include "forms_layer/screen.h"
 
 namespace forms_layer {
@@ -12,6 +13,7 @@ bool ended = false;
 }  // namespace
 
 application_facts application;
+file_service system_files;
 
 screen* attached_screen() { return attached; }
 

@@ -26,8 +26,7 @@ void end_process();
 bool process_ended();
 void reset_end_of_process();
 
-// The state of a new process: nothing waits or has the focus, no message was
-// shown, nothing is remembered of folders.
+// The state of a new process: nothing waits or has the focus, and no message was shown.
 void begin_process();
 
 }  // namespace forms_layer

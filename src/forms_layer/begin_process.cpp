@@ -1,5 +1,3 @@
-#include "files/case_insensitive_lookup.h"
-#include "files/system_calls.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
 #include "forms_layer/message_box.h"
@@ -8,11 +6,9 @@
 namespace forms_layer {
 
 void begin_process() {
-  files::ignore_size_limit_signal();
   reset_end_of_process();
   forget_events();
   forget_messages();
-  files::forget_folders();
   user::forget_focus();
 }
 

@@ -1,33 +1,32 @@
 #include "forms_layer/dir_list.h"
 
 #include <algorithm>
+#include <exception>
 
-#include "files/file_error.h"
-#include "files/file_system.h"
-#include "files/paths.h"
+#include "forms_layer/file_service.h"
 
 namespace forms_layer {
 
 void dir_list::about_to_show() {
   if (!Path().empty()) return;
-  Path.value_ = files::current_folder();
+  Path.value_ = system_files.current_folder();
   try {
-    show(files::folders_in(Path()));
-  } catch (const files::file_error&) {
+    show(system_files.folders_in(Path()));
+  } catch (const std::exception&) {
     show({});
   }
 }
 
 void dir_list::set_path(const std::string& path) {
-  const std::string whole = files::full_path(path);
-  const std::vector<std::string> folders = files::folders_in(whole);
+  const std::string whole = system_files.full_path(path);
+  const std::vector<std::string> folders = system_files.folders_in(whole);
   const bool other = whole != Path();
   Path.value_ = whole;
   show(folders);
   if (other && Change) Change();
 }
 
-void dir_list::Refresh() { show(files::folders_in(Path())); }
+void dir_list::Refresh() { show(system_files.folders_in(Path())); }
 
 void dir_list::show(const std::vector<std::string>& folders_inside) {
   rows_.clear();
@@ -41,8 +40,9 @@ void dir_list::show(const std::vector<std::string>& folders_inside) {
     begin = end + 1;
   }
   open_row_ = static_cast<std::int32_t>(rows_.size()) - 1;
+  const std::string before_name = path.back() == '\\' ? path : path + '\\';
   for (const std::string& folder : folders_inside) {
-    rows_.push_back({folder, open_row_ + 1, false, files::with_separator(path) + folder});
+    rows_.push_back({folder, open_row_ + 1, false, before_name + folder});
   }
   tell_screen(property_id::items);
 }

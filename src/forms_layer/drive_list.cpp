@@ -2,19 +2,12 @@
 
 #include <algorithm>
 
-#include "files/drives.h"
-#include "files/file_error.h"
-#include "files/paths.h"
+#include "forms_layer/file_service.h"
 
 namespace forms_layer {
 
 void drive_list::set_drive(const std::string& text) {
-  const files::drive* named = files::find_drive(files::drive_letter(text));
-  if (named == nullptr) {
-    throw files::file_error{files::file_error_number::device_unavailable,
-                            "There is no drive " + text.substr(0, 1) + "."};
-  }
-  const std::string wanted = files::drive_text(*named);
+  const std::string wanted = system_files.drive_named_by(text);
   if (wanted == Drive()) return;
   Drive.value_ = wanted;
   tell_screen(property_id::selection);
@@ -22,11 +15,15 @@ void drive_list::set_drive(const std::string& text) {
 }
 
 void drive_list::about_to_show() {
-  files::find_drives();
-  const files::drive* current = files::find_drive(files::current_folder()[0]);
-  if (Drive().empty() && current != nullptr) Drive.value_ = files::drive_text(*current);
-  rows_.clear();
-  for (const files::drive& d : files::drives()) rows_.push_back(files::drive_text(d));
+  rows_ = system_files.drives();
+  if (Drive().empty()) {
+    const std::string current = system_files.current_folder().substr(0, 2);
+    const auto is_current = [&current](const std::string& row) {
+      return row.size() > 1 && row[1] == current[1] && (row[0] ^ 0x20) == current[0];
+    };
+    const auto found = std::find_if(rows_.begin(), rows_.end(), is_current);
+    if (found != rows_.end()) Drive.value_ = *found;
+  }
   tell_screen(property_id::items);
 }
 

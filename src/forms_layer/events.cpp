@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <deque>
+#include <exception>
 #include <new>
 #include <utility>
 
-#include "files/case_insensitive_lookup.h"
-#include "files/file_error.h"
 #include "forms_layer/application.h"
 #include "forms_layer/message_box.h"
 
@@ -33,13 +32,12 @@ struct running_mark {
 void run_one(const std::function<void()>& handler) {
   try {
     handler();
-  } catch (const files::file_error& error) {
-    message_box(error.text);
   } catch (const std::bad_alloc&) {
     if (application.OutOfMemory) application.OutOfMemory();
     message_box("There is not enough memory for this.");
+  } catch (const std::exception& error) {
+    message_box(error.what());
   }
-  files::forget_folders();
 }
 
 }  // namespace

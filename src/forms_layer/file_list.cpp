@@ -1,22 +1,22 @@
 #include "forms_layer/file_list.h"
 
-#include "files/file_error.h"
-#include "files/file_system.h"
-#include "files/paths.h"
+#include <exception>
+
+#include "forms_layer/file_service.h"
 
 namespace forms_layer {
 
 void file_list::about_to_show() {
   if (!Path().empty()) return;
-  Path.value_ = files::current_folder();
+  Path.value_ = system_files.current_folder();
   try {
     read(Path(), Pattern());
-  } catch (const files::file_error&) {
+  } catch (const std::exception&) {
     names_.clear();
   }
 }
 
-void file_list::set_path(const std::string& path) { read(files::full_path(path), Pattern()); }
+void file_list::set_path(const std::string& path) { read(system_files.full_path(path), Pattern()); }
 
 void file_list::set_pattern(const std::string& pattern) {
   Pattern.value_ = pattern;
@@ -26,11 +26,7 @@ void file_list::set_pattern(const std::string& pattern) {
 void file_list::Refresh() { read(Path(), Pattern()); }
 
 void file_list::read(const std::string& path, const std::string& pattern) {
-  std::vector<std::string> found;
-  for (std::string& name : files::files_in(path)) {
-    if (files::matches_pattern(name, pattern)) found.push_back(std::move(name));
-  }
-  names_ = std::move(found);
+  names_ = system_files.files_in(path, pattern);
   Path.value_ = path;
   Pattern.value_ = pattern;
   ListIndex = -1;

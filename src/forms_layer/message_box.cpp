@@ -1,6 +1,5 @@
 #include "forms_layer/message_box.h"
 
-#include "files/case_insensitive_lookup.h"
 #include "forms_layer/application.h"
 #include "forms_layer/screen.h"
 
@@ -14,7 +13,6 @@ std::function<void(const std::string&)> while_it_stands;
 }  // namespace
 
 void message_box(const std::string& text) {
-  files::forget_folders();
   if (screen* on = attached_screen()) {
     on->message_box(application.Title, text);
     return;

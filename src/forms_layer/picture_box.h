@@ -57,11 +57,14 @@ class picture_box : public control {
   }
 
   // PSet for `count` pixels of a row from x, y to the right; `colour_of` tells the colour of the
-  // pixel by its number, from 0 on.
+  // pixel by its number, from 0 on. `count` is not negative.
   template <typename ColourOf>
   void PSet(std::int32_t x, std::int32_t y, std::int32_t count, ColourOf colour_of) {
-    const std::size_t lost = x < 0 ? static_cast<std::size_t>(-x) : 0;
-    set_pixels(pixels_to_set(x, y, x + count),
+    // Unsigned, so that no x overflows. A sum past the largest number comes out below 0: no pixel.
+    const auto left = static_cast<std::uint32_t>(x);
+    const std::size_t lost = x < 0 ? 0U - left : 0U;
+    const auto x2 = static_cast<std::int32_t>(left + static_cast<std::uint32_t>(count));
+    set_pixels(pixels_to_set(x, y, x2),
                [&](std::size_t number) { return colour_of(lost + number); });
   }
 

@@ -1,8 +1,10 @@
 #include "handlers/start_up.h"
 
+#include "files/system_calls.h"
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
+#include "handlers/file_service.h"
 #include "handlers/out_of_memory.h"
 #include "handlers/wiring.h"
 #include "state/tool_state.h"
@@ -10,7 +12,9 @@
 namespace ostrane {
 
 void begin_tool(const std::filesystem::path& program_folder) {
+  files::ignore_size_limit_signal();
   forms_layer::begin_process();
+  connect_file_service();
   forms_layer::application.Title = "Ostrane.dat-tool";
   forms_layer::application.Path = program_folder;
   forms_layer::application.OutOfMemory = recover_from_lack_of_memory;

@@ -23,7 +23,7 @@ icon_name_pair pair_of(std::string_view line) {
 
 void read_rows() {
   files::text_reader reader(
-      {files::find_in_folder(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
+      {files::case_insensitive_lookup().find(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
   std::vector<icon_name_pair>& rows = tool_state.icon_names;
   while (!reader.at_end() && rows.size() <= max_icon_names) {
     rows.push_back(pair_of(reader.read_line()));
