@@ -43,7 +43,7 @@ class pictures : public QWidget {
   }
 };
 
-QImage image_of(const samples::picture& drawn) {
+QImage image_of(const picture& drawn) {
   QImage image(drawn.columns(), drawn.rows(), QImage::Format_RGB32);
   for (int y = 0; y < drawn.rows(); ++y) {
     auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
@@ -55,7 +55,7 @@ QImage image_of(const samples::picture& drawn) {
 }
 
 qint64 paint_pictures(int count, bool one_by_one) {
-  const std::vector<samples::picture> drawn = bench::mixed_pictures(count, side);
+  const std::vector<picture> drawn = bench::mixed_pictures(count, side);
   pictures window;
   window.resize(1900, 1200);
   bench::show_and_wait(window);
@@ -64,7 +64,7 @@ qint64 paint_pictures(int count, bool one_by_one) {
   QWidget message;
   message.resize(400, 300);
   if (one_by_one) bench::show_and_wait(message);
-  for (const samples::picture& one : drawn) {
+  for (const picture& one : drawn) {
     window.images.push_back(image_of(one));
     if (one_by_one) window.repaint(pictures::place(window.images.size() - 1));
   }

@@ -9,7 +9,7 @@
 #include <random>
 #include <stdexcept>
 
-#include "archive/format.h"
+#include "data/archive_format.h"
 #include "files/little_endian.h"
 
 namespace ostrane::bench {
@@ -37,7 +37,7 @@ record_name record_name_of(const std::string& text) {
 }
 
 // A stretch of a row: a gap, a run in one colour or pixels that all differ.
-void draw_stretch(samples::picture& drawn, int row, int from, int behind, unsigned kind) {
+void draw_stretch(picture& drawn, int row, int from, int behind, unsigned kind) {
   for (int x = from; x < behind; ++x) {
     if (kind == 0) continue;
     const int index = kind == 1 ? from + row : x * 7 + row * 13;
@@ -56,11 +56,11 @@ std::vector<std::string> shuffled_names(int count) {
   return names;
 }
 
-std::vector<samples::picture> mixed_pictures(int count, int side) {
+std::vector<picture> mixed_pictures(int count, int side) {
   std::mt19937 chance(2);  // NOLINT(cert-msc51-cpp): the same in every run
-  std::vector<samples::picture> pictures;
+  std::vector<picture> pictures;
   for (int i = 0; i < count; ++i) {
-    samples::picture drawn(side, side);
+    picture drawn(side, side);
     for (int row = 0; row < side; ++row) {
       for (int x = 0; x < side;) {
         const int behind = std::min(side, x + 1 + static_cast<int>(chance() % 16));

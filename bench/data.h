@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "picture.h"
+#include "data/picture.h"
 
 // What the benchmarks work on. All of it is the same in every run.
 namespace ostrane::bench {
@@ -21,7 +21,7 @@ constexpr int max_names = 32767;
 std::vector<std::string> shuffled_names(int count);
 
 // Square pictures of `side` pixels that mix runs, single pixels and gaps.
-std::vector<samples::picture> mixed_pictures(int count, int side);
+std::vector<picture> mixed_pictures(int count, int side);
 
 // Files of 8 to 24 KB, 16 KB on the average.
 std::vector<entry> files_of_64_mb();

@@ -5,16 +5,16 @@
 #include <memory>
 #include <numeric>
 
-#include "archive/entry_bounds.h"
-#include "archive/open_archive.h"
 #include "data.h"
+#include "data/entry_range.h"
+#include "data/icon_packer.h"
 #include "forms/forms.h"
 #include "forms_layer/user.h"
 #include "icons/decoder.h"
 #include "icons/shp_reader.h"
 #include "png_pictures.h"
-#include "shp_writer.h"
 #include "state/files.h"
+#include "state/open_archive.h"
 #include "state/tool_state.h"
 #include "tool.h"
 
@@ -25,8 +25,8 @@ using namespace ostrane;
 constexpr int icons = 5000;
 constexpr int side = 64;
 
-const std::vector<samples::picture>& pictures() {
-  static const std::vector<samples::picture> drawn = bench::mixed_pictures(icons, side);
+const std::vector<picture>& pictures() {
+  static const std::vector<picture> drawn = bench::mixed_pictures(icons, side);
   return drawn;
 }
 
@@ -39,7 +39,7 @@ forms_layer::picture_box& size_slot(std::int16_t index) {
 
 void begin_tool_on_icons() {
   const std::filesystem::path folder = bench::scratch("icons");
-  bench::write_archive(folder, {{"ICONS.SHP", samples::shp_file(pictures())}, {"N", "n"}});
+  bench::write_archive(folder, {{"ICONS.SHP", shp_file(pictures())}, {"N", "n"}});
   bench::begin_tool_on(folder);
   bench::open_archive("C:\\");
   forms_layer::user::select_row(Form1.List1, 0);
@@ -69,7 +69,7 @@ BENCHMARK(decode_icons_from_file)->Unit(benchmark::kMicrosecond);
 
 void libpng_from_file(benchmark::State& state) {
   std::string all;
-  for (const samples::picture& drawn : pictures()) all += bench::png_of(drawn);
+  for (const picture& drawn : pictures()) all += bench::png_of(drawn);
   const std::filesystem::path place = bench::scratch("png") / "all";
   bench::write_file(place, all);
   std::vector<unsigned char> pixels(std::size_t{side} * side);
@@ -92,8 +92,8 @@ struct stream_in_memory {
 
 std::vector<stream_in_memory> all_streams() {
   std::vector<stream_in_memory> streams;
-  for (const samples::picture& drawn : pictures()) {
-    samples::shp_icon icon = samples::make_icon(drawn);
+  for (const picture& drawn : pictures()) {
+    shp_icon icon = make_icon(drawn);
     streams.push_back({icon.head, std::move(icon.stream)});
   }
   return streams;

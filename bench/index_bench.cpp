@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "archive/format.h"
 #include "data.h"
+#include "data/archive_format.h"
 #include "files/little_endian.h"
 #include "forms/forms.h"
 #include "tool.h"

@@ -7,7 +7,7 @@
 #include <iostream>
 
 #include "data.h"
-#include "shp_writer.h"
+#include "data/icon_packer.h"
 
 namespace {
 
@@ -53,9 +53,9 @@ std::string text_of_32_kb() {
 }
 
 void make_icons(const fs::path& folder) {
-  bench::write_archive(folder, {{"I300.SHP", samples::shp_file(bench::mixed_pictures(300, 32))},
-                                {"I500.SHP", samples::shp_file(bench::mixed_pictures(500, 32))},
-                                {"I999.SHP", samples::shp_file(bench::mixed_pictures(999, 32))},
+  bench::write_archive(folder, {{"I300.SHP", shp_file(bench::mixed_pictures(300, 32))},
+                                {"I500.SHP", shp_file(bench::mixed_pictures(500, 32))},
+                                {"I999.SHP", shp_file(bench::mixed_pictures(999, 32))},
                                 {"LONG.TXT", text_of_32_kb()},
                                 {"SHORT.TXT", "short"}});
   bench::write_file(folder / "long.txt", text_of_32_kb());

@@ -27,7 +27,7 @@ void take_bytes(png_structp png, png_bytep to, size_t count) {
 
 }  // namespace
 
-std::string png_of(const samples::picture& drawn) {
+std::string png_of(const picture& drawn) {
   std::string bytes;
   png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, nullptr);
   png_infop info = png_create_info_struct(png);

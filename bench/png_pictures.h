@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "picture.h"
+#include "data/picture.h"
 
 namespace ostrane::bench {
 
 // A picture as a PNG file with a palette of 256 colours; unset cells are colour 0.
-std::string png_of(const samples::picture& drawn);
+std::string png_of(const picture& drawn);
 
 // Decodes a PNG from the bytes at `at` into `to`, one palette index a pixel, and moves `at` behind
 // it. `to` must be large enough.

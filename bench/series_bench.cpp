@@ -1,9 +1,9 @@
 #include <benchmark/benchmark.h>
 
 #include "data.h"
+#include "data/icon_packer.h"
 #include "forms/forms.h"
 #include "forms_layer/user.h"
-#include "shp_writer.h"
 #include "tool.h"
 
 namespace {
@@ -14,8 +14,8 @@ using namespace ostrane;
 void draw_series(benchmark::State& state) {
   const auto count = static_cast<int>(state.range(0));
   const std::filesystem::path folder = bench::scratch("series" + std::to_string(count));
-  bench::write_archive(
-      folder, {{"SERIES.SHP", samples::shp_file(bench::mixed_pictures(count, 32))}, {"N", "n"}});
+  bench::write_archive(folder,
+                       {{"SERIES.SHP", shp_file(bench::mixed_pictures(count, 32))}, {"N", "n"}});
   bench::begin_tool_on(folder);
   bench::open_archive("C:\\");
   bench::widen_window(2600, 2000, 999);

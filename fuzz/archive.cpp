@@ -2,7 +2,7 @@
 // and all series of its icons are looked at as a user would: motion, stepping, reports.
 #include <algorithm>
 
-#include "archive_writer.h"
+#include "data/archive_bytes.h"
 #include "target.h"
 
 using namespace ostrane;
@@ -54,8 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::begin_on_empty_drives();
 #ifdef INPUT_IS_AN_ICON_FILE
   const std::string file = fuzz::raw_or_made(data, size, fuzz::icon_file);
-  const std::string archive =
-      samples::archive_file({{"F.SHP", file}, {"N.TXT", std::string(64, '\3')}});
+  const std::string archive = archive_bytes({{"F.SHP", file}, {"N.TXT", std::string(64, '\3')}});
 #else
   const std::string archive = fuzz::raw_or_made(data, size, fuzz::archive);
 #endif

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <set>
 
-#include "archive/entry_bounds.h"
+#include "data/entry_range.h"
 #include "files/code_page.h"
 #include "target.h"
 

@@ -2,8 +2,8 @@
 // names get their descriptions, are saved and compared. Made parts share their names.
 #include <algorithm>
 
-#include "archive/format.h"
-#include "archive_writer.h"
+#include "data/archive_bytes.h"
+#include "data/archive_format.h"
 #include "target.h"
 
 using namespace ostrane;
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<entry> entries;
   for (std::size_t i = 2; i < parts.size(); ++i) entries.push_back({parts[i], "x"});
   entries.resize(std::min<std::size_t>(entries.size(), max_records - 1));
-  open_bytes(samples::archive_file(entries));
+  open_bytes(archive_bytes(entries));
   fuzz::check(new_messages().empty(), "the archive is good");
   user::click(Form1.mnu_save);
   click_rows(parts[0]);

@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "archive/format.h"
-#include "archive_writer.h"
+#include "data/archive_bytes.h"
+#include "data/archive_format.h"
+#include "data/icon_packer.h"
 #include "files/little_endian.h"
-#include "shp_writer.h"
 #include "target.h"
 
 namespace ostrane::fuzz {
@@ -36,7 +36,7 @@ std::string stream(fields& from) {
 }
 
 // 2181 is the last row or column of the largest picture.
-samples::shp_icon icon(fields& from) {
+shp_icon icon(fields& from) {
   icon_head head;
   head.no_of_rows = static_cast<std::int16_t>(number(from, {2, 30, 2181}));
   head.no_of_cols = static_cast<std::int16_t>(number(from, {4, 30, 2181}));
@@ -77,11 +77,11 @@ bool one_in(fields& from, std::uint8_t cases) {
 }
 
 std::string icon_file(fields& from) {
-  std::vector<samples::shp_icon> icons;
+  std::vector<shp_icon> icons;
   for (int left = from.ConsumeIntegralInRange(0, 8); left > 0; --left) icons.push_back(icon(from));
   if (one_in(from, 16))
     icons.resize(size(from, {300, max_icons_per_file}) % 6000, {icon(from).head, ""});
-  std::string file = samples::shp_file(icons);
+  std::string file = shp_file(icons);
   const auto count = static_cast<std::int32_t>(icons.size());
   if (one_in(from, 4)) put(file, 4, number(from, {count, max_icons_per_file}));
   const std::size_t n = from.ConsumeIntegralInRange<std::size_t>(0, 8);
@@ -91,12 +91,12 @@ std::string icon_file(fields& from) {
 }
 
 std::string archive(fields& from) {
-  std::vector<samples::sample_file> files;
+  std::vector<archive_entry> files;
   for (int left = from.ConsumeIntegralInRange(0, 8); left > 0; --left) {
     files.push_back({text(from, names), contents(from)});
   }
   if (one_in(from, 64)) files.resize(size(from, {300}) % 600, {text(from, names), ""});
-  std::string bytes = samples::archive_file(files);
+  std::string bytes = archive_bytes(files);
   const auto end = static_cast<std::int64_t>(bytes.size());
   const auto any = from.ConsumeIntegral<std::uint8_t>();
   if (one_in(from, 8)) put(bytes, 0, number(from, {max_records, any}));

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "picture.h"
+#include "data/picture.h"
 
 namespace ostrane::samples {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "picture.h"
+#include "data/picture.h"
 
 namespace ostrane::samples {
 

@@ -2,10 +2,10 @@
 
 #include "chime.h"
 #include "crests.h"
+#include "data/icon_packer.h"
 #include "game_palette.h"
 #include "gems.h"
 #include "rocket.h"
-#include "shp_writer.h"
 #include "texts.h"
 #include "tiles.h"
 #include "vistas.h"
@@ -33,7 +33,7 @@ std::string lost_icon() {
 
 }  // namespace
 
-std::vector<sample_file> sample_files() {
+std::vector<archive_entry> sample_files() {
   return {
       {"000DATUP.000", data_text()},
       {"ALMANAC.TXT", almanac_text()},

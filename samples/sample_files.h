@@ -1,16 +1,12 @@
 #pragma once
 
-#include <string>
 #include <vector>
+
+#include "data/archive_bytes.h"
 
 namespace ostrane::samples {
 
-struct sample_file {
-  std::string name;   // upper case, at most 13 characters
-  std::string bytes;  // one byte a character
-};
-
 // The files that the sample archive is built from.
-std::vector<sample_file> sample_files();
+std::vector<archive_entry> sample_files();
 
 }  // namespace ostrane::samples

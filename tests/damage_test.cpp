@@ -27,8 +27,8 @@ struct damage_test : icon_test {
     ASSERT_TRUE(read("C:\\ostrane.dat") == bytes);
   }
 
-  const std::string icons = samples::shp_file(
-      {plain_icon(9, 5, 7), refused_icon(4, 4), blank_icon(3, 3), plain_icon(2, 2, 1)});
+  const std::string icons =
+      shp_file({plain_icon(9, 5, 7), refused_icon(4, 4), blank_icon(3, 3), plain_icon(2, 2, 1)});
   const std::string whole =
       archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
 };
@@ -69,10 +69,10 @@ TEST_F(damage_test, AnyChangedByteOfTheIndexOrOfAnIconFileDoesNoHarm) {
 // 5000 icons of one kind: a message for each only where the icon's own fault is told.
 TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
   constexpr std::size_t many = 5000;
-  samples::shp_icon huge = blank_icon(2, 2);
+  shp_icon huge = blank_icon(2, 2);
   huge.head.no_of_rows = 32767;
   const struct {
-    samples::shp_icon icon;
+    shp_icon icon;
     int moved_by;  // the places of the icons
     std::size_t messages;
   } cases[] = {
@@ -80,7 +80,7 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
       {plain_icon(1, 1, 1), 1 << 30, 1}, {plain_icon(1, 1, 1), -(1 << 30), 1},
   };
   for (const auto& c : cases) {
-    std::string file = samples::shp_file(std::vector<samples::shp_icon>(many, c.icon));
+    std::string file = shp_file(std::vector<shp_icon>(many, c.icon));
     for (std::size_t n = 0; n < many; ++n) {
       file[8 + 8 * n + 3] = static_cast<char>(file[8 + 8 * n + 3] + c.moved_by / (1 << 24));
     }

@@ -73,7 +73,7 @@ TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
 // The longest operations, and a stream of more than one buffer, so that control bytes and operands
 // fall on both sides of a refill.
 TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
-  samples::picture drawn(254, 400);
+  picture drawn(254, 400);
   std::string expected;
   for (int y = 0; y < 400; ++y) {
     for (int x = 0; x < 254; ++x) {
@@ -82,7 +82,7 @@ TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
     }
     expected += "| ";
   }
-  const shp_icon icon = samples::make_icon(drawn);
+  const shp_icon icon = make_icon(drawn);
   ASSERT_EQ(icon.stream.size(), 400 * 131U);
   ASSERT_NE(32768 % 131, 0);
   show({{icon}});
@@ -92,8 +92,7 @@ TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
 // A stream cut off anywhere ends the icon; the cells painted so far stay and no message comes.
 TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
   const std::string bytes = stream({6, 1, 0, 7, 2, 3, 4, 0, 1, 2, 2, 5, 0});
-  const std::string file =
-      samples::shp_file(std::vector<shp_icon>{{plain_icon(3, 3, 0).head, bytes}});
+  const std::string file = shp_file(std::vector<shp_icon>{{plain_icon(3, 3, 0).head, bytes}});
   const char* const stages[] = {". . . | . . . | . . . | ", "1 1 1 | . . . | . . . | ",
                                 "1 1 1 | 2 . . | . . . | ", "1 1 1 | 2 3 . | . . . | ",
                                 "1 1 1 | 2 3 4 | . . . | ", "1 1 1 | 2 3 4 | . . 5 | "};
@@ -123,7 +122,7 @@ TEST_F(decoder_test, AnIconEndsWithTheBytesOfItsEntry) {
     while (whole.size() + 2 < bytes) whole += stream({1, 0});
     whole += stream({255, 7, 8, 9});
     const shp_icon icon = {plain_icon(4, 2, 0).head, whole.substr(0, bytes - 23)};
-    open_archive({{"F1.SHP", samples::shp_file(std::vector<shp_icon>{icon})},
+    open_archive({{"F1.SHP", shp_file(std::vector<shp_icon>{icon})},
                   {"NEXT.BIN", whole.substr(bytes - 23)},
                   palette_entry()});
     click_row("F1.SHP");

@@ -3,7 +3,7 @@
 namespace ostrane {
 namespace {
 
-std::string dots(std::size_t count) { return samples::shp_file(plain_icons(count, 1, 1)); }
+std::string dots(std::size_t count) { return shp_file(plain_icons(count, 1, 1)); }
 
 void write_icon_names(const std::string& lines) {
   write("C:\\program\\iconlist.csv", lines);

@@ -105,7 +105,7 @@ struct failing_disk_test : tool_test {
   const std::string archive = archive_bytes({{"A.TXT", some_bytes(70000)},
                                              {"B.TXT", ""},
                                              {"C.TXT", some_bytes(9)},
-                                             {"I.SHP", samples::shp_file(plain_icons(3, 40, 40))},
+                                             {"I.SHP", shp_file(plain_icons(3, 40, 40))},
                                              palette_entry()});
   const std::vector<file_job> jobs = {
       // With no archive open, as a new one would be read at once.

@@ -3,22 +3,20 @@
 #include <string>
 #include <vector>
 
-#include "shp_writer.h"
+#include "data/icon_packer.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
-
-using samples::shp_icon;
 
 // The bytes of an icon's stream from numbers.
 inline std::string stream(std::initializer_list<int> bytes) { return {bytes.begin(), bytes.end()}; }
 
 // An icon of that size in one colour, its data box all of the picture.
 inline shp_icon plain_icon(int columns, int rows, std::uint8_t index) {
-  samples::picture drawn(columns, rows);
+  picture drawn(columns, rows);
   for (int cell = 0; cell < columns * rows; ++cell)
     drawn.set(cell % columns, cell / columns, index);
-  return samples::make_icon(drawn);
+  return make_icon(drawn);
 }
 
 inline std::vector<shp_icon> plain_icons(std::size_t count, int columns, int rows) {
@@ -54,7 +52,7 @@ struct icon_test : tool_test {
     std::vector<entry> entries = {palette_entry(), {"N.TXT", "note"}};
     for (const auto& file : files) {
       const std::string number = std::to_string(entries.size() - 1);
-      entries.push_back({"F" + number + ".SHP", samples::shp_file(file)});
+      entries.push_back({"F" + number + ".SHP", shp_file(file)});
     }
     open_archive(entries);
     click_row("F1.SHP");

@@ -75,7 +75,7 @@ TEST_F(index_test, AMissingArchiveLeavesTheOpenOne) {
 
 // An archive that was written to is not looked into with the old index. Reading it again helps.
 TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
-  const std::string icons = samples::shp_file(plain_icons(3, 400, 400));
+  const std::string icons = shp_file(plain_icons(3, 400, 400));
   open_archive({{"A.SHP", icons}, {"N.TXT", "note"}});
   const std::string bytes = archive_bytes({{"A.SHP", icons}, {"N.TXT", "tone"}});
   write("C:\\ostrane.dat", bytes);
@@ -92,7 +92,7 @@ TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
 
 // It goes on after the same archive was read again, and ends with another one or none.
 TEST_F(index_test, NextSeriesIsOneOfTheOpenArchive) {
-  const std::vector<entry> entries = {{"A.SHP", samples::shp_file(plain_icons(9, 300, 300))}};
+  const std::vector<entry> entries = {{"A.SHP", shp_file(plain_icons(9, 300, 300))}};
   write("C:\\other\\ostrane.dat", archive_bytes(entries));
   for (const auto& [folders, next] : {std::pair{texts{"C:\\"}, true},
                                       {{"C:\\program", "C:\\"}, true},

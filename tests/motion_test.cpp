@@ -70,7 +70,7 @@ TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
 // A running motion must not step through the next series. A motion without slots ends at its first
 // tick, and the buttons cannot step through slots of an earlier series.
 TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
-  const std::string nine = samples::shp_file(plain_icons(9, 1, 1));
+  const std::string nine = shp_file(plain_icons(9, 1, 1));
   open_archive({{"A.SHP", nine}, {"B.SHP", with_number(nine, 4, -5)}});
   const std::pair<const char*, std::string> cases[] = {{"A.SHP", " 1 -  1: 200,800"},
                                                        {"B.SHP", " 1 -  0:"}};

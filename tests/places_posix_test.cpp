@@ -171,7 +171,7 @@ TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
     begin();
     build_in();
     const std::string refusal = "There are " + std::to_string(left) +
-                                " files in C:\\work. An archive holds at most 32766. No new "
+                                " files in C:\\work\\. An archive holds at most 32766. No new "
                                 "archive was made.";
     EXPECT_EQ(new_messages().front() == refusal, left > max_files) << left;
   }

@@ -111,7 +111,7 @@ TEST_F(series_test, RefusesIcons) {
 
 // Bad addresses and counts: the archive, the number in the message if there is one, and the view.
 TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
-  const std::string three = samples::shp_file(plain_icons(3, 1, 1));
+  const std::string three = shp_file(plain_icons(3, 1, 1));
   const auto at = [](std::int32_t offset) {
     return index_bytes(2, {{offset, " A.SHP"}, {38, ""}});
   };
@@ -164,8 +164,7 @@ TEST_F(series_test, ShowsNoMoreThan5000IconsAndNoneOfAnArchiveThatIsGone) {
 // with the bytes of their entry.
 TEST_F(series_test, TheNextSeriesReadsTheEntryThatItsDirectoryCameFrom) {
   type_max_icons("1");
-  open_archive(
-      {{"A.TXT", ""}, palette_entry(), {"F.SHP", samples::shp_file(plain_icons(2, 30, 30))}});
+  open_archive({{"A.TXT", ""}, palette_entry(), {"F.SHP", shp_file(plain_icons(2, 30, 30))}});
   click_row("F.SHP");
   click_row("A.TXT");
   user::click(Form1.Command6);

@@ -4,17 +4,12 @@
 
 #include <random>
 
-#include "archive_writer.h"
+#include "data/archive_bytes.h"
 #include "files/drives.h"
 #include "files/little_endian.h"
 #include "tool_on_drives.h"
 
 namespace ostrane {
-
-// The bytes of an archive in normal form: the entries in this order, then the end record.
-inline std::string archive_bytes(const std::vector<entry>& entries) {
-  return samples::archive_file(entries);
-}
 
 inline void open_archive(const std::vector<entry>& entries) { open_bytes(archive_bytes(entries)); }
 

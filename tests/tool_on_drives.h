@@ -17,7 +17,7 @@ namespace ostrane {
 namespace user = forms_layer::user;
 namespace fs = std::filesystem;
 
-using entry = samples::sample_file;
+using entry = archive_entry;
 using texts = std::vector<std::string>;
 using file_map = std::map<std::string, std::string>;  // bytes by names
 

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
 namespace ostrane {
-
-// With the end record, as many as a number of 16 bits can count.
-constexpr std::size_t max_files = 32766;
 
 // Builds `OSTRANE.DAT` in the folder of `Form5.Text1` from the files that `Form5.File1` lists, with
 // `Form3` on the screen meanwhile. The old archive stays until the new one is whole. If an archive

@@ -1,57 +1,21 @@
 #include "archive/index_reader.h"
 
-#include <array>
 #include <string_view>
-#include <vector>
 
-#include "archive/format.h"
+#include "data/archive_index.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_system.h"
-#include "files/little_endian.h"
 #include "files/paths.h"
 #include "files/text.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "palette/palette_store.h"
-#include "state/files.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& what) {
-  throw files::file_error{files::file_error_number::device_error,
-                          tool_state.archive_path + " cannot be read as an archive: " + what};
-}
-
-std::int32_t read_count() {
-  std::array<std::byte, count_size> bytes;
-  if (file_1.read(bytes) < bytes.size()) refuse("it ends within the number of its records.");
-  const std::int32_t count = files::int32_at(bytes, 0);
-  if (count < 0 || count > max_records) {
-    refuse("it gives " + std::to_string(count) +
-           " as the number of its records, which is from 0 to " + std::to_string(max_records) +
-           ".");
-  }
-  if (file_1.size() < count_size + std::int64_t{record_size} * count) {
-    refuse("it ends before the last of its " + std::to_string(count) + " records.");
-  }
-  return count;
-}
-
-std::vector<dat_record> read_records() {
-  const std::int32_t count = read_count();
-  std::vector<dat_record> records;
-  records.reserve(static_cast<std::size_t>(count));
-  std::array<std::byte, record_size> bytes;
-  for (std::int32_t i = 0; i < count; ++i) {
-    if (file_1.read(bytes) < bytes.size()) refuse("it was cut meanwhile.");
-    records.push_back(decode_record(bytes));
-  }
-  return records;
-}
 
 bool names_the_palette(std::string_view row) {
   const std::string_view name = files::trimmed(row);
@@ -79,13 +43,9 @@ void keep_stamp(const files::file_stamp& stamp) {
 }
 
 void read_index() {
-  file_1.open_to_read(files::on_drives(tool_state.archive_path));
-  const files::file_stamp stamp = file_1.facts().stamp;
-  const std::vector<dat_record> records = read_records();
-  if (file_1.facts().stamp != stamp) refuse("it was written to meanwhile.");
-  file_1.close();
-  keep_records(records);
-  keep_stamp(stamp);
+  const archive_index index = read_archive_index(files::on_drives(tool_state.archive_path));
+  keep_records(index.records);
+  keep_stamp(index.stamp);
 }
 
 // Shows why the index cannot be read.
@@ -96,7 +56,6 @@ bool try_to_read_index() {
   }
   const std::string failure = files::failure_of(read_index);
   if (failure.empty()) return true;
-  file_1.close();
   Form1.List1.Clear();
   forms_layer::message_box(failure);
   return false;

@@ -1,12 +1,12 @@
 #include "archive/new_folder.h"
 
+#include "data/sign_column_text.h"
 #include "files/file_error.h"
 #include "files/file_system.h"
 #include "files/paths.h"
 #include "files/text.h"
 #include "forms/form4.h"
 #include "forms_layer/message_box.h"
-#include "state/sign_column_text.h"
 
 namespace ostrane {
 

@@ -6,7 +6,7 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int32_t max_named = 20;
+constexpr std::size_t max_named = 20;
 
 // Control characters would break the lines of the message.
 std::string printable(std::string name) {
@@ -17,15 +17,16 @@ std::string printable(std::string name) {
 
 }  // namespace
 
-void add_skipped(skipped_files& files, const std::string& name, const std::string& reason) {
-  ++files.count;
-  if (files.count <= max_named) files.named += "\n>" + printable(name) + "<: " + reason;
-}
-
-std::string text_of(const skipped_files& files, const char* heading) {
-  if (files.count == 0) return "";
-  const std::int32_t more = files.count - max_named;
-  return heading + files.named + (more > 0 ? "\nand " + std::to_string(more) + " more." : "");
+std::string text_of(const std::vector<skipped_file>& files, const char* heading) {
+  if (files.empty()) return "";
+  std::string text = heading;
+  for (std::size_t i = 0; i < std::min(files.size(), max_named); ++i) {
+    text += "\n>" + printable(files[i].name) + "<: " + files[i].reason;
+  }
+  if (files.size() > max_named) {
+    text += "\nand " + std::to_string(files.size() - max_named) + " more.";
+  }
+  return text;
 }
 
 }  // namespace ostrane

@@ -1,21 +1,14 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
+#include <vector>
+
+#include "data/skipped_file.h"
 
 namespace ostrane {
 
-// Files or entries that a job has to tell of: the first 20 by name and reason, the others by
-// number.
-struct skipped_files {
-  std::string named;
-  std::int32_t count = 0;
-};
-
-// `reason` is the end of a sentence.
-void add_skipped(skipped_files& files, const std::string& name, const std::string& reason);
-
-// `heading` and one line for each file, or "" if there are none.
-std::string text_of(const skipped_files& files, const char* heading);
+// `heading` and one line for each file, the first 20 by name and reason, the others by number; ""
+// if there are none.
+std::string text_of(const std::vector<skipped_file>& files, const char* heading);
 
 }  // namespace ostrane

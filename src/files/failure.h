@@ -1,9 +1,8 @@
 #pragma once
 
+#include <exception>
 #include <new>
 #include <string>
-
-#include "files/file_error.h"
 
 namespace files {
 
@@ -12,10 +11,10 @@ template <typename Part>
 std::string failure_of(const Part& part) {
   try {
     part();
-  } catch (const file_error& error) {
-    return error.text;
   } catch (const std::bad_alloc&) {
     return "There is not enough memory for this.";
+  } catch (const std::exception& error) {
+    return error.what();
   }
   return "";
 }

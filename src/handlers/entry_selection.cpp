@@ -9,7 +9,6 @@
 #include "forms_layer/message_box.h"
 #include "icons/series.h"
 #include "icons/slots.h"
-#include "lists/icon_names.h"
 #include "lists/text_view.h"
 #include "palette/palette_view.h"
 #include "state/tool_state.h"
@@ -40,7 +39,7 @@ void draw_first_series() {
 }
 
 void add_description(const std::string& row) {
-  const std::size_t found = find_icon_name(row);
+  const std::size_t found = find_icon_name(tool_state.icon_names, row);
   if (found == 0) return;
   Form1.Frame1.Caption = Form1.Frame1.Caption() + " - " + tool_state.icon_names[found].description;
 }

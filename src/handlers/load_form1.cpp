@@ -5,7 +5,7 @@
 #include "forms_layer/application.h"
 #include "handlers/main_window.h"
 #include "icons/slots.h"
-#include "lists/icon_names.h"
+#include "lists/read_iconlist.h"
 #include "palette/palette_store.h"
 #include "state/tool_state.h"
 #include "state/version.h"

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "archive/format.h"
+#include "data/archive_format.h"
+#include "data/sign_column_text.h"
 #include "files/code_page.h"
 #include "files/text.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
-#include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
 namespace ostrane {

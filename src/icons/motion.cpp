@@ -4,10 +4,10 @@
 #include <cmath>
 #include <string>
 
+#include "data/sign_column_text.h"
 #include "files/text.h"
 #include "forms/form1.h"
 #include "icons/slot_grid.h"
-#include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
 namespace ostrane {

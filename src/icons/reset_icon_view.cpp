@@ -9,7 +9,7 @@ namespace ostrane {
 void reset_icon_view() {
   // A motion that went on would step through the slots of the next series.
   Form1.Timer1.Enabled = false;
-  tool_state.entry_bytes_left = 0;
+  tool_state.stream.entry_bytes_left = 0;
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
     Form1.s16_image(slot).Visible = false;
     Form1.s16_image(slot).Cls();

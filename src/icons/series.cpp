@@ -2,19 +2,20 @@
 
 #include <string>
 
-#include "archive/open_archive.h"
+#include "data/sign_column_text.h"
 #include "files/failure.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms_layer/message_box.h"
-#include "icons/decoder.h"
+#include "icons/decode_icon.h"
 #include "icons/place_icon_slot.h"
 #include "icons/reset_icon_view.h"
-#include "icons/show_working_message.h"
 #include "icons/shp_reader.h"
 #include "icons/slots.h"
+#include "progress/progress.h"
+#include "progress/show_working_message.h"
 #include "state/files.h"
-#include "state/sign_column_text.h"
+#include "state/open_archive.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -88,7 +89,7 @@ void draw_next_icon() {
   ++tool_state.current_slot;
   tool_state.icon_number = tool_state.next_icon;
   load_slot(tool_state.current_slot);
-  read_icon_head();
+  read_current_icon_head();
   if (tool_state.series_full == flag_true) return;
   draw_icon();
   Form1.Text2.Text = std::to_string(tool_state.icon_number);
@@ -119,10 +120,7 @@ void show_shp_series() {
   tool_state.current_slot = 0;
   tool_state.directory_read = flag_false;
   Form3.Visible = true;
-  Form3.ProgressBar1.Visible = false;
-  Form3.ProgressBar2.Visible = false;
-  Form3.Label1.Visible = false;
-  Form3.Label2.Visible = false;
+  show_bars(false);
   draw_under_working_message();
 }
 

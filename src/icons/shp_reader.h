@@ -11,7 +11,7 @@ void read_directory();
 // Reads the head of icon `icon_number` into `icon_header`, sets `entry_bytes_left` and empties the
 // read buffer; the file then stands on the first byte of the icon's stream. If there is no such
 // place in the file, a message says so and `series_full` becomes true.
-void read_icon_head();
+void read_current_icon_head();
 
 // The message about the icon of `icon_header`; `is_last` adds that further ones come without one.
 void report_refused_icon(bool is_last);

@@ -6,11 +6,17 @@
 #include "forms/form1.h"
 #include "forms/form6.h"
 #include "forms_layer/message_box.h"
-#include "lists/compare_report.h"
-#include "lists/shiplist.h"
+#include "lists/listed_names.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
+
+namespace {
+
+// In the root of drive C, whatever the current folder is.
+constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
+
+}  // namespace
 
 void compare_with_shiplist() {
   const std::string name(files::trimmed(Form6.Text1.Text()));
@@ -18,14 +24,16 @@ void compare_with_shiplist() {
     forms_layer::message_box("No shiplist is chosen. Click one in the list of files.");
     return;
   }
-  const std::string failure =
-      tool_state.archive_is_open == flag_false
-          ? "No archive is open. Read one first."
-          : files::failure_of([&] {
-              read_shiplist(files::with_separator(Form6.File1.Path()) + name);
-              sort_shiplist();
-              write_compare_report();
-            });
+  const std::string failure = tool_state.archive_is_open == flag_false
+                                  ? "No archive is open. Read one first."
+                                  : files::failure_of([&] {
+                                      const std::string path =
+                                          files::with_separator(Form6.File1.Path()) + name;
+                                      read_shiplist(files::on_drives(path), tool_state.comparison);
+                                      sort_shiplist(tool_state.comparison);
+                                      write_compare_report(files::on_drives(compare_report_path),
+                                                           listed_names(), tool_state.comparison);
+                                    });
   if (!failure.empty()) {
     forms_layer::message_box(failure + " Nothing was compared.");
     return;

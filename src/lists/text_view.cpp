@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <string>
 
-#include "archive/entry_bounds.h"
-#include "archive/open_archive.h"
+#include "data/entry_range.h"
 #include "files/failure.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
-#include "icons/show_working_message.h"
+#include "progress/show_working_message.h"
 #include "state/files.h"
+#include "state/open_archive.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -21,7 +21,7 @@ constexpr std::int64_t max_shown_bytes = std::int64_t{2} << 20U;
 // How many bytes of the entry the file holds.
 std::int64_t bytes_there(std::int32_t offset) {
   const std::int64_t to_end_of_file = offset < 0 ? 0 : file_1.size() - offset;
-  return std::clamp<std::int64_t>(tool_state.entry_bytes_left, 0,
+  return std::clamp<std::int64_t>(tool_state.stream.entry_bytes_left, 0,
                                   std::max<std::int64_t>(to_end_of_file, 0));
 }
 
@@ -47,9 +47,9 @@ std::string show_text(std::int32_t offset) {
 }  // namespace
 
 void show_text_entry() {
-  const std::int32_t offset = entry_start(tool_state.selected_index);
-  tool_state.entry_bytes_left =
-      in_32_bits(std::int64_t{entry_end(tool_state.selected_index)} - offset);
+  const std::int32_t offset = entry_start(index_records(), tool_state.selected_index);
+  tool_state.stream.entry_bytes_left =
+      in_32_bits(std::int64_t{entry_end(index_records(), tool_state.selected_index)} - offset);
   Form1.Text6.Text = "";
   show_working_message();
   std::string told;

@@ -1,18 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
-// The entry GAME.PAL: 256 colours of 4 bytes, 1024 bytes from the entry's first on.
-//
-//   offset in a colour   size   content
-//   0                    1      blue
-//   1                    1      green
-//   2                    1      red
-//   3                    1      nothing
 namespace ostrane {
-
-constexpr std::size_t palette_colours = 256;
-constexpr std::size_t colour_size = 4;  // bytes
 
 // Fills `colour_table` with the built-in colours.
 void set_default_palette();

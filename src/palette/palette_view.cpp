@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "data/sign_column_text.h"
 #include "forms/form1.h"
 #include "icons/slot_grid.h"
 #include "icons/slots.h"
-#include "state/sign_column_text.h"
 #include "state/tool_state.h"
 
 namespace ostrane {

@@ -6,12 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "archive/format.h"
+#include "data/archive_format.h"
+#include "data/icon_names.h"
+#include "data/icon_stream.h"
+#include "data/palette.h"
+#include "data/shiplist.h"
+#include "data/shp_format.h"
 #include "files/system_calls.h"
 #include "forms_layer/colour.h"
-#include "icons/icon_data.h"
-#include "icons/shp_format.h"
-#include "lists/icon_name_pair.h"
+#include "state/icon_data.h"
 
 namespace ostrane {
 
@@ -19,8 +22,6 @@ using flag = std::int16_t;
 constexpr flag flag_true = -1;
 constexpr flag flag_false = 0;
 
-constexpr std::int32_t read_buffer_size = 32768;
-constexpr std::int32_t max_icon_names = 32000;
 constexpr std::int32_t max_slots = 9999;
 
 // All that the tool knows while it runs. Every handler and procedure reads and writes it directly.
@@ -31,13 +32,10 @@ struct tool_state_record {
   std::filesystem::path app_path;  // folder of the running program
   std::string program_title;       // caption of the main window
 
-  std::array<std::byte, read_buffer_size> read_buffer;  // bytes of the run-length stream
-  std::int32_t read_buffer_fill = 0;                    // valid bytes in it
-  std::int32_t read_buffer_pos = 0;                     // index of the next byte
-  std::int32_t entry_bytes_left = 0;  // bytes of the open entry not yet read from the file
+  icon_stream stream;  // of the current icon
 
   std::int32_t game_pal_offset = 0;  // offset of GAME.PAL in the archive, 0 while none was met
-  std::array<std::array<std::uint8_t, 4>, 256> stored_palette = {};  // as stored: blue, green, red
+  ostrane::stored_palette stored_palette = {};
 
   std::int32_t record_count = 0;  // records of the index, end record included
   std::array<dat_record, max_records> dat_index;
@@ -49,7 +47,6 @@ struct tool_state_record {
   files::file_stamp archive_stamp;
 
   ostrane::shp_head shp_head;
-  ostrane::shp_dir_entry dir_entry;   // the one read last
   ostrane::icon_head icon_header;     // of the icon in work
   std::int32_t selected_index = 0;    // index in dat_index of the row clicked in List1
   std::int32_t directory_index = -1;  // index in dat_index of the entry in icon_positions, or -1
@@ -57,13 +54,8 @@ struct tool_state_record {
 
   std::array<forms_layer::colour, 256> colour_table = {};
 
-  std::uint8_t stream_byte = 0;    // current byte of the run-length stream
-  flag stream_ended = flag_false;  // no byte was left to take
   std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // in the file, counted from 1
-  std::int32_t cur_row = 0;                                         // of the pixel being drawn
-  std::int32_t cur_col = 0;
-  std::int16_t run_length = 0;    // of the current operation
-  std::int16_t icon_number = 0;   // of the icon in work, from 1
+  std::int16_t icon_number = 0;                                     // of the icon in work, from 1
   std::int16_t slots_loaded = 0;  // highest loaded index of s16_image; only grows
   std::int16_t twips_per_pixel_x = 0;
   std::int16_t twips_per_pixel_y = 0;
@@ -91,14 +83,11 @@ struct tool_state_record {
   flag size_was_told = flag_false;
   std::int16_t refusals_told = 0;
 
-  std::vector<icon_name_pair> icon_names;  // rows 1 to icon_name_count
-  std::int16_t icon_name_count = 0;
+  std::vector<icon_name_pair> icon_names;  // rows counted from 1
   std::array<icon_data_record, max_slots + 1> slot_data;
   std::int16_t max_icons = 0;  // most slots in one series
 
-  std::vector<std::string> shiplist_lines;
-  std::int16_t shiplist_last = 0;  // index of the final line
-  flag shiplist_walk_done = flag_false;
+  shiplist_comparison comparison;
 };
 
 extern tool_state_record tool_state;

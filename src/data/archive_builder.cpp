@@ -1,0 +1,73 @@
+#include "data/archive_builder.h"
+
+#include <array>
+
+#include "data/chunk_ladder.h"
+#include "data/data_error.h"
+#include "data/new_index.h"
+#include "files/file_system.h"
+#include "files/replaced_file.h"
+
+namespace ostrane {
+
+namespace {
+
+void copy_file(const build_list& list, std::size_t index, std::int32_t size,
+               files::binary_file& source, files::binary_file& archive,
+               const job_progress& progress) {
+  const std::string& name = list.names[index];
+  std::int16_t small_block_bytes = 0;
+  source.open_to_read(list.path_of(name));
+  progress.on_file(index, name, size);
+  const std::int32_t copied = chunk_ladder(source, archive, size, small_block_bytes, progress);
+  std::array<std::byte, 1> one_more;
+  if (copied < size || source.read(one_more) > 0) {
+    throw data_error(list.folder + name + " has changed its size meanwhile.");
+  }
+  source.close();
+}
+
+}  // namespace
+
+std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files) {
+  if (list.names.size() > max_files) {
+    throw data_error("There are " + std::to_string(list.names.size()) + " files in " + list.folder +
+                     ". An archive holds at most " + std::to_string(max_files) + ".");
+  }
+  std::int32_t next_offset = first_entry_offset(list.names.size());
+  std::vector<dat_record> records;
+  records.reserve(list.names.size() + 1);
+  for (std::size_t i = 0; i < list.names.size(); ++i) {
+    const std::int64_t size = files::file_size(list.path_of(list.names[i]));
+    if (next_offset + size > INT32_MAX) {
+      throw data_error("With " + list.folder + list.names[i] +
+                       " the archive would be larger than 2 GB, which is the most that it can be.");
+    }
+    files[i] = {.size = static_cast<std::int32_t>(size),
+                .name = padded_name(list.names[i]),
+                .offset = next_offset};
+    records.push_back({.offset = next_offset, .name = stored_name(files[i].name)});
+    next_offset += files[i].size;
+  }
+  records.push_back({.offset = next_offset, .name = {}});
+  return records;
+}
+
+void write_archive(const build_list& list, std::span<const make_record> files,
+                   std::span<const dat_record> records, const files::file_path& target,
+                   const job_progress& progress) {
+  files::replaced_file archive(target);
+  const std::string index = index_bytes(records);
+  archive.file().write(std::as_bytes(std::span(index)));
+  files::binary_file source;
+  for (std::size_t i = 0; i < list.names.size(); ++i) {
+    copy_file(list, i, files[i].size, source, archive.file(), progress);
+  }
+  archive.put_in_place();
+  // The old archive has its name until the new one is there, so there never are two. If the
+  // spelling cannot be changed the old one stays; names compare without regard to case.
+  archive.respell(target.system);
+  archive.flush_folder();
+}
+
+}  // namespace ostrane

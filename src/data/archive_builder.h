@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "data/archive_format.h"
+#include "data/job_progress.h"
+#include "files/file_path.h"
+
+namespace ostrane {
+
+constexpr const char* archive_name = "OSTRANE.DAT";
+
+// The files of a new archive, in their order.
+struct build_list {
+  std::string folder;  // what messages put in front of a name
+  std::vector<std::string> names;
+  std::function<files::file_path(const std::string& name)> path_of;
+};
+
+// Sizes the files and makes the index of their archive. `files` has a place for each. Throws
+// file_error, and data_error if there are too many files or too many bytes.
+std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files);
+
+// Writes the archive, which takes the place of an old one in one step when it is whole; of the old
+// one's name other spellings go. `files` and `records` are those of measure_files. Throws
+// file_error, and data_error if a file has changed its size; then the old archive is as it was.
+void write_archive(const build_list& list, std::span<const make_record> files,
+                   std::span<const dat_record> records, const files::file_path& target,
+                   const job_progress& progress);
+
+}  // namespace ostrane

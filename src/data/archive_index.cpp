@@ -1,0 +1,57 @@
+#include "data/archive_index.h"
+
+#include <array>
+#include <string>
+
+#include "data/data_error.h"
+#include "files/little_endian.h"
+
+namespace ostrane {
+
+namespace {
+
+[[noreturn]] void refuse(const files::file_path& path, const std::string& what) {
+  throw data_error(path.shown + " cannot be read as an archive: " + what);
+}
+
+std::int32_t read_count(files::binary_file& file, const files::file_path& path) {
+  std::array<std::byte, count_size> bytes;
+  if (file.read(bytes) < bytes.size()) refuse(path, "it ends within the number of its records.");
+  const std::int32_t count = files::int32_at(bytes, 0);
+  if (count < 0 || count > max_records) {
+    refuse(path, "it gives " + std::to_string(count) +
+                     " as the number of its records, which is from 0 to " +
+                     std::to_string(max_records) + ".");
+  }
+  if (file.size() < count_size + std::int64_t{record_size} * count) {
+    refuse(path, "it ends before the last of its " + std::to_string(count) + " records.");
+  }
+  return count;
+}
+
+}  // namespace
+
+archive_index read_archive_index(const files::file_path& path) {
+  files::binary_file file;
+  file.open_to_read(path);
+  archive_index index = {.records = {}, .stamp = file.facts().stamp};
+  const std::int32_t count = read_count(file, path);
+  index.records.reserve(static_cast<std::size_t>(count));
+  std::array<std::byte, record_size> bytes;
+  for (std::int32_t i = 0; i < count; ++i) {
+    if (file.read(bytes) < bytes.size()) refuse(path, "it was cut meanwhile.");
+    index.records.push_back(decode_record(bytes));
+  }
+  if (file.facts().stamp != index.stamp) refuse(path, "it was written to meanwhile.");
+  return index;
+}
+
+void open_unchanged(files::binary_file& file, const files::file_path& path,
+                    const files::file_stamp& stamp) {
+  file.open_to_read(path);
+  if (file.facts().stamp == stamp) return;
+  file.close();
+  throw data_error(path.shown + " has changed since it was read. Read it again.");
+}
+
+}  // namespace ostrane

@@ -1,0 +1,101 @@
+#include "data/compare_report.h"
+
+#include "data/compare_key.h"
+#include "data/sign_column_text.h"
+#include "files/text_file.h"
+
+namespace ostrane {
+
+namespace {
+
+// Walks at row i of the archive's names and at line j of the shiplist, and the names there.
+class report_walk {
+ public:
+  report_walk(files::text_writer& report, const name_list& archive, shiplist_comparison& ships)
+      : report_(report), archive_(archive), ships_(ships) {}
+
+  void run() {
+    ships_.shiplist_walk_done = false;
+    step_list();
+    step_ship();
+    while (!ships_.shiplist_walk_done) {
+      write_smaller_names();
+      // Both sides step on, whether or not their names agree now.
+      step_list();
+      step_ship();
+      ships_.shiplist_walk_done = i_ >= archive_.count - 1 || j_ >= ships_.shiplist_last;
+    }
+    while (i_ < archive_.count - 1) write_list_row();
+    while (j_ < ships_.shiplist_last) write_ship_row();
+  }
+
+ private:
+  void step_list() { list_key_ = compare_key(archive_.name(++i_)); }
+
+  // A line after the final one is empty.
+  void step_ship() {
+    const auto line = static_cast<std::size_t>(++j_);
+    const bool exists = line < ships_.shiplist_lines.size();
+    ship_key_ = exists ? compare_key(ships_.shiplist_lines[line]) : "";
+  }
+
+  // First of the archive, then of the shiplist, the names that sort before the other side's current
+  // name. The bound of the first run includes the end record.
+  void write_smaller_names() {
+    while (i_ < archive_.count && list_key_ < ship_key_) write_list_row();
+    while (j_ < ships_.shiplist_last && list_key_ > ship_key_) write_ship_row();
+  }
+
+  void write_list_row() {
+    const std::string number = std::to_string(i_);
+    const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
+    report_.write_line(indent + number + " " + list_key_);
+    step_list();
+  }
+
+  void write_ship_row() {
+    report_.write_line(std::string(20, ' ') + ship_key_);
+    step_ship();
+  }
+
+  files::text_writer& report_;
+  const name_list& archive_;
+  shiplist_comparison& ships_;
+  std::int32_t i_ = -1;
+  std::int32_t j_ = -1;
+  std::string list_key_;
+  std::string ship_key_;
+};
+
+void write_head(files::text_writer& report, std::int32_t records, std::int32_t lines) {
+  if (records != lines) {
+    report.write_line("Different number of Icons:");
+    report.write_line("");
+    report.write_line("# in Ostrane.dat=" + sign_column_text(records) +
+                      ", # in Shiplist=" + sign_column_text(lines));
+    report.write_line("");
+  }
+  report.write_line(
+      "The following differences was found between your Ostrane.dat and the shiplist");
+  report.write_line("");
+  report.write_line("      Present in    Present in   ");
+  report.write_line("Icon# Ostrane.dat   Shiplist     ");
+}
+
+}  // namespace
+
+void write_compare_report(const files::file_path& path, const name_list& archive,
+                          shiplist_comparison& comparison) {
+  files::text_writer report(path);
+  write_head(report, archive.count, comparison.shiplist_last + 1);
+  report_walk(report, archive, comparison).run();
+  report.close();
+}
+
+void write_name_list(const files::file_path& path, const name_list& archive) {
+  files::text_writer writer(path);
+  for (std::int32_t row = 0; row < archive.count; ++row) writer.write_line(archive.name(row));
+  writer.close();
+}
+
+}  // namespace ostrane

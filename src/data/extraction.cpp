@@ -1,0 +1,117 @@
+#include "data/extraction.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "data/chunk_ladder.h"
+#include "data/entry_file_name.h"
+#include "data/entry_range.h"
+#include "files/failure.h"
+#include "files/file_calls.h"
+
+namespace ostrane {
+
+namespace {
+
+// The file of an entry. If it is new it is removed unless it was written whole.
+struct entry_file {
+  files::binary_file& file;
+  files::file_path path;
+  bool is_new = false;
+  bool is_whole = false;
+
+  entry_file(files::binary_file& opened, files::file_path target)
+      : file(opened), path(std::move(target)) {
+    is_new = file.open_to_write(path);
+  }
+  entry_file(const entry_file&) = delete;
+  entry_file& operator=(const entry_file&) = delete;
+  ~entry_file() {
+    if (is_whole) return;
+    const bool drop = is_new && files::file_calls::is_at(file.handle(), path.system) != 0;
+    file.abandon();
+    if (drop) files::file_calls::remove_file(path.system);
+  }
+};
+
+struct extraction {
+  files::binary_file& archive;
+  std::span<const dat_record> records;
+  const target_of_entry& target;
+  const file_was_made& on_made;
+  const job_progress& progress;
+  files::binary_file file = {};
+  files::file_stamp stamp = {};
+  std::int64_t position = 0;  // of the current entry in the archive
+  std::int16_t small_block_bytes = 0;
+  extraction_result result = {};
+};
+
+// Returns why the entry was not written, or "". Throws file_error.
+std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
+  entry_file to(job.file, job.target(name));
+  if (to.is_new) {
+    job.on_made(to.path);
+  } else if (to.file.facts().stamp.identity == job.stamp.identity) {
+    return "it would be written over the open archive";
+  }
+  job.archive.seek(job.position);
+  const std::int32_t copied =
+      chunk_ladder(job.archive, to.file, size, job.small_block_bytes, job.progress);
+  if (copied < size) return "the archive ends before it does";
+  to.file.close();
+  to.is_whole = true;
+  return "";
+}
+
+// Why the entry cannot be written, before its file is touched, or "".
+std::string reason_to_skip(const extraction& job, const std::string& name, std::int32_t size) {
+  if (size < 0) return "the index gives it a size below 0";
+  std::string reason = unsafe_name_reason(name);
+  if (reason.empty() && job.position + size > job.stamp.size) {
+    reason = "the archive ends before it does";
+  }
+  return reason;
+}
+
+std::string try_to_write_entry(extraction& job, const std::string& name, std::int32_t size) {
+  std::string reason = reason_to_skip(job, name, size);
+  if (!reason.empty()) return reason;
+  try {
+    return write_entry(job, name, size);
+  } catch (const files::file_error& error) {
+    if (error.number == files::file_error_number::disk_full) throw;
+    return error.text;
+  }
+}
+
+void extract_entry(extraction& job, std::size_t index) {
+  const std::int32_t size =
+      in_32_bits(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
+  const std::string name = name_with_blanks(job.records[index].name);
+  job.progress.on_file(index, name, size);
+  const std::string reason = try_to_write_entry(job, name, size);
+  job.position += std::max(size, 0);
+  if (!reason.empty()) {
+    job.result.skipped.push_back({name, reason});
+    return;
+  }
+  ++job.result.written;
+  if (name.front() == '.') job.result.hidden.push_back({name, "its name begins with a dot"});
+}
+
+}  // namespace
+
+extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
+                                  const target_of_entry& target, const file_was_made& on_made,
+                                  const job_progress& progress) {
+  extraction job{archive, records, target, on_made, progress};
+  job.result.stopped = files::failure_of([&] {
+    job.stamp = archive.facts().stamp;
+    if (!records.empty()) job.position = records[0].offset;
+    for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
+  });
+  return std::move(job.result);
+}
+
+}  // namespace ostrane

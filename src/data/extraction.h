@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "data/archive_format.h"
+#include "data/job_progress.h"
+#include "data/skipped_file.h"
+#include "files/binary_file.h"
+
+namespace ostrane {
+
+struct extraction_result {
+  std::int32_t written = 0;           // entries
+  std::vector<skipped_file> skipped;  // entries that were not written
+  std::vector<skipped_file> hidden;   // files that the system does not show by itself
+  std::string stopped;                // why the job ended before its end, or ""
+};
+
+// Where the file of an entry goes.
+using target_of_entry = std::function<files::file_path(const std::string& name)>;
+// Called when that file was made new.
+using file_was_made = std::function<void(const files::file_path& path)>;
+
+// Writes every entry of an open archive to a file of its own, over one of its name or as a new one.
+// The entries lie one after the other from the offset of the first record on. A full disk and a
+// lack of memory stop the job; any other failure skips the entry. A new file that is not whole is
+// removed. The archive itself is never written to.
+extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
+                                  const target_of_entry& target, const file_was_made& on_made,
+                                  const job_progress& progress);
+
+}  // namespace ostrane

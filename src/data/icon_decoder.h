@@ -1,0 +1,99 @@
+#pragma once
+
+#include <algorithm>
+#include <limits>
+
+#include "data/icon_stream.h"
+#include "data/shp_format.h"
+
+// The run-length stream of an icon paints its data box row by row. The control byte b decides:
+//
+//   b                 operands           effect
+//   0                 none               end of the row: down by 1, back to the first column
+//   1                 a count            that many columns to the right, no pixel is touched
+//   even, 2 to 254    a palette index    b / 2 pixels of that colour
+//   odd, 3 to 255     (b - 1) / 2 bytes  one palette index for each of as many pixels
+//
+// The stream ends with the last row of the box; nothing marks its end.
+namespace ostrane {
+
+// Paints one icon on a canvas, which clips to its own area and has
+//   void run(column, row, count, index): `count` pixels to the right with one palette index
+//   void pixels(column, row, count, indices): one index (std::byte) for each
+template <typename Canvas>
+class icon_decoder {
+ public:
+  icon_decoder(icon_stream& stream, files::binary_file& file, const icon_head& head, Canvas& canvas)
+      : stream_(stream), file_(file), head_(head), canvas_(canvas) {}
+
+  // A stream that runs out ends the icon. Throws file_error.
+  void decode() {
+    stream_.cur_row = head_.row_start;
+    stream_.cur_col = head_.col_start;
+    stream_.stream_ended = false;
+    while (stream_.cur_row <= head_.row_end) {
+      take_stream_byte(stream_, file_);
+      if (stream_.stream_ended) return;
+      decode_stream_op();
+    }
+  }
+
+ private:
+  // To the right of every picture, with room for one more step before the numbers end.
+  static constexpr std::int32_t column_limit = std::numeric_limits<std::int32_t>::max() - 1024;
+
+  void decode_stream_op() {
+    if (stream_.stream_byte == 0) {
+      stream_.cur_col = head_.col_start;
+      ++stream_.cur_row;
+    } else if (stream_.stream_byte == 1) {
+      take_stream_byte(stream_, file_);
+      move_right(stream_.stream_byte);
+    } else if (stream_.stream_byte % 2 == 0) {
+      paint_run();
+    } else {
+      paint_literals();
+    }
+  }
+
+  void move_right(std::int32_t columns) {
+    if (stream_.cur_col < column_limit) stream_.cur_col += columns;
+  }
+
+  void paint_run() {
+    stream_.run_length = static_cast<std::int16_t>(stream_.stream_byte / 2);
+    take_stream_byte(stream_, file_);
+    if (stream_.stream_ended) return;
+    canvas_.run(stream_.cur_col, stream_.cur_row, stream_.run_length, stream_.stream_byte);
+    move_right(stream_.run_length);
+  }
+
+  void paint_literals() {
+    stream_.run_length = static_cast<std::int16_t>((stream_.stream_byte - 1) / 2);
+    for (std::int32_t left = stream_.run_length; left > 0;) {
+      const std::int32_t count = std::min(left, buffered_bytes(stream_, file_));
+      if (count == 0) {
+        take_stream_byte(stream_, file_);
+        return;
+      }
+      paint_buffered_literals(count);
+      left -= count;
+    }
+  }
+
+  void paint_buffered_literals(std::int32_t count) {
+    const std::byte* indices =
+        stream_.read_buffer.data() + static_cast<std::size_t>(stream_.read_buffer_pos);
+    canvas_.pixels(stream_.cur_col, stream_.cur_row, count, indices);
+    stream_.stream_byte = std::to_integer<std::uint8_t>(indices[count - 1]);
+    stream_.read_buffer_pos += count;
+    move_right(count);
+  }
+
+  icon_stream& stream_;
+  files::binary_file& file_;
+  const icon_head& head_;
+  Canvas& canvas_;
+};
+
+}  // namespace ostrane

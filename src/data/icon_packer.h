@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "data/picture.h"
+#include "data/shp_format.h"
+
+namespace ostrane {
+
+// An icon as it will stand in the file. Every number of its head can be changed before it is
+// written, to make an icon that a reader has to turn down.
+struct shp_icon {
+  icon_head head;
+  std::string stream;  // one byte a character
+};
+
+// The head of an icon for a picture. Its data box is the smallest one with all set cells in it, and
+// the first cell alone if no cell is set.
+icon_head head_of(const picture& drawn);
+
+// The run-length stream of the cells in the data box of `head`, which must lie in the picture.
+std::string packed(const picture& drawn, const icon_head& head);
+
+shp_icon make_icon(const picture& drawn);
+
+// The bytes of a whole icon file: head, directory, icons.
+std::string shp_file(const std::vector<shp_icon>& icons);
+std::string shp_file(const std::vector<picture>& pictures);
+
+}  // namespace ostrane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace ostrane {
+
+// A picture of palette indices, row by row. A cell is unset, so that what is behind the picture
+// shows through, or holds an index of 0 to 255.
+class picture {
+ public:
+  static constexpr std::int16_t unset = -1;
+
+  picture(int columns, int rows)
+      : columns_(columns),
+        rows_(rows),
+        cells_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), unset) {}
+
+  int columns() const { return columns_; }
+  int rows() const { return rows_; }
+
+  // Column and row must lie in the picture.
+  std::int16_t at(int column, int row) const { return cells_[place(column, row)]; }
+  void set(int column, int row, std::uint8_t index) { cells_[place(column, row)] = index; }
+  bool is_set(int column, int row) const { return at(column, row) != unset; }
+
+ private:
+  std::size_t place(int column, int row) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
+  }
+
+  int columns_;
+  int rows_;
+  std::vector<std::int16_t> cells_;
+};
+
+}  // namespace ostrane

@@ -1,0 +1,66 @@
+#include "data/shp_reader.h"
+
+#include <algorithm>
+#include <array>
+
+#include "data/entry_range.h"
+
+namespace ostrane {
+
+namespace {
+
+// Far more bytes than a picture has use for. Without such a bound a small directory that names one
+// long stream again and again would keep the tool busy for minutes.
+constexpr std::int64_t max_bytes_per_pixel = 16;
+constexpr std::int64_t max_bytes_besides = 65536;
+
+std::int64_t max_stream_bytes(const icon_head& head) {
+  const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
+  const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
+  return max_bytes_per_pixel * rows * columns + max_bytes_besides;
+}
+
+template <std::size_t Size>
+bool read_at(files::binary_file& file, std::int64_t offset, std::array<std::byte, Size>& bytes) {
+  if (offset < 0) return false;
+  file.seek(offset);
+  return file.read(bytes) == bytes.size();
+}
+
+}  // namespace
+
+bool read_shp_head(files::binary_file& file, std::int32_t entry_offset, shp_head& head) {
+  std::array<std::byte, shp_head_size> bytes;
+  if (!read_at(file, entry_offset, bytes)) return false;
+  head = decode_shp_head(bytes);
+  return true;
+}
+
+void read_icon_positions(files::binary_file& file, std::int32_t entry_offset,
+                         std::span<std::int32_t> positions) {
+  std::array<std::byte, shp_dir_entry_size> bytes;
+  for (std::int32_t& position : positions) {
+    const bool is_there = file.read(bytes) == bytes.size();
+    position =
+        is_there
+            ? in_32_bits(std::int64_t{entry_offset} + decode_shp_dir_entry(bytes).icon_offset + 1)
+            : 0;
+  }
+}
+
+bool read_icon_head(files::binary_file& file, std::int32_t icon_position, icon_head& head) {
+  std::array<std::byte, icon_head_size> bytes;
+  if (!read_at(file, std::int64_t{icon_position} - 1, bytes)) return false;
+  head = decode_icon_head(bytes);
+  return true;
+}
+
+void begin_stream(icon_stream& stream, const icon_head& head, std::int32_t icon_position,
+                  std::int32_t entry_end) {
+  const std::int64_t to_end_of_entry = std::int64_t{entry_end} - icon_position;
+  stream.entry_bytes_left = in_32_bits(std::min(to_end_of_entry, max_stream_bytes(head)));
+  stream.read_buffer_fill = 0;
+  stream.read_buffer_pos = 0;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,21 @@
+#include "state/open_archive.h"
+
+#include "data/archive_index.h"
+#include "data/data_error.h"
+#include "files/paths.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+void open_archive_file(files::binary_file& file) {
+  if (tool_state.archive_is_open == flag_false) {
+    throw data_error("No archive is open. Read one first.");
+  }
+  open_unchanged(file, files::on_drives(tool_state.archive_path_copy), tool_state.archive_stamp);
+}
+
+std::span<const dat_record> index_records() {
+  return std::span(tool_state.dat_index).first(static_cast<std::size_t>(tool_state.record_count));
+}
+
+}  // namespace ostrane
