@@ -1,22 +1,24 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the tool, puts a sample archive into ~/ostrane-sample and starts
-# the tool. Without a display it starts on a virtual one and ends with a screenshot.
+# the tool. Without a display it starts the tool on a virtual one, takes a screenshot and ends.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-shown=yes
-[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || shown=no
-
-need_packages "${build_packages[@]}"
-[ $shown = yes ] || need_packages "${virtual_display_packages[@]}"
+purposes=(build)
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  purposes+=(display)
+elif [ -z "${DISPLAY:-}" ]; then
+  purposes+=(wayland)
+fi
+need "${purposes[@]}"
 
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_TESTS=OFF
 cmake --build build
 
 scripts/put_sample.sh build/sample ~/ostrane-sample
 
-if [ $shown = yes ]; then
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec build/bin/ostrane-dat-tool
 fi
 scripts/on_virtual_display.sh scripts/take_screenshot.sh build/bin/ostrane-dat-tool \

@@ -1,51 +1,83 @@
 #!/usr/bin/env bash
-# Installs what is missing, then builds and runs all tests: as they are, and once more with the
-# address and undefined-behaviour sanitizers. Checks layout, lint and packaging too, runs each
-# benchmark once and the fuzz targets for a while, and tests all but the windows under Wine, where
-# the tools for that are there (CI installs them). OSTRANE_BUILD names the folder to build in,
-# build-test if it is not set.
+# Builds the tool, runs all tests and checks, and ends with a summary of what passed and what was
+# skipped. Installs what the first tests need. A further step is skipped if its packages are missing;
+# with CI=1 they are installed. The steps up to "Documents" are commands that CONTRIBUTING.md shows.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
-. scripts/clang_tools.sh
 
-build=${OSTRANE_BUILD:-build-test}
-export QT_QPA_PLATFORM=offscreen
-
-need_packages "${build_packages[@]}" libgtest-dev
-[ -z "${CI:-}" ] || need_packages clang-format clang-tidy desktop-file-utils appstream dpkg-dev file
+export CTEST_PARALLEL_LEVEL=${CTEST_PARALLEL_LEVEL:-$(nproc)}
 ! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 
-configure_and_build() {
-  cmake -S . -B "$@" -G Ninja
-  cmake --build "$1"
+summary=()
+current=
+print_summary() {
+  local status=$?
+  [ -z "$current" ] || summary+=("FAILED   $current")
+  printf '\nSummary\n'
+  printf '  %s\n' "${summary[@]}"
+  case "${summary[*]}" in
+    *"not installed: "*) echo "CI=1 ./test.sh installs what is missing and skips no step." ;;
+  esac
+  exit $status
 }
 
-run_tests() { ctest --test-dir "$1" --output-on-failure --no-tests=error -j "$(nproc)"; }
+# step NAME PURPOSES COMMAND: runs the command, which needs the packages for the purposes.
+step() {
+  local name=$1 command=$3 start=$SECONDS purposes packages missing
+  read -ra purposes <<<"$2"
+  mapfile -t packages < <(packages_for "${purposes[@]}")
+  current=$name
+  [ -z "${CI:-}" ] || need_packages "${packages[@]}"
+  missing=$(missing_packages "${packages[@]}" | xargs)
+  if [ -n "$missing" ]; then
+    summary+=("skipped  $name; not installed: $missing")
+  else
+    printf '\n== %s\n' "$name"
+    bash -euo pipefail -c "$command"
+    summary+=("passed   $name, $((SECONDS - start)) s")
+  fi
+  current=
+}
 
-scripts/check_layout.sh
+# list_skipped_tests BUILD: adds the tests that were skipped there, and why.
+list_skipped_tests() {
+  local tests
+  mapfile -t tests < <(awk '
+    / Skipped$/ { getline reason }
+    /^\[  SKIPPED \] .* ms\)/ { print "skipped    " $4 ": " reason }
+    ' "$1/Testing/Temporary/LastTest.log")
+  summary+=("${tests[@]}")
+}
 
-configure_and_build "$build/plain" -DCMAKE_BUILD_TYPE=Release
-run_tests "$build/plain"
+need build test
+trap print_summary EXIT
 
-if [ -n "${CI:-}" ] || is_installed libbenchmark-dev; then
-  OSTRANE_BUILD=$build/plain bench/peers.sh 1
+step 'Layout' layout \
+  'scripts/check_layout.sh'
+step 'Build and tests' 'build test' \
+  'cmake --preset release && cmake --build --preset release && ctest --preset release'
+list_skipped_tests build-release
+step 'Benchmarks, once' 'build bench display' \
+  'OSTRANE_BUILD=build-release bench/peers.sh 1'
+step 'Packaging' 'build package package-check' \
+  'scripts/check_packaging.sh build-release'
+step 'Lint' 'build lint' \
+  'scripts/check_lint.sh build-release'
+step 'Sanitizers' 'build test' \
+  'cmake --preset asan && cmake --build --preset asan && ctest --preset asan'
+list_skipped_tests build-asan
+step 'Clang, unoptimised' 'build test clang' \
+  'cmake --preset clang && cmake --build --preset clang && ctest --preset clang'
+list_skipped_tests build-clang
+step 'Fuzz targets, some thousand inputs' fuzz \
+  'fuzz/run.sh short'
+step 'Windows, under Wine' windows \
+  'scripts/test_windows.sh'
+
+if [ -n "${CI:-}" ]; then
+  step 'Documents' 'build test display package icons' \
+    'scripts/check_documents.sh'
 else
-  echo "The benchmarks are not run: no libbenchmark-dev here"
+  summary+=("skipped  Documents: CI=1 ./test.sh runs the commands that README.md shows")
 fi
-
-scripts/check_packaging.sh "$build/plain"
-scripts/check_lint.sh "$build/plain"
-
-# Little optimised, as that builds a third faster; the library's own checks are on.
-configure_and_build "$build/sanitized" -DOSTRANE_SANITIZE=ON -DOSTRANE_DESKTOP=OFF \
-  -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1 -D_GLIBCXX_ASSERTIONS"
-run_tests "$build/sanitized"
-
-if [ -n "${CI:-}" ] || { clang_tool clang++ && is_installed "$clang_runtime"; } >/dev/null; then
-  fuzz/run.sh short
-else
-  echo "The fuzz targets are not run: no clang $clang_version with its runtime here"
-fi
-
-scripts/test_windows.sh "$build/windows"

@@ -1,14 +1,12 @@
 #!/usr/bin/env bash
 # run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long,
-# starting from the inputs in fuzz/corpus; what it finds new is kept and built on at the next time.
+# starting from the inputs in fuzz/corpus; the inputs that reach new code are kept for the next run.
 # run.sh short [TARGET]: some thousand inputs each, the same ones every time. run.sh corpus [TARGET]:
-# replaces fuzz/corpus by the fewest inputs, of these and of those kept, that reach the same.
-# OSTRANE_BUILD names the folder to build in, build-test if it is not set. Fails if there is a
-# finding; its input stays in the folder "findings" there.
+# replaces fuzz/corpus by the fewest inputs, of these and of those kept, that reach the same. Fails
+# if there is a finding; its input is in build-fuzz/findings.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-. scripts/clang_tools.sh
 
 [ $# -ge 1 ] || {
   echo "usage: fuzz/run.sh SECONDS|short|corpus [TARGET]" >&2
@@ -17,13 +15,11 @@ cd "$(dirname "$0")/.."
 targets=("${@:2}")
 [ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build)
 
-need_packages cmake ninja-build "clang-$clang_version" "$clang_runtime"
-build=$(realpath -m "${OSTRANE_BUILD:-build-test}/fuzz")
+need fuzz
+build=$PWD/build-fuzz
 ! command -v ccache >/dev/null || export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-cmake -S . -B "$build" -G Ninja -DCMAKE_CXX_COMPILER="clang++-$clang_version" -DOSTRANE_FUZZ=ON \
-  -DOSTRANE_DESKTOP=OFF -DOSTRANE_TESTS=OFF -DCMAKE_BUILD_TYPE=Debug \
-  -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1 -D_GLIBCXX_ASSERTIONS"
-cmake --build "$build" --target "${targets[@]/#/fuzz_}"
+cmake --preset fuzz
+cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"
 
 # The drives of the tool lie in memory where the system has a folder there.
 work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)

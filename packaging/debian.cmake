@@ -2,16 +2,21 @@
 set(ostrane_maintainer
     "The Ostrane.dat-tool developers <ostrane-dat-tool@users.noreply.example>")
 
+# The release that the package is built on and for: bookworm, jammy.
+cmake_host_system_information(RESULT system QUERY DISTRIB_INFO)
+set(ostrane_distribution unstable)
+if(system_VERSION_CODENAME)
+  set(ostrane_distribution ${system_VERSION_CODENAME})
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ostrane-dat-tool)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-# Below 1, so that a package of Debian's own would be the newer one.
-set(CPACK_DEBIAN_PACKAGE_RELEASE 0bookworm1)
+# Below 1, so that a package of the distribution's own would be the newer one.
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0${ostrane_distribution}1)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${ostrane_maintainer})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
@@ -22,12 +27,15 @@ pictures of its icon files in the game's 256 colours, shows palettes and
 texts, extracts all entries into a folder, builds a new archive from the
 files of a folder, and compares lists of entries.
 .
-This is the release that calls itself ${ostrane_version}.")
+The window shows this version as ${ostrane_version}.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The windows are laid out for the widths of these letters.
+# The layout of the windows fits the widths of these letters.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-qpa-plugins, qt6-wayland")
 
+# Debian's form of a date, such as "Tue, 24 Nov 2026 12:00:00 +0000".
+execute_process(COMMAND date -u -R -d "${ostrane_date} 12:00"
+                OUTPUT_VARIABLE ostrane_debian_date OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
 configure_file(packaging/debian/changelog.in ${CMAKE_BINARY_DIR}/packaging/changelog @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/packaging/debian/finish_package.cmake)
 set(CPACK_OSTRANE_CHANGELOG ${CMAKE_BINARY_DIR}/packaging/changelog)

@@ -8,9 +8,9 @@ if(WIN32)
   return()
 endif()
 
-set(program_place ${CMAKE_INSTALL_LIBDIR}/ostrane-dat-tool)
-set(doc_place ${CMAKE_INSTALL_DATAROOTDIR}/doc/ostrane-dat-tool)
-set(examples_place ${doc_place}/examples)
+set(program_dir ${CMAKE_INSTALL_LIBDIR}/ostrane-dat-tool)
+set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/ostrane-dat-tool)
+set(examples_dir ${doc_dir}/examples)
 set(made ${CMAKE_BINARY_DIR}/packaging)
 
 file(RELATIVE_PATH link_target ${CMAKE_INSTALL_FULL_BINDIR}
@@ -20,35 +20,35 @@ file(CREATE_LINK ${link_target} ${made}/bin/ostrane-dat-tool SYMBOLIC)
 
 configure_file(packaging/ostrane-dat-tool.metainfo.xml.in
                ${made}/example.ostrane.dat_tool.metainfo.xml @ONLY)
-# The manual names the folders that it is installed with, which are known only then.
+# The manual names folders below the prefix, which is known only at the installation.
 set(program_folder @program_folder@)
 set(examples_folder @examples_folder@)
 configure_file(packaging/ostrane-dat-tool.1.in ${made}/ostrane-dat-tool.1.in @ONLY)
 install(CODE "
-  set(program_folder \"\${CMAKE_INSTALL_PREFIX}/${program_place}\")
-  set(examples_folder \"\${CMAKE_INSTALL_PREFIX}/${examples_place}\")
+  set(program_folder \"\${CMAKE_INSTALL_PREFIX}/${program_dir}\")
+  set(examples_folder \"\${CMAKE_INSTALL_PREFIX}/${examples_dir}\")
   configure_file(\"${made}/ostrane-dat-tool.1.in\" \"${made}/ostrane-dat-tool.1\" @ONLY)")
 
-install(TARGETS ostrane-dat-tool RUNTIME DESTINATION ${program_place})
+install(TARGETS ostrane-dat-tool RUNTIME DESTINATION ${program_dir})
 install(FILES ${made}/bin/ostrane-dat-tool DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/ostrane-dat-tool.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${made}/example.ostrane.dat_tool.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${made}/ostrane-dat-tool.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc_place})
+install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc_dir})
 
-set(icons_place ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+set(icons_dir ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 foreach(size 16 24 32 48 64 128 256)
   install(FILES packaging/icons/ostrane-dat-tool-${size}.png
-          DESTINATION ${icons_place}/${size}x${size}/apps RENAME ostrane-dat-tool.png)
+          DESTINATION ${icons_dir}/${size}x${size}/apps RENAME ostrane-dat-tool.png)
 endforeach()
-install(FILES packaging/icons/ostrane-dat-tool.svg DESTINATION ${icons_place}/scalable/apps)
+install(FILES packaging/icons/ostrane-dat-tool.svg DESTINATION ${icons_dir}/scalable/apps)
 
-if(TARGET sample)
-  install(FILES ${CMAKE_BINARY_DIR}/sample/ostrane.dat ${CMAKE_BINARY_DIR}/sample/iconlist.csv
-          DESTINATION ${examples_place})
-endif()
+# The descriptions of the sample are beside the program too, where it reads them.
+install(FILES ${CMAKE_BINARY_DIR}/sample/ostrane.dat ${CMAKE_BINARY_DIR}/sample/iconlist.csv
+        DESTINATION ${examples_dir})
+install(FILES ${CMAKE_BINARY_DIR}/sample/iconlist.csv DESTINATION ${program_dir})
 
 include(packaging/debian.cmake)
 include(CPack)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# on_virtual_display.sh COMMAND...: runs the command on a display that nobody sees, with a window
-# manager on it, and ends both with it.
+# on_virtual_display.sh COMMAND...: runs the command on a virtual display with a window manager, and
+# stops both after it.
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -17,7 +17,7 @@ wait_for() {
     "$@" && return
     sleep 0.1
   done
-  echo "Waited in vain: $*" >&2
+  echo "Timed out: $*" >&2
   return 1
 }
 

@@ -1,41 +1,70 @@
 #!/usr/bin/env bash
-# To be sourced. need_packages NAME...: installs those of the packages that are missing.
+# To be sourced. packages_for PURPOSE... prints the packages that packages.txt lists, need PURPOSE...
+# installs those of them that are missing, and need_packages NAME... does so by name.
 
-as_root() {
-  if [ "$(id -u)" -eq 0 ]; then
-    "$@"
-  elif command -v sudo >/dev/null; then
-    sudo "$@"
-  else
-    echo "Neither root nor sudo is here to run: $*" >&2
-    return 1
-  fi
+package_list=$(dirname "${BASH_SOURCE[0]}")/packages.txt
+
+packages_for() {
+  local purpose
+  for purpose in "$@"; do
+    sed -n "s/^$purpose: //p" "$package_list" | tr ' ' '\n' | grep . || {
+      echo "$package_list has no line for \"$purpose\"" >&2
+      return 1
+    }
+  done
 }
 
 is_installed() {
   [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-need_packages() {
-  local missing=() package
+missing_packages() {
+  local package
   for package in "$@"; do
-    is_installed "$package" || missing+=("$package")
+    is_installed "$package" || echo "$package"
   done
-  [ ${#missing[@]} -gt 0 ] || return 0
-  command -v apt-get >/dev/null || {
-    echo "Please install: ${missing[*]} (there is no apt-get here)" >&2
-    return 1
-  }
-  echo "Installing ${missing[*]}"
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qy -o Dpkg::Use-Pty=0 \
-    install --no-install-recommends "${missing[@]}"
 }
 
-# For the scripts that source this.
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  else
+    sudo "$@"
+  fi
+}
+
+apt_install() {
+  command -v apt-get >/dev/null || return
+  [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null || return
+  echo "Installing $*"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update &&
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qy -o Dpkg::Use-Pty=0 \
+      install --no-install-recommends "$@"
+}
+
+need_packages() {
+  local missing
+  mapfile -t missing < <(missing_packages "$@")
+  [ ${#missing[@]} -gt 0 ] || return 0
+  apt_install "${missing[@]}" || {
+    echo "Not installed: ${missing[*]}" >&2
+    echo "Without the rights to install packages, ask an administrator for:" >&2
+    echo "  apt-get install ${missing[*]}" >&2
+    return 1
+  }
+}
+
+need() {
+  local packages
+  packages=$(packages_for "$@") || return
+  # shellcheck disable=SC2086
+  need_packages $packages
+}
+
+# For bench/peers.sh.
 # shellcheck disable=SC2034
-build_packages=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev fonts-liberation)
+mapfile -t build_packages < <(packages_for build)
 # shellcheck disable=SC2034
-virtual_display_packages=(xvfb openbox xdotool imagemagick)
+mapfile -t virtual_display_packages < <(packages_for display)
 # shellcheck disable=SC2034
-bench_packages=(libbenchmark-dev libpng-dev libxcb1-dev pkg-config)
+mapfile -t bench_packages < <(packages_for bench)

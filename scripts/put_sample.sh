@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# put_sample.sh FROM TO: copies the files of the sample to the folder TO. A file there that somebody
-# has changed since it was put there stays as it is.
+# put_sample.sh FROM TO: copies the files of the sample to the folder TO. A file that was changed
+# there since is kept.
 set -euo pipefail
 from=$(cd "$1" && pwd)
 mkdir -p "$2/files"
 cd "$2"
 
-# What was put here, as sha256sum tells it.
+# The output of sha256sum for the files as copied.
 as_put=.as-put
 touch $as_put
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# take_screenshot.sh PROGRAM PICTURE: starts the tool, opens the archive in ~/ostrane-sample with it
-# as a user would, shows VISTA.SHP and writes a picture of the window. Needs a display of its own
-# with a window manager.
+# take_screenshot.sh PROGRAM PICTURE: starts the tool, opens the archive in ~/ostrane-sample as a user
+# would, shows VISTA.SHP and writes a picture of the window. Needs a display of its own with a window
+# manager.
 set -euo pipefail
 program=$1
 picture=$2
@@ -11,19 +11,19 @@ fail() {
   exit 1
 }
 
-# Prints the window of that title once it is there.
+# Waits for the window of that title and prints its number.
 window() {
   for _ in $(seq 100); do
     xdotool search --onlyvisible --name "$1" 2>/dev/null && return
     kill -0 $tool 2>/dev/null || fail "the tool has ended"
     sleep 0.1
   done
-  fail "the window \"$1\" did not come up"
+  fail "the window \"$1\" did not appear"
 }
 
 is_gone() { ! xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 
-# The place counts from the top left corner of the window's inside.
+# The position is relative to the top left corner of the client area.
 click() {
   xdotool mousemove --sync --window "$1" "$2" "$3" click 1
   sleep 0.3
@@ -34,7 +34,7 @@ press() {
   sleep 0.3
 }
 
-# A letter too many makes a list look for another row, so the word comes in one go.
+# A list searches for what is typed quickly, so the word is typed without a pause.
 pick_row() {
   xdotool type --delay 20 "$1"
   sleep 0.3

@@ -1,7 +1,7 @@
 # Runs on the files of the package before they are packed. Debian wants manual and changes
 # compressed, and the licence under a name of its own.
 
-# Without it CPack would leave the libraries out of the package's needs and only say so.
+# Without it CPack would leave out the libraries that the package depends on, with a mere notice.
 find_program(shlibdeps dpkg-shlibdeps REQUIRED)
 
 set(share ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share)
@@ -14,6 +14,9 @@ file(COPY_FILE ${CPACK_OSTRANE_CHANGELOG} ${doc}/changelog.Debian)
 # -n leaves out name and time, so that the same files give the same package.
 execute_process(COMMAND gzip -9nf ${share}/man/man1/ostrane-dat-tool.1 ${doc}/changelog
                         ${doc}/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
-file(CHMOD ${share}/man/man1/ostrane-dat-tool.1.gz ${doc}/changelog.gz ${doc}/changelog.Debian.gz
-           ${doc}/copyright
-     PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
+# The same permissions under any umask.
+set(everyone OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+set(everyone_enters ${everyone} OWNER_EXECUTE GROUP_EXECUTE WORLD_EXECUTE)
+file(CHMOD_RECURSE ${CPACK_TEMPORARY_INSTALL_DIRECTORY} DIRECTORY_PERMISSIONS ${everyone_enters})
+file(CHMOD_RECURSE ${share} FILE_PERMISSIONS ${everyone} DIRECTORY_PERMISSIONS ${everyone_enters})

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# Runs the commands that README.md and CONTRIBUTING.md show, less those that are steps of test.sh, in
+# a copy of the tree with a home and an installation folder of its own. Packages are installed with
+# --simulate.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/tree" "$work/home" "$work/installed"
+tar -c --exclude='./build*' --exclude=./.git . | tar -x -C "$work/tree"
+echo 'APT::Get::Simulate "true";' >"$work/apt.conf"
+
+# A command is an indented block, or stands in the last column of a table. Each ends with a NUL.
+commands_in() {
+  awk '
+    /^    / { block = block substr($0, 5) "\n"; next }
+    block != "" { printf "%s%c", block, 0; block = "" }
+    /^\|.*\| `[^`]*` \|$/ { sub(/.*\| `/, ""); sub(/` \|$/, ""); printf "%s\n%c", $0, 0 }
+    END { if (block != "") printf "%s%c", block, 0 }' "$1"
+}
+
+steps=$(<test.sh)
+cat >"$work/stand_ins" <<'EOS'
+sudo() { "$@"; }
+./test.sh() { :; }
+# It runs until it is stopped.
+build/bin/ostrane-dat-tool() {
+  local status=0
+  QT_QPA_PLATFORM=offscreen timeout 5 ./build/bin/ostrane-dat-tool || status=$?
+  [ $status -eq 124 ]
+}
+EOS
+
+count=0
+run_commands_in() {
+  local command
+  while IFS= read -rd '' command; do
+    command=${command%$'\n'}
+    [[ $steps != *"'$command'"* ]] || continue
+    printf '\n%s shows:\n%s\n' "$1" "$command"
+    env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -C "$work/tree" HOME="$work/home" \
+      DESTDIR="$work/installed" APT_CONFIG="$work/apt.conf" \
+      bash -euo pipefail -c '. "$1"; eval "$2"' bash "$work/stand_ins" "$command" </dev/null
+    count=$((count + 1))
+  done < <(commands_in "$1")
+}
+run_commands_in README.md
+run_commands_in CONTRIBUTING.md
+[ $count -ge 6 ] || {
+  echo "Only $count commands were found" >&2
+  exit 1
+}
+
+left=$(find "$work/installed" ! -type d)
+[ -z "$left" ] || {
+  echo "Left after uninstalling: $left" >&2
+  exit 1
+}
+echo "The documents' commands work"

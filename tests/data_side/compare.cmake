@@ -1,0 +1,11 @@
+# Fails if PROGRAM does not list the entries of ARCHIVE in their order, or if what it extracts into
+# FOLDER and builds from there is not the same archive again.
+file(REMOVE_RECURSE ${FOLDER})
+file(MAKE_DIRECTORY ${FOLDER})
+execute_process(COMMAND ${PROGRAM} ${ARCHIVE} ${FOLDER} OUTPUT_VARIABLE names
+                COMMAND_ERROR_IS_FATAL ANY)
+if(NOT names MATCHES "^000DATUP.000\nALMANAC.TXT\n.*WORLDS.SHP\n$")
+  message(FATAL_ERROR "unexpected names:\n${names}")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${ARCHIVE} ${FOLDER}/OSTRANE.DAT
+                COMMAND_ERROR_IS_FATAL ANY)
