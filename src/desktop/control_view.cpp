@@ -35,7 +35,7 @@ void control_view::catch_up() {
   const unsigned noted = std::exchange(noted_, 0U);
   const auto has = [noted](unsigned bits) { return (noted & bits) != 0; };
   QWidget& shown = widget();
-  if (has(bit(property_id::place))) {
+  if (has(bit(property_id::rect))) {
     shown.setGeometry(with_edge_in_sight(place_of(control), *shown.parentWidget()));
   }
   if (has(bit(property_id::back_color))) show_colours();

@@ -12,7 +12,7 @@ bool ended = false;
 
 }  // namespace
 
-application_facts application;
+application_info application;
 file_service system_files;
 
 screen* attached_screen() { return attached; }

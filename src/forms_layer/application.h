@@ -7,26 +7,26 @@
 
 namespace forms_layer {
 
-// The running program as the forms see it.
-struct application_facts {
-  std::string Title;           // title of all message boxes
-  std::filesystem::path Path;  // folder of the running program
-  // Memory for a handler's work could not be had. Brings the windows back to a usable state.
+// Facts about the running program, for the forms.
+struct application_info {
+  std::string Title;           // title of message boxes
+  std::filesystem::path Path;  // folder of the program file
+  // Called after a handler threw std::bad_alloc. Restores usable windows.
   std::function<void()> OutOfMemory;
-  // A pixel is a device-independent one, whatever the screen.
+  // Of device-independent pixels.
   static constexpr std::int32_t TwipsPerPixelX = 15;
   static constexpr std::int32_t TwipsPerPixelY = 15;
 };
 
-extern application_facts application;
+extern application_info application;
 
-// Ends the process at once. Without a screen `process_ended` becomes true and no event runs any
-// more until `reset_end_of_process`.
+// Ends the process. Without a screen it only sets `process_ended`, and no event runs until
+// `reset_end_of_process`.
 void end_process();
 bool process_ended();
 void reset_end_of_process();
 
-// The state of a new process: nothing waits or has the focus, and no message was shown.
+// Resets this folder's global state to that of a new process: no event, focus or recorded message.
 void begin_process();
 
 }  // namespace forms_layer

@@ -7,9 +7,9 @@ namespace forms_layer {
 
 void begin_process() {
   reset_end_of_process();
-  forget_events();
-  forget_messages();
-  user::forget_focus();
+  clear_events();
+  clear_messages();
+  user::clear_focus();
 }
 
 }  // namespace forms_layer

@@ -4,11 +4,11 @@
 
 namespace forms_layer {
 
-// A colour as a control takes it: red + 256 * green + 65536 * blue, or, with the top bit set, the
-// number of a system colour, which the screen turns into what its theme shows.
+// red + 256 * green + 65536 * blue, or 0x80000000 + the number of a system colour, which the screen
+// maps to a colour of its theme.
 using colour = std::uint32_t;
 
-// From and to parts of 0 to 255.
+// Components are 0 to 255.
 constexpr colour rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
   return red | green << 8U | blue << 16U;
 }

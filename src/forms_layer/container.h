@@ -7,7 +7,7 @@ namespace forms_layer {
 class control;
 class form;
 
-// What controls stand in: a form or a frame.
+// The parent of controls: a form or a frame.
 class container {
  public:
   container() = default;
@@ -15,12 +15,12 @@ class container {
   container& operator=(const container&) = delete;
   virtual ~container() = default;
 
-  // In the order in which they were made, which is also the order from back to front.
+  // In the order of construction, which is the z-order from back to front.
   const std::vector<control*>& controls() const { return controls_; }
 
   virtual form& containing_form() = 0;
 
-  // The frame as a control; null for a form.
+  // This frame; null for a form.
   virtual control* as_control() { return nullptr; }
 
  private:

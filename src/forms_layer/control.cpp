@@ -47,11 +47,11 @@ bool control::takes_input() {
   return window.Visible() && window.Enabled();
 }
 
-void control::written(property_id what, bool differs) {
-  if (differs) tell_screen(what);
+void control::on_changed(property_id what, bool differs) {
+  if (differs) notify_screen(what);
 }
 
-void control::tell_screen(property_id what) {
+void control::notify_screen(property_id what) {
   if (screen* on = attached_screen()) on->control_changed(*this, what);
 }
 

@@ -31,17 +31,19 @@ struct font_design {
   bool bold = false;
 };
 
-struct place {
+// In twips, relative to the parent.
+struct rect {
   std::int32_t left = 0;
   std::int32_t top = 0;
   std::int32_t width = 0;
   std::int32_t height = 0;
 };
 
-// A control as designed. All lengths are twips. Fields that a kind has no use for stay as they are.
+// The initial state of a control. Lengths are twips. A kind of control ignores fields that it does
+// not need.
 struct design {
   const char* name = "";
-  place at = {};
+  rect at = {};
   int tab_index = 0;
   std::string text = {};
   std::string tool_tip = {};
@@ -52,14 +54,14 @@ struct design {
   bool locked = false;
   bool centred = false;
   bool multi_line = false;
-  int max_length = 0;  // characters; 0 is no limit
+  int max_length = 0;  // characters; 0 means no limit
   std::string pattern = "*";
-  const char* picture = "";  // of a picture box: a picture that the program carries, as designed
+  const char* picture = "";  // name of an image resource that a picture box shows
 };
 
 using event = std::function<void()>;
 
-// What all controls share. A control lives as long as its form and never moves in memory.
+// The base class of all controls. A control lives as long as its form.
 class control {
  public:
   control(container& parent, control_kind kind, const design& designed);
@@ -71,10 +73,10 @@ class control {
   const design designed;
   container& parent;
 
-  property<std::int32_t, property_id::place, control> Left;
-  property<std::int32_t, property_id::place, control> Top;
-  property<std::int32_t, property_id::place, control> Width;
-  property<std::int32_t, property_id::place, control> Height;
+  property<std::int32_t, property_id::rect, control> Left;
+  property<std::int32_t, property_id::rect, control> Top;
+  property<std::int32_t, property_id::rect, control> Width;
+  property<std::int32_t, property_id::rect, control> Height;
   property<bool, property_id::visible, control> Visible;
   property<bool, property_id::enabled, control> Enabled;
   property<colour, property_id::back_color, control> BackColor;
@@ -82,28 +84,29 @@ class control {
 
   event LostFocus;
 
-  // Moves the control in its parent; the size stays.
+  // In twips, relative to the parent.
   void Move(std::int32_t left, std::int32_t top);
 
-  // Brings the control up to date on the screen before it returns.
+  // Repaints the control on the screen before it returns.
   void Refresh();
 
   form& owner_form();
 
-  // True if the user can act on it: it and all it stands in are visible and enabled.
+  // True if this control and every ancestor are visible and enabled.
   bool takes_input();
 
-  // Called when the form is about to come up on the screen, each time.
+  // Called each time the form becomes visible, before the screen shows it.
   virtual void about_to_show() {}
 
-  // Called when the user wants to see what drives and folders hold now. Throws file_error.
+  // Called on F5: lists of drives, folders and files reload. Throws file_error.
   virtual void reload() {}
 
-  // Called after a property was written; `differs` is false if it had that value before.
-  virtual void written(property_id what, bool differs);
+  // Called after each assignment to a property; `differs` is false if the value is the same as
+  // before.
+  virtual void on_changed(property_id what, bool differs);
 
  protected:
-  void tell_screen(property_id what);
+  void notify_screen(property_id what);
 };
 
 }  // namespace forms_layer

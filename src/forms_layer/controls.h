@@ -1,6 +1,6 @@
 #pragma once
 
-// All kinds of controls, for the forms.
+// All kinds of controls.
 #include "forms_layer/button.h"
 #include "forms_layer/dir_list.h"
 #include "forms_layer/drive_list.h"

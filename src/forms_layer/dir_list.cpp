@@ -1,29 +1,18 @@
 #include "forms_layer/dir_list.h"
 
 #include <algorithm>
-#include <exception>
 
 #include "forms_layer/file_service.h"
 
 namespace forms_layer {
 
-void dir_list::about_to_show() {
-  if (!Path().empty()) return;
-  Path.value_ = system_files.current_folder();
-  try {
-    show(system_files.folders_in(Path()));
-  } catch (const std::exception&) {
-    show({});
-  }
-}
-
 void dir_list::set_path(const std::string& path) {
   const std::string whole = system_files.full_path(path);
   const std::vector<std::string> folders = system_files.folders_in(whole);
-  const bool other = whole != Path();
-  Path.value_ = whole;
+  const bool changed = whole != Path();
+  store_path(whole);
   show(folders);
-  if (other && Change) Change();
+  if (changed && Change) Change();
 }
 
 void dir_list::Refresh() { show(system_files.folders_in(Path())); }
@@ -31,8 +20,9 @@ void dir_list::Refresh() { show(system_files.folders_in(Path())); }
 void dir_list::show(const std::vector<std::string>& folders_inside) {
   rows_.clear();
   const std::string& path = Path();
-  rows_.push_back({path.substr(0, 3), 0, true, path.substr(0, 3)});
-  std::size_t begin = 3;
+  const std::string root = path.substr(0, 3);  // "C:\"
+  rows_.push_back({root, 0, true, root});
+  std::size_t begin = root.size();
   while (begin < path.size()) {
     const std::size_t end = std::min(path.find('\\', begin), path.size());
     const auto depth = static_cast<std::int32_t>(rows_.size());
@@ -40,11 +30,11 @@ void dir_list::show(const std::vector<std::string>& folders_inside) {
     begin = end + 1;
   }
   open_row_ = static_cast<std::int32_t>(rows_.size()) - 1;
-  const std::string before_name = path.back() == '\\' ? path : path + '\\';
+  const std::string prefix = path.back() == '\\' ? path : path + '\\';
   for (const std::string& folder : folders_inside) {
-    rows_.push_back({folder, open_row_ + 1, false, before_name + folder});
+    rows_.push_back({folder, open_row_ + 1, false, prefix + folder});
   }
-  tell_screen(property_id::items);
+  notify_screen(property_id::items);
 }
 
 }  // namespace forms_layer

@@ -10,21 +10,21 @@ void drive_list::set_drive(const std::string& text) {
   const std::string wanted = system_files.drive_named_by(text);
   if (wanted == Drive()) return;
   Drive.value_ = wanted;
-  tell_screen(property_id::selection);
+  notify_screen(property_id::selection);
   if (Change) Change();
 }
 
 void drive_list::about_to_show() {
   rows_ = system_files.drives();
   if (Drive().empty()) {
-    const std::string current = system_files.current_folder().substr(0, 2);
-    const auto is_current = [&current](const std::string& row) {
-      return row.size() > 1 && row[1] == current[1] && (row[0] ^ 0x20) == current[0];
-    };
+    // A folder begins with "C:", a row with "c:".
+    const char letter = system_files.current_folder()[0];
+    const std::string prefix = {static_cast<char>(letter - 'A' + 'a'), ':'};
+    const auto is_current = [&prefix](const std::string& row) { return row.starts_with(prefix); };
     const auto found = std::find_if(rows_.begin(), rows_.end(), is_current);
     if (found != rows_.end()) Drive.value_ = *found;
   }
-  tell_screen(property_id::items);
+  notify_screen(property_id::items);
 }
 
 std::int32_t drive_list::selected_row() const {

@@ -8,23 +8,25 @@
 
 namespace forms_layer {
 
-// A drop-down list of the drives. `Drive` reads as the selected drive's text, such as "c: [home]".
-// Writing it selects the drive that the text's first letter names, and raises Change if that is
-// another one; a letter without a drive throws file_error.
+// A drop-down list of the drives.
 class drive_list : public control {
  public:
   drive_list(container& parent_container, const design& as_designed)
       : control(parent_container, control_kind::drive_list, as_designed) {}
 
+  // Selects the drive of the first letter of `text` and raises Change if it is another one. Throws
+  // file_error if the drive does not exist.
   void set_drive(const std::string& text);
-  guarded_property<std::string, drive_list, &drive_list::set_drive> Drive{*this, ""};
+  // The text of the selected drive, such as "c: [home]".
+  checked_property<std::string, drive_list, &drive_list::set_drive> Drive{*this, ""};
 
   event Change;
 
-  // Looks which drives there are now. The first time the current drive becomes the selected one.
+  // Reloads the drives. If none is selected, selects that of the current folder of the process.
   void about_to_show() override;
   void reload() override { about_to_show(); }
   const std::vector<std::string>& rows() const { return rows_; }
+  // -1 for none.
   std::int32_t selected_row() const;
 
  private:

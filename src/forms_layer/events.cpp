@@ -13,20 +13,20 @@ namespace forms_layer {
 
 namespace {
 
-struct waiting_event {
+struct queued_event {
   std::function<void()> handler;
   const void* key;
 };
 
-std::deque<waiting_event> waiting;
+std::deque<queued_event> queue;
 bool running = false;
 
-// Events run while it lives, also if an error of another kind than file_error ends it.
-struct running_mark {
-  running_mark() { running = true; }
-  running_mark(const running_mark&) = delete;
-  running_mark& operator=(const running_mark&) = delete;
-  ~running_mark() { running = false; }
+// Resets `running` even if an exception other than std::exception leaves a handler.
+struct running_guard {
+  running_guard() { running = true; }
+  running_guard(const running_guard&) = delete;
+  running_guard& operator=(const running_guard&) = delete;
+  ~running_guard() { running = false; }
 };
 
 void run_one(const std::function<void()>& handler) {
@@ -45,24 +45,24 @@ void run_one(const std::function<void()>& handler) {
 void run_event(const std::function<void()>& handler, const void* key) {
   if (process_ended()) return;
   if (running) {
-    const auto same_key = [key](const waiting_event& e) { return e.key == key; };
-    if (key != nullptr && std::any_of(waiting.begin(), waiting.end(), same_key)) return;
-    waiting.push_back({handler, key});
+    const auto same_key = [key](const queued_event& e) { return e.key == key; };
+    if (key != nullptr && std::any_of(queue.begin(), queue.end(), same_key)) return;
+    queue.push_back({handler, key});
     return;
   }
-  const running_mark mark;
+  const running_guard guard;
   run_one(handler);
-  while (!waiting.empty() && !process_ended()) {
-    const waiting_event next = std::move(waiting.front());
-    waiting.pop_front();
+  while (!queue.empty() && !process_ended()) {
+    const queued_event next = std::move(queue.front());
+    queue.pop_front();
     run_one(next.handler);
   }
 }
 
 bool handler_running() { return running; }
 
-void forget_events() {
-  waiting.clear();
+void clear_events() {
+  queue.clear();
   running = false;
 }
 

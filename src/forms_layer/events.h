@@ -4,17 +4,16 @@
 
 namespace forms_layer {
 
-// Runs a handler as one event. Events come one at a time: what arrives while a handler runs, or
-// while a message box stands in it, waits and runs behind it in the order of arrival. With a `key`
-// only one event of that key waits; a further one is dropped, as it goes for ticks. An error that
-// leaves the handler is shown in a message box; so is a lack of memory, after the application's
-// `OutOfMemory`.
+// Runs a handler as one event, or queues it if another one is running, which includes its message
+// boxes. Queued events run in order after the running one. Of each `key` at most one event is
+// queued (used for timer ticks). A std::exception that leaves the handler is shown in a message
+// box, after a std::bad_alloc with a call of the application's `OutOfMemory` before.
 void run_event(const std::function<void()>& handler, const void* key = nullptr);
 
-// True from the start of a handler to its end, also while a message box stands in it.
+// True while a handler runs, which includes its message boxes.
 bool handler_running();
 
-// Forgets what waits, so that a process can begin afresh.
-void forget_events();
+// Clears the queue. For begin_process.
+void clear_events();
 
 }  // namespace forms_layer

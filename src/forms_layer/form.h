@@ -14,21 +14,21 @@ class timer;
 
 enum class start_position { screen_centre, owner_centre };
 
-// A form as designed. Lengths are twips; the client area is what lies inside the window's frame.
+// The initial state of a form. Lengths are twips; the client area excludes frame and menu bar.
 struct form_design {
   const char* name = "";
   std::string caption = {};
   std::int32_t client_width = 0;
   std::int32_t client_height = 0;
-  bool control_box = false;  // without one the user cannot close the window
+  bool control_box = false;  // the user can close the window
   bool resizable = false;
   start_position opens = start_position::owner_centre;
-  // What the window's frame and menu bar add to the client area, whatever the window manager draws.
+  // Width() and Height() less the client area, a fixed part whatever the window manager draws.
   std::int32_t frame_width = 225;
   std::int32_t frame_height = 705;
 };
 
-// A window. It is made once and then only hidden and shown, and so keeps all that it holds.
+// A window. It is constructed once; hiding and showing it keeps its state.
 class form : public container {
  public:
   explicit form(form_design as_designed);
@@ -49,9 +49,9 @@ class form : public container {
   event Unload;
   event Resize;
 
-  // Repaints the form and its controls at once.
+  // Repaints the form and its controls on the screen before it returns.
   void Refresh();
-  // The window gets the focus when the handler is done.
+  // Gives the window the focus after the running handler.
   void SetFocus();
 
   std::vector<menu*> menus;
@@ -59,9 +59,9 @@ class form : public container {
 
   form& containing_form() override { return *this; }
 
-  void written(property_id what, bool differs);
+  void on_changed(property_id what, bool differs);
 
-  // The window got a new client size (twips); the Resize event is the caller's to raise.
+  // Stores a new client size in twips. Does not raise Resize.
   void set_client_size(std::int32_t width, std::int32_t height);
 
  private:

@@ -5,7 +5,7 @@
 
 namespace forms_layer {
 
-// A captioned box with controls in it.
+// A box with a caption that contains controls.
 class frame : public control, public container {
  public:
   frame(container& parent_container, const design& as_designed)

@@ -4,7 +4,7 @@
 
 namespace forms_layer {
 
-// Text that wraps at its width. A carriage return alone and the pair CR LF both begin a new line.
+// Text that wraps at its width. CR and CR LF both start a new line.
 class label : public control {
  public:
   label(container& parent_container, const design& as_designed)

@@ -2,14 +2,15 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms_layer/control.h"
+#include "forms_layer/row_text.h"
 
 namespace forms_layer {
 
-// Rows of text in the order in which they were added.
+// Rows of text, in the order of AddItem.
 class list_box : public control {
  public:
   list_box(container& parent_container, const design& as_designed)
@@ -22,26 +23,24 @@ class list_box : public control {
   event DblClick;
 
   void AddItem(std::string text) {
-    // Memory that is not written to costs nothing, and to move many rows does.
-    if (rows_.capacity() == 0) rows_.reserve(often_enough);
+    // Untouched pages are free, regrowing is not.
+    if (rows_.capacity() == 0) rows_.reserve(reserved_rows);
     rows_.push_back(std::move(text));
-    tell_screen(property_id::items);
+    notify_screen(property_id::items);
   }
 
-  // Takes all rows away; nothing is selected then.
+  // Removes all rows and selects nothing.
   void Clear() {
     rows_.clear();
     ListIndex = -1;
-    tell_screen(property_id::items);
+    notify_screen(property_id::items);
   }
 
   std::int32_t ListCount() const { return static_cast<std::int32_t>(rows_.size()); }
-
-  // The text of a row; empty for a number that no row has.
-  const std::string& List(std::int32_t index) const;
+  const std::string& List(std::int32_t row) const { return row_text(rows_, row); }
 
  private:
-  static constexpr std::size_t often_enough = 32768;
+  static constexpr std::size_t reserved_rows = 32768;
 
   std::vector<std::string> rows_;
 };

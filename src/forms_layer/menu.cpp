@@ -12,7 +12,7 @@ menu_item::menu_item(menu& parent, const char* item_name, std::string caption)
   parent.items.push_back(this);
 }
 
-void menu_item::written(property_id /*what*/, bool differs) {
+void menu_item::on_changed(property_id /*what*/, bool differs) {
   screen* on = attached_screen();
   if (differs && on != nullptr) on->menu_changed(owner, *this);
 }

@@ -26,10 +26,10 @@ class menu_item {
   event Click;
 
   bool is_separator() const { return Caption.empty(); }
-  void written(property_id what, bool differs);
+  void on_changed(property_id what, bool differs);
 };
 
-// A column of the menu bar.
+// A menu of the menu bar.
 class menu {
  public:
   menu(form& shown_on, const char* menu_name, std::string caption);

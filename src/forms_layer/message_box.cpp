@@ -7,8 +7,8 @@ namespace forms_layer {
 
 namespace {
 
-std::vector<std::string> shown;
-std::function<void(const std::string&)> while_it_stands;
+std::vector<std::string> recorded;
+std::function<void(const std::string&)> on_shown;
 
 }  // namespace
 
@@ -17,19 +17,17 @@ void message_box(const std::string& text) {
     on->message_box(application.Title, text);
     return;
   }
-  shown.push_back(text);
-  if (while_it_stands) while_it_stands(text);
+  recorded.push_back(text);
+  if (on_shown) on_shown(text);
 }
 
-const std::vector<std::string>& messages_shown() { return shown; }
+const std::vector<std::string>& messages_shown() { return recorded; }
 
-void on_message_box(std::function<void(const std::string&)> meanwhile) {
-  while_it_stands = std::move(meanwhile);
-}
+void on_message_box(std::function<void(const std::string&)> call) { on_shown = std::move(call); }
 
-void forget_messages() {
-  shown.clear();
-  while_it_stands = nullptr;
+void clear_messages() {
+  recorded.clear();
+  on_shown = nullptr;
 }
 
 }  // namespace forms_layer

@@ -9,19 +9,20 @@
 
 namespace forms_layer {
 
-// Picture boxes under one name. Element 0 is the one of the design and the pattern of the others.
+// An array of picture boxes with one name. Element 0 exists from the start.
 class picture_array {
  public:
   picture_array(container& parent, const design& as_designed) : parent_(parent) {
     add(as_designed);
   }
 
-  // Element `index`, which must have been loaded.
+  // Throws std::out_of_range if the element is not loaded.
   picture_box& operator()(std::int32_t index) {
     return *elements_.at(static_cast<std::size_t>(index));
   }
 
-  // Makes the next element, hidden until shown, designed as element 0 is.
+  // Adds element `index`: hidden, else with the initial state of element 0. Does nothing unless
+  // `index` is that of the next element.
   void Load(std::int32_t index) {
     if (index != loaded()) return;
     design as_element_0 = elements_.front()->designed;
@@ -29,7 +30,7 @@ class picture_array {
     add(as_element_0);
   }
 
-  // How many elements there are, element 0 included.
+  // Number of elements, element 0 included.
   std::int32_t loaded() const { return static_cast<std::int32_t>(elements_.size()); }
 
   // Raised with the index of the element.

@@ -1,6 +1,7 @@
 #include "forms_layer/picture_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms_layer/application.h"
 
@@ -8,8 +9,8 @@ namespace forms_layer {
 
 namespace {
 
-// What a cleared box may keep for its next picture; more goes back to the system.
-constexpr std::size_t kept_pixels = 16384;
+// A larger buffer is freed by Cls, as thousands of boxes would keep too much memory.
+constexpr std::size_t max_kept_pixels = 16384;
 
 }  // namespace
 
@@ -20,13 +21,13 @@ picture_box::picture_box(container& parent_container, const design& as_designed,
 }
 
 void picture_box::Cls() {
-  if (pixels_.capacity() > kept_pixels) {
+  if (pixels_.capacity() > max_kept_pixels) {
     pixels_ = {};
   } else {
     pixels_.clear();
   }
   damaged_ = {0, 0, columns_, rows_};
-  tell_screen(property_id::pixels);
+  notify_screen(property_id::pixels);
 }
 
 colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
@@ -34,18 +35,12 @@ colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
   return pixels_[index_of(x, y)];
 }
 
-pixel_area picture_box::consume_damage() {
-  const pixel_area taken = damaged_;
-  damaged_ = {};
-  return taken;
-}
+pixel_area picture_box::consume_damage() { return std::exchange(damaged_, {}); }
 
-void picture_box::written(property_id what, bool differs) {
-  if (what == property_id::place && differs) apply_size();
-  if (what == property_id::back_color) {
-    Cls();
-  }
-  control::written(what, differs);
+void picture_box::on_changed(property_id what, bool differs) {
+  if (what == property_id::rect && differs) apply_size();
+  if (what == property_id::back_color) Cls();
+  control::on_changed(what, differs);
 }
 
 void picture_box::allocate() {

@@ -21,29 +21,29 @@ struct pixel_area {
   friend bool operator==(const pixel_area&, const pixel_area&) = default;
 };
 
-// A picture that is held in memory: it stays while the box is hidden, moved or covered. A border
-// of one pixel runs all round, so the drawing area is two pixels smaller each way than the box.
-// Coordinates are pixels of the drawing area (ScaleMode 3). A pixel is unset, and shows BackColor,
-// or has a colour. Memory for the pixels is taken when the first one is set.
+// A bitmap that the box keeps while it is hidden, moved or covered. The drawing area is the box
+// less a border of one pixel on each side. Coordinates are pixels of the drawing area (ScaleMode
+// 3). An unset pixel shows BackColor. The bitmap is allocated when the first pixel is set.
+// Assigning BackColor clears it; a new size keeps the pixels that fit.
 class picture_box : public control {
  public:
   picture_box(container& parent_container, const design& as_designed, std::int32_t array_index);
 
   const std::int32_t Index;
-  picture_array* array = nullptr;  // the one it is an element of, if any
-  property<int, property_id::place, control> ScaleMode{*this, 1};
+  picture_array* array = nullptr;  // that it is an element of, if any
+  property<int, property_id::rect, control> ScaleMode{*this, 1};
 
   static constexpr colour unset = 0xFFFFFFFF;
   static constexpr std::int32_t border = 1;
 
-  // Size of the drawing area in pixels; never negative.
+  // Size of the drawing area in pixels, at least 0.
   std::int32_t columns() const { return columns_; }
   std::int32_t rows() const { return rows_; }
 
   // Unsets all pixels.
   void Cls();
 
-  // Sets one pixel; outside the drawing area nothing happens.
+  // Sets a pixel. A point outside the drawing area is ignored.
   void PSet(std::int32_t x, std::int32_t y, colour c) {
     if (x < 0 || y < 0 || x >= columns_ || y >= rows_) return;
     if (pixels_.empty()) allocate();
@@ -51,37 +51,35 @@ class picture_box : public control {
     damage(x, y, x + 1);
   }
 
-  // Sets the pixels x1 to x2 - 1 of a row; what lies outside the drawing area is lost.
+  // Sets the pixels x1 to x2 - 1 of row y1, clipped to the drawing area. `y2` is ignored.
   void Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t /*y2*/, colour c) {
     set_pixels(pixels_to_set(x1, y1, x2), [c](std::size_t) { return c; });
   }
 
-  // PSet for `count` pixels of a row from x, y to the right; `colour_of` tells the colour of the
-  // pixel by its number, from 0 on. `count` is not negative.
+  // Sets `count` >= 0 pixels of row y from x to the right, clipped to the drawing area.
+  // `colour_of(i)` returns the colour of pixel x + i.
   template <typename ColourOf>
   void PSet(std::int32_t x, std::int32_t y, std::int32_t count, ColourOf colour_of) {
-    // Unsigned, so that no x overflows. A sum past the largest number comes out below 0: no pixel.
+    // Unsigned, as x can be any number. If x + count overflows, x2 is negative: no pixel is set.
     const auto left = static_cast<std::uint32_t>(x);
-    const std::size_t lost = x < 0 ? 0U - left : 0U;
+    const std::size_t clipped = x < 0 ? 0U - left : 0U;
     const auto x2 = static_cast<std::int32_t>(left + static_cast<std::uint32_t>(count));
-    set_pixels(pixels_to_set(x, y, x2),
-               [&](std::size_t number) { return colour_of(lost + number); });
+    set_pixels(pixels_to_set(x, y, x2), [&](std::size_t i) { return colour_of(clipped + i); });
   }
 
-  // The colour of a pixel of the drawing area, `unset` if it has none.
+  // The colour of a pixel, or `unset`, also outside the drawing area.
   colour pixel(std::int32_t x, std::int32_t y) const;
 
-  // All pixels, row by row, `unset` among them; null while none was set since the last Cls.
+  // All pixels, row by row; null if no pixel was set since the last Cls.
   const colour* pixels() const { return pixels_.empty() ? nullptr : pixels_.data(); }
 
-  // What was painted or unset since the screen last took it.
+  // Returns the bounding box of all changes since the last call.
   pixel_area consume_damage();
 
-  void written(property_id what, bool differs) override;
+  void on_changed(property_id what, bool differs) override;
 
  private:
-  // Most runs are no longer. A loop of a fixed length has no end that the processor could guess
-  // wrong, which costs more than the pixels.
+  // Most runs fit 16 pixels; a fixed trip count avoids a branch mispredict.
   static constexpr std::size_t short_run = 16;
 
   std::size_t index_of(std::int32_t x, std::int32_t y) const {
@@ -91,7 +89,7 @@ class picture_box : public control {
   void damage(std::int32_t x1, std::int32_t y, std::int32_t x2) {
     if (damaged_.empty()) {
       damaged_ = {x1, y, x2, y + 1};
-      tell_screen(property_id::pixels);
+      notify_screen(property_id::pixels);
       return;
     }
     if (x1 < damaged_.left) damaged_.left = x1;
@@ -99,15 +97,15 @@ class picture_box : public control {
     if (y < damaged_.top) damaged_.top = y;
     if (y >= damaged_.bottom) damaged_.bottom = y + 1;
   }
-  // Those of the pixels x1 to x2 - 1 of a row that the drawing area has, all to be set.
+  // Clips x1 to x2 - 1 of row y, marks the rest as damaged and returns it.
   std::span<colour> pixels_to_set(std::int32_t x1, std::int32_t y, std::int32_t x2) {
     if (y < 0 || y >= rows_) return {};
     const std::int32_t first = x1 > 0 ? x1 : 0;
-    const std::int32_t behind = x2 < columns_ ? x2 : columns_;
-    if (first >= behind) return {};
+    const std::int32_t end = x2 < columns_ ? x2 : columns_;
+    if (first >= end) return {};
     if (pixels_.empty()) allocate();
-    damage(first, y, behind);
-    return {pixels_.data() + index_of(first, y), static_cast<std::size_t>(behind - first)};
+    damage(first, y, end);
+    return {pixels_.data() + index_of(first, y), static_cast<std::size_t>(end - first)};
   }
   template <typename ColourOf>
   void set_pixels(std::span<colour> row, ColourOf colour_of) {

@@ -4,8 +4,8 @@
 
 namespace forms_layer {
 
-// A bar that is filled from Min to Value. Any three numbers are accepted: with Max at or below Min
-// the bar is empty, and a Value outside the range shows as the nearer end.
+// Any three numbers are accepted: the bar is empty if Max <= Min, and a Value out of range is
+// clamped. Each change repaints the bar on the screen at once.
 class progress_bar : public control {
  public:
   progress_bar(container& parent_container, const design& as_designed)
@@ -15,7 +15,7 @@ class progress_bar : public control {
   property<float, property_id::range, control> Max{*this, 100};
   property<float, property_id::range, control> Value{*this, 0};
 
-  // The filled part, 0 to 1.
+  // The filled fraction, 0 to 1.
   double filled() const {
     const double low = Min();
     const double high = Max();
@@ -24,8 +24,8 @@ class progress_bar : public control {
     return part < 0 ? 0 : part > 1 ? 1 : part;
   }
 
-  void written(property_id what, bool differs) override {
-    control::written(what, differs);
+  void on_changed(property_id what, bool differs) override {
+    control::on_changed(what, differs);
     if (what == property_id::range && differs) Refresh();
   }
 };

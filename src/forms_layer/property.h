@@ -4,11 +4,11 @@
 
 namespace forms_layer {
 
-// What about a control has changed; the screen mirrors the control by it.
+// Tells the screen what has changed. Properties that it reads together share an id.
 enum class property_id {
   caption,
   text,
-  place,
+  rect,
   visible,
   enabled,
   back_color,
@@ -22,20 +22,19 @@ enum class property_id {
   focus,
 };
 
-// A property of a control. Writing it takes effect at once and tells its owner, which answers (a
-// picture box takes its new size) and passes it on to the screen. It is read by a pair of
-// brackets: `Text()`.
+// A property of a control. An assignment calls the owner's `on_changed`, which acts on it (a
+// picture box resizes its bitmap) and notifies the screen. It is read as `Text()`.
 template <typename Value, property_id What, typename Owner>
 class property {
  public:
-  property(Owner& owner, Value start) : owner_(owner), value_(std::move(start)) {}
+  property(Owner& owner, Value initial) : owner_(owner), value_(std::move(initial)) {}
   property(const property&) = delete;
   ~property() = default;
 
   property& operator=(Value value) {
     const bool differs = !(value_ == value);
     value_ = std::move(value);
-    owner_.written(What, differs);
+    owner_.on_changed(What, differs);
     return *this;
   }
   property& operator=(const property&) = delete;
@@ -49,23 +48,23 @@ class property {
   Value value_;
 };
 
-// A property whose new value must first be found good: its owner takes the value in `set` and may
-// throw, and then the old value stands.
+// A property whose owner validates new values. An assignment calls the owner's `Set`, which stores
+// the value in `value_`, or throws if it is invalid.
 template <typename Value, typename Owner, void (Owner::*Set)(const Value&)>
-class guarded_property {
+class checked_property {
  public:
-  guarded_property(Owner& owner, Value start) : owner_(owner), value_(std::move(start)) {}
-  guarded_property(const guarded_property&) = delete;
-  guarded_property& operator=(const guarded_property&) = delete;
-  ~guarded_property() = default;
+  checked_property(Owner& owner, Value initial) : owner_(owner), value_(std::move(initial)) {}
+  checked_property(const checked_property&) = delete;
+  checked_property& operator=(const checked_property&) = delete;
+  ~checked_property() = default;
 
-  guarded_property& operator=(const Value& value) {
+  checked_property& operator=(const Value& value) {
     (owner_.*Set)(value);
     return *this;
   }
 
   const Value& operator()() const { return value_; }
-  friend bool operator==(const guarded_property& a, const Value& b) { return a.value_ == b; }
+  friend bool operator==(const checked_property& a, const Value& b) { return a.value_ == b; }
 
  private:
   friend Owner;

@@ -11,7 +11,7 @@ class form;
 class timer;
 class menu_item;
 
-// What shows the forms to a user. Without one attached the forms work all the same.
+// Shows the forms to a user. The forms also work without one.
 class screen {
  public:
   screen() = default;
@@ -24,17 +24,17 @@ class screen {
   virtual void menu_changed(form& owner, menu_item& changed) = 0;
   virtual void timer_changed(timer& changed) = 0;
 
-  // Paint what changed at once, before the call returns, without taking user input.
+  // Repaint what changed before the call returns, without handling user input.
   virtual void refresh(form& shown) = 0;
   virtual void refresh(control& shown) = 0;
 
-  // Shows a modal box with one OK button and returns when it was answered.
+  // Shows a modal box with an OK button and returns when the user closes it.
   virtual void message_box(const std::string& title, const std::string& text) = 0;
 
   virtual void end_process() = 0;
 };
 
-// The attached screen, or null, as at first. It is not owned and must live until another is
+// The attached screen, or null. It is not owned and must live until another one, or null, is
 // attached.
 screen* attached_screen();
 void attach_screen(screen* shown);

@@ -4,8 +4,7 @@
 
 namespace forms_layer {
 
-// A field of text. `designed` tells whether it is locked, centred, of several lines, and how many
-// characters the user can type.
+// A text field. `locked` and `max_length` of its design limit what the user can type, not the tool.
 class text_box : public control {
  public:
   text_box(container& parent_container, const design& as_designed)

@@ -10,7 +10,7 @@ timer::timer(form& owner_form, const char* timer_name, std::int32_t interval, bo
   owner.timers.push_back(this);
 }
 
-void timer::written(property_id /*what*/, bool /*differs*/) {
+void timer::on_changed(property_id /*what*/, bool /*differs*/) {
   if (screen* on = attached_screen()) on->timer_changed(*this);
 }
 

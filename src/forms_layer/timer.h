@@ -6,7 +6,7 @@
 
 namespace forms_layer {
 
-// Raises Timer every `Interval` milliseconds while `Enabled`.
+// The screen raises Timer every `Interval` milliseconds while `Enabled`.
 class timer {
  public:
   timer(form& owner_form, const char* timer_name, std::int32_t interval, bool enabled);
@@ -21,7 +21,7 @@ class timer {
 
   event Timer;
 
-  void written(property_id what, bool differs);
+  void on_changed(property_id what, bool differs);
 };
 
 }  // namespace forms_layer

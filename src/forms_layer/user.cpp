@@ -25,7 +25,7 @@ void reload_lists(form& window) {
 
 }  // namespace
 
-void forget_focus() { focused = nullptr; }
+void clear_focus() { focused = nullptr; }
 
 void focus(control* to) {
   run_event([to] { move_focus(to); });

@@ -5,46 +5,46 @@
 
 #include "forms_layer/controls.h"
 
-// What a user does to the forms. The screen and the tests call these; each becomes one event, and
-// none does anything to a control that takes no input at the moment the event comes.
+// The actions of a user, which the screen and the tests call. Each is one event (see run_event) and
+// does nothing if the control does not take input when the event runs.
 namespace forms_layer::user {
 
-// A click with the mouse, or what the keyboard has for it.
+// A mouse click or its keyboard equivalent.
 void click(button& pressed);
 void click(label& pressed);
 void click(menu_item& picked);
 
-// Element `index` must have been loaded.
+// Element `index` must be loaded.
 void double_click(picture_array& array, std::int32_t index);
 
-// A press on a row, the selected one too, or its selection by keyboard.
+// A click on a row, even if it is selected, or its selection by keyboard.
 void select_row(list_box& list, std::int32_t row);
-// The second press of a double click; the first one is a `select_row` of its own.
+// The second click of a double click; call `select_row` for the first one.
 void double_click(list_box& list, std::int32_t row);
 
-// What the field holds after the user edited it. Too long a text is cut, a locked field stays.
+// `text` is the whole content after the edit. It is cut at `max_length`; a locked field ignores it.
 void type(text_box& field, const std::string& text);
 
-// The focus goes to a control, or with null to none; the one that had it gets LostFocus.
+// Moves the focus to a control, or to none if null. The control that had it gets LostFocus.
 void focus(control* to);
-// Nothing has the focus, as in a new process.
-void forget_focus();
+// Nothing has the focus then. For begin_process.
+void clear_focus();
 
-// A number that no row has does nothing.
+// A row that does not exist is ignored.
 void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
 void select_file(file_list& files, std::int32_t row);
 
-// The drives, folders and files in the lists of a form are read anew. To open the folder that is
-// open already does that too.
+// Reloads the lists of drives, folders and files of a form, as `open_folder` of the open folder
+// does.
 void reload(form& window);
 
-// The window got a new client size in twips.
+// Resizes the client area, in twips.
 void resize(form& window, std::int32_t client_width, std::int32_t client_height);
-// Windows without a control box and disabled ones stay.
+// Ignored for windows that are disabled or have no control box.
 void close(form& window);
 
-// `Interval` milliseconds have passed.
+// The timer has expired.
 void tick(timer& ticked);
 
 }  // namespace forms_layer::user
