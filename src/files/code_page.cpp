@@ -7,7 +7,7 @@ namespace files {
 
 namespace {
 
-// Code points of the bytes 80 to 9F; all other bytes stand for the code point of their number.
+// Code points of the bytes 80 to 9F; every other byte is its own code point.
 constexpr std::array<char32_t, 32> upper_controls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -27,8 +27,8 @@ std::optional<char> byte_of(char32_t point) {
 
 constexpr char32_t not_utf8 = 0xFFFFFFFF;
 
-// Takes one code point off the front of `rest`; for bytes that are not UTF-8 takes one byte off
-// and gives not_utf8.
+// Removes one code point from the front of `rest` and returns it. If the bytes are not UTF-8,
+// removes one byte and returns not_utf8.
 char32_t take_code_point(std::string_view& rest) {
   const auto lead = static_cast<unsigned char>(rest.front());
   const std::size_t length = lead < 0x80   ? 1
@@ -48,9 +48,10 @@ char32_t take_code_point(std::string_view& rest) {
     if ((next & 0xC0U) != 0x80) return refuse();
     point = point << 6U | (next & 0x3FU);
   }
-  constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
+  // A smaller code point in a sequence of this length is an overlong form.
+  constexpr std::array<char32_t, 5> min_point = {0, 0, 0x80, 0x800, 0x10000};
   const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
-  if (point < least[length] || point > 0x10FFFF || surrogate) return refuse();
+  if (point < min_point[length] || point > 0x10FFFF || surrogate) return refuse();
   rest.remove_prefix(length);
   return point;
 }
@@ -68,11 +69,8 @@ void append_utf8(std::string& to, char32_t point) {
   }
 }
 
-// The capital letter of a small one and the reverse, as distances in the code page.
 constexpr bool is_latin_small(unsigned char c) { return c >= 0xE0 && c != 0xF7 && c != 0xFF; }
-constexpr bool is_latin_capital(unsigned char c) { return c >= 0xC0 && c <= 0xDE && c != 0xD7; }
 constexpr bool is_c1_small(unsigned char c) { return c == 0x9A || c == 0x9C || c == 0x9E; }
-constexpr bool is_c1_capital(unsigned char c) { return c == 0x8A || c == 0x8C || c == 0x8E; }
 
 bool is_ascii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
@@ -85,13 +83,29 @@ constexpr char upper_form(unsigned char byte) {
   return static_cast<char>(byte);
 }
 
-constexpr std::array<char, 256> upper_forms = [] {
-  std::array<char, 256> forms = {};
-  for (std::size_t byte = 0; byte < forms.size(); ++byte) {
-    forms[byte] = upper_form(static_cast<unsigned char>(byte));
+struct case_tables {
+  std::array<char, 256> upper = {};
+  std::array<char, 256> lower = {};
+};
+
+constexpr case_tables cases = [] {
+  case_tables tables;
+  for (std::size_t byte = 0; byte < 256; ++byte) tables.lower[byte] = static_cast<char>(byte);
+  for (std::size_t byte = 0; byte < 256; ++byte) {
+    const char upper = upper_form(static_cast<unsigned char>(byte));
+    tables.upper[byte] = upper;
+    if (upper != static_cast<char>(byte)) {
+      tables.lower[static_cast<unsigned char>(upper)] = static_cast<char>(byte);
+    }
   }
-  return forms;
+  return tables;
 }();
+
+std::string mapped(std::string_view text, const std::array<char, 256>& table) {
+  std::string result(text);
+  for (char& c : result) c = table[static_cast<unsigned char>(c)];
+  return result;
+}
 
 }  // namespace
 
@@ -121,27 +135,8 @@ std::string from_utf8_lossy(std::string_view utf8) {
   return text;
 }
 
-char upper_case(char c) { return upper_forms[static_cast<unsigned char>(c)]; }
-
-std::string upper_case(std::string_view text) {
-  std::string folded(text);
-  for (char& c : folded) c = upper_case(c);
-  return folded;
-}
-
-std::string lower_case(std::string_view text) {
-  std::string folded(text);
-  for (char& c : folded) {
-    const auto byte = static_cast<unsigned char>(c);
-    if ((byte >= 'A' && byte <= 'Z') || is_latin_capital(byte)) {
-      c = static_cast<char>(byte + 0x20);
-    } else if (is_c1_capital(byte)) {
-      c = static_cast<char>(byte + 0x10);
-    } else if (byte == 0x9F) {
-      c = static_cast<char>(0xFF);
-    }
-  }
-  return folded;
-}
+char upper_case(char c) { return cases.upper[static_cast<unsigned char>(c)]; }
+std::string upper_case(std::string_view text) { return mapped(text, cases.upper); }
+std::string lower_case(std::string_view text) { return mapped(text, cases.lower); }
 
 }  // namespace files

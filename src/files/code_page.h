@@ -4,20 +4,19 @@
 #include <string>
 #include <string_view>
 
-// Text of the tool is code page 1252, one byte a character. The five bytes that the code page
-// leaves open (81, 8D, 8F, 90, 9D) stand for the control characters of the same number.
+// All text of the tool is in code page 1252, one byte per character. The five bytes that the code
+// page does not define (81, 8D, 8F, 90, 9D) are the control characters of the same number.
 namespace files {
 
-// Any text has a form in UTF-8.
 std::string to_utf8(std::string_view text);
 
-// Nothing if the text is not UTF-8 or holds a character that the code page has not got.
+// Returns nullopt if the text is not UTF-8 or holds a character that the code page lacks.
 std::optional<std::string> from_utf8(std::string_view utf8);
 
-// Like from_utf8, with "?" for each character that the code page has not got.
+// Like from_utf8, with "?" for each such character and for each byte that is not UTF-8.
 std::string from_utf8_lossy(std::string_view utf8);
 
-// Folds the code page's accented letters too.
+// Letters with accents are converted too.
 char upper_case(char c);
 std::string upper_case(std::string_view text);
 std::string lower_case(std::string_view text);
