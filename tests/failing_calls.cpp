@@ -68,9 +68,9 @@ table counted_calls() {
   };
   all.seek_to = counted<"seek_to", &table::seek_to>::call;
   all.set_size = counted<"set_size", &table::set_size>::call;
-  all.facts_of = counted<"facts_of", &table::facts_of>::call;
-  all.facts_at = counted<"facts_at", &table::facts_at>::call;
-  all.set_rights = counted<"set_rights", &table::set_rights>::call;
+  all.info_of = counted<"info_of", &table::info_of>::call;
+  all.info_at = counted<"info_at", &table::info_at>::call;
+  all.set_permissions = counted<"set_permissions", &table::set_permissions>::call;
   all.lock = counted<"lock", &table::lock>::call;
   all.flush_to_disk = counted<"flush_to_disk", &table::flush_to_disk>::call;
   all.close_file = counted<"close_file", &table::close_file>::call;

@@ -29,9 +29,9 @@ struct outcome {
 
 // Calls that may fail unheard: those that tidy up, that ask what need not be known, or that come
 // when the new file is in its place.
-const std::set<std::string> may_be_quiet = {"remove_file", "replace",  "flush_folder",
-                                            "close_file",  "lock",     "set_rights",
-                                            "list",        "facts_at", "facts_of"};
+const std::set<std::string> may_be_quiet = {"remove_file", "replace", "flush_folder",
+                                            "close_file",  "lock",    "set_permissions",
+                                            "list",        "info_at", "info_of"};
 
 const std::pair<call_fault, std::string> faults[] = {
     {{.reason = ENOSPC}, "the disk is full"},
@@ -154,7 +154,7 @@ TEST_F(failing_disk_test, EachFileIsTheOldOneOrTheNewOneWhole) {
                      << &job - jobs.data() << call << at << fault.lasting << words);
         // What cannot be looked at is not deleted. The next build does it.
         const bool lies = fault.kind == call_fault::lies;
-        const bool is_blind = fault.lasting || lies || call.starts_with("facts");
+        const bool is_blind = fault.lasting || lies || call.starts_with("info");
         if (is_blind) std::erase_if(after.files, is_hidden);
         // Nobody knows whose a file is that was made and reported not to be.
         if (lies && call == "open_new") {

@@ -14,11 +14,11 @@ using files_posix_test = tool_test;
 TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
   write("C:\\Mixed\\Name.TXT", "upper");
   write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
-  files::text_reader reader(files::on_drives("c:\\mIXED\\name.txt"));
+  files::text_reader reader(files::to_file_path("c:\\mIXED\\name.txt"));
   EXPECT_EQ(reader.read_line(), "upper");
   EXPECT_TRUE(files::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
   write("C:\\Mixed\\name.txt", "lower");
-  files::text_reader exact(files::on_drives("C:\\Mixed\\name.txt"));
+  files::text_reader exact(files::to_file_path("C:\\Mixed\\name.txt"));
   EXPECT_EQ(exact.read_line(), "lower");
   EXPECT_FALSE(files::file_exists("C:\\Mixed\\names.txt"));
   EXPECT_FALSE(files::file_exists("C:\\Mixed"));

@@ -52,7 +52,7 @@ TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
                                                  {to_the_edge + "\r\nnext", {to_the_edge, "next"}}};
   for (const auto& [bytes, lines] : cases) {
     write("C:\\lines.txt", bytes);
-    files::text_reader reader(files::on_drives("C:\\lines.txt"));
+    files::text_reader reader(files::to_file_path("C:\\lines.txt"));
     texts read;
     while (!reader.at_end()) read.push_back(reader.read_line());
     EXPECT_EQ(read, lines);
@@ -63,7 +63,7 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   const std::string bytes = some_bytes(300000);
   write("C:\\data", bytes);
   files::binary_file file;
-  file.open_to_read(files::on_drives("C:\\data"));
+  file.open_to_read(files::to_file_path("C:\\data"));
   for (const std::int64_t at : {0, 10, 70000, 69990, 5, 250000, 299990, 65536, 131071}) {
     for (const std::size_t count : {std::size_t{9}, std::size_t{70000}}) {
       file.seek(at);

@@ -14,8 +14,8 @@ TEST_F(files_windows_test, OpensNormalFilesAlone) {
   for (const char* name : {"NUL", "con", "COM1", "Com1.txt", "program", "a.txt:part", "D:x"}) {
     const std::string path = std::string("C:\\") + name;
     files::binary_file file;
-    EXPECT_THROW(file.open_to_read(files::on_drives(path)), files::file_error) << path;
-    EXPECT_THROW(file.open_to_write(files::on_drives(path)), files::file_error) << path;
+    EXPECT_THROW(file.open_to_read(files::to_file_path(path)), files::file_error) << path;
+    EXPECT_THROW(file.open_to_write(files::to_file_path(path)), files::file_error) << path;
   }
   EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
 }

@@ -13,7 +13,7 @@ namespace {
 
 using lists_test = tool_test;
 
-// Of the saved list and of the report: rights, links and other spellings stay as they are.
+// Of the saved list and of the report: permissions, links and other spellings stay as they are.
 TEST_F(lists_test, AReplacedListKeepsRightsLinksAndOtherSpellings) {
   const std::string saved = "A\r\n\r\n";
   for (const char* name : {"D:\\shplist.txt", "C:\\Shiplist-compare.txt"}) {

@@ -81,7 +81,7 @@ void run(build& job) {
   Form3.Refresh();
   job.list.names = listed_files();
   job.list.path_of = [&job](const std::string& name) {
-    return files::on_drives(job.list.folder + name, job.names);
+    return files::to_file_path(job.list.folder + name, job.names);
   };
   job.records = measure_files(job.list, tool_state.make_index);
   Form3.Refresh();

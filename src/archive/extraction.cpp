@@ -52,7 +52,7 @@ extraction_result extract(const std::string& target_folder) {
   Form3.ProgressBar2.Min = 0;
   return extract_entries(
       file_5, index_records(),
-      [&](const std::string& name) { return files::on_drives(target_folder + name, names); },
+      [&](const std::string& name) { return files::to_file_path(target_folder + name, names); },
       [&](const files::file_path& made) { names.add(made.system); },
       {.on_file =
            [&](std::size_t index, const std::string& name, std::int32_t size) {

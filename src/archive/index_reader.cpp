@@ -43,7 +43,7 @@ void keep_stamp(const files::file_stamp& stamp) {
 }
 
 void read_index() {
-  const archive_index index = read_archive_index(files::on_drives(tool_state.archive_path));
+  const archive_index index = read_archive_index(files::to_file_path(tool_state.archive_path));
   keep_records(index.records);
   keep_stamp(index.stamp);
 }

@@ -34,7 +34,7 @@ std::int32_t read_count(files::binary_file& file, const files::file_path& path) 
 archive_index read_archive_index(const files::file_path& path) {
   files::binary_file file;
   file.open_to_read(path);
-  archive_index index = {.records = {}, .stamp = file.facts().stamp};
+  archive_index index = {.records = {}, .stamp = file.info().stamp};
   const std::int32_t count = read_count(file, path);
   index.records.reserve(static_cast<std::size_t>(count));
   std::array<std::byte, record_size> bytes;
@@ -42,14 +42,14 @@ archive_index read_archive_index(const files::file_path& path) {
     if (file.read(bytes) < bytes.size()) refuse(path, "it was cut meanwhile.");
     index.records.push_back(decode_record(bytes));
   }
-  if (file.facts().stamp != index.stamp) refuse(path, "it was written to meanwhile.");
+  if (file.info().stamp != index.stamp) refuse(path, "it was written to meanwhile.");
   return index;
 }
 
 void open_unchanged(files::binary_file& file, const files::file_path& path,
                     const files::file_stamp& stamp) {
   file.open_to_read(path);
-  if (file.facts().stamp == stamp) return;
+  if (file.info().stamp == stamp) return;
   file.close();
   throw data_error(path.shown + " has changed since it was read. Read it again.");
 }

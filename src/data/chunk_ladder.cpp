@@ -11,7 +11,7 @@ constexpr std::int32_t largest_block = 8192;
 
 struct rung {
   std::int32_t block;
-  bool always_tells;
+  bool always_reports;
 };
 
 constexpr std::array<rung, 4> rungs = {
@@ -46,7 +46,7 @@ void count_small_block(running_copy& copy, std::int32_t size, std::int32_t value
 
 void copy_blocks(running_copy& copy, const rung& step, std::int32_t blocks) {
   for (std::int32_t i = 1; i <= blocks && !copy.source_ended; ++i) {
-    if (step.always_tells) {
+    if (step.always_reports) {
       copy.progress.on_bytes(i * step.block);
     } else {
       count_small_block(copy, step.block, i * step.block);
@@ -68,7 +68,7 @@ std::int32_t chunk_ladder(files::binary_file& source, files::binary_file& destin
     copy_blocks(copy, step, blocks);
     remaining -= blocks * step.block;
   }
-  if (remaining > 0) copy_blocks(copy, {.block = 1, .always_tells = false}, remaining);
+  if (remaining > 0) copy_blocks(copy, {.block = 1, .always_reports = false}, remaining);
   return copy.copied;
 }
 

@@ -1,7 +1,7 @@
 #include "data/compare_report.h"
 
-#include "data/compare_key.h"
 #include "data/sign_column_text.h"
+#include "files/text.h"
 #include "files/text_file.h"
 
 namespace ostrane {
@@ -30,13 +30,13 @@ class report_walk {
   }
 
  private:
-  void step_list() { list_key_ = compare_key(archive_.name(++i_)); }
+  void step_list() { list_key_ = files::compare_key(archive_.name(++i_)); }
 
   // A line after the final one is empty.
   void step_ship() {
     const auto line = static_cast<std::size_t>(++j_);
     const bool exists = line < ships_.shiplist_lines.size();
-    ship_key_ = exists ? compare_key(ships_.shiplist_lines[line]) : "";
+    ship_key_ = exists ? files::compare_key(ships_.shiplist_lines[line]) : "";
   }
 
   // First of the archive, then of the shiplist, the names that sort before the other side's current

@@ -13,7 +13,7 @@ std::int32_t entry_end(std::span<const dat_record> records, std::int32_t index) 
   return records[next < records.size() ? next : next - 1].offset;
 }
 
-std::int32_t in_32_bits(std::int64_t number) {
+std::int32_t clamp_to_int32(std::int64_t number) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, INT32_MIN, INT32_MAX));
 }
 

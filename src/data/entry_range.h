@@ -15,6 +15,6 @@ std::int32_t entry_start(std::span<const dat_record> records, std::int32_t index
 std::int32_t entry_end(std::span<const dat_record> records, std::int32_t index);
 
 // The nearest number of 32 bits; what an index claims can add up to more.
-std::int32_t in_32_bits(std::int64_t number);
+std::int32_t clamp_to_int32(std::int64_t number);
 
 }  // namespace ostrane

@@ -28,7 +28,7 @@ struct entry_file {
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
     if (is_whole) return;
-    const bool drop = is_new && files::file_calls::is_at(file.handle(), path.system) != 0;
+    const bool drop = is_new && files::file_calls::leads_to(path.system, file.handle()) != 0;
     file.abandon();
     if (drop) files::file_calls::remove_file(path.system);
   }
@@ -37,8 +37,8 @@ struct entry_file {
 struct extraction {
   files::binary_file& archive;
   std::span<const dat_record> records;
-  const target_of_entry& target;
-  const file_was_made& on_made;
+  const entry_target& target;
+  const entry_file_created& on_created;
   const job_progress& progress;
   files::binary_file file = {};
   files::file_stamp stamp = {};
@@ -51,8 +51,8 @@ struct extraction {
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
   entry_file to(job.file, job.target(name));
   if (to.is_new) {
-    job.on_made(to.path);
-  } else if (to.file.facts().stamp.identity == job.stamp.identity) {
+    job.on_created(to.path);
+  } else if (to.file.info().stamp.identity == job.stamp.identity) {
     return "it would be written over the open archive";
   }
   job.archive.seek(job.position);
@@ -87,7 +87,7 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
 
 void extract_entry(extraction& job, std::size_t index) {
   const std::int32_t size =
-      in_32_bits(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
+      clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);
   job.progress.on_file(index, name, size);
   const std::string reason = try_to_write_entry(job, name, size);
@@ -103,11 +103,11 @@ void extract_entry(extraction& job, std::size_t index) {
 }  // namespace
 
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
-                                  const target_of_entry& target, const file_was_made& on_made,
+                                  const entry_target& target, const entry_file_created& on_created,
                                   const job_progress& progress) {
-  extraction job{archive, records, target, on_made, progress};
+  extraction job{archive, records, target, on_created, progress};
   job.result.stopped = files::failure_of([&] {
-    job.stamp = archive.facts().stamp;
+    job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
   });

@@ -20,16 +20,16 @@ struct extraction_result {
 };
 
 // Where the file of an entry goes.
-using target_of_entry = std::function<files::file_path(const std::string& name)>;
+using entry_target = std::function<files::file_path(const std::string& name)>;
 // Called when that file was made new.
-using file_was_made = std::function<void(const files::file_path& path)>;
+using entry_file_created = std::function<void(const files::file_path& path)>;
 
 // Writes every entry of an open archive to a file of its own, over one of its name or as a new one.
 // The entries lie one after the other from the offset of the first record on. A full disk and a
 // lack of memory stop the job; any other failure skips the entry. A new file that is not whole is
 // removed. The archive itself is never written to.
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
-                                  const target_of_entry& target, const file_was_made& on_made,
+                                  const entry_target& target, const entry_file_created& on_created,
                                   const job_progress& progress);
 
 }  // namespace ostrane

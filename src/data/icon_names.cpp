@@ -1,6 +1,5 @@
 #include "data/icon_names.h"
 
-#include "data/compare_key.h"
 #include "files/failure.h"
 #include "files/text.h"
 #include "files/text_file.h"
@@ -34,9 +33,9 @@ std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
 std::size_t find_icon_name(const std::vector<icon_name_pair>& rows, std::string_view entry_name) {
   const std::size_t dot = entry_name.find('.');
   const std::string wanted =
-      dot == std::string_view::npos ? "" : compare_key(entry_name.substr(0, dot));
+      dot == std::string_view::npos ? "" : files::compare_key(entry_name.substr(0, dot));
   for (std::size_t i = 1; i < rows.size(); ++i) {
-    if (compare_key(rows[i].name) == wanted) return i;
+    if (files::compare_key(rows[i].name) == wanted) return i;
   }
   return 0;
 }

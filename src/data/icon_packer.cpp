@@ -8,10 +8,10 @@
 namespace ostrane {
 namespace {
 
-constexpr int longest_skip = 255;
-constexpr int longest_op = 127;
+constexpr int max_skip = 255;
+constexpr int max_op_pixels = 127;
 // A shorter run within a literal costs no less than going on with the literal.
-constexpr int run_worth_leaving_a_literal_for = 3;
+constexpr int min_run_after_literal = 3;
 
 void append(std::string& to, std::uint32_t value, int bytes) {
   for (int i = 0; i < bytes; ++i) to += static_cast<char>(value >> (8 * i) & 0xFFU);
@@ -53,24 +53,23 @@ class row_packer {
   }
 
   void skip() {
-    const int count = std::min(equal_cells(column_), longest_skip);
+    const int count = std::min(equal_cells(column_), max_skip);
     stream_ += '\1';
     stream_ += static_cast<char>(count);
     column_ += count;
   }
 
   void run() {
-    const int count = std::min(equal_cells(column_), longest_op);
+    const int count = std::min(equal_cells(column_), max_op_pixels);
     stream_ += static_cast<char>(2 * count);
     stream_ += static_cast<char>(cell(column_));
     column_ += count;
   }
 
   void literal() {
-    const int limit = std::min(end_, column_ + longest_op);
+    const int limit = std::min(end_, column_ + max_op_pixels);
     int to = column_ + 1;
-    while (to < limit && cell(to) != picture::unset &&
-           equal_cells(to) < run_worth_leaving_a_literal_for) {
+    while (to < limit && cell(to) != picture::unset && equal_cells(to) < min_run_after_literal) {
       ++to;
     }
     stream_ += static_cast<char>(2 * (to - column_) + 1);

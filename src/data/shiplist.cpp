@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "data/compare_key.h"
 #include "data/data_error.h"
+#include "files/text.h"
 #include "files/text_file.h"
 
 namespace ostrane {
@@ -29,7 +29,7 @@ std::uint64_t as_number(std::string_view key, std::size_t from) {
 }
 
 sort_key key_of(const std::string& line, std::size_t number) {
-  const std::string key = compare_key(line);
+  const std::string key = files::compare_key(line);
   return {as_number(key, 0), as_number(key, sizeof(std::uint64_t)), number};
 }
 
@@ -37,7 +37,7 @@ sort_key key_of(const std::string& line, std::size_t number) {
 int difference(const std::vector<std::string>& lines, const sort_key& a, const sort_key& b) {
   if (a.first != b.first) return a.first < b.first ? -1 : 1;
   if (a.second != b.second) return a.second < b.second ? -1 : 1;
-  return compare_key(lines[a.line]).compare(compare_key(lines[b.line]));
+  return files::compare_key(lines[a.line]).compare(files::compare_key(lines[b.line]));
 }
 
 }  // namespace

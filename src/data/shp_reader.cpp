@@ -12,12 +12,12 @@ namespace {
 // Far more bytes than a picture has use for. Without such a bound a small directory that names one
 // long stream again and again would keep the tool busy for minutes.
 constexpr std::int64_t max_bytes_per_pixel = 16;
-constexpr std::int64_t max_bytes_besides = 65536;
+constexpr std::int64_t max_extra_bytes = 65536;
 
 std::int64_t max_stream_bytes(const icon_head& head) {
   const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
   const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
-  return max_bytes_per_pixel * rows * columns + max_bytes_besides;
+  return max_bytes_per_pixel * rows * columns + max_extra_bytes;
 }
 
 template <std::size_t Size>
@@ -41,10 +41,9 @@ void read_icon_positions(files::binary_file& file, std::int32_t entry_offset,
   std::array<std::byte, shp_dir_entry_size> bytes;
   for (std::int32_t& position : positions) {
     const bool is_there = file.read(bytes) == bytes.size();
-    position =
-        is_there
-            ? in_32_bits(std::int64_t{entry_offset} + decode_shp_dir_entry(bytes).icon_offset + 1)
-            : 0;
+    position = is_there ? clamp_to_int32(std::int64_t{entry_offset} +
+                                         decode_shp_dir_entry(bytes).icon_offset + 1)
+                        : 0;
   }
 }
 
@@ -58,7 +57,7 @@ bool read_icon_head(files::binary_file& file, std::int32_t icon_position, icon_h
 void begin_stream(icon_stream& stream, const icon_head& head, std::int32_t icon_position,
                   std::int32_t entry_end) {
   const std::int64_t to_end_of_entry = std::int64_t{entry_end} - icon_position;
-  stream.entry_bytes_left = in_32_bits(std::min(to_end_of_entry, max_stream_bytes(head)));
+  stream.entry_bytes_left = clamp_to_int32(std::min(to_end_of_entry, max_stream_bytes(head)));
   stream.read_buffer_fill = 0;
   stream.read_buffer_pos = 0;
 }

@@ -20,24 +20,24 @@ void binary_file::abandon() {
 }
 
 void binary_file::open_to_read(const file_path& path) {
-  prepare(path.shown);
-  take(file_calls::open_to_read(path.system), false);
+  reset(path.shown);
+  set_file(file_calls::open_to_read(path.system), false);
 }
 
 bool binary_file::open_to_write(const file_path& path) {
-  prepare(path.shown);
-  const int made = file_calls::open_new(path.system);
-  take(made == -EEXIST ? file_calls::open_to_write(path.system) : made, true);
-  return made >= 0;
+  reset(path.shown);
+  const int created = file_calls::open_new(path.system);
+  set_file(created == -EEXIST ? file_calls::open_to_write(path.system) : created, true);
+  return created >= 0;
 }
 
-void binary_file::take_written(int file, const std::string& shown_path) {
-  prepare(shown_path);
-  take(file, true);
+void binary_file::adopt(int file, const std::string& shown_path) {
+  reset(shown_path);
+  set_file(file, true);
 }
 
-// Takes the memory before any file is made.
-void binary_file::prepare(const std::string& shown_path) {
+// Allocates the buffer before a file is created, so that a lack of memory leaves no empty file.
+void binary_file::reset(const std::string& shown_path) {
   abandon();
   path_ = shown_path;
   buffer_.resize(buffer_size);
@@ -46,7 +46,7 @@ void binary_file::prepare(const std::string& shown_path) {
   buffer_start_ = 0;
 }
 
-void binary_file::take(int file, bool writes) {
+void binary_file::set_file(int file, bool writes) {
   if (file < 0) fail(file, " cannot be opened: ");
   file_ = file;
   writes_ = writes;
@@ -94,7 +94,7 @@ std::size_t binary_file::read(std::span<std::byte> to) {
   std::size_t got = 0;
   while (got < to.size()) {
     if (position_ == fill_) {
-      // A large block goes straight to where it is wanted.
+      // A large block bypasses the buffer.
       if (to.size() - got >= buffer_size) {
         const std::size_t moved = read_from_system(to.subspan(got));
         if (moved == 0) break;
@@ -125,14 +125,14 @@ void binary_file::write(std::span<const std::byte> from) {
   }
 }
 
-file_facts binary_file::facts() {
-  file_facts found;
-  const int outcome = file_calls::facts_of(file_, found);
+file_info binary_file::info() {
+  file_info found;
+  const int outcome = file_calls::info_of(file_, found);
   if (outcome < 0) fail(outcome, " cannot be read: ");
   return found;
 }
 
-void binary_file::cut() {
+void binary_file::truncate() {
   flush();
   const int outcome = file_calls::set_size(file_, buffer_start_);
   if (outcome < 0) fail(outcome, " cannot be written: ");
@@ -141,7 +141,7 @@ void binary_file::cut() {
 void binary_file::flush(bool to_disk) {
   std::size_t written = 0;
   const std::size_t count = position_;
-  position_ = 0;  // what could not be written is not tried again at close
+  position_ = 0;  // so that close() does not retry a failed write
   while (writes_ && written < count) {
     const std::int64_t moved =
         file_calls::write_some(file_, buffer_.data() + written, count - written);

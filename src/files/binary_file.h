@@ -11,49 +11,51 @@
 
 namespace files {
 
-// A file of bytes with a current position. It is buffered, so that blocks of one byte cost no call
-// to the system each. All operations throw file_error, with the path in its text, if the system
-// fails. Reading past the end is not an error; it returns fewer bytes.
+// A binary file with a current position and a buffer of 256 KiB. Reading past the end is not an
+// error; it returns fewer bytes. Unless stated otherwise, all operations throw file_error, whose
+// text names the path, if a system call fails.
 class binary_file {
  public:
   binary_file() = default;
   binary_file(const binary_file&) = delete;
   binary_file& operator=(const binary_file&) = delete;
-  // Closes an open file and ignores failures.
   ~binary_file() { abandon(); }
 
   void open_to_read(const file_path& path);
-  // Makes a missing file and returns true. An existing file is written over from its first byte and
-  // not emptied.
+  // Creates a missing file and returns true. Overwrites an existing file from its first byte,
+  // without truncating it, and returns false.
   bool open_to_write(const file_path& path);
 
-  // Takes a file that was opened for writing through file_calls; `shown_path` is for messages.
-  void take_written(int file, const std::string& shown_path);
+  // Takes ownership of a file that file_calls opened for writing, or throws if `file` is a negative
+  // errno number. `shown_path` is the path for messages.
+  void adopt(int file, const std::string& shown_path);
 
+  // `offset` is in bytes from the start of the file.
   void seek(std::int64_t offset);
-  // Bytes read: fewer than asked for only at the end of the file.
+  // Returns the number of bytes read, which is less than `to.size()` only at the end of the file.
   std::size_t read(std::span<std::byte> to);
-  // The next bytes, at most `max` and none at the end of the file. Valid until the next call.
+  // Returns the next bytes without copying them: at most `max`, none at the end of the file. Valid
+  // until the next call.
   std::span<const std::byte> next(std::size_t max);
   void write(std::span<const std::byte> from);
-  // Cuts a written file after its last byte written.
-  void cut();
-  file_facts facts();
-  std::int64_t size() { return facts().stamp.size; }
+  // Truncates the file at the current position. For files open for writing.
+  void truncate();
+  file_info info();
+  std::int64_t size() { return info().stamp.size; }  // bytes
 
-  // Writes what is still buffered, and to the disk itself too if `to_disk`.
+  // Writes the buffer to the system; with `to_disk` also waits until the disk has it.
   void flush(bool to_disk = false);
-  // Throws if what was written cannot be stored.
+  // Flushes and closes. Throws if the file is open for writing and either fails.
   void close();
-  // Closes without writing what is still buffered, and ignores failures.
+  // Closes an open file, discards the buffer and ignores failures.
   void abandon();
 
-  // The number of the open file, for file_calls.
+  // The file descriptor or handle for file_calls; -1 if no file is open.
   int handle() const { return file_; }
 
  private:
-  void prepare(const std::string& shown_path);
-  void take(int file, bool writes);
+  void reset(const std::string& shown_path);
+  void set_file(int file, bool writes);
   [[noreturn]] void fail(std::int64_t outcome, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
@@ -62,7 +64,7 @@ class binary_file {
   bool writes_ = false;
   std::string path_;
   std::vector<std::byte> buffer_;
-  std::size_t position_ = 0;       // of the next byte in the buffer
+  std::size_t position_ = 0;       // index of the next byte in the buffer
   std::size_t fill_ = 0;           // bytes in the buffer while reading
   std::int64_t buffer_start_ = 0;  // file offset of the buffer's first byte
 };

@@ -14,7 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A few names are looked up one by one; for more of them the whole folder is read, once.
+// The first lookups in a folder ask the system for the exact name; a further one reads the whole
+// folder, which is faster for many names.
 constexpr int max_single_lookups = 8;
 
 bool name_exists(const fs::path& path) {
@@ -31,7 +32,7 @@ void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) 
   for (const listed_entry& found : listed) {
     const std::optional<std::string> text = name_as_text(found.name);
     if (!text) continue;
-    // Of several names that differ in case only the first by code value stands for all.
+    // Of names that differ in case only, the first by code value wins.
     const auto [entry, is_new] = known.names.emplace(upper_case(*text), found.name);
     if (!is_new && found.name < entry->second) entry->second = found.name;
   }
@@ -50,7 +51,7 @@ fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string
   }
   fs::path other_case = folder / found->second;
   if (name_exists(other_case)) return other_case;
-  // It was deleted meanwhile. Another spelling of it may be there.
+  // The file was deleted after the folder was read. Another spelling may exist.
   known = {};
   read(known, folder);
   const auto left = known.names.find(upper_case(name));

@@ -7,20 +7,20 @@ namespace files {
 namespace {
 
 std::vector<drive> known;
-bool looked = false;
-bool given_by_caller = false;
-std::string current_given;
+bool is_known = false;
+bool is_override = false;
+std::string current_override;
 
 }  // namespace
 
 const std::vector<drive>& drives() {
-  if (!looked) find_drives();
+  if (!is_known) refresh_drives();
   return known;
 }
 
-void find_drives() {
-  looked = true;
-  if (given_by_caller) return;
+void refresh_drives() {
+  is_known = true;
+  if (is_override) return;
   for (drive& found : system_drives()) {
     const auto same_folder = [&found](const drive& d) { return d.folder == found.folder; };
     if (std::any_of(known.begin(), known.end(), same_folder)) continue;
@@ -32,16 +32,16 @@ void find_drives() {
 }
 
 void set_drives(std::vector<drive> given, std::string current) {
-  given_by_caller = !given.empty();
-  looked = given_by_caller;
+  is_override = !given.empty();
+  is_known = is_override;
   known = std::move(given);
-  current_given = std::move(current);
+  current_override = std::move(current);
 }
 
-const std::string& given_current_folder() { return current_given; }
+const std::string& current_folder_override() { return current_override; }
 
 const drive* find_drive(char letter) {
-  if (!looked) find_drives();
+  if (!is_known) refresh_drives();
   const auto at = std::find_if(known.begin(), known.end(),
                                [letter](const drive& d) { return d.letter == letter; });
   return at == known.end() ? nullptr : &*at;

@@ -8,27 +8,28 @@ namespace files {
 
 struct drive {
   char letter;                   // upper case
-  std::string label;             // what stands in the brackets behind it
-  std::filesystem::path folder;  // what its root is on this system
+  std::string label;             // in brackets after the letter in drive_text
+  std::filesystem::path folder;  // system path of its root
 };
 
-// The drives, by letter. One that was seen once stays, so that letters never move under the user.
+// The drives, sorted by letter.
 const std::vector<drive>& drives();
 
-// Looks for drives that have come.
-void find_drives();
+// Adds new drives. Known drives keep their letters and are never removed, so that the paths on
+// screen stay valid.
+void refresh_drives();
 
-// Takes these for all drives and nothing else, and `current` as the current folder of the process;
-// an empty list brings the system's own back.
+// Replaces the system's drives, and the current folder of the process by the tool path `current`.
+// An empty list restores the system's.
 void set_drives(std::vector<drive> given, std::string current = {});
 
-// The current folder that was given with set_drives, or empty.
-const std::string& given_current_folder();
+// The current folder that set_drives was given, or "".
+const std::string& current_folder_override();
 
-// Null if there is none. The letter is in upper case.
+// `letter` is in upper case. Returns null if the drive does not exist.
 const drive* find_drive(char letter);
 
-// As a drive list shows it: "c: [home]".
+// The text of a drive list's row: "c: [home]".
 std::string drive_text(const drive& shown);
 
 // The system's own drives; one file per system.

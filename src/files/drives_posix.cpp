@@ -7,8 +7,8 @@
 #include "files/code_page.h"
 #include "files/drives.h"
 
-// A system without drives: C: is the user's home folder, Z: the root of the file system, and the
-// mounted media take D: upwards.
+// POSIX has no drives. C: is the user's home folder, Z: the root of the file system, and the
+// letters from D: on are the mounted media.
 namespace files {
 
 namespace {
@@ -27,10 +27,10 @@ std::string user_name() {
   return user != nullptr && user->pw_name != nullptr ? user->pw_name : "";
 }
 
-std::vector<fs::path> folders_in(const fs::path& place) {
+std::vector<fs::path> folders_in(const fs::path& folder) {
   std::vector<fs::path> found;
   std::error_code failed;
-  for (fs::directory_iterator at(place, failed), end; !failed && at != end; at.increment(failed)) {
+  for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
     std::error_code unknown;
     if (at->is_directory(unknown)) found.push_back(at->path());
   }
@@ -43,11 +43,12 @@ std::vector<fs::path> folders_in(const fs::path& place) {
 std::vector<drive> system_drives() {
   std::vector<drive> found = {{'C', "home", home_folder()}};
   const std::string user = user_name();
-  std::vector<fs::path> places = {"/mnt"};
-  if (!user.empty()) places.insert(places.begin(), {"/media/" + user, "/run/media/" + user});
+  std::vector<fs::path> mount_folders = {"/mnt"};
+  if (!user.empty())
+    mount_folders.insert(mount_folders.begin(), {"/media/" + user, "/run/media/" + user});
   char letter = 'D';
-  for (const fs::path& place : places) {
-    for (const fs::path& medium : folders_in(place)) {
+  for (const fs::path& folder : mount_folders) {
+    for (const fs::path& medium : folders_in(folder)) {
       if (letter == 'Z') break;
       found.push_back({letter++, from_utf8_lossy(medium.filename().string()), medium});
     }

@@ -15,7 +15,7 @@ std::string utf8_of(const wchar_t* text) {
   return utf8.data();
 }
 
-// Only a disk that is always there is asked: another could take seconds to answer.
+// Only fixed disks have a label: other drives can take seconds to answer.
 std::string label_of(const wchar_t* root) {
   std::array<wchar_t, MAX_PATH + 1> label = {};
   if (GetDriveTypeW(root) != DRIVE_FIXED) return "";
@@ -26,12 +26,12 @@ std::string label_of(const wchar_t* root) {
 }  // namespace
 
 std::vector<drive> system_drives() {
-  // A drive without a medium is to fail instead of asking the user for one.
+  // An access to a drive without a medium then fails instead of asking the user for one.
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   std::vector<drive> found;
-  const DWORD there = GetLogicalDrives();
+  const DWORD existing = GetLogicalDrives();
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    if ((there >> static_cast<unsigned>(letter - 'A') & 1U) == 0) continue;
+    if ((existing >> static_cast<unsigned>(letter - 'A') & 1U) == 0) continue;
     const std::wstring root = {static_cast<wchar_t>(letter), L':', L'\\'};
     found.push_back({letter, label_of(root.c_str()), root});
   }

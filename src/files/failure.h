@@ -6,7 +6,7 @@
 
 namespace files {
 
-// Runs a part of a command. Returns why it failed, as a sentence for the user, or "".
+// Runs `part` and catches its exceptions. Returns why it failed, as a sentence for the user, or "".
 template <typename Part>
 std::string failure_of(const Part& part) {
   try {

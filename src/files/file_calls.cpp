@@ -10,9 +10,9 @@ namespace {
 namespace fs = std::filesystem;
 
 template <typename Call, typename... Arguments>
-auto uninterrupted(Call call, Arguments&&... with) {
+auto uninterrupted(Call call, Arguments&&... arguments) {
   for (;;) {
-    const auto outcome = call(with...);
+    const auto outcome = call(arguments...);
     if (outcome != -EINTR) return outcome;
   }
 }
@@ -36,20 +36,18 @@ int set_size(int file, std::int64_t size) {
   return uninterrupted(system_calls.set_size, file, size);
 }
 
-int facts_of(int file, file_facts& facts) {
-  return uninterrupted(system_calls.facts_of, file, facts);
+int info_of(int file, file_info& info) { return uninterrupted(system_calls.info_of, file, info); }
+int info_at(const fs::path& path, file_info& info) {
+  return uninterrupted(system_calls.info_at, path, info);
 }
-int facts_at(const fs::path& path, file_facts& facts) {
-  return uninterrupted(system_calls.facts_at, path, facts);
-}
-int set_rights(int file, const file_facts& like) {
-  return uninterrupted(system_calls.set_rights, file, like);
+int set_permissions(int file, const file_info& like) {
+  return uninterrupted(system_calls.set_permissions, file, like);
 }
 int lock(int file) { return uninterrupted(system_calls.lock, file); }
 
 int flush_to_disk(int file) { return uninterrupted(system_calls.flush_to_disk, file); }
 
-// The file is closed also if that was interrupted.
+// close() closes the file even if it is interrupted, so it must not be retried.
 int close_file(int file) {
   const int outcome = system_calls.close_file(file);
   return outcome == -EINTR ? 0 : outcome;
@@ -73,16 +71,16 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
 }
 
 int leads_to(const fs::path& path, const file_identity& identity) {
-  file_facts found;
-  const int outcome = facts_at(path, found);
+  file_info found;
+  const int outcome = info_at(path, found);
   if (outcome == -ENOENT || outcome == -ENOTDIR) return 0;
   if (outcome < 0) return outcome;
   return found.stamp.identity == identity ? 1 : 0;
 }
 
-int is_at(int file, const fs::path& path) {
-  file_facts open;
-  const int outcome = facts_of(file, open);
+int leads_to(const fs::path& path, int file) {
+  file_info open;
+  const int outcome = info_of(file, open);
   return outcome < 0 ? outcome : leads_to(path, open.stamp.identity);
 }
 
@@ -115,13 +113,13 @@ file_error_number error_number(int errno_number) {
   }
 }
 
-std::string error_words(int errno_number) {
+std::string error_text(int errno_number) {
   switch (errno_number) {
     case ENOENT:
       return "it is not there";
     case EACCES:
     case EPERM:
-    case ENOTSUP:  // from a question for the size of a folder or a device
+    case ENOTSUP:  // from std::filesystem::file_size of a folder or a device
       return "access is not allowed";
     case EBUSY:
       return "it is in use";
@@ -149,7 +147,7 @@ std::string error_words(int errno_number) {
 
 void fail(const std::string& path, const char* what, std::int64_t outcome) {
   const int number = static_cast<int>(-outcome);
-  throw file_error{error_number(number), path + what + error_words(number) + "."};
+  throw file_error{error_number(number), path + what + error_text(number) + "."};
 }
 
 }  // namespace files::file_calls

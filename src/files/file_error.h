@@ -6,7 +6,7 @@
 
 namespace files {
 
-// The numbers by which the forms layer tells its file errors apart.
+// Error numbers that messages show.
 enum class file_error_number {
   file_not_found = 53,
   device_error = 57,
@@ -19,14 +19,14 @@ enum class file_error_number {
   path_not_found = 76,
 };
 
-// Thrown by the operations of files, folders and drives that say so.
+// A failed operation on a file, a folder or a drive.
 struct file_error : std::exception {
   file_error(file_error_number what_failed, std::string sentence)
       : number(what_failed), text(std::move(sentence)) {}
   const char* what() const noexcept override { return text.c_str(); }
 
   file_error_number number;
-  std::string text;  // names the path and says what is wrong, in a sentence for the user
+  std::string text;  // a sentence for the user, with the path and the reason
 };
 
 }  // namespace files

@@ -5,7 +5,7 @@
 
 namespace files {
 
-// Where a file is on the system, and how messages name it.
+// The system path of a file, and the path that messages show.
 struct file_path {
   std::filesystem::path system;
   std::string shown;

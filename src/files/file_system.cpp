@@ -48,7 +48,7 @@ std::vector<listed_entry> listed_in(const std::string& path) {
   return listed;
 }
 
-// A name that cannot stand in a path of the tool is of no use to it.
+// Why the lists leave an entry out, or "". `name` is its name in the code page, if it has one.
 const char* unlisted_reason(const listed_entry& entry, const std::optional<std::string>& name) {
   if (!name) return "its name has characters that the code page lacks";
   if (name->find('\\') != name->npos) return "its name holds a separator of paths";
@@ -84,8 +84,7 @@ std::int64_t file_size(const file_path& path) {
 
 void create_folder(const std::string& path) {
   std::error_code failed;
-  const fs::path place = system_path(path);
-  if (!fs::create_directory(place, failed) && !failed) {
+  if (!fs::create_directory(system_path(path), failed) && !failed) {
     failed = std::make_error_code(std::errc::file_exists);
   }
   if (failed) file_calls::fail(path, " cannot be made: ", -file_calls::errno_number(failed));
@@ -108,8 +107,8 @@ std::vector<unlisted_file> unlisted_files_in(const std::string& path,
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
     if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";
-    if (*reason != '\0')
-      unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
+    if (*reason == '\0') continue;
+    unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
   }
   std::sort(unlisted.begin(), unlisted.end(),
             [](const auto& a, const auto& b) { return a.name < b.name; });

@@ -6,10 +6,10 @@
 
 #include "files/file_path.h"
 
-// The file-system service, on paths of the tool.
+// Queries about files and folders. Paths are tool paths, see paths.h.
 namespace files {
 
-// False also for a folder, and if the system does not tell.
+// False on any error, such as a missing drive or lack of permission. A folder is not a file.
 bool file_exists(const std::string& path);
 bool folder_exists(const std::string& path);
 
@@ -18,22 +18,21 @@ std::int64_t file_size(const file_path& path);
 // Throws file_error, also if the folder exists already.
 void create_folder(const std::string& path);
 
-// The folders, or the normal files, in a folder, ascending by their upper-case form. Hidden names
-// and names that have no form in the code page are left out. Both throw file_error.
+// The folders or the regular files in a folder, sorted by their upper-case form. Hidden names and
+// names that the code page cannot represent are left out. Both throw file_error.
 std::vector<std::string> folders_in(const std::string& path);
 std::vector<std::string> files_in(const std::string& path);
 
-// The normal files in a folder that are not among those listed, and why, as the end of a sentence.
-// Throws file_error.
 struct unlisted_file {
-  std::string name;  // "?" stands for a character that the code page lacks
-  const char* reason;
+  std::string name;    // "?" replaces a character that the code page lacks
+  const char* reason;  // a sentence fragment
 };
+
+// The regular files in a folder that `listed` does not contain, sorted by name. Throws file_error.
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
                                              const std::vector<std::string>& listed);
 
-// True if `name` is what the pattern names, without regard to case; "*" stands for any characters,
-// "?" for any one.
+// Ignores case. "*" matches any number of characters, "?" exactly one.
 bool matches_pattern(const std::string& name, const std::string& pattern);
 
 }  // namespace files

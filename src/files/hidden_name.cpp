@@ -14,9 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A name of 255 bytes, the longest that systems take, leaves room for what is added.
-constexpr std::size_t max_kept_of_name = 200;
-constexpr std::string_view ending_of_temporary = ".new";
+// Leaves room for the dot, the time stamp and the ending within the usual limit of 255 bytes.
+constexpr std::size_t max_kept_name = 200;
+constexpr std::string_view temporary_ending = ".new";
 
 std::string hexadecimal(std::uint64_t number) {
   constexpr std::string_view digits = "0123456789abcdef";
@@ -25,11 +25,11 @@ std::string hexadecimal(std::uint64_t number) {
   return text;
 }
 
-// In upper case, so that all spellings of a name have the same hidden names.
+// In upper case, so that names that differ in case only share their hidden files.
 fs::path::string_type stem_of(const fs::path& target) {
   fs::path name = target.filename();
   if (const auto text = name_as_text(name.native())) name = system_name(upper_case(*text));
-  return fs::path(".").native() + name.native().substr(0, max_kept_of_name);
+  return fs::path(".").native() + name.native().substr(0, max_kept_name);
 }
 
 }  // namespace
@@ -41,12 +41,12 @@ fs::path hidden_beside(const fs::path& target, std::string_view ending) {
 fs::path temporary_beside(const fs::path& target) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
   std::string ending = "." + hexadecimal(static_cast<std::uint64_t>(now));
-  return hidden_beside(target, ending.append(ending_of_temporary));
+  return hidden_beside(target, ending.append(temporary_ending));
 }
 
 bool is_temporary_of(const fs::path& target, const fs::path& name) {
   const fs::path::string_type stem = stem_of(target);
-  const fs::path::string_type ending = fs::path(ending_of_temporary).native();
+  const fs::path::string_type ending = fs::path(temporary_ending).native();
   const fs::path::string_type& text = name.native();
   if (text.size() < stem.size() + ending.size() || !text.starts_with(stem)) return false;
   return text.ends_with(ending) &&

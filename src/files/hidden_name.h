@@ -3,15 +3,16 @@
 #include <filesystem>
 #include <string_view>
 
-// Hidden files that stand beside a file while it is written.
+// Names of the hidden files that exist beside a file while it is written.
 namespace files {
 
-// ".NAME" and the ending, in the folder of `target`; NAME is its name in upper case.
+// The path of ".NAME" + `ending` in the folder of `target`. NAME is its name in upper case.
 std::filesystem::path hidden_beside(const std::filesystem::path& target, std::string_view ending);
 
-// A name for the new content of `target`, which no other copy of the tool uses.
+// A path for the new content of `target`, ".NAME.<time>.new" in its folder. The time makes a clash
+// with another copy of the tool unlikely; the caller creates the file with open_new and retries.
 std::filesystem::path temporary_beside(const std::filesystem::path& target);
-// True if that is such a name.
+// True if `name` can be a result of temporary_beside for `target`.
 bool is_temporary_of(const std::filesystem::path& target, const std::filesystem::path& name);
 
 }  // namespace files

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <span>
 
-// Numbers as all files of the game hold them: the low byte first. All their bytes must be there:
-// from `at` on, in bytes.
+// Little-endian numbers, as in all files of the game. `at` is a byte offset; all bytes of the
+// number must lie within `bytes`.
 namespace files {
 
 inline std::int16_t int16_at(std::span<const std::byte> bytes, std::size_t at) {

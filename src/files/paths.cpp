@@ -16,8 +16,8 @@ namespace fs = std::filesystem;
 
 bool is_separator(char c) { return c == '\\' || c == '/'; }
 
-// Puts the names of a path behind those that stand already.
-void walk(std::vector<std::string>& names, std::string_view path) {
+// Appends the names of a path to `names` and resolves "." and "..".
+void append_names(std::vector<std::string>& names, std::string_view path) {
   while (!path.empty()) {
     const auto at = std::find_if(path.begin(), path.end(), is_separator);
     const std::string name(path.begin(), at);
@@ -36,33 +36,33 @@ bool is_drive_text(const std::string& path, char letter) {
   return named != nullptr && drive_text(*named) == path;
 }
 
-[[noreturn]] void report_missing_drive(const std::string& path) {
+[[noreturn]] void throw_missing_drive(const std::string& path) {
   throw file_error{file_error_number::device_unavailable,
                    "There is no drive " + path.substr(0, 1) + "."};
 }
 
-// On Windows a colon in a name would lead to another drive or into a hidden part of a file.
-constexpr bool drives_are_the_systems = fs::path::preferred_separator == '\\';
+constexpr bool is_windows = fs::path::preferred_separator == '\\';
 
-[[noreturn]] void report_colon_in_name(const std::string& path) {
+[[noreturn]] void throw_colon_in_name(const std::string& path) {
   throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon."};
 }
 
 std::vector<std::string> names_of(const std::string& whole_path) {
   std::vector<std::string> names;
-  walk(names, std::string_view(whole_path).substr(2));
+  append_names(names, std::string_view(whole_path).substr(2));
   return names;
 }
 
-fs::path found_in(const fs::path& folder, const std::string& name, const std::string& whole,
-                  case_insensitive_lookup& names) {
-  if (drives_are_the_systems && name.find(':') != name.npos) report_colon_in_name(whole);
+// On Windows a colon in a name would mean another drive or an alternate data stream.
+fs::path find_name(const fs::path& folder, const std::string& name, const std::string& whole,
+                   case_insensitive_lookup& names) {
+  if (is_windows && name.find(':') != name.npos) throw_colon_in_name(whole);
   return names.find(folder, name);
 }
 
 fs::path find_folder(const std::string& whole, case_insensitive_lookup& names) {
   fs::path path = drive_of(whole).folder;
-  for (const std::string& name : names_of(whole)) path = found_in(path, name, whole, names);
+  for (const std::string& name : names_of(whole)) path = find_name(path, name, whole, names);
   return path;
 }
 
@@ -84,13 +84,13 @@ std::string with_separator(std::string_view folder) {
 char drive_letter(std::string_view path) {
   if (path.empty()) return 0;
   const char letter = upper_case(path.front());
-  const bool named = letter >= 'A' && letter <= 'Z' && (path.size() == 1 || path[1] == ':');
-  return named ? letter : '\0';
+  const bool is_drive = letter >= 'A' && letter <= 'Z' && (path.size() == 1 || path[1] == ':');
+  return is_drive ? letter : '\0';
 }
 
 const drive& drive_of(const std::string& path) {
   const drive* named = find_drive(drive_letter(path));
-  if (named == nullptr) report_missing_drive(path);
+  if (named == nullptr) throw_missing_drive(path);
   return *named;
 }
 
@@ -99,7 +99,7 @@ std::string full_path(const std::string& path) {
   char letter = 0;
   if (path.size() > 1 && path[1] == ':') {
     letter = drive_letter(path);
-    if (letter == 0) report_missing_drive(path);
+    if (letter == 0) throw_missing_drive(path);
     rest.remove_prefix(2);
     if (is_drive_text(path, letter)) rest = {};
   }
@@ -110,7 +110,7 @@ std::string full_path(const std::string& path) {
     if (letter == 0) letter = current[0];
     if (!from_root && letter == current[0]) names = names_of(current);
   }
-  walk(names, rest);
+  append_names(names, rest);
   std::string whole = {letter, ':', '\\'};
   for (const std::string& name : names) {
     if (whole.back() != '\\') whole += '\\';
@@ -128,7 +128,7 @@ fs::path system_path(const std::string& path, case_insensitive_lookup& names) {
   if (known == names.known_folders.end()) {
     known = names.known_folders.emplace(folder, find_folder(folder, names)).first;
   }
-  return name.empty() ? known->second : found_in(known->second, name, whole, names);
+  return name.empty() ? known->second : find_name(known->second, name, whole, names);
 }
 
 fs::path system_path(const std::string& path) {
@@ -136,14 +136,14 @@ fs::path system_path(const std::string& path) {
   return system_path(path, names);
 }
 
-file_path on_drives(const std::string& path, case_insensitive_lookup& names) {
+file_path to_file_path(const std::string& path, case_insensitive_lookup& names) {
   return {system_path(path, names), path};
 }
 
-file_path on_drives(const std::string& path) { return {system_path(path), path}; }
+file_path to_file_path(const std::string& path) { return {system_path(path), path}; }
 
 file_path in_current_folder(const std::string& name) {
-  if (!given_current_folder().empty()) return on_drives(name);
+  if (!current_folder_override().empty()) return to_file_path(name);
   std::error_code failed;
   const fs::path folder = fs::current_path(failed);
   if (failed) file_calls::fail(name, " cannot be found: ", -file_calls::errno_number(failed));
@@ -151,7 +151,7 @@ file_path in_current_folder(const std::string& name) {
 }
 
 std::string current_folder() {
-  if (!given_current_folder().empty()) return given_current_folder();
+  if (!current_folder_override().empty()) return current_folder_override();
   std::error_code failed;
   const std::string current = to_tool_path(fs::current_path(failed));
   return current.empty() ? "C:\\" : current;

@@ -8,42 +8,43 @@
 #include "files/drives.h"
 #include "files/file_path.h"
 
-// Paths of the tool are "\"-separated and begin with a drive letter, such as "C:\icons\a.shp".
+// Tool paths are what users see: "C:\icons\a.shp", in the code page, with "\" as separator ("/" is
+// accepted too). System paths are those of the operating system.
 namespace files {
 
-// `folder` with a "\" behind it unless it ends in one.
+// `folder` with a "\" at its end.
 std::string with_separator(std::string_view folder);
 
-// The whole path, drive first, for a path that may lack its drive or start at the current folder;
-// "." and ".." are resolved and a root keeps its "\" at the end. A drive's text as the drive list
-// shows it, such as "c: [home]", gives the current folder of that drive. Throws file_error if what
-// stands before the colon is no letter.
+// Makes a tool path absolute, "C:\a\b" or "C:\", and resolves "." and "..". Without a drive it is
+// relative to the current folder. The text of a drive list's row, such as "c: [home]", means the
+// current folder of that drive, as "c:" does. Throws file_error if the character before the colon
+// is not a letter.
 std::string full_path(const std::string& path);
 
-// The letter of the drive that a path or a drive's text names, upper case; 0 if it names none.
+// The drive letter of a tool path or of a drive list's row, in upper case; 0 if it has none.
 char drive_letter(std::string_view path);
 
-// The drive that a path or a drive's text names. Throws file_error if there is none.
+// The drive of a tool path or of a drive list's row. Throws file_error if it does not exist.
 const drive& drive_of(const std::string& path);
 
-// The system's path for a path of the tool. Names compare without regard to case: an exact match
-// first, else one that differs in case only; a name that does not exist yet stays as given. Throws
-// file_error if there is no such drive.
+// The system path of a tool path. Of each name the exact spelling is used if it exists, else one
+// that differs in case only, else the name as given. Throws file_error if the drive does not exist.
+// For many paths pass the same `names`, which caches lookups.
 std::filesystem::path system_path(const std::string& path);
 std::filesystem::path system_path(const std::string& path, case_insensitive_lookup& names);
-// The same with the path as it was given, for messages.
-file_path on_drives(const std::string& path);
-file_path on_drives(const std::string& path, case_insensitive_lookup& names);
+// The same, with `path` as the path for messages.
+file_path to_file_path(const std::string& path);
+file_path to_file_path(const std::string& path, case_insensitive_lookup& names);
 
-// A file of that name in the current folder of the process, even if the folder's path has no form
-// in the code page.
+// A file in the current folder of the process. Works also if the code page cannot represent the
+// folder's path. Throws file_error if the folder does not exist any more.
 file_path in_current_folder(const std::string& name);
 
-// The current folder of the process, as a path of the tool; "C:\" if it has no form in the code
-// page.
+// The current folder of the process as a tool path; "C:\" if it has none.
 std::string current_folder();
 
-// The path of the tool for a path of this system; empty if it has no form in the code page.
+// The tool path of an absolute system path, on the drive with the nearest root; "" if no drive
+// contains it or the code page cannot represent it.
 std::string to_tool_path(const std::filesystem::path& path);
 
 }  // namespace files

@@ -17,10 +17,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int max_tries = 100;  // for a name that is free
+constexpr int max_tries = 100;  // to find a free name
 constexpr const char* cannot_write = " cannot be written: ";
 
-std::string folded_name(const fs::path::string_type& system_name) {
+std::string upper_case_name(const fs::path::string_type& system_name) {
   const std::optional<std::string> name = name_as_text(system_name);
   return name ? upper_case(*name) : std::string();
 }
@@ -29,7 +29,7 @@ std::string folded_name(const fs::path::string_type& system_name) {
 
 replaced_file::replaced_file(file_path target)
     : target_(std::move(target)), lock_(target_.system, target_.shown) {
-  // The copy that had the lock before may have changed the spelling.
+  // Another copy of the tool may have changed the spelling before this one got the lock.
   if (const auto name = name_as_text(target_.system.filename().native())) {
     target_.system = case_insensitive_lookup().find(target_.system.parent_path(), *name);
   }
@@ -40,16 +40,16 @@ replaced_file::replaced_file(file_path target)
     file = file_calls::open_new(temporary_);
   }
   try {
-    file_.take_written(file, target_.shown);
-    identity_ = file_.facts().stamp.identity;
+    file_.adopt(file, target_.shown);
+    identity_ = file_.info().stamp.identity;
   } catch (...) {
     if (file >= 0 && file_.handle() != file) file_calls::close_file(file);
     file_calls::remove_file(temporary_);
     throw;
   }
-  // Tells other copies that it is no leftover, should they have got past the other lock.
+  // If another copy gets past `lock_`, this lock keeps it from removing the file as a leftover.
   file_calls::lock(file);
-  take_rights();
+  inherit_permissions();
 }
 
 replaced_file::~replaced_file() {
@@ -65,17 +65,17 @@ void replaced_file::remove_leftovers() const {
     const fs::path leftover = target_.system.parent_path() / entry.name;
     const int file = file_calls::open_to_read(leftover);
     if (file < 0) continue;
-    if (file_calls::lock(file) >= 0 && file_calls::is_at(file, leftover) == 1) {
+    if (file_calls::lock(file) >= 0 && file_calls::leads_to(leftover, file) == 1) {
       file_calls::remove_file(leftover);
     }
     file_calls::close_file(file);
   }
 }
 
-void replaced_file::take_rights() {
-  file_facts old;
-  if (file_calls::facts_at(target_.system, old) < 0 || !old.is_file) return;
-  file_calls::set_rights(file_.handle(), old);
+void replaced_file::inherit_permissions() {
+  file_info old;
+  if (file_calls::info_at(target_.system, old) < 0 || !old.is_file) return;
+  file_calls::set_permissions(file_.handle(), old);
 }
 
 int replaced_file::is_own(const fs::path& path) const {
@@ -90,7 +90,8 @@ void replaced_file::require_own_file() const {
                    target_.shown + cannot_write + "another program has moved what was written."};
 }
 
-// A system may report a failure of what it has done. So the outcome is looked up.
+// A network file system can report a failure although it renamed the file, so the result is
+// checked.
 void replaced_file::put_in_place() {
   file_.flush(true);
   require_own_file();
@@ -106,11 +107,11 @@ void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
   const fs::path& kept = is_own(target) == 1 ? target : target_.system;
   if (is_own(kept) != 1) return;
-  const std::string folded = folded_name(kept.filename().native());
+  const std::string folded = upper_case_name(kept.filename().native());
   std::vector<listed_entry> listed;
   file_calls::list(kept.parent_path(), listed);
   for (const listed_entry& entry : listed) {
-    if (entry.is_folder || folded_name(entry.name) != folded) continue;
+    if (entry.is_folder || upper_case_name(entry.name) != folded) continue;
     const fs::path other = kept.parent_path() / entry.name;
     if (is_own(other) == 0) file_calls::remove_file(other);
   }

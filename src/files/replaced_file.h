@@ -5,47 +5,46 @@
 
 namespace files {
 
-// New content for a file, written to a hidden file beside it, which takes the file's place in one
-// step when it is whole. Until then, and after any failure, the old file is as it was. Copies of
-// the tool that write the same file wait for each other. A hidden file that a crash has left is
-// removed by the next one.
+// Replaces a file atomically: the new content is written to a hidden file beside it, which is then
+// renamed. Until then, and after any failure, the old file is unchanged. Copies of the tool that
+// write the same file wait for each other. A leftover from a crash is removed on the next run.
 //
-// Nothing is put in place or deleted under a name that does not lead to what was written here.
+// Before it renames or removes a file it checks that the path still leads to the file that it
+// wrote, as other programs can move files meanwhile. All operations throw file_error.
 class replaced_file {
  public:
-  // `target` is the file to replace or make. An old file whose name differs in case only is it too,
-  // unless there is one of the exact name. The new file gets the rights and the owner of the old
-  // one. Throws file_error, as the others do.
+  // `target` need not exist. If only a name in another case exists, that file is replaced. The new
+  // file gets permissions and owner of the old one, if the system allows it.
   explicit replaced_file(file_path target);
   replaced_file(const replaced_file&) = delete;
   replaced_file& operator=(const replaced_file&) = delete;
-  // Removes what was not put in place.
+  // Removes the new file unless it was put in place.
   ~replaced_file();
 
   binary_file& file() { return file_; }
 
-  // Flushes the new content to the disk and puts it in place.
+  // Flushes the new file to the disk and renames it to the target.
   void put_in_place();
 
-  // For a file that is in place: another spelling of its name, in the same folder. If that fails
-  // the name stays. Other files of the same name in another case are deleted.
+  // Renames the file to `target`, which differs from the name in place in case only, and deletes
+  // files whose names differ from it in case only. Failures are ignored. Call after put_in_place.
   void respell(const std::filesystem::path& target);
 
-  // Flushes the folder, so that a loss of power does not bring the old file back.
+  // Flushes the folder, so that the new file survives a power loss. Failures are ignored.
   void flush_folder();
 
  private:
   void remove_leftovers() const;
-  void take_rights();
+  void inherit_permissions();
   void require_own_file() const;
-  // 1 if `path` leads to what is written here, 0 if not, or a negative errno number.
+  // As file_calls::leads_to, for the new file.
   int is_own(const std::filesystem::path& path) const;
 
   file_path target_;
   writing_lock lock_;
   std::filesystem::path temporary_;
   binary_file file_;
-  file_identity identity_;  // of what is written here
+  file_identity identity_;  // of the new file; Wine does not tell that of a renamed open file
 };
 
 }  // namespace files

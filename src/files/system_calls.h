@@ -5,17 +5,17 @@
 #include <filesystem>
 #include <vector>
 
-// The calls to the system through which all files are read and written.
+// The system calls through which all files are read and written.
 namespace files {
 
 struct listed_entry {
   std::filesystem::path::string_type name;
-  bool is_hidden = false;  // the system does not list it by itself
-  bool is_folder = false;  // it or what it leads to, if it is a link
-  bool is_file = false;    // a normal one; so for a link too
+  bool is_hidden = false;  // by the conventions of the system
+  bool is_folder = false;  // links are followed
+  bool is_file = false;    // a regular file; links are followed
 };
 
-// Two names with one identity lead to one file.
+// Paths with the same identity are hard links to the same file.
 struct file_identity {
   std::uint64_t device = 0;
   std::uint64_t number = 0;
@@ -23,7 +23,7 @@ struct file_identity {
   friend bool operator==(const file_identity&, const file_identity&) = default;
 };
 
-// As long as the stamp is the same, nobody has replaced or written to the file.
+// If the stamp of a path is unchanged, the file was neither replaced nor written to.
 struct file_stamp {
   file_identity identity;
   std::int64_t size = 0;      // bytes
@@ -32,56 +32,57 @@ struct file_stamp {
   friend bool operator==(const file_stamp&, const file_stamp&) = default;
 };
 
-struct file_facts {
+struct file_info {
   file_stamp stamp;
-  bool is_file = false;  // a normal one, not a link to one
-  std::uint32_t rights = 0;
+  bool is_file = false;  // a regular file, not a link to one
+  std::uint32_t permissions = 0;
   std::uint32_t owner = 0;
   std::uint32_t group = 0;
 };
 
-// One file per system fills the table; tests put calls that fail in front. Each call returns a
-// negative errno number on failure.
+// Filled in by system_calls_posix.cpp or system_calls_windows.cpp. Tests put failing calls into it.
+// Each call returns a negative errno number on failure, and 0 or what its comment says on success.
 struct system_call_table {
-  // Only a normal file is opened; anything else (a folder, a device, a pipe) fails without waiting.
+  // Return a file descriptor or handle. Folders, devices and pipes are refused and never block.
   int (*open_to_read)(const std::filesystem::path& path);
-  // Makes a missing file and does not empty an existing one.
+  // Creates a missing file; does not truncate an existing one.
   int (*open_to_write)(const std::filesystem::path& path);
-  // Makes a file that must not exist yet.
+  // Creates a file; -EEXIST if the path exists.
   int (*open_new)(const std::filesystem::path& path);
 
-  // Bytes moved; 0 from a read at the end of the file.
+  // Return the number of bytes moved, at most `count`; 0 from a read at the end of the file.
   std::int64_t (*read_some)(int file, std::byte* to, std::size_t count);
   std::int64_t (*write_some)(int file, const std::byte* from, std::size_t count);
-  // `offset` counts from the start of the file, in bytes.
+  // `offset` is in bytes from the start of the file. Returns the new position.
   std::int64_t (*seek_to)(int file, std::int64_t offset);
   int (*set_size)(int file, std::int64_t size);
 
-  int (*facts_of)(int file, file_facts& facts);
-  // A link is not followed.
-  int (*facts_at)(const std::filesystem::path& path, file_facts& facts);
-  // Gives the file those rights and that owner, as far as the system lets it.
-  int (*set_rights)(int file, const file_facts& like);
-  // -EWOULDBLOCK if another process has locked the file. Closing it, or the end of the process,
-  // unlocks it.
+  int (*info_of)(int file, file_info& info);
+  // Links are not followed.
+  int (*info_at)(const std::filesystem::path& path, file_info& info);
+  // Copies permissions, owner and group, as far as the system allows it.
+  int (*set_permissions)(int file, const file_info& like);
+  // Takes an exclusive lock without waiting; -EWOULDBLOCK if another process has it. Closing the
+  // file releases it, as the end of the process does.
   int (*lock)(int file);
 
   int (*flush_to_disk)(int file);
   int (*close_file)(int file);
 
-  // Read-only or not; no folder.
+  // Removes read-only files too, but no folders.
   int (*remove_file)(const std::filesystem::path& path);
-  // Puts `file` in the place of `target`, or under a name that is free, in one step.
+  // Renames `file` to `target` atomically. `target` is replaced if it exists, even if read-only.
   int (*replace)(const std::filesystem::path& file, const std::filesystem::path& target);
-  // What was renamed, made or deleted in the folder then survives a loss of power.
+  // Makes renames, creations and removals in the folder survive a power loss.
   int (*flush_folder)(const std::filesystem::path& folder);
-  // Appends what the folder holds, in no order.
+  // Appends the entries of the folder to `found`, unsorted, without "." and "..".
   int (*list)(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 };
 
 extern system_call_table system_calls;
 
-// A write past the system's limit on file sizes then fails instead of ending the process.
+// Call once at start. A write past the file size limit (ulimit -f) then fails instead of ending the
+// process.
 void ignore_size_limit_signal();
 
 }  // namespace files

@@ -20,8 +20,8 @@ namespace fs = std::filesystem;
 
 int result(int outcome) { return outcome < 0 ? -errno : outcome; }
 
-// O_NONBLOCK keeps the opening of a pipe from waiting for its other end.
-int open_normal(const fs::path& path, int flags) {
+// Without O_NONBLOCK, open() of a pipe waits for its other end.
+int open_regular(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
   if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
@@ -31,11 +31,11 @@ int open_normal(const fs::path& path, int flags) {
   return -reason;
 }
 
-int open_to_read(const fs::path& path) { return open_normal(path, O_RDONLY); }
+int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
 
-int open_to_write(const fs::path& path) { return open_normal(path, O_WRONLY | O_CREAT); }
+int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY | O_CREAT); }
 
-int open_new(const fs::path& path) { return open_normal(path, O_WRONLY | O_CREAT | O_EXCL); }
+int open_new(const fs::path& path) { return open_regular(path, O_WRONLY | O_CREAT | O_EXCL); }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   const ssize_t moved = read(file, to, count);
@@ -54,41 +54,41 @@ std::int64_t seek_to(int file, std::int64_t offset) {
 
 int set_size(int file, std::int64_t size) { return result(ftruncate(file, size)); }
 
-void fill(file_facts& facts, const struct stat& status) {
+void fill(file_info& info, const struct stat& status) {
   constexpr std::int64_t nanoseconds_per_second = 1000000000;
-  facts.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
-                          static_cast<std::uint64_t>(status.st_ino)};
-  facts.stamp.size = status.st_size;
-  facts.stamp.modified = status.st_mtim.tv_sec * nanoseconds_per_second + status.st_mtim.tv_nsec;
-  facts.is_file = S_ISREG(status.st_mode);
-  facts.rights = status.st_mode & 07777U;
-  facts.owner = status.st_uid;
-  facts.group = status.st_gid;
+  info.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
+                         static_cast<std::uint64_t>(status.st_ino)};
+  info.stamp.size = status.st_size;
+  info.stamp.modified = status.st_mtim.tv_sec * nanoseconds_per_second + status.st_mtim.tv_nsec;
+  info.is_file = S_ISREG(status.st_mode);
+  info.permissions = status.st_mode & 07777U;
+  info.owner = status.st_uid;
+  info.group = status.st_gid;
 }
 
-int facts_of(int file, file_facts& facts) {
+int info_of(int file, file_info& info) {
   struct stat status = {};
   if (fstat(file, &status) < 0) return -errno;
-  fill(facts, status);
+  fill(info, status);
   return 0;
 }
 
-int facts_at(const fs::path& path, file_facts& facts) {
+int info_at(const fs::path& path, file_info& info) {
   struct stat status = {};
   if (lstat(path.c_str(), &status) < 0) return -errno;
-  fill(facts, status);
+  fill(info, status);
   return 0;
 }
 
-// A group that the file was not given gets no more rights than everybody has.
-int set_rights(int file, const file_facts& like) {
-  std::uint32_t rights = like.rights;
+// If the group cannot be set, the file's current group gets only the permissions of others.
+int set_permissions(int file, const file_info& like) {
+  std::uint32_t permissions = like.permissions;
   if (fchown(file, like.owner, like.group) < 0 &&
       fchown(file, static_cast<uid_t>(-1), like.group)) {
-    rights &= 0707U;
-    rights |= (rights & 07U) << 3U;
+    permissions &= 0707U;
+    permissions |= (permissions & 07U) << 3U;
   }
-  return result(fchmod(file, rights));
+  return result(fchmod(file, permissions));
 }
 
 int lock(int file) { return result(flock(file, LOCK_EX | LOCK_NB)); }
@@ -108,11 +108,11 @@ int flush_folder(const fs::path& folder) {
   if (opened < 0) return -errno;
   const int flushed = result(fsync(opened));
   close(opened);
-  // Some file systems cannot flush a folder; that is no fault of the file in it.
+  // Some file systems cannot flush folders, which is not an error of the file in it.
   return flushed == -EINVAL ? 0 : flushed;
 }
 
-// Only a link, or an entry of a file system that tells no kinds, has to be looked at.
+// A stat call is needed only for links and on file systems that do not fill in d_type.
 listed_entry listed_as(const dirent& entry, int folder) {
   listed_entry listed{.name = entry.d_name, .is_hidden = entry.d_name[0] == '.'};
   if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) {
@@ -133,7 +133,7 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
   const struct closing {
     DIR* opened;
     ~closing() { closedir(opened); }
-  } at_end{opened};
+  } guard{opened};
   errno = 0;
   while (const dirent* entry = readdir(opened)) {
     const std::string_view name = entry->d_name;
@@ -153,9 +153,9 @@ system_call_table system_calls = {
     .write_some = write_some,
     .seek_to = seek_to,
     .set_size = set_size,
-    .facts_of = facts_of,
-    .facts_at = facts_at,
-    .set_rights = set_rights,
+    .info_of = info_of,
+    .info_at = info_at,
+    .set_permissions = set_permissions,
     .lock = lock,
     .flush_to_disk = flush_to_disk,
     .close_file = close_file,

@@ -21,7 +21,7 @@ int last_error() {
 
 int result(BOOL done) { return done != 0 ? 0 : last_error(); }
 
-// Of a handle Windows uses no more bits than a number has.
+// Windows uses only the low 32 bits of a handle, so an int holds one.
 HANDLE handle_of(int file) { return reinterpret_cast<HANDLE>(static_cast<std::intptr_t>(file)); }
 
 bool has_attribute(const fs::path& path, DWORD wanted) {
@@ -34,15 +34,14 @@ void set_read_only(const fs::path& path, bool wanted) {
   SetFileAttributesW(path.c_str(), others | (wanted ? FILE_ATTRIBUTE_READONLY : 0));
 }
 
-// The system finds a device in such names as "C:\NUL" and "C:\icons\com1". Even to open one can
-// have an effect.
+// Names such as "C:\NUL" and "C:\icons\com1" mean devices. Even opening one can have an effect.
 bool is_device(const fs::path& path) {
   std::array<wchar_t, 32> whole = {};
   const DWORD length = GetFullPathNameW(path.c_str(), whole.size(), whole.data(), nullptr);
   return length < whole.size() && std::wstring_view(whole.data(), length).starts_with(L"\\\\.\\");
 }
 
-int open_normal(const fs::path& path, DWORD access, DWORD disposition) {
+int open_regular(const fs::path& path, DWORD access, DWORD disposition) {
   if (is_device(path)) return -EACCES;
   const HANDLE file =
       CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -58,26 +57,26 @@ int open_normal(const fs::path& path, DWORD access, DWORD disposition) {
   return -EACCES;
 }
 
-DWORD block(std::size_t count) {
-  constexpr std::size_t most = 1U << 30U;
-  return static_cast<DWORD>(std::min(count, most));
+DWORD block_size(std::size_t count) {
+  constexpr std::size_t max = 1U << 30U;
+  return static_cast<DWORD>(std::min(count, max));
 }
 
-int open_to_read(const fs::path& path) { return open_normal(path, GENERIC_READ, OPEN_EXISTING); }
+int open_to_read(const fs::path& path) { return open_regular(path, GENERIC_READ, OPEN_EXISTING); }
 
-int open_to_write(const fs::path& path) { return open_normal(path, GENERIC_WRITE, OPEN_ALWAYS); }
+int open_to_write(const fs::path& path) { return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS); }
 
-int open_new(const fs::path& path) { return open_normal(path, GENERIC_WRITE, CREATE_NEW); }
+int open_new(const fs::path& path) { return open_regular(path, GENERIC_WRITE, CREATE_NEW); }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   DWORD moved = 0;
-  const BOOL done = ReadFile(handle_of(file), to, block(count), &moved, nullptr);
+  const BOOL done = ReadFile(handle_of(file), to, block_size(count), &moved, nullptr);
   return done != 0 ? std::int64_t{moved} : last_error();
 }
 
 std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
   DWORD moved = 0;
-  const BOOL done = WriteFile(handle_of(file), from, block(count), &moved, nullptr);
+  const BOOL done = WriteFile(handle_of(file), from, block_size(count), &moved, nullptr);
   return done != 0 ? std::int64_t{moved} : last_error();
 }
 
@@ -92,37 +91,37 @@ int set_size(int file, std::int64_t size) {
   return at < 0 ? static_cast<int>(at) : result(SetEndOfFile(handle_of(file)));
 }
 
-std::uint64_t whole(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
+std::uint64_t join(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
 
-int facts_of(int file, file_facts& facts) {
+int info_of(int file, file_info& info) {
   constexpr std::uint64_t nanoseconds_per_tick = 100;
   BY_HANDLE_FILE_INFORMATION found = {};
   if (GetFileInformationByHandle(handle_of(file), &found) == 0) return last_error();
   const FILETIME& written = found.ftLastWriteTime;
-  facts.stamp.identity = {found.dwVolumeSerialNumber,
-                          whole(found.nFileIndexHigh, found.nFileIndexLow)};
-  facts.stamp.size = static_cast<std::int64_t>(whole(found.nFileSizeHigh, found.nFileSizeLow));
-  facts.stamp.modified = static_cast<std::int64_t>(
-      whole(written.dwHighDateTime, written.dwLowDateTime) * nanoseconds_per_tick);
+  info.stamp.identity = {found.dwVolumeSerialNumber,
+                         join(found.nFileIndexHigh, found.nFileIndexLow)};
+  info.stamp.size = static_cast<std::int64_t>(join(found.nFileSizeHigh, found.nFileSizeLow));
+  info.stamp.modified = static_cast<std::int64_t>(
+      join(written.dwHighDateTime, written.dwLowDateTime) * nanoseconds_per_tick);
   constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
-  facts.is_file = (found.dwFileAttributes & others) == 0;
+  info.is_file = (found.dwFileAttributes & others) == 0;
   return 0;
 }
 
-int facts_at(const fs::path& path, file_facts& facts) {
+int info_at(const fs::path& path, file_info& info) {
   const HANDLE file = CreateFileW(
       path.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (file == INVALID_HANDLE_VALUE) return last_error();
-  const int outcome = facts_of(static_cast<int>(reinterpret_cast<std::intptr_t>(file)), facts);
+  const int outcome = info_of(static_cast<int>(reinterpret_cast<std::intptr_t>(file)), info);
   CloseHandle(file);
   return outcome;
 }
 
-// A new file gets the rights of its folder.
-int set_rights(int /*file*/, const file_facts& /*like*/) { return 0; }
+// On Windows a new file inherits the permissions of its folder.
+int set_permissions(int /*file*/, const file_info& /*like*/) { return 0; }
 
-// The byte that is locked lies after the end of any file, as a locked byte cannot be read.
+// A locked byte cannot be read, so the lock is on one after the end of any file.
 int lock(int file) {
   OVERLAPPED at = {};
   at.OffsetHigh = 0x7FFFFFFF;
@@ -136,7 +135,7 @@ int flush_to_disk(int file) { return result(FlushFileBuffers(handle_of(file))); 
 
 int close_file(int file) { return result(CloseHandle(handle_of(file))); }
 
-// A file marked as read-only is neither deleted nor replaced, so the mark goes first.
+// Windows neither deletes nor replaces a read-only file, so the attribute is cleared before.
 int remove_file(const fs::path& path) {
   const bool read_only = has_attribute(path, FILE_ATTRIBUTE_READONLY);
   if (read_only) set_read_only(path, false);
@@ -154,7 +153,7 @@ int replace(const fs::path& file, const fs::path& target) {
   return replaced;
 }
 
-// A rename has written through already, and there is no call for a whole folder.
+// MOVEFILE_WRITE_THROUGH has flushed the rename already, and Windows cannot flush a folder.
 int flush_folder(const fs::path& /*folder*/) { return 0; }
 
 int list(const fs::path& folder, std::vector<listed_entry>& found) {
@@ -181,9 +180,9 @@ system_call_table system_calls = {
     .write_some = write_some,
     .seek_to = seek_to,
     .set_size = set_size,
-    .facts_of = facts_of,
-    .facts_at = facts_at,
-    .set_rights = set_rights,
+    .info_of = info_of,
+    .info_at = info_at,
+    .set_permissions = set_permissions,
     .lock = lock,
     .flush_to_disk = flush_to_disk,
     .close_file = close_file,

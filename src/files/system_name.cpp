@@ -8,10 +8,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Where names are bytes they are UTF-8.
+// On POSIX names are bytes, taken as UTF-8.
 [[maybe_unused]] std::string utf8_of(const std::string& name) { return name; }
 
-// Windows lets half a surrogate pair stand in a name, which is then no UTF-8.
+// A Windows name can hold half a surrogate pair, which has no UTF-8; "\xFF" is not UTF-8 either.
 [[maybe_unused]] std::string utf8_of(const std::wstring& name) {
   try {
     const std::u8string utf8 = fs::path(name).u8string();

@@ -1,18 +1,24 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace files {
 
-// Without the blanks (0x20 only) at both ends.
+// `text` without the blanks (0x20 only) at both ends.
 std::string_view trimmed(std::string_view text);
 
 // The last `count` characters, or all if there are fewer.
 std::string_view last_characters(std::string_view text, std::size_t count);
 
-// The number that a text reads as: decimal digits with an optional sign, an optional point and an
-// optional exponent, and nothing else around them. Infinite if it is too large for a double.
+// Names in lists are equal if these keys are, and sorted by them: trimmed, in upper case. The keys
+// compare by unsigned bytes.
+std::string compare_key(std::string_view name);
+
+// Parses a decimal number: optional sign, digits with an optional point, optional exponent, nothing
+// else. Returns nullopt for other text, infinity if the number is too large for a double and 0 if
+// it is too small.
 std::optional<double> as_number(std::string_view text);
 
 }  // namespace files

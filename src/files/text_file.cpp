@@ -8,16 +8,16 @@ namespace files {
 
 namespace {
 
-constexpr std::size_t block = 65536;
+constexpr std::size_t block_size = 65536;
 
-// Where a link leads, if it leads to a file.
-file_path behind_links(const file_path& path) {
-  std::error_code nowhere;
-  const std::filesystem::path target = std::filesystem::canonical(path.system, nowhere);
-  return {nowhere ? path.system : target, path.shown};
+// The target of a link, or `path` itself if it is not a link or its target does not exist.
+file_path resolve_links(const file_path& path) {
+  std::error_code failed;
+  const std::filesystem::path target = std::filesystem::canonical(path.system, failed);
+  return {failed ? path.system : target, path.shown};
 }
 
-bool is_there(const file_path& path) {
+bool exists(const file_path& path) {
   std::error_code failed;
   return std::filesystem::exists(std::filesystem::symlink_status(path.system, failed));
 }
@@ -27,7 +27,7 @@ bool is_there(const file_path& path) {
 text_reader::text_reader(const file_path& path) { file_.open_to_read(path); }
 
 bool text_reader::fill() {
-  buffer_.resize(block);
+  buffer_.resize(block_size);
   position_ = 0;
   buffer_.resize(file_.read(std::as_writable_bytes(std::span(buffer_))));
   return !buffer_.empty();
@@ -52,10 +52,11 @@ std::string text_reader::read_line() {
 }
 
 text_writer::text_writer(const file_path& path) {
-  const bool replaces = is_there(path);
+  const bool replaces = exists(path);
+  // Fails if the old file is read-only, which replacing it would not.
   if (replaces) old_file_.open_to_write(path);
   try {
-    new_file_.emplace(behind_links(path));
+    new_file_.emplace(resolve_links(path));
     old_file_.abandon();
   } catch (const file_error& error) {
     if (!replaces || error.number != file_error_number::permission_denied) throw;
@@ -74,7 +75,7 @@ void text_writer::close() {
     new_file_->flush_folder();
     new_file_.reset();
   } else {
-    old_file_.cut();
+    old_file_.truncate();
     old_file_.flush(true);
     old_file_.close();
   }

@@ -9,15 +9,14 @@
 
 namespace files {
 
-// Reads lines. A line ends at CR LF, at LF alone or at CR alone. A last line without an end counts
-// as a line; a line end at the end of the file adds no empty line.
+// Reads lines, which end in CR LF, LF or CR. The last line needs no line end; a trailing line end
+// does not add an empty line. All operations throw file_error.
 class text_reader {
  public:
-  // Throws file_error, as reading does.
   explicit text_reader(const file_path& path);
 
   bool at_end();
-  // The next line without its end. Not to be called at the end.
+  // Returns the next line without its line end. Requires that at_end() is false.
   std::string read_line();
 
  private:
@@ -28,16 +27,16 @@ class text_reader {
   std::size_t position_ = 0;
 };
 
-// Writes lines, each ended by CR LF, into a file that replaces the old one when it is closed. Until
-// then, and after any failure, the old file is as it was. A link stays, and the file that it leads
-// to is replaced. Where no file can be made beside the old one the lines are written into that; a
-// failure then leaves a part of them.
+// Writes lines, each with CR LF at its end, to a new file that close() puts in place of the old
+// one. Until then, and after any failure, the old file is unchanged. Of a link, the target is
+// replaced. If the folder does not allow new files, the old file is overwritten instead; a failure
+// then leaves a part of the lines. All operations throw file_error.
 class text_writer {
  public:
-  // Throws file_error, as the others do; at once if the old file is read-only.
+  // Throws if the old file is read-only.
   explicit text_writer(const file_path& path);
 
-  // `line` comes without its end.
+  // `line` has no line end.
   void write_line(std::string_view line);
   void close();
 

@@ -12,15 +12,15 @@ namespace files {
 
 namespace {
 
-constexpr auto longest_wait = std::chrono::milliseconds(500);
+constexpr auto max_wait = std::chrono::milliseconds(500);
 constexpr auto pause = std::chrono::milliseconds(5);
 
-// If a file or folder of the lock's name is in the way, the message names that.
+// If the lock file exists but cannot be opened, the message names it instead of the target.
 [[noreturn]] void fail_to_open(const std::filesystem::path& lock, const std::string& shown_path,
                                int outcome) {
-  file_facts found;
+  file_info found;
   std::string shown = shown_path;
-  if (file_calls::facts_at(lock, found) >= 0) {
+  if (file_calls::info_at(lock, found) >= 0) {
     shown.erase(shown.find_last_of("\\/") + 1);
     shown += name_as_text_lossy(lock.filename().native());
   }
@@ -31,9 +31,9 @@ constexpr auto pause = std::chrono::milliseconds(5);
 
 writing_lock::writing_lock(const std::filesystem::path& target, const std::string& shown_path)
     : path_(hidden_beside(target, ".lock")) {
-  const auto give_up_at = std::chrono::steady_clock::now() + longest_wait;
-  while (!take(shown_path)) {
-    if (std::chrono::steady_clock::now() >= give_up_at) {
+  const auto deadline = std::chrono::steady_clock::now() + max_wait;
+  while (!try_lock(shown_path)) {
+    if (std::chrono::steady_clock::now() >= deadline) {
       throw file_error{file_error_number::device_unavailable,
                        shown_path + " cannot be written: another copy of the tool is writing it."};
     }
@@ -42,18 +42,19 @@ writing_lock::writing_lock(const std::filesystem::path& target, const std::strin
 }
 
 writing_lock::~writing_lock() {
-  if (file_calls::is_at(file_, path_) == 1) file_calls::remove_file(path_);
+  if (file_calls::leads_to(path_, file_) == 1) file_calls::remove_file(path_);
   file_calls::close_file(file_);
 }
 
-bool writing_lock::take(const std::string& shown_path) {
+bool writing_lock::try_lock(const std::string& shown_path) {
   int file = file_calls::open_to_write(path_);
-  const int as_is = file == -EACCES ? file_calls::open_to_read(path_) : file;  // another user's
-  if (as_is >= 0) file = as_is;
+  // The lock file of another user can often be read, which is enough to lock it.
+  const int readable = file == -EACCES ? file_calls::open_to_read(path_) : file;
+  if (readable >= 0) file = readable;
   if (file < 0) fail_to_open(path_, shown_path, file);
   const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
-  // The copy that had the lock before may have removed its file meanwhile.
-  if (is_locked || file_calls::is_at(file, path_) == 0) {
+  // The copy that held the lock may have removed the lock file after it was opened here.
+  if (is_locked || file_calls::leads_to(path_, file) == 0) {
     file_calls::close_file(file);
     return false;
   }

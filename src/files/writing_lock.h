@@ -5,12 +5,12 @@
 
 namespace files {
 
-// Keeps other copies of the tool from writing the same file. The lock is a hidden file beside it,
-// which a crash leaves unlocked. Where the system cannot lock files it keeps nobody away.
+// Keeps other copies of the tool from writing the same file. It locks a hidden file beside it,
+// which the system unlocks after a crash. On file systems without locks it has no effect.
 class writing_lock {
  public:
-  // Waits up to half a second for another copy to end. Throws file_error, which names the file to
-  // be written by `shown_path`.
+  // Waits up to half a second for another copy. Throws file_error if the lock cannot be taken.
+  // `shown_path` is the path of `target` for messages.
   writing_lock(const std::filesystem::path& target, const std::string& shown_path);
   writing_lock(const writing_lock&) = delete;
   writing_lock& operator=(const writing_lock&) = delete;
@@ -18,7 +18,7 @@ class writing_lock {
   ~writing_lock();
 
  private:
-  bool take(const std::string& shown_path);
+  bool try_lock(const std::string& shown_path);
 
   std::filesystem::path path_;
   int file_ = -1;

@@ -10,7 +10,7 @@ namespace ostrane {
 namespace {
 
 std::vector<std::string> texts_of_drives() {
-  files::find_drives();
+  files::refresh_drives();
   std::vector<std::string> texts;
   for (const files::drive& found : files::drives()) texts.push_back(files::drive_text(found));
   return texts;

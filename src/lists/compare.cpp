@@ -29,9 +29,9 @@ void compare_with_shiplist() {
                                   : files::failure_of([&] {
                                       const std::string path =
                                           files::with_separator(Form6.File1.Path()) + name;
-                                      read_shiplist(files::on_drives(path), tool_state.comparison);
+                                      read_shiplist(files::to_file_path(path), tool_state.comparison);
                                       sort_shiplist(tool_state.comparison);
-                                      write_compare_report(files::on_drives(compare_report_path),
+                                      write_compare_report(files::to_file_path(compare_report_path),
                                                            listed_names(), tool_state.comparison);
                                     });
   if (!failure.empty()) {

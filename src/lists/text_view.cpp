@@ -49,7 +49,7 @@ std::string show_text(std::int32_t offset) {
 void show_text_entry() {
   const std::int32_t offset = entry_start(index_records(), tool_state.selected_index);
   tool_state.stream.entry_bytes_left =
-      in_32_bits(std::int64_t{entry_end(index_records(), tool_state.selected_index)} - offset);
+      clamp_to_int32(std::int64_t{entry_end(index_records(), tool_state.selected_index)} - offset);
   Form1.Text6.Text = "";
   show_working_message();
   std::string told;

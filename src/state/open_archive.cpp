@@ -11,7 +11,7 @@ void open_archive_file(files::binary_file& file) {
   if (tool_state.archive_is_open == flag_false) {
     throw data_error("No archive is open. Read one first.");
   }
-  open_unchanged(file, files::on_drives(tool_state.archive_path_copy), tool_state.archive_stamp);
+  open_unchanged(file, files::to_file_path(tool_state.archive_path_copy), tool_state.archive_stamp);
 }
 
 std::span<const dat_record> index_records() {
