@@ -5,15 +5,13 @@
 #include <utility>
 #include <vector>
 
+#include "data/archive_bytes.h"
 #include "data/picture.h"
 
 // What the benchmarks work on. All of it is the same in every run.
 namespace ostrane::bench {
 
-struct entry {
-  std::string name;
-  std::string bytes;
-};
+using entry = archive_entry;
 
 constexpr int max_names = 32767;
 

@@ -52,6 +52,17 @@ TEST_F(lists_test, AReplacedListKeepsRightsLinksAndOtherSpellings) {
   }
 }
 
+// A list that leads to the open archive would be its end.
+TEST_F(lists_test, NoListIsWrittenOverTheOpenArchive) {
+  begin("D:\\");
+  open_archive({{"A", "bytes"}});
+  fs::create_symlink(place("C:\\ostrane.dat"), place("D:\\shplist.txt"));
+  user::click(Form1.mnu_save);
+  EXPECT_EQ(new_messages(), texts{"The list of files was not saved. shplist.txt cannot be written: "
+                                  "it leads to the open archive."});
+  EXPECT_EQ(read("C:\\ostrane.dat"), archive_bytes({{"A", "bytes"}}));
+}
+
 // In a process that is not root's, as root may write anywhere.
 TEST_F(lists_test, AListInAFolderThatIsNotWritableIsWrittenInItsPlace) {
   const int end = end_of(begin_process([&] {

@@ -55,12 +55,17 @@ TEST_F(main_window_test, ChecksMaxIconsAndThePaceWhenTheFocusLeaves) {
       {"1,0", "30000", 30000, "10"}, {"1e-999", "30000", 30000, "10"},
       {"0x1", "30000", 30000, "10"}, {"inf", "30000", 30000, "10"}};
   for (const auto& [typed, as_max_icons, max_icons, as_pace] : cases) {
-    user::type(Form1.Text5, typed);
-    user::type(Form1.Text4, typed);
+    for (forms_layer::text_box* field : {&Form1.Text4, &Form1.Text5}) {
+      user::type(*field, "");
+      user::type(*field, typed);
+    }
     user::focus(&Form1.List1);
     EXPECT_EQ((texts{Form1.Text5.Text(), Form1.Text4.Text()}), (texts{as_max_icons, as_pace}));
     EXPECT_EQ(tool_state.max_icons, max_icons) << typed;
   }
+  // What the tool wrote is longer than a user may type.
+  for (const char* edit : {"3000", "34000"}) user::type(Form1.Text5, edit);
+  EXPECT_EQ(Form1.Text5.Text(), "3000");
 }
 
 }  // namespace

@@ -91,6 +91,14 @@ void run(build& job) {
   if (!unknown.empty()) job.left_out = unknown;
 }
 
+// What to do if a typed path leads elsewhere than the list of files.
+std::string folder_hint(const build& job) {
+  const std::string listed = Form5.File1.Path();
+  const std::string target = files::full_path(job.list.folder);
+  if (files::lower_case(listed) == files::lower_case(target)) return "";
+  return " The list shows the files of " + listed + ". Double click on the folder to build from.";
+}
+
 void keep_new_index(const build& job) {
   if (tool_state.archive_is_open == flag_true) {
     read_archive(job.list.folder);
@@ -110,7 +118,7 @@ void make_archive() {
   const std::string failure = files::failure_of([&] { run(job); });
   hide_progress("Ostrane.dat tool ");
   if (!failure.empty()) {
-    forms_layer::message_box(failure + " No new archive was made.");
+    forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
     return;
   }
   keep_new_index(job);

@@ -5,6 +5,7 @@
 #include "data/chunk_ladder.h"
 #include "data/data_error.h"
 #include "data/new_index.h"
+#include "files/failure.h"
 #include "files/file_system.h"
 #include "files/replaced_file.h"
 
@@ -66,7 +67,8 @@ void write_archive(const build_list& list, std::span<const make_record> files,
   archive.put_in_place();
   // The old archive has its name until the new one is there, so there never are two. If the
   // spelling cannot be changed the old one stays; names compare without regard to case.
-  archive.respell(target.system);
+  // From here on nothing makes the build fail.
+  files::failure_of([&] { archive.respell(target.system); });
   archive.flush_folder();
 }
 

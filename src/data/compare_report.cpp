@@ -86,14 +86,14 @@ void write_head(files::text_writer& report, std::int32_t records, std::int32_t l
 
 void write_compare_report(const files::file_path& path, const name_list& archive,
                           shiplist_comparison& comparison) {
-  files::text_writer report(path);
+  files::text_writer report(path, archive.archive);
   write_head(report, archive.count, comparison.shiplist_last + 1);
   report_walk(report, archive, comparison).run();
   report.close();
 }
 
 void write_name_list(const files::file_path& path, const name_list& archive) {
-  files::text_writer writer(path);
+  files::text_writer writer(path, archive.archive);
   for (std::int32_t row = 0; row < archive.count; ++row) writer.write_line(archive.name(row));
   writer.close();
 }

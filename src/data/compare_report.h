@@ -5,6 +5,7 @@
 
 #include "data/shiplist.h"
 #include "files/file_path.h"
+#include "files/system_calls.h"
 
 namespace ostrane {
 
@@ -13,6 +14,7 @@ struct name_list {
   std::int32_t count = 0;
   // For a number that no row has, "".
   std::function<const std::string&(std::int32_t row)> name;
+  files::file_identity archive = {};  // of the archive's file, which no list is written over
 };
 
 // Walks the names of an archive and a sorted shiplist side by side and writes what only one side

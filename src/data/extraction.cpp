@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "data/chunk_ladder.h"
+#include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/failure.h"
@@ -110,6 +111,9 @@ extraction_result extract_entries(files::binary_file& archive, std::span<const d
     job.stamp = archive.facts().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
+    if (archive.facts().stamp != job.stamp) {
+      throw data_error("The archive was written to meanwhile. Extract it again.");
+    }
   });
   return std::move(job.result);
 }

@@ -3,7 +3,6 @@
 
 #include "desktop/application_setup.h"
 #include "desktop/command_line.h"
-#include "desktop/exposure.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
 #include "files/paths.h"
@@ -24,8 +23,7 @@ void set_program_icon() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (desktop::answer_command_line(argc, argv)) return 0;
-  desktop::disable_shared_memory();
+  if (argc > 1) return desktop::answer_command_line(argc, argv);
   const QApplication application(argc, argv);
   desktop::set_up_application();
   set_program_icon();

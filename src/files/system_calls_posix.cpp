@@ -55,11 +55,14 @@ std::int64_t seek_to(int file, std::int64_t offset) {
 int set_size(int file, std::int64_t size) { return result(ftruncate(file, size)); }
 
 void fill(file_facts& facts, const struct stat& status) {
-  constexpr std::int64_t nanoseconds_per_second = 1000000000;
+  constexpr std::uint64_t nanoseconds_per_second = 1000000000;
   facts.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
                           static_cast<std::uint64_t>(status.st_ino)};
   facts.stamp.size = status.st_size;
-  facts.stamp.modified = status.st_mtim.tv_sec * nanoseconds_per_second + status.st_mtim.tv_nsec;
+  // Unsigned, as a time after the year 2262 has no such number; all that counts is a difference.
+  facts.stamp.modified = static_cast<std::int64_t>(
+      static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanoseconds_per_second +
+      static_cast<std::uint64_t>(status.st_mtim.tv_nsec));
   facts.is_file = S_ISREG(status.st_mode);
   facts.rights = status.st_mode & 07777U;
   facts.owner = status.st_uid;

@@ -35,7 +35,8 @@ class text_reader {
 class text_writer {
  public:
   // Throws file_error, as the others do; at once if the old file is read-only.
-  explicit text_writer(const file_path& path);
+  // `spared` must not be written to, also if `path` leads to it.
+  explicit text_writer(const file_path& path, const file_identity& spared = {});
 
   // `line` comes without its end.
   void write_line(std::string_view line);

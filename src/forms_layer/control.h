@@ -54,6 +54,8 @@ struct design {
   bool multi_line = false;
   int max_length = 0;  // characters; 0 is no limit
   std::string pattern = "*";
+  bool cancel = false;           // of a button or a label: Escape does what a click on it does
+  std::string spoken_name = {};  // what a screen reader calls it, if its kind is not enough
   const char* picture = "";  // of a picture box: a picture that the program carries, as designed
 };
 

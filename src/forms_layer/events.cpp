@@ -20,6 +20,7 @@ struct waiting_event {
 
 std::deque<waiting_event> waiting;
 bool running = false;
+std::chrono::steady_clock::time_point began;
 
 // Events run while it lives, also if an error of another kind than file_error ends it.
 struct running_mark {
@@ -30,6 +31,7 @@ struct running_mark {
 };
 
 void run_one(const std::function<void()>& handler) {
+  began = std::chrono::steady_clock::now();
   try {
     handler();
   } catch (const std::bad_alloc&) {
@@ -60,6 +62,8 @@ void run_event(const std::function<void()>& handler, const void* key) {
 }
 
 bool handler_running() { return running; }
+
+std::chrono::steady_clock::time_point handler_began() { return began; }
 
 void forget_events() {
   waiting.clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 namespace forms_layer {
@@ -13,6 +14,9 @@ void run_event(const std::function<void()>& handler, const void* key = nullptr);
 
 // True from the start of a handler to its end, also while a message box stands in it.
 bool handler_running();
+
+// When the handler that runs, or the latest one, began.
+std::chrono::steady_clock::time_point handler_began();
 
 // Forgets what waits, so that a process can begin afresh.
 void forget_events();

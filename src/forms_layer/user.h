@@ -14,6 +14,9 @@ void click(button& pressed);
 void click(label& pressed);
 void click(menu_item& picked);
 
+// Escape: a click on the control of the form that is designed to cancel, if there is one.
+void cancel(form& window);
+
 // Element `index` must have been loaded.
 void double_click(picture_array& array, std::int32_t index);
 
@@ -22,7 +25,8 @@ void select_row(list_box& list, std::int32_t row);
 // The second press of a double click; the first one is a `select_row` of its own.
 void double_click(list_box& list, std::int32_t row);
 
-// What the field holds after the user edited it. Too long a text is cut, a locked field stays.
+// What the field holds after the user edited it. What the user added beyond the limit is cut; a
+// locked field stays.
 void type(text_box& field, const std::string& text);
 
 // The focus goes to a control, or with null to none; the one that had it gets LostFocus.

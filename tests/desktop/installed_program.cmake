@@ -21,6 +21,18 @@ function(expect option wanted)
   endif()
 endfunction()
 
+function(expect_complaint argument)
+  set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL NONE)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY QT_QPA_PLATFORM=none
+                          ${FOLDER}/bin/ostrane-dat-tool ${argument}
+                  RESULT_VARIABLE status ERROR_VARIABLE complaint)
+  if(NOT status EQUAL 2 OR NOT complaint MATCHES "^ostrane-dat-tool: [^\n]+\n$")
+    message(SEND_ERROR "${argument}: status ${status}, \"${complaint}\"")
+  endif()
+endfunction()
+
+expect_complaint(--nonsense)
+expect_complaint(ostrane.dat)
 expect(--version "Ostrane.dat-tool ${VERSION}\n")
 expect(--help "  ${program_folder}/iconlist.csv\n")
 
