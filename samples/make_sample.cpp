@@ -37,7 +37,7 @@ void write_files(const fs::path& folder) {
 // Has the tool build the archive, as its user would, into the folder `files` of `folder`.
 void build_archive(const fs::path& folder) {
   files::set_drives({{'C', "sample", folder}}, "C:\\");
-  begin_tool(folder);
+  start_tool(folder);
   forms_layer::user::click(Form1.mnu_make);
   Form5.Dir1.Path = "C:\\files";
   forms_layer::user::click(Form5.Command1);

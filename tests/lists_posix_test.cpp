@@ -81,7 +81,7 @@ TEST_F(lists_test, FoldersWithoutAFormInTheCodePageServe) {
   const int end = end_of(begin_process([&] {
     fs::current_path(folder);
     begin("");
-    begin_tool(folder);
+    start_tool(folder);
     write("C:\\shplist.txt", "elsewhere");
     open_archive({{"A.TXT", ""}});
     click_row("A.TXT");

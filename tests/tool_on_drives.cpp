@@ -43,7 +43,7 @@ void empty_drives() {
 void begin(const std::string& current) {
   files::set_drives({{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}},
                     current);
-  begin_tool(root / "c" / "program");
+  start_tool(root / "c" / "program");
   told = 0;
 }
 
