@@ -5,6 +5,7 @@
 
 #include "data/entry_range.h"
 #include "files/code_page.h"
+#include "state/open_archive.h"
 #include "target.h"
 
 using namespace ostrane;
@@ -55,8 +56,9 @@ std::string build() {
 contents entries_of(const std::string& archive) {
   contents found;
   for (std::int32_t i = 0; i + 1 < Form1.List1.ListCount(); ++i) {
-    const auto from = static_cast<std::size_t>(entry_start(i));
-    found.insert(archive.substr(from, static_cast<std::size_t>(entry_end(i)) - from));
+    const auto from = static_cast<std::size_t>(entry_start(index_records(), i));
+    found.insert(
+        archive.substr(from, static_cast<std::size_t>(entry_end(index_records(), i)) - from));
   }
   return found;
 }
