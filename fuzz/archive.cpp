@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string archive = fuzz::raw_or_generated(data, size, fuzz::archive);
 #endif
   open_bytes(archive);
-  fuzz::check(new_messages().size() <= 1, "an archive gives one message");
+  fuzz::check(new_messages().size() <= 1, "opening shows at most one message");
   // Many rows can share a large icon file, so the number of series is limited.
   std::int32_t actions = archive.size() < 65536 ? 30 : 2;
   for (std::int32_t row = 0; row < Form1.List1.ListCount() && actions > 0; ++row) {

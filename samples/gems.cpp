@@ -43,9 +43,9 @@ facet facet_at(const cut& shape, double x, double y) {
   const double side = std::round((std::atan2(y, x) - upwards) / side_angle - 0.5) + 0.5;
   const double direction = upwards + side * side_angle;
   const double towards = x * std::cos(direction) + y * std::sin(direction);
-  const double beside = y * std::cos(direction) - x * std::sin(direction);
+  const double across = y * std::cos(direction) - x * std::sin(direction);
   const double edge = std::cos(side_angle / 2);
-  return {towards / edge, direction, towards > 0 ? beside / towards / std::tan(side_angle / 2) : 0};
+  return {towards / edge, direction, towards > 0 ? across / towards / std::tan(side_angle / 2) : 0};
 }
 
 std::optional<ink> colour_at(const cut& shape, ramp hue, double x, double y) {

@@ -22,9 +22,9 @@ double shine(const vector& normal) {
 }  // namespace
 
 std::optional<ink> colour_at(const globe& shown, double x, double y) {
-  const double beside = x * x + y * y;
-  if (beside > 1) return std::nullopt;
-  const vector normal{x, y, std::sqrt(1 - beside)};
+  const double radius_squared = x * x + y * y;
+  if (radius_squared > 1) return std::nullopt;
+  const vector normal{x, y, std::sqrt(1 - radius_squared)};
   const double lit = std::max(dot(normal, towards_light()), 0.0);
   const ground point = shown.look(point_on(shown, normal));
   if (shown.air && normal.z < 0.34 && lit > 0.12) return ink{*shown.air, 0.3 + 0.6 * lit};

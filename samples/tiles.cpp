@@ -62,9 +62,9 @@ void draw_tree(picture& on, double x, double y, double size) {
   paint_at(on, left, top, columns, rows, [&](double column, double row) -> std::optional<ink> {
     const double across = (column - size) / size;
     const double up = (row - size) / size;
-    const double beside = across * across + up * up;
-    if (beside < 1) {
-      const vector normal{across, up, std::sqrt(1 - beside)};
+    const double radius_squared = across * across + up * up;
+    if (radius_squared < 1) {
+      const vector normal{across, up, std::sqrt(1 - radius_squared)};
       return ink{ramp::leaf, 0.14 + 0.62 * std::max(dot(normal, towards_light()), 0.0) +
                                  0.2 * (noise({column, row, 5}, 89) - 0.5)};
     }
