@@ -5,9 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
 #include <random>
-#include <stdexcept>
 
 namespace ostrane::bench {
 
@@ -72,13 +70,6 @@ std::vector<entry> files_of_64_mb() {
     files.push_back({"FILE" + std::to_string(1000 + i) + ".BIN", std::move(bytes)});
   }
   return files;
-}
-
-void write_file(const fs::path& place, const std::string& bytes) {
-  std::ofstream file(place, std::ios::binary | std::ios::trunc);
-  file << bytes;
-  file.close();
-  if (!file) throw std::runtime_error(place.string() + " cannot be written");
 }
 
 void write_archive(const fs::path& folder, const std::vector<entry>& entries) {

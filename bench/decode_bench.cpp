@@ -13,7 +13,6 @@
 #include "icons/decode_icon.h"
 #include "icons/shp_reader.h"
 #include "png_pictures.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 #include "tool.h"
@@ -50,7 +49,7 @@ void decode_icons_from_file(benchmark::State& state) {
   forms_layer::picture_box& slot = size_slot(1);
   tool_state.current_slot = 1;
   for (auto _ : state) {
-    open_archive_file(file_1);
+    open_archive_file();
     read_directory();
     for (std::int16_t i = 1; i <= icons; ++i) {
       tool_state.icon_number = i;
@@ -58,7 +57,7 @@ void decode_icons_from_file(benchmark::State& state) {
       slot.Cls();
       decode_icon();
     }
-    file_1.close();
+    tool_state.archive_file.close();
   }
   const auto& last = pictures().back();
   const forms_layer::colour corner =

@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::begin_tool(desktop::program_folder());
+  ostrane::start_tool(desktop::program_folder());
   const int outcome = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return outcome;

@@ -13,7 +13,6 @@ namespace ostrane {
 
 namespace {
 
-// In the root of drive C, whatever the current folder is.
 constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
 
 }  // namespace

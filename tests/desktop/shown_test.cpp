@@ -216,7 +216,7 @@ TEST_F(Desktop, TheToolsWindowsLookAsTheyDid) {
   for (int x = 0; x < 30; ++x) drawn.set(x, x, static_cast<std::uint8_t>(8 * x));
   std::ofstream(folder / "sub" / "ostrane.dat") << ostrane::archive_bytes(
       {{"NOTE.TXT", "text"}, {"PIC.SHP", ostrane::shp_file({drawn, drawn, drawn})}});
-  begin_tool("C:\\");
+  start_tool("C:\\");
   QApplication::setActiveWindow(nullptr);
   write([] { user::click(Form1.mnu_open); });
   write([] { user::open_folder(Form2.Dir1, 1); });

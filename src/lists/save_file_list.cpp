@@ -1,4 +1,4 @@
-#include "lists/saved_file_list.h"
+#include "lists/save_file_list.h"
 
 #include "files/failure.h"
 #include "files/paths.h"

@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <grp.h>
 #include <sys/stat.h>
 
 #include <cstring>
@@ -12,12 +11,13 @@
 namespace ostrane {
 namespace {
 
-// Places that are not what they should be.
-struct places_test : tool_test {
-  // What each command that reads or writes says, in a tool with an archive of one entry open, when
-  // `spoil` has changed what is on the disk behind its back.
-  static texts told_by_each_command(const std::function<void()>& spoil,
-                                    const std::function<void()>& restore) {
+// Links, pipes, devices, folders in place of files, missing permissions, and names that are hard to
+// store.
+struct unusual_paths_test : tool_test {
+  // The messages of each command that reads or writes, run after `break_disk` with an archive of
+  // one entry open.
+  static texts messages_of_each_command(const std::function<void()>& break_disk,
+                                        const std::function<void()>& restore) {
     const std::pair<std::function<void()>, std::function<void()>> commands[] = {
         {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
         {[] {}, [] { click_row("A.TXT"); }},
@@ -26,30 +26,30 @@ struct places_test : tool_test {
         {[] {}, [] { user::click(Form1.mnu_save); }},
         {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); }},
     };
-    texts told;
+    texts all;
     for (const auto& [open_dialog, command] : commands) {
-      fs::remove_all(place("D:\\x"));
+      fs::remove_all(disk_path("D:\\x"));
       write("D:\\x\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
       write("D:\\x\\list.txt", "A\r\n");
-      begin("D:\\x");
+      restart("D:\\x");
       open_archive("D:\\x");
       open_dialog();
-      spoil();
+      break_disk();
       command();
       const texts messages = new_messages();
-      told.push_back(messages.size() == 1 ? messages[0] : testing::PrintToString(messages));
+      all.push_back(messages.size() == 1 ? messages[0] : testing::PrintToString(messages));
       restore();
     }
-    return told;
+    return all;
   }
-  // Puts what `make` makes in the place of each file.
+  // Replaces each file by what `make` makes.
   static void replace_all(const std::function<void(const fs::path&)>& make) {
     for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
-      fs::remove(place("D:\\x") / name);
-      make(place("D:\\x") / name);
+      fs::remove(disk_path("D:\\x") / name);
+      make(disk_path("D:\\x") / name);
     }
   }
-  // What they say if that is the reason for which nothing can be opened.
+  // The messages if nothing can be opened for `reason`.
   static texts expected(const std::string& reason) {
     const std::string cannot = " cannot be opened: " + reason + ".";
     return {"D:\\x\\ostrane.dat" + cannot,
@@ -61,9 +61,9 @@ struct places_test : tool_test {
   }
 };
 
-// Every command names the place and says why it cannot do its work. One that waits, for the other
-// end of a pipe, is ended by the alarm.
-TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
+// Every command reports the path and the reason. The alarm ends one that waits for the other end of
+// a pipe.
+TEST_F(unusual_paths_test, EveryCommandReportsUnusableFiles) {
   const fs::path drive = root / "d";
   const fs::path away = root / "away";
   const std::string missing = "D:\\x\\ostrane.dat is not found";
@@ -77,8 +77,8 @@ TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
   const auto link_device = [](const fs::path& p) { fs::create_symlink("/dev/zero", p); };
   const struct {
     const char* reason;
-    std::string opening, extracting;  // what these say instead
-    std::function<void()> spoil, restore;
+    std::string opening, extracting;  // their messages if they differ
+    std::function<void()> break_disk, restore;
   } cases[] = {
       {"it is not there", missing, no_folder, [&] { fs::rename(drive, away); },
        [&] { fs::rename(away, drive); }},
@@ -87,42 +87,37 @@ TEST_F(places_test, EveryCommandTellsOfAPlaceThatIsNotAsItShouldBe) {
       {"access is not allowed", "", "", [&] { replace_all(make_pipe); }, nothing},
       {"access is not allowed", "", "", [&] { replace_all(link_device); }, nothing},
   };
-  const int end = end_of(begin_process([&] {
+  run_in_process([&] {
     alarm(30);
     for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
-    // What root may do is not forbidden by a folder.
-    const bool root_left =
-        geteuid() != 0 || (setgroups(0, nullptr) == 0 && setgid(65534) == 0 && setuid(65534) == 0);
-    if (!root_left) _exit(not_possible);
+    drop_root();
     for (const auto& c : cases) {
-      texts told = expected(c.reason);
-      if (!c.opening.empty()) told[0] = c.opening;
-      if (!c.extracting.empty()) told[2] = c.extracting;
-      EXPECT_EQ(told_by_each_command(c.spoil, c.restore), told);
+      texts messages = expected(c.reason);
+      if (!c.opening.empty()) messages[0] = c.opening;
+      if (!c.extracting.empty()) messages[2] = c.extracting;
+      EXPECT_EQ(messages_of_each_command(c.break_disk, c.restore), messages);
     }
-  }));
-  if (end == not_possible) GTEST_SKIP() << "no other user can be taken on here";
-  EXPECT_EQ(end, 0);
+  });
 }
 
-// An archive behind a link is read; a build takes the link's place and leaves the archive alone.
-TEST_F(places_test, AnArchiveBehindALinkIsReadAndNeverWrittenTo) {
+// A build replaces the link and leaves the archive unchanged.
+TEST_F(unusual_paths_test, NeverWritesThroughALinkToAnArchive) {
   const std::string archive = archive_bytes({{"A.TXT", "a"}});
   write("D:\\real.dat", archive);
   make_folder("C:\\work");
-  fs::create_symlink(place("D:\\real.dat"), place("C:\\work") / "ostrane.dat");
+  fs::create_symlink(disk_path("D:\\real.dat"), disk_path("C:\\work") / "ostrane.dat");
   open_archive("C:\\work");
   extract_into("C:\\work");
   build_in();
   EXPECT_EQ(files_in("C:\\work"), (file_map{{"A.TXT", "a"}, {"OSTRANE.DAT", archive}}));
-  EXPECT_FALSE(fs::is_symlink(place("C:\\work\\OSTRANE.DAT")));
+  EXPECT_FALSE(fs::is_symlink(disk_path("C:\\work\\OSTRANE.DAT")));
   write("C:\\work\\b.txt", "b");
   build_in();
   EXPECT_EQ(read("D:\\real.dat"), archive);
   EXPECT_EQ(new_messages().size(), 3U);
 }
 
-TEST_F(places_test, TheLongestNamesAndThoseOfOtherCaseEachGiveAnEntry) {
+TEST_F(unusual_paths_test, LongestNamesAndNamesThatDifferInCaseAreEntries) {
   const std::string longest(255, 'n');
   const std::string folder = "C:\\" + std::string(255, 'f');
   for (const auto& [name, bytes] : file_map{{"a.txt", "1"}, {"A.TXT", "2"}, {longest, "3"}}) {
@@ -135,25 +130,25 @@ TEST_F(places_test, TheLongestNamesAndThoseOfOtherCaseEachGiveAnEntry) {
   EXPECT_EQ(Form1.List1.ListCount(), 4);
 }
 
-// One message in front lists what is in the folder and not in the archive.
-TEST_F(places_test, TellsWhatItLeavesOut) {
+TEST_F(unusual_paths_test, ReportsSkippedFiles) {
   std::vector<entry> files = {{".HID.TXT", "h"}, {"\xCE\xA9.TXT", "o"}, {"a\\b", "s"}, {"ok", ""}};
-  const std::string told = "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
+  const std::string skipped =
+      "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
   const std::string others =
       "\n>?.TXT<: its name has characters that the code page lacks"
       "\n>a\\b<: its name holds a separator of paths\n>late<: it came after the files were listed";
   for (const int hidden : {1, 25}) {
     for (int i = 1; i < hidden; ++i) files.push_back({".i" + std::to_string(100 + i), ""});
-    fs::remove_all(place("C:\\work"));
+    fs::remove_all(disk_path("C:\\work"));
     make_folder("C:\\work");
-    begin();
-    for (const entry& file : files) std::ofstream(place("C:\\work") / file.name) << file.bytes;
+    restart();
+    for (const entry& file : files) std::ofstream(disk_path("C:\\work") / file.name) << file.bytes;
     open_build_dialog();
     write("C:\\work\\late", "");
     user::click(Form5.Command1);
     const texts messages = new_messages();
     ASSERT_EQ(messages.size(), 2U);
-    EXPECT_TRUE(hidden == 1 ? messages[0] == told + others
+    EXPECT_TRUE(hidden == 1 ? messages[0] == skipped + others
                             : messages[0].ends_with(">.i119<: it is hidden\nand 8 more."))
         << messages[0];
     EXPECT_EQ(messages[1],
@@ -162,13 +157,15 @@ TEST_F(places_test, TellsWhatItLeavesOut) {
   }
 }
 
-TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
+TEST_F(unusual_paths_test, RefusesTooManyFiles) {
   make_folder("C:\\work");
-  const auto name = [&](std::size_t i) { return place("C:\\work") / ("f" + std::to_string(i)); };
+  const auto name = [&](std::size_t i) {
+    return disk_path("C:\\work") / ("f" + std::to_string(i));
+  };
   for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
   for (std::size_t count = 40000; const std::size_t left : {count, max_files + 1, max_files}) {
     while (count > left) fs::remove(name(--count));
-    begin();
+    restart();
     build_in();
     const std::string refusal = "There are " + std::to_string(left) +
                                 " files in C:\\work\\. An archive holds at most 32766. No new "
@@ -180,8 +177,8 @@ TEST_F(places_test, AFolderOfTooManyFilesIsToldOfAndAFullOneIsBuilt) {
 }
 
 #ifdef NDEBUG
-// What is given out stops where it would leave an array or a buffer.
-TEST(released_program, StopsBeforeItLeavesItsMemory) {
+// Release builds check array and buffer bounds.
+TEST(released_program, StopsAtAnOutOfBoundsAccess) {
   const std::vector<int> numbers(3);
   volatile std::size_t outside = 3;
   EXPECT_DEATH(static_cast<void>(numbers[outside]), "Assertion");

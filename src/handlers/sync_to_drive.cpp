@@ -1,4 +1,4 @@
-#include "handlers/failing_drive.h"
+#include "handlers/sync_to_drive.h"
 
 #include <functional>
 #include <string>
@@ -11,10 +11,10 @@ namespace ostrane {
 
 namespace {
 
-// While the recovery itself changes the drive, its failures are not recovered from once more, and
-// the folders follow only as far as it says.
-enum class recovery { none, to_drive_c, back };
-recovery running = recovery::none;
+// Recovery itself changes the drive. Errors during recovery are ignored, and while it goes back to
+// the drive of `Dir1` the folder stays.
+enum class recovery_phase { none, to_drive_c, back };
+recovery_phase phase = recovery_phase::none;
 
 using step = std::function<void()>;
 
@@ -25,9 +25,9 @@ void report_failing_drive(const std::string& drive) {
       "try again.");
 }
 
-bool works(const step& tried) {
+bool succeeds(const step& run) {
   try {
-    tried();
+    run();
     return true;
   } catch (const files::file_error&) {
     return false;
@@ -36,21 +36,21 @@ bool works(const step& tried) {
 
 void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
   report_failing_drive(Drive1.Drive());
-  running = recovery::to_drive_c;
-  works([&] { Drive1.Drive = "C"; });
-  if (!works([&] { Dir1.Path = "C:\\"; })) {
-    running = recovery::back;
-    works([&] { Drive1.Drive = Dir1.Path(); });
+  phase = recovery_phase::to_drive_c;
+  succeeds([&] { Drive1.Drive = "C"; });
+  if (!succeeds([&] { Dir1.Path = "C:\\"; })) {
+    phase = recovery_phase::back;
+    succeeds([&] { Drive1.Drive = Dir1.Path(); });
   }
-  running = recovery::none;
+  phase = recovery_phase::none;
 }
 
-void follow(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
-            forms_layer::file_list* File1) {
-  if (running == recovery::back) return;
-  bool recovered = running != recovery::none;
-  const auto run_step = [&](const step& tried) {
-    if (!works(tried) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
+void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+          forms_layer::file_list* File1) {
+  if (phase == recovery_phase::back) return;
+  bool recovered = phase != recovery_phase::none;
+  const auto run_step = [&](const step& run) {
+    if (!succeeds(run) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
   };
   run_step([&] { Dir1.Path = Drive1.Drive(); });
   if (File1 == nullptr) return;
@@ -61,12 +61,12 @@ void follow(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
 }  // namespace
 
 void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
-  follow(Drive1, Dir1, nullptr);
+  sync(Drive1, Dir1, nullptr);
 }
 
 void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
                    forms_layer::file_list& File1) {
-  follow(Drive1, Dir1, &File1);
+  sync(Drive1, Dir1, &File1);
 }
 
 }  // namespace ostrane

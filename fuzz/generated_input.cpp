@@ -17,7 +17,7 @@ const texts names = {"A.SHP",         "b.shp",      "N.TXT",       "GAME.PAL",
                      "13CHARACT.TXT", "\x80\xE4.T", "OSTRANE.DAT", " G.TXT ",
                      "ABCDEFGHI.SHP", "\x81.TXT",   ".HIDDEN"};
 
-// Puts `value` over 4 bytes; what would reach behind the end is left as it is.
+// Overwrites 4 bytes if they are inside.
 void put(std::string& bytes, std::size_t at, std::int32_t value) {
   if (at + 4 <= bytes.size()) {
     files::put_int32(std::as_writable_bytes(std::span(bytes)), at, value);
@@ -35,7 +35,7 @@ std::string stream(fields& from) {
   return bytes;
 }
 
-// 2181 is the last row or column of the largest picture.
+// The last row and column of a slot are at most 2181.
 shp_icon icon(fields& from) {
   icon_head head;
   head.no_of_rows = static_cast<std::int16_t>(number(from, {2, 30, 2181}));
