@@ -4,14 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "data/row_packer.h"
+
 // shp_format.h tells the bytes of an icon file, icon_decoder.h those of a stream.
 namespace ostrane {
 namespace {
-
-constexpr int longest_skip = 255;
-constexpr int longest_op = 127;
-// A shorter run within a literal costs no less than going on with the literal.
-constexpr int run_worth_leaving_a_literal_for = 3;
 
 void append(std::string& to, std::uint32_t value, int bytes) {
   for (int i = 0; i < bytes; ++i) to += static_cast<char>(value >> (8 * i) & 0xFFU);
@@ -23,71 +20,10 @@ void append32(std::string& to, std::int32_t value) {
   append(to, static_cast<std::uint32_t>(value), 4);
 }
 
-// Packs one row of a picture, from `column` up to but not including `end`.
-class row_packer {
- public:
-  row_packer(const picture& drawn, int row, int column, int end, std::string& stream)
-      : drawn_(drawn), row_(row), column_(column), end_(end), stream_(stream) {}
-
-  void pack() {
-    while (end_ > column_ && !drawn_.is_set(end_ - 1, row_)) --end_;
-    while (column_ < end_) {
-      if (cell(column_) == picture::unset) {
-        skip();
-      } else if (equal_cells(column_) >= 2) {
-        run();
-      } else {
-        literal();
-      }
-    }
-    stream_ += '\0';
-  }
-
- private:
-  std::int16_t cell(int column) const { return drawn_.at(column, row_); }
-
-  int equal_cells(int from) const {
-    int to = from + 1;
-    while (to < end_ && cell(to) == cell(from)) ++to;
-    return to - from;
-  }
-
-  void skip() {
-    const int count = std::min(equal_cells(column_), longest_skip);
-    stream_ += '\1';
-    stream_ += static_cast<char>(count);
-    column_ += count;
-  }
-
-  void run() {
-    const int count = std::min(equal_cells(column_), longest_op);
-    stream_ += static_cast<char>(2 * count);
-    stream_ += static_cast<char>(cell(column_));
-    column_ += count;
-  }
-
-  void literal() {
-    const int limit = std::min(end_, column_ + longest_op);
-    int to = column_ + 1;
-    while (to < limit && cell(to) != picture::unset &&
-           equal_cells(to) < run_worth_leaving_a_literal_for) {
-      ++to;
-    }
-    stream_ += static_cast<char>(2 * (to - column_) + 1);
-    for (; column_ < to; ++column_) stream_ += static_cast<char>(cell(column_));
-  }
-
-  const picture& drawn_;
-  int row_;
-  int column_;
-  int end_;
-  std::string& stream_;
-};
-
 void append_icon(std::string& to, const shp_icon& icon) {
   append16(to, icon.head.no_of_rows);
   append16(to, icon.head.no_of_cols);
-  append32(to, 0);
+  append32(to, icon.head.spare);
   append32(to, icon.head.col_start);
   append32(to, icon.head.row_start);
   append32(to, icon.head.col_end);
@@ -119,8 +55,15 @@ icon_head head_of(const picture& drawn) {
 
 std::string packed(const picture& drawn, const icon_head& head) {
   std::string stream;
-  for (int row = head.row_start; row <= head.row_end; ++row) {
-    row_packer(drawn, row, head.col_start, head.col_end + 1, stream).pack();
+  row_packer packer;
+  const std::int32_t outside = std::max(-head.col_start, 0);
+  const auto first = static_cast<std::size_t>(std::clamp(head.col_start, 0, drawn.columns()));
+  for (std::int32_t row = head.row_start; row <= head.row_end; ++row) {
+    if (row < 0) {
+      stream += '\0';
+    } else {
+      packer.pack(outside, drawn.row(row).subspan(first), stream);
+    }
   }
   return stream;
 }
@@ -130,7 +73,7 @@ shp_icon make_icon(const picture& drawn) {
   return {head, packed(drawn, head)};
 }
 
-std::string shp_file(const std::vector<shp_icon>& icons) {
+std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
   std::string directory;
   std::string bodies;
   for (const shp_icon& icon : icons) {
@@ -139,7 +82,7 @@ std::string shp_file(const std::vector<shp_icon>& icons) {
     append32(directory, 0);
     append_icon(bodies, icon);
   }
-  std::string file = "ICON";
+  std::string file(identifier.begin(), identifier.end());
   append32(file, static_cast<std::int32_t>(icons.size()));
   return file + directory + bodies;
 }

@@ -1,0 +1,101 @@
+#include "data/row_packer.h"
+
+#include <algorithm>
+
+#include "data/picture.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::int32_t longest_skip = 255;
+constexpr std::int32_t longest_op = 127;
+// A column outside the picture. Any operation may paint it.
+constexpr std::int16_t free_cell = -2;
+
+// A stream for many columns outside begins with as many of the longest skips as leave this.
+constexpr std::int32_t max_outside = 2 * longest_skip;
+
+}  // namespace
+
+void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
+                      std::string& stream) {
+  while (!cells.empty() && cells.back() == picture::unset) cells = cells.first(cells.size() - 1);
+  if (!cells.empty()) {
+    for (; outside > max_outside; outside -= longest_skip) stream += "\1\xFF";
+    columns_.assign(static_cast<std::size_t>(outside), free_cell);
+    columns_.insert(columns_.end(), cells.begin(), cells.end());
+    find_steps();
+    append_ops(stream);
+  }
+  stream += '\0';
+}
+
+// Step i follows from a few numbers about the columns before it. The shortest stream never gets
+// shorter from one column to the next, so the best skip and the best run are the longest ones. Of
+// the literals that may go on, one that is a byte shorter is never worse: begun again in time it
+// costs that byte. Of equal ones the one with fewer columns has more of them left.
+void row_packer::find_steps() {
+  steps_.resize(columns_.size() + 1);
+  steps_[0] = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
+  std::int32_t skip = 0;
+  std::int32_t run = 0;
+  std::int32_t literal = longest_op;  // columns in the literal; the longest cannot go on
+  std::int32_t literal_bytes = 0;     // of the stream that ends in it
+  std::int16_t before = free_cell;
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    const std::int16_t cell = columns_[i];
+    const bool can_skip = cell < 0;
+    const bool can_paint = cell != picture::unset;
+    run = !can_paint ? 0 : before == free_cell || cell == before ? run + 1 : 1;
+    skip = can_skip ? skip + 1 : 0;
+    if (!can_paint) {
+      literal = longest_op;
+    } else if (literal == longest_op || literal_bytes + 1 >= steps_[i].bytes + 2) {
+      literal = 1;
+      literal_bytes = steps_[i].bytes + 2;
+    } else {
+      ++literal;
+      ++literal_bytes;
+    }
+    step best = {INT32_MAX, op_kind::skip, 0};
+    const auto consider = [&best](std::int32_t bytes, op_kind kind, std::int32_t columns) {
+      if (bytes < best.bytes) best = {bytes, kind, static_cast<std::uint8_t>(columns)};
+    };
+    const auto after = [this, i](std::int32_t columns) {
+      return steps_[i + 1 - static_cast<std::size_t>(columns)].bytes + 2;
+    };
+    if (can_skip)
+      consider(after(std::min(skip, longest_skip)), op_kind::skip, std::min(skip, longest_skip));
+    if (cell >= 0)
+      consider(after(std::min(run, longest_op)), op_kind::run, std::min(run, longest_op));
+    if (can_paint) consider(literal_bytes, op_kind::literal, literal);
+    steps_[i + 1] = best;
+    before = cell;
+  }
+}
+
+void row_packer::append_ops(std::string& stream) {
+  way_.clear();
+  for (std::size_t end = columns_.size(); end > 0; end -= way_.back().columns) {
+    way_.push_back(steps_[end]);
+  }
+  std::size_t at = 0;
+  for (auto op = way_.rbegin(); op != way_.rend(); ++op) {
+    if (op->kind == op_kind::skip) {
+      stream += '\1';
+      stream += static_cast<char>(op->columns);
+    } else if (op->kind == op_kind::run) {
+      stream += static_cast<char>(2 * op->columns);
+      stream += static_cast<char>(columns_[at + op->columns - 1]);
+    } else {
+      stream += static_cast<char>(2 * op->columns + 1);
+      for (std::size_t i = at; i < at + op->columns; ++i) {
+        stream += static_cast<char>(std::max<std::int16_t>(columns_[i], 0));
+      }
+    }
+    at += op->columns;
+  }
+}
+
+}  // namespace ostrane
