@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 
+#include "data/data_error.h"
 #include "data/row_packer.h"
 
 // shp_format.h tells the bytes of an icon file, icon_decoder.h those of a stream.
@@ -73,14 +75,24 @@ shp_icon make_icon(const picture& drawn) {
   return {head, packed(drawn, head)};
 }
 
-std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
+std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier,
+                     bool shares_icons) {
   std::string directory;
   std::string bodies;
+  std::unordered_map<std::string, std::size_t> known;
+  const std::size_t first = shp_head_size + shp_dir_entry_size * icons.size();
   for (const shp_icon& icon : icons) {
-    const std::size_t offset = shp_head_size + shp_dir_entry_size * icons.size() + bodies.size();
+    std::size_t offset = first + bodies.size();
+    std::string body;
+    append_icon(body, icon);
+    if (shares_icons) offset = known.emplace(body, offset).first->second;
+    if (offset == first + bodies.size()) bodies += body;
+    if (first + bodies.size() > std::size_t{INT32_MAX}) {
+      throw data_error(
+          "The icon file would be larger than 2 GB, which is the most that it can be.");
+    }
     append32(directory, static_cast<std::int32_t>(offset));
     append32(directory, 0);
-    append_icon(bodies, icon);
   }
   std::string file(identifier.begin(), identifier.end());
   append32(file, static_cast<std::int32_t>(icons.size()));

@@ -28,9 +28,10 @@ shp_icon make_icon(const picture& drawn);
 // What new icon files begin with.
 constexpr shp_identifier own_identifier = {'I', 'C', 'O', 'N'};
 
-// The bytes of a whole icon file: head, directory, icons.
+// The bytes of a whole icon file: head, directory, icons. Icons of the same bytes stand there once
+// if `shares_icons`. Throws data_error if it would be larger than 2 GB.
 std::string shp_file(const std::vector<shp_icon>& icons,
-                     const shp_identifier& identifier = own_identifier);
+                     const shp_identifier& identifier = own_identifier, bool shares_icons = false);
 std::string shp_file(const std::vector<picture>& pictures);
 
 }  // namespace ostrane

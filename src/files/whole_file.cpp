@@ -66,4 +66,12 @@ void write_whole_file(binary_file& file, const file_path& target, std::string_vi
   to.keep();
 }
 
+std::string read_whole_file(binary_file& file, const file_path& path) {
+  file.open_to_read(path);
+  std::string bytes(static_cast<std::size_t>(file.size()), '\0');
+  bytes.resize(file.read(std::as_writable_bytes(std::span(bytes))));
+  file.close();
+  return bytes;
+}
+
 }  // namespace files

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "files/binary_file.h"
@@ -31,5 +32,8 @@ class whole_file {
 
 // Throws file_error; then the old file is as it was.
 void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes);
+
+// All bytes of a file. Throws file_error.
+std::string read_whole_file(binary_file& file, const file_path& path);
 
 }  // namespace files
