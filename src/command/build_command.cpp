@@ -19,6 +19,7 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
+  fs::path own_name = {};  // of the target, if it lies in the folder
   files::case_insensitive_lookup names = {};
   build_list list = {};
   std::vector<make_record> files = {};
@@ -28,9 +29,7 @@ struct build_job {
 // The archive that is written is none of its own entries.
 bool is_archive_itself(const build_job& job, const std::string& name) {
   if (files::upper_case(name) == archive_name) return true;
-  std::error_code failed;
-  return job.options.archive != "-" &&
-         fs::equivalent(job.folder.system / files::system_name(name), job.target.system, failed);
+  return !job.own_name.empty() && files::system_name(name) == job.own_name;
 }
 
 void list_files(build_job& job) {
@@ -86,6 +85,11 @@ int build(const build_options& options) {
     job.target = {path, argument_of_path(path) + ":"};
   } else {
     job.target = named_file(options.archive);
+    std::error_code failed;
+    const fs::path place = fs::absolute(job.target.system, failed).parent_path();
+    if (fs::equivalent(place, job.folder.system, failed)) {
+      job.own_name = job.target.system.filename();
+    }
   }
   list_files(job);
   job.records = measure_files(job.list, job.files);

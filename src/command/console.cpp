@@ -80,7 +80,8 @@ void note(std::string_view file, std::string_view text) {
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
-  if (console.is_quiet || clock::now() < console.next_bar || !errors_go_to_terminal()) return;
+  static const bool has_terminal = errors_go_to_terminal();
+  if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
   console.next_bar = clock::now() + between_bars;
   console.bar_is_shown = true;
   const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);

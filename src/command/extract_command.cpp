@@ -26,7 +26,7 @@ int extract(const extract_options& options) {
   const files::file_path archive = named_file(options.archive);
   const archive_index index = read_archive_index(archive);
   const std::vector<bool> chosen = chosen_entries(index.records, options.names);
-  require_folder(options.folder);
+  make_folder(options.folder);
   files::binary_file file;
   open_unchanged(file, archive, index.stamp);
   files::case_insensitive_lookup names;

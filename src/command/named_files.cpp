@@ -41,6 +41,11 @@ void require_folder(const std::string& argument) {
   files::file_calls::fail(argument + ":", " cannot be opened: ", reason == 0 ? -ENOENT : -reason);
 }
 
+void make_folder(const std::string& argument) {
+  std::error_code failed;
+  if (!fs::create_directory(path_of_argument(argument), failed)) require_folder(argument);
+}
+
 std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments) {
   const std::size_t count = records.empty() ? 0 : records.size() - 1;

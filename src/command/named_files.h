@@ -21,8 +21,11 @@ files::file_path named_file_behind_links(const std::string& argument);
 files::file_path file_in(const std::string& folder, const std::string& name,
                          files::case_insensitive_lookup& names);
 
-// Throws file_error if it is not there or no folder.
+// Throws file_error or data_error if it is not there or no folder.
 void require_folder(const std::string& argument);
+
+// The same, but a missing folder is made, though not the one that it lies in.
+void make_folder(const std::string& argument);
 
 // True for each entry whose name one of the arguments is or matches ("*", "?", case ignored), and
 // for all if there are none. Throws data_error if an argument matches nothing.

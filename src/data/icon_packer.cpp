@@ -43,13 +43,15 @@ icon_head head_of(const picture& drawn) {
                  -1,
                  -1};
   for (int row = 0; row < drawn.rows(); ++row) {
-    for (int column = 0; column < drawn.columns(); ++column) {
-      if (!drawn.is_set(column, row)) continue;
-      head.col_start = std::min(head.col_start, column);
-      head.row_start = std::min(head.row_start, row);
-      head.col_end = std::max(head.col_end, column);
-      head.row_end = std::max(head.row_end, row);
-    }
+    const auto cells = drawn.row(row);
+    const auto is_set = [](std::int16_t cell) { return cell != picture::unset; };
+    const auto first = std::find_if(cells.begin(), cells.end(), is_set);
+    if (first == cells.end()) continue;
+    const auto after = std::find_if(cells.rbegin(), cells.rend(), is_set).base();
+    head.col_start = std::min(head.col_start, static_cast<std::int32_t>(first - cells.begin()));
+    head.col_end = std::max(head.col_end, static_cast<std::int32_t>(after - cells.begin()) - 1);
+    head.row_start = std::min(head.row_start, row);
+    head.row_end = row;
   }
   if (head.row_end < 0) head.col_start = head.row_start = head.col_end = head.row_end = 0;
   return head;

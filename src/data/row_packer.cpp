@@ -1,6 +1,7 @@
 #include "data/row_packer.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "data/picture.h"
 
@@ -37,40 +38,35 @@ void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
 // costs that byte. Of equal ones the one with fewer columns has more of them left.
 void row_packer::find_steps() {
   steps_.resize(columns_.size() + 1);
-  steps_[0] = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
+  step* to = steps_.data();  // of the column; what is found goes into the one after it
+  *to = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
   std::int32_t skip = 0;
   std::int32_t run = 0;
   std::int32_t literal = longest_op;  // columns in the literal; the longest cannot go on
   std::int32_t literal_bytes = 0;     // of the stream that ends in it
   std::int16_t before = free_cell;
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    const std::int16_t cell = columns_[i];
+  for (const std::int16_t cell : columns_) {
     const bool can_skip = cell < 0;
     const bool can_paint = cell != picture::unset;
     run = !can_paint ? 0 : before == free_cell || cell == before ? run + 1 : 1;
     skip = can_skip ? skip + 1 : 0;
     if (!can_paint) {
       literal = longest_op;
-    } else if (literal == longest_op || literal_bytes + 1 >= steps_[i].bytes + 2) {
+    } else if (literal == longest_op || literal_bytes + 1 >= to->bytes + 2) {
       literal = 1;
-      literal_bytes = steps_[i].bytes + 2;
+      literal_bytes = to->bytes + 2;
     } else {
       ++literal;
       ++literal_bytes;
     }
-    step best = {INT32_MAX, op_kind::skip, 0};
-    const auto consider = [&best](std::int32_t bytes, op_kind kind, std::int32_t columns) {
-      if (bytes < best.bytes) best = {bytes, kind, static_cast<std::uint8_t>(columns)};
-    };
-    const auto after = [this, i](std::int32_t columns) {
-      return steps_[i + 1 - static_cast<std::size_t>(columns)].bytes + 2;
-    };
-    if (can_skip)
-      consider(after(std::min(skip, longest_skip)), op_kind::skip, std::min(skip, longest_skip));
-    if (cell >= 0)
-      consider(after(std::min(run, longest_op)), op_kind::run, std::min(run, longest_op));
-    if (can_paint) consider(literal_bytes, op_kind::literal, literal);
-    steps_[i + 1] = best;
+    const op_kind kind = can_skip ? op_kind::skip : op_kind::run;
+    const std::int32_t columns =
+        can_skip ? std::min(skip, longest_skip) : std::min(run, longest_op);
+    step best = {to[1 - columns].bytes + 2, kind, static_cast<std::uint8_t>(columns)};
+    if (can_paint && literal_bytes < best.bytes) {
+      best = {literal_bytes, op_kind::literal, static_cast<std::uint8_t>(literal)};
+    }
+    *++to = best;
     before = cell;
   }
 }
@@ -90,9 +86,10 @@ void row_packer::append_ops(std::string& stream) {
       stream += static_cast<char>(columns_[at + op->columns - 1]);
     } else {
       stream += static_cast<char>(2 * op->columns + 1);
-      for (std::size_t i = at; i < at + op->columns; ++i) {
-        stream += static_cast<char>(std::max<std::int16_t>(columns_[i], 0));
-      }
+      const auto first = columns_.begin() + static_cast<std::ptrdiff_t>(at);
+      std::transform(first, first + op->columns, std::back_inserter(stream), [](std::int16_t cell) {
+        return static_cast<char>(std::max<std::int16_t>(cell, 0));
+      });
     }
     at += op->columns;
   }

@@ -42,10 +42,10 @@ TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
        "ostrane-dat: The following argument was not expected: "
        "--nothing (--help tells more)\n"},
       {{"extract", "a.dat", "B*"}, 2, "", "ostrane-dat: B*: no entry has this name.\n"},
-      {{"extract", "a.dat", "-d", "none"},
+      {{"extract", "a.dat", "-d", "none/in"},
        2,
        "",
-       "ostrane-dat: none: cannot be opened: it is not there.\n"},
+       "ostrane-dat: none/in: cannot be opened: it is not there.\n"},
       {{"extract", "bad.dat", ".."},
        1,
        "",

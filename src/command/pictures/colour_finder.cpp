@@ -5,7 +5,6 @@ namespace ostrane::command {
 namespace {
 
 constexpr std::size_t max_remembered = 65536;
-constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
 
 }  // namespace
 
@@ -28,9 +27,8 @@ found_colour colour_finder::nearest(std::uint32_t colour) const {
   return {.index = static_cast<std::uint8_t>(best), .is_exact = false};
 }
 
-found_colour colour_finder::find(std::uint32_t colour) {
+found_colour colour_finder::look_for(std::uint32_t colour) {
   remembered_colour& known = remembered_[colour * spread >> 16U];
-  if (known.colour == colour) return known.found;
   known.colour = colour;
   const auto exact = exact_.find(colour);
   known.found = exact == exact_.end() ? nearest(colour) : found_colour{exact->second, true};

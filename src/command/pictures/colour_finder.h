@@ -18,11 +18,17 @@ class colour_finder {
  public:
   explicit colour_finder(const colour_table& palette);
 
-  found_colour find(std::uint32_t colour);
+  found_colour find(std::uint32_t colour) {
+    const remembered_colour& known = remembered_[colour * spread >> 16U];
+    return known.colour == colour ? known.found : look_for(colour);
+  }
 
   const colour_table& palette() const { return palette_; }
 
  private:
+  static constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
+
+  found_colour look_for(std::uint32_t colour);
   found_colour nearest(std::uint32_t colour) const;
 
   struct remembered_colour {

@@ -8,6 +8,7 @@
 #include "command/named_files.h"
 #include "command/pictures/gif_writer.h"
 #include "command/pictures/icon_json.h"
+#include "command/pictures/pixel_form.h"
 #include "command/pictures/png_writer.h"
 #include "command/pictures/sheet.h"
 #include "command/program.h"
@@ -32,6 +33,7 @@ struct export_job {
   const export_options& options;
   files::binary_file archive = {};
   colour_table palette = {};
+  colour_table distinct = {};  // the distinct_colours of it
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
   files::binary_file output = {};
   int status = status_done;
@@ -64,7 +66,7 @@ std::string png_at_scale(const export_job& job, const picture& drawn) {
   if (pixels * job.options.scale * job.options.scale > max_scaled_pixels) {
     throw data_error("At this scale a picture would be too large.");
   }
-  return png_of(drawn, job.palette, job.options.scale);
+  return png_of(drawn, job.palette, job.distinct, job.options.scale);
 }
 
 std::int32_t last_set_column(const picture& drawn) {
@@ -192,7 +194,7 @@ void export_palette(export_job& job, const exported_entry& entry) {
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
   }
-  write_file(job, entry.stem + ".png", png_of(drawn, colours, job.options.scale));
+  write_file(job, entry.stem + ".png", png_of(drawn, colours, colours, job.options.scale));
   write_file(job, entry.stem + ".gpl", gpl_of(entry.name, colours));
 }
 
@@ -252,10 +254,11 @@ int export_entries(const export_options& options) {
   const files::file_path archive = named_file(options.archive);
   const archive_index index = read_archive_index(archive);
   const std::vector<bool> chosen = chosen_entries(index.records, options.names);
-  require_folder(options.folder);
+  make_folder(options.folder);
   export_job job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
   job.palette = read_game_colours(job.archive, index.records);
+  job.distinct = distinct_colours(job.palette);
   for (std::size_t i = 0; i < chosen.size(); ++i) {
     if (chosen[i]) export_entry(job, index, i);
   }

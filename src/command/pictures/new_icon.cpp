@@ -34,8 +34,7 @@ void widen(icon_head& head, const icon_head& smallest, std::int32_t last_column)
 std::int64_t bytes_before_cells(const icon_head& head, const icon_head& smallest, bool is_set) {
   const std::int64_t skips =
       std::max<std::int64_t>(-std::int64_t{head.col_start}, 0) / longest_skip;
-  const std::int64_t rows =
-      is_set ? std::int64_t{smallest.row_end} - smallest.row_start + 1 : 0;
+  const std::int64_t rows = is_set ? std::int64_t{smallest.row_end} - smallest.row_start + 1 : 0;
   return std::int64_t{head.row_end} - head.row_start + 1 + skips * skip_bytes * rows;
 }
 

@@ -107,25 +107,39 @@ void read_head(png_structp png, png_infop info, png_job& job) {
   job.row_bytes = png_get_rowbytes(png, info);
 }
 
-void take_row(png_job& job, std::span<const png_byte> pixels, int row) {
-  const auto cells = job.result.drawn.row(row);
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    if (job.is_indexed) {
-      const mapped_index& mapped = job.map[pixels[i]];
-      cells[i] = mapped.cell;
-      if (!mapped.is_exact) ++job.result.inexact;
-      continue;
-    }
-    const png_byte* pixel = &pixels[4 * i];
-    const png_byte alpha = pixel[3];
+void take_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+  std::int64_t inexact = 0;
+  for (std::int16_t& cell : cells) {
+    const mapped_index& mapped = job.map[*pixels++];
+    cell = mapped.cell;
+    inexact += mapped.is_exact ? 0 : 1;
+  }
+  job.result.inexact += inexact;
+}
+
+void take_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+  std::int64_t inexact = 0;
+  for (std::int16_t& cell : cells) {
+    const int alpha = pixels[3];
     if (alpha < 0x80) {
-      if (alpha != 0) ++job.result.inexact;
-      continue;
+      inexact += alpha == 0 ? 0 : 1;
+    } else {
+      const found_colour found = job.colours.find(
+          static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]));
+      cell = found.index;
+      inexact += alpha == 0xFF && found.is_exact ? 0 : 1;
     }
-    const found_colour found =
-        job.colours.find(static_cast<std::uint32_t>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]));
-    cells[i] = found.index;
-    if (alpha != 0xFF || !found.is_exact) ++job.result.inexact;
+    pixels += 4;
+  }
+  job.result.inexact += inexact;
+}
+
+void take_row(png_job& job, const png_byte* pixels, int row) {
+  const auto cells = job.result.drawn.row(row);
+  if (job.is_indexed) {
+    take_indices(job, pixels, cells);
+  } else {
+    take_colours(job, pixels, cells);
   }
 }
 
@@ -135,7 +149,7 @@ void read_rows(png_structp png, png_job& job) {
     for (png_uint_32 row = 0; row < job.height; ++row) {
       png_byte* to = job.rows.data() + (is_interlaced ? row * job.row_bytes : 0);
       png_read_row(png, to, nullptr);
-      if (pass + 1 == job.passes) take_row(job, {to, job.row_bytes}, static_cast<int>(row));
+      if (pass + 1 == job.passes) take_row(job, to, static_cast<int>(row));
     }
   }
   png_read_end(png, nullptr);

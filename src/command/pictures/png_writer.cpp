@@ -16,7 +16,7 @@ namespace {
 struct png_job {
   const picture& drawn;
   pixel_form form;
-  colour_table colours;
+  const colour_table& colours;
   int scale;
   std::vector<png_byte> row = {};
   std::string bytes = {};
@@ -100,9 +100,13 @@ void write(png_structp png, png_infop info, png_job& job) {
 
 }  // namespace
 
-std::string png_of(const picture& drawn, const colour_table& palette, int scale) {
-  png_job job = {.drawn = drawn, .form = form_of(drawn), .colours = palette, .scale = scale};
-  if (!job.form.is_indexed) job.colours = distinct_colours(palette);
+std::string png_of(const picture& drawn, const colour_table& palette, const colour_table& distinct,
+                   int scale) {
+  const pixel_form form = form_of(drawn);
+  png_job job = {.drawn = drawn,
+                 .form = form,
+                 .colours = form.is_indexed ? palette : distinct,
+                 .scale = scale};
   const std::size_t pixel_bytes = job.form.is_indexed ? 1 : 4;
   job.row.resize(static_cast<std::size_t>(drawn.columns()) * static_cast<std::size_t>(scale) *
                  pixel_bytes);
