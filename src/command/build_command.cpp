@@ -20,7 +20,6 @@ struct build_job {
   files::file_path folder;
   files::file_path target;
   fs::path own_name = {};  // of the target, if it lies in the folder
-  files::case_insensitive_lookup names = {};
   build_list list = {};
   std::vector<make_record> files = {};
   std::vector<dat_record> records = {};
@@ -38,7 +37,8 @@ void list_files(build_job& job) {
     if (!is_archive_itself(job, name)) job.list.names.push_back(name);
   }
   job.list.path_of = [&job](const std::string& name) {
-    return file_in(job.options.folder, name, job.names);
+    const fs::path path = job.folder.system / files::system_name(name);
+    return files::file_path{path, argument_of_path(path) + ":"};
   };
   job.files.resize(job.list.names.size());
 }

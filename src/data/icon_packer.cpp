@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <unordered_map>
 
 #include "data/data_error.h"
 #include "data/row_packer.h"
+#include "files/little_endian.h"
 
 // shp_format.h tells the bytes of an icon file, icon_decoder.h those of a stream.
 namespace ostrane {
@@ -31,6 +33,19 @@ void append_icon(std::string& to, const shp_icon& icon) {
   append32(to, icon.head.col_end);
   append32(to, icon.head.row_end);
   to += icon.stream;
+}
+
+// Where the file has that icon already, or its end.
+std::size_t offset_of(const std::string& file, const std::string& icon,
+                      std::unordered_multimap<std::size_t, std::size_t>& known) {
+  const std::size_t hash = std::hash<std::string>()(icon);
+  const auto [first, last] = known.equal_range(hash);
+  const auto same = std::find_if(first, last, [&](const auto& offset) {
+    return file.compare(offset.second, icon.size(), icon) == 0;
+  });
+  if (same != last) return same->second;
+  known.emplace(hash, file.size());
+  return file.size();
 }
 
 }  // namespace
@@ -79,26 +94,26 @@ shp_icon make_icon(const picture& drawn) {
 
 std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier,
                      bool shares_icons) {
-  std::string directory;
-  std::string bodies;
-  std::unordered_map<std::string, std::size_t> known;
-  const std::size_t first = shp_head_size + shp_dir_entry_size * icons.size();
+  std::string file(identifier.begin(), identifier.end());
+  append32(file, static_cast<std::int32_t>(icons.size()));
+  file.resize(shp_head_size + shp_dir_entry_size * icons.size());
+  std::unordered_multimap<std::size_t, std::size_t> known;  // offsets by the hashes of icons
+  std::size_t entry = shp_head_size;
+  std::string body;
   for (const shp_icon& icon : icons) {
-    std::size_t offset = first + bodies.size();
-    std::string body;
+    body.clear();
     append_icon(body, icon);
-    if (shares_icons) offset = known.emplace(body, offset).first->second;
-    if (offset == first + bodies.size()) bodies += body;
-    if (first + bodies.size() > std::size_t{INT32_MAX}) {
+    const std::size_t offset = shares_icons ? offset_of(file, body, known) : file.size();
+    if (offset == file.size()) file += body;
+    if (file.size() > std::size_t{INT32_MAX}) {
       throw data_error(
           "The icon file would be larger than 2 GB, which is the most that it can be.");
     }
-    append32(directory, static_cast<std::int32_t>(offset));
-    append32(directory, 0);
+    files::put_int32(std::as_writable_bytes(std::span(file)), entry,
+                     static_cast<std::int32_t>(offset));
+    entry += shp_dir_entry_size;
   }
-  std::string file(identifier.begin(), identifier.end());
-  append32(file, static_cast<std::int32_t>(icons.size()));
-  return file + directory + bodies;
+  return file;
 }
 
 std::string shp_file(const std::vector<picture>& pictures) {

@@ -1,4 +1,8 @@
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
 
 #include "command/commands.h"
 #include "command/console.h"
@@ -23,23 +27,61 @@ colour_table read_palette_argument(const std::string& argument) {
   return read_game_colours(file, index.records);
 }
 
+// What the threads of an import share.
 struct import_job {
-  colour_finder colours;
-  files::binary_file file = {};
-  std::int64_t inexact_pixels = 0;
-  std::int64_t inexact_pictures = 0;
+  const import_plan& plan;
+  std::vector<shp_icon> icons;
+  std::atomic<std::size_t> next = 0;  // number of the next icon to be made
+  std::atomic<bool> stops = false;
+  std::atomic<std::int64_t> inexact_pixels = 0;
+  std::atomic<std::int64_t> inexact_pictures = 0;
 };
 
-shp_icon make_icon_of(import_job& job, const planned_icon& planned) {
+shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finder& colours,
+                      files::binary_file& file) {
   if (!planned.png) return {planned.known->head, ""};
-  const std::string bytes = read_whole_file(job.file, *planned.png);
-  const png_picture read = read_png(bytes, planned.png->shown, job.colours);
+  const std::string bytes = read_whole_file(file, *planned.png);
+  const png_picture read = read_png(bytes, planned.png->shown, colours);
   job.inexact_pixels += read.inexact;
   if (read.inexact > 0) ++job.inexact_pictures;
   try {
     return new_icon(read.drawn, planned.known);
   } catch (const data_error& error) {
     throw data_error(planned.png->shown + " cannot become an icon: " + error.text + ".");
+  }
+}
+
+// Makes icons until there are no more, or until a thread fails.
+void make_icons(import_job& job, colour_finder colours) {
+  files::binary_file file;
+  try {
+    for (std::size_t i = job.next++; i < job.icons.size() && !job.stops; i = job.next++) {
+      job.icons[i] = make_icon_of(job, job.plan.icons[i], colours, file);
+    }
+  } catch (...) {
+    job.stops = true;
+    throw;
+  }
+}
+
+// Reading a PNG and packing an icon take the processor alone, so each processor gets a thread.
+void make_all_icons(import_job& job, const colour_finder& colours) {
+  constexpr auto between_looks = std::chrono::milliseconds(20);
+  constexpr std::size_t max_threads = 8;
+  const auto count = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
+  std::vector<std::future<void>> threads;
+  const struct stopping {  // before the threads are waited for
+    import_job& job;
+    ~stopping() { job.stops = true; }
+  } at_end{job};
+  for (std::size_t i = 0; i < std::min(count, job.icons.size()); ++i) {
+    threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
+  }
+  for (std::future<void>& thread : threads) {
+    while (thread.wait_for(between_looks) != std::future_status::ready) {
+      show_progress(std::min(job.next.load(), job.icons.size()), job.icons.size(), "");
+    }
+    thread.get();
   }
 }
 
@@ -62,14 +104,9 @@ int import_pictures(const import_options& options) {
     throw data_error("An icon file holds at most " + std::to_string(max_icons_per_file) +
                      " icons.");
   }
-  import_job job = {.colours = colour_finder(read_palette_argument(options.palette))};
-  std::vector<shp_icon> icons;
-  icons.reserve(plan.icons.size());
-  for (const planned_icon& planned : plan.icons) {
-    show_progress(icons.size(), plan.icons.size(), "");
-    icons.push_back(make_icon_of(job, planned));
-  }
-  write_result(options.icon_file, shp_file(icons, plan.identifier, true));
+  import_job job = {.plan = plan, .icons = std::vector<shp_icon>(plan.icons.size())};
+  make_all_icons(job, colour_finder(read_palette_argument(options.palette)));
+  write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
   return report(options, job);
 }
 
