@@ -49,13 +49,10 @@ struct extraction {
   extraction_result result = {};
 };
 
-constexpr const char* is_open_archive = "it would be written over the open archive";
-
 // Like write_entry, but an old file stays until the new one is whole.
 std::string replace_file_of_entry(extraction& job, const std::string& name, std::int32_t size) {
   const files::file_path path = job.target(name);
-  if (files::file_calls::is_at(job.archive.handle(), path.system) == 1) return is_open_archive;
-  files::whole_file to(job.file, path);
+  files::whole_file to(job.file, path, job.stamp.identity);
   job.archive.seek(job.position);
   const std::int32_t copied =
       chunk_ladder(job.archive, job.file, size, job.small_block_bytes, job.progress);
@@ -72,7 +69,7 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   if (to.is_new) {
     job.on_made(to.path);
   } else if (to.file.facts().stamp.identity == job.stamp.identity) {
-    return is_open_archive;
+    return "it would be written over the open archive";
   }
   job.archive.seek(job.position);
   const std::int32_t copied =
@@ -126,8 +123,7 @@ void extract_entry(extraction& job, std::size_t index) {
 
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
                                   const target_of_entry& target, const file_was_made& on_made,
-                                  const job_progress& progress,
-                                  const extraction_choice& choice) {
+                                  const job_progress& progress, const extraction_choice& choice) {
   extraction job{archive, records, target, on_made, progress, choice};
   job.result.stopped = files::failure_of([&] {
     job.stamp = archive.facts().stamp;

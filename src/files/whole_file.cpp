@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* cannot_write = " cannot be written: ";
 
-void require_replaceable(const file_path& target) {
+void require_replaceable(const file_path& target, const file_identity& source) {
   std::error_code failed;
   const fs::file_status status = fs::symlink_status(target.system, failed);
   if (fs::is_directory(status)) file_calls::fail(target.shown, cannot_write, -EISDIR);
@@ -22,6 +22,11 @@ void require_replaceable(const file_path& target) {
     file_calls::fail(target.shown, cannot_write, -EACCES);
   }
   if (!fs::is_regular_file(status)) return;
+  file_facts facts;
+  if (file_calls::facts_at(target.system, facts) >= 0 && facts.stamp.identity == source) {
+    throw file_error{file_error_number::permission_denied,
+                     target.shown + cannot_write + "it is the archive itself."};
+  }
   const int old = file_calls::open_to_write(target.system);  // fails if it is read-only
   if (old < 0) file_calls::fail(target.shown, cannot_write, old);
   file_calls::close_file(old);
@@ -29,11 +34,11 @@ void require_replaceable(const file_path& target) {
 
 }  // namespace
 
-whole_file::whole_file(binary_file& file, file_path target)
+whole_file::whole_file(binary_file& file, file_path target, const file_identity& source)
     : file_(file), target_(std::move(target)), written_(target_.system) {
   int made = file_calls::open_new(written_);
   if (made == -EEXIST) {
-    require_replaceable(target_);
+    require_replaceable(target_, source);
     written_ = temporary_beside(target_.system);
     made = file_calls::open_new(written_);
     file_facts old;
@@ -60,8 +65,9 @@ void whole_file::keep() {
   is_kept_ = true;
 }
 
-void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes) {
-  whole_file to(file, target);
+void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes,
+                      const file_identity& source) {
+  whole_file to(file, target, source);
   file.write(std::as_bytes(std::span(bytes)));
   to.keep();
 }

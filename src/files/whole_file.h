@@ -14,8 +14,8 @@ namespace files {
 class whole_file {
  public:
   // Opens `file` to write `target`. Throws file_error, also if something else than a normal file or
-  // a link has the name.
-  whole_file(binary_file& file, file_path target);
+  // a link has the name, or the file that is read from, `source`.
+  whole_file(binary_file& file, file_path target, const file_identity& source = {});
   whole_file(const whole_file&) = delete;
   whole_file& operator=(const whole_file&) = delete;
   ~whole_file();
@@ -31,7 +31,8 @@ class whole_file {
 };
 
 // Throws file_error; then the old file is as it was.
-void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes);
+void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes,
+                      const file_identity& source = {});
 
 // All bytes of a file. Throws file_error.
 std::string read_whole_file(binary_file& file, const file_path& path);

@@ -83,6 +83,10 @@ TEST_F(commands_test, ExtractedFilesAreReplacedWholeAndBuildTheSameArchive) {
   EXPECT_EQ(read("out/A.TXT"), entries[0].bytes);
   EXPECT_EQ(run({"build", "out", "-o", "b.dat"}).status, 0);
   EXPECT_EQ(read("b.dat"), read("a.dat"));
+  write("self/SELF.DAT", archive_bytes({{"SELF.DAT", "1"}}));
+  const std::string self = read("self/SELF.DAT");
+  EXPECT_EQ(run({"extract", "self/SELF.DAT", "-d", "self"}).status, 1);
+  EXPECT_EQ(read("self/SELF.DAT"), self);
   EXPECT_EQ(run({"build", "out"}).status, 0);
   EXPECT_EQ(read("out/OSTRANE.DAT"), read("a.dat"));
 }

@@ -18,7 +18,6 @@
 #include "data/icon_file.h"
 #include "data/palette.h"
 #include "files/code_page.h"
-#include "files/file_calls.h"
 #include "files/file_error.h"
 #include "files/whole_file.h"
 
@@ -32,6 +31,7 @@ constexpr std::int64_t max_scaled_pixels = std::int64_t{1} << 28U;
 struct export_job {
   const export_options& options;
   files::binary_file archive = {};
+  files::file_identity identity = {};  // of the archive
   colour_table palette = {};
   colour_table distinct = {};  // the distinct_colours of it
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
@@ -55,10 +55,7 @@ void skip(export_job& job, const exported_entry& entry, const std::string& reaso
 void write_file(export_job& job, const std::string& name, std::string_view bytes) {
   const std::filesystem::path path =
       path_of_argument(job.options.folder) / std::u8string(name.begin(), name.end());
-  if (files::file_calls::is_at(job.archive.handle(), path) == 1) {
-    throw data_error("It would be written over the archive.");
-  }
-  write_whole_file(job.output, {path, argument_of_path(path) + ":"}, bytes);
+  write_whole_file(job.output, {path, argument_of_path(path) + ":"}, bytes, job.identity);
 }
 
 std::string png_at_scale(const export_job& job, const picture& drawn) {
@@ -257,6 +254,7 @@ int export_entries(const export_options& options) {
   make_folder(options.folder);
   export_job job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
+  job.identity = index.stamp.identity;
   job.palette = read_game_colours(job.archive, index.records);
   job.distinct = distinct_colours(job.palette);
   for (std::size_t i = 0; i < chosen.size(); ++i) {
