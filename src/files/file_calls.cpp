@@ -72,14 +72,18 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
   }
 }
 
-int is_at(int file, const fs::path& path) {
-  file_facts open;
+int leads_to(const fs::path& path, const file_identity& identity) {
   file_facts found;
-  int outcome = facts_of(file, open);
-  if (outcome >= 0) outcome = facts_at(path, found);
+  const int outcome = facts_at(path, found);
   if (outcome == -ENOENT || outcome == -ENOTDIR) return 0;
   if (outcome < 0) return outcome;
-  return open.stamp.identity == found.stamp.identity ? 1 : 0;
+  return found.stamp.identity == identity ? 1 : 0;
+}
+
+int is_at(int file, const fs::path& path) {
+  file_facts open;
+  const int outcome = facts_of(file, open);
+  return outcome < 0 ? outcome : leads_to(path, open.stamp.identity);
 }
 
 file_error_number error_number(int errno_number) {

@@ -27,7 +27,9 @@ int replace(const std::filesystem::path& file, const std::filesystem::path& targ
 int flush_folder(const std::filesystem::path& folder);
 int list(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 
-// 1 if `path` leads to the open file itself, 0 if to another one or to none.
+// 1 if `path` leads to the file of that identity, 0 if to another one or to none.
+int leads_to(const std::filesystem::path& path, const file_identity& identity);
+// The same for an open file.
 int is_at(int file, const std::filesystem::path& path);
 
 // The errno number of an error that the standard library gives.

@@ -41,8 +41,9 @@ replaced_file::replaced_file(file_path target)
   }
   try {
     file_.take_written(file, target_.shown);
+    identity_ = file_.facts().stamp.identity;
   } catch (...) {
-    if (file >= 0) file_calls::close_file(file);
+    if (file >= 0 && file_.handle() != file) file_calls::close_file(file);
     file_calls::remove_file(temporary_);
     throw;
   }
@@ -52,7 +53,7 @@ replaced_file::replaced_file(file_path target)
 }
 
 replaced_file::~replaced_file() {
-  if (is_own(temporary_)) file_calls::remove_file(temporary_);
+  if (is_own(temporary_) == 1) file_calls::remove_file(temporary_);
   file_.abandon();
 }
 
@@ -77,12 +78,12 @@ void replaced_file::take_rights() {
   file_calls::set_rights(file_.handle(), old);
 }
 
-bool replaced_file::is_own(const fs::path& name) const {
-  return file_calls::is_at(file_.handle(), name) == 1;
+int replaced_file::is_own(const fs::path& path) const {
+  return file_calls::leads_to(path, identity_);
 }
 
 void replaced_file::require_own_file() const {
-  const int own = file_calls::is_at(file_.handle(), temporary_);
+  const int own = is_own(temporary_);
   if (own < 0) file_calls::fail(target_.shown, cannot_write, own);
   if (own == 1) return;
   throw file_error{file_error_number::device_error,
@@ -94,7 +95,7 @@ void replaced_file::put_in_place() {
   file_.flush(true);
   require_own_file();
   const int replaced = file_calls::replace(temporary_, target_.system);
-  const int own = file_calls::is_at(file_.handle(), target_.system);
+  const int own = is_own(target_.system);
   if (own == 1 || (own < 0 && replaced >= 0)) return;
   if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
   throw file_error{file_error_number::device_error,
@@ -103,15 +104,15 @@ void replaced_file::put_in_place() {
 
 void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
-  const fs::path& kept = is_own(target) ? target : target_.system;
-  if (!is_own(kept)) return;
+  const fs::path& kept = is_own(target) == 1 ? target : target_.system;
+  if (is_own(kept) != 1) return;
   const std::string folded = folded_name(kept.filename().native());
   std::vector<listed_entry> listed;
   file_calls::list(kept.parent_path(), listed);
   for (const listed_entry& entry : listed) {
     if (entry.is_folder || folded_name(entry.name) != folded) continue;
     const fs::path other = kept.parent_path() / entry.name;
-    if (file_calls::is_at(file_.handle(), other) == 0) file_calls::remove_file(other);
+    if (is_own(other) == 0) file_calls::remove_file(other);
   }
 }
 

@@ -38,13 +38,14 @@ class replaced_file {
   void remove_leftovers() const;
   void take_rights();
   void require_own_file() const;
-  // True if `name` leads to what was written here.
-  bool is_own(const std::filesystem::path& name) const;
+  // 1 if `path` leads to what is written here, 0 if not, or a negative errno number.
+  int is_own(const std::filesystem::path& path) const;
 
   file_path target_;
   writing_lock lock_;
   std::filesystem::path temporary_;
   binary_file file_;
+  file_identity identity_;  // of what is written here
 };
 
 }  // namespace files
