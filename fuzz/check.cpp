@@ -1,4 +1,6 @@
 // The input is an archive. It is checked as `ostrane-dat check` does.
+#include <fstream>
+
 #include "data/archive_check.h"
 #include "data/archive_index.h"
 #include "data/data_error.h"

@@ -1,5 +1,6 @@
 // The input is a PNG, the JSON of an export, or a picture that is written as a PNG and must come
 // back from it and from the icon that is made of it.
+#include <fstream>
 #include <memory>
 
 #include "command/pictures/icon_json.h"

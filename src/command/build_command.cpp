@@ -8,6 +8,7 @@
 #include "files/code_page.h"
 #include "files/file_system.h"
 #include "files/system_name.h"
+#include "files/whole_file.h"
 
 namespace ostrane::command {
 
@@ -84,7 +85,7 @@ int build(const build_options& options) {
     const fs::path path = job.folder.system / archive_name;
     job.target = {path, argument_of_path(path) + ":"};
   } else {
-    job.target = named_file(options.archive);
+    job.target = named_file_behind_links(options.archive);
     std::error_code failed;
     const fs::path place = fs::absolute(job.target.system, failed).parent_path();
     if (fs::equivalent(place, job.folder.system, failed)) {
@@ -92,6 +93,7 @@ int build(const build_options& options) {
     }
   }
   list_files(job);
+  if (options.archive != "-") files::require_replaceable(job.target);
   job.records = measure_files(job.list, job.files);
   write(job);
   return report_left_out(job);

@@ -9,6 +9,7 @@
 #include "files/file_calls.h"
 #include "files/file_system.h"
 #include "files/replaced_file.h"
+#include "files/whole_file.h"
 
 namespace ostrane::command {
 
@@ -72,7 +73,9 @@ void write_result(const std::string& argument, std::string_view bytes) {
     print(bytes);
     return;
   }
-  files::replaced_file to(named_file_behind_links(argument));
+  const files::file_path path = named_file_behind_links(argument);
+  files::require_replaceable(path);
+  files::replaced_file to(path);
   to.file().write(std::as_bytes(std::span(bytes)));
   to.put_in_place();
   to.flush_folder();

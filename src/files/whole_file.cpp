@@ -14,9 +14,12 @@ namespace fs = std::filesystem;
 
 constexpr const char* cannot_write = " cannot be written: ";
 
+}  // namespace
+
 void require_replaceable(const file_path& target, const file_identity& source) {
   std::error_code failed;
   const fs::file_status status = fs::symlink_status(target.system, failed);
+  if (!fs::exists(status)) return;
   if (fs::is_directory(status)) file_calls::fail(target.shown, cannot_write, -EISDIR);
   if (!fs::is_regular_file(status) && !fs::is_symlink(status)) {
     file_calls::fail(target.shown, cannot_write, -EACCES);
@@ -31,8 +34,6 @@ void require_replaceable(const file_path& target, const file_identity& source) {
   if (old < 0) file_calls::fail(target.shown, cannot_write, old);
   file_calls::close_file(old);
 }
-
-}  // namespace
 
 whole_file::whole_file(binary_file& file, file_path target, const file_identity& source)
     : file_(file), target_(std::move(target)), written_(target_.system) {

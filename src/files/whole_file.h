@@ -30,6 +30,10 @@ class whole_file {
   bool is_kept_ = false;
 };
 
+// Throws file_error if there is something at `target` that must not be replaced: what is no normal
+// file and no link, a read-only file, or the file that is read from, `source`.
+void require_replaceable(const file_path& target, const file_identity& source = {});
+
 // Throws file_error; then the old file is as it was.
 void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes,
                       const file_identity& source = {});

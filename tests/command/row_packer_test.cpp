@@ -71,7 +71,7 @@ TEST(row_packer_test, PacksLongRowsAsShortAsTheyGo) {
   const std::vector<sample> samples = {
       {0, row(127, 5), 3}, {0, row(128, 5), 5},   {0, mixed, 304}, {0, distant, 9},
       {0, {}, 1},          {126, {5}, 3},         {127, {5}, 5},   {510, {5}, 7},
-      {700, {5, 6}, 10},    {2000000, {5}, 15689},
+      {700, {5, 6}, 10},   {2000000, {5}, 15689},
   };
   for (const sample& tried : samples) {
     std::string stream;
