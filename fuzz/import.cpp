@@ -50,7 +50,11 @@ colour_table colours(fuzz::fields& from) {
 }
 
 void import_png(const std::string& bytes) {
-  command::colour_finder finder(colour_table{});
+  static command::colour_finder finder([] {
+    colour_table greys;
+    for (std::uint32_t i = 0; i < greys.size(); ++i) greys[i] = 0x010101U * (i / 2);
+    return greys;
+  }());
   const command::png_picture read = command::read_png(bytes, "p:", finder);
   if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
     check_icon(read.drawn, {});
