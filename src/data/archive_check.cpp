@@ -66,8 +66,9 @@ void check_ends(const archive_check& check) {
   if (end.name != record_name{}) check.tell("", "its end record has a name");
   const std::int64_t rest = check.file_size - end.offset;
   if (rest > 0) check.tell("", number(rest) + " bytes lie after the end record's offset");
-  if (rest < 0)
+  if (rest < 0) {
     check.tell("", "its end record's offset lies " + number(-rest) + " bytes after its end");
+  }
   if (end.offset < after_index) check.tell("", "its end record's offset lies in the index");
 }
 

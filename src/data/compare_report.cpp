@@ -77,11 +77,10 @@ void write_head(const line_writer& report, std::int32_t records, std::int32_t li
     report("Different number of Icons:");
     report("");
     report("# in Ostrane.dat=" + sign_column_text(records) +
-                      ", # in Shiplist=" + sign_column_text(lines));
+           ", # in Shiplist=" + sign_column_text(lines));
     report("");
   }
-  report(
-      "The following differences was found between your Ostrane.dat and the shiplist");
+  report("The following differences was found between your Ostrane.dat and the shiplist");
   report("");
   report("      Present in    Present in   ");
   report("Icon# Ostrane.dat   Shiplist     ");

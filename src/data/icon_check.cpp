@@ -73,8 +73,9 @@ std::string fault_of_head(const icon_head& head) {
   if (head.no_of_rows < 0 || head.no_of_cols < 0) return "its size is below 0" + numbers;
   if (classify_icon(head) == icon_kind::blank) return "its box begins beyond the picture" + numbers;
   if (classify_icon(head) == icon_kind::refused) return "its box ends beyond the picture" + numbers;
-  if (head.row_start < 0 || head.col_start < 0)
+  if (head.row_start < 0 || head.col_start < 0) {
     return "its box begins before the picture" + numbers;
+  }
   if (head.row_start > head.row_end || head.col_start > head.col_end) {
     return "its box ends before it begins" + numbers;
   }
@@ -102,8 +103,9 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   const auto next = std::upper_bound(check.starts.begin(), check.starts.end(), at - 1);
   const std::int64_t left = *next - (at + used);
   if (left > 0) check.tell(icon + number(left) + " bytes are left after its stream");
-  if (left < 0)
+  if (left < 0) {
     check.tell(icon + "its stream reaches " + number(-left) + " bytes into the next icon");
+  }
 }
 
 void check_icon(icon_file_check& check, std::size_t index) {
@@ -117,16 +119,18 @@ void check_icon(icon_file_check& check, std::size_t index) {
   read_icon_head(check.file, check.icons.positions[index], head);
   const std::string fault = fault_of_head(head);
   if (!fault.empty()) check.tell(icon + fault);
-  if (head.no_of_rows < 0 || head.no_of_cols < 0 || classify_icon(head) != icon_kind::drawable)
+  if (head.no_of_rows < 0 || head.no_of_cols < 0 || classify_icon(head) != icon_kind::drawable) {
     return;
+  }
   check_stream(check, icon, head, at + std::int64_t{icon_head_size});
 }
 
 // The bounds of the streams: a stream ends where the next icon or the file does.
 void collect_starts(icon_file_check& check) {
   for (const std::int32_t position : check.icons.positions) {
-    if (position > check.icons.start && position <= check.icons.end)
+    if (position > check.icons.start && position <= check.icons.end) {
       check.starts.push_back(position - 1);
+    }
   }
   check.starts.push_back(check.icons.end);
   std::sort(check.starts.begin(), check.starts.end());

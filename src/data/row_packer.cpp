@@ -76,22 +76,23 @@ void row_packer::append_ops(std::string& stream) {
   for (std::size_t end = columns_.size(); end > 0; end -= way_.back().columns) {
     way_.push_back(steps_[end]);
   }
+  std::reverse(way_.begin(), way_.end());
   std::size_t at = 0;
-  for (auto op = way_.rbegin(); op != way_.rend(); ++op) {
-    if (op->kind == op_kind::skip) {
+  for (const step& op : way_) {
+    if (op.kind == op_kind::skip) {
       stream += '\1';
-      stream += static_cast<char>(op->columns);
-    } else if (op->kind == op_kind::run) {
-      stream += static_cast<char>(2 * op->columns);
-      stream += static_cast<char>(columns_[at + op->columns - 1]);
+      stream += static_cast<char>(op.columns);
+    } else if (op.kind == op_kind::run) {
+      stream += static_cast<char>(2 * op.columns);
+      stream += static_cast<char>(columns_[at + op.columns - 1]);
     } else {
-      stream += static_cast<char>(2 * op->columns + 1);
+      stream += static_cast<char>(2 * op.columns + 1);
       const auto first = columns_.begin() + static_cast<std::ptrdiff_t>(at);
-      std::transform(first, first + op->columns, std::back_inserter(stream), [](std::int16_t cell) {
+      std::transform(first, first + op.columns, std::back_inserter(stream), [](std::int16_t cell) {
         return static_cast<char>(std::max<std::int16_t>(cell, 0));
       });
     }
-    at += op->columns;
+    at += op.columns;
   }
 }
 

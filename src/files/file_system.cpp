@@ -117,8 +117,9 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
     if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";
-    if (*reason != '\0')
+    if (*reason != '\0') {
       unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
+    }
   }
   std::sort(unlisted.begin(), unlisted.end(),
             [](const auto& a, const auto& b) { return a.name < b.name; });

@@ -25,8 +25,7 @@ TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
   write("bad.dat", archive_bytes({{"A", "1"}, {"A", "2"}, {"..", "3"}}) + "rest");
   write("same.txt", "A.TXT\r\nMYFILE.TXT\r\nZ\xC4.DAT\r\n\r\n");
   write("other.txt", "A.TXT\nB.TXT\nMYFILE.TXT\n\n");
-  write("\xC3\xA4\xE2\x82\xAC.txt", "new");
-  write("nul.txt", "device");
+  write(u8"\u00E4\u20AC.txt", "new");
   struct sample {
     texts arguments;
     int status;

@@ -60,8 +60,9 @@ frame_indices indices_of(const gif_job& job, const picture& drawn) {
   std::size_t nearest = rarest == 0 ? 1 : 0;
   for (std::size_t i = 0; i < job.palette.size(); ++i) {
     const std::int32_t from_rarest = distance(job.palette[i], job.palette[rarest]);
-    if (i != rarest && from_rarest < distance(job.palette[nearest], job.palette[rarest]))
+    if (i != rarest && from_rarest < distance(job.palette[nearest], job.palette[rarest])) {
       nearest = i;
+    }
   }
   indices.of[rarest] = static_cast<std::uint8_t>(nearest);
   indices.unset = static_cast<int>(rarest);

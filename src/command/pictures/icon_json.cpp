@@ -44,8 +44,9 @@ Number number_in(const json& object, const char* field) {
   const bool is_too_large =
       value.is_number_unsigned() && value.get<std::uint64_t>() > std::uint64_t{INT64_MAX};
   const std::int64_t number = is_too_large ? INT64_MAX : value.get<std::int64_t>();
-  if (number != static_cast<Number>(number))
+  if (number != static_cast<Number>(number)) {
     throw data_error(std::string(field) + " is out of range");
+  }
   return static_cast<Number>(number);
 }
 

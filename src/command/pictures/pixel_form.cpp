@@ -48,8 +48,9 @@ std::int32_t distance(std::uint32_t a, std::uint32_t b) {
 pixel_form form_of(const picture& drawn) {
   std::array<bool, 257> is_used = {};  // [0] for unset cells
   for (int row = 0; row < drawn.rows(); ++row) {
-    for (const std::int16_t cell : drawn.row(row))
+    for (const std::int16_t cell : drawn.row(row)) {
       is_used[static_cast<std::size_t>(cell + 1)] = true;
+    }
   }
   if (!is_used[0]) return {};
   const auto free = std::find(is_used.begin() + 1, is_used.end(), false);

@@ -183,8 +183,9 @@ png_picture read_png(std::string_view bytes, const std::string& shown, colour_fi
     ~closing() { png_destroy_read_struct(png, info, nullptr); }
   } at_end{&png, &info};
   read(png, info, job);
-  if (!job.failure.empty())
+  if (!job.failure.empty()) {
     throw data_error(shown + " cannot be read as a PNG: " + job.failure + ".");
+  }
   return std::move(job.result);
 }
 
