@@ -2,7 +2,7 @@
 // Writes what peers.sh measures with: names (an index of 32,768 records, empty files of the same
 // names, a shiplist, and the two lists of names one a line), files (4000 files, 64 MB), archive
 // (the same as an archive), icons (one file each of 300, 500 and 999 icons, and a text of 32 KB),
-// steps (an archive of 40 icon files).
+// steps (an archive of 40 icon files), pictures (5000 icons of 64 by 64).
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -73,6 +73,10 @@ void make_steps(const fs::path& folder) {
   bench::write_archive(folder, files);
 }
 
+void make_pictures(const fs::path& folder) {
+  bench::write_archive(folder, {{"I.SHP", shp_file(bench::mixed_pictures(5000, 64))}});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -86,6 +90,7 @@ int main(int argc, char** argv) {
     make_files(folder);
     make_icons(folder / "icons");
     make_steps(folder / "steps");
+    make_pictures(folder / "pictures");
   } catch (const std::exception& failure) {
     std::cerr << "bench_make_data: " << failure.what() << '\n';
     return 1;

@@ -54,6 +54,17 @@ list_names() { wall tar -tf "$data/names.tar"; }
 sort_and_comm() { wall bash -c "LC_ALL=C sort '$data/names/shuffled' | LC_ALL=C comm - '$data/names/in_order'"; }
 untar() { in_new_folder wall tar -C "$data/tar" -xf "$data/files.tar"; }
 tar_up() { without_archive wall tar -C "$data/files" -cf "$data/new.tar" .; }
+dat() { wall "$bin/ostrane-dat" "$@"; }
+export_pictures() {
+  rm -rf "$data/png"
+  mkdir "$data/png"
+  dat export "$data/pictures/ostrane.dat" I.SHP -d "$data/png"
+}
+bare_export() {
+  rm -rf "$data/bare"
+  mkdir "$data/bare"
+  told "$bin/bench_bare_png" write "$data/png" "$data/bare"
+}
 job() { told "$bin/bench_job" "$1" "$data/$2"; }
 window() { told "$bin/bench_window" "$@"; }
 bare_copy() { told "$bin/bench_bare_copy" "$1" "$data/$2"; }
@@ -102,6 +113,17 @@ programs() {
     without_archive bare_copy build files
 }
 
+scripts() {
+  row '`ostrane-dat extract` of 4,000 files, 64 MB; `tar -xf`' 1.0 ms 1000 \
+    in_new_folder dat extract "$data/archive/ostrane.dat" -d "$data/archive/out" -- untar
+  row '`build` from the same; `tar -cf`' 1.0 ms 1000 without_archive dat build "$data/files" -- tar_up
+  row '`list` of 32,767 names; `tar -tf`' 0.2 ms 1000 dat list "$data/names/ostrane.dat" -- list_names
+  row '`export` of 5,000 icons; a bare loop with libpng' 1.2 ms 1000 export_pictures -- bare_export
+  row '`import` of them; a bare loop with libpng' 1.5 ms 1000 \
+    dat import "$data/png" -o "$data/new.shp" --palette "$data/pictures/ostrane.dat" -- \
+    told "$bin/bench_bare_png" read "$data/png"
+}
+
 windows() { # PLATFORM
   local on=$1
   row "series of 300 icons, $on; painted once" 1.5 ms 1000 window icons "$data/icons" 300 -- bare icons 300
@@ -146,6 +168,7 @@ in_process() {
 heading
 in_process
 programs
+scripts
 QT_QPA_PLATFORM=offscreen windows offscreen
 QT_QPA_PLATFORM=xcb windows Xvfb
 QT_QPA_PLATFORM=xcb keys

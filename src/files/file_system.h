@@ -22,6 +22,7 @@ void create_folder(const std::string& path);
 // and names that have no form in the code page are left out. Both throw file_error.
 std::vector<std::string> folders_in(const std::string& path);
 std::vector<std::string> files_in(const std::string& path);
+std::vector<std::string> files_in(const file_path& folder);
 
 // The normal files in a folder that are not among those listed, and why, as the end of a sentence.
 // Throws file_error.
@@ -30,6 +31,8 @@ struct unlisted_file {
   const char* reason;
 };
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
+                                             const std::vector<std::string>& listed);
+std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<std::string>& listed);
 
 // True if `name` is what the pattern names, without regard to case; "*" stands for any characters,

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// Slots: the elements of `s16_image` from 1 on, each with the picture of one icon, and their grid in
-// `Frame1`. All lengths are twips.
+// Slots: the elements of `s16_image` from 1 on, each with the picture of one icon, and their grid
+// in `Frame1`. All lengths are twips.
 namespace ostrane {
 
 constexpr std::int32_t grid_left = 200;
