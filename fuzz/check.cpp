@@ -9,8 +9,8 @@
 using namespace ostrane;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string archive = fuzz::raw_or_made(data, size, fuzz::archive);
-  static const fs::path file = fuzz::everything() / "checked.dat";
+  const std::string archive = fuzz::raw_or_generated(data, size, fuzz::archive);
+  static const fs::path file = fuzz::top_folder() / "checked.dat";
   std::ofstream(file, std::ios::binary | std::ios::trunc) << archive;
   std::size_t faults = 0;
   check_archive(

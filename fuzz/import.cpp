@@ -27,7 +27,7 @@ bool same_cells(const picture& a, const picture& b) {
 }
 
 void check_icon(const picture& drawn, const std::optional<command::known_icon>& known) {
-  static const fs::path place = fuzz::everything() / "made.shp";
+  static const fs::path place = fuzz::top_folder() / "made.shp";
   const std::string bytes = shp_file({command::new_icon(drawn, known)});
   std::ofstream(place, std::ios::binary | std::ios::trunc) << bytes;
   files::binary_file file;
