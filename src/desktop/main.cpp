@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
+#include <iostream>
 
 #include "desktop/application_setup.h"
 #include "desktop/command_line.h"
@@ -20,11 +22,24 @@ void set_program_icon() {
   QGuiApplication::setDesktopFileName(QStringLiteral("ostrane-dat-tool"));
 }
 
+// Qt aborts with a core dump if it cannot open a display. That is the only fatal message before the
+// windows exist.
+void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
+                         const QString& text) {
+  if (type == QtFatalMsg) {
+    std::cerr << "ostrane-dat-tool: a display is needed (DISPLAY or WAYLAND_DISPLAY)\n";
+    std::_Exit(1);
+  }
+  if (type != QtDebugMsg && type != QtInfoMsg) std::cerr << text.toStdString() << '\n';
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc > 1) return desktop::answer_command_line(argc, argv);
+  const QtMessageHandler usual = qInstallMessageHandler(end_without_display);
   const QApplication application(argc, argv);
+  qInstallMessageHandler(usual);
   desktop::set_up_application();
   set_program_icon();
   desktop::qt_screen screen;
