@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <string_view>
 
 #include "files/system_calls.h"
@@ -41,7 +40,7 @@ auto record(std::string_view name, const Call& call) {
 
 struct call_name {
   char text[16] = {};
-  constexpr call_name(const char* name) { std::copy_n(name, std::strlen(name), text); }
+  constexpr call_name(const char* name) { std::copy_n(name, std::string_view(name).size(), text); }
 };
 
 using table = files::system_call_table;
