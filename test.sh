@@ -60,6 +60,10 @@ step 'Build and tests' 'build test' \
 list_skipped_tests build-release
 step 'Benchmarks, once' 'build bench display' \
   'OSTRANE_BUILD=build-release bench/peers.sh 1'
+step 'Screenshot' 'build display' \
+  'scripts/put_sample.sh build-release/sample build-release/home/ostrane-sample
+   HOME=$PWD/build-release/home QT_QPA_PLATFORM=xcb scripts/on_virtual_display.sh \
+     scripts/take_screenshot.sh build-release/bin/ostrane-dat-tool "$PWD/build-release/screenshot.png"'
 step 'Packaging' 'build package package-check' \
   'scripts/check_packaging.sh build-release'
 step 'Lint' 'build lint' \

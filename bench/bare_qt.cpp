@@ -1,8 +1,6 @@
-// bench_bare_qt start | label | icons COUNT | refreshes COUNT | bars FILES | text FILE
+// bench_bare_qt start | label | icons COUNT | text FILE
 // What Qt itself takes, in microseconds and KB: an empty window; one with a word in it; pictures
-// built and painted once; a window that repaints one picture after the other when a second window
-// has come up; one that for each of many files repaints a text and the eight strips by which a bar
-// grows meanwhile; a text set and painted once.
+// built and painted once; a text set and painted once.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -54,57 +52,15 @@ QImage image_of(const picture& drawn) {
   return image;
 }
 
-qint64 paint_pictures(int count, bool one_by_one) {
+qint64 paint_pictures(int count) {
   const std::vector<picture> drawn = bench::mixed_pictures(count, side);
   pictures window;
   window.resize(1900, 1200);
   bench::show_and_wait(window);
   QElapsedTimer time;
   time.start();
-  QWidget message;
-  message.resize(400, 300);
-  if (one_by_one) bench::show_and_wait(message);
-  for (const picture& one : drawn) {
-    window.images.push_back(image_of(one));
-    if (one_by_one) window.repaint(pictures::place(window.images.size() - 1));
-  }
-  if (!one_by_one) window.repaint();
-  bench::sync_with_screen();
-  return time.nsecsElapsed() / 1000;
-}
-
-// The text at the top and the bar below it, of which only strips are painted.
-class text_and_bar : public QWidget {
- public:
-  static constexpr int strips = 8;
-  QString text;
-
-  text_and_bar() {
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    resize(430, 200);
-  }
-  static QRect text_place() { return {10, 10, 400, 32}; }
-  static QRect strip(int i) { return {10 + i * 50, 100, 50, 20}; }
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QPainter painter(this);
-    const bool is_text = event->rect().intersects(text_place());
-    painter.fillRect(event->rect(), is_text ? Qt::lightGray : Qt::blue);
-    if (is_text) painter.drawText(text_place(), Qt::AlignLeft, text);
-  }
-};
-
-qint64 paint_bars(int files) {
-  text_and_bar window;
-  bench::show_and_wait(window);
-  QElapsedTimer time;
-  time.start();
-  for (int file = 0; file < files; ++file) {
-    window.text = QStringLiteral("Extracting file: F%1.DAT\nFile number: %1").arg(file);
-    window.repaint(text_and_bar::text_place());
-    for (int i = 0; i < text_and_bar::strips; ++i) window.repaint(text_and_bar::strip(i));
-  }
+  for (const picture& one : drawn) window.images.push_back(image_of(one));
+  window.repaint();
   bench::sync_with_screen();
   return time.nsecsElapsed() / 1000;
 }
@@ -145,9 +101,7 @@ int main(int argc, char** argv) {
   qint64 microseconds = 0;
   if (job == "start") microseconds = start<QWidget>();
   if (job == "label") microseconds = start<word>();
-  if (job == "icons") microseconds = paint_pictures(std::atoi(argv[2]), false);
-  if (job == "refreshes") microseconds = paint_pictures(std::atoi(argv[2]), true);
-  if (job == "bars") microseconds = paint_bars(std::atoi(argv[2]));
+  if (job == "icons") microseconds = paint_pictures(std::atoi(argv[2]));
   if (job == "text") microseconds = show_text(argv[2]);
   std::cout << microseconds << ' ' << bench::peak_memory() << std::endl;
   std::_Exit(0);

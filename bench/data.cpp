@@ -5,12 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
 #include <random>
-#include <stdexcept>
-
-#include "data/archive_format.h"
-#include "files/little_endian.h"
 
 namespace ostrane::bench {
 
@@ -25,16 +20,6 @@ struct scratch_root {
     fs::remove_all(place, gone);
   }
 };
-
-void append(std::string& to, std::span<const std::byte> bytes) {
-  to.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-}
-
-record_name record_name_of(const std::string& text) {
-  record_name name = {};
-  std::copy_n(text.begin(), std::min(text.size(), name.size()), name.begin());
-  return name;
-}
 
 // A stretch of a row: a gap, a run in one colour or pixels that all differ.
 void draw_stretch(picture& drawn, int row, int from, int behind, unsigned kind) {
@@ -87,34 +72,9 @@ std::vector<entry> files_of_64_mb() {
   return files;
 }
 
-void write_file(const fs::path& place, const std::string& bytes) {
-  std::ofstream file(place, std::ios::binary | std::ios::trunc);
-  file << bytes;
-  file.close();
-  if (!file) throw std::runtime_error(place.string() + " cannot be written");
-}
-
 void write_archive(const fs::path& folder, const std::vector<entry>& entries) {
-  const auto count = static_cast<std::int32_t>(entries.size()) + 1;
-  std::array<std::byte, record_size> record;
-  std::string index;
-  files::put_int32(record, 0, count);
-  append(index, std::span(record).first<count_size>());
-  std::string bodies;
-  const auto body_start = static_cast<std::int32_t>(count_size) + record_size * count;
-  const auto add = [&](const std::string& name) {
-    encode_record({.offset = body_start + static_cast<std::int32_t>(bodies.size()),
-                   .name = record_name_of(name)},
-                  record);
-    append(index, record);
-  };
-  for (const entry& e : entries) {
-    add(e.name);
-    bodies += e.bytes;
-  }
-  add("");
   fs::create_directories(folder);
-  write_file(folder / "ostrane.dat", index + bodies);
+  write_file(folder / "ostrane.dat", archive_bytes(entries));
 }
 
 fs::path scratch(const std::string& name) {

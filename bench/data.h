@@ -5,15 +5,14 @@
 #include <utility>
 #include <vector>
 
+#include "data/archive_bytes.h"
 #include "data/picture.h"
+#include "write_file.h"
 
 // What the benchmarks work on. All of it is the same in every run.
 namespace ostrane::bench {
 
-struct entry {
-  std::string name;
-  std::string bytes;
-};
+using entry = archive_entry;
 
 constexpr int max_names = 32767;
 
@@ -26,7 +25,7 @@ std::vector<picture> mixed_pictures(int count, int side);
 // Files of 8 to 24 KB, 16 KB on the average.
 std::vector<entry> files_of_64_mb();
 
-void write_file(const std::filesystem::path& place, const std::string& bytes);
+using ostrane::write_file;
 void write_archive(const std::filesystem::path& folder, const std::vector<entry>& entries);
 
 // A new folder for a benchmark in the process, the same one at each call with the same name; all

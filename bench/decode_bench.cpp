@@ -10,10 +10,9 @@
 #include "data/icon_packer.h"
 #include "forms/forms.h"
 #include "forms_layer/user.h"
-#include "icons/decoder.h"
+#include "icons/decode_icon.h"
 #include "icons/shp_reader.h"
 #include "png_pictures.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 #include "tool.h"
@@ -50,15 +49,15 @@ void decode_icons_from_file(benchmark::State& state) {
   forms_layer::picture_box& slot = size_slot(1);
   tool_state.current_slot = 1;
   for (auto _ : state) {
-    open_archive_file(file_1);
+    open_archive_file();
     read_directory();
     for (std::int16_t i = 1; i <= icons; ++i) {
       tool_state.icon_number = i;
-      read_icon_head();
+      read_current_icon_head();
       slot.Cls();
       decode_icon();
     }
-    file_1.close();
+    tool_state.archive_file.close();
   }
   const auto& last = pictures().back();
   const forms_layer::colour corner =
@@ -107,9 +106,9 @@ void decode_streams_in_memory(benchmark::State& state) {
   for (auto _ : state) {
     for (const stream_in_memory& stream : streams) {
       tool_state.icon_header = stream.head;
-      std::memcpy(tool_state.read_buffer.data(), stream.bytes.data(), stream.bytes.size());
-      tool_state.read_buffer_fill = static_cast<std::int32_t>(stream.bytes.size());
-      tool_state.read_buffer_pos = 0;
+      std::memcpy(tool_state.stream.read_buffer.data(), stream.bytes.data(), stream.bytes.size());
+      tool_state.stream.read_buffer_fill = static_cast<std::int32_t>(stream.bytes.size());
+      tool_state.stream.read_buffer_pos = 0;
       decode_icon();
     }
     benchmark::ClobberMemory();

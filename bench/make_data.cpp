@@ -1,7 +1,8 @@
 // bench_make_data FOLDER
 // Writes what peers.sh measures with: names (an index of 32,768 records, empty files of the same
 // names, a shiplist, and the two lists of names one a line), files (4000 files, 64 MB), archive
-// (the same as an archive), icons (one file each of 300, 500 and 999 icons, and a text of 32 KB).
+// (the same as an archive), icons (one file each of 300, 500 and 999 icons, and a text of 32 KB),
+// steps (an archive of 40 icon files), pictures (5000 icons of 64 by 64).
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -61,6 +62,21 @@ void make_icons(const fs::path& folder) {
   bench::write_file(folder / "long.txt", text_of_32_kb());
 }
 
+void make_steps(const fs::path& folder) {
+  constexpr int count = 40;
+  std::vector<bench::entry> files;
+  files.reserve(count);
+  for (int i = 0; i < count; ++i) {
+    files.push_back(
+        {"I" + std::to_string(100 + i) + ".SHP", shp_file(bench::mixed_pictures(100, 32))});
+  }
+  bench::write_archive(folder, files);
+}
+
+void make_pictures(const fs::path& folder) {
+  bench::write_archive(folder, {{"I.SHP", shp_file(bench::mixed_pictures(5000, 64))}});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -73,6 +89,8 @@ int main(int argc, char** argv) {
     make_names(folder / "names");
     make_files(folder);
     make_icons(folder / "icons");
+    make_steps(folder / "steps");
+    make_pictures(folder / "pictures");
   } catch (const std::exception& failure) {
     std::cerr << "bench_make_data: " << failure.what() << '\n';
     return 1;

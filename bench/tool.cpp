@@ -16,7 +16,7 @@ namespace user = forms_layer::user;
 
 void begin_tool_on(const std::filesystem::path& folder) {
   files::set_drives({{'C', "bench", folder}}, "C:\\");
-  begin_tool(folder);
+  start_tool(folder);
 }
 
 void open_archive(const std::string& folder) {

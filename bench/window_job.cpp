@@ -1,10 +1,14 @@
-// bench_window start|icons|text|extract|build FOLDER [COUNT]
+// bench_window start|icons|text|extract|build|keys FOLDER [COUNT]
 // One job of the tool with its window, from the click to the last pixel on the screen, in
-// microseconds; the most memory in use in KB. FOLDER is as for bench_job; icons draws the series of
-// COUNT icons.
+// microseconds; the peak memory in KB. FOLDER is as for bench_job; icons draws the series of COUNT
+// icons. keys has xdotool press Down twenty times over the rows of FOLDER, and prints the row that
+// is selected then and how many times the active window changed.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
+#include <QProcess>
 #include <QTimer>
+#include <QWindow>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
@@ -12,7 +16,6 @@
 #include <string>
 
 #include "desktop/application_setup.h"
-#include "desktop/exposure.h"
 #include "desktop/qt_screen.h"
 #include "forms/forms.h"
 #include "forms_layer/user.h"
@@ -62,10 +65,26 @@ void run(const std::string& job, const std::string& folder, const std::string& c
   bench::sync_with_screen();
 }
 
+[[noreturn]] void press_keys(QWidget& window) {
+  window.activateWindow();
+  settle();
+  int changes = 0;
+  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, [&] { ++changes; });
+  QProcess keys;
+  keys.start("xdotool", QStringList{"key", "--delay", "20"} + QStringList(20, "Down"));
+  QEventLoop loop;
+  QObject::connect(&keys, &QProcess::finished,
+                   [&] { QTimer::singleShot(1000, &loop, &QEventLoop::quit); });
+  loop.exec();
+  std::cout << Form1.List1.ListIndex() + 1 << ' ' << changes << std::endl;
+  std::_Exit(0);
+}
+
 [[noreturn]] void measure(desktop::qt_screen& shown, const std::string& job,
                           const std::string& folder, const std::string& count) {
   bench::show_and_wait(*shown.window_of(Form1));
   prepare(job, folder);
+  if (job == "keys") press_keys(*shown.window_of(Form1));
   QElapsedTimer time;
   time.start();
   if (job != "start") run(job, folder, count);
@@ -79,10 +98,9 @@ void run(const std::string& job, const std::string& folder, const std::string& c
 
 int main(int argc, char** argv) {
   if (argc < 3) {
-    std::cerr << "usage: bench_window start|icons|text|extract|build FOLDER [COUNT]\n";
+    std::cerr << "usage: bench_window start|icons|text|extract|build|keys FOLDER [COUNT]\n";
     return 2;
   }
-  desktop::disable_shared_memory();
   const QApplication application(argc, argv);
   desktop::set_up_application();
   screen shown;

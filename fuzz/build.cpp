@@ -1,10 +1,11 @@
-// The parts of the input are names and bytes of files in turn, names as the system has them. The
-// archive built from them must give them back.
+// The parts of the input are the names (UTF-8) and bytes of files in turn. The entries of the
+// archive built from them must be those files.
 #include <fstream>
 #include <set>
 
 #include "data/entry_range.h"
 #include "files/code_page.h"
+#include "state/open_archive.h"
 #include "target.h"
 
 using namespace ostrane;
@@ -13,8 +14,8 @@ namespace {
 
 using contents = std::multiset<std::string>;
 
-// Some of the names are the same to the tool, hidden, too long, or none that it can have.
-std::string made_files(fuzz::fields& from) {
+// Some names are equal to the tool, hidden, too long or outside the code page.
+std::string generate_files(fuzz::fields& from) {
   const texts names = {
       "GEMS.SHP",    "Gems.shp",       "a b .txt",        ".hidden",  "c\\d",
       "Ostrane.dat", "\xC3\xA4.txt",   "\xC3\x84.TXT",    "\xE4.txt", "\xE2\x82\xAC",
@@ -31,12 +32,12 @@ std::string made_files(fuzz::fields& from) {
 void write_files(const texts& parts) {
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
     const bool is_name = parts[i].find_first_of(std::string("/\0", 2)) == std::string::npos;
-    if (is_name) std::ofstream(place("C:\\work") / parts[i], std::ios::binary) << parts[i + 1];
+    if (is_name) std::ofstream(disk_path("C:\\work") / parts[i], std::ios::binary) << parts[i + 1];
   }
 }
 
-// Of the files that the tool can name and that are not hidden, without archives.
-contents files_there() {
+// The files that become entries.
+contents source_files() {
   contents found;
   for (const auto& [utf8, bytes] : files_in("C:\\work")) {
     const auto name = files::from_utf8(utf8);
@@ -55,8 +56,9 @@ std::string build() {
 contents entries_of(const std::string& archive) {
   contents found;
   for (std::int32_t i = 0; i + 1 < Form1.List1.ListCount(); ++i) {
-    const auto from = static_cast<std::size_t>(entry_start(i));
-    found.insert(archive.substr(from, static_cast<std::size_t>(entry_end(i)) - from));
+    const auto from = static_cast<std::size_t>(entry_start(index_records(), i));
+    found.insert(
+        archive.substr(from, static_cast<std::size_t>(entry_end(index_records(), i)) - from));
   }
   return found;
 }
@@ -64,17 +66,17 @@ contents entries_of(const std::string& archive) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::begin_on_empty_drives();
+  fuzz::restart_on_empty_drives();
   make_folder("C:\\work");
-  write_files(fuzz::parts_of(fuzz::raw_or_made(data, size, made_files)));
-  const contents before = files_there();
+  write_files(fuzz::parts_of(fuzz::raw_or_generated(data, size, generate_files)));
+  const contents before = source_files();
   const std::string archive = build();
   open_archive("C:\\work");
   fuzz::check(entries_of(archive) == before, "the entries are the files");
   fuzz::check(build() == archive, "an archive is no file of the next one");
-  fuzz::check(files_there() == before, "the files stay as they are");
-  // One message a build, and one about what it left out.
-  const std::size_t told = new_messages().size();
-  fuzz::check(told >= 2 && told <= 4, "each build says so");
+  fuzz::check(source_files() == before, "the files do not change");
+  // One message per build, and one about skipped files.
+  const std::size_t messages = new_messages().size();
+  fuzz::check(messages >= 2 && messages <= 4, "each build reports success");
   return 0;
 }

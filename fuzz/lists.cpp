@@ -1,5 +1,5 @@
-// The parts of the input are iconlist.csv, a shiplist and the names of an archive's entries. The
-// names get their descriptions, are saved and compared. Made parts share their names.
+// The parts of the input are iconlist.csv, a shiplist and the names of entries. Clicks the names,
+// saves and compares them. Generated parts share their names.
 #include <algorithm>
 
 #include "data/archive_bytes.h"
@@ -10,8 +10,8 @@ using namespace ostrane;
 
 namespace {
 
-// Now and then one of the texts stands there so often that no list takes it all.
-std::string made_list(fuzz::fields& from, const texts& likely) {
+// One in 64 lists repeats a text beyond the limit of a list.
+std::string generate_list(fuzz::fields& from, const texts& likely) {
   std::string list;
   for (int left = from.ConsumeIntegralInRange(0, 30); left > 0; --left) {
     list += fuzz::text(from, likely);
@@ -22,14 +22,14 @@ std::string made_list(fuzz::fields& from, const texts& likely) {
   return list;
 }
 
-std::string made_lists(fuzz::fields& from) {
+std::string generate_lists(fuzz::fields& from) {
   const texts words = {"GEMS.SHP", "Gems.Shp", "GEMS;", "GEMS.SHP\r\n", "A\n", "GUIDE.TXT",
                        "\xE4.SHP", "\xC4.SHP", "*\n",   "\r\n",         "\n",  "\r",
                        ";",        " "};
-  std::string lists = made_list(from, words) + '\x1E';
-  lists += made_list(from, words) + '\x1E';
+  std::string lists = generate_list(from, words) + '\x1E';
+  lists += generate_list(from, words) + '\x1E';
   return lists +
-         made_list(from, {"GEMS.SHP\x1E", "A\x1E", "\xC4.SHP", "Guide.txt\x1E", "\x1E", " "});
+         generate_list(from, {"GEMS.SHP\x1E", "A\x1E", "\xC4.SHP", "Guide.txt\x1E", "\x1E", " "});
 }
 
 void click_rows(const std::string& iconlist) {
@@ -47,12 +47,12 @@ void click_rows(const std::string& iconlist) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  texts parts = fuzz::parts_of(fuzz::raw_or_made(data, size, made_lists));
+  texts parts = fuzz::parts_of(fuzz::raw_or_generated(data, size, generate_lists));
   parts.resize(std::max<std::size_t>(parts.size(), 2));
-  fuzz::begin_on_empty_drives();
+  fuzz::restart_on_empty_drives();
   write("C:\\program\\iconlist.csv", parts[0]);
   write("C:\\lists\\ships.txt", parts[1]);
-  begin();
+  restart();
   std::vector<entry> entries;
   for (std::size_t i = 2; i < parts.size(); ++i) entries.push_back({parts[i], "x"});
   entries.resize(std::min<std::size_t>(entries.size(), max_records - 1));

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
-# run.sh SECONDS [TARGET]: builds the fuzz targets and runs each one, or the one, for so long,
-# starting from the inputs in fuzz/corpus; the inputs that reach new code are kept for the next run.
-# run.sh short [TARGET]: some thousand inputs each, the same ones every time. run.sh corpus [TARGET]:
-# replaces fuzz/corpus by the fewest inputs, of these and of those kept, that reach the same. Fails
-# if there is a finding; its input is in build-fuzz/findings.
+# Builds the fuzz targets and runs all of them or TARGET. Fails on a finding, whose input is then in
+# build-fuzz/findings.
+#   run.sh SECONDS [TARGET]  runs each target for so long, starting from fuzz/corpus; inputs that
+#                            reach new code are kept in build-fuzz/corpus for the next run
+#   run.sh short [TARGET]    runs a fixed set of some thousand inputs each
+#   run.sh corpus [TARGET]   replaces fuzz/corpus by the fewest inputs, of these and those kept, with
+#                            the same coverage
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -13,7 +15,7 @@ cd "$(dirname "$0")/.."
   exit 2
 }
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build)
+[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build check import)
 
 need fuzz
 build=$PWD/build-fuzz
@@ -21,7 +23,7 @@ build=$PWD/build-fuzz
 cmake --preset fuzz
 cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"
 
-# The drives of the tool lie in memory where the system has a folder there.
+# The drives are in memory if the system has a folder there.
 work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export TMPDIR=$work
@@ -29,7 +31,7 @@ export ASAN_OPTIONS=quarantine_size_mb=8
 
 options=(-rss_limit_mb=768 -malloc_limit_mb=32 -max_len=4096 -print_final_stats=1)
 
-# Puts what a run tells in a line.
+# Prints the statistics of a run in one line.
 summary() {
   awk -v target="$1" '
     /cov: / { for (i = 1; i < NF; ++i) if ($i == "cov:") cov = $(i + 1) }
@@ -40,7 +42,7 @@ summary() {
     }' "$2"
 }
 
-# Judges by edges alone, not by how often they were reached: that keeps the corpus small.
+# Ignores how often an edge was reached, which keeps the corpus small.
 shrink_corpus() {
   local shrunk=$work/shrunk
   mkdir -p "$build/corpus/$1" "$shrunk"

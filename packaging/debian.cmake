@@ -25,7 +25,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 Opens the archive ostrane.dat: lists its entries, shows and animates the
 pictures of its icon files in the game's 256 colours, shows palettes and
 texts, extracts all entries into a folder, builds a new archive from the
-files of a folder, and compares lists of entries.
+files of a folder, and compares lists of entries. The program ostrane-dat
+does so in scripts, and converts icons to PNG and back.
 .
 The window shows this version as ${ostrane_version}.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

@@ -2,8 +2,13 @@
 # folder of its own, and bin/ holds a link to it.
 include(GNUInstallDirs)
 
+set(programs ostrane-dat-tool)
+if(TARGET ostrane-dat)
+  list(APPEND programs ostrane-dat)
+endif()
+
 if(WIN32)
-  install(TARGETS ostrane-dat-tool RUNTIME DESTINATION .)
+  install(TARGETS ${programs} RUNTIME DESTINATION .)
   install(FILES LICENSE DESTINATION .)
   return()
 endif()
@@ -13,29 +18,36 @@ set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/ostrane-dat-tool)
 set(examples_dir ${doc_dir}/examples)
 set(made ${CMAKE_BINARY_DIR}/packaging)
 
-file(RELATIVE_PATH link_target ${CMAKE_INSTALL_FULL_BINDIR}
-     ${CMAKE_INSTALL_FULL_LIBDIR}/ostrane-dat-tool/ostrane-dat-tool)
 file(MAKE_DIRECTORY ${made}/bin)
-file(CREATE_LINK ${link_target} ${made}/bin/ostrane-dat-tool SYMBOLIC)
+foreach(program IN LISTS programs)
+  file(RELATIVE_PATH link_target ${CMAKE_INSTALL_FULL_BINDIR}
+       ${CMAKE_INSTALL_FULL_LIBDIR}/ostrane-dat-tool/${program})
+  file(CREATE_LINK ${link_target} ${made}/bin/${program} SYMBOLIC)
+endforeach()
 
 configure_file(packaging/ostrane-dat-tool.metainfo.xml.in
                ${made}/example.ostrane.dat_tool.metainfo.xml @ONLY)
-# The manual names folders below the prefix, which is known only at the installation.
+# The manuals name folders below the prefix, which is known only at the installation.
 set(program_folder @program_folder@)
 set(examples_folder @examples_folder@)
-configure_file(packaging/ostrane-dat-tool.1.in ${made}/ostrane-dat-tool.1.in @ONLY)
-install(CODE "
-  set(program_folder \"\${CMAKE_INSTALL_PREFIX}/${program_dir}\")
-  set(examples_folder \"\${CMAKE_INSTALL_PREFIX}/${examples_dir}\")
-  configure_file(\"${made}/ostrane-dat-tool.1.in\" \"${made}/ostrane-dat-tool.1\" @ONLY)")
+foreach(program IN LISTS programs)
+  configure_file(packaging/${program}.1.in ${made}/${program}.1.in @ONLY)
+  install(CODE "
+    set(program_folder \"\${CMAKE_INSTALL_PREFIX}/${program_dir}\")
+    set(examples_folder \"\${CMAKE_INSTALL_PREFIX}/${examples_dir}\")
+    configure_file(\"${made}/${program}.1.in\" \"${made}/${program}.1\" @ONLY)")
+  install(TARGETS ${program} RUNTIME DESTINATION ${program_dir})
+  install(FILES ${made}/bin/${program} DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${made}/${program}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
+if(TARGET ostrane-dat)
+  include(packaging/completion.cmake)
+endif()
 
-install(TARGETS ostrane-dat-tool RUNTIME DESTINATION ${program_dir})
-install(FILES ${made}/bin/ostrane-dat-tool DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/ostrane-dat-tool.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${made}/example.ostrane.dat_tool.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${made}/ostrane-dat-tool.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc_dir})
 
 set(icons_dir ${CMAKE_INSTALL_DATADIR}/icons/hicolor)

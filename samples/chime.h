@@ -4,7 +4,7 @@
 
 namespace ostrane::samples {
 
-// A bell as a sound file of eight bits a sample.
+// The sound of a bell, a WAV file with 8 bits per sample.
 std::string chime();
 
 }  // namespace ostrane::samples

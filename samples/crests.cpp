@@ -8,8 +8,8 @@
 namespace ostrane::samples {
 namespace {
 
-// The divisions of a field. Each tells whether a place lies in the part of the second colour; x
-// runs from -1 at the left edge to 1, y from 0 at the top to 1 at the tip.
+// The divisions of a field: true where it has the second colour. x is -1 at the left edge and 1 at
+// the right one, y is 0 at the top and 1 at the tip.
 using division = bool (*)(double x, double y);
 
 constexpr division divisions[] = {
@@ -51,7 +51,7 @@ constexpr colours schemes[] = {
     {ramp::rose, ramp::ice, ramp::gold},
 };
 
-// How far inside the shield a place lies, 1 at the middle axis and 0 at its outline.
+// The distance from the outline, 1 at the middle axis; negative outside.
 double inside(double x, double y) {
   const double half_width = y < 0.42 ? 1 : std::sqrt(1 - std::pow((y - 0.42) / 0.58, 2.2));
   return std::min({half_width - std::abs(x), 2 * y, 1.6 * (1 - y)});

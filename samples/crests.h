@@ -6,7 +6,7 @@
 
 namespace ostrane::samples {
 
-// Shields of 40 by 48 cells, each field divided in another way.
+// Shields of 40 by 48 pixels, each with another division of its field.
 std::vector<picture> crest_collection();
 
 }  // namespace ostrane::samples

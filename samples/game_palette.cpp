@@ -10,7 +10,7 @@ namespace {
 
 constexpr int key_count = 4;
 
-// Red, green and blue as 0xRRGGBB at the start, the thirds and the end of each ramp.
+// 0xRRGGBB at the start, one third, two thirds and the end of each ramp.
 constexpr std::uint32_t keys[ramp_count][key_count] = {
     {0x000000, 0x4C4C50, 0xA2A2A6, 0xFFFFFF},  // grey
     {0x05030F, 0x1A1C4C, 0x4A5CAA, 0xB4C8F4},  // night
@@ -30,13 +30,13 @@ constexpr std::uint32_t keys[ramp_count][key_count] = {
     {0x0A0C12, 0x3C464E, 0x8E9AA6, 0xF2F6FA},  // steel
 };
 
-// One component of a shade, eight bits from `shift` on.
+// One 8-bit component of a shade, `shift` bits up.
 std::uint8_t component(const std::uint32_t (&ramp_keys)[key_count], int shade, unsigned shift) {
-  const double place = static_cast<double>(shade) * (key_count - 1) / (shade_count - 1);
-  const int before = shade == shade_count - 1 ? key_count - 2 : static_cast<int>(place);
+  const double position = static_cast<double>(shade) * (key_count - 1) / (shade_count - 1);
+  const int before = shade == shade_count - 1 ? key_count - 2 : static_cast<int>(position);
   const double low = ramp_keys[before] >> shift & 0xFFU;
   const double high = ramp_keys[before + 1] >> shift & 0xFFU;
-  return static_cast<std::uint8_t>(std::lround(low + (high - low) * (place - before)));
+  return static_cast<std::uint8_t>(std::lround(low + (high - low) * (position - before)));
 }
 
 }  // namespace

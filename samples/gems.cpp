@@ -14,9 +14,9 @@ constexpr int size = 20;
 // A cut is a polygon of `sides` equal sides around a flat table, turned and stretched.
 struct cut {
   int sides;
-  double table;   // width of the table, as a share of the stone's
+  double table;   // width of the table / width of the stone
   double turn;    // in sides
-  double narrow;  // width by height
+  double narrow;  // width / height
 };
 
 cut cut_of(int number) {
@@ -30,12 +30,11 @@ cut cut_of(int number) {
   return shape;
 }
 
-// Where a place lies on a stone: out from the middle as a share of the way to the edge, and the
-// side that it belongs to.
+// A point on a stone.
 struct facet {
-  double out;
+  double out;        // distance from the middle / distance of the edge
   double direction;  // of the side's middle, in radians
-  double along;      // the side, -1 to 1
+  double along;      // position along the side, -1 to 1
 };
 
 facet facet_at(const cut& shape, double x, double y) {
@@ -44,27 +43,27 @@ facet facet_at(const cut& shape, double x, double y) {
   const double side = std::round((std::atan2(y, x) - upwards) / side_angle - 0.5) + 0.5;
   const double direction = upwards + side * side_angle;
   const double towards = x * std::cos(direction) + y * std::sin(direction);
-  const double beside = y * std::cos(direction) - x * std::sin(direction);
+  const double across = y * std::cos(direction) - x * std::sin(direction);
   const double edge = std::cos(side_angle / 2);
-  return {towards / edge, direction, towards > 0 ? beside / towards / std::tan(side_angle / 2) : 0};
+  return {towards / edge, direction, towards > 0 ? across / towards / std::tan(side_angle / 2) : 0};
 }
 
-std::optional<ink> seen(const cut& shape, ramp hue, double x, double y) {
-  const facet there = facet_at(shape, x, y);
-  if (there.out > 1) return std::nullopt;
-  if (there.out > 0.88) return ink{hue, 0.16};
+std::optional<ink> colour_at(const cut& shape, ramp hue, double x, double y) {
+  const facet point = facet_at(shape, x, y);
+  if (point.out > 1) return std::nullopt;
+  if (point.out > 0.88) return ink{hue, 0.16};
   const vector light = towards_light();
-  if (there.out < shape.table) return ink{hue, 0.68 - 0.28 * (x + y) + (x + y < -0.3 ? 0.2 : 0)};
-  const vector normal = unit({std::cos(there.direction), std::sin(there.direction), 0.75});
-  const double halves = there.along > 0 ? 0.07 : -0.05;
+  if (point.out < shape.table) return ink{hue, 0.68 - 0.28 * (x + y) + (x + y < -0.3 ? 0.2 : 0)};
+  const vector normal = unit({std::cos(point.direction), std::sin(point.direction), 0.75});
+  const double halves = point.along > 0 ? 0.07 : -0.05;
   return ink{hue, 0.32 + 0.62 * dot(normal, light) + halves};
 }
 
 picture stone(const cut& shape, ramp hue) {
   constexpr double radius = size / 2.0 - 0.6;
   return painted(size, size, [&](double column, double row) {
-    return seen(shape, hue, (column - size / 2.0) / radius / shape.narrow,
-                (row - size / 2.0) / radius);
+    return colour_at(shape, hue, (column - size / 2.0) / radius / shape.narrow,
+                     (row - size / 2.0) / radius);
   });
 }
 

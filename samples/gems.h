@@ -6,7 +6,7 @@
 
 namespace ostrane::samples {
 
-// 400 cut stones of 20 by 20 cells: 25 cuts, each in all ramps of the palette.
+// 400 cut stones of 20 by 20 pixels: 25 cuts, each in all 16 ramps of the palette.
 std::vector<picture> gem_collection();
 
 }  // namespace ostrane::samples

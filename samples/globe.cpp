@@ -6,14 +6,14 @@
 namespace ostrane::samples {
 namespace {
 
-vector place_on(const globe& shown, const vector& facing) {
+vector point_on(const globe& shown, const vector& facing) {
   const double c = std::cos(shown.tilt);
   const double s = std::sin(shown.tilt);
   const vector upright{c * facing.x + s * facing.y, c * facing.y - s * facing.x, facing.z};
   return turned(upright, shown.turn);
 }
 
-// The mirror of the sun: strong where the normal lies between the sun and the eye.
+// Specular highlight, strongest where the normal is halfway between the sun and the eye.
 double shine(const vector& normal) {
   const vector half_way = unit(towards_light() + vector{0, 0, 1});
   return std::pow(std::max(dot(normal, half_way), 0.0), 24);
@@ -21,15 +21,15 @@ double shine(const vector& normal) {
 
 }  // namespace
 
-std::optional<ink> seen(const globe& shown, double x, double y) {
-  const double beside = x * x + y * y;
-  if (beside > 1) return std::nullopt;
-  const vector normal{x, y, std::sqrt(1 - beside)};
+std::optional<ink> colour_at(const globe& shown, double x, double y) {
+  const double radius_squared = x * x + y * y;
+  if (radius_squared > 1) return std::nullopt;
+  const vector normal{x, y, std::sqrt(1 - radius_squared)};
   const double lit = std::max(dot(normal, towards_light()), 0.0);
-  const ground there = shown.look(place_on(shown, normal));
+  const ground point = shown.look(point_on(shown, normal));
   if (shown.air && normal.z < 0.34 && lit > 0.12) return ink{*shown.air, 0.3 + 0.6 * lit};
-  const double light = there.colour.light * (0.1 + 1.0 * lit) + 0.5 * there.gloss * shine(normal);
-  return ink{there.colour.hue, std::max(light, there.glow * there.colour.light)};
+  const double light = point.colour.light * (0.1 + 1.0 * lit) + 0.5 * point.gloss * shine(normal);
+  return ink{point.colour.hue, std::max(light, point.glow * point.colour.light)};
 }
 
 }  // namespace ostrane::samples

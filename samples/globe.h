@@ -8,16 +8,15 @@
 
 namespace ostrane::samples {
 
-// What a place on a globe looks like in full light. `gloss` mirrors the sun, `glow` is light of its
-// own; both run from 0 to 1.
+// A point of a globe in full light. `gloss` reflects the sun, `glow` is emitted light; both 0 to 1.
 struct ground {
   ink colour;
   double gloss = 0;
   double glow = 0;
 };
 
-// The ground at a place of the unit sphere, its y axis from the north pole to the south pole.
-using surface = std::function<ground(const vector& place)>;
+// The ground at a point of the unit sphere, whose y axis points from the north to the south pole.
+using surface = std::function<ground(const vector& point)>;
 
 struct globe {
   surface look;
@@ -26,7 +25,7 @@ struct globe {
   std::optional<ramp> air = {};
 };
 
-// What is seen at (x, y) of a globe of radius 1 around (0, 0); nothing beside it.
-std::optional<ink> seen(const globe& shown, double x, double y);
+// The colour at (x, y) of a globe of radius 1 around (0, 0), or nullopt outside it.
+std::optional<ink> colour_at(const globe& shown, double x, double y);
 
 }  // namespace ostrane::samples

@@ -2,15 +2,15 @@
 
 #include "globe.h"
 
-// What worlds are made of. Each is a surface.
+// The surfaces of worlds.
 namespace ostrane::samples {
 
-ground seas_and_land(const vector& place);
-ground banded_gas(const vector& place);
-ground pale_gas(const vector& place);
-ground lava(const vector& place);
-ground desert(const vector& place);
-ground cracked_ice(const vector& place);
-ground cratered_rock(const vector& place);
+ground seas_and_land(const vector& point);
+ground banded_gas(const vector& point);
+ground pale_gas(const vector& point);
+ground lava(const vector& point);
+ground desert(const vector& point);
+ground cracked_ice(const vector& point);
+ground cratered_rock(const vector& point);
 
 }  // namespace ostrane::samples

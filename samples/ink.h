@@ -8,8 +8,8 @@
 
 namespace ostrane::samples {
 
-// The sixteen ramps of the palette, each of sixteen shades from dark to light. Ramp r holds the
-// palette indices 16 * r to 16 * r + 15.
+// The 16 ramps of the palette, each of 16 shades from dark to light. Ramp r has the palette indices
+// 16 * r to 16 * r + 15.
 enum class ramp : std::uint8_t {
   grey,
   night,
@@ -32,21 +32,20 @@ enum class ramp : std::uint8_t {
 constexpr int ramp_count = 16;
 constexpr int shade_count = 16;
 
-// A colour of the palette: how light it is runs from 0 to 1 and is cut there.
+// A colour of the palette; `light` is clamped to 0..1.
 struct ink {
   ramp hue;
   double light;
 };
 
-// What is seen at a place, in cells from the top left corner; nothing leaves the cell unset.
+// The colour at a position in pixels from the top left corner; nullopt leaves the pixel unset.
 using shader = std::function<std::optional<ink>(double x, double y)>;
 
-// Looks at the middle of each cell. Shades between two of the ramp are dithered.
+// Shades each pixel by its middle. Shades between two of the ramp are dithered.
 void paint(picture& to, const shader& look);
 picture painted(int columns, int rows, const shader& look);
 
-// The same, into the cells from (left, top) on; `look` counts from there. What falls outside the
-// picture is lost.
+// The same for a rectangle, clipped to the picture; `look` counts from (left, top).
 void paint_at(picture& to, int left, int top, int columns, int rows, const shader& look);
 
 }  // namespace ostrane::samples

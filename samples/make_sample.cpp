@@ -1,8 +1,7 @@
 // make_sample FOLDER
-// Writes FOLDER/files, FOLDER/iconlist.csv and, from the files, the archive FOLDER/ostrane.dat.
+// Writes FOLDER/files, FOLDER/iconlist.csv and the archive of the files, FOLDER/ostrane.dat.
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <stdexcept>
 #include <string>
@@ -14,30 +13,24 @@
 #include "handlers/start_up.h"
 #include "sample_files.h"
 #include "texts.h"
+#include "write_file.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace ostrane;
 
-void write_file(const fs::path& place, const std::string& bytes) {
-  std::ofstream file(place, std::ios::binary | std::ios::trunc);
-  file << bytes;
-  file.close();
-  if (!file) throw std::runtime_error(place.string() + " cannot be written");
-}
-
-// A file that lies there from elsewhere would become an entry.
+// Any other file in the folder would become an entry.
 void write_files(const fs::path& folder) {
   fs::create_directories(folder);
   if (!fs::is_empty(folder)) throw std::runtime_error(folder.string() + " is not empty");
   for (const auto& file : samples::sample_files()) write_file(folder / file.name, file.bytes);
 }
 
-// Has the tool build the archive, as its user would, into the folder `files` of `folder`.
+// Builds the archive with the tool, as a user would, in the folder `files` of `folder`.
 void build_archive(const fs::path& folder) {
   files::set_drives({{'C', "sample", folder}}, "C:\\");
-  begin_tool(folder);
+  start_tool(folder);
   forms_layer::user::click(Form1.mnu_make);
   Form5.Dir1.Path = "C:\\files";
   forms_layer::user::click(Form5.Command1);

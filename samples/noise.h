@@ -6,13 +6,13 @@
 
 namespace ostrane::samples {
 
-// A number of 0 to 1 that is the same for the same whole numbers on every machine.
+// A hash of 0 to 1, the same on every machine.
 double scatter(int x, int y, int z, std::uint32_t seed);
 
-// A smooth field of 0 to 1 without direction; hills are about 1 wide.
+// Value noise of 0 to 1 with a period of about 1.
 double noise(const vector& at, std::uint32_t seed);
 
-// Hills upon hills, each layer half as wide and half as high as the one before. 0 to 1.
+// Fractal noise of 0 to 1; each layer has half the period and half the amplitude of the one before.
 double clouds(vector at, int layers, std::uint32_t seed);
 
 }  // namespace ostrane::samples

@@ -20,7 +20,7 @@ double half_width(double y) {
   return 13.5 * std::pow(std::sin(pi * (0.04 + 0.68 * along)), 0.75);
 }
 
-// A round body: light at a share of its half width, -1 at its left edge.
+// The light on a cylinder; `across` is -1 at its left edge and 1 at its right one.
 double light_on_round(double across) {
   const vector normal{across, 0, std::sqrt(1 - across * across)};
   return 0.2 + 0.85 * std::max(dot(normal, unit({-0.6, 0, 0.7})), 0.0);
@@ -53,7 +53,7 @@ std::optional<ink> flame(double x, double y, int frame) {
   const double length = 27 + 5 * std::sin(2 * phase) + 2.5 * std::sin(5 * phase);
   const double along = (y - nozzle) / length;
   if (along < 0 || along > 1) return std::nullopt;
-  // A circle through the noise, so that the last frame leads to the first.
+  // Moves on a circle through the noise, so that the frames loop.
   const double flicker =
       noise({0.16 * x + 2 * std::cos(phase), 0.1 * y - 3 * along, 2 * std::sin(phase)}, 71) - 0.5;
   const double width = 9.5 * std::sqrt(1 - along) * (0.9 + 0.25 * std::sin(pi * along));
@@ -65,8 +65,8 @@ std::optional<ink> flame(double x, double y, int frame) {
 picture frame_picture(int frame) {
   return painted(56, 104, [frame](double column, double y) {
     const double x = column - middle;
-    if (const auto seen = hull(x, y)) return seen;
-    if (const auto seen = fin(x, y)) return seen;
+    if (const auto colour = hull(x, y)) return colour;
+    if (const auto colour = fin(x, y)) return colour;
     return flame(x, y, frame);
   });
 }

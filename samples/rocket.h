@@ -6,8 +6,8 @@
 
 namespace ostrane::samples {
 
-// A rocket above its flame, 16 frames that join up again. The flame's length changes, and with it
-// what of the picture is set.
+// A rocket above its flame, a loop of 16 frames. The length of the flame changes, and with it the
+// data box of the icon.
 std::vector<picture> rising_rocket();
 
 }  // namespace ostrane::samples

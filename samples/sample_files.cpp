@@ -14,8 +14,8 @@
 namespace ostrane::samples {
 namespace {
 
-// A good icon, one whose data begins beyond the picture (it shows as blank), one whose data ends
-// beyond it (it is refused), and a good one again.
+// A good icon, one whose data starts outside the picture (shown blank), one whose data ends outside
+// (refused), and a good one.
 std::string odd_icons() {
   std::vector<shp_icon> icons(4, make_icon(barren_world(64)));
   icons[1].head.col_start = icons[1].head.no_of_cols + 1;
@@ -24,7 +24,7 @@ std::string odd_icons() {
   return shp_file(icons);
 }
 
-// The second icon's offset lies far before the start of any file.
+// The offset of the second icon is far before the start of the file.
 std::string lost_icon() {
   std::string file = shp_file({barren_world(64), barren_world(64)});
   file[shp_head_size + shp_dir_entry_size + 3] = '\xC0';

@@ -6,7 +6,7 @@
 
 namespace ostrane::samples {
 
-// The files that the sample archive is built from.
+// The files of the sample archive.
 std::vector<archive_entry> sample_files();
 
 }  // namespace ostrane::samples

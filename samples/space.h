@@ -21,21 +21,21 @@ constexpr double dot(const vector& a, const vector& b) { return a.x * b.x + a.y 
 
 inline vector unit(const vector& a) { return 1.0 / std::sqrt(dot(a, a)) * a; }
 
-// Turned by an angle about the upright axis.
+// Rotates about the y axis.
 inline vector turned(const vector& a, double angle) {
   return {a.x * std::cos(angle) + a.z * std::sin(angle), a.y,
           a.z * std::cos(angle) - a.x * std::sin(angle)};
 }
 
 // 0 up to `low`, 1 from `high` on, smooth between.
-inline double step(double low, double high, double value) {
+inline double smooth_step(double low, double high, double value) {
   const double t = std::clamp((value - low) / (high - low), 0.0, 1.0);
   return t * t * (3 - 2 * t);
 }
 
 inline double mix(double a, double b, double share) { return a + (b - a) * share; }
 
-// The light comes over the left shoulder of whoever looks; x is right, y down, z to the eye.
+// The light comes from the upper left; x is right, y down, z towards the eye.
 inline vector towards_light() { return unit({-0.55, -0.55, 0.65}); }
 
 }  // namespace ostrane::samples

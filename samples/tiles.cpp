@@ -27,7 +27,7 @@ constexpr ground_kind heath{ramp::rose, 0.55, ramp::earth, 0.6};
 
 struct tile {
   ground_kind kind;
-  int width;   // of the block, in cells; its top is half as high
+  int width;   // of the block in pixels; its top is half as high
   int height;  // of its sides
   int left;    // margins around the block
   int top;
@@ -53,8 +53,8 @@ std::optional<ink> block(const tile& t, double x, double y) {
   return ink{turf ? t.kind.top : t.kind.side, light};
 }
 
-// A tree that stands at (x, y) on a picture.
-void plant(picture& on, double x, double y, double size) {
+// A tree whose foot is at (x, y).
+void draw_tree(picture& on, double x, double y, double size) {
   const int left = static_cast<int>(x - size);
   const int top = static_cast<int>(y - 2.6 * size);
   const int columns = static_cast<int>(2 * size) + 1;
@@ -62,9 +62,9 @@ void plant(picture& on, double x, double y, double size) {
   paint_at(on, left, top, columns, rows, [&](double column, double row) -> std::optional<ink> {
     const double across = (column - size) / size;
     const double up = (row - size) / size;
-    const double beside = across * across + up * up;
-    if (beside < 1) {
-      const vector normal{across, up, std::sqrt(1 - beside)};
+    const double radius_squared = across * across + up * up;
+    if (radius_squared < 1) {
+      const vector normal{across, up, std::sqrt(1 - radius_squared)};
       return ink{ramp::leaf, 0.14 + 0.62 * std::max(dot(normal, towards_light()), 0.0) +
                                  0.2 * (noise({column, row, 5}, 89) - 0.5)};
     }
@@ -80,8 +80,8 @@ picture tile_picture(const tile& t) {
   for (int tree = 0; tree < t.trees; ++tree) {
     const double x = scatter(tree, 0, t.width, 97) - 0.5;
     const double y = (tree + 0.5) / t.trees - 0.5;
-    plant(drawn, t.left + t.width * (0.5 + 0.6 * x * (1 - std::abs(y))),
-          t.top + t.width * (0.25 + 0.36 * y), t.width / 10.0 + 1.5);
+    draw_tree(drawn, t.left + t.width * (0.5 + 0.6 * x * (1 - std::abs(y))),
+              t.top + t.width * (0.25 + 0.36 * y), t.width / 10.0 + 1.5);
   }
   return drawn;
 }

@@ -6,8 +6,7 @@
 
 namespace ostrane::samples {
 
-// Blocks of ground seen from above a corner, of many sizes and each with margins of its own on all
-// four sides.
+// Blocks of ground in isometric view, in many sizes and with different margins on all four sides.
 std::vector<picture> land_tiles();
 
 }  // namespace ostrane::samples

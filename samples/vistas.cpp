@@ -51,7 +51,7 @@ double ridge_line(int ridge, double x) {
   return base[ridge] - height[ridge] * (hills - 0.3);
 }
 
-// Bright on the slopes that face the sun, and hazy towards the foot of a range.
+// Brighter on slopes that face the sun, and hazier towards the foot of a range.
 ink mountain(const hour& now, int ridge, double x, double y) {
   const double top = ridge_line(ridge, x);
   const double slope = ridge_line(ridge, x + 3) - ridge_line(ridge, x - 3);
@@ -76,7 +76,7 @@ ink sky(const hour& now, double x, double y) {
   }
   const double glow = 0.5 * std::exp(-(from_sun - now.sun_size) / 16);
   const double cover = clouds({x / 46, y / 13, now.sun_x}, 4, 109);
-  const double veil = 0.6 * step(0.5, 0.72, cover);
+  const double veil = 0.6 * smooth_step(0.5, 0.72, cover);
   return {now.sky,
           mix(now.top_light, now.low_light, down) + (glow + veil) * (0.2 + 0.4 * now.daylight)};
 }
@@ -88,7 +88,7 @@ ink above_water(const hour& now, double x, double y) {
   return sky(now, x, y);
 }
 
-// The lake mirrors what is above it, darker and broken up by ripples that grow towards the eye.
+// The lake mirrors the view above it, darker and with ripples that grow towards the eye.
 ink water(const hour& now, double x, double y) {
   const double depth = y - shore;
   const double ripple = noise({x / 14, depth / (1.2 + depth / 18), 0}, 113) - 0.5;

@@ -6,7 +6,7 @@
 
 namespace ostrane::samples {
 
-// A lake below mountains at dawn, at noon, at dusk and at night, 226 by 176 cells each.
+// A lake below mountains at dawn, at noon, at dusk and at night, 226 by 176 pixels each.
 std::vector<picture> day_of_vistas();
 
 }  // namespace ostrane::samples

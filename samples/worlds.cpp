@@ -8,16 +8,16 @@
 namespace ostrane::samples {
 namespace {
 
-// A globe in the middle of a picture of `size` cells each way, `margin` cells from its edges.
+// A globe in a square picture of `size` pixels, `margin` pixels from its edges.
 picture globe_picture(const globe& shown, int size, int margin) {
   const double middle = size / 2.0;
   const double radius = middle - margin;
   return painted(size, size, [&](double x, double y) {
-    return seen(shown, (x - middle) / radius, (y - middle) / radius);
+    return colour_at(shown, (x - middle) / radius, (y - middle) / radius);
   });
 }
 
-// The ring at a distance from the world's middle, in radii of the world.
+// The ring at a distance from the centre, in radii of the world.
 std::optional<ink> ring_at(double distance) {
   if (distance < 1.35 || distance > 2.3) return std::nullopt;
   if (distance > 1.88 && distance < 1.97) return std::nullopt;
@@ -35,7 +35,7 @@ picture ringed_world() {
     const double along_ring = c * across + s * down;
     const double over_ring = (c * down - s * across) / 0.26;
     const auto ring = ring_at(std::hypot(along_ring, over_ring));
-    const auto world = seen(giant, across, down);
+    const auto world = colour_at(giant, across, down);
     return ring && (over_ring > 0 || !world) ? ring : world;
   });
 }

@@ -22,7 +22,14 @@ configure -S /usr/src/googletest -B "$build/googletest" -DBUILD_GMOCK=OFF \
   -DCMAKE_INSTALL_PREFIX="$build/installed" -DCMAKE_INSTALL_MESSAGE=NEVER
 cmake --build "$build/googletest" --target install
 
+# These headers lie among those of this system, which are not for the other one.
+mkdir -p "$build/headers"
+ln -sfn /usr/include/CLI "$build/headers/CLI"
+ln -sfn /usr/include/nlohmann "$build/headers/nlohmann"
+
 configure -S . -B "$build/tool" -DOSTRANE_DESKTOP=OFF -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
-  -DGTest_DIR="$build/installed/lib/cmake/GTest"
+  -DGTest_DIR="$build/installed/lib/cmake/GTest" -DOSTRANE_CLI11_HEADERS="$build/headers" \
+  -DOSTRANE_JSON_HEADERS="$build/headers"
 cmake --build "$build/tool"
 wine "$build/tool/bin/ostrane_tests.exe" --gtest_brief=1
+wine "$build/tool/bin/ostrane_command_tests.exe" --gtest_brief=1

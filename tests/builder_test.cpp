@@ -5,19 +5,19 @@
 namespace ostrane {
 namespace {
 
-const std::string closing = "Your new Ostrane.dat has been created and saved in:";
+const std::string success = "Your new Ostrane.dat has been created and saved in:";
 
 struct builder_test : tool_test {
-  // Begins anew with these files alone in the folder of work.
-  static void begin_with(const std::vector<entry>& files) {
-    fs::remove_all(place("C:\\work"));
+  // Restarts the tool with only these files in C:\work.
+  static void restart_with(const std::vector<entry>& files) {
+    fs::remove_all(disk_path("C:\\work"));
     make_folder("C:\\work");
     for (const entry& file : files) write("C:\\work\\" + file.name, file.bytes);
-    begin();
+    restart();
   }
 };
 
-TEST_F(builder_test, WritesTheIndexAndTheFilesBehindIt) {
+TEST_F(builder_test, WritesTheIndexThenTheFiles) {
   const texts names = {" lead.txt", "abcdefghi.shp", "bcdefghij.shpx",
                        "game.pal",  "My file.shp",   "\xC3\xA9t\xC3\xA9"};
   const texts records = {
@@ -34,22 +34,22 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesBehindIt) {
       {named, archive_bytes(entries)},
   };
   for (const auto& [files, archive] : cases) {
-    begin_with(files);
+    restart_with(files);
     build_in();
-    EXPECT_EQ(new_messages().back(), closing + "C:\\work\\ostrane.dat");
+    EXPECT_EQ(new_messages().back(), success + "C:\\work\\ostrane.dat");
     EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive);
     EXPECT_EQ(names_in("C:\\work").size(), files.size() + 1);
   }
 }
 
-// Whatever the case of its name the old archive is no entry, and goes: none is left beside the new.
-TEST_F(builder_test, ReplacesTheOldArchiveInWhateverCaseItsNameIs) {
+// The old archive is no entry and is removed, whatever the case of its name.
+TEST_F(builder_test, ReplacesAnOldArchiveOfAnyCase) {
   for (const texts& old : {texts{"ostrane.dat"}, texts{"OSTRANE.DAT"},
                            texts{"oStrane.dat", "ostrane.dat"}, texts{".OSTRANE.DAT.new"}}) {
-    begin_with({{"a.txt", "a"}});
+    restart_with({{"a.txt", "a"}});
     for (const std::string& name : old) {
       write("C:\\work\\" + name, some_bytes(500));
-      fs::permissions(place("C:\\work\\" + name), fs::perms::owner_read);
+      fs::permissions(disk_path("C:\\work\\" + name), fs::perms::owner_read);
     }
     build_in();
     EXPECT_EQ(names_in("C:\\work").size(), 2U) << old.front();
@@ -58,14 +58,13 @@ TEST_F(builder_test, ReplacesTheOldArchiveInWhateverCaseItsNameIs) {
   }
 }
 
-// A build that fails leaves the old archive, the folder and what the tool knows as they were.
-TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
-  const fs::path b = place("C:\\work\\b.txt");
+// A build that fails leaves the old archive, the folder and the index in memory unchanged.
+TEST_F(builder_test, AFailedBuildChangesNothing) {
+  const fs::path b = disk_path("C:\\work\\b.txt");
   const auto nothing = [] {};
   const auto remove_b = [&] { fs::remove(b); };
   const struct {
-    std::function<void()> before;   // the click
-    std::function<void()> between;  // the two passes
+    std::function<void()> before_click, between_passes;
     std::string fault;
   } cases[] = {
       {remove_b, nothing, "C:\\work\\b.txt cannot be read: it is not there."},
@@ -80,17 +79,22 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
        "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };
   for (const auto& c : cases) {
-    begin_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});
+    restart_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});
     open_archive({{"OPEN.TXT", "open"}});
     recording_screen screen;
     open_build_dialog();
-    c.before();
+    c.before_click();
     texts names = names_in("C:\\work");
-    screen.at_refresh = [&] {
-      if (screen.told.back().find("C:\\work\\a.txt") != std::string::npos) c.between();
+    screen.on_refresh = [&] {
+      if (screen.log.back().find("C:\\work\\a.txt") != std::string::npos) c.between_passes();
     };
     user::click(Form5.Command1);
-    EXPECT_EQ(screen.told.back(), "dialog " + c.fault + " No new archive was made.");
+    const bool typed = Form5.Text1.Text() != "C:\\work";
+    EXPECT_EQ(screen.log.back(),
+              "dialog " + c.fault + " No new archive was made." +
+                  (typed ? " The list shows the files of C:\\work. Double click on the folder to "
+                           "build from."
+                         : ""));
     if (!fs::exists(b)) std::erase(names, "b.txt");
     EXPECT_EQ(names_in("C:\\work"), names) << c.fault;
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
@@ -100,12 +104,12 @@ TEST_F(builder_test, AFailedBuildLeavesEverythingAsItWas) {
   }
 }
 
-// Rows, views and extractions must not mix the archive that was open with the new one.
-TEST_F(builder_test, TheNewArchiveBecomesTheOpenOneIfOneWasOpen) {
-  begin_with({{"new.txt", "new"}, {"game.pal", std::string(1024, 2)}});
+// The list, the views and extraction must not mix the previous archive with the new one.
+TEST_F(builder_test, OpensTheNewArchiveIfOneWasOpen) {
+  restart_with({{"new.txt", "new"}, {"game.pal", std::string(1024, 2)}});
   open_archive({{"OLD.TXT", "old"}, {"X", "x"}, {"GAME.PAL", std::string(1024, 1)}});
   open_build_dialog();
-  write("C:\\work\\unlisted.txt", "came behind the list");
+  write("C:\\work\\unlisted.txt", "not listed yet");
   user::click(Form5.Command1);
   EXPECT_EQ(tool_state.archive_path, "C:\\work\\ostrane.dat");
   EXPECT_EQ(tool_state.archive_path_copy, tool_state.archive_path);

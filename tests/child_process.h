@@ -1,16 +1,17 @@
 #pragma once
 
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace ostrane {
 
-constexpr int not_possible = 77;  // what a process ends with that cannot try what it is to try
+constexpr int cannot_run = 77;  // exit status of a process that cannot set up its test
 
-// Begins a process that does this and ends with 0, or with 1 if a test's expectation failed.
+// Forks a process that runs `job` and exits with 0, or with 1 if an expectation failed.
 template <typename Job>
-pid_t begin_process(const Job& job) {
+pid_t start_process(const Job& job) {
   const pid_t child = fork();
   if (child != 0) return child;
   try {
@@ -21,11 +22,24 @@ pid_t begin_process(const Job& job) {
   _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
-// What the process ended with, or -1 if it was killed.
-inline int end_of(pid_t child) {
+// The exit status, or -1 if a signal ended the process.
+inline int exit_status(pid_t child) {
   int status = 0;
   waitpid(child, &status, 0);
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+template <typename Job>
+void run_in_process(const Job& job) {
+  const int status = exit_status(start_process(job));
+  if (status == cannot_run) GTEST_SKIP() << "this user may not do that";
+  EXPECT_EQ(status, 0);
+}
+
+// Becomes a user without root's permissions.
+inline void drop_root() {
+  if (geteuid() != 0) return;
+  if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) _exit(cannot_run);
 }
 
 }  // namespace ostrane

@@ -5,7 +5,7 @@
 namespace files {
 namespace {
 
-TEST(CodePage, EveryByteComesBackFromUtf8) {
+TEST(CodePage, EveryByteSurvivesUtf8) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));
     EXPECT_EQ(from_utf8(to_utf8(text)), text) << byte;
@@ -17,9 +17,9 @@ TEST(CodePage, EveryByteComesBackFromUtf8) {
             "\u0153\u009D\u017E\u0178\u00A0\u00E9\u00FF");
 }
 
-TEST(CodePage, RefusesWhatItHasNoByteFor) {
-  // A Greek letter, a control character whose byte is the Euro sign, and an accent of its own; cut
-  // off, overlong, half a surrogate pair, behind the last code point, not UTF-8 at all.
+TEST(CodePage, RefusesCharactersItLacks) {
+  // A Greek letter, a control character whose byte is the Euro sign, and a combining accent; then
+  // truncated, overlong, a surrogate, after the last code point, not UTF-8 at all.
   for (const char* text : {"\xCE\xA9", "\xC2\x80", "e\xCC\x81", "\xC3", "\xC1\x81", "\xE0\x83\xA9",
                            "\xF0\x82\x82\xAC", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xE9"}) {
     EXPECT_FALSE(from_utf8(text).has_value()) << text;

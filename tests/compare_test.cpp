@@ -36,7 +36,7 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       {{"A", "B", "C"}, "", counts("4", "1"), {"    1 B", "    2 C"}},
       {{"A", "C", "D"}, "B", counts("4", "1"), {"    0 A", "    2 D"}},
       {{}, "A\r\nB\r\n\r\n", counts("1", "3"), {"    0 ", ship("B")}},
-      // By the values of the characters, an accented letter behind Z and folded like the others.
+      // In byte order: an accented letter is folded like the others and sorts after Z.
       {{"A.1", "A0", "A\xC9"}, "A.1\r\nA\xE9\r\na0\r\n\r\n", "", {}},
       {{"A\xC9", "AZ"}, "AZ\r\n\r\n", counts("3", "2"), {ship("AZ"), "    1 AZ"}},
       {{"Z"},
@@ -56,14 +56,14 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
     std::string report = head_of_counts + head;
     for (const std::string& row : rows) report += row + "\r\n";
     EXPECT_EQ(read("C:\\Shiplist-compare.txt"), report) << shiplist;
-    EXPECT_EQ(screen.told, texts{"Form1"});  // which takes the focus
+    EXPECT_EQ(screen.log, texts{"Form1"});  // takes the focus
     EXPECT_TRUE(Form1.Enabled() && !Form6.Visible());
   }
 }
 
 // Without rows no list is saved, but the message comes.
-TEST_F(compare_test, WithoutRowsOrAShiplistOrWithOneTooLongNothingIsWritten) {
-  begin("D:\\");
+TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
+  restart("D:\\");
   write("D:\\many.txt", std::string(32769, '\n'));
   open_names({"A"});
   open_archive("C:\\program");

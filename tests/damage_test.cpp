@@ -3,12 +3,12 @@
 namespace ostrane {
 namespace {
 
-// A small archive of every kind of entry, damaged in one place after the other.
+// A small archive with each kind of entry, damaged at each byte in turn.
 struct damage_test : icon_test {
-  // Opens these bytes, looks at every entry in every way, and extracts them all.
+  // Opens the archive, uses every view on every entry, and extracts all.
   static void use(const std::string& bytes) {
     write("C:\\ostrane.dat", bytes);
-    begin();
+    restart();
     open_archive();
     const std::int32_t rows = std::min(Form1.List1.ListCount(), 9);
     for (std::int32_t row = 0; row < rows; ++row) {
@@ -33,28 +33,27 @@ struct damage_test : icon_test {
       archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
 };
 
-// Nothing is shown of an index that is cut, nor extracted of an entry, and a file of its name
-// stays.
-TEST_F(damage_test, AnArchiveCutAnywhereDoesNoHarm) {
+// A truncated index is not shown, a truncated entry is not extracted and leaves an existing file.
+TEST_F(damage_test, ATruncatedArchiveDoesNoHarm) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     SCOPED_TRACE(length);
     make_folder("D:\\new");
     write("D:\\old\\I.SHP", "older than the icons");
     ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
     ASSERT_EQ(Form1.List1.ListCount(), length < 4 + 17 * 4 ? 0 : 4);
-    file_map whole_entries = {
+    file_map complete_entries = {
         {"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}};
-    if (length < whole.size() - 44) whole_entries.erase("I.SHP");
-    if (length < whole.size() - 40) whole_entries.erase("N.TXT");
-    if (length < whole.size()) whole_entries.erase("GAME.PAL");
-    ASSERT_EQ(files_in("D:\\new"), whole_entries);
-    whole_entries.try_emplace("I.SHP", "older than the icons");
-    ASSERT_EQ(files_in("D:\\old"), whole_entries);
-    for (const char* folder : {"D:\\new", "D:\\old"}) fs::remove_all(place(folder));
+    if (length < whole.size() - 44) complete_entries.erase("I.SHP");
+    if (length < whole.size() - 40) complete_entries.erase("N.TXT");
+    if (length < whole.size()) complete_entries.erase("GAME.PAL");
+    ASSERT_EQ(files_in("D:\\new"), complete_entries);
+    complete_entries.try_emplace("I.SHP", "older than the icons");
+    ASSERT_EQ(files_in("D:\\old"), complete_entries);
+    for (const char* folder : {"D:\\new", "D:\\old"}) fs::remove_all(disk_path(folder));
   }
 }
 
-TEST_F(damage_test, AnyChangedByteOfTheIndexOrOfAnIconFileDoesNoHarm) {
+TEST_F(damage_test, AnyChangedByteDoesNoHarm) {
   const std::size_t end_of_icons = whole.size() - 44;
   for (std::size_t at = 0; at < end_of_icons; ++at) {
     for (const int flip : {0x01, 0x7F, 0x80, 0xFF}) {
@@ -66,14 +65,14 @@ TEST_F(damage_test, AnyChangedByteOfTheIndexOrOfAnIconFileDoesNoHarm) {
   }
 }
 
-// 5000 icons of one kind: a message for each only where the icon's own fault is told.
-TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
+// 5000 icons of one kind each.
+TEST_F(damage_test, ThousandsOfBadIconsGiveFewMessages) {
   constexpr std::size_t many = 5000;
   shp_icon huge = blank_icon(2, 2);
   huge.head.no_of_rows = 32767;
   const struct {
     shp_icon icon;
-    int moved_by;  // the places of the icons
+    int moved_by;  // added to the icon positions
     std::size_t messages;
   } cases[] = {
       {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, 20},          {huge, 0, 1},
@@ -84,7 +83,7 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveNoMoreMessagesThanTheyMust) {
     for (std::size_t n = 0; n < many; ++n) {
       file[8 + 8 * n + 3] = static_cast<char>(file[8 + 8 * n + 3] + c.moved_by / (1 << 24));
     }
-    begin();
+    restart();
     open_archive({{"I.SHP", file}});
     click_row("I.SHP");
     EXPECT_EQ(new_messages().size(), c.messages) << c.moved_by;

@@ -4,7 +4,6 @@ namespace ostrane {
 namespace {
 
 struct decoder_test : icon_test {
-  // The cells of slot 1, row by row.
   static std::string cells() {
     std::string text;
     for (std::int32_t y = 0; y < slot(1).rows(); ++y) {
@@ -15,7 +14,7 @@ struct decoder_test : icon_test {
   }
 };
 
-TEST_F(decoder_test, APictureClipsToItsDrawingAreaAndKeepsItsCellsWhenResized) {
+TEST_F(decoder_test, APictureClipsDrawingAndKeepsItsPixelsOnResize) {
   const auto blue = [](std::uint32_t index) { return forms_layer::rgb(0, 0, index); };
   forms_layer::picture_box& box = slot(1);
   box.Width = 15 * 6;
@@ -36,7 +35,7 @@ TEST_F(decoder_test, APictureClipsToItsDrawingAreaAndKeepsItsCellsWhenResized) {
   EXPECT_EQ(cells(), "7 7 . | 4 . . | ");
 }
 
-TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
+TEST_F(decoder_test, PaintsThePixelsOfTheStream) {
   const icon_head row_of_4 = plain_icon(4, 1, 0).head;
   const icon_head margins{2, 3, 1, 1, 2, 1};
   const std::tuple<icon_head, std::string, const char*> cases[] = {
@@ -52,14 +51,14 @@ TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
       // Runs that meet, and a row that ends ahead of its second run.
       {row_of_4, stream({4, 1, 4, 2, 0}), "1 1 2 2 | "},
       {row_of_4, stream({8, 1, 0, 2, 2, 0}), "1 1 1 1 | "},
-      // Margins stay unset, but a run beyond the box is painted whole.
+      // Margins stay unset; a run may paint past the data box.
       {margins, stream({4, 7, 0}), ". . . . | . 7 7 . | . . . . | "},
       {margins, stream({254, 7, 0}), ". . . . | . 7 7 7 | . . . . | "},
       // What lies beyond the picture is lost, on the left and above too.
       {row_of_4, stream({13, 1, 2, 3, 4, 5, 6, 0}), "1 2 3 4 | "},
       {{1, 2, -2, -1, 2, 1}, stream({2, 9, 0, 8, 5, 0, 7, 6, 6, 6, 0}), "5 5 . | 6 . . | "},
       {{0, 3, INT32_MIN, 0, 3, 0}, stream({3, 5, 0}), ". . . . | "},
-      // Nothing is taken behind the last row.
+      // The stream ends after the last row.
       {row_of_4, stream({0, 2, 9, 0}), ". . . . | "},
       {plain_icon(2, 2, 0).head, stream({0, 0}), ". . | . . | "},
       {plain_icon(1, 1, 0).head, stream({2, 3, 0}), "3 | "},
@@ -70,9 +69,9 @@ TEST_F(decoder_test, PaintsTheCellsThatTheStreamSays) {
   }
 }
 
-// The longest operations, and a stream of more than one buffer, so that control bytes and operands
-// fall on both sides of a refill.
-TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
+// The longest operations, in a stream of several buffers: control bytes and operands fall on both
+// sides of a refill.
+TEST_F(decoder_test, ReadsStreamsLongerThanTheBuffer) {
   picture drawn(254, 400);
   std::string expected;
   for (int y = 0; y < 400; ++y) {
@@ -89,8 +88,8 @@ TEST_F(decoder_test, ReadsOnBehindAFullBuffer) {
   EXPECT_TRUE(cells() == expected);
 }
 
-// A stream cut off anywhere ends the icon; the cells painted so far stay and no message comes.
-TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
+// The pixels painted so far stay, without a message.
+TEST_F(decoder_test, ATruncatedStreamEndsTheIcon) {
   const std::string bytes = stream({6, 1, 0, 7, 2, 3, 4, 0, 1, 2, 2, 5, 0});
   const std::string file = shp_file(std::vector<shp_icon>{{plain_icon(3, 3, 0).head, bytes}});
   const char* const stages[] = {". . . | . . . | . . . | ", "1 1 1 | . . . | . . . | ",
@@ -105,17 +104,17 @@ TEST_F(decoder_test, AStreamThatRunsOutEndsTheIcon) {
   }
 }
 
-// A stream that goes on and on without painting must not hold the tool for as long as it lasts.
-TEST_F(decoder_test, AnEndlessStreamIsGivenUp) {
+// Skips without a row end paint nothing and must not take time without limit.
+TEST_F(decoder_test, StopsAnEndlessStream) {
   std::string skips;
   for (int i = 0; i < 100000; ++i) skips += stream({1, 0});
   show({{{plain_icon(2, 1, 0).head, stream({2, 5}) + skips + stream({2, 9, 0})}}});
   EXPECT_EQ(cells(), "5 . | ");
 }
 
-// An icon gets the bytes up to the end of its entry and 23 more, but none after them. Some of these
-// streams fill the buffer exactly, or have up to 8 bytes more.
-TEST_F(decoder_test, AnIconEndsWithTheBytesOfItsEntry) {
+// An icon reads up to 23 bytes past its entry and no more. Some streams fill the buffer exactly or
+// exceed it by up to 8 bytes.
+TEST_F(decoder_test, AnIconReadsNoFurtherThanItsEntry) {
   for (const auto bytes :
        {32U, 33U, 3231U, 32767U, 32768U, 32769U, 32775U, 32776U, 65536U, 65537U}) {
     std::string whole = bytes % 2 == 0 ? "" : stream({0});

@@ -12,13 +12,13 @@ struct dialog {
   forms_layer::drive_list& Drive1;
   forms_layer::dir_list& Dir1;
   forms_layer::file_list& File1;
-  forms_layer::text_box* Text1;  // that shows the folder, if there is one
+  forms_layer::text_box* Text1;  // shows the folder, or null
   forms_layer::menu_item& menu;
   forms_layer::button& cancel;
 
-  // The drive, the folder, and with it that of the files and the field if there is one.
-  void expect_at(const std::string& drive, const std::string& folder,
-                 const std::string& field) const {
+  // `field` is the text of Text1.
+  void expect_position(const std::string& drive, const std::string& folder,
+                       const std::string& field) const {
     const std::string shown = Text1 == nullptr ? field : Text1->Text();
     EXPECT_EQ((texts{Drive1.Drive(), Dir1.Path(), File1.Path(), shown}),
               (texts{drive, folder, folder, field}));
@@ -31,12 +31,12 @@ dialog dialog_of(Form& form, forms_layer::text_box* field, forms_layer::menu_ite
   return {form, form.Drive1, form.Dir1, form.File1, field, menu, cancel};
 }
 
-// Calls `check` with each dialog open in a tool of its own, with an archive read.
+// Calls `check` with each dialog open in a restarted tool that has an archive open.
 template <typename Check>
 void with_each(const Check& check) {
   make_folder("D:\\Sub\\Deep");
   for (int i = 0; i < 4; ++i) {
-    begin("D:\\Sub");
+    restart("D:\\Sub");
     open_archive({{"A.TXT", "a"}});
     const dialog dialogs[] = {dialog_of(Form2, nullptr, Form1.mnu_open, Form2.Command2),
                               dialog_of(Form4, &Form4.Text1, Form1.mnu_ext, Form4.Command3),
@@ -50,17 +50,17 @@ void with_each(const Check& check) {
 
 using dialogs_test = tool_test;
 
-// A dialog begins where the tool does, the first one on drive C:. A change carries through from the
-// drive to the folder, the files and the field, and stays. Meanwhile the main window is away.
-TEST_F(dialogs_test, FollowsTheDriveAndHandsBackWhenCancelled) {
+// Form2 starts on drive C:, the others in the current folder. A change of the drive reaches folder,
+// files and field, and a cancelled dialog keeps it.
+TEST_F(dialogs_test, SyncsToTheDriveAndReturnsOnCancel) {
   with_each([](const dialog& d) {
-    d.expect_at("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", "");
+    d.expect_position("d: [other]", &d.window == &Form2 ? "C:\\" : "D:\\Sub", "");
     user::choose(d.Drive1, 0);
-    d.expect_at("c: [test]", "C:\\", "C:\\");
+    d.expect_position("c: [test]", "C:\\", "C:\\");
     user::choose(d.Drive1, 1);
     user::open_folder(d.Dir1, 1);
     for (int time = 0; time < 2; ++time) {
-      d.expect_at("d: [other]", "D:\\Sub", "D:\\Sub");
+      d.expect_position("d: [other]", "D:\\Sub", "D:\\Sub");
       EXPECT_TRUE(d.window.Visible() && !(Form1.Visible() && Form1.Enabled()));
       user::click(d.cancel);
       EXPECT_TRUE(Form1.Visible() && Form1.Enabled() && !d.window.Visible());
@@ -69,8 +69,8 @@ TEST_F(dialogs_test, FollowsTheDriveAndHandsBackWhenCancelled) {
   });
 }
 
-// Asked for it, by a key or by opening the open folder again, it shows what came meanwhile.
-TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
+// By a key or by opening the current folder again.
+TEST_F(dialogs_test, ReloadsItsLists) {
   with_each([](const dialog& d) {
     d.Dir1.Path = "D:\\Sub\\Deep";
     const std::function<void()> ways[] = {[&] { user::reload(d.window); },
@@ -79,22 +79,22 @@ TEST_F(dialogs_test, ReadsItsListsAnewWhenAsked) {
       const auto folders = d.Dir1.rows().size();
       make_folder("D:\\Sub\\Deep\\Came");
       for (const char* name : {"a.txt", "oStrane.dat", "ostrane.data", "b.txt.x"}) {
-        std::ofstream(place("D:\\Sub\\Deep") / name);
+        std::ofstream(disk_path("D:\\Sub\\Deep") / name);
       }
       ask();
       EXPECT_EQ(d.Dir1.rows().size(), folders + 1);
       const bool all = d.Text1 != nullptr;
       EXPECT_EQ(d.File1.ListCount(), all ? 4 : 1);
       EXPECT_EQ(d.File1.List(0), all || &d.window == &Form6 ? "a.txt" : "oStrane.dat");
-      for (const auto& e : fs::directory_iterator(place("D:\\Sub\\Deep"))) fs::remove(e);
+      for (const auto& e : fs::directory_iterator(disk_path("D:\\Sub\\Deep"))) fs::remove(e);
       ask();
       EXPECT_EQ(d.File1.ListCount(), 0);
     }
   });
 }
 
-TEST_F(dialogs_test, ListsTextFilesAlsoAfterAFolderThatCannotBeRead) {
-  begin("D:\\gone");
+TEST_F(dialogs_test, ListsTextFilesAfterAnUnreadableFolder) {
+  restart("D:\\gone");
   open_archive({{"A.TXT", "a"}});
   user::click(Form1.mnu_read_filelist);
   write("D:\\here\\a.dat", "");
@@ -102,9 +102,9 @@ TEST_F(dialogs_test, ListsTextFilesAlsoAfterAFolderThatCannotBeRead) {
   EXPECT_TRUE(Form6.Visible() && Form6.File1.ListCount() == 0);
 }
 
-// What is typed as folder and name, the folder in the dialog afterwards, and the error number. The
-// name is used as typed; blanks alone do nothing.
-TEST_F(dialogs_test, MakesANewFolderAndGoesThere) {
+// The typed folder and name, the folder in the dialog afterwards, and the error number. A blank
+// name does nothing.
+TEST_F(dialogs_test, MakesAndOpensANewFolder) {
   const char* const cases[][4] = {{"D:\\", "  ", "D:\\", ""},
                                   {"D:\\", " New", "D:\\ New", ""},
                                   {"D:\\ New", "In", "D:\\ New\\In", ""},
@@ -113,7 +113,7 @@ TEST_F(dialogs_test, MakesANewFolderAndGoesThere) {
   const std::string fault =
       "Problem encountered while trying to make new Folder. The error reported from Windows is: "
       "Error Number: ";
-  begin("D:\\");
+  restart("D:\\");
   open_archive({{"A.TXT", "a"}});
   user::click(Form1.mnu_ext);
   for (const auto& [typed, name, folder, error] : cases) {
@@ -127,7 +127,7 @@ TEST_F(dialogs_test, MakesANewFolderAndGoesThere) {
   }
 }
 
-// It goes to drive C:. Where that does not answer either it stays where it was, and says so once.
+// By drive C:; if that does not answer either, by its last folder. One message in both cases.
 TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
   for (const bool c_answers : {true, false}) {
     with_each([&](const dialog& d) {
@@ -135,10 +135,10 @@ TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
       if (d.Text1 != nullptr) user::type(*d.Text1, "typed");
       if (!c_answers) fs::rename(root / "c", root / "away");
       user::choose(d.Drive1, 2);
-      const texts told = new_messages();
-      EXPECT_TRUE(told.size() == 1 && told[0].find("Drive in error: >e: []<") != told[0].npos);
-      if (c_answers) d.expect_at("c: [test]", "C:\\", "C:\\");
-      if (!c_answers) d.expect_at("d: [other]", "D:\\Sub\\Deep", "typed");
+      const texts seen = new_messages();
+      EXPECT_TRUE(seen.size() == 1 && seen[0].find("Drive in error: >e: []<") != seen[0].npos);
+      if (c_answers) d.expect_position("c: [test]", "C:\\", "C:\\");
+      if (!c_answers) d.expect_position("d: [other]", "D:\\Sub\\Deep", "typed");
       EXPECT_TRUE(d.window.Visible());
       if (!c_answers) fs::rename(root / "away", root / "c");
     });

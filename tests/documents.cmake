@@ -1,5 +1,5 @@
-# Fails if README.md, CONTRIBUTING.md or a page in docs/ names a file, folder or test that ROOT has
-# not got. Paths count from ROOT or from src/; a file without a folder may be anywhere.
+# Fails if README.md, CONTRIBUTING.md or a page in docs/ names a file, folder or test that does not
+# exist in ROOT. Paths are relative to ROOT or to src/; a file without a folder may be anywhere.
 file(GLOB pages ${ROOT}/README.md ${ROOT}/CONTRIBUTING.md ${ROOT}/docs/*.md)
 set(folders .ci bench cmake docs fuzz packaging samples scripts src tests)
 set(globs ${folders})
@@ -37,15 +37,15 @@ foreach(page IN LISTS pages)
   list(REMOVE_DUPLICATES words)
   foreach(word IN LISTS words)
     string(REGEX REPLACE "^\\./|[.:/]+$" "" word "${word}")
-    if(word MATCHES "^[a-z_]+\\.[A-Z][A-Za-z0-9]+$|^[a-z_]+_test$")  # or how a name begins
+    if(word MATCHES "^[a-z_]+\\.[A-Z][A-Za-z0-9]+$|^[a-z_]+_test$")  # or the start of a name
       set(found "${tests}")
       list(FILTER found INCLUDE REGEX "^${word}")
     elseif(word MATCHES "^(${any_folder})/" OR
            word MATCHES "^[A-Za-z_*][A-Za-z0-9_/*-]*\\.(h|cpp|cmake|sh|md|json|in)$")
       exists_somewhere(${word} found)
       if(NOT found)
-        get_filename_component(beside ${page} DIRECTORY)
-        file(GLOB found ${beside}/${word})
+        get_filename_component(page_folder ${page} DIRECTORY)
+        file(GLOB found ${page_folder}/${word})
       endif()
     else()
       continue()

@@ -7,13 +7,12 @@ std::string dots(std::size_t count) { return shp_file(plain_icons(count, 1, 1));
 
 void write_icon_names(const std::string& lines) {
   write("C:\\program\\iconlist.csv", lines);
-  begin();
+  restart();
 }
 
 using entry_selection_test = tool_test;
 
-// The name; the number of pictures, the text, and the icons of a double click; how often it is told
-// that the kind is not known.
+// The name, what a click and a double click show, and the number of messages about an unknown kind.
 TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
   open_archive({{" A.ShP ", dots(2)},
                 {"b.shp", dots(3)},
@@ -41,7 +40,7 @@ TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
   }
 }
 
-TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFitsOfAtMost32000) {
+TEST_F(entry_selection_test, AddsTheFirstMatchOf32000Descriptions) {
   write_icon_names(
       "  ABC01 ; first ; second  \r\nno separator\r\nabc01;too late\r\n\tTAB;tab\r\n;nameless\r\n"
       "EMPTY;\r\nE\xC9;accents");
@@ -67,8 +66,8 @@ TEST_F(entry_selection_test, AddsTheFirstDescriptionThatFitsOfAtMost32000) {
   EXPECT_EQ(tool_state.icon_names.back().name, "N32000");
 }
 
-// At most 2 MiB, which is told, and no byte that lies outside the file.
-TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
+// At most 2 MiB, with a message.
+TEST_F(entry_selection_test, ShowsTheBytesOfATextInsideTheFile) {
   constexpr std::int32_t data = 4 + 17 * 8;
   constexpr std::int32_t zeros = data + 40005;
   constexpr std::int32_t end = zeros + (17 << 20);
@@ -82,7 +81,7 @@ TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
                                            {INT32_MAX, "FAR.TXT"},
                                            {INT32_MIN, ""}}) +
                                std::string("a\0b\r\n", 5) + long_text);
-  fs::resize_file(place("C:\\ostrane.dat"), end);
+  fs::resize_file(disk_path("C:\\ostrane.dat"), end);
   open_archive();
   std::replace(long_text.begin(), long_text.end(), '\0', ' ');
   const std::pair<const char*, std::string> cases[] = {
@@ -99,7 +98,7 @@ TEST_F(entry_selection_test, ShowsOfATextWhatTheFileHolds) {
   EXPECT_FALSE(Form3.Visible());
 }
 
-// An offset of 0 is no palette. The sum is that of the 256 built-in colours.
+// An offset of 0 is no palette. The checksum is that of the 256 built-in colours.
 TEST_F(entry_selection_test, ShowsTheBuiltInColoursAsSwatches) {
   open_bytes(index_bytes(2, {{0, "GAME.PAL"}, {38, ""}}) + some_bytes(1024));
   click_row("GAME.PAL");
@@ -115,7 +114,7 @@ TEST_F(entry_selection_test, ShowsTheBuiltInColoursAsSwatches) {
   EXPECT_EQ(sum, 0xDCE76EF8);
 }
 
-TEST_F(entry_selection_test, IconsAndSwatchesLeaveNothingToEachOther) {
+TEST_F(entry_selection_test, IconsAndSwatchesResetTheSlots) {
   std::string colours(1024, '\0');
   colours.replace(68, 4, "\x88\xE4\xE8z");
   open_archive({{"MANY.SHP", dots(301)}, {"GAME.PAL", colours}, {"A.SHP", dots(1)}});

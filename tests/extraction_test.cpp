@@ -8,14 +8,14 @@ namespace {
 
 using extraction_test = tool_test;
 
-const std::string closing = "All files from Ostrane.dat has been extracted into: ";
-const std::string refusal = "\nThese entries were not extracted:";
+const std::string success = "All files from Ostrane.dat has been extracted into: ";
+const std::string skipped = "\nThese entries were not extracted:";
 
-std::string closing_of(const char* numbers) {
+std::string partial_success(const char* numbers) {
   return numbers + std::string(" files from Ostrane.dat has been extracted into: ");
 }
 
-// The last names only look like those that are refused.
+// The last names only resemble refused ones.
 TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   const texts names = {"EMPTY",     "ABCDEFGHI.SHP", " c.txt ", std::string("\0A\0 B.TXT\0\0", 10),
                        "\xC9T\xC9", "..a",           "COM0",    "COM10",
@@ -34,11 +34,11 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), expected);
   EXPECT_EQ(new_messages(),
-            texts{closing + "D:\\\nThese files are hidden on this system:\n>..a<: its "
+            texts{success + "D:\\\nThese files are hidden on this system:\n>..a<: its "
                             "name begins with a dot"});
 }
 
-// Every entry goes over what is there from its first byte on, and cuts nothing off.
+// An entry overwrites a file from its first byte on and does not truncate it.
 TEST_F(extraction_test, WritesOverFilesWithoutEmptyingThem) {
   write("D:\\long.txt", "0123456789");
   write("D:\\EMPTY", "kept");
@@ -48,17 +48,17 @@ TEST_F(extraction_test, WritesOverFilesWithoutEmptyingThem) {
             (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"Twice", "2ndst"}}));
 }
 
-// A size below 0 takes nothing and moves nothing; offsets seek nothing.
-TEST_F(extraction_test, CopesWithOffsetsOutOfOrder) {
+// Only the first offset is a seek; a negative size skips the entry.
+TEST_F(extraction_test, ReadsEntriesInSequenceWhateverTheirOffsets) {
   open_bytes(index_bytes(4, {{72, "A"}, {82, "B"}, {76, "C"}, {81, ""}}) + "0123456789abcdefghij");
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), (file_map{{"A", "0123456789"}, {"C", "abcde"}}));
-  EXPECT_EQ(new_messages(), texts{closing_of("2 of 3") + "D:\\" + refusal +
+  EXPECT_EQ(new_messages(), texts{partial_success("2 of 3") + "D:\\" + skipped +
                                   "\n>B<: the index gives it a size below 0"});
 }
 
-// Offsets of which the sum leaves any file are skipped, and shift nothing behind them.
-TEST_F(extraction_test, SkipsEntriesThatNoFileCanReach) {
+// The sizes add up to more than any file has.
+TEST_F(extraction_test, SkipsEntriesOutsideAnyFile) {
   std::vector<std::pair<std::int32_t, std::string>> records;
   for (int i = 0; i < 10000; ++i) records.push_back({i % 2 == 0 ? 38 : INT32_MAX, "A"});
   open_bytes(index_bytes(10000, records));
@@ -68,27 +68,27 @@ TEST_F(extraction_test, SkipsEntriesThatNoFileCanReach) {
   EXPECT_TRUE(Form4.Visible());
 }
 
-// Names that differ in case mean one file, also if the first of them could not be written.
+// Names that differ in case are one file, also if the first could not be written.
 TEST_F(extraction_test, WritesOneFileForNamesThatDifferInCase) {
   open_archive({{"Abc", "1"}, {"ABC", "22"}, {"abc", "333"}, {"aBC", "4444"}});
   int first_write = INT32_MAX;
   for (const bool fails : {false, true}) {
     open_extract_dialog("D:\\");
-    const failing_calls calls(fails ? first_write : INT32_MAX, {.reason = EIO});
+    const failing_calls recorded(fails ? first_write : INT32_MAX, {.reason = EIO});
     user::click(Form4.Command2);
-    const auto at = std::find(calls.made.begin(), calls.made.end(), "write_some");
-    first_write = static_cast<int>(at - calls.made.begin());
+    const auto at = std::find(recorded.calls.begin(), recorded.calls.end(), "write_some");
+    first_write = static_cast<int>(at - recorded.calls.begin());
     EXPECT_EQ(files_in("D:\\"), (file_map{{fails ? "ABC" : "Abc", "4444"}}));
-    for (const std::string& name : names_in("D:\\")) fs::remove(place("D:\\" + name));
+    for (const std::string& name : names_in("D:\\")) fs::remove(disk_path("D:\\" + name));
   }
 }
 
-// The dialog stays, and not even a folder comes into being.
+// The dialog stays, and no folder is made.
 TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
   const struct {
     const char* folder;
-    std::function<void()> spoil;
-    const char* fault;
+    std::function<void()> prepare;
+    const char* message;
   } cases[] = {
       {"E:\\", [] {}, "The folder E:\\ is not there. Make it or choose another."},
       {"D:\\", [&] { open_archive("C:\\program"); }, "No archive is open. Read one first."},
@@ -104,20 +104,19 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
        "C:\\ostrane.dat has changed since it was read. Read it again."},
   };
   for (const auto& c : cases) {
-    begin();
+    restart();
     open_archive({{"A.TXT", "a"}});
-    c.spoil();
+    c.prepare();
     new_messages();
     extract_into(c.folder);
-    EXPECT_EQ(new_messages(), texts{std::string(c.fault) + " Nothing was extracted."});
+    EXPECT_EQ(new_messages(), texts{std::string(c.message) + " Nothing was extracted."});
     EXPECT_TRUE(Form4.Visible() && !Form3.Visible() && !Form1.Visible());
     EXPECT_EQ(names_in("D:\\"), texts{});
   }
 }
 
-// The first twenty are told. The archive is read straight on: a refused entry must not shift the
-// bytes of those behind it.
-TEST_F(extraction_test, PassesOverEntriesThatMustOrCanNotBeWritten) {
+// Twenty are reported. A skipped entry must not shift the bytes of the next ones.
+TEST_F(extraction_test, SkipsEntriesThatMustNotOrCannotBeWritten) {
   const std::pair<const char*, texts> refused[] = {
       {"it has no name", {""}},
       {"its name means a folder", {".", ".."}},
@@ -130,12 +129,12 @@ TEST_F(extraction_test, PassesOverEntriesThatMustOrCanNotBeWritten) {
   };
   make_folder("D:\\in\\DIR");
   std::vector<entry> entries;
-  std::string told = closing_of("1 of 25") + "D:\\in\\" + refusal;
+  std::string message = partial_success("1 of 25") + "D:\\in\\" + skipped;
   for (const auto& [reason, names] : refused) {
     for (std::string name : names) {
       entries.push_back({name, some_bytes(1000 + entries.size())});
       std::replace(name.begin(), name.end(), '\t', '?');
-      if (entries.size() <= 20) told += "\n>" + name + "<: " + reason;
+      if (entries.size() <= 20) message += "\n>" + name + "<: " + reason;
     }
   }
   entries.push_back({"GOOD", "good"});
@@ -143,19 +142,19 @@ TEST_F(extraction_test, PassesOverEntriesThatMustOrCanNotBeWritten) {
   extract_into("D:\\in");
   EXPECT_EQ(files_in("D:\\in"), (file_map{{"GOOD", "good"}}));
   EXPECT_EQ(names_in("D:\\"), texts{"in"});
-  EXPECT_EQ(new_messages(), texts{told + "\nand 4 more."});
+  EXPECT_EQ(new_messages(), texts{message + "\nand 4 more."});
 }
 
 TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
   const std::vector<entry> entries = {
       {"A.TXT", "a"}, {"OSTRANE.DAT", some_bytes(500)}, {"LINKED", "xyz"}, {"Z.TXT", "z"}};
   open_archive(entries);
-  fs::create_hard_link(place("C:\\ostrane.dat"), place("C:\\linked"));
+  fs::create_hard_link(disk_path("C:\\ostrane.dat"), disk_path("C:\\linked"));
   extract_into("C:\\");
   const std::string bytes = archive_bytes(entries);
   EXPECT_EQ(files_in("C:\\"),
             (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
-  EXPECT_EQ(new_messages(), texts{closing_of("2 of 4") + "C:\\" + refusal +
+  EXPECT_EQ(new_messages(), texts{partial_success("2 of 4") + "C:\\" + skipped +
                                   "\n>OSTRANE.DAT<: it would be written over the open archive"
                                   "\n>LINKED<: it would be written over the open archive"});
 }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <string_view>
 
 #include "files/system_calls.h"
@@ -16,40 +15,42 @@ namespace fs = std::filesystem;
 const files::system_call_table real = files::system_calls;
 failing_calls* current = nullptr;
 
-// What the call returns: its own outcome, or an error in its place. Of an open file that is
-// reported not to be nothing stays open.
+// Records a call and returns its result or the error of the fault. Closes a file whose opening is
+// reported as failed.
 template <typename Call>
-auto made(std::string_view name, const Call& call) {
-  const int number = static_cast<int>(current->made.size());
-  current->made.emplace_back(name);
+auto record(std::string_view name, const Call& call) {
+  const int number = static_cast<int>(current->calls.size());
+  current->calls.emplace_back(name);
   const call_fault& fault = current->fault;
   if (number < current->at || (number > current->at && !fault.lasting)) return call();
+#ifdef SIGKILL  // where processes have signals
   if (fault.kind == call_fault::kills) std::raise(SIGKILL);
   if (fault.kind == call_fault::stops) std::raise(SIGSTOP);
   if (fault.kind == call_fault::stops) return call();
-  using outcome = decltype(call());
-  // Closing and removing are done also where they fail, and a full disk takes a part of a write.
+#endif
+  using result = decltype(call());
+  // A failing close or remove takes effect all the same, and a full disk takes part of a write.
   const bool fails_late = name[0] == 'c' || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {
-    const outcome done = call();
+    const result done = call();
     if (name.starts_with("open") && done >= 0) real.close_file(static_cast<int>(done));
   }
-  return static_cast<outcome>(fault.kind == call_fault::interrupted ? -EINTR : -fault.reason);
+  return static_cast<result>(fault.kind == call_fault::interrupted ? -EINTR : -fault.reason);
 }
 
 struct call_name {
   char text[16] = {};
-  constexpr call_name(const char* name) { std::copy_n(name, std::strlen(name), text); }
+  constexpr call_name(const char* name) { std::copy_n(name, std::string_view(name).size(), text); }
 };
 
 using table = files::system_call_table;
 
 template <call_name Name, auto Member>
 struct counted;
-template <call_name Name, typename Outcome, typename... With, Outcome (*table::*Member)(With...)>
+template <call_name Name, typename Result, typename... Args, Result (*table::*Member)(Args...)>
 struct counted<Name, Member> {
-  static Outcome call(With... with) {
-    return made(Name.text, [&] { return (real.*Member)(with...); });
+  static Result call(Args... args) {
+    return record(Name.text, [&] { return (real.*Member)(args...); });
   }
 };
 
@@ -61,10 +62,10 @@ table counted_calls() {
   all.open_to_write = counted<"open_to_write", &table::open_to_write>::call;
   all.open_new = counted<"open_new", &table::open_new>::call;
   all.read_some = [](int file, std::byte* to, std::size_t count) {
-    return made("read_some", [&] { return real.read_some(file, to, half(count)); });
+    return record("read_some", [&] { return real.read_some(file, to, half(count)); });
   };
   all.write_some = [](int file, const std::byte* from, std::size_t count) {
-    return made("write_some", [&] { return real.write_some(file, from, half(count)); });
+    return record("write_some", [&] { return real.write_some(file, from, half(count)); });
   };
   all.seek_to = counted<"seek_to", &table::seek_to>::call;
   all.set_size = counted<"set_size", &table::set_size>::call;

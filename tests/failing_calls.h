@@ -6,21 +6,20 @@
 
 namespace ostrane {
 
-// What happens at a call.
 struct call_fault {
   enum fault_kind {
-    fails,        // it is not made, and reports `reason`; of a write half is done
-    lies,         // it is made, and reports `reason`
-    interrupted,  // it reports EINTR once, and then is made
-    kills,        // the process ends there
-    stops,        // the process is stopped there, until it is continued
+    fails,        // returns -`reason` without the call; a write writes half first
+    lies,         // returns -`reason` after the call
+    interrupted,  // returns -EINTR once
+    kills,        // kills the process
+    stops,        // stops the process until SIGCONT
   } kind = fails;
-  int reason = 0;        // of errno's numbering
-  bool lasting = false;  // all calls after it fail too
+  int reason = 0;        // an errno
+  bool lasting = false;  // all later calls fail too
 };
 
-// While it lives the tool's calls to the system for files are counted, and one of them goes wrong.
-// A read or a write moves half of what it is asked to.
+// During its lifetime the tool's file calls are recorded, and call `at` fails. Reads and writes
+// move half of the bytes asked for.
 class failing_calls {
  public:
   explicit failing_calls(int at, call_fault with = {.kind = call_fault::kills});
@@ -28,11 +27,11 @@ class failing_calls {
   failing_calls& operator=(const failing_calls&) = delete;
   ~failing_calls();
 
-  bool happened() const { return static_cast<int>(made.size()) > at; }
+  bool happened() const { return static_cast<int>(calls.size()) > at; }
 
-  const int at;  // the number of the call, from 0 on
+  const int at;  // 0-based number of the call
   const call_fault fault;
-  std::vector<std::string> made;
+  std::vector<std::string> calls;
 };
 
 }  // namespace ostrane

@@ -2,7 +2,7 @@
 
 namespace ostrane {
 
-// While it lives one request for memory fails, the one of that number, from 1 on.
+// During its lifetime one allocation fails: number `at`, 1-based.
 struct failing_memory {
   explicit failing_memory(long at);
   failing_memory(const failing_memory&) = delete;

@@ -5,13 +5,13 @@
 #include "files/text_file.h"
 #include "tool_fixture.h"
 
-// Names that tell case apart, links, pipes and devices.
+// Case-sensitive names, links and pipes.
 namespace ostrane {
 namespace {
 
 using files_posix_test = tool_test;
 
-TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
+TEST_F(files_posix_test, PrefersTheExactNameToOtherCases) {
   write("C:\\Mixed\\Name.TXT", "upper");
   write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
   files::text_reader reader(files::to_file_path("c:\\mIXED\\name.txt"));
@@ -24,18 +24,18 @@ TEST_F(files_posix_test, FindsTheExactNameFirstAndElseOneOfOtherCase) {
   EXPECT_FALSE(files::file_exists("C:\\Mixed"));
 }
 
-TEST_F(files_posix_test, ListsNormalFilesByTheirUpperCaseForm) {
+TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
   for (const char* name : {"b.TXT", "a.txt", "_x", "C", ".hidden", "\xC3\xA9", "Z", "\xCE\xA9"}) {
     write(std::string("D:\\") + name, "");
   }
   make_folder("D:\\folder");
-  ASSERT_EQ(mkfifo(place("D:\\pipe").c_str(), 0600), 0);
-  fs::create_symlink("a.txt", place("D:\\link"));
+  ASSERT_EQ(mkfifo(disk_path("D:\\pipe").c_str(), 0600), 0);
+  fs::create_symlink("a.txt", disk_path("D:\\link"));
   EXPECT_EQ(files::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
   EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
 }
 
-TEST_F(files_posix_test, TheLastDriveIsTheRootOfTheFileSystem) {
+TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {
   files::set_drives({}, "C:\\");
   user::click(Form1.mnu_make);
   user::choose(Form5.Drive1, static_cast<std::int32_t>(Form5.Drive1.rows().size()) - 1);

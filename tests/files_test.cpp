@@ -10,7 +10,7 @@ namespace {
 
 using files_test = tool_test;
 
-TEST_F(files_test, WorksPathsOut) {
+TEST_F(files_test, ResolvesPaths) {
   const char* const cases[][3] = {{"C:\\work", "a.txt", "C:\\work\\a.txt"},
                                   {"C:\\work", "\\a\\b", "C:\\a\\b"},
                                   {"C:\\work", "", "C:\\work"},
@@ -23,14 +23,14 @@ TEST_F(files_test, WorksPathsOut) {
                                   {"C:\\work", "d:\\a\\.\\b\\..\\\\c\\", "D:\\a\\c"},
                                   {"D:\\", "\\", "D:\\"},
                                   {"D:\\", "C:x/y", "C:\\x\\y"}};
-  for (const auto& [current, path, whole] : cases) {
-    begin(current);
-    EXPECT_EQ(files::full_path(path), whole) << path;
+  for (const auto& [current, path, full] : cases) {
+    restart(current);
+    EXPECT_EQ(files::full_path(path), full) << path;
   }
   EXPECT_THROW(files::system_path("Q:\\x"), files::file_error);
 }
 
-TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
+TEST_F(files_test, MatchesPatternsIgnoringCase) {
   const std::tuple<const char*, const char*, bool> cases[] = {
       {"OSTRANE.DAT", "ostrane.dat", true},
       {"a.TXT", "*.txt", true},
@@ -45,11 +45,11 @@ TEST_F(files_test, MatchesPatternsWithoutRegardToCase) {
   }
 }
 
-TEST_F(files_test, EndsLinesAtEveryKindOfLineEnd) {
-  const std::string to_the_edge(65535, 'x');
+TEST_F(files_test, ReadsLinesWithAnyLineEnd) {
+  const std::string full_line(65535, 'x');
   const std::pair<std::string, texts> cases[] = {{"", {}},
                                                  {"a\n\nb\rc\r\n\r\n", {"a", "", "b", "c", ""}},
-                                                 {to_the_edge + "\r\nnext", {to_the_edge, "next"}}};
+                                                 {full_line + "\r\nnext", {full_line, "next"}}};
   for (const auto& [bytes, lines] : cases) {
     write("C:\\lines.txt", bytes);
     files::text_reader reader(files::to_file_path("C:\\lines.txt"));

@@ -8,8 +8,8 @@ namespace {
 
 using files_windows_test = tool_test;
 
-// Neither devices, whatever folder they are named in, nor hidden parts of files, nor other drives.
-TEST_F(files_windows_test, OpensNormalFilesAlone) {
+// No devices in any folder, no alternate data streams, no other drives.
+TEST_F(files_windows_test, OpensNormalFilesOnly) {
   write("C:\\a.txt", "a");
   for (const char* name : {"NUL", "con", "COM1", "Com1.txt", "program", "a.txt:part", "D:x"}) {
     const std::string path = std::string("C:\\") + name;

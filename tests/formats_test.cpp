@@ -6,9 +6,9 @@
 namespace ostrane {
 namespace {
 
-// Shows that docs/formats.md tells the truth: its examples go through the tool.
+// Runs the examples of docs/formats.md through the tool.
 struct formats_test : tool_test {
-  // The lines of the block that begins with ``` and the word.
+  // The lines of the block that starts with ``` and `word`.
   static texts block(const std::string& word) {
     std::ifstream page(FORMATS_PAGE);
     texts lines;
@@ -24,7 +24,7 @@ struct formats_test : tool_test {
     return text;
   }
 
-  // A row is an offset, the bytes behind it, and behind three blanks what they mean.
+  // A row is an offset, bytes in hex, and after three blanks a comment.
   static std::string example_archive() {
     std::string bytes;
     for (const std::string& row : block("hex")) {
@@ -38,11 +38,11 @@ struct formats_test : tool_test {
   }
 };
 
-TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
+TEST_F(formats_test, TheArchiveExampleIsShownAndBuiltAsDocumented) {
   const std::string archive = example_archive();
   ASSERT_EQ(archive.size(), 141U);
   write("C:\\program\\iconlist.csv", text_file("iconlist"));
-  begin();
+  restart();
   open_bytes(archive);
 
   click_row("A.SHP");
@@ -68,9 +68,9 @@ TEST_F(formats_test, TheExampleOfAnArchiveIsReadShownAndBuiltAsThePageSays) {
   EXPECT_EQ(read("D:\\out\\OSTRANE.DAT"), archive);
 }
 
-TEST_F(formats_test, TheExamplesOfListsAreWrittenAndComparedAsThePageSays) {
+TEST_F(formats_test, TheListExamplesAreWrittenAndComparedAsDocumented) {
   write("D:\\lists\\shplist.txt", std::string(500, 'x'));
-  begin("D:\\lists");
+  restart("D:\\lists");
   open_bytes(example_archive());
   user::click(Form1.mnu_save);
   EXPECT_EQ(read("D:\\lists\\shplist.txt"), text_file("saved"));

@@ -7,9 +7,9 @@ namespace {
 
 using forms_layer_test = tool_test;
 
-// What arrives while a handler runs, or while a message box stands in it, must not run inside it,
-// and an error that leaves a handler is told and keeps nothing from running.
-TEST_F(forms_layer_test, EventsComeOneAtATime) {
+// Events that arrive during a handler or its message box run after it. An error that leaves a
+// handler is shown and stops nothing else.
+TEST_F(forms_layer_test, HandlersRunOneAtATime) {
   std::string order;
   Form1.Command5.Click = [&] {
     order += "(";
@@ -36,7 +36,7 @@ TEST_F(forms_layer_test, EventsComeOneAtATime) {
   EXPECT_EQ(order, "(wait)t6gone6gone6gone");
 }
 
-TEST_F(forms_layer_test, WhatIsDisabledOrHiddenTakesNoInput) {
+TEST_F(forms_layer_test, DisabledAndHiddenControlsIgnoreInput) {
   int clicks = 0;
   Form1.Command6.Click = [&] { ++clicks; };
   const auto click_without = [](auto& property) {

@@ -8,10 +8,9 @@
 
 namespace ostrane {
 
-// The bytes of an icon's stream from numbers.
 inline std::string stream(std::initializer_list<int> bytes) { return {bytes.begin(), bytes.end()}; }
 
-// An icon of that size in one colour, its data box all of the picture.
+// An icon in one colour.
 inline shp_icon plain_icon(int columns, int rows, std::uint8_t index) {
   picture drawn(columns, rows);
   for (int cell = 0; cell < columns * rows; ++cell)
@@ -39,7 +38,7 @@ inline shp_icon refused_icon(int columns, int rows) {
   return icon;
 }
 
-// A palette in which the blue of a colour tells its index.
+// A palette in which the blue of a colour is its index.
 inline entry palette_entry() {
   std::string colours(1024, '\0');
   for (std::size_t i = 0; i < 256; ++i) colours[4 * i] = static_cast<char>(i);
@@ -47,7 +46,7 @@ inline entry palette_entry() {
 }
 
 struct icon_test : tool_test {
-  // Opens an archive with the icon files and shows the first one, in colours that tell their index.
+  // Opens an archive with the icon files and shows the first one.
   static void show(const std::vector<std::vector<shp_icon>>& files) {
     std::vector<entry> entries = {palette_entry(), {"N.TXT", "note"}};
     for (const auto& file : files) {
@@ -60,14 +59,14 @@ struct icon_test : tool_test {
 
   static forms_layer::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }
 
-  // The palette index of a cell of a slot, or a dot where nothing is painted.
+  // The palette index of a pixel of a slot, or "." if it is unset.
   static std::string cell(std::int32_t index, std::int32_t column, std::int32_t row) {
-    const forms_layer::colour there = slot(index).pixel(column, row);
-    if (there == forms_layer::picture_box::unset) return ".";
-    return std::to_string(forms_layer::blue_of(there));
+    const forms_layer::colour colour = slot(index).pixel(column, row);
+    if (colour == forms_layer::picture_box::unset) return ".";
+    return std::to_string(forms_layer::blue_of(colour));
   }
 
-  // The number of icons, those of the series, and the slots on show with their first cells.
+  // The number of icons, those of the series, and the visible slots with their first pixels.
   static std::string view() {
     std::string text = Form1.Text2.Text() + ":" + Form1.Text3.Text() + ":";
     for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
@@ -76,8 +75,8 @@ struct icon_test : tool_test {
     return text;
   }
 
-  // Where the slots on show stand.
-  static std::string places() {
+  // The positions of the visible slots.
+  static std::string positions() {
     std::string text;
     for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
       if (!slot(i).Visible()) continue;

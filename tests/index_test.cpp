@@ -7,7 +7,7 @@ const std::string palette(1024, '\1');
 
 using index_test = tool_test;
 
-// What the main window shows of an index, and where it can go from there.
+// The number of entries, the state of the three menus, and the rows.
 std::string shown() {
   EXPECT_TRUE(Form1.Enabled() && !Form2.Visible());
   std::string text = Form1.Text1.Text();
@@ -20,7 +20,7 @@ std::string shown() {
   return text;
 }
 
-TEST_F(index_test, ListsEveryRecordWithItsEndRecord) {
+TEST_F(index_test, ListsEveryRecordAndTheEndRecord) {
   const std::vector<std::pair<std::int32_t, std::string>> many(32768, {0, ""});
   const std::pair<std::string, std::string> cases[] = {
       {archive_bytes({{"A.SHP", "a"}, {"b.txt", "12"}, {"ABCDEFGHI.SHP", ""}}),
@@ -31,7 +31,7 @@ TEST_F(index_test, ListsEveryRecordWithItsEndRecord) {
       {index_bytes(32768, many), "32767+++" + std::string(32768, ' ')},
   };
   for (const auto& [bytes, rows] : cases) {
-    begin();
+    restart();
     write("C:\\OsTrane.DAT", bytes);
     open_archive();
     EXPECT_EQ(shown(), rows);
@@ -40,8 +40,8 @@ TEST_F(index_test, ListsEveryRecordWithItsEndRecord) {
   }
 }
 
-// A damaged index gives one message that names the file and its fault; nothing of it is kept.
-TEST_F(index_test, RefusesADamagedIndexWhole) {
+// One message reports the file and the fault.
+TEST_F(index_test, KeepsNothingOfADamagedIndex) {
   const std::string no_count = "it ends within the number of its records.";
   const std::string range = " as the number of its records, which is from 0 to 32768.";
   const std::string no_record = "it ends before the last of its 2 records.";
@@ -56,7 +56,7 @@ TEST_F(index_test, RefusesADamagedIndexWhole) {
       {index_bytes(2, {{38, "A.TXT"}, {38, ""}}).substr(0, 37), no_record},
   };
   for (const auto& [bytes, fault] : cases) {
-    begin();
+    restart();
     open_archive({{"OLD.TXT", "text"}});
     write("C:\\bad\\ostrane.dat", bytes);
     open_archive("C:\\bad");
@@ -73,8 +73,8 @@ TEST_F(index_test, AMissingArchiveLeavesTheOpenOne) {
   EXPECT_EQ(shown(), "2+++");
 }
 
-// An archive that was written to is not looked into with the old index. Reading it again helps.
-TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
+// The old index does not fit a changed archive. Reading it again helps.
+TEST_F(index_test, RefusesToReadAChangedArchive) {
   const std::string icons = shp_file(plain_icons(3, 400, 400));
   open_archive({{"A.SHP", icons}, {"N.TXT", "note"}});
   const std::string bytes = archive_bytes({{"A.SHP", icons}, {"N.TXT", "tone"}});
@@ -90,15 +90,14 @@ TEST_F(index_test, LooksIntoNoArchiveThatHasChanged) {
   EXPECT_EQ(Form1.Text6.Text(), "tone");
 }
 
-// It goes on after the same archive was read again, and ends with another one or none.
-TEST_F(index_test, NextSeriesIsOneOfTheOpenArchive) {
+TEST_F(index_test, TheNextSeriesNeedsTheSameArchive) {
   const std::vector<entry> entries = {{"A.SHP", shp_file(plain_icons(9, 300, 300))}};
   write("C:\\other\\ostrane.dat", archive_bytes(entries));
   for (const auto& [folders, next] : {std::pair{texts{"C:\\"}, true},
                                       {{"C:\\program", "C:\\"}, true},
                                       {{"C:\\other"}, false},
                                       {{"C:\\program"}, false}}) {
-    begin();
+    restart();
     open_archive(entries);
     click_row("A.SHP");
     const std::string first = Form1.Text3.Text();
@@ -111,13 +110,13 @@ TEST_F(index_test, NextSeriesIsOneOfTheOpenArchive) {
   EXPECT_EQ(new_messages(), texts{"No archive is open. Read one first. Nothing was compared."});
 }
 
-// From the last record that names one, as far as the file holds it. Without a palette of its own an
-// archive is read at the place where the last one had it.
-TEST_F(index_test, TakesThePaletteThatTheArchiveHolds) {
+// From the last record that names one, and only colours inside the file. An archive without a
+// palette is read at the offset of the previous one.
+TEST_F(index_test, ReadsThePaletteOfTheArchive) {
   const std::string second = std::string(36, '\2') + "\x10\x20\x30\xEE" + std::string(984, '\2');
   const std::string twice =
       archive_bytes({{"GAME.PAL", palette}, {"  game.pal ", second}, {"X.PAL", palette}});
-  const auto placed = [](std::int32_t offset) {
+  const auto at = [](std::int32_t offset) {
     return index_bytes(2, {{offset, "GAME.PAL"}, {38, ""}}) + palette;
   };
   const std::string cut = archive_bytes({{"GAME.PAL", std::string(4 * 2 + 3, '\x7F')}});
@@ -128,13 +127,12 @@ TEST_F(index_test, TakesThePaletteThatTheArchiveHolds) {
     std::size_t index;
     forms_layer::colour colour;
   } cases[] = {
-      {own, twice, 7, 0x020202U},     {own, twice, 9, 0x102030U},
-      {"", placed(-5), 1, 0xF0F0F0U}, {"", placed(INT32_MAX), 1, 0xF0F0F0U},
-      {"", cut, 1, 0x7F7F7FU},        {"", cut, 2, 0xE0E0E0U},
+      {own, twice, 7, 0x020202U},        {own, twice, 9, 0x102030U}, {"", at(-5), 1, 0xF0F0F0U},
+      {"", at(INT32_MAX), 1, 0xF0F0F0U}, {"", cut, 1, 0x7F7F7FU},    {"", cut, 2, 0xE0E0E0U},
       {own, none, 0, 0x050505U},
   };
   for (const auto& c : cases) {
-    begin();
+    restart();
     if (!c.before.empty()) open_bytes(c.before);
     open_bytes(c.archive);
     EXPECT_EQ(tool_state.colour_table[c.index], c.colour) << &c - cases;

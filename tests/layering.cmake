@@ -1,5 +1,5 @@
-# Fails if a file of FOLDER includes what its folder must not. A folder may include itself and those
-# in its list; none of them leads back to it.
+# Fails if a file in FOLDER includes a folder that its own must not. A folder may include itself and
+# those in its list; the lists have no cycle.
 cmake_minimum_required(VERSION 3.22)
 file(GLOB_RECURSE sources RELATIVE ${FOLDER} ${FOLDER}/*.h ${FOLDER}/*.cpp)
 if(NOT sources)
@@ -17,8 +17,10 @@ set(palette ${icons} icons)
 set(archive ${palette} palette)
 set(lists ${progress} progress)
 set(handlers ${archive} archive lists)
-# Of the tool's side the screen knows the start-up and the version alone.
+# Of the tool itself the screen includes only the start-up and the version.
 set(desktop files forms_layer handlers)
+# The program for scripts is made of the data side alone.
+set(command files data)
 set(version "state/version.h")
 
 foreach(source IN LISTS sources)
@@ -29,7 +31,7 @@ foreach(source IN LISTS sources)
   string(JOIN "|" allowed ${folder} ${${folder}})
   file(STRINGS ${FOLDER}/${source} includes REGEX "^[ \t]*#[ \t]*include[ \t]")
   foreach(include IN LISTS includes)
-    if(folder STREQUAL "desktop" AND include MATCHES "<|\"${version}\"")
+    if(folder MATCHES "^(desktop|command)$" AND include MATCHES "<|\"${version}\"")
       continue()
     endif()
     if(NOT include MATCHES "[ \t](\"(${allowed})/|<[a-z])" OR include MATCHES "<qt")

@@ -6,9 +6,9 @@ namespace ostrane {
 namespace {
 
 struct motion_test : icon_test {
-  // The number on show, where the slots stand, and what the buttons and the timer are ready for.
+  // Text3, the positions of the visible slots, the timer and the buttons.
   static std::string state() {
-    std::string text = Form1.Text3.Text() + ":" + places();
+    std::string text = Form1.Text3.Text() + ":" + positions();
     if (Form1.Timer1.Enabled()) text += " moving";
     if (Form1.Command3.Enabled()) text += " back";
     if (Form1.Command4.Enabled()) text += " on";
@@ -16,60 +16,60 @@ struct motion_test : icon_test {
   }
 
   struct step {
-    const char* does;  // a letter an action
+    const char* actions;  // one letter each
     std::string state;
   };
-  static void follow(std::initializer_list<step> steps) {
+  static void run_steps(std::initializer_list<step> steps) {
     std::string done;
     for (const step& s : steps) {
-      for (const char* action = s.does; *action != '\0'; ++action) {
+      for (const char* action = s.actions; *action != '\0'; ++action) {
         if (*action == 'm') user::click(Form1.Command5);
         if (*action == 't') user::tick(Form1.Timer1);
         if (*action == '<') user::click(Form1.Command3);
         if (*action == '>') user::click(Form1.Command4);
         if (*action == 'n') user::click(Form1.Command6);
       }
-      done += s.does;
+      done += s.actions;
       EXPECT_EQ(state(), s.state) << done;
     }
   }
 };
 
-TEST_F(motion_test, ShowsOneSlotAfterTheOtherAndStepsThroughTheStack) {
+TEST_F(motion_test, ShowsTheSlotsInTurnAndStepsThroughThem) {
   show({plain_icons(3, 1, 1)});
-  for (const auto& [pace, milliseconds] : {std::pair{"-3", 100}, {".1", 1}, {"99", 990}}) {
-    user::type(Form1.Text4, pace);
+  for (const auto& [typed, milliseconds] : {std::pair{"-3", 100}, {".1", 1}, {"99", 990}}) {
+    user::type(Form1.Text4, typed);
     user::click(Form1.Command5);
     EXPECT_EQ(Form1.Timer1.Interval(), milliseconds);
   }
   show({plain_icons(3, 1, 1)});
   Form1.Command4.Enabled = true;
-  follow({{">", " 1 -  3: 200,800 260,800 320,800 on"},
-          {"m", " 1 -  3: moving"},
-          {"t", " 1: 200,800 moving"},
-          {"tt", " 3: 200,800 moving"},
-          {"t", " 3: 200,800 back on"},
-          {">", " 3: 200,800 back on"},
-          {"<", "2: 200,800 back on"},
-          {"<<", "1: 200,800 back on"},
-          {">", "2: 200,800 back on"}});
+  run_steps({{">", " 1 -  3: 200,800 260,800 320,800 on"},
+             {"m", " 1 -  3: moving"},
+             {"t", " 1: 200,800 moving"},
+             {"tt", " 3: 200,800 moving"},
+             {"t", " 3: 200,800 back on"},
+             {">", " 3: 200,800 back on"},
+             {"<", "2: 200,800 back on"},
+             {"<<", "1: 200,800 back on"},
+             {">", "2: 200,800 back on"}});
   EXPECT_EQ(view(), "3:2: 2=1");
-  follow({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});
+  run_steps({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});
 }
 
-TEST_F(motion_test, LeavesTheLastSlotOutOfASeriesThatStoppedShort) {
+TEST_F(motion_test, OmitsTheLastSlotIfIconsRemain) {
   user::type(Form1.Text5, "3");
   show({plain_icons(9, 1, 1)});
-  follow({{"nm", " 4 -  6: 320,800 moving"},
-          {"t", " 4: 200,800 320,800 moving"},
-          {"tt", " 5: 200,800 320,800 back on"},
-          {">", "6: 320,800 back on"},
-          {"n", " 7 -  9: 200,800 260,800 320,800"}});
+  run_steps({{"nm", " 4 -  6: 320,800 moving"},
+             {"t", " 4: 200,800 320,800 moving"},
+             {"tt", " 5: 200,800 320,800 back on"},
+             {">", "6: 320,800 back on"},
+             {"n", " 7 -  9: 200,800 260,800 320,800"}});
 }
 
-// A running motion must not step through the next series. A motion without slots ends at its first
-// tick, and the buttons cannot step through slots of an earlier series.
-TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
+// Neither a motion nor the buttons step through slots of another series. A motion without slots
+// ends at its first tick.
+TEST_F(motion_test, EndsWithItsSeries) {
   const std::string nine = shp_file(plain_icons(9, 1, 1));
   open_archive({{"A.SHP", nine}, {"B.SHP", with_number(nine, 4, -5)}});
   const std::pair<const char*, std::string> cases[] = {{"A.SHP", " 1 -  1: 200,800"},
@@ -77,16 +77,16 @@ TEST_F(motion_test, EndsWithTheSeriesThatItRunsOn) {
   for (const auto& [row, grid] : cases) {
     user::type(Form1.Text5, "9");
     click_row("A.SHP");
-    follow({{"mttttt", " 5: 200,800 moving"}});
+    run_steps({{"mttttt", " 5: 200,800 moving"}});
     user::type(Form1.Text5, "1");
     click_row(row);
-    follow({{"t", grid}, {"m", grid + " moving"}, {"t<>", grid + " back on"}});
+    run_steps({{"t", grid}, {"m", grid + " moving"}, {"t<>", grid + " back on"}});
   }
 }
 
 using report_test = icon_test;
 
-TEST_F(report_test, TellsTheNumbersOfAnIconOnShow) {
+TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
   std::vector<shp_icon> icons = {plain_icon(1, 1, 1), blank_icon(2, 2), plain_icon(1, 1, 1),
                                  refused_icon(1, 1)};
   icons[2].head = {9, 63, -2, 3, 40, 8};
@@ -95,13 +95,13 @@ TEST_F(report_test, TellsTheNumbersOfAnIconOnShow) {
   user::type(Form1.Text5, "9");
   user::click(Form1.Command6);
   const auto reports = [] {
-    texts told;
+    texts shown;
     for (const std::int32_t slot : {0, 1, 2, 3, 12}) {
       user::double_click(Form1.s16_image, slot);
-      if (Form3.Visible()) told.push_back(Form3.Caption() + Form3.message.Caption());
+      if (Form3.Visible()) shown.push_back(Form3.Caption() + Form3.message.Caption());
       user::click(Form3.message);
     }
-    return told;
+    return shown;
   };
   const auto report = [](const std::string& slot, const std::array<const char*, 8>& numbers) {
     const char* const labels[] = {

@@ -5,26 +5,26 @@ namespace {
 
 using progress_test = tool_test;
 
-// The progress window goes before the closing message. A build gives the main window back before
-// it, an extraction behind it.
-TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
+// The progress window hides before the final message. The main window is shown before the message
+// of a build and after that of an extraction.
+TEST_F(progress_test, ShowsEachFileThenTheMainWindow) {
   recording_screen screen;
   for (const char* folder : {"C:\\", "C:\\program\\"}) write(folder + std::string("A b.txt"), "a");
-  begin("C:\\program");
+  restart("C:\\program");
   const std::string building = "dialog progress bars Ostrane.dat tool - Make new Ostrane.dat|";
   const std::string offsets = "Calculation internal offsets for the files in Ostrane.dat";
   user::click(Form1.mnu_make);
-  user::click(Form5.Command1);  // fields without a folder mean the root of the current drive
+  user::click(Form5.Command1);  // an empty Text1 means the root of the current drive
   const std::string file = "Current File : \\A b.txt\r\nCurrent File Number:  0\r\n";
   const std::string made = "main Your new Ostrane.dat has been created and saved in:\\ostrane.dat";
-  EXPECT_EQ(screen.told, (texts{building, building + offsets, building + offsets,
-                                building + file + "Total Number of Files:  1", made}));
+  EXPECT_EQ(screen.log, (texts{building, building + offsets, building + offsets,
+                               building + file + "Total Number of Files:  1", made}));
   open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
-  screen.told.clear();
+  screen.log.clear();
   extract_into("");
   const std::string extracting = "dialog progress bars Ostrane.dat tool - File Extraction|";
   const std::string of_2 = "\r\nTotal number of files:  2";
-  EXPECT_EQ(screen.told,
+  EXPECT_EQ(screen.log,
             (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1" + of_2,
                    extracting + "Extracting file: \\B C\r\nFile number:      2" + of_2,
                    "dialog All files from Ostrane.dat has been extracted into: \\"}));
@@ -32,9 +32,9 @@ TEST_F(progress_test, TellsEachFileAndGivesTheMainWindowBack) {
   EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }
 
-// The number of files and the size of each; then the Max of both bars and their moves, in building
-// and in extracting what was built.
-TEST_F(progress_test, BarsMoveAtTheirPaces) {
+// The number of files and their size; then the Max of both bars and their moves, for a build and
+// for the extraction of its archive.
+TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
   const std::tuple<std::size_t, std::size_t, const char*, const char*> cases[] = {
       {0, 0, "1 100", "0 100"},
       {48, 1, "49 1", "47 1"},
@@ -52,17 +52,17 @@ TEST_F(progress_test, BarsMoveAtTheirPaces) {
     std::string all = std::to_string(std::lround(ends[0])) + " ";
     all += std::to_string(std::lround(ends[1])) + screen.moves;
     EXPECT_TRUE(Form3.ProgressBar1.filled() >= 0 && Form3.ProgressBar2.filled() <= 1);
-    screen.begin_bars();
+    screen.reset_bars();
     return all;
   };
   for (const auto& [files, size, built, extracted] : cases) {
-    fs::remove_all(place("C:\\work"));
+    fs::remove_all(disk_path("C:\\work"));
     make_folder("C:\\work");
     for (std::size_t i = 0; i < files; ++i) {
       write("C:\\work\\" + std::to_string(i), std::string(size, 'x'));
     }
-    begin();
-    screen.begin_bars();
+    restart();
+    screen.reset_bars();
     build_in();
     EXPECT_EQ(bars(), built);
     open_archive("C:\\work");

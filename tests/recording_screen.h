@@ -7,31 +7,31 @@
 
 namespace ostrane {
 
-// A screen that paints nothing and keeps what it was told of a job, while it lives.
+// A screen that paints nothing and records what a job shows.
 class recording_screen : public forms_layer::screen {
  public:
   recording_screen() { forms_layer::attach_screen(this); }
   ~recording_screen() override { forms_layer::attach_screen(nullptr); }
 
-  // A text per Refresh of Form3 and per message box, with the windows on show; the fields Text2 and
-  // Text3 per Refresh of Form1; the name of a form that takes the focus.
-  texts told;
-  std::string moves;  // of the bars, each to a value
-  std::function<void()> at_refresh = [] {};
+  // Per Refresh of Form3 and per message box: the visible windows and the text. Per Refresh of
+  // Form1: Text2 and Text3. Per focus change: the name of the form.
+  texts log;
+  std::string moves;  // of the bars: " bar:value" each
+  std::function<void()> on_refresh = [] {};
 
-  // The bars stand at a value that no job gives them.
-  void begin_bars() {
+  // Sets the bars to a value that no job uses.
+  void reset_bars() {
     for (auto* bar : {&Form3.ProgressBar1, &Form3.ProgressBar2}) bar->Value = -1;
     moves.clear();
   }
 
   void refresh(forms_layer::form& shown) override {
-    if (&shown == &Form1) told.push_back(Form1.Text2.Text() + ":" + Form1.Text3.Text());
+    if (&shown == &Form1) log.push_back(Form1.Text2.Text() + ":" + Form1.Text3.Text());
     if (&shown != &Form3) return;
-    told.push_back(on_show() + Form3.Caption() + "|" + Form3.message.Caption());
-    at_refresh();
+    log.push_back(visible_windows() + Form3.Caption() + "|" + Form3.message.Caption());
+    on_refresh();
   }
-  // A change of the range alone leaves the value as it was told last.
+  // A change of the range alone is no move.
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
     if (what != forms_layer::property_id::range) return;
     for (const int number : {1, 2}) {
@@ -42,11 +42,11 @@ class recording_screen : public forms_layer::screen {
     }
   }
   void message_box(const std::string&, const std::string& text) override {
-    told.push_back(on_show() + text);
+    log.push_back(visible_windows() + text);
   }
 
   void form_changed(forms_layer::form& changed, forms_layer::property_id what) override {
-    if (what == forms_layer::property_id::focus) told.push_back(changed.designed.name);
+    if (what == forms_layer::property_id::focus) log.push_back(changed.designed.name);
   }
   void menu_changed(forms_layer::form&, forms_layer::menu_item&) override {}
   void timer_changed(forms_layer::timer&) override {}
@@ -54,7 +54,7 @@ class recording_screen : public forms_layer::screen {
   void end_process() override {}
 
  private:
-  static std::string on_show() {
+  static std::string visible_windows() {
     std::string windows = Form1.Visible() ? "main " : "";
     if (Form4.Visible() || Form5.Visible()) windows += "dialog ";
     if (Form3.Visible()) windows += "progress ";

@@ -18,8 +18,8 @@ struct series_test : icon_test {
   }
 };
 
-// The next series begins behind the last icon on show and may have none of its own.
-TEST_F(series_test, ShowsSeriesBehindSeries) {
+// The next series starts after the last icon shown and may be empty.
+TEST_F(series_test, ShowsSeriesAfterSeries) {
   const std::vector<shp_icon> seven = plain_icons(7, 1, 1);
   const shp_icon refused = refused_icon(3, 4);
   const std::string first_of_7 = "7: 1 -  1: 1=0";
@@ -45,8 +45,7 @@ TEST_F(series_test, ShowsSeriesBehindSeries) {
   EXPECT_EQ(slot(1).columns(), 1);
 }
 
-// The working message comes before the first icon, and each icon's number is on the screen in turn.
-TEST_F(series_test, ShowsTheWorkingMessageAndTheNumberOfEachIcon) {
+TEST_F(series_test, ShowsTheWorkingMessageAndCountsIcons) {
   recording_screen screen;
   type_max_icons("2");
   show({plain_icons(3, 1, 1)});
@@ -58,12 +57,12 @@ TEST_F(series_test, ShowsTheWorkingMessageAndTheNumberOfEachIcon) {
       "little dots that takes most of the time... \rReading and unpacking the shp-file takes less "
       "than a 25%, the rest is Visual Basic overhead...";
   const std::string drawing = "main progress " + working;
-  EXPECT_EQ(screen.told, (texts{":", drawing, "1:", "2:", "3: 1 -  2", ":", drawing,
-                                "3:", "main " + working, "3: 3 -  3"}));
+  EXPECT_EQ(screen.log, (texts{":", drawing, "1:", "2:", "3: 1 -  2", ":", drawing,
+                               "3:", "main " + working, "3: 3 -  3"}));
 }
 
-// A slot has a border of one pixel each way; a pixel is 15 twips. A row is as high as its tallest
-// slot. A sum that meets the frame's size does not fit.
+// A slot has a border of one pixel on each side; a pixel is 15 twips. A row is as high as its
+// tallest slot. A slot that reaches the edge of the frame does not fit.
 TEST_F(series_test, PlacesTheSlots) {
   const std::vector<shp_icon> tens = plain_icons(9, 10, 10);
   constexpr std::int32_t two_columns = 200 + 2 * (180 + 15);
@@ -79,11 +78,11 @@ TEST_F(series_test, PlacesTheSlots) {
   for (const auto& [width, height, icons, seen] : cases) {  // of the frame
     user::resize(Form1, width + 2100 - 225, height + 825 - 705);
     show({icons});
-    EXPECT_EQ(places(), seen);
+    EXPECT_EQ(positions(), seen);
   }
 }
 
-// By the four comparisons of its head, and by the size that a slot can have.
+// By the four comparisons of the head, and by the limit of slot sizes.
 TEST_F(series_test, RefusesIcons) {
   const icon_head good[] = {{4, 5, 5, 4, 5, 4},      {4, 5, 6, 0, 9, 0},     {4, 5, 0, 5, 0, 9},
                             {4, 5, 3, 3, 0, 0},      {4, 5, -9, -9, -1, -1}, {2181, 0, 0, 0, 0, 0},
@@ -101,16 +100,16 @@ TEST_F(series_test, RefusesIcons) {
     show({{{head, ""}, plain_icon(1, 1, 9)}});
     EXPECT_EQ(view(), "2: 1 -  2: 2=9");
   }
-  const texts told = new_messages();
-  EXPECT_EQ(told.size(), std::size(refused));
-  EXPECT_EQ(told.back(),
+  const texts messages = new_messages();
+  EXPECT_EQ(messages.size(), std::size(refused));
+  EXPECT_EQ(messages.back(),
             "Something is rotten in the state of Denmark - fileformat has errors, icon "
             "is not displayed. \nNo-of-rows =  7\nRow-start = -4\nRow-end =  8\n"
             "No-of-cols =  6\nCol-start =  5\nCol-end =  3");
 }
 
-// Bad addresses and counts: the archive, the number in the message if there is one, and the view.
-TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
+// The archive, the number in the message or "", and the view.
+TEST_F(series_test, AnIconOutsideTheFileEndsTheSeries) {
   const std::string three = shp_file(plain_icons(3, 1, 1));
   const auto at = [](std::int32_t offset) {
     return index_bytes(2, {{offset, " A.SHP"}, {38, ""}});
@@ -141,28 +140,27 @@ TEST_F(series_test, WhatIsNotInTheFileEndsTheSeries) {
   for (const auto& [archive, number, seen] : cases) {
     open_bytes(archive);
     click_row(" A.SHP");
-    const texts told = number.empty() ? texts{} : texts{invalid_address(number)};
-    EXPECT_EQ(new_messages(), told);
+    const texts messages = number.empty() ? texts{} : texts{invalid_address(number)};
+    EXPECT_EQ(new_messages(), messages);
     EXPECT_EQ(view(), seen);
     user::click(Form1.Command6);
-    EXPECT_EQ(new_messages(), seen.front() > '0' ? told : texts{});  // with icons left to show
+    EXPECT_EQ(new_messages(), seen.front() > '0' ? messages : texts{});  // if icons remain
     EXPECT_EQ(view(), seen == one_of_3 ? "3: 2 -  0:" : seen);
   }
 }
 
-TEST_F(series_test, ShowsNoMoreThan5000IconsAndNoneOfAnArchiveThatIsGone) {
+TEST_F(series_test, ShowsAtMost5000IconsAndNoneOfAMissingArchive) {
   show({plain_icons(5001, 1, 1)});
   EXPECT_EQ(new_messages(), texts{"The file: F1.SHP says that it holds 5001 pictures. Only the "
                                   "first 5000 are displayed."});
   EXPECT_EQ(Form1.Text2.Text(), "5000");
-  fs::remove(place("C:\\ostrane.dat"));
+  fs::remove(disk_path("C:\\ostrane.dat"));
   click_row("F1.SHP");
   EXPECT_EQ(view(), "0: 1 -  0:");
 }
 
-// After a click on an entry of another kind the next series is that of the icons still in view,
-// with the bytes of their entry.
-TEST_F(series_test, TheNextSeriesReadsTheEntryThatItsDirectoryCameFrom) {
+// Not the entry that was clicked after it.
+TEST_F(series_test, TheNextSeriesReadsTheShownEntry) {
   type_max_icons("1");
   open_archive({{"A.TXT", ""}, palette_entry(), {"F.SHP", shp_file(plain_icons(2, 30, 30))}});
   click_row("F.SHP");
@@ -172,8 +170,8 @@ TEST_F(series_test, TheNextSeriesReadsTheEntryThatItsDirectoryCameFrom) {
   EXPECT_EQ(cell(1, 29, 29), "1");
 }
 
-// The icons in view have no next series in another archive, nor in one that could not be read.
-TEST_F(series_test, ANextSeriesNeverMixesTwoArchives) {
+// Another archive, and one that could not be read.
+TEST_F(series_test, ANextSeriesNeverMixesArchives) {
   for (const std::string& other :
        {archive_bytes({{"X.TXT", some_bytes(5000)}}), std::string("?")}) {
     type_max_icons("1");

@@ -13,7 +13,7 @@ namespace ostrane {
 
 inline void open_archive(const std::vector<entry>& entries) { open_bytes(archive_bytes(entries)); }
 
-// `bytes` with another number of 32 bits in one place.
+// `bytes` with a 32-bit number written at `at`.
 inline std::string with_number(std::string bytes, std::size_t at, std::int32_t number) {
   files::put_int32(std::as_writable_bytes(std::span(bytes)), at, number);
   return bytes;
@@ -30,7 +30,7 @@ inline std::string index_bytes(std::int32_t count,
   return bytes;
 }
 
-// `count` bytes that differ from their neighbours and from those of another seed.
+// Pseudo-random bytes.
 inline std::string some_bytes(std::size_t count, unsigned seed = 1) {
   std::string bytes(count, ' ');
   std::minstd_rand numbers(seed + 1);
@@ -38,7 +38,7 @@ inline std::string some_bytes(std::size_t count, unsigned seed = 1) {
   return bytes;
 }
 
-// The first row of that name.
+// Clicks the first row of that name.
 inline void click_row(const std::string& name) {
   std::int32_t row = 0;
   while (row < Form1.List1.ListCount() && Form1.List1.List(row) != name) ++row;
@@ -46,17 +46,31 @@ inline void click_row(const std::string& name) {
   user::select_row(Form1.List1, row);
 }
 
-// A tool as a new process has it, on empty drives.
+// A newly started tool on empty drives.
 struct tool_test : testing::Test {
   tool_test() {
-    root = new_folder();
-    empty_drives();
-    begin();
+    root = make_temporary_folder();
+    reset_drives();
+    restart();
   }
   ~tool_test() override {
     files::set_drives({});
     std::error_code left;
     fs::remove_all(root, left);
+  }
+};
+
+// Files for a build, and the archive that it makes of them.
+struct small_build_test : tool_test {
+  const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
+  const std::string archive =
+      archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
+  // Restarts the tool with the files and an old archive in C:\work.
+  void restart_beside(const std::string& old_archive) const {
+    fs::remove_all(disk_path("C:\\work"));
+    for (const auto& [name, bytes] : sources) write("C:\\work\\" + name, bytes);
+    write("C:\\work\\" + old_archive, "the old one");
+    restart();
   }
 };
 

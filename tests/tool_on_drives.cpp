@@ -7,11 +7,12 @@
 
 #include "files/drives.h"
 #include "handlers/start_up.h"
+#include "write_file.h"
 
 namespace ostrane {
 namespace {
 
-std::size_t told = 0;
+std::size_t taken = 0;
 
 std::string name_of(const fs::path& found) {
   const std::u8string utf8 = found.filename().u8string();
@@ -22,8 +23,7 @@ std::string name_of(const fs::path& found) {
 
 fs::path root;
 
-fs::path new_folder() {
-  // In memory where the system has a folder there, as the tool waits for the disk.
+fs::path make_temporary_folder() {
   const fs::path memory = "/dev/shm";
   const fs::path base = fs::is_directory(memory) ? memory : fs::temp_directory_path();
   std::random_device any;
@@ -34,20 +34,20 @@ fs::path new_folder() {
   return made;
 }
 
-void empty_drives() {
+void reset_drives() {
   for (const char* drive : {"c", "d"}) fs::remove_all(root / drive);
   fs::create_directories(root / "c" / "program");
   fs::create_directories(root / "d");
 }
 
-void begin(const std::string& current) {
+void restart(const std::string& current) {
   files::set_drives({{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}},
                     current);
-  begin_tool(root / "c" / "program");
-  told = 0;
+  start_tool(root / "c" / "program");
+  taken = 0;
 }
 
-fs::path place(const std::string& path) {
+fs::path disk_path(const std::string& path) {
   std::string rest = path.substr(3);
   std::replace(rest.begin(), rest.end(), '\\', '/');
   return root / std::string(1, static_cast<char>(path[0] | 0x20)) /
@@ -55,8 +55,8 @@ fs::path place(const std::string& path) {
 }
 
 void write(const std::string& path, const std::string& bytes) {
-  fs::create_directories(place(path).parent_path());
-  std::ofstream(place(path), std::ios::binary) << bytes;
+  fs::create_directories(disk_path(path).parent_path());
+  write_file(disk_path(path), bytes);
 }
 
 std::string bytes_of(const fs::path& file) {
@@ -65,23 +65,24 @@ std::string bytes_of(const fs::path& file) {
   return bytes.str();
 }
 
-std::string read(const std::string& path) { return bytes_of(place(path)); }
+std::string read(const std::string& path) { return bytes_of(disk_path(path)); }
 
-void make_folder(const std::string& path) { fs::create_directories(place(path)); }
+void make_folder(const std::string& path) { fs::create_directories(disk_path(path)); }
 
 texts names_in(const std::string& folder) {
   texts names;
-  for (const auto& found : fs::directory_iterator(place(folder))) names.push_back(name_of(found));
+  for (const auto& found : fs::directory_iterator(disk_path(folder)))
+    names.push_back(name_of(found));
   std::sort(names.begin(), names.end());
   return names;
 }
 
 file_map files_in(const std::string& folder) {
-  file_map found_there;
-  for (const auto& found : fs::directory_iterator(place(folder))) {
-    if (found.is_regular_file()) found_there[name_of(found)] = bytes_of(found);
+  file_map all;
+  for (const auto& found : fs::directory_iterator(disk_path(folder))) {
+    if (found.is_regular_file()) all[name_of(found)] = bytes_of(found);
   }
-  return found_there;
+  return all;
 }
 
 void open_archive(const std::string& folder) {
@@ -130,8 +131,8 @@ void compare_with(const std::string& folder, const std::string& name) {
 
 texts new_messages() {
   const texts& all = forms_layer::messages_shown();
-  texts fresh(all.begin() + static_cast<std::ptrdiff_t>(told), all.end());
-  told = all.size();
+  texts fresh(all.begin() + static_cast<std::ptrdiff_t>(taken), all.end());
+  taken = all.size();
   return fresh;
 }
 

@@ -11,7 +11,7 @@
 #include "sample_files.h"
 #include "state/tool_state.h"
 
-// The tool on drives of its own, and what its user does there in several steps.
+// The tool on drives in a temporary folder, and what a user does in several steps.
 namespace ostrane {
 
 namespace user = forms_layer::user;
@@ -19,29 +19,31 @@ namespace fs = std::filesystem;
 
 using entry = archive_entry;
 using texts = std::vector<std::string>;
-using file_map = std::map<std::string, std::string>;  // bytes by names
+using file_map = std::map<std::string, std::string>;  // bytes by name
 
 extern fs::path root;  // the folder of the drives
 
-fs::path new_folder();
+// In memory if the system has a folder there, as the tool waits for disks.
+fs::path make_temporary_folder();
 
-// C: has an empty folder "program", D: nothing.
-void empty_drives();
+// C: then holds an empty folder "program", D: nothing.
+void reset_drives();
 
-// Begins the tool afresh in `current`, a path of the tool. E: is a drive that does not answer.
-void begin(const std::string& current = "C:\\");
+// Restarts the tool with the current folder `current`. E: is a drive that does not answer.
+void restart(const std::string& current = "C:\\");
 
-fs::path place(const std::string& path);
+// The system's path for a path of the tool.
+fs::path disk_path(const std::string& path);
 void write(const std::string& path, const std::string& bytes);
 std::string bytes_of(const fs::path& file);
 std::string read(const std::string& path);
 void make_folder(const std::string& path);
-// Names in a folder, hidden ones too, ascending.
+// The sorted names in a folder, hidden ones too.
 texts names_in(const std::string& folder);
-// The bytes of the files in a folder by their names on this system, hidden ones too.
+// The files in a folder by their UTF-8 names, hidden ones too.
 file_map files_in(const std::string& folder);
 
-// Through the dialogs.
+// Commands, through the dialogs.
 void open_archive(const std::string& folder = "C:\\");
 void open_bytes(const std::string& archive);
 void open_extract_dialog(const std::string& folder);

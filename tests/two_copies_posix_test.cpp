@@ -10,36 +10,27 @@
 namespace ostrane {
 namespace {
 
-enum { said_created = 10, said_failed = 11 };  // what a copy ends with
+enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
 // Two copies of the tool build in one folder, each in a process of its own.
-struct two_copies_test : tool_test {
-  const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
-  const std::string archive =
-      archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
-  int pairs = 15;  // OSTRANE_PAIRS names another number
+struct two_copies_test : small_build_test {
+  int pairs = 15;  // OSTRANE_PAIRS overrides it
 
   two_copies_test() {
     if (const char* wanted = std::getenv("OSTRANE_PAIRS")) pairs = std::atoi(wanted);
-    for (const auto& [name, bytes] : sources) write("C:\\work\\" + name, bytes);
   }
-  // Ends with what was told, and has ended if that is neither a success nor another copy's work.
-  static void build_and_say() {
-    build_in();
-    const std::string told = new_messages().back();
-    const bool waited = told.find("another copy of the tool") != std::string::npos;
-    ASSERT_TRUE(waited || told.starts_with("Your new Ostrane.dat")) << told;
-    _exit(waited ? said_failed : said_created);
-  }
-  static pid_t begin_copy(int at, call_fault with) {
-    return begin_process([&] {
-      begin();
+  static pid_t start_copy(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills}) {
+    return start_process([&] {
       const failing_calls faults(at, with);
-      build_and_say();
+      build_in();
+      const std::string message = new_messages().back();
+      const bool other_copy = message.find("another copy of the tool") != std::string::npos;
+      ASSERT_TRUE(other_copy || message.starts_with("Your new Ostrane.dat")) << message;
+      _exit(other_copy ? reported_other_copy : reported_success);
     });
   }
-  // The one archive there, without what a copy that was killed has left.
-  static std::string archive_there() {
+  // The only archive, ignoring what a killed copy left.
+  static std::string only_archive() {
     std::string bytes;
     for (const auto& [name, found] : files_in("C:\\work")) {
       if (name.size() != 11 || name.find(".txt") != name.npos) continue;
@@ -48,21 +39,16 @@ struct two_copies_test : tool_test {
     }
     return bytes;
   }
-  static void replace_archive(const char* name) {
-    for (const auto& found : fs::directory_iterator(place("C:\\work"))) {
-      if (found.path().extension() != ".txt") fs::remove(found);
-    }
-    write(std::string("C:\\work\\") + name, "the old one");
-  }
-  void check(std::initializer_list<int> ends) {
+  void check(std::initializer_list<int> statuses) {
     bool created = false;
-    for (const int end : ends) {
-      created |= end == said_created;
-      EXPECT_TRUE(end == said_created || end == said_failed || end == -1) << end;
+    for (const int status : statuses) {
+      created |= status == reported_success;
+      EXPECT_TRUE(status == reported_success || status == reported_other_copy || status == -1)
+          << status;
     }
-    const std::string left = archive_there();
+    const std::string left = only_archive();
     EXPECT_TRUE(left == archive || (!created && left == "the old one"));
-    begin();
+    restart();
     build_in();
     EXPECT_EQ(new_messages().size(), 1U);
     EXPECT_EQ(names_in("C:\\work"), (texts{"OSTRANE.DAT", "a.txt", "b.txt", "c.txt"}));
@@ -70,92 +56,76 @@ struct two_copies_test : tool_test {
   }
 };
 
-TEST_F(two_copies_test, ThatBeginAtOneMomentLeaveAWholeArchive) {
+// In half of the pairs each copy may be killed at any call.
+TEST_F(two_copies_test, StartedTogetherLeaveACompleteArchive) {
   std::mt19937 random(std::random_device{}());
-  for (int time = 0; time < pairs && !HasFailure(); ++time) {
-    replace_archive(time % 2 == 0 ? "Ostrane.dat" : "OSTRANE.DAT");
-    const pid_t first = begin_copy(INT32_MAX, {});
+  for (int pair = 0; pair < 2 * pairs && !HasFailure(); ++pair) {
+    restart_beside(pair % 3 == 0 ? "OSTRANE.DAT" : "Ostrane.dat");
+    const auto start_one = [&] {
+      const bool is_killed = pair % 2 == 0 && random() % 3 == 0;
+      return start_copy(is_killed ? static_cast<int>(random() % 70) : INT32_MAX);
+    };
+    const pid_t first = start_one();
     usleep(static_cast<useconds_t>(random() % 3000));
-    const pid_t second = begin_copy(INT32_MAX, {});
-    check({end_of(first), end_of(second)});
+    const pid_t second = start_one();
+    check({exit_status(first), exit_status(second)});
   }
 }
 
-TEST_F(two_copies_test, OfWhichOneIsStoppedAtAnyCallLeaveAWholeArchive) {
+TEST_F(two_copies_test, OneStoppedAtAnyCallLeaveACompleteArchive) {
   std::mt19937 random(std::random_device{}());
-  for (int time = 0; time < pairs && !HasFailure(); ++time) {
-    replace_archive(time % 2 == 0 ? "Ostrane.dat" : "ostrane.dat");
+  for (int pair = 0; pair < pairs && !HasFailure(); ++pair) {
+    restart_beside(pair % 2 == 0 ? "Ostrane.dat" : "ostrane.dat");
     const int at = static_cast<int>(random() % 70);
     SCOPED_TRACE(at);
-    const pid_t first = begin_copy(at, {.kind = call_fault::stops});
+    const pid_t first = start_copy(at, {.kind = call_fault::stops});
     int status = 0;
     waitpid(first, &status, WUNTRACED);
-    const int end = end_of(begin_copy(INT32_MAX, {}));
+    const int end = exit_status(start_copy());
     kill(first, SIGCONT);
-    check({WIFSTOPPED(status) ? end_of(first) : WEXITSTATUS(status), end});
+    check({WIFSTOPPED(status) ? exit_status(first) : WEXITSTATUS(status), end});
   }
 }
 
-TEST_F(two_copies_test, OfWhichAThirdIsKilledLeaveAWholeArchive) {
-  std::mt19937 random(std::random_device{}());
-  for (int time = 0; time < pairs && !HasFailure(); ++time) {
-    replace_archive("Ostrane.dat");
-    const auto begin_one = [&] {
-      const bool dies = random() % 3 == 0;
-      return begin_copy(dies ? static_cast<int>(random() % 70) : INT32_MAX,
-                        {.kind = call_fault::kills});
-    };
-    const pid_t first = begin_one();
-    const pid_t second = begin_one();
-    check({end_of(first), end_of(second)});
-  }
-}
-
-// Whatever happens to what is written meanwhile, the old archive stays and the failure is told.
-TEST_F(two_copies_test, ABuildWhoseFileIsTakenAwayKeepsTheOldArchive) {
-  const fs::path work = place("C:\\work");
+// Whatever happens to the temporary file, the old archive stays and the failure is reported.
+TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
+  const fs::path work = disk_path("C:\\work");
   const auto temporary = [&] {
     for (const auto& found : fs::directory_iterator(work)) {
       if (found.path().extension() == ".new") return found.path();
     }
     return fs::path();
   };
-  const std::function<void()> spoilings[] = {
-      [&] { fs::remove(temporary()); },
-      [&] { fs::rename(temporary(), place("C:\\elsewhere")); },
-      [&] { fs::rename(work, place("C:\\moved")); },
-      [&] {
-        const fs::path at = temporary();
-        fs::remove(at);
-        mkfifo(at.c_str(), 0600);
-      },
-      [&] {
-        const fs::path at = temporary();
-        fs::remove(at);
-        std::ofstream(at) << "";
-      },
-      [&] {
-        const fs::path at = temporary();
-        fs::remove(at);
-        fs::create_directory(at);
-      },
+  const auto replace = [&](const auto& make) {
+    return [&temporary, make] {
+      const fs::path path = temporary();
+      fs::remove(path);
+      make(path);
+    };
   };
-  for (const auto& spoil : spoilings) {
-    replace_archive("ostrane.dat");
-    begin();
+  const std::function<void()> faults[] = {
+      [&] { fs::rename(temporary(), disk_path("C:\\elsewhere")); },
+      [&] { fs::rename(work, disk_path("C:\\moved")); },
+      replace([](const fs::path&) {}),
+      replace([](const fs::path& path) { mkfifo(path.c_str(), 0600); }),
+      replace([](const fs::path& path) { std::ofstream{path}; }),
+      replace([](const fs::path& path) { fs::create_directory(path); }),
+  };
+  for (const auto& inject : faults) {
+    restart_beside("ostrane.dat");
     {
       recording_screen screen;
-      screen.at_refresh = [&] {
-        if (screen.told.back().find("C:\\work\\c.txt") != std::string::npos) spoil();
+      screen.on_refresh = [&] {
+        if (screen.log.back().find("C:\\work\\c.txt") != std::string::npos) inject();
       };
       build_in();
       EXPECT_EQ(
-          screen.told.back(),
+          screen.log.back(),
           "dialog C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
           "written. No new archive was made.");
     }
-    if (fs::exists(place("C:\\moved"))) fs::rename(place("C:\\moved"), work);
-    EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one") << &spoil - spoilings;
+    if (fs::exists(disk_path("C:\\moved"))) fs::rename(disk_path("C:\\moved"), work);
+    EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one") << &inject - faults;
     for (const auto& found : fs::directory_iterator(work)) {
       if (!found.is_regular_file()) fs::remove(found);
     }

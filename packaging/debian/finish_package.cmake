@@ -11,8 +11,9 @@ file(RENAME ${doc}/LICENSE ${doc}/copyright)
 file(RENAME ${doc}/CHANGELOG.md ${doc}/changelog)
 file(COPY_FILE ${CPACK_OSTRANE_CHANGELOG} ${doc}/changelog.Debian)
 
+file(GLOB manuals ${share}/man/man1/*.1)
 # -n leaves out name and time, so that the same files give the same package.
-execute_process(COMMAND gzip -9nf ${share}/man/man1/ostrane-dat-tool.1 ${doc}/changelog
+execute_process(COMMAND gzip -9nf ${manuals} ${doc}/changelog
                         ${doc}/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
 
 # The same permissions under any umask.

@@ -12,7 +12,6 @@
 #include "files/paths.h"
 #include "files/system_name.h"
 #include "forms/form1.h"
-#include "forms/form3.h"
 #include "forms/form5.h"
 #include "forms_layer/message_box.h"
 #include "progress/progress.h"
@@ -24,14 +23,14 @@ namespace {
 
 constexpr std::int16_t files_per_bar_step = 97;
 
-struct build {
+struct build_job {
   build_list list;
   files::case_insensitive_lookup names;
   std::vector<dat_record> records;
-  std::string left_out;  // a message, or ""
+  std::string skipped;  // a message, or ""
 };
 
-// What the list of files shows, without the archive itself.
+// The rows of `File1` without the archive itself.
 std::vector<std::string> listed_files() {
   std::vector<std::string> names;
   for (std::int32_t i = 0; i < Form5.File1.ListCount(); ++i) {
@@ -41,18 +40,16 @@ std::vector<std::string> listed_files() {
   return names;
 }
 
-void show_current_file(const build& job, std::size_t index, const std::string& name) {
+void show_current_file(const build_job& job, std::size_t index, const std::string& name) {
   const auto count = static_cast<std::int64_t>(job.list.names.size());
-  Form3.message.Caption = "Current File : " + job.list.folder + name + "\r\nCurrent File Number: " +
-                          sign_column_text(static_cast<std::int64_t>(index)) +
-                          "\r\nTotal Number of Files: " + sign_column_text(count);
-  Form3.Refresh();
+  show_progress_text("Current File : " + job.list.folder + name + "\r\nCurrent File Number: " +
+                     sign_column_text(static_cast<std::int64_t>(index)) +
+                     "\r\nTotal Number of Files: " + sign_column_text(count));
 }
 
-void write(build& job) {
+void write(build_job& job) {
   std::int16_t total_bar_tick = 0;
-  Form3.ProgressBar2.Max = static_cast<float>(job.records.size());
-  Form3.ProgressBar2.Min = 0;
+  set_total_range(static_cast<std::int64_t>(job.records.size()));
   const files::file_path target = {
       files::system_path(job.list.folder, job.names) / files::system_name(archive_name),
       job.list.folder + archive_name};
@@ -60,38 +57,44 @@ void write(build& job) {
                 {.on_file =
                      [&](std::size_t index, const std::string& name, std::int32_t size) {
                        move_total_bar(total_bar_tick, files_per_bar_step, index);
-                       Form3.ProgressBar1.Min = 0;
-                       Form3.ProgressBar1.Max = static_cast<float>(size);
+                       set_file_range(size);
                        show_current_file(job, index, name);
                      },
                  .on_bytes = move_file_bar});
 }
 
-std::string files_left_out(const build& job) {
-  std::vector<skipped_file> left_out;
+std::string skipped_message(const build_job& job) {
+  std::vector<skipped_file> skipped;
   for (const files::unlisted_file& file :
        files::unlisted_files_in(job.list.folder, job.list.names)) {
-    if (files::upper_case(file.name) != archive_name) left_out.push_back({file.name, file.reason});
+    if (files::upper_case(file.name) != archive_name) skipped.push_back({file.name, file.reason});
   }
-  return text_of(left_out, "These files are not in the new Ostrane.dat:");
+  return skipped_files_text(skipped, "These files are not in the new Ostrane.dat:");
 }
 
-void run(build& job) {
-  Form3.message.Caption = "Calculation internal offsets for the files in Ostrane.dat";
-  Form3.Refresh();
+void run(build_job& job) {
+  show_progress_text("Calculation internal offsets for the files in Ostrane.dat");
   job.list.names = listed_files();
   job.list.path_of = [&job](const std::string& name) {
     return files::to_file_path(job.list.folder + name, job.names);
   };
   job.records = measure_files(job.list, tool_state.make_index);
-  Form3.Refresh();
+  refresh_progress();
   write(job);
-  // The archive is made, so a failure to list the folder is only told.
-  const std::string unknown = files::failure_of([&job] { job.left_out = files_left_out(job); });
-  if (!unknown.empty()) job.left_out = unknown;
+  // The archive is complete, so a failure to list the folder is only reported.
+  const std::string failure = files::failure_of([&job] { job.skipped = skipped_message(job); });
+  if (!failure.empty()) job.skipped = failure;
 }
 
-void keep_new_index(const build& job) {
+// What to do if a typed path leads elsewhere than the list of files.
+std::string folder_hint(const build_job& job) {
+  const std::string listed = Form5.File1.Path();
+  const std::string target = files::full_path(job.list.folder);
+  if (files::lower_case(listed) == files::lower_case(target)) return "";
+  return " The list shows the files of " + listed + ". Double click on the folder to build from.";
+}
+
+void use_new_index(const build_job& job) {
   if (tool_state.archive_is_open == flag_true) {
     read_archive(job.list.folder);
     return;
@@ -103,20 +106,20 @@ void keep_new_index(const build& job) {
 }  // namespace
 
 void make_archive() {
-  build job;
+  build_job job;
   job.list.folder = files::with_separator(Form5.Text1.Text());
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
-  Form3.Refresh();
+  refresh_progress();
   const std::string failure = files::failure_of([&] { run(job); });
   hide_progress("Ostrane.dat tool ");
   if (!failure.empty()) {
-    forms_layer::message_box(failure + " No new archive was made.");
+    forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
     return;
   }
-  keep_new_index(job);
+  use_new_index(job);
   Form1.Visible = true;
   Form5.Visible = false;
-  if (!job.left_out.empty()) forms_layer::message_box(job.left_out);
+  if (!job.skipped.empty()) forms_layer::message_box(job.skipped);
   forms_layer::message_box("Your new Ostrane.dat has been created and saved in:" + job.list.folder +
                            "ostrane.dat");
 }

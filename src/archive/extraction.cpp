@@ -10,11 +10,9 @@
 #include "files/file_system.h"
 #include "files/paths.h"
 #include "forms/form1.h"
-#include "forms/form3.h"
 #include "forms/form4.h"
 #include "forms_layer/message_box.h"
 #include "progress/progress.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 
@@ -24,34 +22,30 @@ namespace {
 
 constexpr std::int16_t entries_per_bar_step = 49;
 
-// Opens the archive as file 5. Returns why nothing can be extracted at all, or "".
-std::string open_both_ends(const std::string& target_folder) {
+// Opens the archive. Returns why nothing can be extracted, or "".
+std::string prepare(const std::string& target_folder) {
   if (!files::folder_exists(target_folder)) {
     return "The folder " + target_folder + " is not there. Make it or choose another.";
   }
   if (tool_state.record_count > 1 && tool_state.dat_index[0].offset < 0) {
     return "The index of " + tool_state.archive_path_copy + " puts entries before the file.";
   }
-  return files::failure_of([] { open_archive_file(file_5); });
+  return files::failure_of(open_archive_file);
 }
 
 void show_current_entry(const std::string& path, std::size_t index, std::int32_t size) {
-  Form3.message.Caption =
-      "Extracting file: " + path +
-      "\r\nFile number:     " + sign_column_text(static_cast<std::int64_t>(index) + 1) +
-      "\r\nTotal number of files: " + sign_column_text(tool_state.record_count - 1);
-  Form3.Refresh();
-  Form3.ProgressBar1.Max = static_cast<float>(std::max(size, 0));
-  Form3.ProgressBar1.Min = 0;
+  show_progress_text("Extracting file: " + path + "\r\nFile number:     " +
+                     sign_column_text(static_cast<std::int64_t>(index) + 1) +
+                     "\r\nTotal number of files: " + sign_column_text(tool_state.record_count - 1));
+  set_file_range(std::max(size, 0));
 }
 
 extraction_result extract(const std::string& target_folder) {
   files::case_insensitive_lookup names;
   std::int16_t total_bar_tick = 0;
-  Form3.ProgressBar2.Max = static_cast<float>(std::max(tool_state.record_count - 2, 0));
-  Form3.ProgressBar2.Min = 0;
+  set_total_range(std::max(tool_state.record_count - 2, 0));
   return extract_entries(
-      file_5, index_records(),
+      tool_state.archive_file, index_records(),
       [&](const std::string& name) { return files::to_file_path(target_folder + name, names); },
       [&](const files::file_path& made) { names.add(made.system); },
       {.on_file =
@@ -62,7 +56,7 @@ extraction_result extract(const std::string& target_folder) {
        .on_bytes = move_file_bar});
 }
 
-std::string closing_text(const extraction_result& result, const std::string& target_folder) {
+std::string result_message(const extraction_result& result, const std::string& target_folder) {
   std::string text;
   if (!result.stopped.empty()) {
     text = "The extraction was stopped. " + result.stopped;
@@ -72,25 +66,25 @@ std::string closing_text(const extraction_result& result, const std::string& tar
     text = std::to_string(result.written) + " of " + std::to_string(tool_state.record_count - 1) +
            " files from Ostrane.dat has been extracted into: " + target_folder;
   }
-  return text + text_of(result.skipped, "\nThese entries were not extracted:") +
-         text_of(result.hidden, "\nThese files are hidden on this system:");
+  return text + skipped_files_text(result.skipped, "\nThese entries were not extracted:") +
+         skipped_files_text(result.hidden, "\nThese files are hidden on this system:");
 }
 
 }  // namespace
 
 void extract_all_entries() {
   const std::string target_folder = files::with_separator(Form4.Text1.Text());
-  const std::string fault = open_both_ends(target_folder);
-  if (!fault.empty()) {
-    file_5.close();
-    forms_layer::message_box(fault + " Nothing was extracted.");
+  const std::string failure = prepare(target_folder);
+  if (!failure.empty()) {
+    tool_state.archive_file.close();
+    forms_layer::message_box(failure + " Nothing was extracted.");
     return;
   }
   show_progress("Ostrane.dat tool - File Extraction");
   const extraction_result result = extract(target_folder);
-  file_5.close();
+  tool_state.archive_file.close();
   hide_progress("Ostrane.dat tool - ");
-  forms_layer::message_box(closing_text(result, target_folder));
+  forms_layer::message_box(result_message(result, target_folder));
   const bool none_written = !result.skipped.empty() && result.written == 0;
   if (!result.stopped.empty() || none_written) return;
   Form4.Visible = false;

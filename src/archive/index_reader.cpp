@@ -17,26 +17,26 @@ namespace ostrane {
 
 namespace {
 
-bool names_the_palette(std::string_view row) {
+bool is_palette_row(std::string_view row) {
   const std::string_view name = files::trimmed(row);
   return name.size() == 8 && files::upper_case(name) == "GAME.PAL";
 }
 
-void keep_records(const std::vector<dat_record>& records) {
+void store_records(const std::vector<dat_record>& records) {
   tool_state.record_count = static_cast<std::int32_t>(records.size());
   for (std::size_t i = 0; i < records.size(); ++i) {
     tool_state.dat_index[i] = records[i];
     const auto row = static_cast<std::int32_t>(i);
     Form1.List1.AddItem(name_without_nuls(records[i].name));
-    if (names_the_palette(Form1.List1.List(row))) {
+    if (is_palette_row(Form1.List1.List(row))) {
       tool_state.game_pal_offset = records[i].offset;
     }
   }
 }
 
-// From then on this archive is the open one. If it is not the one before, the icons in view are not
-// of this archive, so there is no next series of them.
-void keep_stamp(const files::file_stamp& stamp) {
+// Makes this archive the open one. If it differs from the previous one, the shown icons have no
+// next series.
+void store_stamp(const files::file_stamp& stamp) {
   if (stamp != tool_state.archive_stamp) tool_state.directory_index = -1;
   tool_state.archive_stamp = stamp;
   tool_state.archive_is_open = flag_true;
@@ -44,11 +44,11 @@ void keep_stamp(const files::file_stamp& stamp) {
 
 void read_index() {
   const archive_index index = read_archive_index(files::to_file_path(tool_state.archive_path));
-  keep_records(index.records);
-  keep_stamp(index.stamp);
+  store_records(index.records);
+  store_stamp(index.stamp);
 }
 
-// Shows why the index cannot be read.
+// Returns false after a message.
 bool try_to_read_index() {
   if (!files::file_exists(tool_state.archive_path)) {
     forms_layer::message_box(tool_state.archive_path + " is not found");

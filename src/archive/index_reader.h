@@ -4,10 +4,10 @@
 
 namespace ostrane {
 
-// Reads the index of the archive in a folder into `dat_index`, `record_count` and `List1`, takes
-// the palette from its GAME.PAL and opens the menus that need an archive. If the file is not there
-// or its index is bad, one message says so; then `List1` is empty, the path is the new one, and all
-// else stays as it was. `Text1` shows the number of entries either way.
+// Reads the index of the archive in `folder` into `dat_index`, `record_count` and `List1`, reads
+// its palette and enables the menus that need an archive. Reports a missing file and a bad index;
+// then `List1` is empty, `archive_path` is the new path, and nothing else changes. `Text1` shows
+// `record_count` - 1 either way.
 void read_archive(const std::string& folder);
 
 }  // namespace ostrane

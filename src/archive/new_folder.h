@@ -2,8 +2,8 @@
 
 namespace ostrane {
 
-// Makes the folder that `Form4.Text2` names inside that of `Text1`, and goes there; blanks alone
-// name none. A failure gives a message with the system's number for it.
+// Makes the folder `Form4.Text2` inside the folder `Form4.Text1` and opens it in the dialog. A
+// blank name does nothing. Reports a failure by its error number.
 void make_new_folder();
 
 }  // namespace ostrane

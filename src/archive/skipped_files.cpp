@@ -17,7 +17,7 @@ std::string printable(std::string name) {
 
 }  // namespace
 
-std::string text_of(const std::vector<skipped_file>& files, const char* heading) {
+std::string skipped_files_text(const std::vector<skipped_file>& files, const char* heading) {
   if (files.empty()) return "";
   std::string text = heading;
   for (std::size_t i = 0; i < std::min(files.size(), max_named); ++i) {

@@ -7,8 +7,8 @@
 
 namespace ostrane {
 
-// `heading` and one line for each file, the first 20 by name and reason, the others by number; ""
-// if there are none.
-std::string text_of(const std::vector<skipped_file>& files, const char* heading);
+// `heading` and the files: one line with name and reason for each of the first 20, then the number
+// of the others. "" if there are none.
+std::string skipped_files_text(const std::vector<skipped_file>& files, const char* heading);
 
 }  // namespace ostrane

@@ -5,6 +5,7 @@
 #include "data/chunk_ladder.h"
 #include "data/data_error.h"
 #include "data/new_index.h"
+#include "files/failure.h"
 #include "files/file_system.h"
 #include "files/replaced_file.h"
 
@@ -53,20 +54,27 @@ std::vector<dat_record> measure_files(const build_list& list, std::span<make_rec
   return records;
 }
 
+void write_archive_to(files::binary_file& archive, const build_list& list,
+                      std::span<const make_record> files, std::span<const dat_record> records,
+                      const job_progress& progress) {
+  const std::string index = index_bytes(records);
+  archive.write(std::as_bytes(std::span(index)));
+  files::binary_file source;
+  for (std::size_t i = 0; i < list.names.size(); ++i) {
+    copy_file(list, i, files[i].size, source, archive, progress);
+  }
+}
+
 void write_archive(const build_list& list, std::span<const make_record> files,
                    std::span<const dat_record> records, const files::file_path& target,
                    const job_progress& progress) {
   files::replaced_file archive(target);
-  const std::string index = index_bytes(records);
-  archive.file().write(std::as_bytes(std::span(index)));
-  files::binary_file source;
-  for (std::size_t i = 0; i < list.names.size(); ++i) {
-    copy_file(list, i, files[i].size, source, archive.file(), progress);
-  }
+  write_archive_to(archive.file(), list, files, records, progress);
   archive.put_in_place();
   // The old archive has its name until the new one is there, so there never are two. If the
   // spelling cannot be changed the old one stays; names compare without regard to case.
-  archive.respell(target.system);
+  // From here on nothing makes the build fail.
+  files::failure_of([&] { archive.respell(target.system); });
   archive.flush_folder();
 }
 

@@ -7,7 +7,7 @@
 
 #include "data/archive_format.h"
 #include "data/job_progress.h"
-#include "files/file_path.h"
+#include "files/binary_file.h"
 
 namespace ostrane {
 
@@ -23,6 +23,12 @@ struct build_list {
 // Sizes the files and makes the index of their archive. `files` has a place for each. Throws
 // file_error, and data_error if there are too many files or too many bytes.
 std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files);
+
+// Writes the archive into an open file. `files` and `records` are those of measure_files. Throws
+// file_error, and data_error if a file has changed its size.
+void write_archive_to(files::binary_file& archive, const build_list& list,
+                      std::span<const make_record> files, std::span<const dat_record> records,
+                      const job_progress& progress);
 
 // Writes the archive, which takes the place of an old one in one step when it is whole; of the old
 // one's name other spellings go. `files` and `records` are those of measure_files. Throws

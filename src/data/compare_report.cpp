@@ -11,10 +11,11 @@ namespace {
 // Walks at row i of the archive's names and at line j of the shiplist, and the names there.
 class report_walk {
  public:
-  report_walk(files::text_writer& report, const name_list& archive, shiplist_comparison& ships)
+  report_walk(const line_writer& report, const name_list& archive, shiplist_comparison& ships)
       : report_(report), archive_(archive), ships_(ships) {}
 
-  void run() {
+  // True if a name was written.
+  bool run() {
     ships_.shiplist_walk_done = false;
     step_list();
     step_ship();
@@ -27,6 +28,7 @@ class report_walk {
     }
     while (i_ < archive_.count - 1) write_list_row();
     while (j_ < ships_.shiplist_last) write_ship_row();
+    return wrote_;
   }
 
  private:
@@ -49,51 +51,62 @@ class report_walk {
   void write_list_row() {
     const std::string number = std::to_string(i_);
     const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
-    report_.write_line(indent + number + " " + list_key_);
+    report_(indent + number + " " + list_key_);
+    wrote_ = true;
     step_list();
   }
 
   void write_ship_row() {
-    report_.write_line(std::string(20, ' ') + ship_key_);
+    report_(std::string(20, ' ') + ship_key_);
+    wrote_ = true;
     step_ship();
   }
 
-  files::text_writer& report_;
+  const line_writer& report_;
   const name_list& archive_;
   shiplist_comparison& ships_;
   std::int32_t i_ = -1;
   std::int32_t j_ = -1;
   std::string list_key_;
   std::string ship_key_;
+  bool wrote_ = false;
 };
 
-void write_head(files::text_writer& report, std::int32_t records, std::int32_t lines) {
+void write_head(const line_writer& report, std::int32_t records, std::int32_t lines) {
   if (records != lines) {
-    report.write_line("Different number of Icons:");
-    report.write_line("");
-    report.write_line("# in Ostrane.dat=" + sign_column_text(records) +
-                      ", # in Shiplist=" + sign_column_text(lines));
-    report.write_line("");
+    report("Different number of Icons:");
+    report("");
+    report("# in Ostrane.dat=" + sign_column_text(records) +
+           ", # in Shiplist=" + sign_column_text(lines));
+    report("");
   }
-  report.write_line(
-      "The following differences was found between your Ostrane.dat and the shiplist");
-  report.write_line("");
-  report.write_line("      Present in    Present in   ");
-  report.write_line("Icon# Ostrane.dat   Shiplist     ");
+  report("The following differences was found between your Ostrane.dat and the shiplist");
+  report("");
+  report("      Present in    Present in   ");
+  report("Icon# Ostrane.dat   Shiplist     ");
 }
 
 }  // namespace
 
-void write_compare_report(const files::file_path& path, const name_list& archive,
+bool write_compare_report(const line_writer& write_line, const name_list& archive,
                           shiplist_comparison& comparison) {
-  files::text_writer report(path);
-  write_head(report, archive.count, comparison.shiplist_last + 1);
-  report_walk(report, archive, comparison).run();
+  const std::int32_t lines = comparison.shiplist_last + 1;
+  write_head(write_line, archive.count, lines);
+  const bool wrote_names = report_walk(write_line, archive, comparison).run();
+  return wrote_names || archive.count != lines;
+}
+
+bool write_compare_report(const files::file_path& path, const name_list& archive,
+                          shiplist_comparison& comparison) {
+  files::text_writer report(path, archive.archive);
+  const bool differs = write_compare_report(
+      [&report](std::string_view line) { report.write_line(line); }, archive, comparison);
   report.close();
+  return differs;
 }
 
 void write_name_list(const files::file_path& path, const name_list& archive) {
-  files::text_writer writer(path);
+  files::text_writer writer(path, archive.archive);
   for (std::int32_t row = 0; row < archive.count; ++row) writer.write_line(archive.name(row));
   writer.close();
 }

@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "data/shiplist.h"
 #include "files/file_path.h"
+#include "files/system_calls.h"
 
 namespace ostrane {
 
@@ -13,11 +15,19 @@ struct name_list {
   std::int32_t count = 0;
   // For a number that no row has, "".
   std::function<const std::string&(std::int32_t row)> name;
+  files::file_identity archive = {};  // of the archive's file, which no list is written over
 };
 
+// Takes the lines of a report, without their ends.
+using line_writer = std::function<void(std::string_view line)>;
+
 // Walks the names of an archive and a sorted shiplist side by side and writes what only one side
-// has to the report file. Throws file_error.
-void write_compare_report(const files::file_path& path, const name_list& archive,
+// has. True if it wrote a name, or if one side has more lines.
+bool write_compare_report(const line_writer& write_line, const name_list& archive,
+                          shiplist_comparison& comparison);
+
+// The same into the report file. Throws file_error.
+bool write_compare_report(const files::file_path& path, const name_list& archive,
                           shiplist_comparison& comparison);
 
 // Writes the names, one per line. Throws file_error.

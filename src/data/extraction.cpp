@@ -4,10 +4,12 @@
 #include <utility>
 
 #include "data/chunk_ladder.h"
+#include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/failure.h"
 #include "files/file_calls.h"
+#include "files/whole_file.h"
 
 namespace ostrane {
 
@@ -40,6 +42,7 @@ struct extraction {
   const entry_target& target;
   const entry_file_created& on_created;
   const job_progress& progress;
+  const extraction_choice& choice;
   files::binary_file file = {};
   files::file_stamp stamp = {};
   std::int64_t position = 0;  // of the current entry in the archive
@@ -47,8 +50,22 @@ struct extraction {
   extraction_result result = {};
 };
 
+// Like write_entry, but an old file stays until the new one is whole.
+std::string replace_file_of_entry(extraction& job, const std::string& name, std::int32_t size) {
+  const files::file_path path = job.target(name);
+  files::whole_file to(job.file, path, job.stamp.identity);
+  job.archive.seek(job.position);
+  const std::int32_t copied =
+      chunk_ladder(job.archive, job.file, size, job.small_block_bytes, job.progress);
+  if (copied < size) return "the archive ends before it does";
+  to.keep();
+  job.on_created(path);
+  return "";
+}
+
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
+  if (job.choice.replaces_whole) return replace_file_of_entry(job, name, size);
   entry_file to(job.file, job.target(name));
   if (to.is_new) {
     job.on_created(to.path);
@@ -67,6 +84,7 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
 // Why the entry cannot be written, before its file is touched, or "".
 std::string reason_to_skip(const extraction& job, const std::string& name, std::int32_t size) {
   if (size < 0) return "the index gives it a size below 0";
+  if (job.position < 0) return "the index puts it before the file";
   std::string reason = unsafe_name_reason(name);
   if (reason.empty() && job.position + size > job.stamp.size) {
     reason = "the archive ends before it does";
@@ -86,6 +104,8 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
 }
 
 void extract_entry(extraction& job, std::size_t index) {
+  if (job.choice.is_wanted && !job.choice.is_wanted(index)) return;
+  if (job.choice.replaces_whole) job.position = job.records[index].offset;
   const std::int32_t size =
       clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);
@@ -104,12 +124,15 @@ void extract_entry(extraction& job, std::size_t index) {
 
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
                                   const entry_target& target, const entry_file_created& on_created,
-                                  const job_progress& progress) {
-  extraction job{archive, records, target, on_created, progress};
+                                  const job_progress& progress, const extraction_choice& choice) {
+  extraction job{archive, records, target, on_created, progress, choice};
   job.result.stopped = files::failure_of([&] {
     job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
+    if (archive.info().stamp != job.stamp) {
+      throw data_error("The archive was written to meanwhile. Extract it again.");
+    }
   });
   return std::move(job.result);
 }

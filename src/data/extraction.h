@@ -24,12 +24,20 @@ using entry_target = std::function<files::file_path(const std::string& name)>;
 // Called when that file was made new.
 using entry_file_created = std::function<void(const files::file_path& path)>;
 
+// Which entries are written, and how.
+struct extraction_choice {
+  std::function<bool(std::size_t index)> is_wanted;  // null for all
+  // Each entry is read from its own offset, and an existing file is replaced whole.
+  bool replaces_whole = false;
+};
+
 // Writes every entry of an open archive to a file of its own, over one of its name or as a new one.
 // The entries lie one after the other from the offset of the first record on. A full disk and a
 // lack of memory stop the job; any other failure skips the entry. A new file that is not whole is
 // removed. The archive itself is never written to.
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
                                   const entry_target& target, const entry_file_created& on_created,
-                                  const job_progress& progress);
+                                  const job_progress& progress,
+                                  const extraction_choice& choice = {});
 
 }  // namespace ostrane

@@ -30,10 +30,13 @@ std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
   return rows;
 }
 
-std::size_t find_icon_name(const std::vector<icon_name_pair>& rows, std::string_view entry_name) {
+std::string icon_name_key(std::string_view entry_name) {
   const std::size_t dot = entry_name.find('.');
-  const std::string wanted =
-      dot == std::string_view::npos ? "" : files::compare_key(entry_name.substr(0, dot));
+  return dot == std::string_view::npos ? "" : files::compare_key(entry_name.substr(0, dot));
+}
+
+std::size_t find_icon_name(const std::vector<icon_name_pair>& rows, std::string_view entry_name) {
+  const std::string wanted = icon_name_key(entry_name);
   for (std::size_t i = 1; i < rows.size(); ++i) {
     if (files::compare_key(rows[i].name) == wanted) return i;
   }

@@ -22,6 +22,9 @@ struct icon_name_pair {
 // whole gives the rows before the failure.
 std::vector<icon_name_pair> read_icon_names(const files::file_path& path);
 
+// What the name of an entry is looked up by: all before its first ".", as a compare_key.
+std::string icon_name_key(std::string_view entry_name);
+
 // The row for the name of an entry: the first whose name is that up to its first ".", both trimmed
 // and without regard to case. 0 if there is none.
 std::size_t find_icon_name(const std::vector<icon_name_pair>& rows, std::string_view entry_name);

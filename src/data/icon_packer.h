@@ -19,13 +19,19 @@ struct shp_icon {
 // the first cell alone if no cell is set.
 icon_head head_of(const picture& drawn);
 
-// The run-length stream of the cells in the data box of `head`, which must lie in the picture.
+// The shortest run-length stream that paints the set cells of the picture, of which none may lie
+// above, below or left of the data box of `head`. The box may begin outside the picture.
 std::string packed(const picture& drawn, const icon_head& head);
 
 shp_icon make_icon(const picture& drawn);
 
-// The bytes of a whole icon file: head, directory, icons.
-std::string shp_file(const std::vector<shp_icon>& icons);
+// What new icon files begin with.
+constexpr shp_identifier own_identifier = {'I', 'C', 'O', 'N'};
+
+// The bytes of a whole icon file: head, directory, icons. Icons of the same bytes stand there once
+// if `shares_icons`. Throws data_error if it would be larger than 2 GB.
+std::string shp_file(const std::vector<shp_icon>& icons,
+                     const shp_identifier& identifier = own_identifier, bool shares_icons = false);
 std::string shp_file(const std::vector<picture>& pictures);
 
 }  // namespace ostrane

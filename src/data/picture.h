@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace ostrane {
@@ -24,6 +25,12 @@ class picture {
   std::int16_t at(int column, int row) const { return cells_[place(column, row)]; }
   void set(int column, int row, std::uint8_t index) { cells_[place(column, row)] = index; }
   bool is_set(int column, int row) const { return at(column, row) != unset; }
+  std::span<std::int16_t> row(int row) {
+    return std::span(cells_).subspan(place(0, row), static_cast<std::size_t>(columns_));
+  }
+  std::span<const std::int16_t> row(int row) const {
+    return std::span(cells_).subspan(place(0, row), static_cast<std::size_t>(columns_));
+  }
 
  private:
   std::size_t place(int column, int row) const {

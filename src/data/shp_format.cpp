@@ -1,11 +1,16 @@
 #include "data/shp_format.h"
 
+#include <cstring>
+
 #include "files/little_endian.h"
 
 namespace ostrane {
 
 shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes) {
-  return {.icon_count = files::int32_at(bytes, 4)};
+  shp_head head;
+  std::memcpy(head.identifier.data(), bytes.data(), head.identifier.size());
+  head.icon_count = files::int32_at(bytes, 4);
+  return head;
 }
 
 shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes) {
@@ -18,7 +23,8 @@ icon_head decode_icon_head(std::span<const std::byte, icon_head_size> bytes) {
           .col_start = files::int32_at(bytes, 8),
           .row_start = files::int32_at(bytes, 12),
           .col_end = files::int32_at(bytes, 16),
-          .row_end = files::int32_at(bytes, 20)};
+          .row_end = files::int32_at(bytes, 20),
+          .spare = files::int32_at(bytes, 4)};
 }
 
 icon_kind classify_icon(const icon_head& head) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -26,7 +27,10 @@ constexpr std::size_t shp_dir_entry_size = 8;
 constexpr std::size_t icon_head_size = 24;
 constexpr std::int32_t max_icons_per_file = 5000;
 
+using shp_identifier = std::array<char, 4>;
+
 struct shp_head {
+  shp_identifier identifier = {};
   std::int32_t icon_count = 0;
 };
 
@@ -41,6 +45,7 @@ struct icon_head {
   std::int32_t row_start = 0;
   std::int32_t col_end = 0;
   std::int32_t row_end = 0;
+  std::int32_t spare = 0;
 };
 
 // From the bytes in the file. Any bytes give numbers; whether they make sense is for the reader and

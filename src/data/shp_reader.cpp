@@ -14,12 +14,6 @@ namespace {
 constexpr std::int64_t max_bytes_per_pixel = 16;
 constexpr std::int64_t max_extra_bytes = 65536;
 
-std::int64_t max_stream_bytes(const icon_head& head) {
-  const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
-  const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
-  return max_bytes_per_pixel * rows * columns + max_extra_bytes;
-}
-
 template <std::size_t Size>
 bool read_at(files::binary_file& file, std::int64_t offset, std::array<std::byte, Size>& bytes) {
   if (offset < 0) return false;
@@ -28,6 +22,12 @@ bool read_at(files::binary_file& file, std::int64_t offset, std::array<std::byte
 }
 
 }  // namespace
+
+std::int64_t max_stream_bytes(const icon_head& head) {
+  const std::int64_t rows = std::max(head.no_of_rows + 1, 1);
+  const std::int64_t columns = std::max(head.no_of_cols + 1, 1);
+  return max_bytes_per_pixel * rows * columns + max_extra_bytes;
+}
 
 bool read_shp_head(files::binary_file& file, std::int32_t entry_offset, shp_head& head) {
   std::array<std::byte, shp_head_size> bytes;

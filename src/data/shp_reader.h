@@ -20,6 +20,9 @@ void read_icon_positions(files::binary_file& file, std::int32_t entry_offset,
 // False if the file has no such bytes.
 bool read_icon_head(files::binary_file& file, std::int32_t icon_position, icon_head& head);
 
+// What is read of a stream at most: far more bytes than a picture has use for.
+std::int64_t max_stream_bytes(const icon_head& head);
+
 // Empties the buffer and sets `entry_bytes_left` for an icon whose head was read. `entry_end` is
 // the file offset after the entry.
 void begin_stream(icon_stream& stream, const icon_head& head, std::int32_t icon_position,

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <clocale>
 
+#include "desktop/accessible_canvas.h"
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
 
@@ -14,6 +15,7 @@ void set_up_application() {
   QApplication::setStyle(new desktop_style);
   QApplication::setFont(font_for({}));
   QApplication::setQuitOnLastWindowClosed(false);
+  install_accessible_canvases();
 }
 
 }  // namespace desktop

@@ -2,8 +2,8 @@
 
 namespace desktop {
 
-// To be called once, right after the QApplication is made: the look of the tool, numbers in their
-// own form whatever the user's locale, and a life that does not end with a window that closes.
+// To be called once, right after the QApplication is made. Sets the look of the tool and numbers
+// without the user's locale; the process does not quit when its last window closes.
 void set_up_application();
 
 }  // namespace desktop

@@ -1,21 +1,11 @@
 #include "desktop/button_view.h"
 
-#include <QStyleOptionButton>
-#include <QStylePainter>
-
 #include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
-#include "desktop/wrapped_text.h"
 #include "forms_layer/user.h"
 
 namespace desktop {
-
-namespace {
-
-constexpr int side_margin = 3;
-
-}  // namespace
 
 button_view::button_view(forms_layer::button& shown, QWidget* parent)
     : QPushButton(parent), control_view(shown), button_(shown) {
@@ -32,19 +22,6 @@ void button_view::show_colours() {
   const bool as_theme = back == forms_layer::system_button_face;
   setPalette(as_theme ? QPalette()
                       : with_colours({}, QPalette::Button, QPalette::ButtonText, back));
-}
-
-// The style has no wrapped captions, so only the body of the button is its own.
-void button_view::paintEvent(QPaintEvent* /*event*/) {
-  QStylePainter painter(this);
-  QStyleOptionButton option;
-  initStyleOption(&option);
-  option.text.clear();
-  painter.drawControl(QStyle::CE_PushButtonBevel, option);
-  painter.setPen(option.palette.color(QPalette::ButtonText));
-  QRect inside = rect().adjusted(side_margin, 0, -side_margin, 0);
-  if (isDown()) inside.translate(1, 1);
-  paint_wrapped_in_middle(painter, inside, normalize_newlines(to_screen(button_.Caption())));
 }
 
 void button_view::keyPressEvent(QKeyEvent* event) {

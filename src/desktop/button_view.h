@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-// A push button whose caption wraps, and which Enter presses wherever it stands.
+// A push button, which Enter presses in any window.
 class button_view : public QPushButton, public control_view {
  public:
   button_view(forms_layer::button& shown, QWidget* parent);
@@ -16,7 +16,6 @@ class button_view : public QPushButton, public control_view {
  protected:
   void show_content() override;
   void show_colours() override;
-  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

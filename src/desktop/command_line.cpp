@@ -1,9 +1,8 @@
 #include "desktop/command_line.h"
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
-#include <algorithm>
 #include <iostream>
-#include <string_view>
 
 #include "desktop/program_folder.h"
 #include "state/version.h"
@@ -12,33 +11,38 @@ namespace desktop {
 
 namespace {
 
-void tell_version() { std::cout << "Ostrane.dat-tool " << ostrane::version << '\n'; }
+constexpr int usage_error = 2;
 
-void tell_help() {
-  std::cout << "Usage: ostrane-dat-tool\n\n"
-               "Lists, shows, extracts, builds and compares what the data archive ostrane.dat\n"
-               "holds. Everything is done in its windows.\n\n"
-               "  --help     tells this and ends\n"
-               "  --version  tells the version and ends\n\n"
-               "Descriptions of entries, if there are any:\n  "
-            << (program_folder() / "iconlist.csv").string() << '\n';
+QString description() {
+  return QStringLiteral(
+             "Lists, shows, extracts, builds and compares what the data archive ostrane.dat\n"
+             "holds. Everything is done in its windows.\n\n"
+             "Descriptions of entries, if there are any:\n  ") +
+         QString::fromStdString((program_folder() / "iconlist.csv").string());
 }
 
 }  // namespace
 
-bool answer_command_line(int argc, char** argv) {
-  const auto has = [argc, argv](std::string_view wanted) {
-    return std::find(argv + 1, argv + std::max(argc, 1), wanted) != argv + std::max(argc, 1);
-  };
-  if (has("--version")) {
-    tell_version();
-  } else if (has("--help")) {
-    const QCoreApplication application(argc, argv);
-    tell_help();
-  } else {
-    return false;
+int answer_command_line(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("Ostrane.dat-tool"));
+  QCoreApplication::setApplicationVersion(QString::fromLatin1(ostrane::version));
+  QCommandLineParser parser;
+  parser.setApplicationDescription(description());
+  const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Prints this and exits."));
+  const QCommandLineOption version(QStringLiteral("version"),
+                                   QStringLiteral("Prints the version and exits."));
+  parser.addOptions({help, version});
+  QString error;
+  if (!parser.parse(QCoreApplication::arguments())) error = parser.errorText();
+  const QStringList files = parser.positionalArguments();
+  if (error.isEmpty() && !files.isEmpty()) {
+    error = QStringLiteral("No file can be opened by the command line: ") + files.first();
   }
-  return true;
+  if (error.isEmpty() && parser.isSet(version)) parser.showVersion();
+  if (error.isEmpty()) parser.showHelp();
+  std::cerr << "ostrane-dat-tool: " << error.toStdString() << '\n';
+  return usage_error;
 }
 
 }  // namespace desktop

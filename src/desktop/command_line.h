@@ -2,8 +2,8 @@
 
 namespace desktop {
 
-// Answers --version and --help on the standard output, without a display. False if neither is among
-// the arguments: the tool has no others of its own.
-bool answer_command_line(int argc, char** argv);
+// Answers a command line with arguments, without a display: --help and --version on the standard
+// output, anything else with a line on the error output. Returns the exit status.
+int answer_command_line(int argc, char** argv);
 
 }  // namespace desktop

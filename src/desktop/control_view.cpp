@@ -18,28 +18,31 @@ constexpr unsigned content = bit(property_id::caption) | bit(property_id::text) 
 
 // The window's layout puts the lower edge of its list a pixel below the window, where it would not
 // be seen.
-QRect with_edge_in_sight(QRect place, const QWidget& ground) {
-  if (place.bottom() == ground.height()) place.setBottom(ground.height() - 1);
-  return place;
+QRect with_edge_in_sight(QRect rect, const QWidget& parent) {
+  if (rect.bottom() == parent.height()) rect.setBottom(parent.height() - 1);
+  return rect;
 }
 
 }  // namespace
 
-bool control_view::note(property_id what) {
-  const bool first = noted_ == 0;
-  noted_ |= bit(what);
+bool control_view::mark_dirty(property_id what) {
+  const bool first = dirty_ == 0;
+  dirty_ |= bit(what);
   return first;
 }
 
-void control_view::catch_up() {
-  const unsigned noted = std::exchange(noted_, 0U);
-  const auto has = [noted](unsigned bits) { return (noted & bits) != 0; };
+void control_view::sync() {
+  const unsigned dirty = std::exchange(dirty_, 0U);
+  const auto has = [dirty](unsigned bits) { return (dirty & bits) != 0; };
   QWidget& shown = widget();
   if (has(bit(property_id::rect))) {
-    shown.setGeometry(with_edge_in_sight(place_of(control), *shown.parentWidget()));
+    shown.setGeometry(with_edge_in_sight(rect_of(control), *shown.parentWidget()));
   }
   if (has(bit(property_id::back_color))) show_colours();
-  if (has(bit(property_id::tool_tip))) shown.setToolTip(as_tool_tip(control.ToolTipText()));
+  if (has(bit(property_id::tool_tip))) {
+    shown.setToolTip(as_tool_tip(control.ToolTipText()));
+    shown.setAccessibleDescription(to_screen(control.ToolTipText()));
+  }
   if (has(content)) show_content();
   if (has(bit(property_id::selection) | bit(property_id::items))) show_selection();
   if (has(bit(property_id::enabled))) shown.setEnabled(control.Enabled());
@@ -47,8 +50,8 @@ void control_view::catch_up() {
 }
 
 void control_view::show_all() {
-  noted_ = ~0U;
-  catch_up();
+  dirty_ = ~0U;
+  sync();
 }
 
 }  // namespace desktop

@@ -6,8 +6,8 @@
 
 namespace desktop {
 
-// The widget that shows one control. It mirrors the control's properties, in one go for all that
-// were written meanwhile, and tells the tool what the user does to it.
+// The widget that shows one control. It mirrors the control's properties and tells the tool what
+// the user does to it.
 class control_view {
  public:
   explicit control_view(forms_layer::control& shown) : control(shown) {}
@@ -18,11 +18,14 @@ class control_view {
   forms_layer::control& control;
   virtual QWidget& widget() = 0;
 
-  // Keeps in mind that a property was written; true if nothing was kept before.
-  bool note(forms_layer::property_id what);
-  // Shows all that was noted.
-  void catch_up();
-  // Shows everything, as for a new widget or a new theme.
+  // The widget that takes the focus, and its place in the tab order.
+  virtual QWidget& focus_widget() { return widget(); }
+
+  // Marks the property dirty; true if none was dirty before.
+  bool mark_dirty(forms_layer::property_id what);
+  // Shows all dirty properties.
+  void sync();
+  // Shows every property, as for a new widget or a new theme.
   void show_all();
 
  protected:
@@ -32,7 +35,7 @@ class control_view {
   virtual void show_colours() {}
 
  private:
-  unsigned noted_ = 0;
+  unsigned dirty_ = 0;
 };
 
 }  // namespace desktop

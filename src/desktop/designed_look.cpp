@@ -13,6 +13,10 @@ namespace {
 // Lengths as designed are for a screen of 96 dots an inch.
 constexpr double pixels_per_point = 96.0 / 72.0;
 
+// Fusion draws a frame in the window's colour darkened by this percentage, which is invisible in a
+// dark theme.
+constexpr int fusion_darkens_lines_by = 140;
+
 int pixels(std::int32_t twips, std::int32_t twips_per_pixel) {
   const std::int32_t whole = twips / twips_per_pixel;
   return twips % twips_per_pixel < 0 ? whole - 1 : whole;
@@ -45,7 +49,7 @@ QFont font_for(const forms_layer::font_design& designed) {
 QColor on_screen(forms_layer::colour c) {
   const QPalette theme = QApplication::palette();
   if (c == forms_layer::system_light) {
-    return between(theme.color(QPalette::Window), theme.color(QPalette::Base));
+    return mix(theme.color(QPalette::Window), theme.color(QPalette::Base));
   }
   if (forms_layer::is_system_colour(c)) return theme.color(role_of(c));
   return QColor(static_cast<int>(forms_layer::red_of(c)),
@@ -64,19 +68,21 @@ QColor text_on(forms_layer::colour back) {
 
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       forms_layer::colour back) {
-  const QColor ground = on_screen(back);
+  const QColor background = on_screen(back);
   const QColor text = text_on(back);
-  start.setColor(back_role, ground);
+  start.setColor(back_role, background);
   start.setColor(text_role, text);
-  start.setColor(QPalette::Disabled, text_role, between(text, between(text, ground)));
+  start.setColor(QPalette::Disabled, text_role, mix(text, mix(text, background)));
+  if (back_role != QPalette::Base) return start;
+  start.setColor(QPalette::PlaceholderText, mix(text, background));
+  const QColor window = QApplication::palette().color(QPalette::Window);
+  const QColor window_text = QApplication::palette().color(QPalette::WindowText);
+  start.setColor(QPalette::Window,
+                 mix(window, mix(window, window_text)).lighter(fusion_darkens_lines_by));
   return start;
 }
 
-QColor line_colour(const QColor& back, const QColor& text) {
-  return between(back, between(back, text));
-}
-
-QColor between(const QColor& a, const QColor& b) {
+QColor mix(const QColor& a, const QColor& b) {
   return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
@@ -88,7 +94,7 @@ int pixels_down(std::int32_t twips) {
   return pixels(twips, forms_layer::application.TwipsPerPixelY);
 }
 
-QRect place_of(const forms_layer::control& shown) {
+QRect rect_of(const forms_layer::control& shown) {
   return QRect(pixels_across(shown.Left()), pixels_down(shown.Top()), pixels_across(shown.Width()),
                pixels_down(shown.Height()));
 }

@@ -20,20 +20,18 @@ QColor on_screen(forms_layer::colour c);
 // one.
 QColor text_on(forms_layer::colour back);
 
-// `start` with `back` and its text colour for a pair of roles, greyed a little when disabled.
+// `start` with `back` and its text colour for a pair of roles, greyed a little when disabled. With
+// the Base role also for a frame that can be seen in light and dark themes.
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       forms_layer::colour back);
 
-// Of a line on `back` round what stands there, to be seen in light and dark themes.
-QColor line_colour(const QColor& back, const QColor& text);
-
 // The colour halfway.
-QColor between(const QColor& a, const QColor& b);
+QColor mix(const QColor& a, const QColor& b);
 
 // Whole pixels of a length or a place in twips; what is left over is dropped towards the left.
 int pixels_across(std::int32_t twips);
 int pixels_down(std::int32_t twips);
 // In pixels of what the control stands in.
-QRect place_of(const forms_layer::control& shown);
+QRect rect_of(const forms_layer::control& shown);
 
 }  // namespace desktop

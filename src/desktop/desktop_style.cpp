@@ -1,34 +1,22 @@
 #include "desktop/desktop_style.h"
 
+#include <QApplication>
+#include <QMenuBar>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
-
-#include "desktop/designed_look.h"
+#include <QTextOption>
 
 namespace desktop {
 
 namespace {
 
-// Of a disabled field too, which the tool shows as any other.
-QColor frame_colour(const QStyleOption& option) {
-  const auto colour = [&option](QPalette::ColorRole role) {
-    return option.palette.color(QPalette::Active, role);
-  };
-  const bool focused = (option.state & QStyle::State_HasFocus) != 0;
-  return focused ? colour(QPalette::Highlight)
-                 : line_colour(colour(QPalette::Window), colour(QPalette::WindowText));
-}
+constexpr int side_margin = 3;
 
-void draw_field(QPainter& painter, const QStyleOption& option) {
-  painter.fillRect(option.rect, frame_colour(option));
-  painter.fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.color(QPalette::Base));
-}
-
-// Of a list or a page; what is inside it paints itself.
-void draw_frame(QPainter& painter, const QStyleOption& option) {
-  painter.setPen(frame_colour(option));
-  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+bool keys_pick_menus() {
+  return (QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier) != 0 ||
+         QApplication::activePopupWidget() != nullptr ||
+         qobject_cast<QMenuBar*>(QApplication::focusWidget()) != nullptr;
 }
 
 }  // namespace
@@ -37,19 +25,48 @@ desktop_style::desktop_style() : QProxyStyle(QStyleFactory::create(QStringLitera
 
 int desktop_style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* answer) const {
-  if (hint == SH_UnderlineShortcut || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  if (hint == SH_UnderlineShortcut) return keys_pick_menus() ? 1 : 0;
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+// Fusion shows the focus of a field, but not that of a list.
 void desktop_style::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
-  if (element == PE_PanelLineEdit) {
-    draw_field(*painter, *option);
-  } else if (element == PE_Frame) {
-    draw_frame(*painter, *option);
-  } else {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (element != PE_Frame || (option->state & State_HasFocus) == 0) return;
+  painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+// The caption of a push button does not wrap in Qt.
+void desktop_style::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element != CE_PushButtonLabel || button == nullptr) {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    return;
   }
+  const QRect inside = option->rect.adjusted(side_margin, 0, -side_margin, 0);
+  drawItemText(painter, inside, Qt::AlignCenter | Qt::TextWordWrap, option->palette,
+               (option->state & State_Enabled) != 0,
+               QString(button->text).replace(QLatin1String("&&"), QLatin1String("&")),
+               QPalette::ButtonText);
+}
+
+// A path without blanks wraps too.
+void desktop_style::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                                 const QPalette& colours, bool enabled, const QString& text,
+                                 QPalette::ColorRole role) const {
+  if ((flags & Qt::TextWordWrap) == 0) {
+    QProxyStyle::drawItemText(painter, rect, flags, colours, enabled, text, role);
+    return;
+  }
+  constexpr int alignments = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask;
+  QTextOption wrapped{Qt::Alignment(flags & alignments)};
+  wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  painter->setPen(colours.color(enabled ? QPalette::Active : QPalette::Disabled, role));
+  painter->drawText(QRectF(rect), text, wrapped);
 }
 
 }  // namespace desktop

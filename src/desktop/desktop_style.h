@@ -4,9 +4,9 @@
 
 namespace desktop {
 
-// The same look on every desktop. Shortcuts of the menus work without marks under their letters,
-// which the captions as designed have not got; fields and lists have plain frames, which fill
-// their places, are painted fast, and tell where the focus is.
+// Fusion on every desktop, with what the design asks for beyond it: captions of buttons and labels
+// that wrap, a frame round a list that has the focus, and menus whose letters are underlined only
+// where a key picks them.
 class desktop_style : public QProxyStyle {
  public:
   desktop_style();
@@ -15,6 +15,10 @@ class desktop_style : public QProxyStyle {
                 QStyleHintReturn* answer) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& colours,
+                    bool enabled, const QString& text, QPalette::ColorRole role) const override;
 };
 
 }  // namespace desktop

@@ -1,16 +1,14 @@
 #include "desktop/form_window.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWindow>
-#include <algorithm>
 #include <utility>
 
 #include "desktop/designed_look.h"
-#include "desktop/exposure.h"
 #include "desktop/screen_text.h"
 #include "desktop/window_place.h"
+#include "desktop/window_system.h"
 #include "forms_layer/application.h"
 #include "forms_layer/user.h"
 
@@ -26,20 +24,22 @@ Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
 }  // namespace
 
 form_window::form_window(forms_layer::form& shown, views& all_views)
-    : QWidget(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
+    : QMainWindow(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
   setFont(font_for({}));
-  if (!form.menus.empty()) menus_ = new menu_bar(form, this);
-  client_ = new surface(form, this);
-  set_size_as_designed();
-  lay_out();
-  views_.make_all(form, *client_);
+  if (!form.menus.empty()) setMenuBar(menus_ = new menu_bar(form, this));
+  auto* client = new canvas(form, this);
+  setCentralWidget(client);
+  set_designed_size();
+  // The layout gives the client area its size only when the window is shown.
+  client->resize(size() - QSize(0, menu_height()));
+  views_.make_all(form, *client);
   set_tab_order();
   show_caption();
 }
 
 int form_window::menu_height() const { return menus_ == nullptr ? 0 : menus_->sizeHint().height(); }
 
-void form_window::set_size_as_designed() {
+void form_window::set_designed_size() {
   const QSize size(pixels_across(form.client_width()),
                    pixels_down(form.client_height()) + menu_height());
   if (form.designed.resizable) {
@@ -59,20 +59,14 @@ void form_window::set_tab_order() {
   }
 }
 
-void form_window::lay_out() {
-  const int top = menu_height();
-  if (menus_ != nullptr) menus_->setGeometry(0, 0, width(), top);
-  client_->setGeometry(0, top, width(), std::max(0, height() - top));
-}
-
-void form_window::resizeEvent(QResizeEvent* /*event*/) {
-  lay_out();
+void form_window::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
   if (!isVisible()) return;
-  forms_layer::user::resize(form, client_->width() * forms_layer::application.TwipsPerPixelX,
-                            client_->height() * forms_layer::application.TwipsPerPixelY);
+  forms_layer::user::resize(form, width() * forms_layer::application.TwipsPerPixelX,
+                            (height() - menu_height()) * forms_layer::application.TwipsPerPixelY);
 }
 
-// Whether the window goes is for the tool to say.
+// Whether the window closes is decided by the tool.
 void form_window::closeEvent(QCloseEvent* event) {
   event->ignore();
   forms_layer::user::close(form);
@@ -80,37 +74,41 @@ void form_window::closeEvent(QCloseEvent* event) {
 
 void form_window::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ApplicationPaletteChange) views_.show_all();
-  QWidget::changeEvent(event);
+  QMainWindow::changeEvent(event);
 }
 
 // Keys that no control had use for.
 void form_window::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Refresh)) {
     forms_layer::user::reload(form);
+  } else if (event->key() == Qt::Key_Escape) {
+    forms_layer::user::cancel(form);
   } else {
-    QWidget::keyPressEvent(event);
+    QMainWindow::keyPressEvent(event);
   }
 }
 
-void form_window::come_up(QWindow* owner, const QWidget* centre_of, bool active) {
+void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_handler) {
   winId();
   windowHandle()->setTransientParent(owner);
-  if (!std::exchange(placed_, true)) {
-    move(first_place(*this, form.designed, centre_of));
-  } else if (!isMaximized()) {
-    move(last_place_);
-  }
-  setAttribute(Qt::WA_ShowWithoutActivating, !active);
-  awaits_exposure_ = true;
-  wants_focus_ = !active;
+  const bool first = !std::exchange(placed_, true);
+  if (first) last_position_ = first_position(*this, form.designed, centre_of);
+  if (!isMaximized()) setGeometry(QRect(last_position_, size()));
+  setAttribute(Qt::WA_ShowWithoutActivating, in_handler);
+  windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, in_handler);
+  wants_focus_ = in_handler;
   show();
   if (focused_ != nullptr) focused_->setFocus();
   raise();
-  if (active) activateWindow();
+  if (in_handler) {
+    wait_until_exposed(*windowHandle());
+  } else {
+    activateWindow();
+  }
 }
 
-void form_window::go_away() {
-  last_place_ = pos();
+void form_window::hide_window() {
+  last_position_ = geometry().topLeft();
   wants_focus_ = false;
   // Qt hands the focus on when its widget goes; the window is to come back as it was.
   focused_ = focusWidget();
@@ -119,6 +117,7 @@ void form_window::go_away() {
 
 void form_window::take_focus() {
   wants_focus_ = false;
+  windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, false);
   raise();
   activateWindow();
 }
@@ -131,13 +130,6 @@ void form_window::show_caption() {
 
 void form_window::show_menu_item(const forms_layer::menu_item& item) {
   if (menus_ != nullptr) menus_->show_item(item);
-}
-
-void form_window::paint_now() {
-  if (!isVisible()) return;
-  if (std::exchange(awaits_exposure_, false)) wait_until_exposed(*windowHandle());
-  QEvent update(QEvent::UpdateRequest);
-  QCoreApplication::sendEvent(this, &update);
 }
 
 }  // namespace desktop

@@ -1,7 +1,6 @@
 #include "desktop/frame_view.h"
 
 #include <QPainter>
-#include <algorithm>
 
 #include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
@@ -16,38 +15,40 @@ constexpr int caption_margin = 2;
 }  // namespace
 
 frame_view::frame_view(forms_layer::frame& shown, QWidget* parent)
-    : surface(shown, parent), control_view(shown), frame_(shown) {
+    : QGroupBox(parent), control_view(shown), frame_(shown), inside_(*new canvas(shown, this)) {
   setFont(font_for(shown.designed.font));
+  setAutoFillBackground(true);
 }
 
 void frame_view::show_content() {
-  QRect changed = caption_place();
-  caption_ = to_screen(frame_.Caption());
-  setAccessibleName(caption_);
-  changed |= caption_place();
-  update(changed);
+  const QString caption = to_screen(frame_.Caption());
+  setTitle(fontMetrics().elidedText(caption, Qt::ElideRight, width() - 2 * caption_left));
+  setAccessibleName(caption);
 }
 
-QRect frame_view::caption_place() const {
-  if (caption_.isEmpty()) return {};
-  const int wanted = fontMetrics().horizontalAdvance(caption_) + 2 * caption_margin;
-  const int most = std::max(0, width() - 2 * caption_left);
-  return QRect(caption_left, 0, std::min(wanted, most), fontMetrics().height());
+void frame_view::resizeEvent(QResizeEvent* /*event*/) {
+  inside_.resize(size());
+  show_content();
 }
 
-void frame_view::paint_over_ground(QPainter& painter, const QRect& dirty) {
-  const QColor back = on_screen(ground());
-  const QColor text = text_on(ground());
-  const int line_top = fontMetrics().height() / 2;
-  painter.setPen(line_colour(back, text));
-  painter.drawRect(0, line_top, width() - 1, height() - 1 - line_top);
-  const QRect caption = caption_place();
-  if (!caption.intersects(dirty)) return;
+void frame_view::show_colours() {
+  setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, frame_.BackColor()));
+}
+
+// Fusion draws the line beneath the caption, where the design has controls.
+void frame_view::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor back = palette().color(QPalette::Window);
+  const QColor text = palette().color(QPalette::WindowText);
+  painter.setPen(mix(back, mix(back, text)));
+  painter.drawRect(rect().adjusted(0, fontMetrics().height() / 2, -1, -1));
+  if (title().isEmpty()) return;
+  const QRect caption(caption_left, 0,
+                      fontMetrics().horizontalAdvance(title()) + 2 * caption_margin,
+                      fontMetrics().height());
   painter.fillRect(caption, back);
-  const QRect inside = caption.adjusted(caption_margin, 0, 0, 0);
-  painter.setPen(isEnabled() ? text : between(text, between(text, back)));
-  painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                   fontMetrics().elidedText(caption_, Qt::ElideRight, inside.width()));
+  painter.setPen(text);
+  painter.drawText(caption, Qt::AlignCenter | Qt::TextSingleLine, title());
 }
 
 }  // namespace desktop

@@ -1,28 +1,30 @@
 #pragma once
 
+#include <QGroupBox>
+
+#include "desktop/canvas.h"
 #include "desktop/control_view.h"
-#include "desktop/surface.h"
 #include "forms_layer/frame.h"
 
 namespace desktop {
 
-// A line all round with a caption in it.
-class frame_view : public surface, public control_view {
+// A group box, filled by the canvas on which the controls of the frame are.
+class frame_view : public QGroupBox, public control_view {
  public:
   frame_view(forms_layer::frame& shown, QWidget* parent);
   QWidget& widget() override { return *this; }
+  QWidget& focus_widget() override { return inside_; }
+  canvas& inside() { return inside_; }
 
  protected:
   void show_content() override;
-  void show_colours() override { update(); }
-  forms_layer::colour ground() const override { return frame_.BackColor(); }
-  void paint_over_ground(QPainter& painter, const QRect& dirty) override;
+  void show_colours() override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QRect caption_place() const;
-
   forms_layer::frame& frame_;
-  QString caption_;
+  canvas& inside_;
 };
 
 }  // namespace desktop

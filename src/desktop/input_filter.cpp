@@ -1,6 +1,8 @@
 #include "desktop/input_filter.h"
 
+#include <QCoreApplication>
 #include <QFocusEvent>
+#include <QMouseEvent>
 
 #include "desktop/control_view.h"
 #include "desktop/form_window.h"
@@ -55,18 +57,37 @@ bool is_for_a_while(Qt::FocusReason reason) {
          reason == Qt::MenuBarFocusReason;
 }
 
-void tell_focus(QObject* receiver, const QFocusEvent& event) {
+// The canvas in a frame has the focus for the frame.
+void report_focus(QObject* receiver, const QFocusEvent& event) {
   if (is_for_a_while(event.reason())) return;
-  if (const auto* view = dynamic_cast<control_view*>(receiver)) {
-    forms_layer::user::focus(&view->control);
+  for (QObject* at = receiver; at != nullptr; at = at->parent()) {
+    if (const auto* view = dynamic_cast<control_view*>(at)) {
+      forms_layer::user::focus(&view->control);
+      return;
+    }
   }
+}
+
+void send_as_press(QObject* receiver, const QMouseEvent& event) {
+  QMouseEvent press(QEvent::MouseButtonPress, event.position(), event.scenePosition(),
+                    event.globalPosition(), event.button(), event.buttons(), event.modifiers());
+  QCoreApplication::sendEvent(receiver, &press);
 }
 
 }  // namespace
 
 bool input_filter::eventFilter(QObject* receiver, QEvent* event) {
-  if (event->type() == QEvent::FocusIn) tell_focus(receiver, *static_cast<QFocusEvent*>(event));
-  return is_input(event->type()) && is_barred(receiver);
+  if (event->type() == QEvent::FocusIn) report_focus(receiver, *static_cast<QFocusEvent*>(event));
+  if (is_input(event->type()) && is_barred(receiver)) return true;
+  if (!is_double_click_of_another(receiver, event->type())) return false;
+  send_as_press(receiver, *static_cast<QMouseEvent*>(event));
+  return true;
+}
+
+bool input_filter::is_double_click_of_another(const QObject* receiver, QEvent::Type type) {
+  if (!receiver->isWidgetType()) return false;
+  if (type == QEvent::MouseButtonPress) pressed_ = receiver;
+  return type == QEvent::MouseButtonDblClick && receiver != pressed_;
 }
 
 }  // namespace desktop

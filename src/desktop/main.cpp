@@ -1,9 +1,10 @@
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
+#include <iostream>
 
 #include "desktop/application_setup.h"
 #include "desktop/command_line.h"
-#include "desktop/exposure.h"
 #include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
 #include "files/paths.h"
@@ -21,17 +22,29 @@ void set_program_icon() {
   QGuiApplication::setDesktopFileName(QStringLiteral("ostrane-dat-tool"));
 }
 
+// Qt aborts with a core dump if it cannot open a display. That is the only fatal message before the
+// windows exist.
+void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
+                         const QString& text) {
+  if (type == QtFatalMsg) {
+    std::cerr << "ostrane-dat-tool: a display is needed (DISPLAY or WAYLAND_DISPLAY)\n";
+    std::_Exit(1);
+  }
+  if (type != QtDebugMsg && type != QtInfoMsg) std::cerr << text.toStdString() << '\n';
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (desktop::answer_command_line(argc, argv)) return 0;
-  desktop::disable_shared_memory();
+  if (argc > 1) return desktop::answer_command_line(argc, argv);
+  const QtMessageHandler usual = qInstallMessageHandler(end_without_display);
   const QApplication application(argc, argv);
+  qInstallMessageHandler(usual);
   desktop::set_up_application();
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::begin_tool(desktop::program_folder());
+  ostrane::start_tool(desktop::program_folder());
   const int outcome = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return outcome;

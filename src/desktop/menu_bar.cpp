@@ -1,5 +1,6 @@
 #include "desktop/menu_bar.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
 
@@ -52,6 +53,14 @@ void menu_bar::add(const forms_layer::menu& shown, const QString& caption) {
 void menu_bar::show_item(const forms_layer::menu_item& item) {
   const auto at = actions_.find(&item);
   if (at != actions_.end()) at->second->setEnabled(item.Enabled());
+}
+
+// Qt watches the window for Alt; the letters in the bar depend on that key.
+bool menu_bar::eventFilter(QObject* watched, QEvent* event) {
+  const bool of_key =
+      event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyRelease;
+  if (of_key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt) update();
+  return QMenuBar::eventFilter(watched, event);
 }
 
 void menu_bar::open_first() {

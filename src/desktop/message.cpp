@@ -12,10 +12,10 @@ namespace {
 
 // Leaves room for the title, which is in a font of the window manager's.
 void widen(QMessageBox& box) {
-  constexpr int least_width = 260;
+  constexpr int min_width = 260;
   auto* rows = qobject_cast<QGridLayout*>(box.layout());
   if (rows == nullptr) return;
-  rows->addItem(new QSpacerItem(least_width, 0, QSizePolicy::Minimum), rows->rowCount(), 0, 1,
+  rows->addItem(new QSpacerItem(min_width, 0, QSizePolicy::Minimum), rows->rowCount(), 0, 1,
                 rows->columnCount());
 }
 

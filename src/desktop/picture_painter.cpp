@@ -28,7 +28,7 @@ void paint_border(QPainter& painter, const QRect& place, const QColor& colour) {
 }
 
 // The pixels of `part` (of the drawing area) row by row, in memory that is used again and again.
-const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QRgb ground) {
+const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QRgb background) {
   static std::vector<QRgb> rows;
   rows.resize(static_cast<std::size_t>(part.width()) * static_cast<std::size_t>(part.height()));
   QRgb* to = rows.data();
@@ -36,14 +36,14 @@ const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QR
     const forms_layer::colour* from =
         box.pixels() + static_cast<std::ptrdiff_t>(y) * box.columns() + part.left();
     for (int x = 0; x < part.width(); ++x) {
-      *to++ = from[x] == picture_box::unset ? ground : as_rgb(from[x]);
+      *to++ = from[x] == picture_box::unset ? background : as_rgb(from[x]);
     }
   }
   return rows;
 }
 
 // A picture that the program carries, read once; null for a name that it has none of.
-const QImage& carried_picture(const char* name) {
+const QImage& resource_picture(const char* name) {
   static std::map<std::string, QImage> read;
   const auto [at, is_new] = read.try_emplace(name);
   if (is_new) at->second.load(QStringLiteral(":/pictures/") + QLatin1String(name));
@@ -51,7 +51,7 @@ const QImage& carried_picture(const char* name) {
 }
 
 void paint_designed_picture(QPainter& painter, const char* name, const QRect& inner) {
-  const QImage& picture = carried_picture(name);
+  const QImage& picture = resource_picture(name);
   QRect drawn = picture.rect();
   drawn.moveCenter(inner.center());
   const QRect shown = drawn & inner;
@@ -62,20 +62,21 @@ void paint_designed_picture(QPainter& painter, const char* name, const QRect& in
 
 void paint_picture(QPainter& painter, const picture_box& box, const QRect& place,
                    const QRect& dirty) {
-  const QColor ground = on_screen(box.BackColor());
+  const QColor background = on_screen(box.BackColor());
   const QRect inner = place.adjusted(1, 1, -1, -1);
   if (!inner.contains(dirty)) {
     const QPalette theme = QApplication::palette();
     paint_border(painter, place,
-                 between(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
+                 mix(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
   }
-  painter.fillRect(inner & dirty, ground);
+  painter.fillRect(inner & dirty, background);
   if (*box.designed.picture != '\0') paint_designed_picture(painter, box.designed.picture, inner);
   if (box.pixels() == nullptr) return;
   const QRect drawn(inner.topLeft(), QSize(box.columns(), box.rows()));
   const QRect part = drawn & inner & dirty;
   if (part.isEmpty()) return;
-  const std::vector<QRgb>& rows = converted(box, part.translated(-inner.topLeft()), ground.rgb());
+  const std::vector<QRgb>& rows =
+      converted(box, part.translated(-inner.topLeft()), background.rgb());
   const QImage image(reinterpret_cast<const uchar*>(rows.data()), part.width(), part.height(),
                      qsizetype{part.width()} * static_cast<qsizetype>(sizeof(QRgb)),
                      QImage::Format_RGB32);

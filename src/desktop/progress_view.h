@@ -7,23 +7,22 @@
 
 namespace desktop {
 
-// Moves in steps of a pixel, and paints the strip that it moved by: a job moves it thousands of
-// times.
 class progress_view : public QProgressBar, public control_view {
  public:
-  progress_view(forms_layer::progress_bar& shown, QWidget* parent);
+  progress_view(forms_layer::progress_bar& shown, QWidget* parent)
+      : QProgressBar(parent), control_view(shown), bar_(shown) {
+    setTextVisible(false);
+    setRange(0, steps);
+  }
   QWidget& widget() override { return *this; }
 
  protected:
-  void show_content() override;
-  void resizeEvent(QResizeEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void show_content() override { setValue(static_cast<int>(bar_.filled() * steps)); }
 
  private:
-  int filled_width() const;
+  static constexpr int steps = 1000;
 
   forms_layer::progress_bar& bar_;
-  int painted_ = 0;  // pixels that are filled on the screen
 };
 
 }  // namespace desktop

@@ -6,45 +6,54 @@
 #include <cstdlib>
 #include <utility>
 
-#include "desktop/exposure.h"
 #include "desktop/message.h"
+#include "desktop/window_system.h"
 #include "forms_layer/events.h"
 
 namespace desktop {
 
-qt_screen::qt_screen() { qApp->installEventFilter(&gate_); }
+namespace {
+
+using namespace std::chrono_literals;
+
+// A display shows some 60 frames a second.
+constexpr auto frame_time = 16ms;
+
+// A message of a job that ends sooner would only flicker.
+constexpr auto window_delay = 100ms;
+
+}  // namespace
+
+qt_screen::qt_screen() { qApp->installEventFilter(&filter_); }
 
 qt_screen::~qt_screen() = default;
 
 void qt_screen::control_changed(forms_layer::control& changed, forms_layer::property_id what) {
-  if (views_.note(changed, what)) catch_up_soon();
+  if (views_.mark_dirty(changed, what)) sync_soon();
 }
 
 void qt_screen::form_changed(forms_layer::form& changed, forms_layer::property_id what) {
+  form_window* window = window_of(changed);
+  if (what == forms_layer::property_id::caption && window != nullptr) window->show_caption();
+  if (what == forms_layer::property_id::visible) dirty_forms_.push_back(&changed);
   if (what == forms_layer::property_id::focus) takes_focus_ = &changed;
-  noted_forms_.push_back(&changed);
-  catch_up_soon();
+  sync_soon();
 }
 
 void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& changed) {
   if (form_window* window = window_of(owner)) window->show_menu_item(changed);
 }
 
-void qt_screen::timer_changed(forms_layer::timer& changed) { timers_.follow(changed); }
+void qt_screen::timer_changed(forms_layer::timer& changed) { timers_.sync(changed); }
 
-void qt_screen::refresh(forms_layer::form& shown) {
-  catch_up();
-  form_window* window = window_of(shown);
-  if (window == nullptr) return;
-  if (forms_layer::handler_running()) pump_window_events();
-  window->paint_now();
-}
+void qt_screen::refresh(forms_layer::form& /*shown*/) { show_frame_if_due(); }
 
-void qt_screen::refresh(forms_layer::control& shown) { refresh(shown.owner_form()); }
+void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); }
 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
-  catch_up();
+  sync();
   show_message(title, text, topmost(nullptr));
+  sync_soon();
 }
 
 // Nothing is open and nothing is to be saved.
@@ -55,55 +64,66 @@ form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   return at == windows_.end() ? nullptr : at->second.get();
 }
 
-void qt_screen::catch_up_soon() {
-  if (std::exchange(catching_up_soon_, true)) return;
+// At the end of the handler. The event loop may also get here in its middle, from a frame or a
+// message box, which then call this again.
+void qt_screen::sync_soon() {
+  if (std::exchange(syncing_soon_, true)) return;
   const auto when_reached = [this] {
-    catching_up_soon_ = false;
-    catch_up();
+    syncing_soon_ = false;
+    if (!forms_layer::handler_running()) sync();
   };
   QMetaObject::invokeMethod(&receiver_, when_reached, Qt::QueuedConnection);
 }
 
-void qt_screen::catch_up() {
-  views_.catch_up();
-  if (!noted_forms_.empty()) catch_up_forms();
+void qt_screen::sync() {
+  views_.sync();
+  sync_forms();
   if (!forms_layer::handler_running()) give_focus();
 }
 
-// What comes is shown before what goes is hidden, so that the user never sees nothing at all.
-void qt_screen::catch_up_forms() {
-  const std::vector<forms_layer::form*> noted = std::exchange(noted_forms_, {});
-  for (forms_layer::form* form : noted) {
+// The start of a handler counts as a frame: the end of the one before has brought everything.
+void qt_screen::show_frame_if_due() {
+  const auto began = forms_layer::handler_began();
+  const auto now = std::chrono::steady_clock::now();
+  if (now - std::max(last_frame_, began) < frame_time) return;
+  views_.sync();
+  if (now - began >= window_delay) sync_forms();
+  pump_window_system();
+  sync_soon();
+  last_frame_ = std::chrono::steady_clock::now();
+}
+
+// Show new windows before hiding old ones, so that the screen is never empty.
+void qt_screen::sync_forms() {
+  const std::vector<forms_layer::form*> dirty = std::exchange(dirty_forms_, {});
+  for (forms_layer::form* form : dirty) {
     if (form->Visible()) show_window(*form);
   }
-  for (forms_layer::form* form : noted) {
+  for (forms_layer::form* form : dirty) {
     if (!form->Visible()) hide_window(*form);
   }
 }
 
 void qt_screen::show_window(forms_layer::form& shown) {
   form_window& window = made_window(shown);
-  window.show_caption();
   if (window.isVisible()) return;
   form_window* owner = topmost(&shown);
   if (main_ == nullptr) main_ = &window;
   on_screen_.push_back(&window);
-  window.come_up(owner == nullptr ? nullptr : owner->windowHandle(), main_,
-                 !forms_layer::handler_running());
+  window.show_over(owner == nullptr ? nullptr : owner->windowHandle(), main_,
+                   forms_layer::handler_running());
 }
 
 void qt_screen::hide_window(forms_layer::form& shown) {
   form_window* window = window_of(shown);
-  if (window == nullptr) return;
-  window->show_caption();
-  if (!window->isVisible()) return;
+  if (window == nullptr || !window->isVisible()) return;
   const bool was_active = window->isActiveWindow();
   std::erase(on_screen_, window);
   for (form_window* other : on_screen_) {
     QWindow* handle = other->windowHandle();
     if (handle->transientParent() == window->windowHandle()) handle->setTransientParent(nullptr);
   }
-  window->go_away();
+  window->hide_window();
   // Not every window manager hands the focus on.
   form_window* next = topmost(nullptr);
   if (was_active && next != nullptr) next->take_focus();
@@ -113,7 +133,7 @@ form_window& qt_screen::made_window(forms_layer::form& shown) {
   std::unique_ptr<form_window>& window = windows_[&shown];
   if (window == nullptr) {
     window = std::make_unique<form_window>(shown, views_);
-    for (forms_layer::timer* timer : shown.timers) timers_.follow(*timer);
+    for (forms_layer::timer* timer : shown.timers) timers_.sync(*timer);
   }
   return *window;
 }
@@ -125,7 +145,7 @@ form_window* qt_screen::topmost(const forms_layer::form* but) const {
   return at == on_screen_.rend() ? nullptr : *at;
 }
 
-// Windows that came up in the middle of a handler and stay get the focus when it is done.
+// Windows that were shown in the middle of a handler and stay get the focus at its end.
 void qt_screen::give_focus() {
   for (form_window* window : on_screen_) {
     if (window->wants_focus()) window->take_focus();

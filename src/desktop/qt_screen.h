@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <chrono>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -14,8 +15,10 @@
 
 namespace desktop {
 
-// Shows the tool's forms with Qt. What the tool writes is only noted at first; it comes to the
-// screen in one go when the tool asks for it, or when its handler is done.
+// Shows the tool's forms with Qt. Properties that the tool writes are marked dirty; the screen
+// follows at the end of the handler, before a message box, and with a frame every 16 ms while the
+// handler asks for a refresh. A window that a handler shows is mapped once the handler has lasted
+// 100 ms, or at its end or a message box if it is still visible then.
 class qt_screen : public forms_layer::screen {
  public:
   qt_screen();
@@ -34,9 +37,10 @@ class qt_screen : public forms_layer::screen {
   form_window* window_of(const forms_layer::form& shown) const;
 
  private:
-  void catch_up_soon();
-  void catch_up();
-  void catch_up_forms();
+  void sync_soon();
+  void sync();
+  void sync_forms();
+  void show_frame_if_due();
   void show_window(forms_layer::form& shown);
   void hide_window(forms_layer::form& shown);
   form_window& made_window(forms_layer::form& shown);
@@ -44,14 +48,15 @@ class qt_screen : public forms_layer::screen {
   void give_focus();
 
   QObject receiver_;
-  bool catching_up_soon_ = false;
-  input_filter gate_;
+  bool syncing_soon_ = false;
+  std::chrono::steady_clock::time_point last_frame_;
+  input_filter filter_;
   timers timers_;
   views views_;
   std::unordered_map<const forms_layer::form*, std::unique_ptr<form_window>> windows_;
   form_window* main_ = nullptr;          // the first one shown
   std::vector<form_window*> on_screen_;  // the latest one shown comes last
-  std::vector<forms_layer::form*> noted_forms_;
+  std::vector<forms_layer::form*> dirty_forms_;
   forms_layer::form* takes_focus_ = nullptr;
 };
 

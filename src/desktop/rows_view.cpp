@@ -2,10 +2,11 @@
 
 #include <QHelpEvent>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "desktop/designed_look.h"
 #include "desktop/keys.h"
@@ -16,26 +17,43 @@ namespace desktop {
 
 namespace {
 
-constexpr int text_margin = 2;
+constexpr int icon_side = 16;
+constexpr int text_margins = 6;
+
+// Qt's own painting of a row, moved to the right by its indent.
+class indenting : public QStyledItemDelegate {
+ public:
+  explicit indenting(rows_view& view) : QStyledItemDelegate(&view), view_(view) {}
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->rect.adjust(view_.indent(index.row()), 0, 0, 0);
+  }
+
+ private:
+  const rows_view& view_;
+};
 
 }  // namespace
 
 rows_view::rows_view(forms_layer::control& shown, QWidget* parent)
-    : QListView(parent), control_view(shown), model_(*this), painter_(*this) {
+    : QListView(parent), control_view(shown), model_(*this) {
   setFont(font_for(shown.designed.font));
   setModel(&model_);
-  setItemDelegate(&painter_);
+  setItemDelegate(new indenting(*this));
+  setIconSize(QSize(icon_side, icon_side));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
   setHorizontalScrollMode(ScrollPerPixel);
 }
 
-int rows_view::row_height() const { return fontMetrics().height() + 1; }
-
 void rows_view::show_content() {
-  width_ = widest_row();
+  row_size_ = needed_size();
+  pressed_row_ = -1;
   model_.reload();
+  scrollToTop();
 }
 
 void rows_view::show_selection() {
@@ -59,18 +77,19 @@ void rows_view::choose(int row) {
 
 void rows_view::mousePressEvent(QMouseEvent* event) {
   const QModelIndex pressed = indexAt(event->position().toPoint());
+  pressed_row_ = pressed.row();
   if (event->button() != Qt::LeftButton || !pressed.isValid()) return;
-  const int row = pressed.row();
   setCurrentIndex(pressed);
-  choose(row);
+  choose(pressed.row());
 }
 
 // A drag does not select.
 void rows_view::mouseMoveEvent(QMouseEvent* /*event*/) {}
 
+// The first press may have scrolled another row under the mouse.
 void rows_view::mouseDoubleClickEvent(QMouseEvent* event) {
-  const QModelIndex pressed = indexAt(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && pressed.isValid()) row_double_clicked(pressed.row());
+  const int row = std::exchange(pressed_row_, -1);
+  if (event->button() == Qt::LeftButton && row >= 0) row_double_clicked(row);
 }
 
 void rows_view::keyPressEvent(QKeyEvent* event) {
@@ -79,7 +98,7 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
     return;
   }
   // Qt makes the first row the current one when the list gets the focus; the first arrow key
-  // should come to it and not behind it.
+  // selects that row and not the one after it.
   if (!selectionModel()->hasSelection()) setCurrentIndex({});
   const int before = currentIndex().row();
   QListView::keyPressEvent(event);
@@ -93,7 +112,14 @@ bool rows_view::viewportEvent(QEvent* event) {
   return true;
 }
 
-int rows_view::widest_row() const {
+// Ctrl with Space or an arrow key would take the highlight away.
+QItemSelectionModel::SelectionFlags rows_view::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+// As wide as the widest row. Qt would lay out the text of each.
+QSize rows_view::needed_size() const {
   std::array<int, 256> widths{};
   for (std::size_t c = 0; c < widths.size(); ++c) {
     const char text[] = {static_cast<char>(c)};
@@ -105,7 +131,9 @@ int rows_view::widest_row() const {
     for (const char c : row_text(row)) width += widths[static_cast<unsigned char>(c)];
     widest = std::max(widest, width);
   }
-  return widest + 2 * text_margin;
+  const QSize text(widest + text_margins, fontMetrics().height() + 1);
+  if (row_count() == 0 || row_icon(0).isNull()) return text;
+  return {text.width() + icon_side + text_margins, std::max(text.height(), icon_side)};
 }
 
 void rows_view::rows_model::reload() {
@@ -119,31 +147,18 @@ int rows_view::rows_model::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant rows_view::rows_model::data(const QModelIndex& index, int role) const {
-  // The control may have lost rows that the screen has not caught up with.
-  if (role != Qt::DisplayRole || index.row() >= view_.row_count()) return {};
-  return to_screen(view_.row_text(index.row()));
-}
-
-void rows_view::rows_painter::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                                    const QModelIndex& index) const {
-  if (index.row() >= view_.row_count()) return;
-  const bool selected = (option.state & QStyle::State_Selected) != 0;
-  const auto group = view_.isEnabled() ? QPalette::Active : QPalette::Disabled;
-  if (selected) painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
-  const int indent = view_.indent(index.row());
-  QRect inside = option.rect.adjusted(text_margin, 0, 0, 0);
-  if (indent > 0) view_.paint_mark(*painter, inside, index.row());
-  inside.adjust(indent, 0, 0, 0);
-  const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
-  painter->setPen(option.palette.color(group, role));
-  painter->setFont(option.font);
-  painter->drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                    index.data().toString());
-}
-
-QSize rows_view::rows_painter::sizeHint(const QStyleOptionViewItem& /*option*/,
-                                        const QModelIndex& /*index*/) const {
-  return {view_.width_, view_.row_height()};
+  // The control may have lost rows that the screen does not know of yet.
+  if (index.row() >= view_.row_count()) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      return to_screen(view_.row_text(index.row()));
+    case Qt::DecorationRole:
+      return view_.row_icon(index.row());
+    case Qt::SizeHintRole:
+      return view_.row_size();
+    default:
+      return {};
+  }
 }
 
 }  // namespace desktop

@@ -2,15 +2,14 @@
 
 #include <QAbstractListModel>
 #include <QListView>
-#include <QStyledItemDelegate>
 #include <string_view>
 
 #include "desktop/control_view.h"
 
 namespace desktop {
 
-// A list of rows of text. What the rows are and what choosing one means is for its heirs to say.
-// The rows are read from the control as they come into sight, so that long lists cost nothing.
+// A list of rows of text; subclasses supply the rows and what selecting one does. A row is read
+// from the control when it is painted, so a long list costs nothing.
 class rows_view : public QListView, public control_view {
  public:
   rows_view(forms_layer::control& shown, QWidget* parent);
@@ -19,10 +18,10 @@ class rows_view : public QListView, public control_view {
   // The text in the tool's code page.
   virtual std::string_view row_text(int row) const = 0;
   virtual int row_count() const = 0;
-  // What stands left of a row's text: how many pixels it takes, and its painting.
+  // An icon before the text, and the pixels to the left of both.
+  virtual QIcon row_icon(int /*row*/) const { return {}; }
   virtual int indent(int /*row*/) const { return 0; }
-  virtual void paint_mark(QPainter& /*painter*/, const QRect& /*where*/, int /*row*/) const {}
-  virtual int row_height() const;
+  QSize row_size() const { return row_size_; }
 
  protected:
   virtual int selected_row() const = 0;
@@ -40,6 +39,8 @@ class rows_view : public QListView, public control_view {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
 
  private:
   class rows_model : public QAbstractListModel {
@@ -54,23 +55,12 @@ class rows_view : public QListView, public control_view {
     int count_ = 0;
   };
 
-  class rows_painter : public QStyledItemDelegate {
-   public:
-    explicit rows_painter(const rows_view& view) : view_(view) {}
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-
-   private:
-    const rows_view& view_;
-  };
-
   void choose(int row);
-  int widest_row() const;
+  QSize needed_size() const;
 
   rows_model model_;
-  rows_painter painter_;
-  int width_ = 0;
+  QSize row_size_;
+  int pressed_row_ = -1;
 };
 
 }  // namespace desktop

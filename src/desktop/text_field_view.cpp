@@ -12,8 +12,6 @@ namespace desktop {
 text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
     : QLineEdit(parent), control_view(shown), box_(shown) {
   setFont(font_for(shown.designed.font));
-  // As desktop_style paints it. Nothing beneath has to be painted with it.
-  setAttribute(Qt::WA_OpaquePaintEvent);
   setReadOnly(shown.designed.locked);
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
   connect(this, &QLineEdit::textEdited, this, [this] { take_edit(); });
@@ -27,14 +25,14 @@ void text_field_view::take_edit() {
 
 void text_field_view::show_content() {
   const QString now = to_screen(box_.Text());
-  // The limit holds for what the user types, not for what the tool writes.
+  // The limit holds for what the user adds, not for what the tool writes.
   const int limit = box_.designed.max_length;
   if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
+  setPlaceholderText(to_screen(box_.Placeholder()));
   if (now == text()) return;
   const int cursor = cursorPosition();
   setText(now);
-  if (hasFocus()) setCursorPosition(cursor);
-  if (!hasFocus()) setCursorPosition(0);
+  setCursorPosition(hasFocus() ? cursor : 0);
 }
 
 void text_field_view::show_colours() {

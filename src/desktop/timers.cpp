@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-void timers::follow(forms_layer::timer& written) {
+void timers::sync(forms_layer::timer& written) {
   const auto [at, is_new] = running_.try_emplace(&written);
   QTimer& timer = at->second;
   if (is_new) {
@@ -12,12 +12,8 @@ void timers::follow(forms_layer::timer& written) {
     QObject::connect(&timer, &QTimer::timeout, &timer,
                      [&written] { forms_layer::user::tick(written); });
   }
-  const int interval = written.Interval();
-  if (!written.Enabled() || interval <= 0) {
-    timer.stop();
-  } else if (!timer.isActive() || timer.interval() != interval) {
-    timer.start(interval);
-  }
+  timer.stop();
+  if (written.Enabled() && written.Interval() > 0) timer.start(written.Interval());
 }
 
 }  // namespace desktop

@@ -10,9 +10,8 @@ namespace desktop {
 // Makes the timers of the forms tick.
 class timers {
  public:
-  // Goes by what the timer's properties are now. A running one keeps its pace unless its interval
-  // is another one now.
-  void follow(forms_layer::timer& written);
+  // Stops or restarts the QTimer of one whose properties were written.
+  void sync(forms_layer::timer& written);
 
  private:
   std::map<forms_layer::timer*, QTimer> running_;

@@ -3,57 +3,63 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/accessible_name.h"
 #include "desktop/frame_view.h"
 #include "desktop/make_view.h"
+#include "desktop/screen_text.h"
 
 namespace desktop {
 
 namespace {
 
-bool has_caption(const forms_layer::control& shown) {
-  return shown.kind == forms_layer::control_kind::frame ||
-         shown.kind == forms_layer::control_kind::label ||
-         shown.kind == forms_layer::control_kind::button;
+using forms_layer::control_kind;
+
+// What a screen reader calls a control without a caption.
+QString spoken_name(const forms_layer::control& shown) {
+  if (!shown.designed.spoken_name.empty()) return to_screen(shown.designed.spoken_name);
+  if (shown.kind == control_kind::drive_list) return QStringLiteral("Drives");
+  if (shown.kind == control_kind::dir_list) return QStringLiteral("Folders");
+  if (shown.kind == control_kind::file_list) return QStringLiteral("Files");
+  return {};
 }
 
 }  // namespace
 
-void views::make_all(forms_layer::container& shown, surface& ground) {
-  grounds_[&shown] = &ground;
+void views::make_all(forms_layer::container& shown, canvas& on) {
+  canvases_[&shown] = &on;
   for (forms_layer::control* control : shown.controls()) {
-    control_view* view = make_view(*control, &ground);
+    control_view* view = make_view(*control, &on);
     if (view == nullptr) continue;
     all_.push_back(view);
     by_control_[control] = view;
+    view->widget().setAccessibleName(spoken_name(*control));
     view->show_all();
-    if (!has_caption(*control)) view->widget().setAccessibleName(accessible_name(*control));
-    if (control->kind == forms_layer::control_kind::frame) {
-      make_all(static_cast<forms_layer::frame&>(*control), static_cast<frame_view&>(*view));
+    if (control->kind == control_kind::frame) {
+      make_all(static_cast<forms_layer::frame&>(*control),
+               static_cast<frame_view&>(*view).inside());
     }
   }
 }
 
-bool views::note(forms_layer::control& written, forms_layer::property_id what) {
-  if (written.kind == forms_layer::control_kind::picture_box) {
-    return note_picture(static_cast<forms_layer::picture_box&>(written));
+bool views::mark_dirty(forms_layer::control& written, forms_layer::property_id what) {
+  if (written.kind == control_kind::picture_box) {
+    return mark_picture_dirty(static_cast<forms_layer::picture_box&>(written));
   }
   const auto at = by_control_.find(&written);
-  if (at == by_control_.end() || !at->second->note(what)) return false;
-  noted_.push_back(at->second);
+  if (at == by_control_.end() || !at->second->mark_dirty(what)) return false;
+  dirty_.push_back(at->second);
   return true;
 }
 
-bool views::note_picture(forms_layer::picture_box& box) {
-  const auto at = grounds_.find(&box.parent);
-  if (at == grounds_.end() || !at->second->note(box)) return false;
-  noted_grounds_.push_back(at->second);
+bool views::mark_picture_dirty(forms_layer::picture_box& box) {
+  const auto at = canvases_.find(&box.parent);
+  if (at == canvases_.end() || !at->second->mark_dirty(box)) return false;
+  dirty_canvases_.push_back(at->second);
   return true;
 }
 
-void views::catch_up() {
-  for (control_view* view : std::exchange(noted_, {})) view->catch_up();
-  for (surface* ground : std::exchange(noted_grounds_, {})) ground->catch_up_pictures();
+void views::sync() {
+  for (control_view* view : std::exchange(dirty_, {})) view->sync();
+  for (canvas* dirty : std::exchange(dirty_canvases_, {})) dirty->sync_pictures();
 }
 
 void views::show_all() {
@@ -70,7 +76,7 @@ std::vector<QWidget*> views::in_tab_order(const forms_layer::form& shown) const 
   });
   std::vector<QWidget*> widgets;
   widgets.reserve(in_order.size());
-  for (control_view* view : in_order) widgets.push_back(&view->widget());
+  for (control_view* view : in_order) widgets.push_back(&view->focus_widget());
   return widgets;
 }
 

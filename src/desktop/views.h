@@ -4,21 +4,20 @@
 #include <unordered_map>
 #include <vector>
 
+#include "desktop/canvas.h"
 #include "desktop/control_view.h"
-#include "desktop/surface.h"
 
 namespace desktop {
 
-// All widgets that show controls, by control, and which of them have to catch up with theirs.
+// All widgets that show controls, by control, and which of them are dirty.
 class views {
  public:
-  // Makes widgets for all controls of a container, and for those in its frames. `ground` is the
-  // surface that shows the container.
-  void make_all(forms_layer::container& shown, surface& ground);
+  // Makes widgets on the canvas for all controls of its container, and for those in its frames.
+  void make_all(forms_layer::container& shown, canvas& on);
 
-  // A control without a widget is passed over. True if there was nothing to catch up with before.
-  bool note(forms_layer::control& written, forms_layer::property_id what);
-  void catch_up();
+  // A control without a widget is skipped. True if it had no dirty property before.
+  bool mark_dirty(forms_layer::control& written, forms_layer::property_id what);
+  void sync();
 
   // For a new theme.
   void show_all();
@@ -27,13 +26,13 @@ class views {
   std::vector<QWidget*> in_tab_order(const forms_layer::form& shown) const;
 
  private:
-  bool note_picture(forms_layer::picture_box& box);
+  bool mark_picture_dirty(forms_layer::picture_box& box);
 
   std::vector<control_view*> all_;
   std::unordered_map<const forms_layer::control*, control_view*> by_control_;
-  std::unordered_map<const forms_layer::container*, surface*> grounds_;
-  std::vector<control_view*> noted_;
-  std::vector<surface*> noted_grounds_;
+  std::unordered_map<const forms_layer::container*, canvas*> canvases_;
+  std::vector<control_view*> dirty_;
+  std::vector<canvas*> dirty_canvases_;
 };
 
 }  // namespace desktop

@@ -41,10 +41,10 @@ void sort_folded(std::vector<std::string>& names) {
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
 }
 
-std::vector<listed_entry> listed_in(const std::string& path) {
+std::vector<listed_entry> listed_in(const file_path& folder) {
   std::vector<listed_entry> listed;
-  const int failed = file_calls::list(system_path(path), listed);
-  if (failed < 0) file_calls::fail(path, " cannot be read: ", failed);
+  const int failed = file_calls::list(folder.system, listed);
+  if (failed < 0) file_calls::fail(folder.shown, " cannot be read: ", failed);
   return listed;
 }
 
@@ -55,9 +55,9 @@ const char* unlisted_reason(const listed_entry& entry, const std::optional<std::
   return entry.is_hidden ? "it is hidden" : "";
 }
 
-std::vector<std::string> sorted_names(const std::string& path, bool listed_entry::*is_wanted) {
+std::vector<std::string> sorted_names(const file_path& folder, bool listed_entry::*is_wanted) {
   std::vector<std::string> names;
-  for (const listed_entry& entry : listed_in(path)) {
+  for (const listed_entry& entry : listed_in(folder)) {
     if (!(entry.*is_wanted)) continue;
     std::optional<std::string> name = name_as_text(entry.name);
     if (*unlisted_reason(entry, name) == '\0') names.push_back(std::move(*name));
@@ -91,18 +91,27 @@ void create_folder(const std::string& path) {
 }
 
 std::vector<std::string> folders_in(const std::string& path) {
-  return sorted_names(path, &listed_entry::is_folder);
+  return sorted_names({system_path(path), path}, &listed_entry::is_folder);
 }
 
 std::vector<std::string> files_in(const std::string& path) {
-  return sorted_names(path, &listed_entry::is_file);
+  return files_in(file_path{system_path(path), path});
+}
+
+std::vector<std::string> files_in(const file_path& folder) {
+  return sorted_names(folder, &listed_entry::is_file);
 }
 
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
                                              const std::vector<std::string>& listed) {
+  return unlisted_files_in(file_path{system_path(path), path}, listed);
+}
+
+std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
+                                             const std::vector<std::string>& listed) {
   const std::unordered_set<std::string_view> known(listed.begin(), listed.end());
   std::vector<unlisted_file> unlisted;
-  for (const listed_entry& entry : listed_in(path)) {
+  for (const listed_entry& entry : listed_in(folder)) {
     if (!entry.is_file) continue;
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);

@@ -22,6 +22,7 @@ void create_folder(const std::string& path);
 // names that the code page cannot represent are left out. Both throw file_error.
 std::vector<std::string> folders_in(const std::string& path);
 std::vector<std::string> files_in(const std::string& path);
+std::vector<std::string> files_in(const file_path& folder);
 
 struct unlisted_file {
   std::string name;    // "?" replaces a character that the code page lacks
@@ -30,6 +31,8 @@ struct unlisted_file {
 
 // The regular files in a folder that `listed` does not contain, sorted by name. Throws file_error.
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
+                                             const std::vector<std::string>& listed);
+std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<std::string>& listed);
 
 // Ignores case. "*" matches any number of characters, "?" exactly one.

@@ -48,12 +48,12 @@ bool is_temporary_of(const fs::path& target, const fs::path& name) {
   const fs::path::string_type stem = stem_of(target);
   const fs::path::string_type ending = fs::path(temporary_ending).native();
   const fs::path::string_type& text = name.native();
-  if (text.size() < stem.size() + ending.size() || !text.starts_with(stem)) return false;
-  return text.ends_with(ending) &&
-         std::all_of(text.begin() + static_cast<std::ptrdiff_t>(stem.size()),
-                     text.end() - static_cast<std::ptrdiff_t>(ending.size()), [](auto c) {
-                       return c == '.' || (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
-                     });
+  if (text == stem + ending) return true;  // an earlier version's
+  if (text.size() <= stem.size() + 1 + ending.size()) return false;
+  const auto digits = text.begin() + static_cast<std::ptrdiff_t>(stem.size()) + 1;
+  const auto is_digit = [](auto c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
+  return text.starts_with(stem) && text[stem.size()] == '.' && text.ends_with(ending) &&
+         std::all_of(digits, text.end() - static_cast<std::ptrdiff_t>(ending.size()), is_digit);
 }
 
 }  // namespace files

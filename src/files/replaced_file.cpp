@@ -111,7 +111,8 @@ void replaced_file::respell(const fs::path& target) {
   std::vector<listed_entry> listed;
   file_calls::list(kept.parent_path(), listed);
   for (const listed_entry& entry : listed) {
-    if (entry.is_folder || upper_case_name(entry.name) != folded) continue;
+    if (entry.is_folder || entry.name == kept.filename().native()) continue;
+    if (upper_case_name(entry.name) != folded || is_own(kept) != 1) continue;
     const fs::path other = kept.parent_path() / entry.name;
     if (is_own(other) == 0) file_calls::remove_file(other);
   }

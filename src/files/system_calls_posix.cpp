@@ -55,11 +55,14 @@ std::int64_t seek_to(int file, std::int64_t offset) {
 int set_size(int file, std::int64_t size) { return result(ftruncate(file, size)); }
 
 void fill(file_info& info, const struct stat& status) {
-  constexpr std::int64_t nanoseconds_per_second = 1000000000;
+  constexpr std::uint64_t nanoseconds_per_second = 1000000000;
   info.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
                          static_cast<std::uint64_t>(status.st_ino)};
   info.stamp.size = status.st_size;
-  info.stamp.modified = status.st_mtim.tv_sec * nanoseconds_per_second + status.st_mtim.tv_nsec;
+  // Unsigned, as a time after the year 2262 has no such number; all that counts is a difference.
+  info.stamp.modified = static_cast<std::int64_t>(
+      static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanoseconds_per_second +
+      static_cast<std::uint64_t>(status.st_mtim.tv_nsec));
   info.is_file = S_ISREG(status.st_mode);
   info.permissions = status.st_mode & 07777U;
   info.owner = status.st_uid;

@@ -51,10 +51,14 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const file_path& path) {
+text_writer::text_writer(const file_path& path, const file_identity& spared) {
   const bool replaces = exists(path);
   // Fails if the old file is read-only, which replacing it would not.
   if (replaces) old_file_.open_to_write(path);
+  if (replaces && old_file_.info().stamp.identity == spared) {
+    throw file_error(file_error_number::permission_denied,
+                     path.shown + " cannot be written: it leads to the open archive.");
+  }
   try {
     new_file_.emplace(resolve_links(path));
     old_file_.abandon();

@@ -33,8 +33,9 @@ class text_reader {
 // then leaves a part of the lines. All operations throw file_error.
 class text_writer {
  public:
-  // Throws if the old file is read-only.
-  explicit text_writer(const file_path& path);
+  // Throws if the old file is read-only, or if `path` leads to the file `spared`, which must not be
+  // overwritten.
+  explicit text_writer(const file_path& path, const file_identity& spared = {});
 
   // `line` has no line end.
   void write_line(std::string_view line);

@@ -20,14 +20,16 @@ struct form1 : forms_layer::form {
        .at = {0, 735, 1695, 5715},
        .tab_index = 0,
        .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
-       .back_color = pale_green}};
+       .back_color = pale_green,
+       .spoken_name = "Entries"}};
   forms_layer::text_box Text1{*this,
                               {.name = "Text1",
                                .at = {945, 420, 750, 285},
                                .tab_index = 1,
                                .tool_tip = "Displays the number of files in your Ostrane.dat file.",
                                .back_color = forms_layer::system_menu,
-                               .locked = true}};
+                               .locked = true,
+                               .spoken_name = "# of files:"}};
   forms_layer::label Label1{
       *this, {.name = "Label1", .at = {0, 420, 855, 255}, .tab_index = 2, .text = "# of files:"}};
   forms_layer::frame Frame1{
@@ -58,7 +60,8 @@ struct form1 : forms_layer::form {
        .tool_tip = "Displays the number of pictures in the selected s16-file",
        .back_color = forms_layer::system_menu,
        .locked = true,
-       .centred = true}};
+       .centred = true,
+       .spoken_name = "Tot # of Icon in s16"}};
   forms_layer::label Label3{Frame1,
                             {.name = "Label3",
                              .at = {2640, 240, 1575, 255},
@@ -71,7 +74,8 @@ struct form1 : forms_layer::form {
                                .tool_tip = "Displays the current picture-number in the s16-file.",
                                .back_color = forms_layer::system_menu,
                                .locked = true,
-                               .centred = true}};
+                               .centred = true,
+                               .spoken_name = "Displayed picture #"}};
   forms_layer::text_box Text4{
       Frame1,
       {.name = "Text4",
@@ -79,7 +83,8 @@ struct form1 : forms_layer::form {
        .tab_index = 10,
        .tool_tip = "Type in the interval between display of pictures. (* 1/100 seconds)",
        .back_color = forms_layer::system_window,
-       .max_length = 2}};
+       .max_length = 2,
+       .spoken_name = "1/100 sec"}};
   forms_layer::button Command4{
       Frame1,
       {.name = "Command4",
@@ -113,7 +118,8 @@ struct form1 : forms_layer::form {
                    "too many, you might crash due to memory problems, 128MB RAM has a max of about "
                    "300)",
        .back_color = forms_layer::system_window,
-       .max_length = 3}};
+       .max_length = 3,
+       .spoken_name = "Max icons:"}};
   forms_layer::label Label5{
       *this, {.name = "Label5", .at = {0, 105, 855, 255}, .tab_index = 16, .text = "Max icons:"}};
   forms_layer::text_box Text6{Frame1,
@@ -121,7 +127,8 @@ struct form1 : forms_layer::form {
                                .at = {120, 840, 7095, 5535},
                                .tab_index = 17,
                                .back_color = forms_layer::system_window,
-                               .multi_line = true}};
+                               .multi_line = true,
+                               .spoken_name = "Text of the entry"}};
 
   forms_layer::timer Timer1{*this, "Timer1", 500, true};
 

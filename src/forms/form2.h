@@ -45,7 +45,8 @@ struct form2 : forms_layer::form {
        .at = {2400, 3600, 2175, 495},
        .tab_index = 4,
        .text = "Cancel",
-       .tool_tip = "No - I'm not curieous, I wouldn't want to know what's inside."}};
+       .tool_tip = "No - I'm not curieous, I wouldn't want to know what's inside.",
+       .cancel = true}};
 };
 
 extern form2 Form2;

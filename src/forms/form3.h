@@ -12,11 +12,18 @@ struct form3 : forms_layer::form {
                              {.name = "message",
                               .at = {120, 120, 7215, 3135},
                               .tab_index = 0,
-                              .font = {.name = "Courier New", .points = 9.75, .bold = true}}};
-  forms_layer::progress_bar ProgressBar1{
-      *this, {.name = "ProgressBar1", .at = {105, 3675, 7155, 330}, .tab_index = 1}};
-  forms_layer::progress_bar ProgressBar2{
-      *this, {.name = "ProgressBar2", .at = {105, 4410, 7155, 330}, .tab_index = 2}};
+                              .font = {.name = "Courier New", .points = 9.75, .bold = true},
+                              .cancel = true}};
+  forms_layer::progress_bar ProgressBar1{*this,
+                                         {.name = "ProgressBar1",
+                                          .at = {105, 3675, 7155, 330},
+                                          .tab_index = 1,
+                                          .spoken_name = "Current File Progress"}};
+  forms_layer::progress_bar ProgressBar2{*this,
+                                         {.name = "ProgressBar2",
+                                          .at = {105, 4410, 7155, 330},
+                                          .tab_index = 2,
+                                          .spoken_name = "Total File Progress"}};
   forms_layer::label Label1{*this,
                             {.name = "Label1",
                              .at = {105, 4095, 7155, 330},

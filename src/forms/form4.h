@@ -27,7 +27,8 @@ struct form4 : forms_layer::form {
                               {.name = "Text1",
                                .at = {210, 3675, 7050, 330},
                                .tab_index = 3,
-                               .back_color = forms_layer::system_light}};
+                               .back_color = forms_layer::system_light,
+                               .spoken_name = "Current Folder:"}};
   forms_layer::button Command1{*this,
                                {.name = "Command1",
                                 .at = {210, 4200, 2535, 540},
@@ -38,7 +39,8 @@ struct form4 : forms_layer::form {
                               {.name = "Text2",
                                .at = {3465, 4410, 3795, 330},
                                .tab_index = 5,
-                               .back_color = forms_layer::system_window}};
+                               .back_color = forms_layer::system_window,
+                               .spoken_name = "New Folder Name:"}};
   forms_layer::label Label1{*this,
                             {.name = "Label1",
                              .at = {210, 3360, 2220, 225},
@@ -68,7 +70,8 @@ struct form4 : forms_layer::form {
                                 .at = {4305, 2940, 2955, 645},
                                 .tab_index = 10,
                                 .text = "Cancel",
-                                .font = bold_large}};
+                                .font = bold_large,
+                                .cancel = true}};
 };
 
 extern form4 Form4;

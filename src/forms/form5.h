@@ -27,7 +27,8 @@ struct form5 : forms_layer::form {
                               {.name = "Text1",
                                .at = {105, 4305, 4950, 330},
                                .tab_index = 3,
-                               .back_color = forms_layer::system_light}};
+                               .back_color = forms_layer::system_light,
+                               .spoken_name = "Current Folder"}};
   forms_layer::label Label1{*this,
                             {.name = "Label1",
                              .at = {105, 3990, 4740, 225},
@@ -45,7 +46,8 @@ struct form5 : forms_layer::form {
                                 .at = {2625, 4725, 2430, 540},
                                 .tab_index = 6,
                                 .text = "Cancel",
-                                .font = bold_large}};
+                                .font = bold_large,
+                                .cancel = true}};
 };
 
 extern form5 Form5;

@@ -27,14 +27,19 @@ struct form6 : forms_layer::form {
                                 .at = {105, 3255, 2430, 435},
                                 .tab_index = 3,
                                 .text = "Read shiplist and compare"}};
-  forms_layer::button Command2{
-      *this, {.name = "Command2", .at = {2625, 3255, 2115, 435}, .tab_index = 4, .text = "Cancel"}};
+  forms_layer::button Command2{*this,
+                               {.name = "Command2",
+                                .at = {2625, 3255, 2115, 435},
+                                .tab_index = 4,
+                                .text = "Cancel",
+                                .cancel = true}};
   forms_layer::text_box Text1{*this,
                               {.name = "Text1",
                                .at = {2625, 315, 2115, 330},
                                .tab_index = 5,
                                .back_color = forms_layer::system_menu,
-                               .enabled = false}};
+                               .enabled = false,
+                               .spoken_name = "Shiplist"}};
   forms_layer::label Label1{*this,
                             {.name = "Label1",
                              .at = {105, 0, 4635, 330},

@@ -56,7 +56,9 @@ struct design {
   bool multi_line = false;
   int max_length = 0;  // characters; 0 means no limit
   std::string pattern = "*";
-  const char* picture = "";  // name of an image resource that a picture box shows
+  bool cancel = false;           // of a button or a label: Escape clicks it
+  std::string spoken_name = {};  // for screen readers, if the kind of the control is not enough
+  const char* picture = "";      // name of an image resource that a picture box shows
 };
 
 using event = std::function<void()>;

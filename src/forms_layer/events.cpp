@@ -20,6 +20,7 @@ struct queued_event {
 
 std::deque<queued_event> queue;
 bool running = false;
+std::chrono::steady_clock::time_point began;
 
 // Resets `running` even if an exception other than std::exception leaves a handler.
 struct running_guard {
@@ -30,6 +31,7 @@ struct running_guard {
 };
 
 void run_one(const std::function<void()>& handler) {
+  began = std::chrono::steady_clock::now();
   try {
     handler();
   } catch (const std::bad_alloc&) {
@@ -60,6 +62,8 @@ void run_event(const std::function<void()>& handler, const void* key) {
 }
 
 bool handler_running() { return running; }
+
+std::chrono::steady_clock::time_point handler_began() { return began; }
 
 void clear_events() {
   queue.clear();

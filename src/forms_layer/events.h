@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 namespace forms_layer {
@@ -12,6 +13,9 @@ void run_event(const std::function<void()>& handler, const void* key = nullptr);
 
 // True while a handler runs, which includes its message boxes.
 bool handler_running();
+
+// When the running handler, or else the latest one, began.
+std::chrono::steady_clock::time_point handler_began();
 
 // Clears the queue. For begin_process.
 void clear_events();

@@ -12,6 +12,8 @@ class text_box : public control {
         Text(*this, as_designed.text) {}
 
   property<std::string, property_id::text, control> Text;
+  // Shown in grey while Text is empty.
+  property<std::string, property_id::text, control> Placeholder{*this, ""};
 };
 
 }  // namespace forms_layer

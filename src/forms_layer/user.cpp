@@ -1,5 +1,7 @@
 #include "forms_layer/user.h"
 
+#include <algorithm>
+
 #include "forms_layer/events.h"
 
 namespace forms_layer::user {
@@ -17,6 +19,22 @@ void move_focus(control* to) {
   control* from = focused;
   focused = to;
   if (from != nullptr) raise(from->LostFocus);
+}
+
+// `after` an edit of `before`, without those of the added characters that go beyond the limit. What
+// was longer before may stay.
+std::string limited(const std::string& before, const std::string& after, std::size_t limit) {
+  const std::size_t shorter = std::min(before.size(), after.size());
+  std::size_t head = 0;
+  while (head < shorter && before[head] == after[head]) ++head;
+  std::size_t tail = 0;
+  while (head + tail < shorter &&
+         before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) {
+    ++tail;
+  }
+  const std::size_t room = limit - std::min(limit, head + tail);
+  return after.substr(0, std::min(head + room, after.size() - tail)) +
+         after.substr(after.size() - tail);
 }
 
 void reload_lists(form& window) {
@@ -51,6 +69,15 @@ void click(menu_item& picked) {
   });
 }
 
+void cancel(form& window) {
+  for (control* c : window.controls()) {
+    if (!c->designed.cancel) continue;
+    c->kind == control_kind::button ? click(static_cast<button&>(*c))
+                                    : click(static_cast<label&>(*c));
+    return;
+  }
+}
+
 void double_click(picture_array& array, std::int32_t index) {
   run_event([&array, index] {
     if (array(index).takes_input() && array.DblClick) array.DblClick(index);
@@ -77,7 +104,7 @@ void type(text_box& field, const std::string& text) {
     if (!field.takes_input() || field.designed.locked) return;
     move_focus(&field);
     const auto limit = static_cast<std::size_t>(field.designed.max_length);
-    field.Text = limit > 0 ? text.substr(0, limit) : text;
+    field.Text = limit > 0 ? limited(field.Text(), text, limit) : text;
   });
 }
 

@@ -14,6 +14,9 @@ void click(button& pressed);
 void click(label& pressed);
 void click(menu_item& picked);
 
+// Escape: clicks the control of the form whose design says `cancel`, if there is one.
+void cancel(form& window);
+
 // Element `index` must be loaded.
 void double_click(picture_array& array, std::int32_t index);
 
@@ -22,7 +25,8 @@ void select_row(list_box& list, std::int32_t row);
 // The second click of a double click; call `select_row` for the first one.
 void double_click(list_box& list, std::int32_t row);
 
-// `text` is the whole content after the edit. It is cut at `max_length`; a locked field ignores it.
+// `text` is the whole content after the edit. What the user added beyond `max_length` is cut; a
+// locked field ignores it.
 void type(text_box& field, const std::string& text);
 
 // Moves the focus to a control, or to none if null. The control that had it gets LostFocus.

@@ -2,11 +2,12 @@
 
 namespace ostrane {
 
-// Click on a row of `List1`: shows what the entry holds, by the extension of its name, and puts the
-// name and its description into the caption of `Frame1`.
+// Click on a row of `List1`: shows the entry according to its extension and sets the caption of
+// `Frame1` to its name and description. Reports an unknown kind.
 void show_clicked_entry();
 
-// Double click on a row: draws an icon file once more; other kinds but palettes get the message.
+// Double click on a row: draws an icon file again; ignores a palette; reports any other kind as
+// unknown.
 void show_double_clicked_entry();
 
 }  // namespace ostrane

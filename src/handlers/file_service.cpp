@@ -9,7 +9,7 @@ namespace ostrane {
 
 namespace {
 
-std::vector<std::string> texts_of_drives() {
+std::vector<std::string> drive_texts() {
   files::refresh_drives();
   std::vector<std::string> texts;
   for (const files::drive& found : files::drives()) texts.push_back(files::drive_text(found));
@@ -28,7 +28,7 @@ std::vector<std::string> files_in(const std::string& path, const std::string& pa
 
 void connect_file_service() {
   forms_layer::system_files = {
-      .drives = texts_of_drives,
+      .drives = drive_texts,
       .drive_named_by =
           [](const std::string& text) { return files::drive_text(files::drive_of(text)); },
       .current_folder = files::current_folder,

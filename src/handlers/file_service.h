@@ -2,7 +2,7 @@
 
 namespace ostrane {
 
-// Lets the lists of the forms see the drives of the tool.
+// Connects the drive, folder and file lists of the forms to the file system.
 void connect_file_service();
 
 }  // namespace ostrane

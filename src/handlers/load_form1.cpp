@@ -14,19 +14,19 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int16_t slots_at_start = 12;
-constexpr std::int16_t max_icons_at_start = 300;
+constexpr std::int16_t initial_slots = 12;
+constexpr std::int16_t default_max_icons = 300;
 
-void send_form2_to_drive_c() {
+void set_form2_to_drive_c() {
   try {
     Form2.Dir1.Path = "C:\\";
   } catch (const files::file_error&) {
-    // The dialog opens in the current folder then.
+    // The dialog then starts in the current folder.
   }
 }
 
 void load_first_slots() {
-  for (std::int16_t slot = 1; slot <= slots_at_start; ++slot) load_slot(slot);
+  for (std::int16_t slot = 1; slot <= initial_slots; ++slot) load_slot(slot);
 }
 
 }  // namespace
@@ -34,12 +34,12 @@ void load_first_slots() {
 void load_form1() {
   tool_state.program_title = std::string("Ostrane.dat-tool - ") + version;
   tool_state.app_path = forms_layer::application.Path;
-  tool_state.max_icons = max_icons_at_start;
+  tool_state.max_icons = default_max_icons;
   Form1.Caption = tool_state.program_title;
   Form1.Text5.Text = std::to_string(tool_state.max_icons);
   Form1.Timer1.Enabled = false;
-  send_form2_to_drive_c();
-  Form1.Text4.Text = pace_at_start;
+  set_form2_to_drive_c();
+  Form1.Text4.Text = default_interval_text;
   set_default_palette();
   read_iconlist();
   load_first_slots();

@@ -2,17 +2,17 @@
 
 namespace ostrane {
 
-constexpr const char* pace_at_start = "10";  // in `Text4`, hundredths of a second
+constexpr const char* default_interval_text = "10";  // of `Text4`, hundredths of a second
 
-// Resize of `Form1`: `Frame1`, `List1` and `Text6` follow its outer size (twips); a window too
-// small leaves them as they are.
+// Resize of `Form1`: resizes `Frame1`, `List1` and `Text6` with its outer size (twips). Below a
+// minimum height or width they keep theirs.
 void lay_out_main_window();
 
-// The focus left `Text4`: what is no number goes back to `pace_at_start`.
-void check_pace();
+// LostFocus of `Text4`: resets a text that is not a number to `default_interval_text`.
+void check_interval();
 
-// The focus left `Text5`: a number of 16 bits becomes `max_icons`, all else goes back to what that
-// was.
+// LostFocus of `Text5`: stores a 16-bit number in `max_icons`, rounded half to even; resets any
+// other text to `max_icons`.
 void check_max_icons();
 
 }  // namespace ostrane

@@ -11,13 +11,13 @@
 
 namespace ostrane {
 
-void begin_tool(const std::filesystem::path& program_folder) {
+void start_tool(const std::filesystem::path& program_folder) {
   files::ignore_size_limit_signal();
   forms_layer::begin_process();
   connect_file_service();
   forms_layer::application.Title = "Ostrane.dat-tool";
   forms_layer::application.Path = program_folder;
-  forms_layer::application.OutOfMemory = recover_from_lack_of_memory;
+  forms_layer::application.OutOfMemory = recover_from_out_of_memory;
   reset_state();
   reset_forms();
   wire_forms();

@@ -4,9 +4,8 @@
 
 namespace ostrane {
 
-// Begins the tool as a new process does: all state at its start values, all forms as designed and
-// wired, then start-up itself (the Load event of `Form1`), and `Form1` on the screen.
-// `program_folder` is the folder of the running program.
-void begin_tool(const std::filesystem::path& program_folder);
+// Starts the tool as in a new process: resets the state and the forms, wires them, runs the Load
+// event of `Form1` and shows `Form1`. `program_folder` is the folder of the running program.
+void start_tool(const std::filesystem::path& program_folder);
 
 }  // namespace ostrane

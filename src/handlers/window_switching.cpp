@@ -1,6 +1,7 @@
 #include "handlers/window_switching.h"
 
 #include "archive/index_reader.h"
+#include "files/paths.h"
 #include "forms/forms.h"
 
 namespace ostrane {
@@ -11,6 +12,7 @@ void open_form2() {
 }
 
 void open_form4() {
+  Form4.Text1.Placeholder = files::full_path("\\");
   Form4.Visible = true;
   Form1.Visible = false;
 }

@@ -6,15 +6,16 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "handlers/entry_selection.h"
-#include "handlers/failing_drive.h"
 #include "handlers/load_form1.h"
 #include "handlers/main_window.h"
+#include "handlers/sync_to_drive.h"
 #include "handlers/window_switching.h"
 #include "icons/icon_report.h"
 #include "icons/motion.h"
 #include "icons/series.h"
 #include "lists/compare.h"
-#include "lists/saved_file_list.h"
+#include "lists/save_file_list.h"
+#include "progress/progress.h"
 
 namespace ostrane {
 
@@ -30,7 +31,7 @@ void wire_form1() {
   Form1.mnu_make.Click = open_form5;
   Form1.mnu_save.Click = save_file_list;
   Form1.mnu_read_filelist.Click = open_form6;
-  Form1.Text4.LostFocus = check_pace;
+  Form1.Text4.LostFocus = check_interval;
   Form1.Text5.LostFocus = check_max_icons;
   Form1.List1.Click = show_clicked_entry;
   Form1.List1.DblClick = show_double_clicked_entry;
@@ -49,15 +50,9 @@ void wire_form2() {
   Form2.Command2.Click = [] { cancel_overlay(Form2); };
 }
 
-void wire_form3() {
-  Form3.message.Click = [] {
-    Form3.Visible = false;
-    Form3.Caption = "";
-    Form3.message.Caption = "";
-  };
-}
+void wire_form3() { Form3.message.Click = close_report; }
 
-// Change of the folder of `Form4` and `Form5`.
+// Change of `Dir1` of `Form4` and `Form5`.
 template <typename Form>
 void sync_to_folder(Form& dialog) {
   dialog.File1.Path = dialog.Dir1.Path();

@@ -2,7 +2,7 @@
 
 namespace ostrane {
 
-// Ties every event of the forms to its handler.
+// Connects the events of all forms to their handlers.
 void wire_forms();
 
 }  // namespace ostrane

@@ -2,7 +2,6 @@
 
 #include "data/icon_decoder.h"
 #include "forms/form1.h"
-#include "state/files.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -26,7 +25,7 @@ struct slot_canvas {
 
 void decode_icon() {
   slot_canvas canvas{Form1.s16_image(tool_state.current_slot)};
-  icon_decoder(tool_state.stream, file_1, tool_state.icon_header, canvas).decode();
+  icon_decoder(tool_state.stream, tool_state.archive_file, tool_state.icon_header, canvas).decode();
 }
 
 }  // namespace ostrane

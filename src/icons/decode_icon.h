@@ -2,8 +2,9 @@
 
 namespace ostrane {
 
-// Paints the icon of `icon_header` from its stream (file 1) on the slot `current_slot`, in the
-// colours of `colour_table`. What falls outside the slot is lost. A stream that runs out ends it.
+// Decodes the stream of the icon of `icon_header` from `archive_file` and paints it on the slot
+// `current_slot` in the colours of `colour_table`, clipped to the slot. A stream that ends early
+// ends the icon. Throws file_error.
 void decode_icon();
 
 }  // namespace ostrane

@@ -7,7 +7,7 @@
 #include "files/code_page.h"
 #include "files/text.h"
 #include "forms/form1.h"
-#include "forms/form3.h"
+#include "progress/progress.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -44,9 +44,8 @@ void show_icon_report(std::int32_t Index) {
   if (selected < 0 || Index < 1 || Index > max_slots) return;
   const dat_record& entry = tool_state.dat_index[static_cast<std::size_t>(selected)];
   if (!is_icon_file(entry)) return;
-  Form3.Visible = true;
-  Form3.Caption = "Icon-data for picture number: " + sign_column_text(Index) + ", on this screen.";
-  Form3.message.Caption = icon_report(Index, entry);
+  show_report("Icon-data for picture number: " + sign_column_text(Index) + ", on this screen.",
+              icon_report(Index, entry));
 }
 
 }  // namespace ostrane

@@ -7,27 +7,28 @@
 #include "data/sign_column_text.h"
 #include "files/text.h"
 #include "forms/form1.h"
-#include "icons/slot_grid.h"
+#include "icons/slots.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
 
-constexpr double longest_interval = 65535;  // milliseconds
-constexpr std::int32_t interval_at_no_number = 100;
+// Milliseconds.
+constexpr double max_interval = 65535;
+constexpr std::int32_t default_interval = 100;
 
 std::int32_t interval_in_milliseconds() {
   const double hundredths = files::as_number(Form1.Text4.Text()).value_or(0);
-  if (hundredths <= 0) return interval_at_no_number;
-  const double milliseconds = std::nearbyint(std::min(hundredths * 10, longest_interval));
+  if (hundredths <= 0) return default_interval;
+  const double milliseconds = std::nearbyint(std::min(hundredths * 10, max_interval));
   return std::max(1, static_cast<std::int32_t>(milliseconds));
 }
 
-// A series that stopped short of the file's last icon leaves its last counted slot out.
+// If icons remain after this series, the motion omits its last slot.
 std::int16_t last_slot_of_motion() {
-  const bool whole = tool_state.series_next_icon == tool_state.shp_head.icon_count;
-  const int last = whole ? tool_state.slots_drawn : tool_state.slots_drawn - 1;
+  const bool is_last_series = tool_state.series_next_icon == tool_state.shp_head.icon_count;
+  const int last = is_last_series ? tool_state.slots_drawn : tool_state.slots_drawn - 1;
   return static_cast<std::int16_t>(std::max(0, last));
 }
 
@@ -36,7 +37,7 @@ void enable_stepping(bool enabled) {
   Form1.Command4.Enabled = enabled;
 }
 
-void show_in_place_of_shown_slot(std::int16_t slot) {
+void switch_to_slot(std::int16_t slot) {
   Form1.s16_image(tool_state.shown_slot).Visible = false;
   tool_state.shown_slot = slot;
   Form1.s16_image(slot).Visible = true;
@@ -73,14 +74,14 @@ void step_motion() {
 
 void show_previous_icon() {
   if (tool_state.shown_slot < 2 || tool_state.browse_ready == flag_false) return;
-  show_in_place_of_shown_slot(static_cast<std::int16_t>(tool_state.shown_slot - 1));
+  switch_to_slot(static_cast<std::int16_t>(tool_state.shown_slot - 1));
 }
 
 void show_next_icon() {
   if (tool_state.shown_slot >= tool_state.slots_drawn || tool_state.browse_ready == flag_false) {
     return;
   }
-  show_in_place_of_shown_slot(static_cast<std::int16_t>(tool_state.shown_slot + 1));
+  switch_to_slot(static_cast<std::int16_t>(tool_state.shown_slot + 1));
 }
 
 }  // namespace ostrane

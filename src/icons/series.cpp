@@ -8,13 +8,9 @@
 #include "forms/form3.h"
 #include "forms_layer/message_box.h"
 #include "icons/decode_icon.h"
-#include "icons/place_icon_slot.h"
-#include "icons/reset_icon_view.h"
 #include "icons/shp_reader.h"
 #include "icons/slots.h"
 #include "progress/progress.h"
-#include "progress/show_working_message.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 
@@ -22,9 +18,9 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int16_t max_refusals_told = 20;
+constexpr std::int16_t max_refusals_reported = 20;
 
-// Two pixels more than the picture each way, for the border of the slot.
+// Twips. The border of the slot takes one pixel on each side; `no_of_rows` is the last row.
 std::int32_t slot_height() {
   return (tool_state.icon_header.no_of_rows + 3) * tool_state.twips_per_pixel_y;
 }
@@ -33,8 +29,8 @@ std::int32_t slot_width() {
   return (tool_state.icon_header.no_of_cols + 3) * tool_state.twips_per_pixel_x;
 }
 
-// Sizes of slots are positive numbers of 16 bits.
-bool slot_size_is_good() {
+// Slots have positive 16-bit sizes.
+bool slot_size_is_valid() {
   return slot_height() > 0 && slot_height() <= INT16_MAX && slot_width() > 0 &&
          slot_width() <= INT16_MAX;
 }
@@ -61,13 +57,13 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
-void refuse_icon(icon_kind outcome) {
-  const bool box_is_bad = outcome == icon_kind::refused;
-  if (box_is_bad && tool_state.refusals_told < max_refusals_told) {
-    ++tool_state.refusals_told;
-    report_refused_icon(tool_state.refusals_told == max_refusals_told);
-  } else if (!box_is_bad && tool_state.size_was_told == flag_false) {
-    tool_state.size_was_told = flag_true;
+void refuse_icon(icon_kind kind) {
+  const bool box_is_bad = kind == icon_kind::refused;
+  if (box_is_bad && tool_state.refusals_reported < max_refusals_reported) {
+    ++tool_state.refusals_reported;
+    report_refused_icon(tool_state.refusals_reported == max_refusals_reported);
+  } else if (!box_is_bad && tool_state.size_reported == flag_false) {
+    tool_state.size_reported = flag_true;
     report_refused_icon(false);
   }
   ++tool_state.next_icon;
@@ -75,10 +71,10 @@ void refuse_icon(icon_kind outcome) {
 }
 
 void draw_icon() {
-  const icon_kind outcome = classify_icon(tool_state.icon_header);
-  if (outcome == icon_kind::refused || !slot_size_is_good()) {
-    refuse_icon(outcome);
-  } else if (outcome == icon_kind::drawable) {
+  const icon_kind kind = classify_icon(tool_state.icon_header);
+  if (kind == icon_kind::refused || !slot_size_is_valid()) {
+    refuse_icon(kind);
+  } else if (kind == icon_kind::drawable) {
     draw_drawable_icon();
   } else {
     show_blank_icon();
@@ -97,7 +93,7 @@ void draw_next_icon() {
 }
 
 void draw_from_archive() {
-  open_archive_file(file_1);
+  open_archive_file();
   if (tool_state.directory_read == flag_false) read_directory();
   while (tool_state.series_full == flag_false) {
     if (tool_state.next_icon > tool_state.shp_head.icon_count) break;
@@ -106,6 +102,7 @@ void draw_from_archive() {
 }
 
 void draw_under_working_message() {
+  Form3.Visible = true;
   show_working_message();
   draw_shp_series();
   Form3.Visible = false;
@@ -119,7 +116,6 @@ void show_shp_series() {
   tool_state.next_icon = 1;
   tool_state.current_slot = 0;
   tool_state.directory_read = flag_false;
-  Form3.Visible = true;
   show_bars(false);
   draw_under_working_message();
 }
@@ -133,20 +129,19 @@ void show_next_series() {
   tool_state.series_full = flag_false;
   tool_state.current_slot = 0;
   tool_state.series_next_icon = 0;
-  Form3.Visible = true;
   draw_under_working_message();
 }
 
 void draw_shp_series() {
   tool_state.series_first_icon = tool_state.next_icon;
-  tool_state.size_was_told = flag_false;
-  tool_state.refusals_told = 0;
+  tool_state.size_reported = flag_false;
+  tool_state.refusals_reported = 0;
   const std::string failure = files::failure_of(draw_from_archive);
   if (!failure.empty()) {
     forms_layer::message_box(failure);
     if (tool_state.directory_read == flag_false) tool_state.shp_head = {};
   }
-  file_1.close();
+  tool_state.archive_file.close();
   Form1.Text2.Text = std::to_string(tool_state.shp_head.icon_count);
   tool_state.slots_drawn = tool_state.current_slot;
   tool_state.shown_slot = 1;

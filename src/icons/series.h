@@ -2,16 +2,17 @@
 
 namespace ostrane {
 
-// Shows the first series of the entry `selected_index`, with `Form3` on the screen meanwhile.
+// Shows the first series of the entry `selected_index`, under the working message.
 void show_shp_series();
 
-// Shows the series behind the one on show, unless the file is at its end or the archive that it
-// came from is not the open one any more.
+// Shows the series after the current one, unless the file has no more icons or its archive is no
+// longer the open one.
 void show_next_series();
 
-// Draws the icons from `next_icon` on, each on a slot of its own, until a stop: the end of the
-// file, `max_icons` slots, the bottom of `Frame1`, or an icon that the archive has no place for.
-// An archive that cannot be opened gives a message and an empty series.
+// Draws the icons from `next_icon` on, one per slot, up to the first of: the end of the file,
+// `max_icons` slots, the bottom of `Frame1`, an icon position outside the archive. Sets `Text2`,
+// `Text3`, `slots_drawn` and `shown_slot`. If the archive cannot be read, shows a message and the
+// icons drawn so far.
 void draw_shp_series();
 
 }  // namespace ostrane

@@ -9,7 +9,6 @@
 #include "files/text.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 
@@ -21,7 +20,7 @@ std::string selected_name() {
   return std::string(files::trimmed(Form1.List1.List(Form1.List1.ListIndex())));
 }
 
-void cut_icon_count() {
+void limit_icon_count() {
   if (tool_state.shp_head.icon_count <= max_icons_per_file) return;
   forms_layer::message_box("The file: " + selected_name() + " says that it holds" +
                            sign_column_text(tool_state.shp_head.icon_count) +
@@ -55,19 +54,20 @@ void read_directory() {
   tool_state.directory_index = tool_state.selected_index;
   tool_state.shp_head = {};
   tool_state.directory_read = flag_true;
-  if (!read_shp_head(file_1, offset, tool_state.shp_head)) {
+  if (!read_shp_head(tool_state.archive_file, offset, tool_state.shp_head)) {
     report_invalid_address(std::int64_t{offset} + 1);
     return;
   }
-  cut_icon_count();
+  limit_icon_count();
   const auto count = static_cast<std::size_t>(std::max(tool_state.shp_head.icon_count, 0));
-  read_icon_positions(file_1, offset, std::span(tool_state.icon_positions).subspan(1, count));
+  read_icon_positions(tool_state.archive_file, offset,
+                      std::span(tool_state.icon_positions).subspan(1, count));
 }
 
 void read_current_icon_head() {
   const std::int32_t position =
       tool_state.icon_positions[static_cast<std::size_t>(tool_state.icon_number)];
-  if (!read_icon_head(file_1, position, tool_state.icon_header)) {
+  if (!read_icon_head(tool_state.archive_file, position, tool_state.icon_header)) {
     report_invalid_address(position);
     tool_state.series_full = flag_true;
     return;

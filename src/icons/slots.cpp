@@ -9,6 +9,40 @@ namespace {
 
 constexpr int scale_in_pixels = 3;
 constexpr std::int32_t empty_slot_side = 100;  // twips
+constexpr std::int32_t grid_gap = 15;          // twips between two slots
+
+void show_on_current_row(forms_layer::picture_box& slot) {
+  slot.Move(tool_state.next_slot_left, tool_state.next_slot_top);
+  tool_state.next_slot_left += tool_state.slot_gap + slot.Width();
+  slot.Visible = true;
+  ++tool_state.next_icon;
+}
+
+void begin_new_row() {
+  tool_state.next_slot_top += tool_state.slot_gap + tool_state.row_height;
+  tool_state.next_slot_left = grid_left;
+}
+
+bool fits_on_current_row(const forms_layer::picture_box& slot) {
+  return tool_state.current_slot == 1 ||
+         tool_state.next_slot_left + slot.Width() + tool_state.slot_gap < Form1.Frame1.Width();
+}
+
+bool new_row_fits(const forms_layer::picture_box& slot) {
+  return tool_state.row_height + tool_state.next_slot_top + tool_state.slot_gap + slot.Height() <
+         Form1.Frame1.Height();
+}
+
+void store_icon_data() {
+  const icon_head& head = tool_state.icon_header;
+  tool_state.slot_data[static_cast<std::size_t>(tool_state.current_slot)] = {
+      .cols = head.no_of_cols,
+      .rows = head.no_of_rows,
+      .first_col = head.col_start,
+      .last_col = head.col_end,
+      .first_row = head.row_start,
+      .last_row = head.row_end};
+}
 
 }  // namespace
 
@@ -32,6 +66,46 @@ void clear_slots_for_icons() {
     Form1.s16_image(slot).BackColor = forms_layer::system_button_face;
     shrink_slot(slot);
   }
+}
+
+void place_icon_slot() {
+  forms_layer::picture_box& slot = Form1.s16_image(tool_state.current_slot);
+  if (fits_on_current_row(slot)) {
+    show_on_current_row(slot);
+    if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
+  } else if (new_row_fits(slot)) {
+    begin_new_row();
+    show_on_current_row(slot);
+    tool_state.row_height = slot.Height();
+  } else {
+    tool_state.series_full = flag_true;
+    tool_state.slot_fits = flag_false;
+  }
+  if (tool_state.icon_number == tool_state.shp_head.icon_count) tool_state.series_full = flag_true;
+  store_icon_data();
+  const bool table_is_full = tool_state.current_slot >= max_slots;
+  if (tool_state.current_slot >= tool_state.max_icons || table_is_full) {
+    tool_state.series_full = flag_true;
+  }
+  tool_state.series_next_icon = tool_state.next_icon - 1;
+}
+
+void reset_icon_view() {
+  // A running motion would step through the slots of the next series.
+  Form1.Timer1.Enabled = false;
+  tool_state.stream.entry_bytes_left = 0;
+  for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
+    Form1.s16_image(slot).Visible = false;
+    Form1.s16_image(slot).Cls();
+    Form1.s16_image(slot).BackColor = forms_layer::system_button_face;
+  }
+  Form1.Text3.Text = "";
+  tool_state.browse_ready = flag_false;
+  Form1.Refresh();
+  tool_state.next_slot_left = grid_left;
+  tool_state.next_slot_top = grid_top;
+  tool_state.slot_gap = grid_gap;
+  tool_state.row_height = 0;
 }
 
 }  // namespace ostrane

@@ -13,7 +13,6 @@ namespace ostrane {
 
 namespace {
 
-// In the root of drive C, whatever the current folder is.
 constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
 
 }  // namespace
@@ -24,16 +23,16 @@ void compare_with_shiplist() {
     forms_layer::message_box("No shiplist is chosen. Click one in the list of files.");
     return;
   }
-  const std::string failure = tool_state.archive_is_open == flag_false
-                                  ? "No archive is open. Read one first."
-                                  : files::failure_of([&] {
-                                      const std::string path =
-                                          files::with_separator(Form6.File1.Path()) + name;
-                                      read_shiplist(files::to_file_path(path), tool_state.comparison);
-                                      sort_shiplist(tool_state.comparison);
-                                      write_compare_report(files::to_file_path(compare_report_path),
-                                                           listed_names(), tool_state.comparison);
-                                    });
+  const std::string failure =
+      tool_state.archive_is_open == flag_false
+          ? "No archive is open. Read one first."
+          : files::failure_of([&] {
+              const std::string path = files::with_separator(Form6.File1.Path()) + name;
+              read_shiplist(files::to_file_path(path), tool_state.comparison);
+              sort_shiplist(tool_state.comparison);
+              write_compare_report(files::to_file_path(compare_report_path), listed_names(),
+                                   tool_state.comparison);
+            });
   if (!failure.empty()) {
     forms_layer::message_box(failure + " Nothing was compared.");
     return;

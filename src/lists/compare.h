@@ -2,8 +2,9 @@
 
 namespace ostrane {
 
-// Compares the open archive with the shiplist that `Form6` shows as chosen, writes the report and
-// gives `Form1` back. A file that cannot be read or written gives a message, and the dialog stays.
+// Compares the names in `List1` with the shiplist that `Form6` shows as chosen, writes the report,
+// hides `Form6` and enables `Form1`. Reports a file that cannot be read or written; then the dialog
+// stays. Changes `comparison`.
 void compare_with_shiplist();
 
 }  // namespace ostrane

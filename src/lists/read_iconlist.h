@@ -2,7 +2,7 @@
 
 namespace ostrane {
 
-// Reads iconlist.csv beside the program into `icon_names`.
+// Reads iconlist.csv in `app_path` into `icon_names`.
 void read_iconlist();
 
 }  // namespace ostrane

@@ -2,9 +2,8 @@
 
 namespace ostrane {
 
-// Shows the bytes of the entry `selected_index` in `Text6`, as far as the archive holds them and up
-// to 2 MiB; byte 0 shows as a blank. A longer entry, and an archive that cannot be read, give a
-// message.
+// Shows the bytes of the entry `selected_index` in `Text6`: those inside the archive, at most 2
+// MiB, with a blank for byte 0. Reports a longer entry and an archive that cannot be read.
 void show_text_entry();
 
 }  // namespace ostrane

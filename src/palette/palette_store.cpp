@@ -3,7 +3,6 @@
 #include "data/built_in_colours.h"
 #include "data/palette.h"
 #include "files/failure.h"
-#include "state/files.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 
@@ -20,10 +19,11 @@ void read_game_palette() {
   if (tool_state.game_pal_offset <= 0) return;
   std::size_t count = 0;
   files::failure_of([&] {
-    open_archive_file(file_1);
-    count = read_palette(file_1, tool_state.game_pal_offset, tool_state.stored_palette);
+    open_archive_file();
+    count = read_palette(tool_state.archive_file, tool_state.game_pal_offset,
+                         tool_state.stored_palette);
   });
-  file_1.close();
+  tool_state.archive_file.close();
   for (std::size_t i = 0; i < count; ++i) {
     const stored_colour& stored = tool_state.stored_palette[i];
     tool_state.colour_table[i] = forms_layer::rgb(stored[2], stored[1], stored[0]);

@@ -4,7 +4,6 @@
 
 #include "data/sign_column_text.h"
 #include "forms/form1.h"
-#include "icons/slot_grid.h"
 #include "icons/slots.h"
 #include "state/tool_state.h"
 
@@ -16,8 +15,8 @@ constexpr std::int16_t swatches_per_row = 16;
 // Lengths in twips.
 constexpr std::int32_t swatch_width = 400;
 constexpr std::int32_t swatch_height = 260;
-constexpr std::int32_t from_swatch_to_right = 440;
-constexpr std::int32_t from_swatch_down = 300;
+constexpr std::int32_t swatch_pitch_x = 440;
+constexpr std::int32_t swatch_pitch_y = 300;
 
 void clear_slots() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
@@ -56,8 +55,8 @@ void show_palette_view() {
   for (std::size_t i = 0; i < tool_state.colour_table.size(); ++i) {
     load_slot(static_cast<std::int16_t>(i + 1));
     ++palette_column;
-    tool_state.next_slot_left = palette_column * from_swatch_to_right;
-    tool_state.next_slot_top = palette_row * from_swatch_down + grid_top;
+    tool_state.next_slot_left = palette_column * swatch_pitch_x;
+    tool_state.next_slot_top = palette_row * swatch_pitch_y + grid_top;
     if (palette_column == swatches_per_row) {
       ++palette_row;
       palette_column = 0;

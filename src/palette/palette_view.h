@@ -2,8 +2,8 @@
 
 namespace ostrane {
 
-// Shows `colour_table` in `Frame1` as 16 by 16 swatches, one slot each, with the numbers of
-// `stored_palette` in their tool tips. Loads slots up to 256 and stops a running motion.
+// Shows `colour_table` in `Frame1` as 16 by 16 swatches, one per slot, with the numbers of
+// `stored_palette` as tool tips. Loads slots up to 256 and stops a running motion.
 void show_palette_view();
 
 }  // namespace ostrane

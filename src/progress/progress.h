@@ -2,21 +2,40 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
+// All that `Form3` shows: the progress of a job, the working text, a report.
 namespace ostrane {
 
-// The two bars and their labels.
+// Shows or hides the two bars and their labels.
 void show_bars(bool shown);
 
-// Shows `Form3` with its two bars, under a caption; hides both and leaves a caption.
+// Shows `Form3` with its bars and `caption`; hides both and leaves `caption`.
 void show_progress(const char* caption);
 void hide_progress(const char* caption);
 
+// Repaints `Form3` before the call returns, the second one with a new text.
+void refresh_progress();
+void show_progress_text(const std::string& text);
+
+// Sets the range of `ProgressBar2` (files) or `ProgressBar1` (bytes of the current file) to
+// 0..`max`; `Value` stays.
+void set_total_range(std::int64_t max);
+void set_file_range(std::int32_t max);
+
 // Call once per file of a job with its 0-based index: every `files_per_step`th call moves
-// `ProgressBar2` there. `tick` counts the calls since the bar moved last; it begins at 0.
+// `ProgressBar2` there. `tick` counts the calls since the last move; it starts at 0.
 void move_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index);
 
-// Moves `ProgressBar1`, whose range is that of the current file.
+// Moves `ProgressBar1`.
 void move_file_bar(std::int32_t value);
+
+// Writes the working text into `Form3` and repaints it; neither shows nor hides anything.
+void show_working_message();
+
+// Shows `Form3` around a text that stays until a click on it, which is `close_report`: that hides
+// the form and empties it.
+void show_report(const std::string& caption, const std::string& text);
+void close_report();
 
 }  // namespace ostrane

@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// The numbers of an icon that the report tells, one record per slot.
+// The numbers of the icon on a slot, for its report.
 struct icon_data_record {
   std::int32_t cols;
   std::int32_t rows;

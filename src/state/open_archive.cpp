@@ -7,11 +7,12 @@
 
 namespace ostrane {
 
-void open_archive_file(files::binary_file& file) {
+void open_archive_file() {
   if (tool_state.archive_is_open == flag_false) {
     throw data_error("No archive is open. Read one first.");
   }
-  open_unchanged(file, files::to_file_path(tool_state.archive_path_copy), tool_state.archive_stamp);
+  open_unchanged(tool_state.archive_file, files::to_file_path(tool_state.archive_path_copy),
+                 tool_state.archive_stamp);
 }
 
 std::span<const dat_record> index_records() {

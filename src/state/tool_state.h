@@ -12,7 +12,7 @@
 #include "data/palette.h"
 #include "data/shiplist.h"
 #include "data/shp_format.h"
-#include "files/system_calls.h"
+#include "files/binary_file.h"
 #include "forms_layer/colour.h"
 #include "state/icon_data.h"
 
@@ -24,45 +24,45 @@ constexpr flag flag_false = 0;
 
 constexpr std::int32_t max_slots = 9999;
 
-// All that the tool knows while it runs. Every handler and procedure reads and writes it directly.
-// Lengths are twips. Arrays that count from 1 leave element 0 unused. The large ones have no first
-// value written here: a new process gets its memory as zeros, and to write them again would take as
-// long as all else at its start.
+// The state of the tool. Every handler and procedure reads and writes it directly. Lengths are
+// twips. Arrays that count from 1 leave element 0 unused. Large arrays have no initialiser: static
+// storage is already zero, and clearing it again would slow the start.
 struct tool_state_record {
   std::filesystem::path app_path;  // folder of the running program
   std::string program_title;       // caption of the main window
 
   icon_stream stream;  // of the current icon
 
-  std::int32_t game_pal_offset = 0;  // offset of GAME.PAL in the archive, 0 while none was met
+  std::int32_t game_pal_offset = 0;  // offset of GAME.PAL in the archive, 0 until one is found
   ostrane::stored_palette stored_palette = {};
 
   std::int32_t record_count = 0;  // records of the index, end record included
   std::array<dat_record, max_records> dat_index;
   std::array<make_record, max_records> make_index;
-  std::string archive_path_copy;  // always equal to archive_path; what extraction opens
-  // An archive is open: dat_index and List1 are those of the file at archive_path, which had this
-  // stamp when they were read. The stamp stays when another archive cannot be read.
+  std::string archive_path_copy;  // always equal to archive_path
+  // True while dat_index and List1 hold the index of the file at archive_path. The stamp is that of
+  // the file when its index was read; it stays if another archive cannot be read.
   flag archive_is_open = flag_false;
   files::file_stamp archive_stamp;
+  files::binary_file archive_file;  // open only while a command reads entries
 
   ostrane::shp_head shp_head;
-  ostrane::icon_head icon_header;     // of the icon in work
+  ostrane::icon_head icon_header;     // of the current icon
   std::int32_t selected_index = 0;    // index in dat_index of the row clicked in List1
   std::int32_t directory_index = -1;  // index in dat_index of the entry in icon_positions, or -1
   std::string archive_path;
 
   std::array<forms_layer::colour, 256> colour_table = {};
 
-  std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // in the file, counted from 1
-  std::int16_t icon_number = 0;                                     // of the icon in work, from 1
+  std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // 1-based file positions
+  std::int16_t icon_number = 0;                                     // of the current icon, from 1
   std::int16_t slots_loaded = 0;  // highest loaded index of s16_image; only grows
   std::int16_t twips_per_pixel_x = 0;
   std::int16_t twips_per_pixel_y = 0;
 
-  flag browse_ready = flag_false;  // Command3 and Command4 work
+  flag browse_ready = flag_false;  // a motion was started: Command3 and Command4 step
   std::int16_t shown_slot = 0;     // the slot on top of the stack
-  std::int16_t loop_counter = 0;   // position of the motion: the slot that went up last
+  std::int16_t loop_counter = 0;   // slot that the motion shows
   std::int16_t motion_last_slot = 0;
 
   std::int32_t next_slot_left = 0;
@@ -70,29 +70,29 @@ struct tool_state_record {
   std::int32_t slot_gap = 0;
   std::int32_t row_height = 0;  // of the tallest slot of the current row
 
-  flag series_full = flag_false;     // ends the drawing of a series
-  flag directory_read = flag_false;  // shp_head and icon_positions hold the file in view
+  flag series_full = flag_false;     // no further icon is drawn in this series
+  flag directory_read = flag_false;  // shp_head and icon_positions are those of the shown file
   std::int16_t next_icon = 0;        // number of the next icon to draw, from 1
-  std::int16_t current_slot = 0;     // index in s16_image of the slot in work
+  std::int16_t current_slot = 0;     // index in s16_image of the slot being drawn
   std::int16_t slots_drawn = 0;      // last value of current_slot in the series drawn last
   std::int32_t series_first_icon = 0;
-  std::int32_t series_next_icon = 0;  // number of the last icon dealt with
+  std::int32_t series_next_icon = 0;  // number of the last icon drawn or refused
   flag slot_fits = flag_false;
-  // A damaged file may hold thousands of icons that are refused. So a message about a size that no
-  // slot can have comes once per series, and those about bad boxes are counted.
-  flag size_was_told = flag_false;
-  std::int16_t refusals_told = 0;
+  // A damaged file may hold thousands of bad icons, so a series reports one size that no slot can
+  // have and a limited number of bad data boxes.
+  flag size_reported = flag_false;
+  std::int16_t refusals_reported = 0;
 
   std::vector<icon_name_pair> icon_names;  // rows counted from 1
   std::array<icon_data_record, max_slots + 1> slot_data;
-  std::int16_t max_icons = 0;  // most slots in one series
+  std::int16_t max_icons = 0;  // max slots per series
 
   shiplist_comparison comparison;
 };
 
 extern tool_state_record tool_state;
 
-// All fields at the values that a new process has.
+// Resets all fields to the values of a new process.
 void reset_state();
 
 }  // namespace ostrane

@@ -2,8 +2,8 @@
 
 namespace ostrane {
 
-// The version as the tool writes it. The build reads it here for all else that bears one; where a
-// version must be numbers, v2r1m0 is 2.1.0.
+// The version as the tool shows it. The build reads it from here for the package and the documents;
+// where a version must be numeric, v2r1m0 is 2.1.0.
 constexpr const char* version = "v2r1m0";
 
 }  // namespace ostrane

@@ -1,5 +1,5 @@
-# Fails if PROGRAM does not list the entries of ARCHIVE in their order, or if what it extracts into
-# FOLDER and builds from there is not the same archive again.
+# Fails if PROGRAM does not list the entries of ARCHIVE in order, or if the archive that it builds from
+# the extracted entries in FOLDER differs.
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
 execute_process(COMMAND ${PROGRAM} ${ARCHIVE} ${FOLDER} OUTPUT_VARIABLE names

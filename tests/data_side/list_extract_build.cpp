@@ -1,5 +1,5 @@
-// list_extract_build ARCHIVE FOLDER: lists the archive's entries, extracts them into the folder and
-// builds an archive from them there. It links the data side alone.
+// list_extract_build ARCHIVE FOLDER: lists the entries of an archive, extracts them into FOLDER and
+// builds an archive from them there. Links only the data side.
 #include <iostream>
 
 #include "data/archive_builder.h"

@@ -4,11 +4,11 @@ set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL ANY)
 file(REMOVE_RECURSE ${FOLDER})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${FOLDER} OUTPUT_QUIET)
 file(GLOB_RECURSE programs LIST_DIRECTORIES false ${FOLDER}/lib*/ostrane-dat-tool/*)
-if(NOT programs MATCHES "^[^;]*/iconlist.csv;[^;]*/ostrane-dat-tool$")
-  message(FATAL_ERROR "not iconlist.csv and the program, but: ${programs}")
+if(NOT programs MATCHES "^[^;]*/iconlist.csv;([^;]*/ostrane-dat;)?[^;]*/ostrane-dat-tool$")
+  message(FATAL_ERROR "not iconlist.csv and the programs, but: ${programs}")
 endif()
-list(POP_FRONT programs)
-get_filename_component(program_folder ${programs} REALPATH)
+list(POP_BACK programs program)
+get_filename_component(program_folder ${program} REALPATH)
 get_filename_component(program_folder ${program_folder} DIRECTORY)
 
 function(expect option wanted)
@@ -21,6 +21,18 @@ function(expect option wanted)
   endif()
 endfunction()
 
+function(expect_complaint argument)
+  set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL NONE)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY QT_QPA_PLATFORM=none
+                          ${FOLDER}/bin/ostrane-dat-tool ${argument}
+                  RESULT_VARIABLE status ERROR_VARIABLE complaint)
+  if(NOT status EQUAL 2 OR NOT complaint MATCHES "^ostrane-dat-tool: [^\n]+\n$")
+    message(SEND_ERROR "${argument}: status ${status}, \"${complaint}\"")
+  endif()
+endfunction()
+
+expect_complaint(--nonsense)
+expect_complaint(ostrane.dat)
 expect(--version "Ostrane.dat-tool ${VERSION}\n")
 expect(--help "  ${program_folder}/iconlist.csv\n")
 
@@ -35,3 +47,14 @@ endfunction()
 expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "\"${VERSION}\"")
 expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "${program_folder}/iconlist.csv")
 expect_in(${FOLDER}/share/doc/ostrane-dat-tool/CHANGELOG.md "\n## ${VERSION} (")
+
+# The program for scripts finds the same descriptions.
+if(EXISTS ${FOLDER}/bin/ostrane-dat)
+  execute_process(COMMAND ${FOLDER}/bin/ostrane-dat list --long
+                          ${FOLDER}/share/doc/ostrane-dat-tool/examples/ostrane.dat
+                  OUTPUT_VARIABLE listed)
+  if(NOT listed MATCHES "GEMS.SHP +[A-Z0-9]")
+    message(SEND_ERROR "no description in:\n${listed}")
+  endif()
+  expect_in(${FOLDER}/share/man/man1/ostrane-dat.1 "${program_folder}/iconlist.csv")
+endif()

@@ -1,0 +1,26 @@
+// The input is an archive. It is checked as `ostrane-dat check` does.
+#include <fstream>
+
+#include "data/archive_check.h"
+#include "data/archive_index.h"
+#include "data/data_error.h"
+#include "target.h"
+
+using namespace ostrane;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string archive = fuzz::raw_or_generated(data, size, fuzz::archive);
+  static const fs::path file = fuzz::top_folder() / "checked.dat";
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << archive;
+  std::size_t faults = 0;
+  check_archive(
+      {file, "checked.dat:"},
+      [&faults](const std::string&, const std::string& fault) {
+        fuzz::check(!fault.empty() && fault.find('\n') == fault.npos, "a fault is a line");
+        ++faults;
+      },
+      [](std::size_t, std::size_t, const std::string&) {});
+  // A record has at most six faults of its own, an icon four.
+  fuzz::check(faults <= archive.size() + 10, "faults follow from the bytes");
+  return 0;
+}

@@ -1,0 +1,110 @@
+// The input is a PNG, the JSON of an export, or a picture that is written as a PNG and must come
+// back from it and from the icon that is made of it.
+#include <fstream>
+#include <memory>
+
+#include "command/pictures/icon_json.h"
+#include "command/pictures/new_icon.h"
+#include "command/pictures/png_reader.h"
+#include "command/pictures/png_writer.h"
+#include "data/data_error.h"
+#include "data/icon_file.h"
+#include "target.h"
+
+using namespace ostrane;
+
+namespace {
+
+constexpr std::int64_t max_cells = 1 << 20;  // larger pictures only cost time
+
+bool same_cells(const picture& a, const picture& b) {
+  if (a.columns() != b.columns() || a.rows() != b.rows()) return false;
+  for (int row = 0; row < a.rows(); ++row) {
+    const auto cells = a.row(row);
+    if (!std::equal(cells.begin(), cells.end(), b.row(row).begin())) return false;
+  }
+  return true;
+}
+
+void check_icon(const picture& drawn, const std::optional<command::known_icon>& known) {
+  static const fs::path place = fuzz::top_folder() / "made.shp";
+  const std::string bytes = shp_file({command::new_icon(drawn, known)});
+  std::ofstream(place, std::ios::binary | std::ios::trunc) << bytes;
+  files::binary_file file;
+  file.open_to_read({place, "made.shp"});
+  const icon_file icons = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
+  icon_head head;
+  fuzz::check(read_icon_head(file, icons.positions.at(0), head), "an icon is made");
+  fuzz::check(classify_icon(head) == icon_kind::drawable, "it can be drawn");
+  static const auto stream = std::make_unique<icon_stream>();
+  const picture seen = read_icon_picture(*stream, file, icons, head, icons.positions[0]);
+  fuzz::check(same_cells(seen, drawn), "it has the cells of its picture");
+}
+
+colour_table colours(fuzz::fields& from) {
+  colour_table made = {};
+  const auto step = from.ConsumeIntegral<std::uint32_t>();
+  for (std::size_t i = 0; i < made.size(); ++i)
+    made[i] = static_cast<std::uint32_t>(i) * step & 0xFFFFFFU;
+  return made;
+}
+
+void import_png(const std::string& bytes) {
+  static command::colour_finder finder([] {
+    colour_table greys;
+    for (std::uint32_t i = 0; i < greys.size(); ++i) greys[i] = 0x010101U * (i / 2);
+    return greys;
+  }());
+  const command::png_picture read = command::read_png(bytes, "p:", finder);
+  if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
+    check_icon(read.drawn, {});
+}
+
+void import_json(const std::string& text) {
+  for (const auto& icon : command::read_icon_json(text, "j:").icons) {
+    if (!has_picture(icon.head) || columns_of(icon.head) * rows_of(icon.head) > max_cells) continue;
+    picture drawn(static_cast<int>(columns_of(icon.head)), static_cast<int>(rows_of(icon.head)));
+    drawn.set(drawn.columns() - 1, drawn.rows() / 2, 3);
+    check_icon(drawn, command::known_icon{icon.head, icon.last_column});
+  }
+}
+
+void import_made(fuzz::fields& from) {
+  picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
+  const colour_table palette = colours(from);
+  const bool is_full = from.ConsumeBool();
+  for (int i = 0; is_full && i < std::min(256, drawn.columns() * drawn.rows()); ++i) {
+    drawn.set(i % drawn.columns(), i / drawn.columns(), static_cast<std::uint8_t>(i));
+  }
+  while (from.remaining_bytes() > 0) {
+    drawn.set(from.ConsumeIntegralInRange(0, drawn.columns() - 1),
+              from.ConsumeIntegralInRange(0, drawn.rows() - 1),
+              from.ConsumeIntegral<std::uint8_t>());
+  }
+  command::colour_finder finder(palette);
+  const command::png_picture read = command::read_png(
+      command::png_of(drawn, palette, command::distinct_colours(palette)), "p:", finder);
+  fuzz::check(read.inexact == 0 && same_cells(read.drawn, drawn), "a PNG loses nothing");
+  icon_head head = head_of(drawn);
+  head.col_start -= fuzz::number(from, {300}) & 0x3FF;
+  check_icon(drawn, command::known_icon{head, 0});
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  try {
+    if (data[0] == 1) {
+      fuzz::fields from(data + 1, size - 1);
+      import_made(from);
+    } else if (data[0] == '{') {
+      import_json({reinterpret_cast<const char*>(data), size});
+    } else {
+      import_png({reinterpret_cast<const char*>(data), size});
+    }
+  } catch (const data_error& error) {
+    fuzz::check(!error.text.empty(), "a failure is told");
+  }
+  return 0;
+}

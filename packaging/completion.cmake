@@ -1,0 +1,11 @@
+# What shells complete the arguments of ostrane-dat with.
+install(FILES packaging/completion/ostrane-dat.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ostrane-dat)
+# Debian's zsh reads another folder below /usr than below /usr/local.
+install(CODE "
+  set(folder site-functions)
+  if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
+    set(folder vendor-completions)
+  endif()
+  file(INSTALL \"${PROJECT_SOURCE_DIR}/packaging/completion/_ostrane-dat\"
+       DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/zsh/\${folder}\")")

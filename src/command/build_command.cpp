@@ -1,0 +1,102 @@
+#include <algorithm>
+
+#include "command/commands.h"
+#include "command/console.h"
+#include "command/named_files.h"
+#include "command/program.h"
+#include "data/archive_builder.h"
+#include "files/code_page.h"
+#include "files/file_system.h"
+#include "files/system_name.h"
+#include "files/whole_file.h"
+
+namespace ostrane::command {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct build_job {
+  const build_options& options;
+  files::file_path folder;
+  files::file_path target;
+  fs::path own_name = {};  // of the target, if it lies in the folder
+  build_list list = {};
+  std::vector<make_record> files = {};
+  std::vector<dat_record> records = {};
+};
+
+// The archive that is written is none of its own entries.
+bool is_archive_itself(const build_job& job, const std::string& name) {
+  if (files::upper_case(name) == archive_name) return true;
+  return !job.own_name.empty() && files::system_name(name) == job.own_name;
+}
+
+void list_files(build_job& job) {
+  job.list.folder = argument_of_path(job.folder.system / "");
+  for (const std::string& name : files::files_in(job.folder)) {
+    if (!is_archive_itself(job, name)) job.list.names.push_back(name);
+  }
+  job.list.path_of = [&job](const std::string& name) {
+    const fs::path path = job.folder.system / files::system_name(name);
+    return files::file_path{path, argument_of_path(path) + ":"};
+  };
+  job.files.resize(job.list.names.size());
+}
+
+void write(build_job& job) {
+  std::size_t current = 0;
+  const auto show = [&](const std::string& name) {
+    show_progress(current, job.files.size(), files::to_utf8(name));
+  };
+  const job_progress progress = {
+      .on_file =
+          [&](std::size_t number, const std::string& name, std::int32_t) {
+            current = number;
+            show(name);
+          },
+      .on_bytes = [&](std::int32_t) { show(""); }};
+  if (job.options.archive != "-") {
+    write_archive(job.list, job.files, job.records, job.target, progress);
+    return;
+  }
+  files::binary_file output;
+  open_output(output);
+  write_archive_to(output, job.list, job.files, job.records, progress);
+  output.close();
+}
+
+int report_left_out(const build_job& job) {
+  int status = status_done;
+  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
+    if (is_archive_itself(job, file.name)) continue;
+    tell(files::to_utf8(file.name), std::string("left out: ") + file.reason);
+    status = status_differs;
+  }
+  return status;
+}
+
+}  // namespace
+
+int build(const build_options& options) {
+  require_folder(options.folder);
+  build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
+  if (options.archive.empty()) {
+    const fs::path path = job.folder.system / archive_name;
+    job.target = {path, argument_of_path(path) + ":"};
+  } else {
+    job.target = named_file_behind_links(options.archive);
+    std::error_code failed;
+    const fs::path place = fs::absolute(job.target.system, failed).parent_path();
+    if (fs::equivalent(place, job.folder.system, failed)) {
+      job.own_name = job.target.system.filename();
+    }
+  }
+  list_files(job);
+  if (options.archive != "-") files::require_replaceable(job.target);
+  job.records = measure_files(job.list, job.files);
+  write(job);
+  return report_left_out(job);
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// The commands of the program. Each does its work on the files that its record names and returns
+// the exit status; it throws file_error, data_error and interruption.
+namespace ostrane::command {
+
+struct list_options {
+  std::string archive;
+  bool is_long = false;
+  bool is_json = false;
+  std::string icon_names;  // "" for the file beside the program
+};
+int list(const list_options& options);
+
+struct extract_options {
+  std::string archive;
+  std::vector<std::string> names;
+  std::string folder = ".";
+};
+int extract(const extract_options& options);
+
+struct build_options {
+  std::string folder;
+  std::string archive;  // "" for OSTRANE.DAT in the folder
+};
+int build(const build_options& options);
+
+struct add_options {
+  std::string archive;
+  std::vector<std::string> files;
+};
+int add(const add_options& options);
+
+struct remove_options {
+  std::string archive;
+  std::vector<std::string> names;
+};
+int remove(const remove_options& options);
+
+struct compare_options {
+  std::string archive;
+  std::string shiplist;
+  std::string report = "-";
+};
+int compare(const compare_options& options);
+
+struct check_options {
+  std::vector<std::string> archives;
+};
+int check(const check_options& options);
+
+enum class picture_form { png, sheet, gif };
+
+struct export_options {
+  std::string archive;
+  std::vector<std::string> names;
+  std::string folder = ".";
+  picture_form form = picture_form::png;
+  int pace = 10;  // hundredths of a second for each picture
+  int scale = 1;
+};
+int export_entries(const export_options& options);
+
+struct import_options {
+  std::vector<std::string> sources;
+  std::string icon_file;
+  std::string palette;
+  std::string like;  // "" for none
+};
+int import_pictures(const import_options& options);
+
+}  // namespace ostrane::command

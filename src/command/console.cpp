@@ -1,0 +1,100 @@
+#include "command/console.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+
+#include "command/interruption.h"
+#include "command/program.h"
+#include "files/file_calls.h"
+
+namespace ostrane::command {
+
+namespace {
+
+using clock = std::chrono::steady_clock;
+
+constexpr auto before_first_bar = std::chrono::milliseconds(500);
+constexpr auto between_bars = std::chrono::milliseconds(100);
+constexpr std::size_t bar_width = 30;
+
+struct console_state {
+  bool is_quiet = false;
+  std::string unprinted;
+  bool bar_is_shown = false;
+  clock::time_point next_bar = clock::now() + before_first_bar;
+};
+
+console_state console;
+
+constexpr std::size_t print_buffer_size = 65536;
+
+void write_out() {
+  const std::size_t written =
+      std::fwrite(console.unprinted.data(), 1, console.unprinted.size(), stdout);
+  const bool is_written = written == console.unprinted.size() && std::fflush(stdout) == 0;
+  const int reason = errno;
+  console.unprinted.clear();
+  check_interruption();
+  if (!is_written) files::file_calls::fail("standard output:", " cannot be written: ", -reason);
+}
+
+}  // namespace
+
+void set_quiet(bool quiet) { console.is_quiet = quiet; }
+
+void print(std::string_view text) {
+  console.unprinted += text;
+  if (console.unprinted.size() >= print_buffer_size) write_out();
+}
+
+void print_line(std::string_view text) {
+  print(text);
+  print("\n");
+}
+
+void finish_printing() {
+  if (!console.unprinted.empty()) write_out();
+}
+
+std::string printable(std::string_view text) {
+  std::string line(text);
+  std::replace_if(
+      line.begin(), line.end(),
+      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }, '?');
+  return line;
+}
+
+void tell(std::string_view file, std::string_view text) {
+  hide_progress();
+  std::string line = "ostrane-dat: ";
+  if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
+  line = printable(line.append(text)) + '\n';
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void note(std::string_view file, std::string_view text) {
+  if (!console.is_quiet) tell(file, text);
+}
+
+void show_progress(std::size_t index, std::size_t count, std::string_view name) {
+  check_interruption();
+  static const bool has_terminal = errors_go_to_terminal();
+  if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
+  console.next_bar = clock::now() + between_bars;
+  console.bar_is_shown = true;
+  const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
+  const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');
+  const std::string line = "\r[" + bar + "] " + std::to_string(index) + " of " +
+                           std::to_string(count) + " " + printable(name) + "\x1B[K";
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void hide_progress() {
+  if (!console.bar_is_shown) return;
+  console.bar_is_shown = false;
+  std::fputs("\r\x1B[K", stderr);
+}
+
+}  // namespace ostrane::command

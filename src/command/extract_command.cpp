@@ -1,0 +1,52 @@
+#include "command/commands.h"
+#include "command/console.h"
+#include "command/named_files.h"
+#include "data/extraction.h"
+#include "files/code_page.h"
+
+namespace ostrane::command {
+
+namespace {
+
+int report(const extraction_result& result) {
+  for (const skipped_file& entry : result.skipped) {
+    const std::string name = files::to_utf8(entry.name);
+    // A failure of the system names the file by itself.
+    const bool names_file = entry.reason.find(": cannot be ") != std::string::npos;
+    tell(names_file ? "" : name, names_file ? entry.reason : "not extracted: " + entry.reason);
+  }
+  if (!result.stopped.empty()) tell("", result.stopped);
+  if (!result.stopped.empty()) return status_failed;
+  return result.skipped.empty() ? status_done : status_differs;
+}
+
+}  // namespace
+
+int extract(const extract_options& options) {
+  const files::file_path archive = named_file(options.archive);
+  const archive_index index = read_archive_index(archive);
+  const std::vector<bool> chosen = chosen_entries(index.records, options.names);
+  make_folder(options.folder);
+  files::binary_file file;
+  open_unchanged(file, archive, index.stamp);
+  files::case_insensitive_lookup names;
+  std::size_t current = 0;
+  const auto show = [&](const std::string& name) {
+    show_progress(current, index.records.size(), files::to_utf8(name));
+  };
+  const extraction_result result = extract_entries(
+      file, index.records,
+      [&](const std::string& name) { return file_in(options.folder, name, names); },
+      [&](const files::file_path& made) { names.add(made.system); },
+      {.on_file =
+           [&](std::size_t number, const std::string& name, std::int32_t) {
+             current = number;
+             show(name);
+           },
+       .on_bytes = [&](std::int32_t) { show(""); }},
+      {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
+       .replaces_whole = true});
+  return report(result);
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,131 @@
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <unordered_map>
+
+#include "command/commands.h"
+#include "command/console.h"
+#include "command/named_files.h"
+#include "command/program.h"
+#include "data/entry_kind.h"
+#include "data/icon_names.h"
+#include "data/shp_reader.h"
+#include "files/code_page.h"
+#include "files/text.h"
+
+namespace ostrane::command {
+
+namespace {
+
+struct listed_entry {
+  std::string name;  // UTF-8, as all texts here
+  std::int64_t size = 0;
+  std::int32_t offset = 0;
+  entry_kind kind = entry_kind::other;
+  std::optional<std::int32_t> icons;  // of an icon file that has a head
+  std::string description;
+};
+
+using descriptions = std::unordered_map<std::string, std::string>;
+
+// Of several rows for a name the first counts.
+descriptions read_descriptions(const list_options& options) {
+  descriptions found;
+  const files::file_path beside = {program_folder() / "iconlist.csv", "iconlist.csv"};
+  const files::file_path given = named_file(options.icon_names);
+  if (!options.icon_names.empty()) files::binary_file().open_to_read(given);
+  const auto rows = read_icon_names(options.icon_names.empty() ? beside : given);
+  for (const icon_name_pair& row : rows) {
+    if (&row == rows.data()) continue;  // row 0 stands for no row
+    found.emplace(files::compare_key(row.name), files::to_utf8(row.description));
+  }
+  return found;
+}
+
+std::optional<std::int32_t> icons_of(files::binary_file& file, const listed_entry& entry) {
+  shp_head head;
+  if (entry.kind != entry_kind::icons || entry.size < std::int64_t{shp_head_size}) return {};
+  if (!read_shp_head(file, entry.offset, head)) return {};
+  return head.icon_count;
+}
+
+listed_entry entry_at(files::binary_file& file, const archive_index& index, std::size_t i,
+                      const descriptions& known) {
+  const dat_record& record = index.records[i];
+  const std::string listed = name_without_nuls(record.name);
+  listed_entry entry = {.name = files::to_utf8(name_with_blanks(record.name)),
+                        .size = std::int64_t{index.records[i + 1].offset} - record.offset,
+                        .offset = record.offset,
+                        .kind = kind_of_entry(listed),
+                        .icons = {},
+                        .description = {}};
+  entry.icons = icons_of(file, entry);
+  const auto row = known.find(icon_name_key(listed));
+  if (row != known.end()) entry.description = row->second;
+  return entry;
+}
+
+std::string padded(const std::string& text, std::size_t width) {
+  return std::string(text.size() < width ? width - text.size() : 0, ' ') + text;
+}
+
+// The name stands last but one, as it may hold blanks; a name has 13 characters at most.
+std::string long_line(const listed_entry& entry) {
+  std::string line = padded(std::to_string(entry.size), 10) + " " +
+                     padded(std::to_string(entry.offset), 10) + "  ";
+  const std::string kind = text_of(entry.kind);
+  line += kind + std::string(8 - kind.size(), ' ');
+  line +=
+      padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  " + printable(entry.name);
+  if (!entry.description.empty()) {
+    const auto in_line = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; };
+    const auto width =
+        static_cast<std::size_t>(std::count_if(entry.name.begin(), entry.name.end(), in_line));
+    line += std::string(width < name_size ? name_size - width : 0, ' ') + "  " +
+            printable(entry.description);
+  }
+  return line;
+}
+
+nlohmann::ordered_json json_of(const listed_entry& entry) {
+  return {{"name", entry.name},
+          {"size", entry.size},
+          {"offset", entry.offset},
+          {"kind", text_of(entry.kind)},
+          {"icons", entry.icons ? nlohmann::ordered_json(*entry.icons) : nlohmann::ordered_json()},
+          {"description", entry.description}};
+}
+
+void print_names(const archive_index& index) {
+  for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
+    print_line(printable(files::to_utf8(name_with_blanks(index.records[i].name))));
+  }
+}
+
+}  // namespace
+
+int list(const list_options& options) {
+  const files::file_path archive = named_file(options.archive);
+  const archive_index index = read_archive_index(archive);
+  if (!options.is_long && !options.is_json) {
+    print_names(index);
+    return status_done;
+  }
+  const descriptions known = read_descriptions(options);
+  files::binary_file file;
+  open_unchanged(file, archive, index.stamp);
+  if (options.is_json) print("[");
+  for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
+    const listed_entry entry = entry_at(file, index, i, known);
+    if (!options.is_json) {
+      print_line(long_line(entry));
+      continue;
+    }
+    print(i == 0 ? "\n  " : ",\n  ");
+    print(json_of(entry).dump());
+  }
+  if (options.is_json) print("\n]\n");
+  return status_done;
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,20 @@
+#include "command/command_line.h"
+#include "command/console.h"
+#include "command/interruption.h"
+#include "command/program.h"
+#include "files/system_calls.h"
+
+int main(int argc, char** argv) {
+  using namespace ostrane::command;
+  catch_signals();
+  files::ignore_size_limit_signal();
+  set_binary_output();
+  try {
+    const int status = run(arguments_of(argc, argv));
+    hide_progress();
+    return status;
+  } catch (const interruption&) {
+    hide_progress();
+    end_interrupted();
+  }
+}

@@ -1,0 +1,84 @@
+#include "command/named_files.h"
+
+#include <cerrno>
+
+#include "command/console.h"
+#include "command/program.h"
+#include "data/data_error.h"
+#include "files/code_page.h"
+#include "files/file_calls.h"
+#include "files/file_system.h"
+#include "files/replaced_file.h"
+#include "files/whole_file.h"
+
+namespace ostrane::command {
+
+namespace fs = std::filesystem;
+
+files::file_path named_file(const std::string& argument) {
+  return {path_of_argument(argument), argument + ":"};
+}
+
+files::file_path named_file_behind_links(const std::string& argument) {
+  files::file_path path = named_file(argument);
+  std::error_code nowhere;
+  const fs::path target = fs::canonical(path.system, nowhere);
+  if (!nowhere) path.system = target;
+  return path;
+}
+
+files::file_path file_in(const std::string& folder, const std::string& name,
+                         files::case_insensitive_lookup& names) {
+  const fs::path path = names.find(path_of_argument(folder), name);
+  return {path, argument_of_path(path) + ":"};
+}
+
+void require_folder(const std::string& argument) {
+  std::error_code failed;
+  const fs::file_status status = fs::status(path_of_argument(argument), failed);
+  if (fs::is_directory(status)) return;
+  const int reason = fs::exists(status) ? ENOTDIR : files::file_calls::errno_number(failed);
+  if (reason == ENOTDIR) throw data_error(argument + ": is no folder.");
+  files::file_calls::fail(argument + ":", " cannot be opened: ", reason == 0 ? -ENOENT : -reason);
+}
+
+void make_folder(const std::string& argument) {
+  std::error_code failed;
+  if (!fs::create_directory(path_of_argument(argument), failed)) require_folder(argument);
+}
+
+std::vector<bool> chosen_entries(std::span<const dat_record> records,
+                                 const std::vector<std::string>& arguments) {
+  const std::size_t count = records.empty() ? 0 : records.size() - 1;
+  std::vector<bool> chosen(count, arguments.empty());
+  for (const std::string& argument : arguments) {
+    bool matches_any = false;
+    const std::optional<std::string> pattern = files::from_utf8(argument);
+    for (std::size_t i = 0; pattern && i < count; ++i) {
+      if (!files::matches_pattern(name_with_blanks(records[i].name), *pattern)) continue;
+      chosen[i] = matches_any = true;
+    }
+    if (!matches_any) throw data_error(argument + ": no entry has this name.");
+  }
+  return chosen;
+}
+
+void open_output(files::binary_file& file) {
+  finish_printing();
+  file.adopt(open_standard_output(), "standard output:");
+}
+
+void write_result(const std::string& argument, std::string_view bytes) {
+  if (argument == "-") {
+    print(bytes);
+    return;
+  }
+  const files::file_path path = named_file_behind_links(argument);
+  files::require_replaceable(path);
+  files::replaced_file to(path);
+  to.file().write(std::as_bytes(std::span(bytes)));
+  to.put_in_place();
+  to.flush_folder();
+}
+
+}  // namespace ostrane::command

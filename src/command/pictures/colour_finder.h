@@ -1,0 +1,43 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include "command/pictures/pixel_form.h"
+
+namespace ostrane::command {
+
+struct found_colour {
+  std::uint8_t index = 0;
+  bool is_exact = false;
+};
+
+// Finds the indices of colours: one that has the colour, else one for which distinct_colours
+// stands, else the lowest of the nearest ones.
+class colour_finder {
+ public:
+  explicit colour_finder(const colour_table& palette);
+
+  found_colour find(std::uint32_t colour) {
+    const remembered_colour& known = remembered_[colour * spread >> 16U];
+    return known.colour == colour ? known.found : look_for(colour);
+  }
+
+  const colour_table& palette() const { return palette_; }
+
+ private:
+  static constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
+
+  found_colour look_for(std::uint32_t colour);
+  found_colour nearest(std::uint32_t colour) const;
+
+  struct remembered_colour {
+    std::uint32_t colour = UINT32_MAX;
+    found_colour found;
+  };
+  colour_table palette_;
+  std::unordered_map<std::uint32_t, std::uint8_t> exact_;
+  std::vector<remembered_colour> remembered_;  // of many colours the last ones
+};
+
+}  // namespace ostrane::command

@@ -1,0 +1,138 @@
+#include "command/pictures/gif_writer.h"
+
+#include <gif_lib.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "command/pictures/pixel_form.h"
+#include "data/data_error.h"
+
+namespace ostrane::command {
+
+namespace {
+
+constexpr int max_side = 65535;
+
+struct gif_job {
+  GifFileType* gif;
+  const colour_table& palette;
+  int pace;
+  int scale;
+  std::int64_t& inexact;
+};
+
+[[noreturn]] void fail(int reason) {
+  const char* text = GifErrorString(reason);
+  throw data_error(std::string("A GIF cannot be made: ") + (text == nullptr ? "" : text) + ".");
+}
+
+void require(const gif_job& job, int outcome) {
+  if (outcome != GIF_OK) fail(job.gif->Error);
+}
+
+int append_bytes(GifFileType* gif, const GifByteType* bytes, int count) {
+  static_cast<std::string*>(gif->UserData)
+      ->append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(count));
+  return count;
+}
+
+// What each index becomes, and the one for unset cells, if there are any.
+struct frame_indices {
+  std::array<std::uint8_t, 256> of = {};
+  int unset = NO_TRANSPARENT_COLOR;
+};
+
+frame_indices indices_of(const gif_job& job, const picture& drawn) {
+  frame_indices indices;
+  for (std::size_t i = 0; i < indices.of.size(); ++i) indices.of[i] = static_cast<std::uint8_t>(i);
+  const pixel_form form = form_of(drawn);
+  if (form.unset_index) indices.unset = *form.unset_index;
+  if (form.is_indexed) return indices;
+  std::array<std::int64_t, 256> uses = {};
+  for (int row = 0; row < drawn.rows(); ++row) {
+    for (const std::int16_t cell : drawn.row(row)) {
+      if (cell != picture::unset) ++uses[static_cast<std::size_t>(cell)];
+    }
+  }
+  const auto rarest =
+      static_cast<std::size_t>(std::min_element(uses.begin(), uses.end()) - uses.begin());
+  std::size_t nearest = rarest == 0 ? 1 : 0;
+  for (std::size_t i = 0; i < job.palette.size(); ++i) {
+    const std::int32_t from_rarest = distance(job.palette[i], job.palette[rarest]);
+    if (i != rarest && from_rarest < distance(job.palette[nearest], job.palette[rarest])) {
+      nearest = i;
+    }
+  }
+  indices.of[rarest] = static_cast<std::uint8_t>(nearest);
+  indices.unset = static_cast<int>(rarest);
+  job.inexact += uses[rarest];
+  return indices;
+}
+
+void put_frame(const gif_job& job, const picture& drawn) {
+  const frame_indices indices = indices_of(job, drawn);
+  const GraphicsControlBlock control = {.DisposalMode = DISPOSE_BACKGROUND,
+                                        .UserInputFlag = false,
+                                        .DelayTime = job.pace,
+                                        .TransparentColor = indices.unset};
+  std::array<GifByteType, 4> extension = {};
+  EGifGCBToExtension(&control, extension.data());
+  require(job,
+          EGifPutExtension(job.gif, GRAPHICS_EXT_FUNC_CODE, extension.size(), extension.data()));
+  const int width = drawn.columns() * job.scale;
+  require(job, EGifPutImageDesc(job.gif, 0, 0, width, drawn.rows() * job.scale, false, nullptr));
+  std::vector<GifPixelType> line(static_cast<std::size_t>(width));
+  for (int row = 0; row < drawn.rows() * job.scale; ++row) {
+    for (int column = 0; column < width; ++column) {
+      const std::int16_t cell = drawn.at(column / job.scale, row / job.scale);
+      line[static_cast<std::size_t>(column)] = static_cast<GifPixelType>(
+          cell == picture::unset ? indices.unset : indices.of[static_cast<std::size_t>(cell)]);
+    }
+    std::vector<GifPixelType> put = line;  // giflib writes into it
+    require(job, EGifPutLine(job.gif, put.data(), width));
+  }
+}
+
+void put_all(const gif_job& job, const std::vector<picture>& pictures) {
+  int width = 1;
+  int height = 1;
+  for (const picture& drawn : pictures) {
+    width = std::max(width, drawn.columns());
+    height = std::max(height, drawn.rows());
+  }
+  if (width > max_side / job.scale || height > max_side / job.scale) {
+    throw data_error("A GIF cannot be made: its sides would be longer than 65535 pixels.");
+  }
+  std::array<GifColorType, 256> colours = {};
+  for (std::size_t i = 0; i < colours.size(); ++i) {
+    const std::uint32_t colour = job.palette[i];
+    colours[i] = {static_cast<GifByteType>(colour >> 16U), static_cast<GifByteType>(colour >> 8U),
+                  static_cast<GifByteType>(colour)};
+  }
+  const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> map(
+      GifMakeMapObject(static_cast<int>(colours.size()), colours.data()), GifFreeMapObject);
+  EGifSetGifVersion(job.gif, true);
+  require(job, EGifPutScreenDesc(job.gif, width * job.scale, height * job.scale, 8, 0, map.get()));
+  for (const picture& drawn : pictures) put_frame(job, drawn);
+}
+
+}  // namespace
+
+std::string gif_of(const std::vector<picture>& pictures, const colour_table& palette, int pace,
+                   int scale, std::int64_t& inexact) {
+  std::string bytes;
+  int reason = 0;
+  GifFileType* gif = EGifOpen(&bytes, append_bytes, &reason);
+  if (gif == nullptr) fail(reason);
+  try {
+    put_all({gif, palette, pace, scale, inexact}, pictures);
+  } catch (...) {
+    EGifCloseFile(gif, nullptr);
+    throw;
+  }
+  if (EGifCloseFile(gif, &reason) != GIF_OK) fail(reason);
+  return bytes;
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,129 @@
+#include "command/pictures/icon_json.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "data/data_error.h"
+#include "data/entry_file_name.h"
+#include "files/code_page.h"
+
+namespace ostrane::command {
+
+namespace {
+
+using json = nlohmann::ordered_json;
+
+constexpr const char* form = "ostrane-icons";
+
+const char* text_of(icon_kind kind) {
+  if (kind == icon_kind::drawable) return "drawable";
+  return kind == icon_kind::blank ? "blank" : "refused";
+}
+
+json json_of(const exported_icon& icon, std::size_t number) {
+  const icon_head& head = icon.head;
+  json object = {{"number", number},
+                 {"file", icon.file ? json(*icon.file) : json()},
+                 {"kind", text_of(classify_icon(head))},
+                 {"offset", icon.offset},
+                 {"no_of_rows", head.no_of_rows},
+                 {"no_of_cols", head.no_of_cols},
+                 {"spare", head.spare},
+                 {"col_start", head.col_start},
+                 {"row_start", head.row_start},
+                 {"col_end", head.col_end},
+                 {"row_end", head.row_end}};
+  if (icon.last_column > head.col_end) object["last_column"] = icon.last_column;
+  return object;
+}
+
+template <typename Number>
+Number number_in(const json& object, const char* field) {
+  const json& value = object.at(field);
+  if (!value.is_number_integer()) throw data_error(std::string(field) + " is no whole number");
+  const bool is_too_large =
+      value.is_number_unsigned() && value.get<std::uint64_t>() > std::uint64_t{INT64_MAX};
+  const std::int64_t number = is_too_large ? INT64_MAX : value.get<std::int64_t>();
+  if (number != static_cast<Number>(number)) {
+    throw data_error(std::string(field) + " is out of range");
+  }
+  return static_cast<Number>(number);
+}
+
+icon_head head_in(const json& object) {
+  return {.no_of_rows = number_in<std::int16_t>(object, "no_of_rows"),
+          .no_of_cols = number_in<std::int16_t>(object, "no_of_cols"),
+          .col_start = number_in<std::int32_t>(object, "col_start"),
+          .row_start = number_in<std::int32_t>(object, "row_start"),
+          .col_end = number_in<std::int32_t>(object, "col_end"),
+          .row_end = number_in<std::int32_t>(object, "row_end"),
+          .spare = number_in<std::int32_t>(object, "spare")};
+}
+
+// A name that leads out of the folder of the JSON is refused.
+std::string file_name_in(const json& file) {
+  auto name = file.get<std::string>();
+  const std::optional<std::string> text = files::from_utf8(name);
+  const std::string unsafe = text ? unsafe_name_reason(*text) : "it is not in the code page";
+  if (!unsafe.empty()) throw data_error("a file cannot be read: " + unsafe);
+  return name;
+}
+
+exported_icon icon_in(const json& object) {
+  exported_icon icon = {.file = {}, .head = head_in(object)};
+  const json& file = object.at("file");
+  if (!file.is_null()) icon.file = file_name_in(file);
+  icon.last_column = object.contains("last_column") ? number_in<std::int32_t>(object, "last_column")
+                                                    : icon.head.col_end;
+  return icon;
+}
+
+exported_icons read(const std::string& text) {
+  const json all = json::parse(text);
+  if (all.at("format").get<std::string>() != form) throw data_error("it is of another kind");
+  exported_icons found;
+  const std::optional<std::string> identifier =
+      files::from_utf8(all.at("identifier").get<std::string>());
+  if (!identifier || identifier->size() != found.identifier.size()) {
+    throw data_error("its identifier is not of four characters");
+  }
+  std::copy(identifier->begin(), identifier->end(), found.identifier.begin());
+  found.scale = number_in<std::int16_t>(all, "scale");
+  const json& icons = all.at("icons");
+  if (!icons.is_array() || icons.size() > std::size_t{max_icons_per_file}) {
+    throw data_error("it has no list of up to 5000 icons");
+  }
+  for (const json& icon : icons) found.icons.push_back(icon_in(icon));
+  return found;
+}
+
+}  // namespace
+
+std::string json_of(const exported_icons& exported) {
+  const json head = {{"format", form},
+                     {"name", exported.name},
+                     {"identifier", files::to_utf8(std::string_view(exported.identifier.data(),
+                                                                    exported.identifier.size()))},
+                     {"scale", exported.scale}};
+  std::string text = head.dump();
+  text.back() = ',';
+  text += "\n \"icons\": [";
+  for (std::size_t i = 0; i < exported.icons.size(); ++i) {
+    text += i == 0 ? "\n  " : ",\n  ";
+    text += json_of(exported.icons[i], i + 1).dump();
+  }
+  return text + "\n]}\n";
+}
+
+exported_icons read_icon_json(const std::string& text, const std::string& shown) {
+  const std::string cannot_read = shown + " cannot be read as the JSON of an export: ";
+  try {
+    return read(text);
+  } catch (const data_error& error) {
+    throw data_error(cannot_read + error.text + ".");
+  } catch (const json::exception& error) {
+    throw data_error(cannot_read + error.what() + ".");
+  }
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,113 @@
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
+
+#include "command/commands.h"
+#include "command/console.h"
+#include "command/named_files.h"
+#include "command/pictures/import_sources.h"
+#include "command/pictures/png_reader.h"
+#include "command/program.h"
+#include "data/data_error.h"
+#include "data/palette.h"
+#include "files/whole_file.h"
+
+namespace ostrane::command {
+
+namespace {
+
+colour_table read_palette_argument(const std::string& argument) {
+  const files::file_path path = named_file(argument);
+  files::binary_file file;
+  file.open_to_read(path);
+  if (file.size() == std::int64_t{palette_colours * colour_size}) return read_colours(file, 0);
+  const archive_index index = read_archive_index(path);
+  return read_game_colours(file, index.records);
+}
+
+// What the threads of an import share.
+struct import_job {
+  const import_plan& plan;
+  std::vector<shp_icon> icons;
+  std::atomic<std::size_t> next = 0;  // number of the next icon to be made
+  std::atomic<bool> stops = false;
+  std::atomic<std::int64_t> inexact_pixels = 0;
+  std::atomic<std::int64_t> inexact_pictures = 0;
+};
+
+shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finder& colours,
+                      files::binary_file& file) {
+  if (!planned.png) return {planned.known->head, ""};
+  const std::string bytes = read_whole_file(file, *planned.png);
+  const png_picture read = read_png(bytes, planned.png->shown, colours);
+  job.inexact_pixels += read.inexact;
+  if (read.inexact > 0) ++job.inexact_pictures;
+  try {
+    return new_icon(read.drawn, planned.known);
+  } catch (const data_error& error) {
+    throw data_error(planned.png->shown + " cannot become an icon: " + error.text + ".");
+  }
+}
+
+// Makes icons until there are no more, or until a thread fails.
+void make_icons(import_job& job, colour_finder colours) {
+  files::binary_file file;
+  try {
+    for (std::size_t i = job.next++; i < job.icons.size() && !job.stops; i = job.next++) {
+      job.icons[i] = make_icon_of(job, job.plan.icons[i], colours, file);
+    }
+  } catch (...) {
+    job.stops = true;
+    throw;
+  }
+}
+
+// Reading a PNG and packing an icon take the processor alone, so each processor gets a thread.
+void make_all_icons(import_job& job, const colour_finder& colours) {
+  constexpr auto between_looks = std::chrono::milliseconds(20);
+  constexpr std::size_t max_threads = 8;
+  const auto count = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
+  std::vector<std::future<void>> threads;
+  const struct stopping {  // before the threads are waited for
+    import_job& job;
+    ~stopping() { job.stops = true; }
+  } at_end{job};
+  for (std::size_t i = 0; i < std::min(count, job.icons.size()); ++i) {
+    threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
+  }
+  for (std::future<void>& thread : threads) {
+    while (thread.wait_for(between_looks) != std::future_status::ready) {
+      show_progress(std::min(job.next.load(), job.icons.size()), job.icons.size(), "");
+    }
+    thread.get();
+  }
+}
+
+int report(const import_options& options, const import_job& job) {
+  if (job.inexact_pixels == 0) return status_done;
+  note(options.icon_file, std::to_string(job.inexact_pixels) + " pixels of " +
+                              std::to_string(job.inexact_pictures) +
+                              " pictures were not exact and got the nearest colour");
+  return status_differs;
+}
+
+}  // namespace
+
+int import_pictures(const import_options& options) {
+  import_plan plan =
+      plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
+  if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
+  if (plan.icons.empty()) throw data_error(options.sources.front() + ": holds no pictures.");
+  if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
+    throw data_error("An icon file holds at most " + std::to_string(max_icons_per_file) +
+                     " icons.");
+  }
+  import_job job = {.plan = plan, .icons = std::vector<shp_icon>(plan.icons.size())};
+  make_all_icons(job, colour_finder(read_palette_argument(options.palette)));
+  write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
+  return report(options, job);
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,192 @@
+#include "command/pictures/png_reader.h"
+
+#include <png.h>
+
+#include <algorithm>
+#include <csetjmp>
+#include <cstring>
+#include <vector>
+
+#include "data/data_error.h"
+#include "data/icon_file.h"
+
+namespace ostrane::command {
+
+namespace {
+
+constexpr png_uint_32 max_side = 32768;
+// No stream of deflate gives more bytes for each of its own.
+constexpr std::uint64_t max_inflation = 1032;
+
+// What an index of an indexed PNG becomes.
+struct mapped_index {
+  std::int16_t cell = picture::unset;
+  bool is_exact = true;
+};
+
+// All that the reading uses lives here, as libpng leaves a failed call by longjmp.
+struct png_job {
+  std::string_view bytes;
+  colour_finder& colours;
+  std::size_t at = 0;
+  std::string failure = {};
+  png_uint_32 width = 0;
+  png_uint_32 height = 0;
+  bool is_indexed = false;
+  bool has_alpha = false;
+  int passes = 1;
+  std::size_t row_bytes = 0;
+  std::array<mapped_index, 256> map = {};
+  std::vector<png_byte> rows = {};  // all of an interlaced picture, else one
+  png_picture result = {picture(0, 0)};
+};
+
+void take_bytes(png_structp png, png_bytep to, size_t count) {
+  auto* job = static_cast<png_job*>(png_get_io_ptr(png));
+  if (job->bytes.size() - job->at < count) png_error(png, "it ends too early");
+  std::memcpy(to, job->bytes.data() + job->at, count);
+  job->at += count;
+}
+
+[[noreturn]] void fail(png_structp png, png_const_charp text) {
+  static_cast<png_job*>(png_get_error_ptr(png))->failure = text;
+  png_longjmp(png, 1);
+}
+
+void ignore_warning(png_structp /*png*/, png_const_charp /*text*/) {}
+
+void map_indices(png_structp png, png_infop info, png_job& job) {
+  png_colorp entries = nullptr;
+  png_bytep alphas = nullptr;
+  int count = 0;
+  int alpha_count = 0;
+  png_get_PLTE(png, info, &entries, &count);
+  png_get_tRNS(png, info, &alphas, &alpha_count, nullptr);
+  for (int i = 0; i < static_cast<int>(job.map.size()); ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const png_color entry = i < count ? entries[i] : png_color{};
+    const int alpha = i < alpha_count ? alphas[i] : 0xFF;
+    const auto colour = static_cast<std::uint32_t>(entry.red << 16 | entry.green << 8 | entry.blue);
+    const bool stays = i < count && job.colours.palette()[at] == colour;
+    const found_colour found =
+        stays ? found_colour{static_cast<std::uint8_t>(i), true} : job.colours.find(colour);
+    const bool is_set = alpha >= 0x80;
+    job.map[at] = {.cell = is_set ? std::int16_t{found.index} : picture::unset,
+                   .is_exact = is_set ? alpha == 0xFF && found.is_exact && i < count : alpha == 0};
+  }
+}
+
+// Pixels that are not indexed become red, green, blue and alpha, a byte each.
+void choose_pixels(png_structp png, png_infop info, png_job& job) {
+  job.is_indexed = png_get_color_type(png, info) == PNG_COLOR_TYPE_PALETTE;
+  if (job.is_indexed) {
+    png_set_packing(png);
+  } else {
+    png_set_expand(png);
+    png_set_scale_16(png);
+    png_set_gray_to_rgb(png);
+    png_set_add_alpha(png, 0xFF, PNG_FILLER_AFTER);
+  }
+  job.passes = png_set_interlace_handling(png);
+}
+
+void read_head(png_structp png, png_infop info, png_job& job) {
+  png_set_read_fn(png, &job, take_bytes);
+  png_set_user_limits(png, max_side, max_side);
+  png_set_chunk_malloc_max(png, std::size_t{8} << 20U);
+  png_read_info(png, info);
+  job.width = png_get_image_width(png, info);
+  job.height = png_get_image_height(png, info);
+  if (std::int64_t{job.width} * job.height > max_picture_cells) png_error(png, "it is too large");
+  if (png_get_rowbytes(png, info) * std::uint64_t{job.height} > max_inflation * job.bytes.size()) {
+    png_error(png, "it ends too early");
+  }
+  choose_pixels(png, info, job);
+  png_read_update_info(png, info);
+  if (job.is_indexed) map_indices(png, info, job);
+  job.row_bytes = png_get_rowbytes(png, info);
+}
+
+void take_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+  std::int64_t inexact = 0;
+  for (std::int16_t& cell : cells) {
+    const mapped_index& mapped = job.map[*pixels++];
+    cell = mapped.cell;
+    inexact += mapped.is_exact ? 0 : 1;
+  }
+  job.result.inexact += inexact;
+}
+
+void take_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+  std::int64_t inexact = 0;
+  for (std::int16_t& cell : cells) {
+    const int alpha = pixels[3];
+    if (alpha < 0x80) {
+      inexact += alpha == 0 ? 0 : 1;
+    } else {
+      const found_colour found = job.colours.find(
+          static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]));
+      cell = found.index;
+      inexact += alpha == 0xFF && found.is_exact ? 0 : 1;
+    }
+    pixels += 4;
+  }
+  job.result.inexact += inexact;
+}
+
+void take_row(png_job& job, const png_byte* pixels, int row) {
+  const auto cells = job.result.drawn.row(row);
+  if (job.is_indexed) {
+    take_indices(job, pixels, cells);
+  } else {
+    take_colours(job, pixels, cells);
+  }
+}
+
+void read_rows(png_structp png, png_job& job) {
+  const bool is_interlaced = job.passes > 1;
+  for (int pass = 0; pass < job.passes; ++pass) {
+    for (png_uint_32 row = 0; row < job.height; ++row) {
+      png_byte* to = job.rows.data() + (is_interlaced ? row * job.row_bytes : 0);
+      png_read_row(png, to, nullptr);
+      if (pass + 1 == job.passes) take_row(job, to, static_cast<int>(row));
+    }
+  }
+  png_read_end(png, nullptr);
+}
+
+// Calls one of the two above. False if libpng has failed.
+template <typename Part>
+bool run(png_structp png, const Part& part) {
+  if (setjmp(png_jmpbuf(png)) != 0) return false;  // NOLINT: how libpng tells of a failure
+  part();
+  return true;
+}
+
+void read(png_structp png, png_infop info, png_job& job) {
+  if (!run(png, [&] { read_head(png, info, job); })) return;
+  job.result.drawn = picture(static_cast<int>(job.width), static_cast<int>(job.height));
+  job.rows.resize(job.row_bytes * (job.passes > 1 ? job.height : 1));
+  run(png, [&] { read_rows(png, job); });
+}
+
+}  // namespace
+
+png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours) {
+  png_job job = {.bytes = bytes, .colours = colours};
+  png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &job, fail, ignore_warning);
+  png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
+  if (info == nullptr) throw std::bad_alloc();
+  struct closing {
+    png_structp* png;
+    png_infop* info;
+    ~closing() { png_destroy_read_struct(png, info, nullptr); }
+  } at_end{&png, &info};
+  read(png, info, job);
+  if (!job.failure.empty()) {
+    throw data_error(shown + " cannot be read as a PNG: " + job.failure + ".");
+  }
+  return std::move(job.result);
+}
+
+}  // namespace ostrane::command

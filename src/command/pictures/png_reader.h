@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "command/pictures/colour_finder.h"
+#include "data/picture.h"
+
+namespace ostrane::command {
+
+struct png_picture {
+  picture drawn;
+  std::int64_t inexact = 0;  // pixels whose colour or transparency had to change
+};
+
+// Reads a PNG of any kind. A pixel that is more than half transparent is unset. Indices of an
+// indexed PNG stay where its palette has the colour of the same index; other colours are looked
+// for. Throws data_error, which names `shown`, if it is no whole PNG or is larger than
+// max_picture_cells.
+png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours);
+
+}  // namespace ostrane::command

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "data/game_palette.h"
+#include "data/picture.h"
+
+namespace ostrane::command {
+
+// The bytes of a PNG in which each cell is `scale` pixels wide and high. pixel_form.h tells the
+// pixels. Throws data_error if libpng fails.
+// `distinct` are the distinct_colours of the palette.
+std::string png_of(const picture& drawn, const colour_table& palette, const colour_table& distinct,
+                   int scale = 1);
+
+}  // namespace ostrane::command

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "data/picture.h"
+
+namespace ostrane::command {
+
+// All pictures on a grid of equal cells, row by row, as near to a square as it goes.
+struct sheet {
+  picture drawn{0, 0};
+  int columns = 0;  // of the grid
+  int cell_width = 0;
+  int cell_height = 0;
+};
+
+// Throws data_error if the sheet would have more than max_picture_cells.
+sheet sheet_of(const std::vector<picture>& pictures);
+
+// What sprite editors read beside the sheet: an array of frames, and meta. `names` are those of the
+// frames, `image` that of the PNG, in UTF-8; `pace` is in hundredths of a second.
+std::string json_of(const sheet& all, const std::vector<picture>& pictures,
+                    const std::vector<std::string>& names, const std::string& image, int pace,
+                    int scale);
+
+}  // namespace ostrane::command

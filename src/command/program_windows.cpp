@@ -1,0 +1,52 @@
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <shellapi.h>
+
+#include "command/program.h"
+
+namespace ostrane::command {
+
+namespace fs = std::filesystem;
+
+std::string argument_of_path(const fs::path& path) {
+  const std::u8string utf8 = path.u8string();
+  return {utf8.begin(), utf8.end()};
+}
+
+std::vector<std::string> arguments_of(int /*argc*/, char** /*argv*/) {
+  int count = 0;
+  wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int i = 1; i < count; ++i) arguments.push_back(argument_of_path(wide[i]));
+  LocalFree(wide);
+  return arguments;
+}
+
+fs::path path_of_argument(const std::string& argument) {
+  return std::u8string(argument.begin(), argument.end());
+}
+
+fs::path program_folder() {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return fs::path(path).parent_path();
+}
+
+bool errors_go_to_terminal() { return _isatty(2) != 0; }
+
+void set_binary_output() {
+  _setmode(_fileno(stdout), _O_BINARY);
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+int open_standard_output() {
+  const int copy = _dup(1);
+  return copy < 0 ? -errno : copy;
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,188 @@
+#include "data/archive_check.h"
+
+#include <algorithm>
+#include <memory>
+#include <numeric>
+#include <unordered_map>
+#include <vector>
+
+#include "data/archive_index.h"
+#include "data/data_error.h"
+#include "data/entry_file_name.h"
+#include "data/entry_kind.h"
+#include "data/icon_check.h"
+#include "data/palette.h"
+#include "files/text.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::int64_t palette_size = palette_colours * colour_size;
+// What the window shows of a text.
+constexpr std::int64_t max_text_size = std::int64_t{2} << 20U;
+
+struct archive_check {
+  const fault_sink& tell;
+  std::vector<dat_record> records;
+  std::int64_t file_size;
+  std::vector<bool> overlaps;  // for each entry
+};
+
+std::string number(std::int64_t value) { return std::to_string(value); }
+
+std::size_t entry_count(const archive_check& check) {
+  return check.records.empty() ? 0 : check.records.size() - 1;
+}
+
+std::string name_of(const archive_check& check, std::size_t index) {
+  return name_with_blanks(check.records[index].name);
+}
+
+// An entry without a name is told of by its number.
+std::string shown_name(const archive_check& check, std::size_t index) {
+  const std::string name = name_of(check, index);
+  return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
+}
+
+std::int64_t start_of(const archive_check& check, std::size_t index) {
+  return check.records[index].offset;
+}
+
+std::int64_t size_of(const archive_check& check, std::size_t index) {
+  return start_of(check, index + 1) - start_of(check, index);
+}
+
+void check_ends(const archive_check& check) {
+  if (check.records.empty()) {
+    check.tell("", "its index has no end record");
+    return;
+  }
+  const std::int64_t after_index =
+      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
+  const std::int64_t gap = start_of(check, 0) - after_index;
+  if (gap > 0) check.tell("", number(gap) + " bytes lie between its index and the first entry");
+  const dat_record& end = check.records.back();
+  if (end.name != record_name{}) check.tell("", "its end record has a name");
+  const std::int64_t rest = check.file_size - end.offset;
+  if (rest > 0) check.tell("", number(rest) + " bytes lie after the end record's offset");
+  if (rest < 0) {
+    check.tell("", "its end record's offset lies " + number(-rest) + " bytes after its end");
+  }
+  if (end.offset < after_index) check.tell("", "its end record's offset lies in the index");
+}
+
+void check_names(const archive_check& check) {
+  std::unordered_map<std::string, std::size_t> known;
+  for (std::size_t i = 0; i < entry_count(check); ++i) {
+    const std::string name = name_of(check, i);
+    const std::string unsafe = unsafe_name_reason(name);
+    if (!unsafe.empty()) check.tell(shown_name(check, i), "cannot become a file: " + unsafe);
+    const auto [first, is_new] = known.emplace(files::compare_key(name), i);
+    if (!is_new) {
+      check.tell(
+          shown_name(check, i),
+          "entry " + number(static_cast<std::int64_t>(first->second) + 1) + " has its name too");
+    }
+  }
+}
+
+void check_offsets(const archive_check& check) {
+  const std::int64_t after_index =
+      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
+  for (std::size_t i = 0; i < entry_count(check); ++i) {
+    const std::string name = shown_name(check, i);
+    const std::int64_t start = start_of(check, i);
+    const std::string offset = "its offset " + number(start);
+    if (start < 0) check.tell(name, offset + " is below 0");
+    if (start >= 0 && start < after_index) check.tell(name, offset + " lies in the index");
+    if (start > check.file_size) check.tell(name, offset + " lies after the end of the archive");
+    if (size_of(check, i) < 0) {
+      check.tell(name,
+                 offset + " is out of order: the next one is " + number(start_of(check, i + 1)));
+    } else if (start >= 0 && start <= check.file_size &&
+               start + size_of(check, i) > check.file_size) {
+      check.tell(name, "it ends " + number(start + size_of(check, i) - check.file_size) +
+                           " bytes after the end of the archive");
+    }
+  }
+}
+
+// Compares each entry with the one that reaches furthest of those that begin before it.
+void check_overlaps(archive_check& check) {
+  check.overlaps.resize(entry_count(check));
+  std::vector<std::size_t> order;
+  for (std::size_t i = 0; i < entry_count(check); ++i) {
+    if (size_of(check, i) > 0) order.push_back(i);
+  }
+  std::stable_sort(order.begin(), order.end(), [&check](std::size_t a, std::size_t b) {
+    return check.records[a].offset < check.records[b].offset;
+  });
+  for (std::size_t k = 1, furthest = 0; k < order.size(); ++k) {
+    const std::size_t other = order[furthest];
+    const std::size_t entry = order[k];
+    const std::int64_t end = start_of(check, other) + size_of(check, other);
+    if (start_of(check, entry) < end) {
+      check.overlaps[entry] = true;
+      check.tell(shown_name(check, entry), "it overlaps with " + shown_name(check, other));
+    }
+    if (start_of(check, entry) + size_of(check, entry) > end) furthest = k;
+  }
+}
+
+void check_content(const archive_check& check, files::binary_file& file, icon_stream& stream,
+                   std::size_t index) {
+  const std::int64_t start = start_of(check, index);
+  const std::int64_t size = size_of(check, index);
+  // Of what overlaps only the first one is looked into, so that no byte is read for many entries.
+  if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps[index]) return;
+  const std::string name = shown_name(check, index);
+  switch (kind_of_entry(name_without_nuls(check.records[index].name))) {
+    case entry_kind::icons:
+      check_icon_file(file, static_cast<std::int32_t>(start), check.records[index + 1].offset,
+                      stream, [&](const std::string& fault) { check.tell(name, fault); });
+      break;
+    case entry_kind::palette:
+      if (size != palette_size) {
+        check.tell(
+            name, "a palette has " + number(palette_size) + " bytes, this one has " + number(size));
+      }
+      break;
+    case entry_kind::text:
+      if (size > max_text_size) {
+        check.tell(
+            name, "of its " + number(size) + " bytes only " + number(max_text_size) + " are shown");
+      }
+      break;
+    case entry_kind::other:
+      break;
+  }
+}
+
+}  // namespace
+
+void check_archive(
+    const files::file_path& path, const fault_sink& tell,
+    const std::function<void(std::size_t, std::size_t, const std::string&)>& on_entry) {
+  archive_index index;
+  files::binary_file file;
+  try {
+    index = read_archive_index(path);
+    open_unchanged(file, path, index.stamp);
+  } catch (const data_error& error) {
+    tell("", error.text);
+    return;
+  }
+  archive_check check{tell, std::move(index.records), index.stamp.size, {}};
+  check_ends(check);
+  check_names(check);
+  check_offsets(check);
+  check_overlaps(check);
+  const auto stream = std::make_unique<icon_stream>();
+  for (std::size_t i = 0; i < entry_count(check); ++i) {
+    on_entry(i, entry_count(check), name_of(check, i));
+    check_content(check, file, *stream, i);
+  }
+}
+
+}  // namespace ostrane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "data/fault_sink.h"
+#include "files/file_path.h"
+
+namespace ostrane {
+
+// Tells every fault of an archive: of its index, the names and offsets in it, and of its icon
+// files, palettes and texts. Names in what it tells are in the code page. `on_entry` is called
+// before the content of each entry is checked. Throws file_error if the archive cannot be read.
+void check_archive(const files::file_path& path, const fault_sink& tell,
+                   const std::function<void(std::size_t index, std::size_t count,
+                                            const std::string& name)>& on_entry);
+
+}  // namespace ostrane

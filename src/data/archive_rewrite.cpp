@@ -1,0 +1,129 @@
+#include "data/archive_rewrite.h"
+
+#include <algorithm>
+#include <array>
+
+#include "data/chunk_ladder.h"
+#include "data/data_error.h"
+#include "data/new_index.h"
+#include "files/file_system.h"
+#include "files/replaced_file.h"
+#include "files/text.h"
+
+namespace ostrane {
+
+namespace {
+
+std::string key_of(const record_name& name) { return files::compare_key(name_with_blanks(name)); }
+
+bool sorts_before(const std::string& a, const std::string& b) {
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+    return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
+  });
+}
+
+struct rewriting {
+  const archive_index& old;
+  files::binary_file& archive;
+  files::binary_file& file;
+  const job_progress& progress;
+};
+
+std::int64_t size_of(const archive_index& old, const rewritten_entry& entry) {
+  if (!entry.old_index) return files::file_size(entry.file);
+  const std::size_t i = *entry.old_index;
+  const std::int64_t start = old.records[i].offset;
+  const std::int64_t size = old.records[i + 1].offset - start;
+  if (start < 0 || size < 0 || start + size > old.stamp.size) {
+    throw data_error("The archive does not hold the entry " + name_with_blanks(entry.name) +
+                     " whole.");
+  }
+  return size;
+}
+
+std::vector<dat_record> new_records(const archive_index& old,
+                                    const std::vector<rewritten_entry>& entries) {
+  if (entries.size() > max_files) {
+    throw data_error("An archive holds at most " + std::to_string(max_files) + " entries.");
+  }
+  std::int32_t offset = first_entry_offset(entries.size());
+  std::vector<dat_record> records;
+  records.reserve(entries.size() + 1);
+  for (const rewritten_entry& entry : entries) {
+    records.push_back({.offset = offset, .name = entry.name});
+    const std::int64_t size = size_of(old, entry);
+    if (offset + size > INT32_MAX) {
+      throw data_error("The archive would be larger than 2 GB, which is the most that it can be.");
+    }
+    offset += static_cast<std::int32_t>(size);
+  }
+  records.push_back({.offset = offset, .name = {}});
+  return records;
+}
+
+void copy_entry(const rewriting& job, const rewritten_entry& entry, std::int32_t size,
+                files::binary_file& to) {
+  std::int16_t small_block_bytes = 0;
+  if (entry.old_index) {
+    job.archive.seek(job.old.records[*entry.old_index].offset);
+    if (chunk_ladder(job.archive, to, size, small_block_bytes, job.progress) == size) return;
+    throw data_error("The archive was cut meanwhile.");
+  }
+  job.file.open_to_read(entry.file);
+  const std::int32_t copied = chunk_ladder(job.file, to, size, small_block_bytes, job.progress);
+  std::array<std::byte, 1> one_more;
+  if (copied < size || job.file.read(one_more) > 0) {
+    throw data_error(entry.file.shown + " has changed its size meanwhile.");
+  }
+  job.file.close();
+}
+
+}  // namespace
+
+std::vector<rewritten_entry> entries_of(const archive_index& index) {
+  std::vector<rewritten_entry> entries;
+  for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
+    entries.push_back({index.records[i].name, i, {}});
+  }
+  return entries;
+}
+
+std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& file_name,
+                      const files::file_path& file) {
+  const record_name name = stored_name(padded_name(file_name));
+  const std::string key = key_of(name);
+  const auto of_name = std::find_if(entries.rbegin(), entries.rend(), [&key](const auto& entry) {
+    return key_of(entry.name) == key;
+  });
+  if (of_name != entries.rend()) {
+    *of_name = {of_name->name, std::nullopt, file};
+  } else {
+    const auto next = std::find_if(entries.begin(), entries.end(), [&key](const auto& entry) {
+      return sorts_before(key, key_of(entry.name));
+    });
+    entries.insert(next, {name, std::nullopt, file});
+  }
+  return name_with_blanks(name);
+}
+
+void rewrite_archive(const files::file_path& path, const archive_index& old,
+                     const std::vector<rewritten_entry>& entries, const job_progress& progress) {
+  files::replaced_file to(path);
+  files::binary_file archive;
+  files::binary_file file;
+  open_unchanged(archive, path, old.stamp);
+  const std::vector<dat_record> records = new_records(old, entries);
+  const std::string index = index_bytes(records);
+  to.file().write(std::as_bytes(std::span(index)));
+  const rewriting job{old, archive, file, progress};
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const std::int32_t size = records[i + 1].offset - records[i].offset;
+    progress.on_file(i, name_with_blanks(entries[i].name), size);
+    copy_entry(job, entries[i], size, to.file());
+  }
+  archive.close();
+  to.put_in_place();
+  to.flush_folder();
+}
+
+}  // namespace ostrane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "data/archive_format.h"
+#include "files/binary_file.h"
+
+namespace ostrane {
+
+// The 256 colours as 0xRRGGBB.
+using colour_table = std::array<std::uint32_t, 256>;
+
+// Reads a palette at a file offset. Colours that the file does not hold are the built-in ones.
+// Throws file_error.
+colour_table read_colours(files::binary_file& file, std::int32_t offset);
+
+// The colours of an open archive: of the last entry GAME.PAL, or the built-in ones. Throws
+// file_error.
+colour_table read_game_colours(files::binary_file& archive, std::span<const dat_record> records);
+
+}  // namespace ostrane

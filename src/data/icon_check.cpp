@@ -1,0 +1,168 @@
+#include "data/icon_check.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "data/icon_decoder.h"
+#include "data/icon_file.h"
+
+namespace ostrane {
+
+namespace {
+
+// Streams may share bytes. No file has a use for more reading than this.
+constexpr std::int64_t max_readings_of_a_byte = 64;
+
+using tell_fault = std::function<void(const std::string&)>;
+
+std::string number(std::int64_t value) { return std::to_string(value); }
+
+// Notes whether anything is painted outside the picture.
+struct edge_canvas {
+  const icon_head& head;
+  bool left_picture = false;
+
+  void note(std::int64_t column, std::int32_t row, std::int32_t count) {
+    const bool inside =
+        row >= 0 && row < rows_of(head) && column >= 0 && column + count <= columns_of(head);
+    left_picture = left_picture || !inside;
+  }
+  void run(std::int32_t column, std::int32_t row, std::int32_t count, std::uint8_t /*index*/) {
+    note(column, row, count);
+  }
+  void pixels(std::int32_t column, std::int32_t row, std::int32_t count, const std::byte*) {
+    note(column, row, count);
+  }
+};
+
+struct icon_file_check {
+  files::binary_file& file;
+  icon_stream& stream;
+  const tell_fault& tell;
+  icon_file icons;
+  std::vector<std::int32_t> starts;  // of all icons and the end of the file, 0-based, ascending
+  std::int64_t bytes_left_to_read = 0;
+};
+
+void check_head(const icon_file_check& check) {
+  const icon_file& icons = check.icons;
+  const std::int32_t count = icons.head.icon_count;
+  if (std::int64_t{icons.end} - icons.start < std::int64_t{shp_head_size}) {
+    check.tell("it is too short for the head of an icon file");
+  } else if (count < 0) {
+    check.tell("it gives " + number(count) + " as the number of its icons");
+  } else if (count > max_icons_per_file) {
+    check.tell("it gives " + number(count) + " as the number of its icons; at most " +
+               number(max_icons_per_file) + " are read");
+  } else if (icons.positions.size() < static_cast<std::size_t>(count)) {
+    check.tell("its directory should have " + number(count) + " icons and has room for " +
+               number(static_cast<std::int64_t>(icons.positions.size())));
+  }
+}
+
+std::string range_text(const char* what, std::int32_t from, std::int32_t to, std::int32_t highest) {
+  return std::string(what) + " " + number(from) + " to " + number(to) + " of 0 to " +
+         number(highest);
+}
+
+// What is wrong with the numbers of a head, or "".
+std::string fault_of_head(const icon_head& head) {
+  const std::string numbers =
+      ": " + range_text("rows", head.row_start, head.row_end, head.no_of_rows) + ", " +
+      range_text("columns", head.col_start, head.col_end, head.no_of_cols);
+  if (head.no_of_rows < 0 || head.no_of_cols < 0) return "its size is below 0" + numbers;
+  if (classify_icon(head) == icon_kind::blank) return "its box begins beyond the picture" + numbers;
+  if (classify_icon(head) == icon_kind::refused) return "its box ends beyond the picture" + numbers;
+  if (head.row_start < 0 || head.col_start < 0) {
+    return "its box begins before the picture" + numbers;
+  }
+  if (head.row_start > head.row_end || head.col_start > head.col_end) {
+    return "its box ends before it begins" + numbers;
+  }
+  if (!has_picture(head)) return "its picture is too large" + numbers;
+  return "";
+}
+
+// The file stands on the stream's first byte, at `at`.
+void check_stream(icon_file_check& check, const std::string& icon, const icon_head& head,
+                  std::int64_t at) {
+  edge_canvas canvas{head};
+  check.stream.read_buffer_fill = 0;
+  check.stream.read_buffer_pos = 0;
+  const std::int64_t size = std::max<std::int64_t>(check.icons.end - at, 0);
+  check.stream.entry_bytes_left = static_cast<std::int32_t>(size);
+  icon_decoder(check.stream, check.file, head, canvas).decode();
+  const std::int64_t used = size - check.stream.entry_bytes_left -
+                            (check.stream.read_buffer_fill - check.stream.read_buffer_pos);
+  check.bytes_left_to_read -= used;
+  if (canvas.left_picture) check.tell(icon + "its stream paints outside the picture");
+  if (check.stream.stream_ended) {
+    check.tell(icon + "its stream ends before row " + number(head.row_end));
+    return;
+  }
+  const auto next = std::upper_bound(check.starts.begin(), check.starts.end(), at - 1);
+  const std::int64_t left = *next - (at + used);
+  if (left > 0) check.tell(icon + number(left) + " bytes are left after its stream");
+  if (left < 0) {
+    check.tell(icon + "its stream reaches " + number(-left) + " bytes into the next icon");
+  }
+}
+
+void check_icon(icon_file_check& check, std::size_t index) {
+  const std::string icon = "icon " + number(static_cast<std::int64_t>(index) + 1) + ": ";
+  const std::int64_t at = std::int64_t{check.icons.positions[index]} - 1;
+  if (at < check.icons.start || at + std::int64_t{icon_head_size} > check.icons.end) {
+    check.tell(icon + "its offset " + number(at - check.icons.start) + " leads outside the entry");
+    return;
+  }
+  icon_head head;
+  read_icon_head(check.file, check.icons.positions[index], head);
+  const std::string fault = fault_of_head(head);
+  if (!fault.empty()) check.tell(icon + fault);
+  if (head.no_of_rows < 0 || head.no_of_cols < 0 || classify_icon(head) != icon_kind::drawable) {
+    return;
+  }
+  check_stream(check, icon, head, at + std::int64_t{icon_head_size});
+}
+
+// The bounds of the streams: a stream ends where the next icon or the file does.
+void collect_starts(icon_file_check& check) {
+  for (const std::int32_t position : check.icons.positions) {
+    if (position > check.icons.start && position <= check.icons.end) {
+      check.starts.push_back(position - 1);
+    }
+  }
+  check.starts.push_back(check.icons.end);
+  std::sort(check.starts.begin(), check.starts.end());
+  check.starts.erase(std::unique(check.starts.begin(), check.starts.end()), check.starts.end());
+}
+
+}  // namespace
+
+void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t end,
+                     icon_stream& stream, const tell_fault& tell) {
+  icon_file_check check{file, stream, tell, read_icon_file(file, start, end), {}};
+  check_head(check);
+  collect_starts(check);
+  check.bytes_left_to_read = max_readings_of_a_byte * (std::int64_t{end} - start);
+  std::vector<bool> is_known(check.starts.size());
+  for (std::size_t i = 0; i < check.icons.positions.size(); ++i) {
+    const auto place =
+        std::lower_bound(check.starts.begin(), check.starts.end(), check.icons.positions[i] - 1) -
+        check.starts.begin();
+    const auto known = static_cast<std::size_t>(place);
+    // Several numbers may lead to one icon.
+    if (known < is_known.size() && check.starts[known] == check.icons.positions[i] - 1) {
+      if (is_known[known]) continue;
+      is_known[known] = true;
+    }
+    if (check.bytes_left_to_read < 0) {
+      tell("its streams share too many bytes; from icon " +
+           number(static_cast<std::int64_t>(i) + 1) + " on they were not checked");
+      return;
+    }
+    check_icon(check, i);
+  }
+}
+
+}  // namespace ostrane

@@ -1,0 +1,180 @@
+#include "desktop/canvas.h"
+
+#include <QAccessible>
+#include <QFocusEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/cursor_step.h"
+#include "desktop/designed_look.h"
+#include "desktop/keys.h"
+#include "desktop/picture_painter.h"
+#include "desktop/screen_text.h"
+#include "forms_layer/picture_array.h"
+#include "forms_layer/user.h"
+
+namespace desktop {
+
+namespace {
+
+// A region of many rectangles costs more than the painting that it saves.
+constexpr int max_damaged_parts = 40;
+
+// The cursor goes round a picture: over its border and a pixel outside.
+QRect with_cursor(const QRect& place) {
+  return place.isNull() ? place : place.adjusted(-1, -1, 1, 1);
+}
+
+void paint_cursor(QPainter& painter, const QRect& place, const QColor& colour) {
+  if (place.isNull()) return;
+  painter.setPen(colour);
+  painter.drawRect(place.adjusted(0, 0, -1, -1));
+  painter.drawRect(place.adjusted(-1, -1, 0, 0));
+}
+
+}  // namespace
+
+void double_click(const forms_layer::picture_box& box) {
+  if (box.array != nullptr) forms_layer::user::double_click(*box.array, box.Index);
+}
+
+canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent) {
+  for (forms_layer::control* control : shown.controls()) {
+    if (control->kind != forms_layer::control_kind::picture_box) continue;
+    mark_dirty(static_cast<forms_layer::picture_box&>(*control));
+  }
+  sync_pictures();
+  const auto answers = [](const picture& p) {
+    return p.box->array != nullptr && p.box->array->DblClick;
+  };
+  if (std::any_of(pictures_.begin(), pictures_.end(), answers)) setFocusPolicy(Qt::TabFocus);
+}
+
+bool canvas::mark_dirty(forms_layer::picture_box& box) {
+  picture& written = find_or_add(box);
+  if (std::exchange(written.dirty, true)) return false;
+  dirty_.push_back(static_cast<std::size_t>(&written - pictures_.data()));
+  return dirty_.size() == 1;
+}
+
+canvas::picture& canvas::find_or_add(forms_layer::picture_box& box) {
+  const auto [at, is_new] = indices_.try_emplace(&box, pictures_.size());
+  if (is_new) pictures_.push_back({&box, {}, false});
+  return pictures_[at->second];
+}
+
+void canvas::sync_pictures() {
+  for (const std::size_t index : std::exchange(dirty_, {})) sync(pictures_[index]);
+  if (!damage_.isEmpty()) update(std::exchange(damage_, {}));
+}
+
+void canvas::sync(picture& p) {
+  p.dirty = false;
+  const QRect rect = p.box->Visible() ? rect_of(*p.box) : QRect();
+  const forms_layer::pixel_area painted = p.box->consume_damage();
+  if (rect != p.rect) {
+    const bool under_cursor = &p == &pictures_[cursor_] && hasFocus();
+    if (under_cursor) damage_cursor();
+    damage(std::exchange(p.rect, rect));
+    damage(rect);
+    if (under_cursor) damage_cursor();
+  } else if (!rect.isNull() && !painted.empty()) {
+    const int border = forms_layer::picture_box::border;
+    damage(QRect(rect.left() + border + painted.left, rect.top() + border + painted.top,
+                 painted.right - painted.left, painted.bottom - painted.top));
+  }
+}
+
+void canvas::damage(const QRect& part) {
+  if (damage_.rectCount() > max_damaged_parts) damage_ = damage_.boundingRect();
+  damage_ += part;
+}
+
+void canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  for (const picture& p : pictures_) {
+    if (!event->rect().intersects(p.rect) || !event->region().intersects(p.rect)) continue;
+    paint_picture(painter, *p.box, p.rect, event->rect() & p.rect);
+  }
+  if (hasFocus() && !pictures_.empty()) {
+    paint_cursor(painter, pictures_[cursor_].rect, palette().color(QPalette::Highlight));
+  }
+}
+
+forms_layer::picture_box* canvas::picture_at(const QPoint& position) const {
+  const auto found = std::find_if(pictures_.rbegin(), pictures_.rend(),
+                                  [&](const picture& p) { return p.rect.contains(position); });
+  return found == pictures_.rend() ? nullptr : found->box;
+}
+
+bool canvas::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  if (forms_layer::picture_box* pointed_at = picture_at(help->pos())) {
+    QToolTip::showText(help->globalPos(), as_tool_tip(pointed_at->ToolTipText()), this,
+                       rect_of(*pointed_at));
+  } else {
+    QToolTip::showText(help->globalPos(), toolTip(), this);
+  }
+  return true;
+}
+
+void canvas::mousePressEvent(QMouseEvent* event) {
+  pressed_ = picture_at(event->position().toPoint());
+}
+
+void canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  const forms_layer::picture_box* clicked = picture_at(event->position().toPoint());
+  if (clicked != std::exchange(pressed_, clicked)) return;
+  if (clicked != nullptr && event->button() == Qt::LeftButton) double_click(*clicked);
+}
+
+void canvas::damage_cursor() { damage(with_cursor(pictures_[cursor_].rect)); }
+
+void canvas::move_cursor(int key) {
+  std::vector<QRect> rects;
+  rects.reserve(pictures_.size());
+  for (const picture& p : pictures_) rects.push_back(p.rect);
+  damage_cursor();
+  // A cursor whose picture is gone starts again at the first.
+  cursor_ = cursor_step(rects, cursor_, rects[cursor_].isNull() ? Qt::Key_Home : key);
+  damage_cursor();
+  update(std::exchange(damage_, {}));
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent moved(QAccessible::queryAccessibleInterface(this)->focusChild(),
+                         QAccessible::Focus);
+  QAccessible::updateAccessibility(&moved);
+}
+
+// Keys that a control on the canvas had no use for come here too.
+void canvas::keyPressEvent(QKeyEvent* event) {
+  const bool confirms = is_enter(*event) || event->key() == Qt::Key_Space;
+  if (!hasFocus() || (!confirms && !is_cursor_key(event->key()))) {
+    QWidget::keyPressEvent(event);
+  } else if (!confirms || pictures_[cursor_].rect.isNull()) {
+    move_cursor(event->key());
+  } else if (!event->isAutoRepeat()) {
+    double_click(*pictures_[cursor_].box);
+  }
+}
+
+// Without a picture on show Tab leads past the canvas.
+void canvas::focusInEvent(QFocusEvent* event) {
+  const bool back = event->reason() == Qt::BacktabFocusReason;
+  const bool by_tab = back || event->reason() == Qt::TabFocusReason;
+  if (pictures_[cursor_].rect.isNull()) move_cursor(Qt::Key_Home);
+  if (by_tab && pictures_[cursor_].rect.isNull()) {
+    focusNextPrevChild(!back);
+  } else {
+    update(with_cursor(pictures_[cursor_].rect));
+  }
+}
+
+void canvas::focusOutEvent(QFocusEvent* /*event*/) { update(with_cursor(pictures_[cursor_].rect)); }
+
+}  // namespace desktop

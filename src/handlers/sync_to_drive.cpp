@@ -1,0 +1,72 @@
+#include "handlers/sync_to_drive.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "files/file_error.h"
+#include "forms_layer/message_box.h"
+
+namespace ostrane {
+
+namespace {
+
+// Recovery itself changes the drive. Errors during recovery are ignored, and while it goes back to
+// the drive of `Dir1` the folder stays.
+enum class recovery_phase { none, to_drive_c, back };
+recovery_phase phase = recovery_phase::none;
+
+using step = std::function<void()>;
+
+void report_failing_drive(const std::string& drive) {
+  forms_layer::message_box(
+      "You are trying to access a Drive that isn't responding.\n\rDrive in error: >" + drive +
+      "<\n\rCheck that the Drive is working properly, and has a Diskette or CD-ROM inserted. Then "
+      "try again.");
+}
+
+bool succeeds(const step& run) {
+  try {
+    run();
+    return true;
+  } catch (const files::file_error&) {
+    return false;
+  }
+}
+
+void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
+  report_failing_drive(Drive1.Drive());
+  phase = recovery_phase::to_drive_c;
+  succeeds([&] { Drive1.Drive = "C"; });
+  if (!succeeds([&] { Dir1.Path = "C:\\"; })) {
+    phase = recovery_phase::back;
+    succeeds([&] { Drive1.Drive = Dir1.Path(); });
+  }
+  phase = recovery_phase::none;
+}
+
+void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+          forms_layer::file_list* File1) {
+  if (phase == recovery_phase::back) return;
+  bool recovered = phase != recovery_phase::none;
+  const auto run_step = [&](const step& run) {
+    if (!succeeds(run) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
+  };
+  run_step([&] { Dir1.Path = Drive1.Drive(); });
+  if (File1 == nullptr) return;
+  run_step([&] { Dir1.Refresh(); });
+  run_step([&] { File1->Refresh(); });
+}
+
+}  // namespace
+
+void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
+  sync(Drive1, Dir1, nullptr);
+}
+
+void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+                   forms_layer::file_list& File1) {
+  sync(Drive1, Dir1, &File1);
+}
+
+}  // namespace ostrane

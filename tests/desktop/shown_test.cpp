@@ -1,0 +1,235 @@
+// What the tool writes is on the screen.
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+#include <fstream>
+
+#include "data/archive_bytes.h"
+#include "data/icon_packer.h"
+#include "desktop/designed_look.h"
+#include "desktop_fixture.h"
+#include "forms_layer/user.h"
+#include "handlers/start_up.h"
+
+namespace {
+
+namespace user = forms_layer::user;
+
+TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) {
+  form.field.Text = "10";
+  form.bar.Value = 20;
+  QWidget& window = show(form);
+  using step = std::function<void()>;
+  const auto check = [&](const std::string& what, const step& change, const step& undo) {
+    const QImage before = picture_of(window);
+    write(change);
+    EXPECT_NE(picture_of(window), before) << what;
+    write(undo);
+    const bool as_before = what == "hidden" || picture_of(window) == before;  // but for the focus
+    EXPECT_TRUE(as_before) << what << " back";
+  };
+  const auto property = [&](const char* what, auto& written,
+                            const std::decay_t<decltype(written())>& value) {
+    const auto old = written();
+    check(
+        what, [&] { written = value; }, [&] { written = old; });
+  };
+  property("label", form.label.Caption, "Other");
+  property("a line more", form.label.Caption, "Label\rB");
+  property("button", form.button.Caption, "Other");
+  property("frame", form.frame.Caption, "Other");
+  property("field", form.field.Text, "11");
+  property("page", form.page.Text, "Line\r\nLine");
+  property("bar value", form.bar.Value, 70);
+  property("bar max", form.bar.Max, 30);
+  property("bar min", form.bar.Min, 10);
+  property("drive", form.drives.Drive, "D");
+  write([&] { form.list.AddItem("row"), form.list.AddItem("row"), form.field.Text = ""; });
+  property("placeholder", form.field.Placeholder, "C:\\");
+  property("row", form.list.ListIndex, 1);
+  property("file", form.files.ListIndex, 0);
+  property("folder", form.folders.Path, "C:\\sub");
+  property("files", form.files.Path, "C:\\sub");
+  check(
+      "rows", [&] { form.list.AddItem("row"); },
+      [&] { form.list.Clear(), form.list.AddItem("row"), form.list.AddItem("row"); });
+  write([&] { picture().Visible = true; });
+  check(
+      "pixel", [&] { picture().PSet(1, 1, 0); }, [&] { picture().Cls(); });
+  for (forms_layer::control* control : form.controls()) {
+    SCOPED_TRACE(control->designed.name);
+    property("hidden", control->Visible, false);
+    property("moved", control->Left, control->Left() + 75);
+    property("lower", control->Height, control->Height() - 75);
+    const bool shows_colour = control->kind != forms_layer::control_kind::progress_bar;
+    if (shows_colour) property("colour", control->BackColor, forms_layer::rgb(200, 150, 200));
+    write([&] { control->Enabled = false, control->ToolTipText = "a <b> tip"; });
+    const QWidget* widget = widget_of(window, *control);
+    EXPECT_FALSE(widget->isEnabled());
+    EXPECT_EQ(widget->toolTip(), "<p style=\"white-space:pre-wrap\">a &lt;b&gt; tip</p>");
+  }
+  write([&] { form.Caption = "Other", form.second.Enabled = false; });
+  EXPECT_EQ(window.windowTitle(), "Other");
+  EXPECT_FALSE(window.findChild<QMenuBar*>()->actions()[0]->menu()->actions()[2]->isEnabled());
+}
+
+TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
+  QWidget* canvas = widget_of(show(form), form.inner)->parentWidget();
+  paint_watch watch(canvas);
+  const struct {
+    const char* what;
+    std::function<void()> write;
+    QRegion painted;
+  } cases[] = {
+      {"shown", [&] { picture().Visible = true; }, QRect(16, 56, 5, 6)},
+      {"one pixel", [&] { picture().PSet(1, 2, 5); }, QRect(18, 59, 1, 1)},
+      {"cleared", [&] { picture().Cls(); }, QRect(17, 57, 3, 4)},
+      {"moved", [&] { picture().Move(1500, 840); }, QRegion(16, 56, 5, 6) + QRect(100, 56, 5, 6)},
+      {"moved to and fro", [&] { picture().Move(0, 0), picture().Move(1500, 840); }, QRegion()},
+      {"hidden", [&] { picture().Visible = false; }, QRect(100, 56, 5, 6)},
+      {"drawn on while hidden", [&] { picture().PSet(1, 1, 5); }, QRegion()},
+  };
+  for (const auto& c : cases) {
+    watch.painted = {};
+    write(c.write);
+    EXPECT_EQ(watch.painted, c.painted) << c.what;
+  }
+}
+
+// What the user does meanwhile runs after the handler.
+TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
+  using ostrane::Form3;
+  ostrane::reset_forms();
+  std::string log;
+  QWidget& window = show(form);
+  form.Unload = [&] { log += "close "; };
+  write([&] {
+    Form3.Visible = true;
+    QTest::qSleep(20);
+    Form3.Refresh();
+    Form3.Visible = false;
+  });
+  EXPECT_EQ(screen.window_of(Form3), nullptr) << "of a short handler";
+  paint_watch watch(widget_of(window, form.label));
+  forms_layer::run_event([&] {
+    QMetaObject::invokeMethod(
+        &window, [&] { window.close(); }, Qt::QueuedConnection);
+    form.label.Caption = "Other";
+    Form3.Visible = true;
+    form.Refresh();
+    EXPECT_TRUE(watch.painted.isEmpty()) << "before the frame is due";
+    QTest::qSleep(20);
+    form.Refresh();
+    EXPECT_FALSE(watch.painted.isEmpty());
+    QTest::qSleep(100);
+    Form3.ProgressBar1.Value = 1;
+    QWidget* late = screen.window_of(Form3);
+    ASSERT_TRUE(late != nullptr && late->windowHandle()->isExposed());
+    EXPECT_TRUE(late->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
+    EXPECT_EQ(late->windowHandle()->transientParent(), window.windowHandle());
+    paint_watch bar(widget_of(*late, Form3.ProgressBar1));
+    QTest::qSleep(20);
+    Form3.ProgressBar1.Value = 90;
+    EXPECT_FALSE(bar.painted.isEmpty());
+    log += "end ";
+  });
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  EXPECT_EQ(log, "end close ");
+  EXPECT_FALSE(screen.window_of(Form3)->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
+}
+
+TEST_F(Desktop, AMessageBoxStandsOverAllThatWasWrittenAndNothingElseRunsMeanwhile) {
+  ostrane::reset_forms();
+  QWidget& window = show(form);
+  std::string log;
+  form.timer.Timer = [&] { log += "tick "; };
+  write([&] {
+    form.timer.Interval = 1, form.timer.Enabled = true;
+    form.label.Caption = "Other";
+    ostrane::Form2.Visible = true;
+    QTimer::singleShot(50, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      log += (box->windowTitle() + "|" + box->text() + " ").toStdString();
+      EXPECT_TRUE(screen.window_of(ostrane::Form2)->isVisible());
+      EXPECT_EQ(widget_of(window, form.label)->property("text"), "Other");
+      box->accept();
+    });
+    screen.message_box("Title", "one\n\rtwo\rthree");
+    form.timer.Enabled = false;
+    log += "end";
+  });
+  EXPECT_EQ(log, "Title|one\ntwo\nthree end");
+}
+
+TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
+  const QPalette light = QApplication::palette();
+  for (const QPalette& theme : {light, QPalette(QColor(35, 35, 38))}) {
+    QApplication::setPalette(theme);
+    for (const forms_layer::colour back :
+         {ostrane::pale_green, ostrane::pale_cyan, forms_layer::system_menu,
+          forms_layer::system_window, forms_layer::system_button_face, forms_layer::system_light,
+          forms_layer::rgb(0, 0, 60)}) {
+      const QPalette used = desktop::with_colours({}, QPalette::Base, QPalette::Text, back);
+      for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const int text = qGray(used.color(group, QPalette::Text).rgb());
+        const int base = qGray(used.color(group, QPalette::Base).rgb());
+        EXPECT_GE(std::abs(text - base), 100) << std::hex << back;
+      }
+    }
+    QWidget& window = show(form);
+    const auto edge_of = [&window](const forms_layer::control& shown) {
+      const QImage seen = picture_of(*widget_of(window, shown));
+      return seen.pixel(0, seen.height() / 2);
+    };
+    const int background = qGray(theme.color(QPalette::Window).rgb());
+    EXPECT_GE(std::abs(qGray(edge_of(form.field)) - background), 30);
+    EXPECT_GE(std::abs(qGray(edge_of(form.page)) - background), 30);
+    EXPECT_EQ(edge_of(form.list), QApplication::palette().color(QPalette::Highlight).rgb())
+        << "has the focus";
+  }
+  QApplication::setPalette(light);
+}
+
+// With OSTRANE_RENEW_PICTURES set the pictures are written and not compared. Other versions of Qt
+// and its font renderer may differ in a few pixels.
+void expect_picture(QWidget& window, const QString& name) {
+  const QString path = QStringLiteral(PICTURES_FOLDER) + name;
+  const QImage seen = picture_of(window);
+  if (qEnvironmentVariableIsSet("OSTRANE_RENEW_PICTURES")) seen.save(path);
+  const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
+  ASSERT_EQ(seen.size(), kept.size()) << path.toStdString();
+  int different = 0;
+  for (int y = 0; y < seen.height(); ++y) {
+    for (int x = 0; x < seen.width(); ++x) {
+      if (std::abs(qGray(seen.pixel(x, y)) - qGray(kept.pixel(x, y))) > 40) ++different;
+    }
+  }
+  EXPECT_LE(different, 20) << path.toStdString();
+  if (different > 20) seen.save(QStringLiteral("different_") + name);
+}
+
+TEST_F(Desktop, TheToolsWindowsLookAsTheyDid) {
+  using namespace ostrane;
+  ostrane::picture drawn(40, 30);
+  for (int x = 0; x < 30; ++x) drawn.set(x, x, static_cast<std::uint8_t>(8 * x));
+  std::ofstream(folder / "sub" / "ostrane.dat") << ostrane::archive_bytes(
+      {{"NOTE.TXT", "text"}, {"PIC.SHP", ostrane::shp_file({drawn, drawn, drawn})}});
+  start_tool("C:\\");
+  QApplication::setActiveWindow(nullptr);
+  write([] { user::click(Form1.mnu_open); });
+  write([] { user::open_folder(Form2.Dir1, 1); });
+  expect_picture(*screen.window_of(Form2), "form2.png");
+  write([] { user::click(Form2.Command1); });
+  write([] { user::select_row(Form1.List1, 1); });
+  expect_picture(*screen.window_of(Form1), "form1.png");
+  write([] { user::double_click(Form1.s16_image, 2); });
+  write([] {
+    for (forms_layer::control* control : Form3.controls()) control->Visible = true;
+    Form3.ProgressBar1.Value = 60;
+  });
+  expect_picture(*screen.window_of(Form3), "form3.png");
+}
+
+}  // namespace

@@ -1,0 +1,229 @@
+// What the user does reaches the tool, also by keyboard and through a screen reader.
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include "desktop/designed_look.h"
+#include "desktop_fixture.h"
+
+namespace {
+
+void press(QWidget* widget, const QPoint& at = {}) {
+  QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+}
+
+// The second press of a double click.
+void press_again(QWidget* widget, const QPoint& at = {}) {
+  QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+}
+
+struct Input : Desktop {
+  QAbstractItemView* rows_of(const forms_layer::control& shown) {
+    return static_cast<QAbstractItemView*>(widget_of(window, shown));
+  }
+  static QPoint row(const QAbstractItemView* list, int r) {
+    return list->visualRect(list->model()->index(r, 0)).center();
+  }
+
+  std::string log;
+  QWidget& window = show_active();
+};
+
+TEST_F(Input, ReachesTheTool) {
+  for (int i = 0; i < 9; ++i) form.list.AddItem("row " + std::to_string(i));
+  form.list.Click = [&] { log += "click" + std::to_string(form.list.ListIndex()) + " "; };
+  form.list.DblClick = [&] { log += "double" + std::to_string(form.list.ListIndex()) + " "; };
+  form.button.Click = [&] { log += "go "; };
+  form.inner.Click = [&] { log += "inner "; };
+  form.label.Click = [&] { log += "label "; };
+  form.field.LostFocus = [&] { log += "lost:" + form.field.Text() + " "; };
+  form.pictures.DblClick = [&](int i) { log += "picture" + std::to_string(i) + " "; };
+  form.first.Click = [&] { log += "first "; };
+  form.drives.Change = [&] { log += form.drives.Drive() + " "; };
+  form.folders.Change = [&] { log += form.folders.Path() + " "; };
+  form.files.Click = [&] { log += form.files.FileName() + " "; };
+  form.Unload = [&] { log += "close "; };
+  form.Resize = [&] { log += "resize" + std::to_string(form.client_width()) + " "; };
+  write([&] { picture().Visible = true; });
+  QAbstractItemView* list = rows_of(form.list);
+  QAbstractItemView* folders = rows_of(form.folders);
+  QAbstractItemView* files = rows_of(form.files);
+  QWidget* rows = list->viewport();
+  QWidget* button = widget_of(window, form.button);
+  QWidget* field = widget_of(window, form.field);
+  QWidget* label = widget_of(window, form.label);
+  auto* drives = static_cast<QComboBox*>(widget_of(window, form.drives));
+  QWidget* canvas = widget_of(window, form.inner)->parentWidget();
+  QMenu* menu = window.findChild<QMenuBar*>()->actions()[0]->menu();
+  const QPoint on_picture(18, 58);
+  const QPoint beside(60, 190);
+  const auto disabled = [&] {
+    list->setFocus();
+    form.Enabled = false;
+    QTest::keyClick(list, Qt::Key_Tab);
+    EXPECT_TRUE(list->hasFocus());
+    press(rows, row(list, 0));
+    QTest::keyClick(list, Qt::Key_Up);
+    press(button);
+    QTest::keyClicks(field, "9");
+    window.close();
+    form.Enabled = true;
+  };
+  const struct {
+    const char* what;
+    std::function<void()> act;
+    std::string log;
+  } cases[] = {
+      {"press", [&] { press(rows, row(list, 1)); }, "click1 "},
+      {"press on the selected row", [&] { press(rows, row(list, 1)); }, "click1 "},
+      {"second press, on another row", [&] { press_again(rows, row(list, 0)); }, "double1 "},
+      {"a double click begun elsewhere", [&] { press(button), press_again(rows, row(list, 2)); },
+       "go click2 "},
+      {"Ctrl+Space", [&] { QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier); }, ""},
+      {"arrow", [&] { QTest::keyClick(list, Qt::Key_Down); }, "click3 "},
+      {"End", [&] { QTest::keyClick(list, Qt::Key_End); }, "click8 "},
+      {"arrow at the end", [&] { QTest::keyClick(list, Qt::Key_Down); }, ""},
+      {"Enter", [&] { QTest::keyClick(button, Qt::Key_Return); }, "go "},
+      {"Space", [&] { QTest::keyClick(button, Qt::Key_Space); }, "go "},
+      {"Escape", [&] { QTest::keyClick(field, Qt::Key_Escape); }, "go "},
+      {"in the frame", [&] { press(widget_of(window, form.inner)); }, "inner "},
+      {"a label", [&] { press(label), QTest::keyClick(label, Qt::Key_Return); }, "label label "},
+      {"typing beyond the limit", [&] { field->setFocus(), QTest::keyClicks(field, "123"); }, ""},
+      {"focus elsewhere", [&] { canvas->setFocus(); }, "lost:12 "},
+      {"double click on a picture",
+       [&] { press(canvas, on_picture), press_again(canvas, on_picture); }, "picture1 "},
+      {"one that began beside it", [&] { press(canvas, beside), press_again(canvas, on_picture); },
+       ""},
+      {"one that began in another window",
+       [&] { press(canvas, on_picture), press(button), press_again(canvas, on_picture); }, "go "},
+      {"drive", [&] { drives->setCurrentIndex(1), emit drives->activated(1); }, "d: [two] "},
+      {"folder", [&] { press(folders->viewport(), row(folders, 1)); }, ""},
+      {"Enter on it", [&] { QTest::keyClick(folders, Qt::Key_Enter); }, "C:\\sub "},
+      {"double click on a folder",
+       [&] {
+         press(folders->viewport(), row(folders, 0));
+         press_again(folders->viewport(), row(folders, 0));
+       },
+       "C:\\ "},
+      {"file", [&] { press(files->viewport(), row(files, 0)); }, "a.txt "},
+      {"menu", [&] { menu->actions()[0]->trigger(); }, "first "},
+      {"size", [&] { window.resize(450, 450); }, "resize6750 "},
+      {"close", [&] { window.close(); }, "close "},
+      {"disabled", disabled, ""},
+  };
+  for (const auto& c : cases) {
+    log.clear();
+    c.act();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(log, c.log) << c.what;
+    EXPECT_EQ(list->selectionModel()->hasSelection(), form.list.ListIndex() >= 0) << c.what;
+  }
+  EXPECT_TRUE(button->isEnabled()) << "a disabled form looks as ever";
+  EXPECT_EQ(form.field.Text(), "12");
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_GT(list->verticalScrollBar()->value(), 0);
+  write([&] {
+    form.list.Clear();
+    for (int i = 0; i < 9; ++i) form.list.AddItem("row");
+  });
+  EXPECT_EQ(list->verticalScrollBar()->value(), 0) << "another list starts at its first row";
+}
+
+TEST_F(Input, KeysReachEveryPictureOnShow) {
+  int opened = 0;
+  form.pictures.DblClick = [&](int i) { opened = i; };
+  const QPoint places[] = {{0, 0}, {300, 900}, {600, 900}, {900, 900}, {300, 1200}, {840, 1200}};
+  for (int i = 1; i <= 5; ++i) {
+    form.pictures(i).Move(places[i].x(), places[i].y());
+    form.pictures(i).Visible = i != 2;
+  }
+  QCoreApplication::processEvents();
+  QWidget* canvas = widget_of(window, form.inner)->parentWidget();
+  const auto has_cursor = [&] {  // round the first picture
+    return picture_of(*canvas).pixelColor(19, 59) == canvas->palette().highlight().color();
+  };
+  canvas->setFocus();
+  EXPECT_TRUE(has_cursor());
+  const std::pair<Qt::Key, int> steps[] = {
+      {Qt::Key_Right, 3}, {Qt::Key_Right, 4}, {Qt::Key_Down, 4}, {Qt::Key_End, 5},
+      {Qt::Key_Up, 3},    {Qt::Key_Up, 3},    {Qt::Key_Left, 1}, {Qt::Key_Left, 1},
+      {Qt::Key_Down, 4},  {Qt::Key_Home, 1}};
+  for (const auto& [key, reached] : steps) {
+    opened = 0;
+    QTest::keyClick(canvas, key);
+    QTest::keyClick(canvas, reached % 2 == 0 ? Qt::Key_Space : Qt::Key_Return);
+    EXPECT_EQ(opened, reached) << "by key " << key;
+  }
+  for (int i = 1; i <= 5; ++i) form.pictures(i).Visible = false;
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(has_cursor());
+}
+
+TEST_F(Input, AWriteRestartsATimer) {
+  form.timer.Timer = [&] { log += "tick "; };
+  for (int i = 0; i < 2; ++i) {
+    write([&] { form.timer.Enabled = true; });
+    QTest::qWait(250);
+  }
+  EXPECT_EQ(log, "");
+  QTest::qWait(300);
+  EXPECT_EQ(log, "tick ");
+}
+
+TEST_F(Input, MenusAreInTheToolsFontAndUnderlineTheirLettersForAlt) {
+  QFont large;
+  large.setPixelSize(40);
+  QApplication::setFont(large, "QMenu");
+  auto* bar = window.findChild<QMenuBar*>();
+  EXPECT_EQ(bar->actions()[0]->menu()->font().pixelSize(), desktop::font_for({}).pixelSize());
+  QApplication::setFont(QFont());
+  const QImage before = picture_of(*bar);
+  paint_watch watch(bar);
+  QTest::keyPress(window.windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(watch.painted.isEmpty());
+  EXPECT_NE(picture_of(*bar), before);
+  QTest::keyRelease(window.windowHandle(), Qt::Key_Alt);
+}
+
+// Everything has a name that is not its tool tip, and no markup; pictures are there too.
+TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
+  using namespace ostrane;
+  reset_forms();
+  Form1.s16_image.Load(1);
+  int opened = 0;
+  Form1.s16_image.DblClick = [&](int i) { opened = i; };
+  write([] { Form1.s16_image(1).Width = 510, Form1.s16_image(1).Visible = true; });
+  const auto heard = [](QWidget* widget, QAccessible::Text kind) {
+    return QAccessible::queryAccessibleInterface(widget)->text(kind).toStdString();
+  };
+  forms_layer::form* const forms[] = {&Form1, &Form2, &Form3, &Form4, &Form5, &Form6};
+  for (forms_layer::form* one : forms) {
+    QWidget& window = show(*one);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+      const auto* view = dynamic_cast<desktop::control_view*>(widget);
+      if (view == nullptr || &view->control == &Form3.message) continue;
+      const forms_layer::design& designed = view->control.designed;
+      EXPECT_NE(heard(widget, QAccessible::Name), "") << designed.name;
+      EXPECT_NE(heard(widget, QAccessible::Name), designed.tool_tip);
+      EXPECT_EQ(heard(widget, QAccessible::Description), designed.tool_tip);
+    }
+  }
+  QWidget& window = *screen.window_of(Form1);
+  EXPECT_EQ(heard(widget_of(window, Form1.List1), QAccessible::Name), "Entries");
+  QWidget* canvas = widget_of(window, Form1.Command5)->parentWidget();
+  QAccessibleInterface* pictures = QAccessible::queryAccessibleInterface(canvas);
+  QAccessibleInterface* last = pictures->child(pictures->childCount() - 1);
+  EXPECT_EQ(last->text(QAccessible::Name), "Picture 1, 32 by 4");
+  EXPECT_EQ(last->rect().topLeft(), canvas->mapToGlobal(QPoint(16, 56)));
+  EXPECT_EQ(pictures->childAt(last->rect().x() + 1, last->rect().y() + 1), last);
+  last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(opened, 1);
+}
+
+}  // namespace

@@ -1,0 +1,192 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cstring>
+#include <fstream>
+
+#include "archive/builder.h"
+#include "child_process.h"
+#include "tool_fixture.h"
+
+namespace ostrane {
+namespace {
+
+// Links, pipes, devices, folders in place of files, missing permissions, and names that are hard to
+// store.
+struct unusual_paths_test : tool_test {
+  // The messages of each command that reads or writes, run after `break_disk` with an archive of
+  // one entry open.
+  static texts messages_of_each_command(const std::function<void()>& break_disk,
+                                        const std::function<void()>& restore) {
+    const std::pair<std::function<void()>, std::function<void()>> commands[] = {
+        {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
+        {[] {}, [] { click_row("A.TXT"); }},
+        {[] {}, [] { extract_into("D:\\x"); }},
+        {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); }},
+        {[] {}, [] { user::click(Form1.mnu_save); }},
+        {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); }},
+    };
+    texts all;
+    for (const auto& [open_dialog, command] : commands) {
+      fs::remove_all(disk_path("D:\\x"));
+      write("D:\\x\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
+      write("D:\\x\\list.txt", "A\r\n");
+      restart("D:\\x");
+      open_archive("D:\\x");
+      open_dialog();
+      break_disk();
+      command();
+      const texts messages = new_messages();
+      all.push_back(messages.size() == 1 ? messages[0] : testing::PrintToString(messages));
+      restore();
+    }
+    return all;
+  }
+  // Replaces each file by what `make` makes.
+  static void replace_all(const std::function<void(const fs::path&)>& make) {
+    for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
+      fs::remove(disk_path("D:\\x") / name);
+      make(disk_path("D:\\x") / name);
+    }
+  }
+  // The messages if nothing can be opened for `reason`.
+  static texts expected(const std::string& reason) {
+    const std::string cannot = " cannot be opened: " + reason + ".";
+    return {"D:\\x\\ostrane.dat" + cannot,
+            "D:\\x\\ostrane.dat" + cannot,
+            "D:\\x\\ostrane.dat" + cannot + " Nothing was extracted.",
+            "D:\\x\\list.txt cannot be read: " + reason + ". No new archive was made.",
+            "The list of files was not saved. shplist.txt" + cannot,
+            "D:\\x\\list.txt" + cannot + " Nothing was compared."};
+  }
+};
+
+// Every command reports the path and the reason. The alarm ends one that waits for the other end of
+// a pipe.
+TEST_F(unusual_paths_test, EveryCommandReportsUnusableFiles) {
+  const fs::path drive = root / "d";
+  const fs::path away = root / "away";
+  const std::string missing = "D:\\x\\ostrane.dat is not found";
+  const std::string no_folder =
+      "The folder D:\\x\\ is not there. Make it or choose another. Nothing was extracted.";
+  const auto nothing = [] {};
+  const auto forbid = [&] { fs::permissions(drive / "x", fs::perms::none); };
+  const auto allow = [&] { fs::permissions(drive / "x", fs::perms::all); };
+  const auto make_folder = [](const fs::path& p) { fs::create_directory(p); };
+  const auto make_pipe = [](const fs::path& p) { mkfifo(p.c_str(), 0600); };
+  const auto link_device = [](const fs::path& p) { fs::create_symlink("/dev/zero", p); };
+  const struct {
+    const char* reason;
+    std::string opening, extracting;  // their messages if they differ
+    std::function<void()> break_disk, restore;
+  } cases[] = {
+      {"it is not there", missing, no_folder, [&] { fs::rename(drive, away); },
+       [&] { fs::rename(away, drive); }},
+      {"access is not allowed", missing, "", forbid, allow},
+      {"it is a folder", missing, "", [&] { replace_all(make_folder); }, nothing},
+      {"access is not allowed", "", "", [&] { replace_all(make_pipe); }, nothing},
+      {"access is not allowed", "", "", [&] { replace_all(link_device); }, nothing},
+  };
+  run_in_process([&] {
+    alarm(30);
+    for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
+    drop_root();
+    for (const auto& c : cases) {
+      texts messages = expected(c.reason);
+      if (!c.opening.empty()) messages[0] = c.opening;
+      if (!c.extracting.empty()) messages[2] = c.extracting;
+      EXPECT_EQ(messages_of_each_command(c.break_disk, c.restore), messages);
+    }
+  });
+}
+
+// A build replaces the link and leaves the archive unchanged.
+TEST_F(unusual_paths_test, NeverWritesThroughALinkToAnArchive) {
+  const std::string archive = archive_bytes({{"A.TXT", "a"}});
+  write("D:\\real.dat", archive);
+  make_folder("C:\\work");
+  fs::create_symlink(disk_path("D:\\real.dat"), disk_path("C:\\work") / "ostrane.dat");
+  open_archive("C:\\work");
+  extract_into("C:\\work");
+  build_in();
+  EXPECT_EQ(files_in("C:\\work"), (file_map{{"A.TXT", "a"}, {"OSTRANE.DAT", archive}}));
+  EXPECT_FALSE(fs::is_symlink(disk_path("C:\\work\\OSTRANE.DAT")));
+  write("C:\\work\\b.txt", "b");
+  build_in();
+  EXPECT_EQ(read("D:\\real.dat"), archive);
+  EXPECT_EQ(new_messages().size(), 3U);
+}
+
+TEST_F(unusual_paths_test, LongestNamesAndNamesThatDifferInCaseAreEntries) {
+  const std::string longest(255, 'n');
+  const std::string folder = "C:\\" + std::string(255, 'f');
+  for (const auto& [name, bytes] : file_map{{"a.txt", "1"}, {"A.TXT", "2"}, {longest, "3"}}) {
+    write(std::string(folder).append("\\").append(name), bytes);
+  }
+  build_in(folder);
+  EXPECT_EQ(read(folder + "\\OSTRANE.DAT"),
+            archive_bytes({{"A.TXT", "2"}, {"A.TXT", "1"}, {"NNNNNNNNNNNNN", "3"}}));
+  open_archive(folder);
+  EXPECT_EQ(Form1.List1.ListCount(), 4);
+}
+
+TEST_F(unusual_paths_test, ReportsSkippedFiles) {
+  std::vector<entry> files = {{".HID.TXT", "h"}, {"\xCE\xA9.TXT", "o"}, {"a\\b", "s"}, {"ok", ""}};
+  const std::string skipped =
+      "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
+  const std::string others =
+      "\n>?.TXT<: its name has characters that the code page lacks"
+      "\n>a\\b<: its name holds a separator of paths\n>late<: it came after the files were listed";
+  for (const int hidden : {1, 25}) {
+    for (int i = 1; i < hidden; ++i) files.push_back({".i" + std::to_string(100 + i), ""});
+    fs::remove_all(disk_path("C:\\work"));
+    make_folder("C:\\work");
+    restart();
+    for (const entry& file : files) std::ofstream(disk_path("C:\\work") / file.name) << file.bytes;
+    open_build_dialog();
+    write("C:\\work\\late", "");
+    user::click(Form5.Command1);
+    const texts messages = new_messages();
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_TRUE(hidden == 1 ? messages[0] == skipped + others
+                            : messages[0].ends_with(">.i119<: it is hidden\nand 8 more."))
+        << messages[0];
+    EXPECT_EQ(messages[1],
+              "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat");
+    EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}}));
+  }
+}
+
+TEST_F(unusual_paths_test, RefusesTooManyFiles) {
+  make_folder("C:\\work");
+  const auto name = [&](std::size_t i) {
+    return disk_path("C:\\work") / ("f" + std::to_string(i));
+  };
+  for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
+  for (std::size_t count = 40000; const std::size_t left : {count, max_files + 1, max_files}) {
+    while (count > left) fs::remove(name(--count));
+    restart();
+    build_in();
+    const std::string refusal = "There are " + std::to_string(left) +
+                                " files in C:\\work\\. An archive holds at most 32766. No new "
+                                "archive was made.";
+    EXPECT_EQ(new_messages().front() == refusal, left > max_files) << left;
+  }
+  open_archive("C:\\work");
+  EXPECT_EQ(Form1.List1.ListCount(), 32767);
+}
+
+#ifdef NDEBUG
+// Release builds check array and buffer bounds.
+TEST(released_program, StopsAtAnOutOfBoundsAccess) {
+  const std::vector<int> numbers(3);
+  volatile std::size_t outside = 3;
+  EXPECT_DEATH(static_cast<void>(numbers[outside]), "Assertion");
+  char buffer[3];
+  outside = 4;
+  EXPECT_DEATH(std::memset(buffer, 0, outside), "buffer.overflow");
+}
+#endif
+
+}  // namespace
+}  // namespace ostrane
