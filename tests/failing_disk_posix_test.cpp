@@ -30,7 +30,7 @@ struct outcome {
 // Calls whose failure may be ignored: cleanup, optional queries, and calls after the new file has
 // replaced the old one.
 const std::set<std::string> may_be_silent = {"remove_file", "replace", "flush_folder",
-                                             "close_file",  "lock",    "set_permissions",
+                                             "close_file",  "lock",    "copy_permissions",
                                              "list",        "info_at", "info_of"};
 
 const std::pair<call_fault, std::string> faults[] = {
