@@ -29,6 +29,7 @@ auto record(std::string_view name, const Call& call) {
   if (fault.kind == call_fault::stops) return call();
 #endif
   using result = decltype(call());
+  if (fault.kind == call_fault::writes_nothing) return name == "write_some" ? result{} : call();
   // A failing close or remove takes effect all the same, and a full disk takes part of a write.
   const bool fails_late = name[0] == 'c' || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {

@@ -42,7 +42,7 @@ struct file_info {
 struct system_call_table {
   // Return a file descriptor or handle. Folders, devices and pipes are refused and never block.
   int (*open_to_read)(const std::filesystem::path& path);
-  // Creates a missing file; does not truncate an existing one.
+  // Opens an existing file without truncating it.
   int (*open_to_write)(const std::filesystem::path& path);
   // Creates a file; -EEXIST if the path exists. A private file is its owner's alone until
   // copy_permissions.

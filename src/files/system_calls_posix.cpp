@@ -35,7 +35,8 @@ int open_regular(const fs::path& path, int flags, mode_t permissions = 0666) {
 
 int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
 
-int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY | O_CREAT); }
+// Without O_CREAT, which the system may refuse for another user's file in a sticky folder.
+int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY); }
 
 int open_new(const fs::path& path, bool is_private) {
   return open_regular(path, O_WRONLY | O_CREAT | O_EXCL, is_private ? 0600 : 0666);
@@ -100,7 +101,8 @@ constexpr const char* access_list = "system.posix_acl_access";
 void copy_access_list(int file, const fs::path& from) {
   std::array<char, 65536> list = {};
   const ssize_t size = getxattr(from.c_str(), access_list, list.data(), list.size());
-  if (size < 0 || fsetxattr(file, access_list, list.data(), static_cast<std::size_t>(size), 0) < 0) {
+  if (size < 0 ||
+      fsetxattr(file, access_list, list.data(), static_cast<std::size_t>(size), 0) < 0) {
     fremovexattr(file, access_list);  // of a list that the folder gives its new files
   }
 }

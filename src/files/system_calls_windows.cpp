@@ -64,7 +64,7 @@ DWORD block_size(std::size_t count) {
 
 int open_to_read(const fs::path& path) { return open_regular(path, GENERIC_READ, OPEN_EXISTING); }
 
-int open_to_write(const fs::path& path) { return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS); }
+int open_to_write(const fs::path& path) { return open_regular(path, GENERIC_WRITE, OPEN_EXISTING); }
 
 // On Windows a new file inherits the permissions of its folder.
 int open_new(const fs::path& path, bool /*is_private*/) {
@@ -73,7 +73,7 @@ int open_new(const fs::path& path, bool /*is_private*/) {
 
 int open_lock(const fs::path& path) {
   if (has_attribute(path, FILE_ATTRIBUTE_REPARSE_POINT)) return -ELOOP;
-  return open_to_write(path);
+  return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS);
 }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
