@@ -3,7 +3,6 @@
 #include "recording_screen.h"
 
 namespace ostrane {
-namespace {
 
 const std::string success = "Your new Ostrane.dat has been created and saved in:";
 
@@ -119,5 +118,4 @@ TEST_F(builder_test, OpensTheNewArchiveIfOneWasOpen) {
   EXPECT_EQ(Form1.Text6.Text(), "new");
 }
 
-}  // namespace
 }  // namespace ostrane

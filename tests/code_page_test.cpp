@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 namespace files {
-namespace {
 
 TEST(CodePage, EveryByteSurvivesUtf8) {
   for (int byte = 0; byte < 256; ++byte) {
@@ -35,5 +34,4 @@ TEST(CodePage, FoldsAccentedLettersToo) {
   EXPECT_EQ(lower_case(capitals + without), with_case + without);
 }
 
-}  // namespace
 }  // namespace files

@@ -1,11 +1,10 @@
 #include "recording_screen.h"
 
 namespace ostrane {
-namespace {
 
 using compare_test = tool_test;
 
-void open_names(const texts& names) {
+static void open_names(const texts& names) {
   std::vector<entry> entries;
   for (const std::string& name : names) entries.push_back({name, ""});
   open_archive(entries);
@@ -68,6 +67,8 @@ TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
   open_names({"A"});
   open_archive("C:\\program");
   user::click(Form1.mnu_save);
+  compare_with("D:\\", "many.txt");
+  user::click(Form6.Command2);
   open_names({"A"});
   compare_with("D:\\", "  ");
   user::click(Form6.Command2);
@@ -75,11 +76,11 @@ TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
   EXPECT_EQ(new_messages(),
             (texts{"C:\\program\\ostrane.dat is not found",
                    "A list of all files in ostrane.dat are saved in shplist.txt",
+                   "No archive is open. Read one first. Nothing was compared.",
                    "No shiplist is chosen. Click one in the list of files.",
                    "D:\\many.txt has more than 32768 lines. Nothing was compared."}));
   EXPECT_TRUE(Form6.Visible() && !Form1.Enabled());
   EXPECT_EQ(names_in("D:\\"), texts{"many.txt"});
 }
 
-}  // namespace
 }  // namespace ostrane

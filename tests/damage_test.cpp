@@ -1,7 +1,6 @@
 #include "icon_fixture.h"
 
 namespace ostrane {
-namespace {
 
 // A small archive with each kind of entry, damaged at each byte in turn.
 struct damage_test : icon_test {
@@ -90,5 +89,4 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveFewMessages) {
   }
 }
 
-}  // namespace
 }  // namespace ostrane

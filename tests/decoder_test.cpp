@@ -1,7 +1,6 @@
 #include "icon_fixture.h"
 
 namespace ostrane {
-namespace {
 
 struct decoder_test : icon_test {
   static std::string cells() {
@@ -129,5 +128,4 @@ TEST_F(decoder_test, AnIconReadsNoFurtherThanItsEntry) {
   }
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -1,11 +1,10 @@
 #include "icon_fixture.h"
 
 namespace ostrane {
-namespace {
 
-std::string dots(std::size_t count) { return shp_file(plain_icons(count, 1, 1)); }
+static std::string dots(std::size_t count) { return shp_file(plain_icons(count, 1, 1)); }
 
-void write_icon_names(const std::string& lines) {
+static void write_icon_names(const std::string& lines) {
   write("C:\\program\\iconlist.csv", lines);
   restart();
 }
@@ -134,5 +133,4 @@ TEST_F(entry_selection_test, IconsAndSwatchesResetTheSlots) {
   EXPECT_EQ(tool_state.slots_loaded, 300);
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -4,14 +4,13 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using extraction_test = tool_test;
 
 const std::string success = "All files from Ostrane.dat has been extracted into: ";
 const std::string skipped = "\nThese entries were not extracted:";
 
-std::string partial_success(const char* numbers) {
+static std::string partial_success(const char* numbers) {
   return numbers + std::string(" files from Ostrane.dat has been extracted into: ");
 }
 
@@ -160,5 +159,4 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
                                   "\n>LINKED<: it would be written over the open archive"});
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -6,7 +6,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using files_test = tool_test;
 
@@ -74,5 +73,4 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   }
 }
 
-}  // namespace
 }  // namespace ostrane

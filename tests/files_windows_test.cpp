@@ -4,7 +4,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using files_windows_test = tool_test;
 
@@ -20,5 +19,4 @@ TEST_F(files_windows_test, OpensNormalFilesOnly) {
   EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -4,7 +4,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 // Runs the examples of docs/formats.md through the tool.
 struct formats_test : tool_test {
@@ -79,5 +78,4 @@ TEST_F(formats_test, TheListExamplesAreWrittenAndComparedAsDocumented) {
   EXPECT_EQ(read("C:\\Shiplist-compare.txt"), text_file("report"));
 }
 
-}  // namespace
 }  // namespace ostrane

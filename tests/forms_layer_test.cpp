@@ -3,7 +3,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using forms_layer_test = tool_test;
 
@@ -52,5 +51,4 @@ TEST_F(forms_layer_test, DisabledAndHiddenControlsIgnoreInput) {
   EXPECT_EQ(clicks, 0);
 }
 
-}  // namespace
 }  // namespace ostrane

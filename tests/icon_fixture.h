@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "data/icon_packer.h"
 #include "tool_fixture.h"
 
@@ -55,6 +52,11 @@ struct icon_test : tool_test {
     }
     open_archive(entries);
     click_row("F1.SHP");
+  }
+
+  static void type_max_icons(const char* text) {
+    user::type(Form1.Text5, text);
+    user::focus(&Form1.List1);
   }
 
   static forms_layer::picture_box& slot(std::int32_t index) { return Form1.s16_image(index); }

@@ -2,7 +2,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using main_window_test = tool_test;
 
@@ -68,5 +67,4 @@ TEST_F(main_window_test, ValidatesMaxIconsAndIntervalOnLostFocus) {
   EXPECT_EQ(Form1.Text5.Text(), "3000");
 }
 
-}  // namespace
 }  // namespace ostrane

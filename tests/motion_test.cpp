@@ -3,7 +3,6 @@
 #include "icon_fixture.h"
 
 namespace ostrane {
-namespace {
 
 struct motion_test : icon_test {
   // Text3, the positions of the visible slots, the timer and the buttons.
@@ -119,5 +118,4 @@ TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
   EXPECT_EQ(reports(), texts{});
 }
 
-}  // namespace
 }  // namespace ostrane

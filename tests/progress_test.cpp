@@ -1,7 +1,6 @@
 #include "recording_screen.h"
 
 namespace ostrane {
-namespace {
 
 using progress_test = tool_test;
 
@@ -71,5 +70,4 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
   }
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -4,19 +4,13 @@
 #include "recording_screen.h"
 
 namespace ostrane {
-namespace {
 
-std::string invalid_address(const std::string& number) {
+static std::string invalid_address(const std::string& number) {
   return "The adress of the file: A.SHP is invalid. Start offset for the shp-file is: " + number +
          ", the picture is not displayed.";
 }
 
-struct series_test : icon_test {
-  static void type_max_icons(const char* text) {
-    user::type(Form1.Text5, text);
-    user::focus(&Form1.List1);
-  }
-};
+using series_test = icon_test;
 
 // The next series starts after the last icon shown and may be empty.
 TEST_F(series_test, ShowsSeriesAfterSeries) {
@@ -78,7 +72,7 @@ TEST_F(series_test, PlacesTheSlots) {
   for (const auto& [width, height, icons, seen] : cases) {  // of the frame
     user::resize(Form1, width + 2100 - 225, height + 825 - 705);
     show({icons});
-    EXPECT_EQ(positions(), seen);
+    EXPECT_EQ(positions(), seen) << width;
   }
 }
 
@@ -91,15 +85,14 @@ TEST_F(series_test, RefusesIcons) {
                                {2182, 0, 0, 0, 0, 0},   {0, 2182, 0, 0, 0, 0},
                                {-3, 0, -3, -3, -3, -3}, {0, -32768, 0, 0, 0, 0},
                                {7, 6, 5, -4, 3, 8}};
-  for (const icon_head& head : good) {
+  const auto view_of = [](const icon_head& head) {
     show({{{head, ""}, plain_icon(1, 1, 9)}});
-    EXPECT_EQ(view(), "2: 1 -  2: 1=. 2=9");
-  }
+    return view();
+  };
+  for (const icon_head& head : good) EXPECT_EQ(view_of(head), "2: 1 -  2: 1=. 2=9") << &head - good;
   EXPECT_EQ(new_messages(), texts{});
-  for (const icon_head& head : refused) {
-    show({{{head, ""}, plain_icon(1, 1, 9)}});
-    EXPECT_EQ(view(), "2: 1 -  2: 2=9");
-  }
+  for (const icon_head& head : refused)
+    EXPECT_EQ(view_of(head), "2: 1 -  2: 2=9") << &head - refused;
   const texts messages = new_messages();
   EXPECT_EQ(messages.size(), std::size(refused));
   EXPECT_EQ(messages.back(),
@@ -168,33 +161,34 @@ TEST_F(series_test, ShowsAtMost5000IconsAndNoneOfAMissingArchive) {
   EXPECT_EQ(view(), "0: 1 -  0:");
 }
 
-// Not the entry that was clicked after it.
-TEST_F(series_test, TheNextSeriesReadsTheShownEntry) {
-  type_max_icons("1");
-  open_archive({{"A.TXT", ""}, palette_entry(), {"F.SHP", shp_file(plain_icons(2, 30, 30))}});
-  click_row("F.SHP");
-  click_row("A.TXT");
-  user::click(Form1.Command6);
-  EXPECT_EQ(new_messages(), texts{});
-  EXPECT_EQ(cell(1, 29, 29), "1");
-}
-
-// Another archive, and one that could not be read.
-TEST_F(series_test, ANextSeriesNeverMixesArchives) {
-  for (const std::string& other :
-       {archive_bytes({{"X.TXT", some_bytes(5000)}}), std::string("?")}) {
+// And reads the shown entry, not the one that was clicked after it.
+TEST_F(series_test, TheNextSeriesNeedsTheSameArchive) {
+  const std::vector<entry> entries = {
+      palette_entry(), {"A.TXT", ""}, {"F.SHP", shp_file(plain_icons(3, 30, 30))}};
+  write("C:\\other\\ostrane.dat", archive_bytes(entries));
+  write("C:\\bad\\ostrane.dat", "?");
+  const std::pair<texts, bool> cases[] = {{{}, true},
+                                          {{"C:\\"}, true},
+                                          {{"C:\\program", "C:\\"}, true},
+                                          {{"C:\\other"}, false},
+                                          {{"C:\\bad"}, false},
+                                          {{"C:\\program"}, false}};
+  for (const auto& [folders, next] : cases) {
+    restart();
     type_max_icons("1");
-    show({plain_icons(3, 5, 5)});
-    write("C:\\other\\ostrane.dat", other);
-    open_archive("C:\\other");
+    open_archive(entries);
+    click_row("F.SHP");
+    if (folders.empty()) click_row("A.TXT");
+    for (const std::string& folder : folders) open_archive(folder);
     new_messages();
     user::click(Form1.Command6);
+    SCOPED_TRACE(testing::PrintToString(folders));
     EXPECT_EQ(new_messages(), texts{});
-    EXPECT_EQ(view(), "3: 1 -  1: 1=0");
+    EXPECT_EQ(view(), next ? "3: 2 -  2: 1=1" : "3: 1 -  1: 1=0");
+    EXPECT_EQ(cell(1, 29, 29), next ? "1" : "0");
     user::double_click(Form1.s16_image, 1);
-    EXPECT_FALSE(Form3.Visible());
+    EXPECT_EQ(Form3.Visible(), next);
   }
 }
 
-}  // namespace
 }  // namespace ostrane

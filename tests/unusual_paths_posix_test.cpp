@@ -9,7 +9,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 // Links, pipes, devices, folders in place of files, missing permissions, and names that are hard to
 // store.
@@ -190,5 +189,4 @@ TEST(released_program, StopsAtAnOutOfBoundsAccess) {
 }
 #endif
 
-}  // namespace
 }  // namespace ostrane

@@ -2,36 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <map>
-#include <string>
-#include <vector>
-
 #include "command/command_line.h"
 #include "data/archive_bytes.h"
+#include "disk.h"
 
 namespace ostrane {
-
-namespace fs = std::filesystem;
-using texts = std::vector<std::string>;
 
 // The program in a folder of its own, which is the current one.
 struct command_test : testing::Test {
   struct outcome {
     int status;
-    std::string output;
-    std::string errors;
+    std::string output, errors;
   };
 
-  command_test() {
-    folder = fs::temp_directory_path() /
-             ("ostrane-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)) +
-              std::to_string(std::time(nullptr)));
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    fs::current_path(folder);
-  }
+  command_test() { fs::current_path(folder); }
   ~command_test() override {
     fs::current_path(folder.parent_path());
     fs::remove_all(folder);
@@ -44,23 +28,8 @@ struct command_test : testing::Test {
     std::string output = testing::internal::GetCapturedStdout();
     return {status, std::move(output), testing::internal::GetCapturedStderr()};
   }
-  static void write(const fs::path& path, const std::string& bytes) {
-    fs::create_directories(fs::absolute(path).parent_path());
-    std::ofstream(path, std::ios::binary) << bytes;
-  }
-  static std::string read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  static std::map<std::string, std::string> files_in(const fs::path& place) {
-    std::map<std::string, std::string> files;
-    for (const auto& entry : fs::directory_iterator(place)) {
-      if (entry.is_regular_file()) files[entry.path().filename().string()] = read(entry.path());
-    }
-    return files;
-  }
 
-  fs::path folder;
+  const fs::path folder = make_temporary_folder();
 };
 
 }  // namespace ostrane

@@ -7,12 +7,11 @@
 #include "command_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using commands_posix_test = command_test;
 
 TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
-  write("in/A.TXT", "a");
+  write_bytes("in/A.TXT", "a");
   ASSERT_EQ(mkfifo("pipe", 0600), 0);
   EXPECT_EQ(run({"build", "in", "-o", "pipe"}).errors,
             "ostrane-dat: pipe: cannot be written: access is not allowed.\n");
@@ -21,20 +20,18 @@ TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
 
 // The signal comes first, so each job ends at its first look.
 TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNothingBehind) {
-  write("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));
-  write("b.txt", "b");
-  const auto before = files_in(".");
-  const pid_t child = start_process([&] {
+  write_bytes("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));
+  write_bytes("b.txt", "b");
+  const auto before = files_at(".");
+  run_in_process([&] {
     command::catch_signals();
     std::raise(SIGTERM);
     for (const texts& job :
          {texts{"add", "a.dat", "b.txt"}, {"extract", "a.dat"}, {"list", "a.dat"}}) {
       EXPECT_THROW(command::run(job), command::interruption) << job[0];
-      EXPECT_EQ(files_in("."), before) << job[0];
+      EXPECT_EQ(files_at("."), before) << job[0];
     }
   });
-  EXPECT_EQ(exit_status(child), 0);
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -4,38 +4,28 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 
 #include "data/picture.h"
 #include "random_icons.h"
 
 namespace ostrane {
-namespace {
 
 using row = std::vector<std::int16_t>;
 
 // The bytes of the shortest stream for the columns from `at` on, of all that there are, if it has
 // less than `bound`. The first `outside` columns are free.
-int shortest(const row& cells, int outside, int at, int bound) {
-  if (at == outside + static_cast<int>(cells.size())) return 1;
-  const auto cell = [&](int column) { return cells[static_cast<std::size_t>(column - outside)]; };
+static int shortest(const row& cells, int outside, int at, int bound) {
+  const int columns = outside + static_cast<int>(cells.size());
+  if (at == columns) return 1;
   int best = bound;
-  bool is_unset = true;
-  bool is_set = true;
-  bool is_one = true;
-  int colour = picture::unset;
-  for (int end = at + 1; end <= outside + static_cast<int>(cells.size()); ++end) {
-    if (end - 1 >= outside) {
-      const int last = cell(end - 1);
-      is_unset = is_unset && last == picture::unset;
-      is_set = is_set && last != picture::unset;
-      is_one = is_one && (colour == picture::unset || colour == last);
-      if (colour == picture::unset) colour = last;
-    }
-    if (!is_unset && !is_set) break;
-    const int bytes = is_unset || is_one ? 2 : 1 + end - at;
-    const int literal = is_set ? std::min(bytes, 1 + end - at) : bytes;
-    if (literal < best)
-      best = std::min(best, literal + shortest(cells, outside, end, best - literal));
+  std::set<int> colours;  // of the operation from `at` on, without the free columns
+  for (int end = at + 1; end <= columns; ++end) {
+    if (end > outside) colours.insert(cells[static_cast<std::size_t>(end - 1 - outside)]);
+    const bool has_unset = colours.contains(picture::unset);
+    if (has_unset && colours.size() > 1) break;
+    const int bytes = colours.size() <= 1 ? 2 : 1 + end - at;
+    if (bytes < best) best = std::min(best, bytes + shortest(cells, outside, end, best - bytes));
   }
   return best;
 }
@@ -59,26 +49,20 @@ TEST(row_packer_test, PacksAsShortAsAnyStream) {
 
 // Lengths beyond those of single operations, and a way to the picture that many skips lead.
 TEST(row_packer_test, PacksLongRowsAsShortAsTheyGo) {
-  struct sample {
-    int outside;
-    row cells;
-    std::size_t bytes;
-  };
   row mixed(300);
   for (std::size_t i = 0; i < mixed.size(); ++i) mixed[i] = static_cast<std::int16_t>(i % 256);
   row distant(600, picture::unset);
   distant.back() = 9;
-  const std::vector<sample> samples = {
+  const std::tuple<int, row, std::size_t> cases[] = {
       {0, row(127, 5), 3}, {0, row(128, 5), 5},   {0, mixed, 304}, {0, distant, 9},
       {0, {}, 1},          {126, {5}, 3},         {127, {5}, 5},   {510, {5}, 7},
       {700, {5, 6}, 10},   {2000000, {5}, 15689},
   };
-  for (const sample& tried : samples) {
+  for (const auto& [outside, cells, bytes] : cases) {
     std::string stream;
-    row_packer().pack(tried.outside, tried.cells, stream);
-    EXPECT_EQ(stream.size(), tried.bytes) << tried.outside << " and " << tried.cells.size();
+    row_packer().pack(outside, cells, stream);
+    EXPECT_EQ(stream.size(), bytes) << outside << " and " << cells.size();
   }
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -5,31 +5,24 @@
 #include <QApplication>
 #include <QPaintEvent>
 #include <QTest>
-#include <QWidget>
 
 #include "desktop/control_view.h"
 #include "desktop/qt_screen.h"
+#include "disk.h"
 #include "files/drives.h"
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
+#include "handlers/file_service.h"
+
+namespace fs = std::filesystem;
 
 // A form with each kind of control, on a drive with the folder "sub" and the file "a.txt".
 struct all_kinds : forms_layer::form {
-  all_kinds()
-      : form({.name = "all_kinds",
-              .caption = "All kinds",
-              .client_width = 6000,
-              .client_height = 6000,
-              .control_box = true,
-              .resizable = true}) {}
+  all_kinds() : form({"all_kinds", "All kinds", 6000, 6000, true, true}) {}
 
   forms_layer::list_box list{*this, {.name = "list", .at = {0, 1800, 1500, 600}}};
-  forms_layer::label label{*this,
-                           {.name = "label",
-                            .at = {0, 0, 1500, 300},
-                            .text = "Label",
-                            .back_color = ostrane::pale_cyan}};
+  forms_layer::label label{*this, {.name = "label", .at = {0, 0, 1500, 300}, .text = "Label"}};
   forms_layer::button button{*this, {.name = "button", .at = {1600, 0, 1000, 300}, .cancel = true}};
   forms_layer::text_box field{*this, {.name = "field", .at = {0, 400, 1500, 300}, .max_length = 2}};
   forms_layer::text_box page{*this,
@@ -51,16 +44,46 @@ struct all_kinds : forms_layer::form {
 };
 
 struct Desktop : testing::Test {
-  Desktop();
-  ~Desktop() override;
+  Desktop() {
+    ostrane::write_bytes(folder / "a.txt", "a");
+    create_directories(folder / "sub");
+    forms_layer::begin_process();
+    files::set_drives({{'C', "one", folder}, {'D', "two", folder / "sub"}}, "C:\\");
+    ostrane::connect_file_service();
+    forms_layer::attach_screen(&screen);
+    for (int i = 1; i <= 5; ++i) form.pictures.Load(i);
+    picture().Width = 75;
+    picture().BackColor = forms_layer::rgb(9, 8, 7);
+  }
+  ~Desktop() override {
+    forms_layer::attach_screen(nullptr);
+    files::set_drives({});
+    remove_all(folder);
+  }
 
+  static void handle_events() {
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  }
   // Writes as a handler does, and returns when all of it is on the screen.
-  void write(const std::function<void()>& handler);
-  QWidget& show(forms_layer::form& shown);
-  QWidget& show_active();
+  static void write(const std::function<void()>& handler) {
+    forms_layer::run_event(handler);
+    handle_events();
+  }
+  QWidget& show(forms_layer::form& shown) {
+    write([&] { shown.Visible = true; });
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(screen.window_of(shown)));
+    handle_events();
+    return *screen.window_of(shown);
+  }
+  QWidget& show_active() {
+    QWidget& window = show(form);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    return window;
+  }
   forms_layer::picture_box& picture() { return form.pictures(1); }
 
-  std::filesystem::path folder;  // drive C:
+  const fs::path folder = ostrane::make_temporary_folder();  // drive C:
   desktop::qt_screen screen;
   all_kinds form;
 };
@@ -76,7 +99,17 @@ class paint_watch : public QObject {
   QRegion painted;
 };
 
-QWidget* widget_of(const QWidget& window, const forms_layer::control& shown);
+inline QWidget* widget_of(const QWidget& window, const forms_layer::control& shown) {
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* view = dynamic_cast<desktop::control_view*>(widget);
+    if (view != nullptr && &view->control == &shown) return widget;
+  }
+  return nullptr;
+}
+// The one that paints the frame and its pictures.
+inline QWidget* canvas_of(const QWidget& window, const all_kinds& form) {
+  return widget_of(window, form.inner)->parentWidget();
+}
 
 inline QImage picture_of(QWidget& shown) {
   return shown.grab().toImage().convertToFormat(QImage::Format_RGB32);

@@ -4,7 +4,6 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
-#include <fstream>
 
 #include "data/archive_bytes.h"
 #include "data/icon_packer.h"
@@ -76,7 +75,7 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) 
 }
 
 TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
-  QWidget* canvas = widget_of(show(form), form.inner)->parentWidget();
+  QWidget* canvas = canvas_of(show(form), form);
   paint_watch watch(canvas);
   const struct {
     const char* what;
@@ -135,7 +134,7 @@ TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
     EXPECT_FALSE(bar.painted.isEmpty());
     log += "end ";
   });
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  handle_events();
   EXPECT_EQ(log, "end close ");
   EXPECT_FALSE(screen.window_of(Form3)->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
 }
@@ -214,8 +213,8 @@ TEST_F(Desktop, TheToolsWindowsLookAsTheyDid) {
   using namespace ostrane;
   ostrane::picture drawn(40, 30);
   for (int x = 0; x < 30; ++x) drawn.set(x, x, static_cast<std::uint8_t>(8 * x));
-  std::ofstream(folder / "sub" / "ostrane.dat") << ostrane::archive_bytes(
-      {{"NOTE.TXT", "text"}, {"PIC.SHP", ostrane::shp_file({drawn, drawn, drawn})}});
+  write_bytes(folder / "sub" / "ostrane.dat",
+              archive_bytes({{"NOTE.TXT", "text"}, {"PIC.SHP", shp_file({drawn, drawn, drawn})}}));
   start_tool("C:\\");
   QApplication::setActiveWindow(nullptr);
   write([] { user::click(Form1.mnu_open); });

@@ -25,12 +25,14 @@ struct Input : Desktop {
   QAbstractItemView* rows_of(const forms_layer::control& shown) {
     return static_cast<QAbstractItemView*>(widget_of(window, shown));
   }
-  static QPoint row(const QAbstractItemView* list, int r) {
-    return list->visualRect(list->model()->index(r, 0)).center();
+  static void press_row(QAbstractItemView* list, int row, bool again = false) {
+    const QPoint middle = list->visualRect(list->model()->index(row, 0)).center();
+    again ? press_again(list->viewport(), middle) : press(list->viewport(), middle);
   }
 
   std::string log;
   QWidget& window = show_active();
+  QWidget* canvas = canvas_of(window, form);
 };
 
 TEST_F(Input, ReachesTheTool) {
@@ -52,12 +54,10 @@ TEST_F(Input, ReachesTheTool) {
   QAbstractItemView* list = rows_of(form.list);
   QAbstractItemView* folders = rows_of(form.folders);
   QAbstractItemView* files = rows_of(form.files);
-  QWidget* rows = list->viewport();
   QWidget* button = widget_of(window, form.button);
   QWidget* field = widget_of(window, form.field);
   QWidget* label = widget_of(window, form.label);
   auto* drives = static_cast<QComboBox*>(widget_of(window, form.drives));
-  QWidget* canvas = widget_of(window, form.inner)->parentWidget();
   QMenu* menu = window.findChild<QMenuBar*>()->actions()[0]->menu();
   const QPoint on_picture(18, 58);
   const QPoint beside(60, 190);
@@ -66,7 +66,7 @@ TEST_F(Input, ReachesTheTool) {
     form.Enabled = false;
     QTest::keyClick(list, Qt::Key_Tab);
     EXPECT_TRUE(list->hasFocus());
-    press(rows, row(list, 0));
+    press_row(list, 0);
     QTest::keyClick(list, Qt::Key_Up);
     press(button);
     QTest::keyClicks(field, "9");
@@ -78,10 +78,10 @@ TEST_F(Input, ReachesTheTool) {
     std::function<void()> act;
     std::string log;
   } cases[] = {
-      {"press", [&] { press(rows, row(list, 1)); }, "click1 "},
-      {"press on the selected row", [&] { press(rows, row(list, 1)); }, "click1 "},
-      {"second press, on another row", [&] { press_again(rows, row(list, 0)); }, "double1 "},
-      {"a double click begun elsewhere", [&] { press(button), press_again(rows, row(list, 2)); },
+      {"press", [&] { press_row(list, 1); }, "click1 "},
+      {"press on the selected row", [&] { press_row(list, 1); }, "click1 "},
+      {"second press, on another row", [&] { press_row(list, 0, true); }, "double1 "},
+      {"a double click begun elsewhere", [&] { press(button), press_row(list, 2, true); },
        "go click2 "},
       {"Ctrl+Space", [&] { QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier); }, ""},
       {"arrow", [&] { QTest::keyClick(list, Qt::Key_Down); }, "click3 "},
@@ -101,15 +101,11 @@ TEST_F(Input, ReachesTheTool) {
       {"one that began in another window",
        [&] { press(canvas, on_picture), press(button), press_again(canvas, on_picture); }, "go "},
       {"drive", [&] { drives->setCurrentIndex(1), emit drives->activated(1); }, "d: [two] "},
-      {"folder", [&] { press(folders->viewport(), row(folders, 1)); }, ""},
+      {"folder", [&] { press_row(folders, 1); }, ""},
       {"Enter on it", [&] { QTest::keyClick(folders, Qt::Key_Enter); }, "C:\\sub "},
-      {"double click on a folder",
-       [&] {
-         press(folders->viewport(), row(folders, 0));
-         press_again(folders->viewport(), row(folders, 0));
-       },
+      {"double click on a folder", [&] { press_row(folders, 0), press_row(folders, 0, true); },
        "C:\\ "},
-      {"file", [&] { press(files->viewport(), row(files, 0)); }, "a.txt "},
+      {"file", [&] { press_row(files, 0); }, "a.txt "},
       {"menu", [&] { menu->actions()[0]->trigger(); }, "first "},
       {"size", [&] { window.resize(450, 450); }, "resize6750 "},
       {"close", [&] { window.close(); }, "close "},
@@ -142,7 +138,6 @@ TEST_F(Input, KeysReachEveryPictureOnShow) {
     form.pictures(i).Visible = i != 2;
   }
   QCoreApplication::processEvents();
-  QWidget* canvas = widget_of(window, form.inner)->parentWidget();
   const auto has_cursor = [&] {  // round the first picture
     return picture_of(*canvas).pixelColor(19, 59) == canvas->palette().highlight().color();
   };
