@@ -1,9 +1,6 @@
 // The input is an archive, or for fuzz_icon the only icon file of an archive. Clicks every row and
 // uses every view on all series: motion, stepping, reports.
-#include <algorithm>
-
-#include "data/archive_bytes.h"
-#include "target.h"
+#include "generated_input.h"
 
 using namespace ostrane;
 

@@ -1,12 +1,11 @@
 // The parts of the input are the names (UTF-8) and bytes of files in turn. The entries of the
 // archive built from them must be those files.
-#include <fstream>
 #include <set>
 
 #include "data/entry_range.h"
 #include "files/code_page.h"
+#include "generated_input.h"
 #include "state/open_archive.h"
-#include "target.h"
 
 using namespace ostrane;
 

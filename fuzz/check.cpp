@@ -1,17 +1,13 @@
 // The input is an archive. It is checked as `ostrane-dat check` does.
-#include <fstream>
-
 #include "data/archive_check.h"
-#include "data/archive_index.h"
-#include "data/data_error.h"
-#include "target.h"
+#include "generated_input.h"
 
 using namespace ostrane;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string archive = fuzz::raw_or_generated(data, size, fuzz::archive);
   static const fs::path file = fuzz::top_folder() / "checked.dat";
-  std::ofstream(file, std::ios::binary | std::ios::trunc) << archive;
+  write_bytes(file, archive);
   std::size_t faults = 0;
   check_archive(
       {file, "checked.dat:"},

@@ -1,5 +1,5 @@
 // The input is an archive. Its extraction writes files into one folder and nothing else.
-#include "target.h"
+#include "generated_input.h"
 
 using namespace ostrane;
 

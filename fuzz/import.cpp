@@ -1,6 +1,5 @@
 // The input is a PNG, the JSON of an export, or a picture that is written as a PNG and must come
 // back from it and from the icon that is made of it.
-#include <fstream>
 #include <memory>
 
 #include "command/pictures/icon_json.h"
@@ -9,7 +8,7 @@
 #include "command/pictures/png_writer.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
-#include "target.h"
+#include "generated_input.h"
 
 using namespace ostrane;
 
@@ -18,18 +17,17 @@ namespace {
 constexpr std::int64_t max_cells = 1 << 20;  // larger pictures only cost time
 
 bool same_cells(const picture& a, const picture& b) {
-  if (a.columns() != b.columns() || a.rows() != b.rows()) return false;
-  for (int row = 0; row < a.rows(); ++row) {
-    const auto cells = a.row(row);
-    if (!std::equal(cells.begin(), cells.end(), b.row(row).begin())) return false;
+  bool same = a.columns() == b.columns() && a.rows() == b.rows();
+  for (int row = 0; same && row < a.rows(); ++row) {
+    same = std::ranges::equal(a.row(row), b.row(row));
   }
-  return true;
+  return same;
 }
 
 void check_icon(const picture& drawn, const std::optional<command::known_icon>& known) {
   static const fs::path place = fuzz::top_folder() / "made.shp";
   const std::string bytes = shp_file({command::new_icon(drawn, known)});
-  std::ofstream(place, std::ios::binary | std::ios::trunc) << bytes;
+  write_bytes(place, bytes);
   files::binary_file file;
   file.open_to_read({place, "made.shp"});
   const icon_file icons = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
@@ -41,20 +39,14 @@ void check_icon(const picture& drawn, const std::optional<command::known_icon>& 
   fuzz::check(same_cells(seen, drawn), "it has the cells of its picture");
 }
 
-colour_table colours(fuzz::fields& from) {
+colour_table colours(std::uint32_t step) {
   colour_table made = {};
-  const auto step = from.ConsumeIntegral<std::uint32_t>();
-  for (std::size_t i = 0; i < made.size(); ++i)
-    made[i] = static_cast<std::uint32_t>(i) * step & 0xFFFFFFU;
+  for (std::uint32_t i = 0; i < made.size(); ++i) made[i] = i * step & 0xFFFFFFU;
   return made;
 }
 
 void import_png(const std::string& bytes) {
-  static command::colour_finder finder([] {
-    colour_table greys;
-    for (std::uint32_t i = 0; i < greys.size(); ++i) greys[i] = 0x010101U * (i / 2);
-    return greys;
-  }());
+  static command::colour_finder finder(colours(0x010101));
   const command::png_picture read = command::read_png(bytes, "p:", finder);
   if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
     check_icon(read.drawn, {});
@@ -71,7 +63,7 @@ void import_json(const std::string& text) {
 
 void import_made(fuzz::fields& from) {
   picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
-  const colour_table palette = colours(from);
+  const colour_table palette = colours(from.ConsumeIntegral<std::uint32_t>());
   const bool is_full = from.ConsumeBool();
   for (int i = 0; is_full && i < std::min(256, drawn.columns() * drawn.rows()); ++i) {
     drawn.set(i % drawn.columns(), i / drawn.columns(), static_cast<std::uint8_t>(i));

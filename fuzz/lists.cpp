@@ -1,10 +1,6 @@
 // The parts of the input are iconlist.csv, a shiplist and the names of entries. Clicks the names,
 // saves and compares them. Generated parts share their names.
-#include <algorithm>
-
-#include "data/archive_bytes.h"
-#include "data/archive_format.h"
-#include "target.h"
+#include "generated_input.h"
 
 using namespace ostrane;
 

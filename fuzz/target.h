@@ -30,31 +30,12 @@ inline void restart_on_empty_drives() {
   restart();
 }
 
-// Generated inputs are well-formed; the bytes of the fuzzer choose their field values.
-using fields = FuzzedDataProvider;
-
-// A `likely` number or a 16- or 32-bit limit, each also plus or minus 1, or any number.
-std::int32_t number(fields& from, std::initializer_list<std::int64_t> likely);
-
-// The same, clamped to 0..65536.
-std::size_t size(fields& from, std::initializer_list<std::int64_t> likely);
-
-// A `likely` text or any.
-std::string text(fields& from, const texts& likely);
-
-// True for 1 in `cases` values of a byte.
-bool one_in(fields& from, std::uint8_t cases);
-
-// An icon file or an archive. Some of their numbers are inconsistent.
-std::string icon_file(fields& from);
-std::string archive(fields& from);
-
 // The first byte selects whether the rest is the input or chooses its fields.
 template <typename Maker>
 std::string raw_or_generated(const std::uint8_t* data, std::size_t size, Maker maker) {
   if (size == 0) return "";
   if (data[0] % 2 == 0) return {reinterpret_cast<const char*>(data) + 1, size - 1};
-  fields from(data + 1, size - 1);
+  FuzzedDataProvider from(data + 1, size - 1);
   return maker(from);
 }
 

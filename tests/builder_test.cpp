@@ -6,32 +6,24 @@ namespace ostrane {
 
 const std::string success = "Your new Ostrane.dat has been created and saved in:";
 
-struct builder_test : tool_test {
-  // Restarts the tool with only these files in C:\work.
-  static void restart_with(const std::vector<entry>& files) {
-    fs::remove_all(disk_path("C:\\work"));
-    make_folder("C:\\work");
-    for (const entry& file : files) write("C:\\work\\" + file.name, file.bytes);
-    restart();
-  }
-};
+using builder_test = tool_test;
 
 TEST_F(builder_test, WritesTheIndexThenTheFiles) {
-  const texts names = {" lead.txt", "abcdefghi.shp", "bcdefghij.shpx",
-                       "game.pal",  "My file.shp",   "\xC3\xA9t\xC3\xA9"};
-  const texts records = {
-      "LEAD.TXT", "ABCDEFGHI.SHP", "BCDEFGHIJ.SHP", "GAME.PAL", std::string("MY\0FILE.SHP", 11),
-      "\xC9T\xC9"};
-  std::vector<entry> named = {{".hidden", "no entry"}};
+  const std::pair<const char*, std::string> names[] = {
+      {" lead.txt", "LEAD.TXT"},
+      {"abcdefghi.shp", "ABCDEFGHI.SHP"},
+      {"bcdefghij.shpx", "BCDEFGHIJ.SHP"},
+      {"game.pal", "GAME.PAL"},
+      {"My file.shp", std::string("MY\0FILE.SHP", 11)},
+      {"\xC3\xA9t\xC3\xA9", "\xC9T\xC9"}};
+  file_map named = {{".hidden", "no entry"}};
   std::vector<entry> entries;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    named.push_back({names[i], some_bytes(i)});
-    entries.push_back({records[i], some_bytes(i)});
+  for (const auto& [name, record] : names) {
+    entries.push_back({record, some_bytes(entries.size())});
+    named[name] = entries.back().bytes;
   }
-  const std::pair<std::vector<entry>, std::string> cases[] = {
-      {{}, index_bytes(1, {{21, ""}})},
-      {named, archive_bytes(entries)},
-  };
+  const std::pair<file_map, std::string> cases[] = {{{}, index_bytes(1, {{21, ""}})},
+                                                    {named, archive_bytes(entries)}};
   for (const auto& [files, archive] : cases) {
     restart_with(files);
     build_in();
@@ -62,40 +54,40 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
   const fs::path b = disk_path("C:\\work\\b.txt");
   const auto nothing = [] {};
   const auto remove_b = [&] { fs::remove(b); };
-  const struct {
-    std::function<void()> before_click, between_passes;
-    std::string fault;
-  } cases[] = {
+  const auto enlarge_b = [&] { fs::resize_file(b, 2147483647); };
+  const auto append_to_b = [&] { std::ofstream(b) << "longer"; };
+  const auto type_no_drive = [] { user::type(Form5.Text1, "Q:\\"); };
+  const auto make_lock_folder = [] { make_folder("C:\\work\\.OSTRANE.DAT.lock"); };
+  // Before the click, between the passes over the files, and the fault.
+  const std::tuple<std::function<void()>, std::function<void()>, std::string> cases[] = {
       {remove_b, nothing, "C:\\work\\b.txt cannot be read: it is not there."},
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
-      {nothing, [&] { std::ofstream(b) << "longer"; },
-       "C:\\work\\b.txt has changed its size meanwhile."},
-      {[&] { fs::resize_file(b, 2147483647); }, nothing,
+      {nothing, append_to_b, "C:\\work\\b.txt has changed its size meanwhile."},
+      {enlarge_b, nothing,
        "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
        "be."},
-      {[&] { user::type(Form5.Text1, "Q:\\"); }, nothing, "There is no drive Q."},
-      {[] { make_folder("C:\\work\\.OSTRANE.DAT.lock"); }, nothing,
-       "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
+      {type_no_drive, nothing, "There is no drive Q."},
+      {make_lock_folder, nothing, "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };
-  for (const auto& c : cases) {
+  for (const auto& [before_click, between_passes, fault] : cases) {
     restart_with({{"a.txt", "a"}, {"b.txt", "123"}, {"ostrane.dat", "the old one"}});
     open_archive({{"OPEN.TXT", "open"}});
     recording_screen screen;
     open_build_dialog();
-    c.before_click();
+    before_click();
     texts names = names_in("C:\\work");
-    screen.on_refresh = [&] {
-      if (screen.log.back().find("C:\\work\\a.txt") != std::string::npos) c.between_passes();
+    screen.on_refresh = [&, &between_passes = between_passes] {
+      if (screen.log.back().find("C:\\work\\a.txt") != std::string::npos) between_passes();
     };
     user::click(Form5.Command1);
     const bool typed = Form5.Text1.Text() != "C:\\work";
     EXPECT_EQ(screen.log.back(),
-              "dialog " + c.fault + " No new archive was made." +
+              "dialog " + fault + " No new archive was made." +
                   (typed ? " The list shows the files of C:\\work. Double click on the folder to "
                            "build from."
                          : ""));
     if (!fs::exists(b)) std::erase(names, "b.txt");
-    EXPECT_EQ(names_in("C:\\work"), names) << c.fault;
+    EXPECT_EQ(names_in("C:\\work"), names) << fault;
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
     EXPECT_EQ(tool_state.dat_index[1].offset, 42);
     EXPECT_EQ(tool_state.archive_path, "C:\\ostrane.dat");

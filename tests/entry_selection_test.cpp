@@ -71,15 +71,12 @@ TEST_F(entry_selection_test, ShowsTheBytesOfATextInsideTheFile) {
   constexpr std::int32_t zeros = data + 40005;
   constexpr std::int32_t end = zeros + (17 << 20);
   std::string long_text = some_bytes(40000);
-  write("C:\\ostrane.dat", index_bytes(8, {{data, "A.TXT"},
-                                           {data + 5, "LONG.TXT"},
-                                           {zeros, "BIG.TXT"},
-                                           {end - 3, "LAST.TXT"},
-                                           {end + 500, "BEHIND.TXT"},
-                                           {-9, "BEFORE.TXT"},
-                                           {INT32_MAX, "FAR.TXT"},
-                                           {INT32_MIN, ""}}) +
-                               std::string("a\0b\r\n", 5) + long_text);
+  const std::vector<std::pair<std::int32_t, std::string>> records = {
+      {data, "A.TXT"},           {data + 5, "LONG.TXT"},
+      {zeros, "BIG.TXT"},        {end - 3, "LAST.TXT"},
+      {end + 500, "BEHIND.TXT"}, {-9, "BEFORE.TXT"},
+      {INT32_MAX, "FAR.TXT"},    {INT32_MIN, ""}};
+  write("C:\\ostrane.dat", index_bytes(8, records) + std::string("a\0b\r\n", 5) + long_text);
   fs::resize_file(disk_path("C:\\ostrane.dat"), end);
   open_archive();
   std::replace(long_text.begin(), long_text.end(), '\0', ' ');

@@ -84,31 +84,23 @@ TEST_F(extraction_test, WritesOneFileForNamesThatDifferInCase) {
 
 // The dialog stays, and no folder is made.
 TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
-  const struct {
-    const char* folder;
-    std::function<void()> prepare;
-    const char* message;
-  } cases[] = {
-      {"E:\\", [] {}, "The folder E:\\ is not there. Make it or choose another."},
-      {"D:\\", [&] { open_archive("C:\\program"); }, "No archive is open. Read one first."},
-      {"D:\\",
-       [&] {
-         open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}}));
-       },
-       "The index of C:\\ostrane.dat puts entries before the file."},
-      {"D:\\",
-       [&] {
-         write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}}));
-       },
-       "C:\\ostrane.dat has changed since it was read. Read it again."},
+  const auto nothing = [] {};
+  const auto close_archive = [] { open_archive("C:\\program"); };
+  const auto misplace = [] { open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}})); };
+  const auto change = [] { write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}})); };
+  const std::tuple<const char*, std::function<void()>, std::string> cases[] = {
+      {"E:\\", nothing, "The folder E:\\ is not there. Make it or choose another."},
+      {"D:\\", close_archive, "No archive is open. Read one first."},
+      {"D:\\", misplace, "The index of C:\\ostrane.dat puts entries before the file."},
+      {"D:\\", change, "C:\\ostrane.dat has changed since it was read. Read it again."},
   };
-  for (const auto& c : cases) {
+  for (const auto& [folder, prepare, message] : cases) {
     restart();
     open_archive({{"A.TXT", "a"}});
-    c.prepare();
+    prepare();
     new_messages();
-    extract_into(c.folder);
-    EXPECT_EQ(new_messages(), texts{std::string(c.message) + " Nothing was extracted."});
+    extract_into(folder);
+    EXPECT_EQ(new_messages(), texts{message + " Nothing was extracted."});
     EXPECT_TRUE(Form4.Visible() && !Form3.Visible() && !Form1.Visible());
     EXPECT_EQ(names_in("D:\\"), texts{});
   }

@@ -1,5 +1,3 @@
-#include <array>
-
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -102,18 +100,19 @@ TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
     }
     return shown;
   };
-  const auto report = [](const std::string& slot, const std::array<const char*, 8>& numbers) {
-    const char* const labels[] = {
-        "Number of cols(0-#)         : ",   "Number of rows(0-#)         : ",
-        "First column with data      : ",   "Last column with data       : ",
-        "First row with data         : ",   "Last row with data          : ",
-        "\rIcon-number in shp-file     : ", "SHP-Startpos in Ostrane.dat : "};
-    std::string text = "Icon-data for picture number:  " + slot + ", on this screen.";
-    for (std::size_t i = 0; i < 8; ++i) text += std::string(labels[i]) + numbers[i] + "\r";
-    return text + "\rClick >HERE< to make this message disappear...";
+  const auto report = [](const texts& numbers) {
+    std::string text =
+        "Icon-data for picture number:  @, on this screen."
+        "Number of cols(0-#)         : @\rNumber of rows(0-#)         : @\r"
+        "First column with data      : @\rLast column with data       : @\r"
+        "First row with data         : @\rLast row with data          : @\r"
+        "\rIcon-number in shp-file     : @\rSHP-Startpos in Ostrane.dat : @\r"
+        "\rClick >HERE< to make this message disappear...";
+    for (const std::string& number : numbers) text.replace(text.find('@'), 1, number);
+    return text;
   };
-  EXPECT_EQ(reports(), (texts{report("1", {" 1", " 1", " 2", " 1", " 0", " 1", " 2", " 1100"}),
-                              report("2", {" 63", " 9", "-2", " 40", " 3", " 8", " 3", " 1100"})}));
+  EXPECT_EQ(reports(), (texts{report({"1", " 1", " 1", " 2", " 1", " 0", " 1", " 2", " 1100"}),
+                              report({"2", " 63", " 9", "-2", " 40", " 3", " 8", " 3", " 1100"})}));
   click_row("N.TXT");
   EXPECT_EQ(reports(), texts{});
 }

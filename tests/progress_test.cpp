@@ -55,12 +55,9 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
     return all;
   };
   for (const auto& [files, size, built, extracted] : cases) {
-    fs::remove_all(disk_path("C:\\work"));
-    make_folder("C:\\work");
-    for (std::size_t i = 0; i < files; ++i) {
-      write("C:\\work\\" + std::to_string(i), std::string(size, 'x'));
-    }
-    restart();
+    file_map sources;
+    for (std::size_t i = 0; i < files; ++i) sources[std::to_string(i)] = std::string(size, 'x');
+    restart_with(sources);
     screen.reset_bars();
     build_in();
     EXPECT_EQ(bars(), built);

@@ -38,6 +38,14 @@ inline std::string some_bytes(std::size_t count, unsigned seed = 1) {
   return bytes;
 }
 
+// Restarts the tool with only these files in C:\work.
+inline void restart_with(const file_map& files) {
+  fs::remove_all(disk_path("C:\\work"));
+  make_folder("C:\\work");
+  for (const auto& [name, bytes] : files) write("C:\\work\\" + name, bytes);
+  restart();
+}
+
 // Clicks the first row of that name.
 inline void click_row(const std::string& name) {
   std::int32_t row = 0;
@@ -67,10 +75,9 @@ struct small_build_test : tool_test {
       archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
   // Restarts the tool with the files and an old archive in C:\work.
   void restart_beside(const std::string& old_archive) const {
-    fs::remove_all(disk_path("C:\\work"));
-    for (const auto& [name, bytes] : sources) write("C:\\work\\" + name, bytes);
-    write("C:\\work\\" + old_archive, "the old one");
-    restart();
+    file_map all = sources;
+    all[old_archive] = "the old one";
+    restart_with(all);
   }
 };
 

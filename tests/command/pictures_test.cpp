@@ -128,7 +128,7 @@ TEST_F(pictures_test, BadSourcesAreToldAndNothingIsWritten) {
     EXPECT_NE(seen.errors.find("ostrane-dat: "), std::string::npos) << source;
     EXPECT_FALSE(fs::exists("new.shp")) << source;
   }
-  EXPECT_EQ(run({"import", "good.json", "-o", "new.shp", "--palette", "GAME.PAL"}).errors, "");
+  EXPECT_EQ(run({"import", "good.json", "-o", "new.shp", "--palette", "GAME.PAL"}).status, 1);
 }
 
 TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {

@@ -52,6 +52,7 @@ struct Desktop : testing::Test {
     ostrane::connect_file_service();
     forms_layer::attach_screen(&screen);
     for (int i = 1; i <= 5; ++i) form.pictures.Load(i);
+    form.label.BackColor = ostrane::pale_cyan;
     picture().Width = 75;
     picture().BackColor = forms_layer::rgb(9, 8, 7);
   }

@@ -1,3 +1,5 @@
+#pragma once
+
 #include <algorithm>
 
 #include "data/archive_bytes.h"
@@ -6,9 +8,10 @@
 #include "files/little_endian.h"
 #include "target.h"
 
+// Generated inputs are well-formed; the bytes of the fuzzer choose their field values.
 namespace ostrane::fuzz {
 
-namespace {
+using fields = FuzzedDataProvider;
 
 const texts names = {"A.SHP",         "b.shp",      "N.TXT",       "GAME.PAL",
                      "000DATUP.000",  "SELF.DAT",   "..\\O.TXT",   "../O.TXT",
@@ -17,14 +20,39 @@ const texts names = {"A.SHP",         "b.shp",      "N.TXT",       "GAME.PAL",
                      "13CHARACT.TXT", "\x80\xE4.T", "OSTRANE.DAT", " G.TXT ",
                      "ABCDEFGHI.SHP", "\x81.TXT",   ".HIDDEN"};
 
+// A `likely` number or a 16- or 32-bit limit, each also plus or minus 1, or any number.
+inline std::int32_t number(fields& from, std::initializer_list<std::int64_t> likely) {
+  std::vector<std::int64_t> edges = {0, INT16_MIN, INT16_MAX, UINT16_MAX, INT32_MIN, INT32_MAX};
+  edges.insert(edges.end(), likely);
+  const auto choice = from.ConsumeIntegralInRange<std::size_t>(0, 3 * edges.size());
+  if (choice == 3 * edges.size()) return from.ConsumeIntegral<std::int32_t>();
+  return static_cast<std::int32_t>(edges[choice / 3] + static_cast<std::int64_t>(choice % 3) - 1);
+}
+
+// The same, clamped to 0..65536.
+inline std::size_t size(fields& from, std::initializer_list<std::int64_t> likely) {
+  return static_cast<std::size_t>(std::clamp(number(from, likely), 0, UINT16_MAX + 1));
+}
+
+// A `likely` text or any.
+inline std::string text(fields& from, const texts& likely) {
+  const auto choice = from.ConsumeIntegralInRange<std::size_t>(0, likely.size());
+  return choice < likely.size() ? likely[choice] : from.ConsumeRandomLengthString(16);
+}
+
+// True for 1 in `cases` values of a byte.
+inline bool one_in(fields& from, std::uint8_t cases) {
+  return from.ConsumeIntegral<std::uint8_t>() % cases == 1;
+}
+
 // Overwrites 4 bytes if they are inside.
-void put(std::string& bytes, std::size_t at, std::int32_t value) {
+inline void put(std::string& bytes, std::size_t at, std::int32_t value) {
   if (at + 4 <= bytes.size()) {
     files::put_int32(std::as_writable_bytes(std::span(bytes)), at, value);
   }
 }
 
-std::string stream(fields& from) {
+inline std::string stream(fields& from) {
   std::string bytes;
   for (int left = from.ConsumeIntegralInRange(0, 40); left > 0; --left) {
     const auto op = from.ConsumeIntegral<std::uint8_t>();
@@ -36,7 +64,7 @@ std::string stream(fields& from) {
 }
 
 // The last row and column of a slot are at most 2181.
-shp_icon icon(fields& from) {
+inline shp_icon icon(fields& from) {
   icon_head head;
   head.no_of_rows = static_cast<std::int16_t>(number(from, {2, 30, 2181}));
   head.no_of_cols = static_cast<std::int16_t>(number(from, {4, 30, 2181}));
@@ -47,36 +75,8 @@ shp_icon icon(fields& from) {
   return {head, stream(from)};
 }
 
-std::string contents(fields& from) {
-  if (from.ConsumeBool()) return icon_file(from);
-  if (from.ConsumeBool()) return from.ConsumeRandomLengthString(64);
-  return std::string(size(from, {4, 8, 128, 1024, 8192, 16384}), from.ConsumeIntegral<char>());
-}
-
-}  // namespace
-
-std::int32_t number(fields& from, std::initializer_list<std::int64_t> likely) {
-  std::vector<std::int64_t> edges = {0, INT16_MIN, INT16_MAX, UINT16_MAX, INT32_MIN, INT32_MAX};
-  edges.insert(edges.end(), likely);
-  const auto choice = from.ConsumeIntegralInRange<std::size_t>(0, 3 * edges.size());
-  if (choice == 3 * edges.size()) return from.ConsumeIntegral<std::int32_t>();
-  return static_cast<std::int32_t>(edges[choice / 3] + static_cast<std::int64_t>(choice % 3) - 1);
-}
-
-std::size_t size(fields& from, std::initializer_list<std::int64_t> likely) {
-  return static_cast<std::size_t>(std::clamp(number(from, likely), 0, UINT16_MAX + 1));
-}
-
-std::string text(fields& from, const texts& likely) {
-  const auto choice = from.ConsumeIntegralInRange<std::size_t>(0, likely.size());
-  return choice < likely.size() ? likely[choice] : from.ConsumeRandomLengthString(16);
-}
-
-bool one_in(fields& from, std::uint8_t cases) {
-  return from.ConsumeIntegral<std::uint8_t>() % cases == 1;
-}
-
-std::string icon_file(fields& from) {
+// Some of its numbers are inconsistent, as those of an archive.
+inline std::string icon_file(fields& from) {
   std::vector<shp_icon> icons;
   for (int left = from.ConsumeIntegralInRange(0, 8); left > 0; --left) icons.push_back(icon(from));
   if (one_in(from, 16))
@@ -90,7 +90,13 @@ std::string icon_file(fields& from) {
   return file;
 }
 
-std::string archive(fields& from) {
+inline std::string contents(fields& from) {
+  if (from.ConsumeBool()) return icon_file(from);
+  if (from.ConsumeBool()) return from.ConsumeRandomLengthString(64);
+  return std::string(size(from, {4, 8, 128, 1024, 8192, 16384}), from.ConsumeIntegral<char>());
+}
+
+inline std::string archive(fields& from) {
   std::vector<archive_entry> files;
   for (int left = from.ConsumeIntegralInRange(0, 8); left > 0; --left) {
     files.push_back({text(from, names), contents(from)});
