@@ -33,13 +33,11 @@ class recording_screen : public forms_layer::screen {
   }
   // A change of the range alone is no move.
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
-    if (what != forms_layer::property_id::range) return;
-    for (const int number : {1, 2}) {
-      const auto& bar = number == 1 ? Form3.ProgressBar1 : Form3.ProgressBar2;
-      if (&changed != &bar || bar.Value() == last_[number]) continue;
-      last_[number] = bar.Value();
-      moves += " " + std::to_string(number) + ":" + std::to_string(std::lround(bar.Value()));
-    }
+    const auto* bar = dynamic_cast<forms_layer::progress_bar*>(&changed);
+    if (what != forms_layer::property_id::range || bar->Value() == last_[bar]) return;
+    last_[bar] = bar->Value();
+    moves += bar == &Form3.ProgressBar1 ? " 1:" : " 2:";
+    moves += std::to_string(std::lround(bar->Value()));
   }
   void message_box(const std::string&, const std::string& text) override {
     log.push_back(visible_windows() + text);
@@ -62,7 +60,7 @@ class recording_screen : public forms_layer::screen {
     return windows;
   }
 
-  float last_[3] = {};
+  std::map<const forms_layer::progress_bar*, float> last_;
 };
 
 }  // namespace ostrane
