@@ -114,8 +114,8 @@ TEST_F(lists_test, ANewFileIsNeverReadableForMoreUsersThanTheOld) {
     chmod(disk_path("D:\\old").c_str(), 0664);
     if (geteuid() == 0 && chown(disk_path("D:\\old").c_str(), 65534, 12345) != 0) _exit(cannot_run);
     fs::permissions(root / "d", fs::perms::all);
-    return [&] {
-      umask(077);
+    return [&](mode_t mask) {
+      umask(mask);
       files::text_writer writer(files::to_file_path("D:\\old"));
       EXPECT_EQ(mode_of("D:\\.OLD.lock"), 0666U);
       writer.close();
@@ -126,14 +126,13 @@ TEST_F(lists_test, ANewFileIsNeverReadableForMoreUsersThanTheOld) {
     const auto replaced = mode_after();
     const failing_calls none(INT32_MAX);
     files::system_calls.copy_permissions = [](int, const fs::path&) { return -EPERM; };
-    umask(022);
-    EXPECT_EQ(replaced(), 0600U);
+    EXPECT_EQ(replaced(022), 0600U);
   });
   run_in_process([&] {
     fs::permissions(root, fs::perms::all);
     const auto replaced = mode_after();
     drop_root();
-    EXPECT_EQ(replaced(), geteuid() == 0 ? 0664U : 0644U);
+    EXPECT_EQ(replaced(077), geteuid() == 0 ? 0664U : 0644U);
   });
 }
 

@@ -120,7 +120,6 @@ void replaced_file::copy_to(binary_file& to) {
 void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
   const fs::path& kept = is_own(target) == 1 ? target : target_.system;
-  if (is_own(kept) != 1) return;
   const std::string folded = upper_case_name(kept.filename().native());
   std::vector<listed_entry> listed;
   file_calls::list(folder_of(kept), listed);
