@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include "recording_screen.h"
 
 namespace ostrane {

@@ -4,12 +4,6 @@ namespace ostrane {
 
 using compare_test = tool_test;
 
-static void open_names(const texts& names) {
-  std::vector<entry> entries;
-  for (const std::string& name : names) entries.push_back({name, ""});
-  open_archive(entries);
-}
-
 // The names in the archive, the shiplist, and the counts (if they differ) and rows of the report.
 TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
   const auto counts = [](const char* archive, const char* shiplist) {

@@ -69,23 +69,26 @@ TEST_F(damage_test, ThousandsOfBadIconsGiveFewMessages) {
   constexpr std::size_t many = 5000;
   shp_icon huge = blank_icon(2, 2);
   huge.head.no_of_rows = 32767;
-  const struct {
-    shp_icon icon;
-    int moved_by;  // added to the icon positions
-    std::size_t messages;
-  } cases[] = {
+  // The icon, what is added to the positions of the icons, and the number of messages.
+  const std::tuple<shp_icon, int, std::size_t> cases[] = {
       {plain_icon(1, 1, 1), 0, 0},       {refused_icon(1, 1), 0, 20},          {huge, 0, 1},
       {plain_icon(1, 1, 1), 1 << 30, 1}, {plain_icon(1, 1, 1), -(1 << 30), 1},
   };
-  for (const auto& c : cases) {
-    std::string file = shp_file(std::vector<shp_icon>(many, c.icon));
+  for (const auto& [icon, moved_by, count] : cases) {
+    std::string file = shp_file(std::vector<shp_icon>(many, icon));
     for (std::size_t n = 0; n < many; ++n) {
-      file[8 + 8 * n + 3] = static_cast<char>(file[8 + 8 * n + 3] + c.moved_by / (1 << 24));
+      file[8 + 8 * n + 3] = static_cast<char>(file[8 + 8 * n + 3] + moved_by / (1 << 24));
     }
     restart();
     open_archive({{"I.SHP", file}});
     click_row("I.SHP");
-    EXPECT_EQ(new_messages().size(), c.messages) << c.moved_by;
+    const texts messages = new_messages();
+    EXPECT_EQ(messages.size(), count) << moved_by;
+    for (std::size_t i = 0; i < messages.size(); ++i) {
+      EXPECT_EQ(
+          messages[i].ends_with("\nFurther icons of this series are refused without a message."),
+          i == 19);
+    }
   }
 }
 

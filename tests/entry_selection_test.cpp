@@ -52,9 +52,9 @@ TEST_F(entry_selection_test, AddsTheFirstMatchOf32000Descriptions) {
       {"NODOT", " - "},  // row 2 is blank
       {"", " - "},
   };
-  std::vector<entry> entries;
-  for (const auto& [name, added] : cases) entries.push_back({name, ""});
-  open_archive(entries);
+  texts names;
+  for (const auto& [name, added] : cases) names.push_back(name);
+  open_names(names);
   for (const auto& [name, added] : cases) {
     click_row(name);
     EXPECT_EQ(Form1.Frame1.Caption(), name + added);

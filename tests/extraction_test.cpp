@@ -7,34 +7,32 @@ namespace ostrane {
 
 using extraction_test = tool_test;
 
-const std::string success = "All files from Ostrane.dat has been extracted into: ";
+const std::string extracted = " files from Ostrane.dat has been extracted into: ";
 const std::string skipped = "\nThese entries were not extracted:";
-
-static std::string partial_success(const char* numbers) {
-  return numbers + std::string(" files from Ostrane.dat has been extracted into: ");
-}
 
 // The last names only resemble refused ones.
 TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
-  const texts names = {"EMPTY",     "ABCDEFGHI.SHP", " c.txt ", std::string("\0A\0 B.TXT\0\0", 10),
-                       "\xC9T\xC9", "..a",           "COM0",    "COM10",
-                       "CONX",      "LPT",           "LPTX",    "XCON",
-                       "a .b"};
-  const texts written = {"EMPTY", "ABCDEFGHI.SHP", "c.txt", "A  B.TXT", "\xC3\x89T\xC3\x89",
-                         "..a",   "COM0",          "COM10", "CONX",     "LPT",
-                         "LPTX",  "XCON",          "a .b"};
+  std::vector<std::pair<std::string, std::string>> names = {
+      {"EMPTY", "EMPTY"},
+      {" c.txt ", "c.txt"},
+      {std::string("\0A\0 B.TXT\0\0", 10), "A  B.TXT"},
+      {"\xC9T\xC9", "\xC3\x89T\xC3\x89"}};
+  for (const char* same :
+       {"ABCDEFGHI.SHP", "..a", "COM0", "COM10", "CONX", "LPT", "LPTX", "XCON", "a .b"}) {
+    names.emplace_back(same, same);
+  }
   std::vector<entry> entries;
   file_map expected;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    entries.push_back({names[i], some_bytes(3001 * i)});
-    expected[written[i]] = entries[i].bytes;
+  for (const auto& [name, written] : names) {
+    entries.push_back({name, some_bytes(3001 * entries.size())});
+    expected[written] = entries.back().bytes;
   }
   open_archive(entries);
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), expected);
-  EXPECT_EQ(new_messages(),
-            texts{success + "D:\\\nThese files are hidden on this system:\n>..a<: its "
-                            "name begins with a dot"});
+  EXPECT_EQ(new_messages(), texts{"All" + extracted +
+                                  "D:\\\nThese files are hidden on this system:\n>..a<: its "
+                                  "name begins with a dot"});
 }
 
 // An entry overwrites a file from its first byte on and does not truncate it.
@@ -52,7 +50,7 @@ TEST_F(extraction_test, ReadsEntriesInSequenceWhateverTheirOffsets) {
   open_bytes(index_bytes(4, {{72, "A"}, {82, "B"}, {76, "C"}, {81, ""}}) + "0123456789abcdefghij");
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), (file_map{{"A", "0123456789"}, {"C", "abcde"}}));
-  EXPECT_EQ(new_messages(), texts{partial_success("2 of 3") + "D:\\" + skipped +
+  EXPECT_EQ(new_messages(), texts{"2 of 3" + extracted + "D:\\" + skipped +
                                   "\n>B<: the index gives it a size below 0"});
 }
 
@@ -121,7 +119,7 @@ TEST_F(extraction_test, SkipsEntriesThatMustNotOrCannotBeWritten) {
   };
   make_folder("D:\\in\\DIR");
   std::vector<entry> entries;
-  std::string message = partial_success("1 of 28") + "D:\\in\\" + skipped;
+  std::string message = "1 of 28" + extracted + "D:\\in\\" + skipped;
   for (const auto& [reason, names] : refused) {
     for (std::string name : names) {
       entries.push_back({name, some_bytes(1000 + entries.size())});
@@ -146,7 +144,7 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
   const std::string bytes = archive_bytes(entries);
   EXPECT_EQ(files_in("C:\\"),
             (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
-  EXPECT_EQ(new_messages(), texts{partial_success("2 of 4") + "C:\\" + skipped +
+  EXPECT_EQ(new_messages(), texts{"2 of 4" + extracted + "C:\\" + skipped +
                                   "\n>OSTRANE.DAT<: it would be written over the open archive"
                                   "\n>LINKED<: it would be written over the open archive"});
 }

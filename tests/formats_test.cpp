@@ -1,6 +1,3 @@
-#include <fstream>
-#include <sstream>
-
 #include "tool_fixture.h"
 
 namespace ostrane {

@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include "failing_calls.h"
 #include "files/system_calls.h"
 #include "icon_fixture.h"
@@ -114,20 +112,17 @@ TEST_F(index_test, ReadsThePaletteOfTheArchive) {
   const std::string cut = archive_bytes({{"GAME.PAL", std::string(4 * 2 + 3, '\x7F')}});
   const std::string own = archive_bytes({{"GAME.PAL", palette}});
   const std::string none = archive_bytes({{"A.TXT", std::string(1024, '\5')}});
-  const struct {
-    std::string before, archive;  // opened in turn
-    std::size_t index;
-    forms_layer::colour colour;
-  } cases[] = {
+  // Two archives that are opened in turn, an index and its colour.
+  const std::tuple<std::string, std::string, std::size_t, forms_layer::colour> cases[] = {
       {own, twice, 7, 0x020202U},        {own, twice, 9, 0x102030U}, {"", at(-5), 1, 0xF0F0F0U},
       {"", at(INT32_MAX), 1, 0xF0F0F0U}, {"", cut, 1, 0x7F7F7FU},    {"", cut, 2, 0xE0E0E0U},
       {own, none, 0, 0x050505U},
   };
-  for (const auto& c : cases) {
+  for (const auto& [before, archive, index, colour] : cases) {
     restart();
-    if (!c.before.empty()) open_bytes(c.before);
-    open_bytes(c.archive);
-    EXPECT_EQ(tool_state.colour_table[c.index], c.colour) << &c - cases;
+    if (!before.empty()) open_bytes(before);
+    open_bytes(archive);
+    EXPECT_EQ(tool_state.colour_table[index], colour) << index;
     EXPECT_EQ(new_messages(), texts{});
   }
 }

@@ -12,22 +12,20 @@ struct motion_test : icon_test {
     return text;
   }
 
-  struct step {
-    const char* actions;  // one letter each
-    std::string state;
-  };
+  // Actions of one letter each, and the state after them.
+  using step = std::pair<const char*, std::string>;
   static void run_steps(std::initializer_list<step> steps) {
     std::string done;
-    for (const step& s : steps) {
-      for (const char* action = s.actions; *action != '\0'; ++action) {
+    for (const auto& [actions, expected] : steps) {
+      for (const char* action = actions; *action != '\0'; ++action) {
         if (*action == 'm') user::click(Form1.Command5);
         if (*action == 't') user::tick(Form1.Timer1);
         if (*action == '<') user::click(Form1.Command3);
         if (*action == '>') user::click(Form1.Command4);
         if (*action == 'n') user::click(Form1.Command6);
       }
-      done += s.actions;
-      EXPECT_EQ(state(), s.state) << done;
+      done += actions;
+      EXPECT_EQ(state(), expected) << done;
     }
   }
 };

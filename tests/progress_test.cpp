@@ -47,12 +47,11 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
   };
   recording_screen screen;
   const auto bars = [&screen] {
-    const float ends[] = {Form3.ProgressBar2.Max(), Form3.ProgressBar1.Max()};
-    std::string all = std::to_string(std::lround(ends[0])) + " ";
-    all += std::to_string(std::lround(ends[1])) + screen.moves;
+    std::ostringstream all;
+    all << Form3.ProgressBar2.Max() << ' ' << Form3.ProgressBar1.Max() << screen.moves;
     EXPECT_TRUE(Form3.ProgressBar1.filled() >= 0 && Form3.ProgressBar2.filled() <= 1);
     screen.reset_bars();
-    return all;
+    return all.str();
   };
   for (const auto& [files, size, built, extracted] : cases) {
     file_map sources;

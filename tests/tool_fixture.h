@@ -2,16 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
-#include "data/archive_bytes.h"
-#include "files/drives.h"
 #include "files/little_endian.h"
 #include "tool_on_drives.h"
 
 namespace ostrane {
 
 inline void open_archive(const std::vector<entry>& entries) { open_bytes(archive_bytes(entries)); }
+
+inline void open_names(const texts& names) {
+  std::vector<entry> entries;
+  for (const std::string& name : names) entries.push_back({name, ""});
+  open_archive(entries);
+}
 
 // `bytes` with a 32-bit number written at `at`.
 inline std::string with_number(std::string bytes, std::size_t at, std::int32_t number) {

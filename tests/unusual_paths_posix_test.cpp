@@ -2,7 +2,6 @@
 #include <sys/stat.h>
 
 #include <cstring>
-#include <fstream>
 
 #include "archive/builder.h"
 #include "child_process.h"
@@ -13,20 +12,29 @@ namespace ostrane {
 // Links, pipes, devices, folders in place of files, missing permissions, and names that are hard to
 // store.
 struct unusual_paths_test : tool_test {
-  // The messages of each command that reads or writes, run after `break_disk` with an archive of
-  // one entry open.
-  static texts messages_of_each_command(const std::function<void()>& break_disk,
-                                        const std::function<void()>& restore) {
-    const std::pair<std::function<void()>, std::function<void()>> commands[] = {
-        {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); }},
-        {[] {}, [] { click_row("A.TXT"); }},
-        {[] {}, [] { extract_into("D:\\x"); }},
-        {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); }},
-        {[] {}, [] { user::click(Form1.mnu_save); }},
-        {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); }},
+  using action = std::function<void()>;
+  // Runs each command that reads or writes after `break_disk`, with an archive of one entry open.
+  // None can open a file, for `reason`. Opening and extracting may have messages of their own.
+  static void expect_reports(
+      const std::string& reason, const action& break_disk, const action& restore = [] {},
+      const std::string& opening = "", const std::string& extracting = "") {
+    const std::string cannot = " cannot be opened: " + reason + ".";
+    const std::string archive = "D:\\x\\ostrane.dat" + cannot;
+    const auto nothing = [] {};
+    const std::tuple<action, action, std::string> commands[] = {
+        {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); },
+         opening.empty() ? archive : opening},
+        {nothing, [] { click_row("A.TXT"); }, archive},
+        {nothing, [] { extract_into("D:\\x"); },
+         extracting.empty() ? archive + " Nothing was extracted." : extracting},
+        {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); },
+         "D:\\x\\list.txt cannot be read: " + reason + ". No new archive was made."},
+        {nothing, [] { user::click(Form1.mnu_save); },
+         "The list of files was not saved. shplist.txt" + cannot},
+        {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); },
+         "D:\\x\\list.txt" + cannot + " Nothing was compared."},
     };
-    texts all;
-    for (const auto& [open_dialog, command] : commands) {
+    for (const auto& [open_dialog, command, message] : commands) {
       fs::remove_all(disk_path("D:\\x"));
       write("D:\\x\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
       write("D:\\x\\list.txt", "A\r\n");
@@ -35,28 +43,9 @@ struct unusual_paths_test : tool_test {
       open_dialog();
       break_disk();
       command();
-      const texts messages = new_messages();
-      all.push_back(messages.size() == 1 ? messages[0] : testing::PrintToString(messages));
+      EXPECT_EQ(new_messages(), texts{message});
       restore();
     }
-    return all;
-  }
-  // Replaces each file by what `make` makes.
-  static void replace_all(const std::function<void(const fs::path&)>& make) {
-    for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
-      fs::remove(disk_path("D:\\x") / name);
-      make(disk_path("D:\\x") / name);
-    }
-  }
-  // The messages if nothing can be opened for `reason`.
-  static texts expected(const std::string& reason) {
-    const std::string cannot = " cannot be opened: " + reason + ".";
-    return {"D:\\x\\ostrane.dat" + cannot,
-            "D:\\x\\ostrane.dat" + cannot,
-            "D:\\x\\ostrane.dat" + cannot + " Nothing was extracted.",
-            "D:\\x\\list.txt cannot be read: " + reason + ". No new archive was made.",
-            "The list of files was not saved. shplist.txt" + cannot,
-            "D:\\x\\list.txt" + cannot + " Nothing was compared."};
   }
 };
 
@@ -66,35 +55,33 @@ TEST_F(unusual_paths_test, EveryCommandReportsUnusableFiles) {
   const fs::path drive = root / "d";
   const fs::path away = root / "away";
   const std::string missing = "D:\\x\\ostrane.dat is not found";
-  const std::string no_folder =
-      "The folder D:\\x\\ is not there. Make it or choose another. Nothing was extracted.";
-  const auto nothing = [] {};
-  const auto forbid = [&] { fs::permissions(drive / "x", fs::perms::none); };
-  const auto allow = [&] { fs::permissions(drive / "x", fs::perms::all); };
-  const auto make_folder = [](const fs::path& p) { fs::create_directory(p); };
-  const auto make_pipe = [](const fs::path& p) { mkfifo(p.c_str(), 0600); };
-  const auto link_device = [](const fs::path& p) { fs::create_symlink("/dev/zero", p); };
-  const struct {
-    const char* reason;
-    std::string opening, extracting;  // their messages if they differ
-    std::function<void()> break_disk, restore;
-  } cases[] = {
-      {"it is not there", missing, no_folder, [&] { fs::rename(drive, away); },
-       [&] { fs::rename(away, drive); }},
-      {"access is not allowed", missing, "", forbid, allow},
-      {"it is a folder", missing, "", [&] { replace_all(make_folder); }, nothing},
-      {"access is not allowed", "", "", [&] { replace_all(make_pipe); }, nothing},
-      {"access is not allowed", "", "", [&] { replace_all(link_device); }, nothing},
-  };
   run_in_process([&] {
     alarm(30);
     for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
     drop_root();
-    for (const auto& c : cases) {
-      texts messages = expected(c.reason);
-      if (!c.opening.empty()) messages[0] = c.opening;
-      if (!c.extracting.empty()) messages[2] = c.extracting;
-      EXPECT_EQ(messages_of_each_command(c.break_disk, c.restore), messages);
+    expect_reports(
+        "it is not there", [&] { fs::rename(drive, away); }, [&] { fs::rename(away, drive); },
+        missing,
+        "The folder D:\\x\\ is not there. Make it or choose another. Nothing was extracted.");
+    expect_reports(
+        "access is not allowed", [&] { fs::permissions(drive / "x", fs::perms::none); },
+        [&] { fs::permissions(drive / "x", fs::perms::all); }, missing);
+    const std::tuple<std::string, std::string, std::function<void(const fs::path&)>> cases[] = {
+        {"it is a folder", missing, [](const auto& path) { fs::create_directory(path); }},
+        {"access is not allowed", "", [](const auto& path) { mkfifo(path.c_str(), 0600); }},
+        {"access is not allowed", "",
+         [](const auto& path) { fs::create_symlink("/dev/zero", path); }},
+    };
+    for (int row = 0; const auto& [reason, opening, make] : cases) {
+      SCOPED_TRACE(row++);
+      const auto replace_all = [&make = make] {
+        for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
+          fs::remove(disk_path("D:\\x") / name);
+          make(disk_path("D:\\x") / name);
+        }
+      };
+      expect_reports(
+          reason, replace_all, [] {}, opening);
     }
   });
 }

@@ -14,8 +14,6 @@
 #include "forms_layer/user.h"
 #include "handlers/start_up.h"
 
-namespace {
-
 namespace user = forms_layer::user;
 
 TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) {
@@ -79,11 +77,7 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) 
 TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
   QWidget* canvas = canvas_of(show(form), form);
   paint_watch watch(canvas);
-  const struct {
-    const char* what;
-    std::function<void()> write;
-    QRegion painted;
-  } cases[] = {
+  const std::tuple<const char*, std::function<void()>, QRegion> cases[] = {
       {"shown", [&] { picture().Visible = true; }, QRect(16, 56, 5, 6)},
       {"one pixel", [&] { picture().PSet(1, 2, 5); }, QRect(18, 59, 1, 1)},
       {"cleared", [&] { picture().Cls(); }, QRect(17, 57, 3, 4)},
@@ -92,14 +86,13 @@ TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
       {"hidden", [&] { picture().Visible = false; }, QRect(100, 56, 5, 6)},
       {"drawn on while hidden", [&] { picture().PSet(1, 1, 5); }, QRegion()},
   };
-  for (const auto& c : cases) {
+  for (const auto& [what, handler, painted] : cases) {
     watch.painted = {};
-    write(c.write);
-    EXPECT_EQ(watch.painted, c.painted) << c.what;
+    write(handler);
+    EXPECT_EQ(watch.painted, painted) << what;
   }
 }
 
-// What the user does meanwhile runs after the handler.
 TEST_F(Desktop, ATextOfManyLinesIsInFewBlocksAndScrollsByLine) {
   std::string text;
   for (int line = 0; line < 50000; ++line) text += std::to_string(line) + "\r\n";
@@ -124,6 +117,7 @@ TEST_F(Desktop, ALackOfMemoryDropsOnlyTheEvent) {
   EXPECT_FALSE(QApplication::sendEvent(&receiver, &event));
 }
 
+// What the user does meanwhile runs after the handler.
 TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
   using ostrane::Form3;
   ostrane::reset_forms();
@@ -219,17 +213,16 @@ TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
 
 // With OSTRANE_RENEW_PICTURES set the pictures are written and not compared. Other versions of Qt
 // and its font renderer may differ in a few pixels.
-void expect_picture(QWidget& window, const QString& name) {
+static void expect_picture(QWidget& window, const QString& name) {
   const QString path = QStringLiteral(PICTURES_FOLDER) + name;
   const QImage seen = picture_of(window);
   if (qEnvironmentVariableIsSet("OSTRANE_RENEW_PICTURES")) seen.save(path);
   const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
   ASSERT_EQ(seen.size(), kept.size()) << path.toStdString();
   int different = 0;
-  for (int y = 0; y < seen.height(); ++y) {
-    for (int x = 0; x < seen.width(); ++x) {
-      if (std::abs(qGray(seen.pixel(x, y)) - qGray(kept.pixel(x, y))) > 40) ++different;
-    }
+  for (int i = 0; i < seen.width() * seen.height(); ++i) {
+    const QPoint at(i % seen.width(), i / seen.width());
+    if (std::abs(qGray(seen.pixel(at)) - qGray(kept.pixel(at))) > 40) ++different;
   }
   EXPECT_LE(different, 20) << path.toStdString();
   if (different > 20) seen.save(QStringLiteral("different_") + name);
@@ -256,5 +249,3 @@ TEST_F(Desktop, TheToolsWindowsLookAsTheyDid) {
   });
   expect_picture(*screen.window_of(Form3), "form3.png");
 }
-
-}  // namespace

@@ -10,14 +10,12 @@
 #include "desktop/designed_look.h"
 #include "desktop_fixture.h"
 
-namespace {
-
-void press(QWidget* widget, const QPoint& at = {}) {
+static void press(QWidget* widget, const QPoint& at = {}) {
   QTest::mouseClick(widget, Qt::LeftButton, {}, at);
 }
 
 // The second press of a double click.
-void press_again(QWidget* widget, const QPoint& at = {}) {
+static void press_again(QWidget* widget, const QPoint& at = {}) {
   QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
 }
 
@@ -73,11 +71,7 @@ TEST_F(Input, ReachesTheTool) {
     window.close();
     form.Enabled = true;
   };
-  const struct {
-    const char* what;
-    std::function<void()> act;
-    std::string log;
-  } cases[] = {
+  const std::tuple<const char*, std::function<void()>, std::string> cases[] = {
       {"press", [&] { press_row(list, 1); }, "click1 "},
       {"press on the selected row", [&] { press_row(list, 1); }, "click1 "},
       {"second press, on another row", [&] { press_row(list, 0, true); }, "double1 "},
@@ -111,12 +105,12 @@ TEST_F(Input, ReachesTheTool) {
       {"close", [&] { window.close(); }, "close "},
       {"disabled", disabled, ""},
   };
-  for (const auto& c : cases) {
+  for (const auto& [what, act, logged] : cases) {
     log.clear();
-    c.act();
+    act();
     QCoreApplication::processEvents();
-    EXPECT_EQ(log, c.log) << c.what;
-    EXPECT_EQ(list->selectionModel()->hasSelection(), form.list.ListIndex() >= 0) << c.what;
+    EXPECT_EQ(log, logged) << what;
+    EXPECT_EQ(list->selectionModel()->hasSelection(), form.list.ListIndex() >= 0) << what;
   }
   EXPECT_TRUE(button->isEnabled()) << "a disabled form looks as ever";
   EXPECT_EQ(form.field.Text(), "12");
@@ -220,5 +214,3 @@ TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
   last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(opened, 1);
 }
-
-}  // namespace
