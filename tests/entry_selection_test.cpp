@@ -13,13 +13,10 @@ using entry_selection_test = tool_test;
 
 // The name, what a click and a double click show, and the number of messages about an unknown kind.
 TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
-  open_archive({{" A.ShP ", dots(2)},
-                {"b.shp", dots(3)},
-                palette_entry(),
-                {"N.TXT", "note"},
-                {" 000DATUP.000", "data"},
-                {"000datup.000", "data"},
-                {"SHP", "no dot"}});
+  const std::vector<entry> entries = {
+      {" A.ShP ", dots(2)},      {"b.shp", dots(3)},       palette_entry(),  {"N.TXT", "note"},
+      {" 000DATUP.000", "data"}, {"000datup.000", "data"}, {"SHP", "no dot"}};
+  open_archive(entries);
   const std::tuple<const char*, const char*, std::size_t> cases[] = {
       {" A.ShP ", "2 1 -  2", 0}, {"N.TXT", "2note", 1},
       {"b.shp", "3 1 -  3", 0},   {" 000DATUP.000", "3data", 1},
