@@ -6,14 +6,8 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 struct crash_test : small_build_test {
-  file_map sources_and(const std::string& name, const std::string& bytes) const {
-    file_map both = sources;
-    both[name] = bytes;
-    return both;
-  }
   // Returns whether the build was killed. A partial archive under a hidden name may remain until
   // the next build.
   bool is_killed_and_leaves_a_complete_archive(const std::function<void()>& build,
@@ -76,5 +70,4 @@ TEST_F(crash_test, ABuildFlushesTheArchiveThenItsFolder) {
   EXPECT_EQ(flushes, (texts{"flush_to_disk", "replace", "replace", "flush_folder"}));
 }
 
-}  // namespace
 }  // namespace ostrane

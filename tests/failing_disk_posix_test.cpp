@@ -12,7 +12,6 @@
 #include "icon_fixture.h"
 
 namespace ostrane {
-namespace {
 
 struct file_job {
   std::function<void()> open_dialog;
@@ -243,5 +242,4 @@ TEST_F(failing_disk_test, ARealFullDiskAndASizeLimitLeaveNoPartialFile) {
   }
 }
 
-}  // namespace
 }  // namespace ostrane

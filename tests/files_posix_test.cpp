@@ -15,7 +15,6 @@
 
 // Case-sensitive names, links and pipes.
 namespace ostrane {
-namespace {
 
 using files_posix_test = tool_test;
 
@@ -63,5 +62,4 @@ TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {
   EXPECT_EQ(files::system_path("Z:\\tmp"), "/tmp");
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -13,7 +13,6 @@
 #include "tool_fixture.h"
 
 namespace ostrane {
-namespace {
 
 using lists_test = tool_test;
 
@@ -155,5 +154,4 @@ TEST_F(lists_test, UsesFoldersOutsideTheCodePage) {
   });
 }
 
-}  // namespace
 }  // namespace ostrane

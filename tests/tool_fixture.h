@@ -75,11 +75,14 @@ struct small_build_test : tool_test {
   const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
   const std::string archive =
       archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
+  file_map sources_and(const std::string& name, const std::string& bytes) const {
+    file_map both = sources;
+    both[name] = bytes;
+    return both;
+  }
   // Restarts the tool with the files and an old archive in C:\work.
   void restart_beside(const std::string& old_archive) const {
-    file_map all = sources;
-    all[old_archive] = "the old one";
-    restart_with(all);
+    restart_with(sources_and(old_archive, "the old one"));
   }
 };
 

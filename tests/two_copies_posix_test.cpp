@@ -11,7 +11,6 @@
 #include "recording_screen.h"
 
 namespace ostrane {
-namespace {
 
 enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
@@ -193,5 +192,4 @@ TEST_F(two_copies_test, AnArchiveOfAnotherProgramIsNotDeleted) {
   EXPECT_EQ(read("C:\\work\\ostrane.DAT"), "and another");
 }
 
-}  // namespace
 }  // namespace ostrane
