@@ -15,9 +15,7 @@ static std::string shown() {
   for (const auto* menu : {&Form1.mnu_ext, &Form1.mnu_save, &Form1.mnu_read_filelist}) {
     text += menu->Enabled() ? '+' : '-';
   }
-  for (std::int32_t row = 0; row < Form1.List1.ListCount(); ++row) {
-    text += " " + Form1.List1.List(row);
-  }
+  for (int row = 0; row < Form1.List1.ListCount(); ++row) text += " " + Form1.List1.List(row);
   return text;
 }
 

@@ -89,10 +89,9 @@ TEST_F(series_test, RefusesIcons) {
     show({{{head, ""}, plain_icon(1, 1, 9)}});
     return view();
   };
-  for (const icon_head& head : good) EXPECT_EQ(view_of(head), "2: 1 -  2: 1=. 2=9") << &head - good;
+  for (const auto& head : good) EXPECT_EQ(view_of(head), "2: 1 -  2: 1=. 2=9") << &head - good;
   EXPECT_EQ(new_messages(), texts{});
-  for (const icon_head& head : refused)
-    EXPECT_EQ(view_of(head), "2: 1 -  2: 2=9") << &head - refused;
+  for (const auto& head : refused) EXPECT_EQ(view_of(head), "2: 1 -  2: 2=9") << &head - refused;
   const texts messages = new_messages();
   EXPECT_EQ(messages.size(), std::size(refused));
   EXPECT_EQ(messages.back(),
@@ -104,22 +103,18 @@ TEST_F(series_test, RefusesIcons) {
 // The archive, the number in the message or "", and the view.
 TEST_F(series_test, AnIconOutsideTheFileEndsTheSeries) {
   const std::string three = shp_file(plain_icons(3, 1, 1));
-  const auto at = [](std::int32_t offset) {
-    return index_bytes(2, {{offset, " A.SHP"}, {38, ""}});
-  };
+  const auto at = [](int offset) { return index_bytes(2, {{offset, " A.SHP"}, {38, ""}}); };
   const auto holding = [](const std::string& icon_file) {
     return archive_bytes({palette_entry(), {" A.SHP", icon_file}});
   };
-  const auto second_at = [&](std::int32_t offset) {
-    return holding(with_number(three, 16, offset));
-  };
-  const auto count = [&](std::int32_t number) { return holding(with_number(three, 4, number)); };
+  const auto second_at = [&](int offset) { return holding(with_number(three, 16, offset)); };
+  const auto count = [&](int number) { return holding(with_number(three, 4, number)); };
   constexpr std::int32_t start = 4 + 3 * 17 + 1024;
   const std::string one_of_3 = "3: 1 -  1: 1=0";
   const std::tuple<std::string, std::string, std::string> cases[] = {
       {second_at(-start - 2), "-1", one_of_3},
       {second_at(-start - 1), " 0", one_of_3},
-      {second_at(static_cast<std::int32_t>(three.size()) - 23), " 1170", one_of_3},
+      {second_at(static_cast<int>(three.size()) - 23), " 1170", one_of_3},
       {second_at(INT_MAX), " 2147483647", one_of_3},
       {second_at(INT_MIN), "-2147482568", one_of_3},
       {count(0), "", "0: 1 -  0:"},

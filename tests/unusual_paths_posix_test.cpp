@@ -67,10 +67,9 @@ TEST_F(unusual_paths_test, EveryCommandReportsUnusableFiles) {
         "access is not allowed", [&] { fs::permissions(drive / "x", fs::perms::none); },
         [&] { fs::permissions(drive / "x", fs::perms::all); }, missing);
     const std::tuple<std::string, std::string, std::function<void(const fs::path&)>> cases[] = {
-        {"it is a folder", missing, [](const auto& path) { fs::create_directory(path); }},
-        {"access is not allowed", "", [](const auto& path) { mkfifo(path.c_str(), 0600); }},
-        {"access is not allowed", "",
-         [](const auto& path) { fs::create_symlink("/dev/zero", path); }},
+        {"it is a folder", missing, [](const auto& p) { fs::create_directory(p); }},
+        {"access is not allowed", "", [](const auto& p) { mkfifo(p.c_str(), 0600); }},
+        {"access is not allowed", "", [](const auto& p) { fs::create_symlink("/dev/zero", p); }},
     };
     for (int row = 0; const auto& [reason, opening, make] : cases) {
       SCOPED_TRACE(row++);
@@ -120,8 +119,7 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
   std::vector<entry> files = {{".HID.TXT", "h"}, {"\xCE\xA9.TXT", "o"}, {"a\\b", "s"}, {"ok", ""}};
   // What the tool writes beside a list meanwhile is not reported.
   files.insert(files.end(), {{".SHPLIST.TXT.lock", ""}, {".SHPLIST.TXT.1f.new", "A"}});
-  const std::string skipped =
-      "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
+  const std::string first = "These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden";
   const std::string others =
       "\n>?.TXT<: its name has characters that the code page lacks"
       "\n>a\\b<: its name holds a separator of paths\n>late<: it came after the files were listed";
@@ -136,7 +134,7 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
     user::click(Form5.Command1);
     const texts messages = new_messages();
     ASSERT_EQ(messages.size(), 2U);
-    EXPECT_TRUE(hidden == 1 ? messages[0] == skipped + others
+    EXPECT_TRUE(hidden == 1 ? messages[0] == first + others
                             : messages[0].ends_with(">.i119<: it is hidden\nand 8 more."))
         << messages[0];
     EXPECT_EQ(messages[1],
@@ -147,9 +145,7 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
 
 TEST_F(unusual_paths_test, RefusesTooManyFiles) {
   make_folder("C:\\work");
-  const auto name = [&](std::size_t i) {
-    return disk_path("C:\\work") / ("f" + std::to_string(i));
-  };
+  const auto name = [](std::size_t i) { return disk_path("C:\\work") / ("f" + std::to_string(i)); };
   for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
   for (std::size_t count = 40000; const std::size_t left : {count, max_files + 1, max_files}) {
     while (count > left) fs::remove(name(--count));

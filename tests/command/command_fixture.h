@@ -21,10 +21,15 @@ struct command_test : testing::Test {
     fs::remove_all(folder);
   }
 
-  static outcome run(const texts& arguments) {
+  // The arguments have no blanks in them.
+  static texts arguments_of(const std::string& command_line) {
+    std::istringstream words(command_line);
+    return {std::istream_iterator<std::string>(words), {}};
+  }
+  static outcome run(const std::string& command_line) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    const int status = command::run(arguments);
+    const int status = command::run(arguments_of(command_line));
     std::string output = testing::internal::GetCapturedStdout();
     return {status, std::move(output), testing::internal::GetCapturedStderr()};
   }

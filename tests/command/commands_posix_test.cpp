@@ -13,7 +13,7 @@ using commands_posix_test = command_test;
 TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
   write_bytes("in/A.TXT", "a");
   ASSERT_EQ(mkfifo("pipe", 0600), 0);
-  EXPECT_EQ(run({"build", "in", "-o", "pipe"}).errors,
+  EXPECT_EQ(run("build in -o pipe").errors,
             "ostrane-dat: pipe: cannot be written: access is not allowed.\n");
   EXPECT_TRUE(fs::is_fifo("pipe"));
 }
@@ -26,10 +26,9 @@ TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNothingBehind) {
   run_in_process([&] {
     command::catch_signals();
     std::raise(SIGTERM);
-    for (const texts& job :
-         {texts{"add", "a.dat", "b.txt"}, {"extract", "a.dat"}, {"list", "a.dat"}}) {
-      EXPECT_THROW(command::run(job), command::interruption) << job[0];
-      EXPECT_EQ(files_at("."), before) << job[0];
+    for (const char* job : {"add a.dat b.txt", "extract a.dat", "list a.dat"}) {
+      EXPECT_THROW(command::run(arguments_of(job)), command::interruption) << job;
+      EXPECT_EQ(files_at("."), before) << job;
     }
   });
 }

@@ -61,15 +61,13 @@ TEST_F(pictures_test, AnExportedIconFileComesBackWithoutLossAndNoLonger) {
     write_bytes("old.shp", file);
     fs::remove_all("out");
     fs::create_directory("out");
-    run({"export", "a.dat", "F.SHP", "-d", "out"});
-    EXPECT_EQ(run({"import", "out", "-o", "new.shp", "--palette", "a.dat"}).errors, "");
+    run("export a.dat F.SHP -d out");
+    EXPECT_EQ(run("import out -o new.shp --palette a.dat").errors, "");
     const texts old_icons = icons_of("old.shp");
     ASSERT_EQ(icons_of("new.shp"), old_icons);
     EXPECT_EQ(bytes_of("new.shp").substr(0, 8), file.substr(0, 8));
     EXPECT_LT(fs::file_size("new.shp"), fs::file_size("old.shp"));
-    EXPECT_EQ(
-        run({"import", "out", "-o", "like.shp", "--palette", "a.dat", "--like", "old.shp"}).status,
-        0);
+    EXPECT_EQ(run("import out -o like.shp --palette a.dat --like old.shp").status, 0);
     EXPECT_EQ(bytes_of("like.shp"), bytes_of("new.shp"));
   }
 }
@@ -96,7 +94,7 @@ TEST_F(pictures_test, OtherColoursGoToTheNearestAndAreCounted) {
   write_bytes("p.png",
               png_with(PNG_FORMAT_RGBA,
                        {0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200, 9, 9, 9, 100}, 4, 1));
-  const outcome seen = run({"import", "p.png", "-o", "p.shp", "--palette", "GAME.PAL"});
+  const outcome seen = run("import p.png -o p.shp --palette GAME.PAL");
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(
       seen.errors,
@@ -121,14 +119,13 @@ TEST_F(pictures_test, BadSourcesAreToldAndNothingIsWritten) {
   write_bytes("far.json", json("p.png", "-2147483648"));
   write_bytes("p.png", png_with(PNG_FORMAT_GRAY, {1, 2}, 2, 1));
   write_bytes("deep.json", std::string(100000, '['));
-  for (const char* source :
-       {"cut.png", "huge.png", "in/up.json", "far.json", "deep.json", "none.png"}) {
-    const outcome seen = run({"import", source, "-o", "new.shp", "--palette", "GAME.PAL"});
-    EXPECT_EQ(seen.status, 2) << source;
-    EXPECT_NE(seen.errors.find("ostrane-dat: "), std::string::npos) << source;
-    EXPECT_FALSE(fs::exists("new.shp")) << source;
+  for (const char* bad : {"cut.png", "huge.png", "in/up.json", "far.json", "deep.json", "no.png"}) {
+    const outcome seen = run("import " + std::string(bad) + " -o new.shp --palette GAME.PAL");
+    EXPECT_EQ(seen.status, 2) << bad;
+    EXPECT_NE(seen.errors.find("ostrane-dat: "), std::string::npos) << bad;
+    EXPECT_FALSE(fs::exists("new.shp")) << bad;
   }
-  EXPECT_EQ(run({"import", "good.json", "-o", "new.shp", "--palette", "GAME.PAL"}).status, 1);
+  EXPECT_EQ(run("import good.json -o new.shp --palette GAME.PAL").status, 1);
 }
 
 TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {
@@ -138,10 +135,10 @@ TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {
                                       {"GAME.PAL", palette()},
                                       {"N.TXT", std::string("\x80\0", 2)},
                                       {"W.WAV", ""}}));
-  EXPECT_EQ(run({"export", "a.dat", "*.*"}).errors,
+  EXPECT_EQ(run("export a.dat *.*").errors,
             "ostrane-dat: W.WAV: left out: it is no icon file, palette or text\n");
-  EXPECT_EQ(run({"export", "a.dat", "f.shp", "--as", "sheet", "--scale", "2"}).status, 0);
-  EXPECT_EQ(run({"export", "a.dat", "f.shp", "--as", "gif", "--pace", "7"}).status, 0);
+  EXPECT_EQ(run("export a.dat f.shp --as sheet --scale 2").status, 0);
+  EXPECT_EQ(run("export a.dat f.shp --as gif --pace 7").status, 0);
   EXPECT_EQ(bytes_of("N.txt"), "\xE2\x82\xAC ");
   EXPECT_NE(
       bytes_of("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
