@@ -47,9 +47,7 @@ inline bool one_in(fields& from, std::uint8_t cases) {
 
 // Overwrites 4 bytes if they are inside.
 inline void put(std::string& bytes, std::size_t at, std::int32_t value) {
-  if (at + 4 <= bytes.size()) {
-    files::put_int32(std::as_writable_bytes(std::span(bytes)), at, value);
-  }
+  if (at + 4 <= bytes.size()) files::put_int32(std::as_writable_bytes(std::span(bytes)), at, value);
 }
 
 inline std::string stream(fields& from) {

@@ -18,9 +18,7 @@ constexpr std::int64_t max_cells = 1 << 20;  // larger pictures only cost time
 
 bool same_cells(const picture& a, const picture& b) {
   bool same = a.columns() == b.columns() && a.rows() == b.rows();
-  for (int row = 0; same && row < a.rows(); ++row) {
-    same = std::ranges::equal(a.row(row), b.row(row));
-  }
+  for (int y = 0; same && y < a.rows(); ++y) same = std::ranges::equal(a.row(y), b.row(y));
   return same;
 }
 

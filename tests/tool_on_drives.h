@@ -47,12 +47,11 @@ inline void make_folder(const std::string& path) { fs::create_directories(disk_p
 inline file_map files_in(const std::string& folder) { return files_at(disk_path(folder)); }
 // The sorted names in a folder, hidden ones too.
 inline texts names_in(const std::string& folder) {
-  texts names;
-  for (const auto& found : fs::directory_iterator(disk_path(folder))) {
-    names.push_back(utf8_name(found));
-  }
-  std::sort(names.begin(), names.end());
-  return names;
+  texts all;
+  for (const auto& found : fs::directory_iterator(disk_path(folder)))
+    all.push_back(utf8_name(found));
+  std::sort(all.begin(), all.end());
+  return all;
 }
 
 // Commands, through the dialogs.
