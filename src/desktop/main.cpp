@@ -9,6 +9,7 @@
 #include "desktop/qt_screen.h"
 #include "files/paths.h"
 #include "handlers/start_up.h"
+#include "pictures/icon_exporter.h"
 
 namespace {
 
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::start_tool(desktop::program_folder());
+  ostrane::start_tool(desktop::program_folder(), ostrane::make_icon_exporter());
   const int outcome = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return outcome;

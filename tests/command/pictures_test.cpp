@@ -149,7 +149,7 @@ TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {
   EXPECT_EQ(read("N.txt"), "\xE2\x82\xAC ");
   EXPECT_NE(read("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
             std::string::npos);
-  EXPECT_NE(read("F-sheet.json").find("\"w\": 12,\n   \"h\": 4"), std::string::npos);
+  EXPECT_NE(read("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
   EXPECT_NE(read("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
             std::string::npos);
 }
