@@ -21,16 +21,21 @@ QString name_filter(const file_kind& kind) {
   return to_screen(kind.label) + QStringLiteral(" (*") + to_screen(kind.ending) + QLatin1Char(')');
 }
 
-// The name with the ending of a kind in place of that of another one.
-QString with_ending(QString name, const std::vector<file_kind>& kinds, const file_kind& wanted) {
+// The ending without the file name extension: "-sheet" of "-sheet.png".
+QString before_extension(const QString& text) { return text.left(text.lastIndexOf('.')); }
+
+// The name with the ending of a kind in place of that of another one, of which Qt may have changed
+// the extension already.
+QString with_ending(const QString& name, const std::vector<file_kind>& kinds,
+                    const file_kind& wanted) {
+  QString stem = before_extension(name);
   for (const file_kind& kind : kinds) {
-    const QString ending = to_screen(kind.ending);
-    if (!name.endsWith(ending, Qt::CaseInsensitive)) continue;
-    return name.chopped(ending.size()) + to_screen(wanted.ending);
+    const QString ending = before_extension(to_screen(kind.ending));
+    if (!stem.endsWith(ending) || ending.isEmpty()) continue;
+    stem.chop(ending.size());
+    break;
   }
-  const QString suffix = QFileInfo(name).suffix();
-  if (!suffix.isEmpty()) name.chop(suffix.size() + 1);
-  return name + to_screen(wanted.ending);
+  return stem + to_screen(wanted.ending);
 }
 
 void select_kind(QFileDialog& dialog, const file_kind& kind) {
