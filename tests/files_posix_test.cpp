@@ -1,7 +1,15 @@
 #include <sys/stat.h>
 
+#include <cerrno>
+
+#include "failing_calls.h"
+#include "files/code_page.h"
+#include "files/file_error.h"
 #include "files/file_system.h"
+#include "files/hidden_name.h"
 #include "files/paths.h"
+#include "files/replaced_file.h"
+#include "files/system_name.h"
 #include "files/text_file.h"
 #include "tool_fixture.h"
 
@@ -33,6 +41,18 @@ TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
   fs::create_symlink("a.txt", disk_path("D:\\link"));
   EXPECT_EQ(files::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
   EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
+}
+
+// Hidden names are cut between characters, as some file systems refuse other bytes. A file is not
+// replaced in a folder that cannot be listed, which may hold it under a name in another case.
+TEST_F(files_posix_test, ReplacesFilesOfLongNamesAndOnlyInFoldersThatCanBeListed) {
+  const fs::path name = "a" + files::to_utf8(std::string(120, '\xE9'));
+  EXPECT_TRUE(files::name_as_text(files::lock_beside(name).native()));
+  const failing_calls none(INT32_MAX);
+  files::system_calls.list = [](const fs::path&, std::vector<files::listed_entry>&) {
+    return -EACCES;
+  };
+  EXPECT_THROW(files::replaced_file({disk_path("D:\\x.txt"), ""}), files::file_error);
 }
 
 TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {

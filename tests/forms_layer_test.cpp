@@ -34,6 +34,9 @@ TEST_F(forms_layer_test, HandlersRunOneAtATime) {
   EXPECT_EQ(order, "(wait)t6gone6gone");
   user::click(Form1.Command6);
   EXPECT_EQ(order, "(wait)t6gone6gone6gone");
+  // There is no memory for the message either.
+  forms_layer::on_message_box([](const std::string&) { throw std::bad_alloc(); });
+  EXPECT_NO_THROW(user::click(Form1.Command6));
 }
 
 TEST_F(forms_layer_test, DisabledAndHiddenControlsIgnoreInput) {

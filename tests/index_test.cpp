@@ -1,3 +1,7 @@
+#include <fstream>
+
+#include "failing_calls.h"
+#include "files/system_calls.h"
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -88,6 +92,18 @@ TEST_F(index_test, RefusesToReadAChangedArchive) {
   open_archive();
   click_row("N.TXT");
   EXPECT_EQ(Form1.Text6.Text(), "tone");
+}
+
+TEST_F(index_test, RefusesAnArchiveThatIsWrittenToMeanwhile) {
+  static const auto read_some = files::system_calls.read_some;
+  const failing_calls none(INT32_MAX);
+  files::system_calls.read_some = [](int file, std::byte* to, std::size_t count) {
+    std::ofstream(disk_path("C:\\ostrane.dat"), std::ios::app) << "x";
+    return read_some(file, to, count);
+  };
+  open_archive({{"A.TXT", "a"}});
+  EXPECT_EQ(new_messages(), texts{"C:\\ostrane.dat cannot be read as an archive: it was written to "
+                                  "meanwhile."});
 }
 
 TEST_F(index_test, TheNextSeriesNeedsTheSameArchive) {

@@ -1,9 +1,14 @@
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <fstream>
 
 #include "child_process.h"
+#include "failing_calls.h"
 #include "files/code_page.h"
+#include "files/paths.h"
+#include "files/system_calls.h"
+#include "files/text_file.h"
 #include "handlers/start_up.h"
 #include "tool_fixture.h"
 
@@ -27,12 +32,12 @@ TEST_F(lists_test, AReplacedListKeepsPermissionsLinksAndOtherSpellings) {
     };
     write(name, "old");
     std::ofstream(other) << "another";
-    chmod(list.c_str(), 0640);
     const bool owner_changed = chown(list.c_str(), 12345, 54321) == 0;  // only root can
+    chmod(list.c_str(), 04640);
     save();
     struct stat status = {};
     EXPECT_EQ(stat(list.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
     EXPECT_TRUE(!owner_changed || (status.st_uid == 12345 && status.st_gid == 54321));
     const std::string bytes = bytes_of(list);
     EXPECT_NE(bytes, "old");
@@ -45,6 +50,13 @@ TEST_F(lists_test, AReplacedListKeepsPermissionsLinksAndOtherSpellings) {
       save();
       EXPECT_TRUE(fs::is_symlink(list));
       EXPECT_EQ(files_in("D:\\far"), (file_map{{"list", bytes}}));
+      if (dangling) fs::remove(disk_path("D:\\far\\list"));
+      const failing_calls none(INT32_MAX);
+      files::system_calls.write_some = [](int, const std::byte*, std::size_t) {
+        return std::int64_t{-ENOSPC};
+      };
+      save();
+      EXPECT_EQ(files_in("D:\\far").size(), dangling ? 0U : 1U);
       fs::remove_all(disk_path("D:\\far"));
     }
     fs::remove(list);
@@ -76,6 +88,52 @@ TEST_F(lists_test, AListInAReadOnlyFolderIsOverwritten) {
     EXPECT_EQ(files_in("D:\\ro"), (file_map{{"shplist.txt", "A\r\n\r\n"}}));
   });
   fs::permissions(disk_path("D:\\ro"), fs::perms::all);
+}
+
+// As in a sticky folder and for a file that is a mount point.
+TEST_F(lists_test, AListThatCannotBeReplacedIsOverwritten) {
+  const failing_calls none(INT32_MAX);
+  files::system_calls.replace = [](const fs::path&, const fs::path&) { return -EBUSY; };
+  write("D:\\shplist.txt", std::string(1000, 'o'));
+  restart("D:\\");
+  open_archive({{"A", ""}});
+  user::click(Form1.mnu_save);
+  EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", "A\r\n\r\n"}}));
+}
+
+// A new file is its owner's alone until it has the permissions of the old one. A group that it
+// cannot have gets those of others. Every user can lock.
+TEST_F(lists_test, ANewFileIsNeverReadableForMoreUsersThanTheOld) {
+  const auto mode_of = [](const char* name) {
+    struct stat status = {};
+    EXPECT_EQ(stat(disk_path(name).c_str(), &status), 0) << name;
+    return status.st_mode & 07777U;
+  };
+  const auto mode_after = [&] {
+    write("D:\\old", "");
+    chmod(disk_path("D:\\old").c_str(), 0664);
+    if (geteuid() == 0 && chown(disk_path("D:\\old").c_str(), 65534, 12345) != 0) _exit(cannot_run);
+    fs::permissions(root / "d", fs::perms::all);
+    return [&](mode_t mask) {
+      umask(mask);
+      files::text_writer writer(files::to_file_path("D:\\old"));
+      EXPECT_EQ(mode_of("D:\\.OLD.lock"), 0666U);
+      writer.close();
+      return mode_of("D:\\old");
+    };
+  };
+  run_in_process([&] {
+    const auto replaced = mode_after();
+    const failing_calls none(INT32_MAX);
+    files::system_calls.copy_permissions = [](int, const fs::path&) { return -EPERM; };
+    EXPECT_EQ(replaced(022), 0600U);
+  });
+  run_in_process([&] {
+    fs::permissions(root, fs::perms::all);
+    const auto replaced = mode_after();
+    drop_root();
+    EXPECT_EQ(replaced(077), geteuid() == 0 ? 0664U : 0644U);
+  });
 }
 
 // The code page lacks Greek letters.

@@ -106,6 +106,15 @@ TEST_F(series_test, RefusesIcons) {
             "Something is rotten in the state of Denmark - fileformat has errors, icon "
             "is not displayed. \nNo-of-rows =  7\nRow-start = -4\nRow-end =  8\n"
             "No-of-cols =  6\nCol-start =  5\nCol-end =  3");
+  // The 20th message of a series is the last.
+  type_max_icons("30");
+  show({std::vector<shp_icon>(22, refused_icon(3, 4))});
+  const texts of_a_series = new_messages();
+  EXPECT_EQ(of_a_series.size(), 20U);
+  for (const std::string& message : of_a_series) {
+    EXPECT_EQ(message.ends_with("\nFurther icons of this series are refused without a message."),
+              &message == &of_a_series.back());
+  }
 }
 
 // The archive, the number in the message or "", and the view.

@@ -1,3 +1,5 @@
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <csignal>
@@ -5,6 +7,7 @@
 
 #include "child_process.h"
 #include "failing_calls.h"
+#include "files/system_calls.h"
 #include "recording_screen.h"
 
 namespace ostrane {
@@ -19,12 +22,14 @@ struct two_copies_test : small_build_test {
   two_copies_test() {
     if (const char* wanted = std::getenv("OSTRANE_PAIRS")) pairs = std::atoi(wanted);
   }
+  static constexpr int without_locks = INT32_MAX - 1;  // as on some network file systems
   static pid_t start_copy(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills}) {
     return start_process([&] {
       const failing_calls faults(at, with);
+      if (at == without_locks) files::system_calls.lock = [](int) { return -ENOLCK; };
       build_in();
       const std::string message = new_messages().back();
-      const bool other_copy = message.find("another copy of the tool") != std::string::npos;
+      const bool other_copy = message.find(": another ") != std::string::npos;
       ASSERT_TRUE(other_copy || message.starts_with("Your new Ostrane.dat")) << message;
       _exit(other_copy ? reported_other_copy : reported_success);
     });
@@ -56,14 +61,15 @@ struct two_copies_test : small_build_test {
   }
 };
 
-// In half of the pairs each copy may be killed at any call.
+// In half of the pairs each copy may be killed at any call, in a quarter nothing can be locked.
 TEST_F(two_copies_test, StartedTogetherLeaveACompleteArchive) {
   std::mt19937 random(std::random_device{}());
   for (int pair = 0; pair < 2 * pairs && !HasFailure(); ++pair) {
     restart_beside(pair % 3 == 0 ? "OSTRANE.DAT" : "Ostrane.dat");
     const auto start_one = [&] {
       const bool is_killed = pair % 2 == 0 && random() % 3 == 0;
-      return start_copy(is_killed ? static_cast<int>(random() % 70) : INT32_MAX);
+      const int never = pair % 4 == 1 ? without_locks : INT32_MAX;
+      return start_copy(is_killed ? static_cast<int>(random() % 70) : never);
     };
     const pid_t first = start_one();
     usleep(static_cast<useconds_t>(random() % 3000));
@@ -96,23 +102,24 @@ TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
     }
     return fs::path();
   };
+  fs::path swapped_in;
   const auto replace = [&](const auto& make) {
-    return [&temporary, make] {
-      const fs::path path = temporary();
-      fs::remove(path);
-      make(path);
+    return [&, make] {
+      swapped_in = temporary();
+      fs::remove(swapped_in);
+      make(swapped_in);
     };
   };
   const std::function<void()> faults[] = {
       [&] { fs::rename(temporary(), disk_path("C:\\elsewhere")); },
       [&] { fs::rename(work, disk_path("C:\\moved")); },
-      replace([](const fs::path&) {}),
       replace([](const fs::path& path) { mkfifo(path.c_str(), 0600); }),
       replace([](const fs::path& path) { std::ofstream{path}; }),
       replace([](const fs::path& path) { fs::create_directory(path); }),
   };
   for (const auto& inject : faults) {
     restart_beside("ostrane.dat");
+    swapped_in.clear();
     {
       recording_screen screen;
       screen.on_refresh = [&] {
@@ -126,11 +133,64 @@ TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
     }
     if (fs::exists(disk_path("C:\\moved"))) fs::rename(disk_path("C:\\moved"), work);
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one") << &inject - faults;
+    EXPECT_TRUE(swapped_in.empty() || fs::exists(swapped_in)) << &inject - faults;
     for (const auto& found : fs::directory_iterator(work)) {
       if (!found.is_regular_file()) fs::remove(found);
     }
   }
   check({});
+}
+
+TEST_F(two_copies_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
+  restart_beside("OSTRANE.DAT");
+  write("C:\\elsewhere", "");
+  const texts kept = {".OSTRANE.DAT.2.new", ".OSTRANE.DAT.3.new", ".OSTRANE.DAT.x.new",
+                      ".OTHER.DAT.1.new"};
+  for (const std::string& name : kept) write("C:\\work\\" + name, "");
+  const fs::path link = disk_path("C:\\work\\" + kept[1]);
+  fs::remove(link);
+  fs::create_symlink("../elsewhere", link);
+  for (const char* name : {".OSTRANE.DAT.1.new", ".OSTRANE.DAT.new"}) {
+    write(std::string("C:\\work\\") + name, "");
+  }
+  const int held = open(disk_path("C:\\work\\" + kept[0]).c_str(), O_RDONLY);
+  EXPECT_EQ(flock(held, LOCK_EX), 0);
+  build_in();
+  close(held);
+  texts names = kept;
+  names.insert(names.end(), {"OSTRANE.DAT", "a.txt", "b.txt", "c.txt"});
+  EXPECT_EQ(names_in("C:\\work"), names);
+  EXPECT_TRUE(fs::is_symlink(link) && fs::exists(link));
+}
+
+TEST_F(two_copies_test, ALockFileThatIsALinkIsRefused) {
+  restart_beside("ostrane.dat");
+  fs::create_symlink("../made", disk_path("C:\\work\\.OSTRANE.DAT.lock"));
+  build_in();
+  EXPECT_EQ(new_messages(), texts{"C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a link. No "
+                                  "new archive was made."});
+  EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
+  EXPECT_FALSE(fs::exists(disk_path("C:\\made")));
+}
+
+// Another program puts its archive in place of the new one, before the change of case.
+TEST_F(two_copies_test, AnArchiveOfAnotherProgramIsNotDeleted) {
+  restart_beside("Ostrane.dat");
+  static const auto real = files::system_calls;
+  static int replaced;
+  replaced = 0;
+  const failing_calls none(INT32_MAX);
+  files::system_calls.replace = [](const fs::path& file, const fs::path& target) {
+    if (++replaced == 2) {
+      fs::remove(file);
+      std::ofstream(file) << "another";
+      std::ofstream(file.parent_path() / "ostrane.DAT") << "and another";
+    }
+    return real.replace(file, target);
+  };
+  build_in();
+  EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), "another");
+  EXPECT_EQ(read("C:\\work\\ostrane.DAT"), "and another");
 }
 
 }  // namespace

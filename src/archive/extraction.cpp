@@ -57,15 +57,12 @@ extraction_result extract(const std::string& target_folder) {
 }
 
 std::string result_message(const extraction_result& result, const std::string& target_folder) {
-  std::string text;
-  if (!result.stopped.empty()) {
-    text = "The extraction was stopped. " + result.stopped;
-  } else if (result.skipped.empty()) {
-    text = "All files from Ostrane.dat has been extracted into: " + target_folder;
-  } else {
-    text = std::to_string(result.written) + " of " + std::to_string(tool_state.record_count - 1) +
-           " files from Ostrane.dat has been extracted into: " + target_folder;
-  }
+  const std::string count =
+      std::to_string(result.written) + " of " + std::to_string(tool_state.record_count - 1);
+  const bool is_all = result.stopped.empty() && result.skipped.empty();
+  std::string text = (is_all ? "All" : count) +
+                     " files from Ostrane.dat has been extracted into: " + target_folder;
+  if (!result.stopped.empty()) text += "\nThe extraction was stopped. " + result.stopped;
   return text + skipped_files_text(result.skipped, "\nThese entries were not extracted:") +
          skipped_files_text(result.hidden, "\nThese files are hidden on this system:");
 }

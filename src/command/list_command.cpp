@@ -11,6 +11,7 @@
 #include "data/icon_names.h"
 #include "data/shp_reader.h"
 #include "files/code_page.h"
+#include "files/program_folder.h"
 #include "files/text.h"
 
 namespace ostrane::command {
@@ -31,7 +32,7 @@ using descriptions = std::unordered_map<std::string, std::string>;
 // Of several rows for a name the first counts.
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
-  const files::file_path beside = {program_folder() / "iconlist.csv", "iconlist.csv"};
+  const files::file_path beside = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
   const files::file_path given = named_file(options.icon_names);
   if (!options.icon_names.empty()) files::binary_file().open_to_read(given);
   const auto rows = read_icon_names(options.icon_names.empty() ? beside : given);

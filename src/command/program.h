@@ -15,9 +15,6 @@ std::vector<std::string> arguments_of(int argc, char** argv);
 std::filesystem::path path_of_argument(const std::string& argument);
 std::string argument_of_path(const std::filesystem::path& path);
 
-// The folder of the program's file, links resolved.
-std::filesystem::path program_folder();
-
 bool errors_go_to_terminal();
 
 // No line ends are translated then.

@@ -17,11 +17,6 @@ fs::path path_of_argument(const std::string& argument) { return argument; }
 
 std::string argument_of_path(const fs::path& path) { return path.native(); }
 
-fs::path program_folder() {
-  std::error_code failed;
-  return fs::read_symlink("/proc/self/exe", failed).parent_path();
-}
-
 bool errors_go_to_terminal() { return isatty(STDERR_FILENO) == 1; }
 
 void set_binary_output() {}

@@ -31,12 +31,6 @@ fs::path path_of_argument(const std::string& argument) {
   return std::u8string(argument.begin(), argument.end());
 }
 
-fs::path program_folder() {
-  std::wstring path(32768, L'\0');
-  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-  return fs::path(path).parent_path();
-}
-
 bool errors_go_to_terminal() { return _isatty(2) != 0; }
 
 void set_binary_output() {

@@ -19,18 +19,21 @@ namespace {
 struct entry_file {
   files::binary_file& file;
   files::file_path path;
+  files::file_info info = {};
   bool is_new = false;
   bool is_whole = false;
 
   entry_file(files::binary_file& opened, files::file_path target)
       : file(opened), path(std::move(target)) {
     is_new = file.open_to_write(path);
+    if (is_new) files::file_calls::info_of(file.handle(), info);
   }
   entry_file(const entry_file&) = delete;
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
     if (is_whole) return;
-    const bool drop = is_new && files::file_calls::leads_to(path.system, file.handle()) != 0;
+    const bool drop =
+        is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
     file.abandon();
     if (drop) files::file_calls::remove_file(path.system);
   }

@@ -1,13 +1,21 @@
 #include "desktop/application_setup.h"
 
-#include <QApplication>
 #include <clocale>
+#include <new>
 
 #include "desktop/accessible_canvas.h"
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
 
 namespace desktop {
+
+bool application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
 
 void set_up_application() {
   // Qt takes the user's locale for the whole process.

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <iostream>
 
-#include "desktop/program_folder.h"
+#include "files/program_folder.h"
 #include "state/version.h"
 
 namespace desktop {
@@ -18,7 +18,7 @@ QString description() {
              "Lists, shows, extracts, builds and compares what the data archive ostrane.dat\n"
              "holds. Everything is done in its windows.\n\n"
              "Descriptions of entries, if there are any:\n  ") +
-         QString::fromStdString((program_folder() / "iconlist.csv").string());
+         QString::fromStdString((files::program_folder() / "iconlist.csv").string());
 }
 
 }  // namespace

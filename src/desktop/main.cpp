@@ -1,13 +1,12 @@
-#include <QApplication>
 #include <QIcon>
 #include <cstdlib>
 #include <iostream>
 
 #include "desktop/application_setup.h"
 #include "desktop/command_line.h"
-#include "desktop/program_folder.h"
 #include "desktop/qt_screen.h"
 #include "files/paths.h"
+#include "files/program_folder.h"
 #include "handlers/start_up.h"
 #include "pictures/icon_exporter.h"
 
@@ -39,13 +38,13 @@ void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
 int main(int argc, char** argv) {
   if (argc > 1) return desktop::answer_command_line(argc, argv);
   const QtMessageHandler usual = qInstallMessageHandler(end_without_display);
-  const QApplication application(argc, argv);
+  const desktop::application application(argc, argv);
   qInstallMessageHandler(usual);
   desktop::set_up_application();
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::start_tool(desktop::program_folder(), ostrane::make_icon_exporter());
+  ostrane::start_tool(files::program_folder(), ostrane::make_icon_exporter());
   const int outcome = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return outcome;

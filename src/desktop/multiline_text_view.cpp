@@ -1,6 +1,8 @@
 #include "desktop/multiline_text_view.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QSignalBlocker>
+#include <QTextBlock>
 
 #include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
@@ -28,6 +30,20 @@ QString with_short_lines(const QString& text) {
     length = c == QLatin1Char('\n') ? 0 : length + 1;
   }
   return lines;
+}
+
+// Qt keeps some 400 bytes and an object per block, so blocks of a text of many lines hold several.
+// Blocks of one line are better for editing.
+constexpr qsizetype max_single_lines = 20000;
+constexpr qsizetype lines_per_block = 64;
+
+QString with_joined_lines(QString text) {
+  if (text.count(QLatin1Char('\n')) <= max_single_lines) return text;
+  qsizetype line = 0;
+  for (QChar& c : text) {
+    if (c == QLatin1Char('\n') && ++line % lines_per_block != 0) c = QChar::LineSeparator;
+  }
+  return text;
 }
 
 }  // namespace
@@ -58,11 +74,27 @@ void multiline_text_view::show_content() {
   const QString now = with_short_lines(normalize_newlines(to_screen(box_.Text())));
   if (now == toPlainText()) return;
   const QSignalBlocker quiet(this);
-  setPlainText(now);
+  setPlainText(with_joined_lines(now));
+  count_lines();
+}
+
+// Qt counts the lines of a block only when it paints it, and the scroll bar goes by them.
+void multiline_text_view::count_lines() {
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    block.setLineCount(1 + static_cast<int>(block.text().count(QChar::LineSeparator)));
+  }
+  QAbstractTextDocumentLayout* layout = document()->documentLayout();
+  emit layout->documentSizeChanged(layout->documentSize());
 }
 
 void multiline_text_view::show_colours() {
   setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
+}
+
+// A new width resets the numbers of lines.
+void multiline_text_view::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);
+  count_lines();
 }
 
 void multiline_text_view::focusOutEvent(QFocusEvent* event) {

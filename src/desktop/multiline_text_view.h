@@ -18,10 +18,12 @@ class multiline_text_view : public QPlainTextEdit, public control_view {
  protected:
   void show_content() override;
   void show_colours() override;
+  void resizeEvent(QResizeEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void take_edit();
+  void count_lines();
 
   forms_layer::text_box& box_;
   QTimer pause_;

@@ -21,7 +21,10 @@ auto uninterrupted(Call call, Arguments&&... arguments) {
 
 int open_to_read(const fs::path& path) { return uninterrupted(system_calls.open_to_read, path); }
 int open_to_write(const fs::path& path) { return uninterrupted(system_calls.open_to_write, path); }
-int open_new(const fs::path& path) { return uninterrupted(system_calls.open_new, path); }
+int open_new(const fs::path& path, bool is_private) {
+  return uninterrupted(system_calls.open_new, path, is_private);
+}
+int open_lock(const fs::path& path) { return uninterrupted(system_calls.open_lock, path); }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   return uninterrupted(system_calls.read_some, file, to, count);
@@ -40,8 +43,8 @@ int info_of(int file, file_info& info) { return uninterrupted(system_calls.info_
 int info_at(const fs::path& path, file_info& info) {
   return uninterrupted(system_calls.info_at, path, info);
 }
-int set_permissions(int file, const file_info& like) {
-  return uninterrupted(system_calls.set_permissions, file, like);
+int copy_permissions(int file, const fs::path& from) {
+  return uninterrupted(system_calls.copy_permissions, file, from);
 }
 int lock(int file) { return uninterrupted(system_calls.lock, file); }
 
@@ -84,6 +87,10 @@ int leads_to(const fs::path& path, int file) {
   return outcome < 0 ? outcome : leads_to(path, open.stamp.identity);
 }
 
+bool is_made_file(const fs::path& path, const file_identity& identity) {
+  return identity == file_identity{} || leads_to(path, identity) != 0;
+}
+
 file_error_number error_number(int errno_number) {
   switch (errno_number) {
     case ENOENT:
@@ -96,6 +103,7 @@ file_error_number error_number(int errno_number) {
     case EPERM:
     case EROFS:
     case EBUSY:
+    case ELOOP:
       return file_error_number::permission_denied;
     case EISDIR:
       return file_error_number::path_access;
@@ -136,6 +144,8 @@ std::string error_text(int errno_number) {
       return "it is there already";
     case ENOTDIR:
       return "it is not in a folder";
+    case ELOOP:
+      return "it is a link";
     case ENAMETOOLONG:
       return "its name is too long";
     case EFBIG:

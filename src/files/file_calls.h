@@ -11,14 +11,15 @@ namespace files::file_calls {
 
 int open_to_read(const std::filesystem::path& path);
 int open_to_write(const std::filesystem::path& path);
-int open_new(const std::filesystem::path& path);
+int open_new(const std::filesystem::path& path, bool is_private = false);
+int open_lock(const std::filesystem::path& path);
 std::int64_t read_some(int file, std::byte* to, std::size_t count);
 std::int64_t write_some(int file, const std::byte* from, std::size_t count);
 std::int64_t seek_to(int file, std::int64_t offset);
 int set_size(int file, std::int64_t size);
 int info_of(int file, file_info& info);
 int info_at(const std::filesystem::path& path, file_info& info);
-int set_permissions(int file, const file_info& like);
+int copy_permissions(int file, const std::filesystem::path& from);
 int lock(int file);
 int flush_to_disk(int file);
 int close_file(int file);
@@ -31,6 +32,9 @@ int list(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 // number.
 int leads_to(const std::filesystem::path& path, const file_identity& identity);
 int leads_to(const std::filesystem::path& path, int file);
+
+// True if `path` still names the file that was just made there, also if that cannot be found out.
+bool is_made_file(const std::filesystem::path& path, const file_identity& identity);
 
 // The errno number of an error of the standard library.
 int errno_number(const std::error_code& reason);

@@ -8,6 +8,7 @@
 
 #include "files/code_page.h"
 #include "files/file_calls.h"
+#include "files/hidden_name.h"
 #include "files/paths.h"
 #include "files/system_name.h"
 
@@ -112,7 +113,7 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
   const std::unordered_set<std::string_view> known(listed.begin(), listed.end());
   std::vector<unlisted_file> unlisted;
   for (const listed_entry& entry : listed_in(folder)) {
-    if (!entry.is_file) continue;
+    if (!entry.is_file || is_work_file(entry.name)) continue;
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
     if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";

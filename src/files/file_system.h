@@ -29,7 +29,8 @@ struct unlisted_file {
   const char* reason;  // a sentence fragment
 };
 
-// The regular files in a folder that `listed` does not contain, sorted by name. Throws file_error.
+// The regular files in a folder that `listed` does not contain, sorted by name, without the hidden
+// files of copies of the tool that write there. Throws file_error.
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
                                              const std::vector<std::string>& listed);
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,

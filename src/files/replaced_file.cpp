@@ -20,6 +20,12 @@ namespace fs = std::filesystem;
 constexpr int max_tries = 100;  // to find a free name
 constexpr const char* cannot_write = " cannot be written: ";
 
+// A path without a folder lies in the current one.
+fs::path folder_of(const fs::path& path) {
+  const fs::path folder = path.parent_path();
+  return folder.empty() ? fs::path(".") : folder;
+}
+
 std::string upper_case_name(const fs::path::string_type& system_name) {
   const std::optional<std::string> name = name_as_text(system_name);
   return name ? upper_case(*name) : std::string();
@@ -31,25 +37,27 @@ replaced_file::replaced_file(file_path target)
     : target_(std::move(target)), lock_(target_.system, target_.shown) {
   // Another copy of the tool may have changed the spelling before this one got the lock.
   if (const auto name = name_as_text(target_.system.filename().native())) {
-    target_.system = case_insensitive_lookup().find(target_.system.parent_path(), *name);
+    target_.system = case_insensitive_lookup().find(folder_of(target_.system), *name);
   }
   remove_leftovers();
+  file_info old;
+  const bool replaces = file_calls::info_at(target_.system, old) >= 0 && old.is_file;
   int file = -EEXIST;
   for (int tries = 0; file == -EEXIST && tries < max_tries; ++tries) {
     temporary_ = temporary_beside(target_.system);
-    file = file_calls::open_new(temporary_);
+    file = file_calls::open_new(temporary_, replaces);
   }
   try {
     file_.adopt(file, target_.shown);
     identity_ = file_.info().stamp.identity;
   } catch (...) {
+    if (file >= 0) file_calls::remove_file(temporary_);
     if (file >= 0 && file_.handle() != file) file_calls::close_file(file);
-    file_calls::remove_file(temporary_);
     throw;
   }
   // If another copy gets past `lock_`, this lock keeps it from removing the file as a leftover.
   file_calls::lock(file);
-  inherit_permissions();
+  if (replaces) file_calls::copy_permissions(file, target_.system);
 }
 
 replaced_file::~replaced_file() {
@@ -59,10 +67,11 @@ replaced_file::~replaced_file() {
 
 void replaced_file::remove_leftovers() const {
   std::vector<listed_entry> listed;
-  file_calls::list(target_.system.parent_path(), listed);
+  const int outcome = file_calls::list(folder_of(target_.system), listed);
+  if (outcome < 0) file_calls::fail(target_.shown, cannot_write, outcome);
   for (const listed_entry& entry : listed) {
     if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
-    const fs::path leftover = target_.system.parent_path() / entry.name;
+    const fs::path leftover = folder_of(target_.system) / entry.name;
     const int file = file_calls::open_to_read(leftover);
     if (file < 0) continue;
     if (file_calls::lock(file) >= 0 && file_calls::leads_to(leftover, file) == 1) {
@@ -70,12 +79,6 @@ void replaced_file::remove_leftovers() const {
     }
     file_calls::close_file(file);
   }
-}
-
-void replaced_file::inherit_permissions() {
-  file_info old;
-  if (file_calls::info_at(target_.system, old) < 0 || !old.is_file) return;
-  file_calls::set_permissions(file_.handle(), old);
 }
 
 int replaced_file::is_own(const fs::path& path) const {
@@ -103,21 +106,31 @@ void replaced_file::put_in_place() {
                    target_.shown + cannot_write + "another program has replaced it."};
 }
 
+void replaced_file::copy_to(binary_file& to) {
+  binary_file written;
+  written.open_to_read({temporary_, target_.shown});
+  require_own_file();
+  while (true) {
+    const std::span<const std::byte> block = written.next(SIZE_MAX);
+    if (block.empty()) break;
+    to.write(block);
+  }
+}
+
 void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
   const fs::path& kept = is_own(target) == 1 ? target : target_.system;
-  if (is_own(kept) != 1) return;
   const std::string folded = upper_case_name(kept.filename().native());
   std::vector<listed_entry> listed;
-  file_calls::list(kept.parent_path(), listed);
+  file_calls::list(folder_of(kept), listed);
   for (const listed_entry& entry : listed) {
     if (entry.is_folder || entry.name == kept.filename().native()) continue;
     if (upper_case_name(entry.name) != folded || is_own(kept) != 1) continue;
-    const fs::path other = kept.parent_path() / entry.name;
+    const fs::path other = folder_of(kept) / entry.name;
     if (is_own(other) == 0) file_calls::remove_file(other);
   }
 }
 
-void replaced_file::flush_folder() { file_calls::flush_folder(target_.system.parent_path()); }
+void replaced_file::flush_folder() { file_calls::flush_folder(folder_of(target_.system)); }
 
 }  // namespace files

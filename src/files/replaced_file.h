@@ -14,7 +14,8 @@ namespace files {
 class replaced_file {
  public:
   // `target` need not exist. If only a name in another case exists, that file is replaced. The new
-  // file gets permissions and owner of the old one, if the system allows it.
+  // file gets permissions and owner of the old one, if the system allows it. Throws if the folder
+  // cannot be listed, as the old file could then have a name in another case.
   explicit replaced_file(file_path target);
   replaced_file(const replaced_file&) = delete;
   replaced_file& operator=(const replaced_file&) = delete;
@@ -25,6 +26,8 @@ class replaced_file {
 
   // Flushes the new file to the disk and renames it to the target.
   void put_in_place();
+  // For a target that cannot be replaced: writes the new content to `to` instead.
+  void copy_to(binary_file& to);
 
   // Renames the file to `target`, which differs from the name in place in case only, and deletes
   // files whose names differ from it in case only. Failures are ignored. Call after put_in_place.
@@ -35,7 +38,6 @@ class replaced_file {
 
  private:
   void remove_leftovers() const;
-  void inherit_permissions();
   void require_own_file() const;
   // As file_calls::leads_to, for the new file.
   int is_own(const std::filesystem::path& path) const;

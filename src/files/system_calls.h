@@ -35,9 +35,6 @@ struct file_stamp {
 struct file_info {
   file_stamp stamp;
   bool is_file = false;  // a regular file, not a link to one
-  std::uint32_t permissions = 0;
-  std::uint32_t owner = 0;
-  std::uint32_t group = 0;
 };
 
 // Filled in by system_calls_posix.cpp or system_calls_windows.cpp. Tests put failing calls into it.
@@ -45,10 +42,13 @@ struct file_info {
 struct system_call_table {
   // Return a file descriptor or handle. Folders, devices and pipes are refused and never block.
   int (*open_to_read)(const std::filesystem::path& path);
-  // Creates a missing file; does not truncate an existing one.
+  // Opens an existing file without truncating it.
   int (*open_to_write)(const std::filesystem::path& path);
-  // Creates a file; -EEXIST if the path exists.
-  int (*open_new)(const std::filesystem::path& path);
+  // Creates a file; -EEXIST if the path exists. A private file is its owner's alone until
+  // copy_permissions.
+  int (*open_new)(const std::filesystem::path& path, bool is_private);
+  // Opens or creates a file that every user may lock; -ELOOP for a link.
+  int (*open_lock)(const std::filesystem::path& path);
 
   // Return the number of bytes moved, at most `count`; 0 from a read at the end of the file.
   std::int64_t (*read_some)(int file, std::byte* to, std::size_t count);
@@ -60,8 +60,8 @@ struct system_call_table {
   int (*info_of)(int file, file_info& info);
   // Links are not followed.
   int (*info_at)(const std::filesystem::path& path, file_info& info);
-  // Copies permissions, owner and group, as far as the system allows it.
-  int (*set_permissions)(int file, const file_info& like);
+  // Copies permissions, owner and group from another file, as far as the system allows it.
+  int (*copy_permissions)(int file, const std::filesystem::path& from);
   // Takes an exclusive lock without waiting; -EWOULDBLOCK if another process has it. Closing the
   // file releases it, as the end of the process does.
   int (*lock)(int file);

@@ -2,8 +2,10 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -21,8 +23,8 @@ namespace fs = std::filesystem;
 int result(int outcome) { return outcome < 0 ? -errno : outcome; }
 
 // Without O_NONBLOCK, open() of a pipe waits for its other end.
-int open_regular(const fs::path& path, int flags) {
-  const int file = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+int open_regular(const fs::path& path, int flags, mode_t permissions = 0666) {
+  const int file = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, permissions);
   if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
   if (fstat(file, &status) == 0 && S_ISREG(status.st_mode)) return file;
@@ -33,9 +35,22 @@ int open_regular(const fs::path& path, int flags) {
 
 int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
 
-int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY | O_CREAT); }
+// Without O_CREAT, which the system may refuse for another user's file in a sticky folder.
+int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY); }
 
-int open_new(const fs::path& path) { return open_regular(path, O_WRONLY | O_CREAT | O_EXCL); }
+int open_new(const fs::path& path, bool is_private) {
+  return open_regular(path, O_WRONLY | O_CREAT | O_EXCL, is_private ? 0600 : 0666);
+}
+
+// Reading is enough to lock the file of another user.
+int open_lock(const fs::path& path) {
+  const int file = open_regular(path, O_WRONLY | O_CREAT | O_NOFOLLOW);
+  // The umask may keep others out. Only the owner can change that, so failures are ignored.
+  if (file >= 0) fchmod(file, 0666);
+  if (file != -EACCES) return file;
+  const int readable = open_regular(path, O_RDONLY | O_NOFOLLOW);
+  return readable >= 0 ? readable : file;
+}
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   const ssize_t moved = read(file, to, count);
@@ -64,9 +79,6 @@ void fill(file_info& info, const struct stat& status) {
       static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanoseconds_per_second +
       static_cast<std::uint64_t>(status.st_mtim.tv_nsec));
   info.is_file = S_ISREG(status.st_mode);
-  info.permissions = status.st_mode & 07777U;
-  info.owner = status.st_uid;
-  info.group = status.st_gid;
 }
 
 int info_of(int file, file_info& info) {
@@ -83,11 +95,28 @@ int info_at(const fs::path& path, file_info& info) {
   return 0;
 }
 
+constexpr const char* access_list = "system.posix_acl_access";
+
+// With an access control list the group bits of the mode are its mask, so the list comes first.
+void copy_access_list(int file, const fs::path& from) {
+  std::array<char, 65536> list = {};
+  const ssize_t size = getxattr(from.c_str(), access_list, list.data(), list.size());
+  if (size < 0 ||
+      fsetxattr(file, access_list, list.data(), static_cast<std::size_t>(size), 0) < 0) {
+    fremovexattr(file, access_list);  // of a list that the folder gives its new files
+  }
+}
+
 // If the group cannot be set, the file's current group gets only the permissions of others.
-int set_permissions(int file, const file_info& like) {
-  std::uint32_t permissions = like.permissions;
-  if (fchown(file, like.owner, like.group) < 0 &&
-      fchown(file, static_cast<uid_t>(-1), like.group)) {
+int copy_permissions(int file, const fs::path& from) {
+  struct stat old = {};
+  if (lstat(from.c_str(), &old) < 0) return -errno;
+  mode_t permissions = old.st_mode & 0777U;
+  if (fchown(file, old.st_uid, old.st_gid) == 0 ||
+      fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0) {
+    copy_access_list(file, from);
+  } else {
+    fremovexattr(file, access_list);
     permissions &= 0707U;
     permissions |= (permissions & 07U) << 3U;
   }
@@ -152,13 +181,14 @@ system_call_table system_calls = {
     .open_to_read = open_to_read,
     .open_to_write = open_to_write,
     .open_new = open_new,
+    .open_lock = open_lock,
     .read_some = read_some,
     .write_some = write_some,
     .seek_to = seek_to,
     .set_size = set_size,
     .info_of = info_of,
     .info_at = info_at,
-    .set_permissions = set_permissions,
+    .copy_permissions = copy_permissions,
     .lock = lock,
     .flush_to_disk = flush_to_disk,
     .close_file = close_file,

@@ -64,9 +64,17 @@ DWORD block_size(std::size_t count) {
 
 int open_to_read(const fs::path& path) { return open_regular(path, GENERIC_READ, OPEN_EXISTING); }
 
-int open_to_write(const fs::path& path) { return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS); }
+int open_to_write(const fs::path& path) { return open_regular(path, GENERIC_WRITE, OPEN_EXISTING); }
 
-int open_new(const fs::path& path) { return open_regular(path, GENERIC_WRITE, CREATE_NEW); }
+// On Windows a new file inherits the permissions of its folder.
+int open_new(const fs::path& path, bool /*is_private*/) {
+  return open_regular(path, GENERIC_WRITE, CREATE_NEW);
+}
+
+int open_lock(const fs::path& path) {
+  if (has_attribute(path, FILE_ATTRIBUTE_REPARSE_POINT)) return -ELOOP;
+  return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS);
+}
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
   DWORD moved = 0;
@@ -118,8 +126,7 @@ int info_at(const fs::path& path, file_info& info) {
   return outcome;
 }
 
-// On Windows a new file inherits the permissions of its folder.
-int set_permissions(int /*file*/, const file_info& /*like*/) { return 0; }
+int copy_permissions(int /*file*/, const fs::path& /*from*/) { return 0; }
 
 // A locked byte cannot be read, so the lock is on one after the end of any file.
 int lock(int file) {
@@ -176,13 +183,14 @@ system_call_table system_calls = {
     .open_to_read = open_to_read,
     .open_to_write = open_to_write,
     .open_new = open_new,
+    .open_lock = open_lock,
     .read_some = read_some,
     .write_some = write_some,
     .seek_to = seek_to,
     .set_size = set_size,
     .info_of = info_of,
     .info_at = info_at,
-    .set_permissions = set_permissions,
+    .copy_permissions = copy_permissions,
     .lock = lock,
     .flush_to_disk = flush_to_disk,
     .close_file = close_file,

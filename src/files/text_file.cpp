@@ -10,11 +10,17 @@ namespace {
 
 constexpr std::size_t block_size = 65536;
 
-// The target of a link, or `path` itself if it is not a link or its target does not exist.
+// Where `path` leads, which need not exist. A circle of links is left to the system to refuse.
 file_path resolve_links(const file_path& path) {
-  std::error_code failed;
-  const std::filesystem::path target = std::filesystem::canonical(path.system, failed);
-  return {failed ? path.system : target, path.shown};
+  constexpr int max_links = 40;
+  file_path target = path;
+  for (int links = 0; links < max_links; ++links) {
+    std::error_code failed;
+    const std::filesystem::path next = std::filesystem::read_symlink(target.system, failed);
+    if (failed) break;
+    target.system = target.system.parent_path() / next;
+  }
+  return target;
 }
 
 bool exists(const file_path& path) {
@@ -52,18 +58,26 @@ std::string text_reader::read_line() {
 }
 
 text_writer::text_writer(const file_path& path, const file_identity& spared) {
-  const bool replaces = exists(path);
+  const file_path target = resolve_links(path);
+  const bool replaces = exists(target);
   // Fails if the old file is read-only, which replacing it would not.
-  if (replaces) old_file_.open_to_write(path);
+  if (replaces) old_file_.open_to_write(target);
   if (replaces && old_file_.info().stamp.identity == spared) {
     throw file_error(file_error_number::permission_denied,
                      path.shown + " cannot be written: it leads to the open archive.");
   }
+  overwrites([&] { new_file_.emplace(target); });
+}
+
+// Runs a step of replacing the old file. True if it is not allowed, so that the file has to be
+// overwritten.
+bool text_writer::overwrites(const std::function<void()>& step) {
   try {
-    new_file_.emplace(resolve_links(path));
-    old_file_.abandon();
+    step();
+    return false;
   } catch (const file_error& error) {
-    if (!replaces || error.number != file_error_number::permission_denied) throw;
+    if (old_file_.handle() < 0 || error.number != file_error_number::permission_denied) throw;
+    return true;
   }
 }
 
@@ -74,15 +88,17 @@ void text_writer::write_line(std::string_view line) {
 }
 
 void text_writer::close() {
-  if (new_file_) {
-    new_file_->put_in_place();
+  const bool is_refused = new_file_ && overwrites([&] { new_file_->put_in_place(); });
+  if (is_refused) new_file_->copy_to(old_file_);
+  if (new_file_ && !is_refused) {
     new_file_->flush_folder();
-    new_file_.reset();
+    old_file_.abandon();
   } else {
     old_file_.truncate();
     old_file_.flush(true);
     old_file_.close();
   }
+  new_file_.reset();
 }
 
 }  // namespace files

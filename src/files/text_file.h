@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,8 +30,8 @@ class text_reader {
 
 // Writes lines, each with CR LF at its end, to a new file that close() puts in place of the old
 // one. Until then, and after any failure, the old file is unchanged. Of a link, the target is
-// replaced. If the folder does not allow new files, the old file is overwritten instead; a failure
-// then leaves a part of the lines. All operations throw file_error.
+// replaced. If the folder does not allow that, the old file is overwritten instead; a failure then
+// leaves a part of the lines. All operations throw file_error.
 class text_writer {
  public:
   // Throws if the old file is read-only, or if `path` leads to the file `spared`, which must not be
@@ -42,6 +43,7 @@ class text_writer {
   void close();
 
  private:
+  bool overwrites(const std::function<void()>& step);
   binary_file& file() { return new_file_ ? new_file_->file() : old_file_; }
 
   binary_file old_file_;

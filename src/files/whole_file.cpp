@@ -41,18 +41,19 @@ whole_file::whole_file(binary_file& file, file_path target, const file_identity&
   if (made == -EEXIST) {
     require_replaceable(target_, source);
     written_ = temporary_beside(target_.system);
-    made = file_calls::open_new(written_);
     file_info old;
-    if (made >= 0 && file_calls::info_at(target_.system, old) >= 0 && old.is_file) {
-      file_calls::set_permissions(made, old);
-    }
+    const bool replaces = file_calls::info_at(target_.system, old) >= 0 && old.is_file;
+    made = file_calls::open_new(written_, replaces);
+    if (made >= 0 && replaces) file_calls::copy_permissions(made, target_.system);
   }
   file_.adopt(made, target_.shown);
+  file_info info;
+  if (file_calls::info_of(made, info) >= 0) identity_ = info.stamp.identity;
 }
 
 whole_file::~whole_file() {
   if (is_kept_) return;
-  const bool drop = file_.handle() < 0 || file_calls::leads_to(written_, file_.handle()) != 0;
+  const bool drop = file_calls::is_made_file(written_, identity_);
   file_.abandon();
   if (drop) file_calls::remove_file(written_);
 }

@@ -27,6 +27,7 @@ class whole_file {
   binary_file& file_;
   file_path target_;
   std::filesystem::path written_;  // the target, or a hidden file beside it
+  file_identity identity_;         // of that file
   bool is_kept_ = false;
 };
 

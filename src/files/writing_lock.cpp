@@ -30,7 +30,7 @@ constexpr auto pause = std::chrono::milliseconds(5);
 }  // namespace
 
 writing_lock::writing_lock(const std::filesystem::path& target, const std::string& shown_path)
-    : path_(hidden_beside(target, ".lock")) {
+    : path_(lock_beside(target)) {
   const auto deadline = std::chrono::steady_clock::now() + max_wait;
   while (!try_lock(shown_path)) {
     if (std::chrono::steady_clock::now() >= deadline) {
@@ -47,10 +47,7 @@ writing_lock::~writing_lock() {
 }
 
 bool writing_lock::try_lock(const std::string& shown_path) {
-  int file = file_calls::open_to_write(path_);
-  // The lock file of another user can often be read, which is enough to lock it.
-  const int readable = file == -EACCES ? file_calls::open_to_read(path_) : file;
-  if (readable >= 0) file = readable;
+  const int file = file_calls::open_lock(path_);
   if (file < 0) fail_to_open(path_, shown_path, file);
   const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
   // The copy that held the lock may have removed the lock file after it was opened here.

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <deque>
 #include <exception>
+#include <memory>
 #include <new>
+#include <string>
 #include <utility>
 
 #include "forms_layer/application.h"
@@ -30,15 +32,40 @@ struct running_guard {
   ~running_guard() { running = false; }
 };
 
+// Freed when memory runs out, so that the windows can be restored and the message shown.
+constexpr std::size_t reserve_size = 1U << 20U;  // bytes
+std::unique_ptr<char[]> reserve;
+const std::string out_of_memory_text = "There is not enough memory for this.";
+
+void report_out_of_memory() {
+  reserve.reset();
+  if (application.OutOfMemory) application.OutOfMemory();
+  message_box(out_of_memory_text);
+}
+
 void run_one(const std::function<void()>& handler) {
   began = std::chrono::steady_clock::now();
+  if (!reserve) reserve.reset(new (std::nothrow) char[reserve_size]);
   try {
-    handler();
+    try {
+      handler();
+    } catch (const std::bad_alloc&) {
+      report_out_of_memory();
+    } catch (const std::exception& error) {
+      message_box(error.what());
+    }
   } catch (const std::bad_alloc&) {
-    if (application.OutOfMemory) application.OutOfMemory();
-    message_box("There is not enough memory for this.");
-  } catch (const std::exception& error) {
-    message_box(error.what());
+    // Not even the message can be shown. The windows stay as they are.
+  }
+}
+
+// Without memory the event is lost, as an input that the system drops.
+void queue_event(const std::function<void()>& handler, const void* key) {
+  const auto same_key = [key](const queued_event& e) { return e.key == key; };
+  if (key != nullptr && std::any_of(queue.begin(), queue.end(), same_key)) return;
+  try {
+    queue.push_back({handler, key});
+  } catch (const std::bad_alloc&) {
   }
 }
 
@@ -46,12 +73,7 @@ void run_one(const std::function<void()>& handler) {
 
 void run_event(const std::function<void()>& handler, const void* key) {
   if (process_ended()) return;
-  if (running) {
-    const auto same_key = [key](const queued_event& e) { return e.key == key; };
-    if (key != nullptr && std::any_of(queue.begin(), queue.end(), same_key)) return;
-    queue.push_back({handler, key});
-    return;
-  }
+  if (running) return queue_event(handler, key);
   const running_guard guard;
   run_one(handler);
   while (!queue.empty() && !process_ended()) {

@@ -57,7 +57,7 @@ QWidget* widget_of(const QWidget& window, const forms_layer::control& shown) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  const QApplication application(argc, argv);
+  const desktop::application application(argc, argv);
   QApplication::setCursorFlashTime(0);
   desktop::set_up_application();
   return RUN_ALL_TESTS();

@@ -2,6 +2,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTimer>
 #include <QWindow>
 #include <fstream>
@@ -99,6 +101,30 @@ TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
 }
 
 // What the user does meanwhile runs after the handler.
+TEST_F(Desktop, ATextOfManyLinesIsInFewBlocksAndScrollsByLine) {
+  std::string text;
+  for (int line = 0; line < 50000; ++line) text += std::to_string(line) + "\r\n";
+  form.page.Text = text;
+  QWidget& window = show(form);
+  auto& page = dynamic_cast<QPlainTextEdit&>(*widget_of(window, form.page));
+  EXPECT_LT(page.blockCount(), 1000);
+  for (const int line : {40000, 30007}) {
+    page.verticalScrollBar()->setValue(line);
+    QTextCursor at_top = page.cursorForPosition({1, 8});
+    at_top.select(QTextCursor::LineUnderCursor);
+    EXPECT_EQ(at_top.selectedText().toInt(), line);
+    page.resize(page.width() + 50, page.height());
+  }
+}
+
+TEST_F(Desktop, ALackOfMemoryDropsOnlyTheEvent) {
+  struct failing : QObject {
+    bool event(QEvent*) override { throw std::bad_alloc(); }
+  } receiver;
+  QEvent event(QEvent::User);
+  EXPECT_FALSE(QApplication::sendEvent(&receiver, &event));
+}
+
 TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
   using ostrane::Form3;
   ostrane::reset_forms();
