@@ -2,13 +2,13 @@
 // back from it and from the icon that is made of it.
 #include <memory>
 
-#include "command/pictures/icon_json.h"
-#include "command/pictures/new_icon.h"
-#include "command/pictures/png_reader.h"
-#include "command/pictures/png_writer.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "generated_input.h"
+#include "pictures/icon_json.h"
+#include "pictures/new_icon.h"
+#include "pictures/png_reader.h"
+#include "pictures/png_writer.h"
 
 using namespace ostrane;
 
@@ -22,9 +22,9 @@ bool same_cells(const picture& a, const picture& b) {
   return same;
 }
 
-void check_icon(const picture& drawn, const std::optional<command::known_icon>& known) {
+void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   static const fs::path place = fuzz::top_folder() / "made.shp";
-  const std::string bytes = shp_file({command::new_icon(drawn, known)});
+  const std::string bytes = shp_file({new_icon(drawn, known)});
   write_bytes(place, bytes);
   files::binary_file file;
   file.open_to_read({place, "made.shp"});
@@ -44,18 +44,18 @@ colour_table colours(std::uint32_t step) {
 }
 
 void import_png(const std::string& bytes) {
-  static command::colour_finder finder(colours(0x010101));
-  const command::png_picture read = command::read_png(bytes, "p:", finder);
+  static colour_finder finder(colours(0x010101));
+  const png_picture read = read_png(bytes, "p:", finder);
   if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
     check_icon(read.drawn, {});
 }
 
 void import_json(const std::string& text) {
-  for (const auto& icon : command::read_icon_json(text, "j:").icons) {
+  for (const auto& icon : read_icon_json(text, "j:").icons) {
     if (!has_picture(icon.head) || columns_of(icon.head) * rows_of(icon.head) > max_cells) continue;
     picture drawn(static_cast<int>(columns_of(icon.head)), static_cast<int>(rows_of(icon.head)));
     drawn.set(drawn.columns() - 1, drawn.rows() / 2, 3);
-    check_icon(drawn, command::known_icon{icon.head, icon.last_column});
+    check_icon(drawn, known_icon{icon.head, icon.last_column});
   }
 }
 
@@ -71,13 +71,13 @@ void import_made(fuzz::fields& from) {
               from.ConsumeIntegralInRange(0, drawn.rows() - 1),
               from.ConsumeIntegral<std::uint8_t>());
   }
-  command::colour_finder finder(palette);
-  const command::png_picture read = command::read_png(
-      command::png_of(drawn, palette, command::distinct_colours(palette)), "p:", finder);
+  colour_finder finder(palette);
+  const png_picture read =
+      read_png(png_of(drawn, palette, distinct_colours(palette)), "p:", finder);
   fuzz::check(read.inexact == 0 && same_cells(read.drawn, drawn), "a PNG loses nothing");
   icon_head head = head_of(drawn);
   head.col_start -= fuzz::number(from, {300}) & 0x3FF;
-  check_icon(drawn, command::known_icon{head, 0});
+  check_icon(drawn, known_icon{head, 0});
 }
 
 }  // namespace

@@ -18,9 +18,10 @@ set(archive ${palette} palette)
 set(lists ${progress} progress)
 set(handlers ${archive} archive lists)
 # Of the tool itself the screen includes only the start-up and the version.
-set(desktop files forms_layer handlers)
-# The program for scripts is made of the data side alone.
-set(command files data)
+set(desktop files forms_layer handlers pictures)
+set(pictures files data)
+# The program for scripts is made of the data side and the pictures.
+set(command ${pictures} pictures)
 set(version "state/version.h")
 
 foreach(source IN LISTS sources)
@@ -31,7 +32,7 @@ foreach(source IN LISTS sources)
   string(JOIN "|" allowed ${folder} ${${folder}})
   file(STRINGS ${FOLDER}/${source} includes REGEX "^[ \t]*#[ \t]*include[ \t]")
   foreach(include IN LISTS includes)
-    if(folder MATCHES "^(desktop|command)$" AND include MATCHES "<|\"${version}\"")
+    if(folder MATCHES "^(desktop|command|pictures)$" AND include MATCHES "<|\"${version}\"")
       continue()
     endif()
     if(NOT include MATCHES "[ \t](\"(${allowed})/|<[a-z])" OR include MATCHES "<qt")

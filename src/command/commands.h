@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "data/icon_export.h"
+
 // The commands of the program. Each does its work on the files that its record names and returns
 // the exit status; it throws file_error, data_error and interruption.
 namespace ostrane::command {
@@ -51,8 +53,6 @@ struct check_options {
   std::vector<std::string> archives;
 };
 int check(const check_options& options);
-
-enum class picture_form { png, sheet, gif };
 
 struct export_options {
   std::string archive;

@@ -46,10 +46,12 @@ class accessible_picture : public QAccessibleInterface, public QAccessibleAction
     return static_cast<QAccessibleActionInterface*>(this);
   }
   QStringList actionNames() const override {
-    return picture().box->array == nullptr ? QStringList() : QStringList(pressAction());
+    if (picture().box->array == nullptr) return {};
+    return {pressAction(), showMenuAction()};
   }
   void doAction(const QString& name) override {
     if (name == pressAction()) double_click(*picture().box);
+    if (name == showMenuAction()) open_menu(*picture().box, rect().center());
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 

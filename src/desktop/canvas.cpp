@@ -1,6 +1,7 @@
 #include "desktop/canvas.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 
 #include "desktop/cursor_step.h"
 #include "desktop/designed_look.h"
+#include "desktop/dialogs.h"
 #include "desktop/keys.h"
 #include "desktop/picture_painter.h"
 #include "desktop/screen_text.h"
@@ -41,6 +43,12 @@ void paint_cursor(QPainter& painter, const QRect& place, const QColor& colour) {
 
 void double_click(const forms_layer::picture_box& box) {
   if (box.array != nullptr) forms_layer::user::double_click(*box.array, box.Index);
+}
+
+bool open_menu(const forms_layer::picture_box& box, const QPoint& at) {
+  if (box.array == nullptr || box.array->ContextMenu == nullptr) return false;
+  forms_layer::user::open_menu(*box.array, box.Index, as_screen_point(at));
+  return true;
 }
 
 canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent) {
@@ -132,6 +140,20 @@ void canvas::mouseDoubleClickEvent(QMouseEvent* event) {
   const forms_layer::picture_box* clicked = picture_at(event->position().toPoint());
   if (clicked != std::exchange(pressed_, clicked)) return;
   if (clicked != nullptr && event->button() == Qt::LeftButton) double_click(*clicked);
+}
+
+// Events that a control on the canvas had no use for come here too.
+void canvas::contextMenuEvent(QContextMenuEvent* event) {
+  bool opened = false;
+  if (event->reason() != QContextMenuEvent::Keyboard) {
+    const forms_layer::picture_box* box = picture_at(event->pos());
+    const bool is_open_to_mouse = box != nullptr && childAt(event->pos()) == nullptr;
+    opened = is_open_to_mouse && open_menu(*box, event->globalPos());
+  } else if (hasFocus() && !pictures_[cursor_].rect.isNull()) {
+    const picture& p = pictures_[cursor_];
+    opened = open_menu(*p.box, mapToGlobal(p.rect.center()));
+  }
+  event->setAccepted(opened);
 }
 
 void canvas::damage_cursor() { damage(with_cursor(pictures_[cursor_].rect)); }

@@ -39,6 +39,7 @@ class canvas : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -60,5 +61,7 @@ class canvas : public QWidget {
 
 // What a double click on a picture does.
 void double_click(const forms_layer::picture_box& box);
+// What the right button does, at a point of the screen. False if the picture has no menu.
+bool open_menu(const forms_layer::picture_box& box, const QPoint& at);
 
 }  // namespace desktop

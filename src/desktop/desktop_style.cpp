@@ -7,6 +7,8 @@
 #include <QStyleOption>
 #include <QTextOption>
 
+#include "desktop/control_view.h"
+
 namespace desktop {
 
 namespace {
@@ -39,11 +41,12 @@ void desktop_style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
 }
 
-// The caption of a push button does not wrap in Qt.
+// The caption of a push button does not wrap in Qt. Those of Qt's own dialogs need not.
 void desktop_style::drawControl(ControlElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-  if (element != CE_PushButtonLabel || button == nullptr) {
+  const bool wraps = dynamic_cast<const control_view*>(widget) != nullptr;
+  if (element != CE_PushButtonLabel || button == nullptr || !wraps) {
     QProxyStyle::drawControl(element, option, painter, widget);
     return;
   }

@@ -1,6 +1,8 @@
 #include "desktop/form_window.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWindow>
 #include <utility>
@@ -81,11 +83,22 @@ void form_window::changeEvent(QEvent* event) {
 void form_window::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Refresh)) {
     forms_layer::user::reload(form);
+  } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    open_focused_menu();
   } else if (event->key() == Qt::Key_Escape) {
     forms_layer::user::cancel(form);
   } else {
     QMainWindow::keyPressEvent(event);
   }
+}
+
+// What the menu key does, which Qt answers by itself.
+void form_window::open_focused_menu() {
+  QWidget* focused = focusWidget();
+  if (focused == nullptr) return;
+  const QPoint middle = focused->rect().center();
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, middle, focused->mapToGlobal(middle));
+  QCoreApplication::sendEvent(focused, &asked);
 }
 
 void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_handler) {

@@ -39,6 +39,7 @@ class form_window : public QMainWindow {
   int menu_height() const;
   void set_designed_size();
   void set_tab_order();
+  void open_focused_menu();
 
   views& views_;
   menu_bar* menus_ = nullptr;

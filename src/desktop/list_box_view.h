@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/dialogs.h"
 #include "desktop/rows_view.h"
 #include "forms_layer/list_box.h"
 #include "forms_layer/user.h"
@@ -19,6 +20,9 @@ class list_box_view : public rows_view {
   int selected_row() const override { return list_.ListIndex(); }
   void row_chosen(int row) override { forms_layer::user::select_row(list_, row); }
   void row_double_clicked(int row) override { forms_layer::user::double_click(list_, row); }
+  void menu_requested(int row, const QPoint& at) override {
+    forms_layer::user::open_menu(list_, row, as_screen_point(at));
+  }
 
  private:
   forms_layer::list_box& list_;

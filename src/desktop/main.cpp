@@ -8,6 +8,7 @@
 #include "files/paths.h"
 #include "files/program_folder.h"
 #include "handlers/start_up.h"
+#include "pictures/icon_exporter.h"
 
 namespace {
 
@@ -43,7 +44,7 @@ int main(int argc, char** argv) {
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::start_tool(files::program_folder());
+  ostrane::start_tool(files::program_folder(), ostrane::make_icon_exporter());
   const int outcome = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return outcome;

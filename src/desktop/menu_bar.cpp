@@ -5,25 +5,10 @@
 #include <QShortcut>
 
 #include "desktop/designed_look.h"
-#include "desktop/screen_text.h"
+#include "desktop/menu_captions.h"
 #include "forms_layer/user.h"
 
 namespace desktop {
-
-namespace {
-
-QString with_shortcut(const std::string& caption, QString& taken) {
-  const QString text = to_screen(caption);
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    const QChar letter = text[at].toUpper();
-    if (!letter.isLetter() || taken.contains(letter)) continue;
-    taken += letter;
-    return escape_ampersands(text.left(at)) + QLatin1Char('&') + escape_ampersands(text.mid(at));
-  }
-  return escape_ampersands(text);
-}
-
-}  // namespace
 
 menu_bar::menu_bar(forms_layer::form& shown, QWidget* window) : QMenuBar(window) {
   setNativeMenuBar(false);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -81,6 +82,16 @@ void paint_picture(QPainter& painter, const picture_box& box, const QRect& place
                      qsizetype{part.width()} * static_cast<qsizetype>(sizeof(QRgb)),
                      QImage::Format_RGB32);
   painter.drawImage(part.topLeft(), image);
+}
+
+QImage image_of(const picture_box& box) {
+  QImage image(box.columns(), box.rows(), QImage::Format_ARGB32);
+  const std::vector<QRgb>& rows = converted(box, image.rect(), qRgba(0, 0, 0, 0));
+  for (int y = 0; y < image.height(); ++y) {
+    std::copy_n(rows.begin() + std::ptrdiff_t{y} * image.width(), image.width(),
+                reinterpret_cast<QRgb*>(image.scanLine(y)));
+  }
+  return image;
 }
 
 }  // namespace desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QPainter>
 
 #include "forms_layer/picture_box.h"
@@ -10,5 +11,8 @@ namespace desktop {
 // where pixels are unset. A pixel of the box is a sharp square on a scaled screen.
 void paint_picture(QPainter& painter, const forms_layer::picture_box& box, const QRect& place,
                    const QRect& dirty);
+
+// The pixels of a picture box, where unset ones are transparent.
+QImage image_of(const forms_layer::picture_box& box);
 
 }  // namespace desktop

@@ -1,12 +1,15 @@
 #include "desktop/qt_screen.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMetaObject>
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
 
+#include "desktop/dialogs.h"
 #include "desktop/message.h"
+#include "desktop/picture_painter.h"
 #include "desktop/window_system.h"
 #include "forms_layer/events.h"
 
@@ -54,6 +57,23 @@ void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
   show_message(title, text, topmost(nullptr));
   sync_soon();
+}
+
+forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
+                                             forms_layer::screen_point at) {
+  sync();
+  return desktop::pick_item(opened, at, topmost(nullptr));
+}
+
+forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
+  sync();
+  const forms_layer::save_answer answer = desktop::ask_save_path(question, topmost(nullptr));
+  sync_soon();
+  return answer;
+}
+
+void qt_screen::copy_picture(const forms_layer::picture_box& shown) {
+  QGuiApplication::clipboard()->setImage(image_of(shown));
 }
 
 // Nothing is open and nothing is to be saved.

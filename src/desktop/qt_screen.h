@@ -31,6 +31,10 @@ class qt_screen : public forms_layer::screen {
   void refresh(forms_layer::form& shown) override;
   void refresh(forms_layer::control& shown) override;
   void message_box(const std::string& title, const std::string& text) override;
+  forms_layer::menu_item* pick_item(forms_layer::context_menu& opened,
+                                    forms_layer::screen_point at) override;
+  forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override;
+  void copy_picture(const forms_layer::picture_box& shown) override;
   void end_process() override;
 
   // The window of a form; null until it is shown the first time.

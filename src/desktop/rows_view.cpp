@@ -1,5 +1,6 @@
 #include "desktop/rows_view.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
@@ -104,6 +105,15 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
   QListView::keyPressEvent(event);
   const int now = currentIndex().row();
   if (now >= 0 && now != before) choose(now);
+}
+
+void rows_view::contextMenuEvent(QContextMenuEvent* event) {
+  const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex on = by_key ? model_.index(selected_row()) : indexAt(event->pos());
+  if (!on.isValid()) return;
+  if (by_key) scrollTo(on);
+  const QPoint middle = viewport()->mapToGlobal(visualRect(on).center());
+  menu_requested(on.row(), by_key ? middle : event->globalPos());
 }
 
 bool rows_view::viewportEvent(QEvent* event) {

@@ -29,6 +29,8 @@ class rows_view : public QListView, public control_view {
   virtual void row_chosen(int /*row*/) {}
   virtual void row_double_clicked(int /*row*/) {}
   virtual void enter_pressed(int /*row*/) {}
+  // The right button or the menu key, at a point of the screen.
+  virtual void menu_requested(int /*row*/, const QPoint& /*at*/) {}
 
   void show_content() override;
   void show_selection() override;
@@ -38,6 +40,7 @@ class rows_view : public QListView, public control_view {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;

@@ -150,6 +150,13 @@ file_path in_current_folder(const std::string& name) {
   return {case_insensitive_lookup().find(folder, name), name};
 }
 
+file_path from_system_path(const fs::path& path) {
+  const std::string shown = to_tool_path(path);
+  if (!shown.empty()) return {path, shown};
+  const std::u8string utf8 = path.u8string();
+  return {path, from_utf8_lossy({reinterpret_cast<const char*>(utf8.data()), utf8.size()})};
+}
+
 std::string current_folder() {
   if (!current_folder_override().empty()) return current_folder_override();
   std::error_code failed;

@@ -40,6 +40,9 @@ file_path to_file_path(const std::string& path, case_insensitive_lookup& names);
 // folder's path. Throws file_error if the folder does not exist any more.
 file_path in_current_folder(const std::string& name);
 
+// A path of the system, which messages show as a tool path if it has one.
+file_path from_system_path(const std::filesystem::path& path);
+
 // The current folder of the process as a tool path; "C:\" if it has none.
 std::string current_folder();
 

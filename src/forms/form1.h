@@ -144,6 +144,14 @@ struct form1 : forms_layer::form {
   forms_layer::menu_item mnu_skillin3{mnu_rep, "mnu_skillin3", ""};
   forms_layer::menu_item mnu_read_filelist{mnu_rep, "mnu_read_filelist",
                                            "Compare current Ostrane.dat with \"s16list.txt\""};
+
+  forms_layer::context_menu mnu_picture{*this, "mnu_picture"};
+  forms_layer::menu_item mnu_copy_picture{mnu_picture, "mnu_copy_picture", "Copy picture"};
+  forms_layer::menu_item mnu_save_picture{mnu_picture, "mnu_save_picture", "Save picture\x85"};
+  forms_layer::menu_item mnu_save_series{mnu_picture, "mnu_save_series", "Save series\x85"};
+  forms_layer::context_menu mnu_entry{*this, "mnu_entry"};
+  forms_layer::menu_item mnu_extract_entry{mnu_entry, "mnu_extract_entry",
+                                           "Extract this entry\x85"};
 };
 
 extern form1 Form1;

@@ -1,4 +1,5 @@
 #include "forms_layer/application.h"
+#include "forms_layer/dialogs.h"
 #include "forms_layer/events.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/user.h"
@@ -9,6 +10,7 @@ void begin_process() {
   reset_end_of_process();
   clear_events();
   clear_messages();
+  answers = {};
   user::clear_focus();
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms_layer/control.h"
+#include "forms_layer/menu.h"
 #include "forms_layer/row_text.h"
 
 namespace forms_layer {
@@ -21,6 +22,7 @@ class list_box : public control {
 
   event Click;
   event DblClick;
+  context_menu* ContextMenu = nullptr;  // of its rows
 
   void AddItem(std::string text) {
     // Untouched pages are free, regrowing is not.

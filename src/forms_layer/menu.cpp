@@ -22,4 +22,6 @@ menu::menu(form& shown_on, const char* menu_name, std::string caption)
   owner.menus.push_back(this);
 }
 
+menu::menu(form& opened_on, const char* menu_name) : owner(opened_on), name(menu_name) {}
+
 }  // namespace forms_layer

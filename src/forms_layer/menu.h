@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +43,19 @@ class menu {
   const char* const name;
   const std::string Caption;
   std::vector<menu_item*> items;
+
+ protected:
+  // Not in the menu bar.
+  menu(form& opened_on, const char* menu_name);
+};
+
+// A menu that opens on a row or an element of a control, by the right mouse button or the menu key.
+class context_menu : public menu {
+ public:
+  context_menu(form& opened_on, const char* menu_name) : menu(opened_on, menu_name) {}
+
+  // Raised with the index of the row or element. Enables the items; false if nothing opens there.
+  std::function<bool(std::int32_t index)> Popup;
 };
 
 }  // namespace forms_layer

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "forms_layer/menu.h"
 #include "forms_layer/picture_box.h"
 
 namespace forms_layer {
@@ -35,6 +36,7 @@ class picture_array {
 
   // Raised with the index of the element.
   std::function<void(std::int32_t)> DblClick;
+  context_menu* ContextMenu = nullptr;  // of its elements
 
  private:
   void add(const design& as_designed) {

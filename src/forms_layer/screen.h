@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "forms_layer/property.h"
 
@@ -10,6 +14,31 @@ class control;
 class form;
 class timer;
 class menu_item;
+class context_menu;
+class picture_box;
+
+// In device-independent pixels. Small, so that an event that holds one needs no memory.
+struct screen_point {
+  std::int16_t x = 0;
+  std::int16_t y = 0;
+};
+
+// A kind of file that the user can save, such as "PNG" with the ending ".png".
+struct file_kind {
+  std::string label;
+  std::string ending;
+};
+
+struct save_question {
+  std::string title;
+  std::string stem;              // the proposed name is this and the ending of the first kind
+  std::vector<file_kind> kinds;  // at least one
+};
+
+struct save_answer {
+  std::filesystem::path path;  // empty if the user gave none
+  std::size_t kind = 0;        // that was selected; the name may have another ending
+};
 
 // Shows the forms to a user. The forms also work without one.
 class screen {
@@ -30,6 +59,15 @@ class screen {
 
   // Shows a modal box with an OK button and returns when the user closes it.
   virtual void message_box(const std::string& title, const std::string& text) = 0;
+
+  // Opens a menu and returns the item that the user picks, or null.
+  virtual menu_item* pick_item(context_menu& opened, screen_point at) = 0;
+
+  // Shows the system's dialog for a file to save to. It asks before it returns an existing file.
+  virtual save_answer ask_save_path(const save_question& question) = 0;
+
+  // Puts the pixels of a picture on the clipboard; unset ones are transparent.
+  virtual void copy_picture(const picture_box& shown) = 0;
 
   virtual void end_process() = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms_layer/dialogs.h"
 #include "forms_layer/events.h"
 
 namespace forms_layer::user {
@@ -35,6 +36,13 @@ std::string limited(const std::string& before, const std::string& after, std::si
   const std::size_t room = limit - std::min(limit, head + tail);
   return after.substr(0, std::min(head + room, after.size() - tail)) +
          after.substr(after.size() - tail);
+}
+
+// The menu and its item are one event, so that what the menu was opened on stays as it is.
+void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
+  if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
+  const menu_item* picked = pick_item(*opened, at);
+  if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
 void reload_lists(form& window) {
@@ -96,6 +104,19 @@ void select_row(list_box& list, std::int32_t row) {
 void double_click(list_box& list, std::int32_t row) {
   run_event([&list, row] {
     if (list.takes_input() && row >= 0 && row == list.ListIndex()) raise(list.DblClick);
+  });
+}
+
+void open_menu(list_box& list, std::int32_t row, screen_point at) {
+  run_event([&list, row, at] {
+    const bool is_there = row >= 0 && row < list.ListCount();
+    if (list.takes_input() && is_there) pick_and_click(list.ContextMenu, row, at);
+  });
+}
+
+void open_menu(picture_array& array, std::int32_t index, screen_point at) {
+  run_event([&array, index, at] {
+    if (array(index).takes_input()) pick_and_click(array.ContextMenu, index, at);
   });
 }
 

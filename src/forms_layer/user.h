@@ -4,6 +4,7 @@
 #include <string>
 
 #include "forms_layer/controls.h"
+#include "forms_layer/screen.h"
 
 // The actions of a user, which the screen and the tests call. Each is one event (see run_event) and
 // does nothing if the control does not take input when the event runs.
@@ -24,6 +25,11 @@ void double_click(picture_array& array, std::int32_t index);
 void select_row(list_box& list, std::int32_t row);
 // The second click of a double click; call `select_row` for the first one.
 void double_click(list_box& list, std::int32_t row);
+
+// The right button or the menu key on a row or an element, which need not be selected: opens the
+// menu at a point of the screen, and clicks the item that the user picks.
+void open_menu(list_box& list, std::int32_t row, screen_point at = {});
+void open_menu(picture_array& array, std::int32_t index, screen_point at = {});
 
 // `text` is the whole content after the edit. What the user added beyond `max_length` is cut; a
 // locked field ignores it.

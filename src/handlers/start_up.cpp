@@ -11,7 +11,7 @@
 
 namespace ostrane {
 
-void start_tool(const std::filesystem::path& program_folder) {
+void start_tool(const std::filesystem::path& program_folder, icon_exporter exporter) {
   files::ignore_size_limit_signal();
   forms_layer::begin_process();
   connect_file_service();
@@ -19,6 +19,7 @@ void start_tool(const std::filesystem::path& program_folder) {
   forms_layer::application.Path = program_folder;
   forms_layer::application.OutOfMemory = recover_from_out_of_memory;
   reset_state();
+  tool_state.export_icons = exporter;
   reset_forms();
   wire_forms();
   forms_layer::run_event([] {

@@ -1,6 +1,7 @@
 #include "handlers/wiring.h"
 
 #include "archive/builder.h"
+#include "archive/entry_menu.h"
 #include "archive/extraction.h"
 #include "archive/new_folder.h"
 #include "forms/forms.h"
@@ -8,6 +9,7 @@
 #include "handlers/entry_selection.h"
 #include "handlers/load_form1.h"
 #include "handlers/main_window.h"
+#include "handlers/picture_menu.h"
 #include "handlers/sync_to_drive.h"
 #include "handlers/window_switching.h"
 #include "icons/icon_report.h"
@@ -16,6 +18,7 @@
 #include "lists/compare.h"
 #include "lists/save_file_list.h"
 #include "progress/progress.h"
+#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -41,6 +44,18 @@ void wire_form1() {
   Form1.Command6.Click = show_next_series;
   Form1.Timer1.Timer = step_motion;
   Form1.s16_image.DblClick = show_icon_report;
+}
+
+void wire_context_menus() {
+  Form1.s16_image.ContextMenu = &Form1.mnu_picture;
+  Form1.mnu_picture.Popup = prepare_picture_menu;
+  Form1.mnu_copy_picture.Click = copy_picture;
+  Form1.mnu_save_picture.Click = save_picture;
+  Form1.mnu_save_series.Click = save_series;
+  if (tool_state.export_icons == nullptr) Form1.mnu_picture.items = {&Form1.mnu_copy_picture};
+  Form1.List1.ContextMenu = &Form1.mnu_entry;
+  Form1.mnu_entry.Popup = prepare_entry_menu;
+  Form1.mnu_extract_entry.Click = extract_one_entry;
 }
 
 void wire_form2() {
@@ -88,6 +103,7 @@ void wire_form6() {
 
 void wire_forms() {
   wire_form1();
+  wire_context_menus();
   wire_form2();
   wire_form3();
   wire_form4();

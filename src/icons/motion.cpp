@@ -18,13 +18,6 @@ namespace {
 constexpr double max_interval = 65535;
 constexpr std::int32_t default_interval = 100;
 
-std::int32_t interval_in_milliseconds() {
-  const double hundredths = files::as_number(Form1.Text4.Text()).value_or(0);
-  if (hundredths <= 0) return default_interval;
-  const double milliseconds = std::nearbyint(std::min(hundredths * 10, max_interval));
-  return std::max(1, static_cast<std::int32_t>(milliseconds));
-}
-
 // If icons remain after this series, the motion omits its last slot.
 std::int16_t last_slot_of_motion() {
   const bool is_last_series = tool_state.series_next_icon == tool_state.shp_head.icon_count;
@@ -46,10 +39,17 @@ void switch_to_slot(std::int16_t slot) {
 
 }  // namespace
 
+std::int32_t motion_interval() {
+  const double hundredths = files::as_number(Form1.Text4.Text()).value_or(0);
+  if (hundredths <= 0) return default_interval;
+  const double milliseconds = std::nearbyint(std::min(hundredths * 10, max_interval));
+  return std::max(1, static_cast<std::int32_t>(milliseconds));
+}
+
 void start_motion() {
   enable_stepping(false);
   tool_state.browse_ready = flag_true;
-  Form1.Timer1.Interval = interval_in_milliseconds();
+  Form1.Timer1.Interval = motion_interval();
   tool_state.motion_last_slot = last_slot_of_motion();
   for (std::int32_t slot = 1; slot <= tool_state.motion_last_slot; ++slot) {
     Form1.s16_image(slot).Move(grid_left, grid_top);

@@ -1,9 +1,14 @@
 #pragma once
 
+#include <cstdint>
+
 namespace ostrane {
 
-// Moves the slots of the series to one position, hides them and starts `Timer1` at the interval in
-// `Text4` (hundredths of a second). Anything but a number above 0 counts as 10.
+// The interval in `Text4` (hundredths of a second), in milliseconds. Anything but a number above 0
+// counts as 10 hundredths.
+std::int32_t motion_interval();
+
+// Moves the slots of the series to one position, hides them and starts `Timer1` at that interval.
 void start_motion();
 
 // Tick of `Timer1`: shows the next slot of the stack; after the last one stops the timer.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "data/archive_format.h"
+#include "data/icon_export.h"
 #include "data/icon_names.h"
 #include "data/icon_stream.h"
 #include "data/palette.h"
@@ -53,6 +54,9 @@ struct tool_state_record {
   std::string archive_path;
 
   std::array<forms_layer::colour, 256> colour_table = {};
+
+  icon_exporter export_icons = nullptr;  // null if the program was built without it
+  std::int32_t menu_target = 0;          // row of List1 or slot on which a context menu was opened
 
   std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // 1-based file positions
   std::int16_t icon_number = 0;                                     // of the current icon, from 1

@@ -143,7 +143,7 @@ TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {
   EXPECT_NE(
       bytes_of("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
       std::string::npos);
-  EXPECT_NE(bytes_of("F-sheet.json").find("\"w\": 12,\n   \"h\": 4"), std::string::npos);
+  EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
   EXPECT_NE(bytes_of("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
             std::string::npos);
 }

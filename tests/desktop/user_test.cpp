@@ -1,7 +1,10 @@
 // What the user does reaches the tool, also by keyboard and through a screen reader.
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -23,8 +26,11 @@ struct Input : Desktop {
   QAbstractItemView* rows_of(const forms_layer::control& shown) {
     return static_cast<QAbstractItemView*>(widget_of(window, shown));
   }
+  static QPoint middle_of(QAbstractItemView* list, int row) {
+    return list->visualRect(list->model()->index(row, 0)).center();
+  }
   static void press_row(QAbstractItemView* list, int row, bool again = false) {
-    const QPoint middle = list->visualRect(list->model()->index(row, 0)).center();
+    const QPoint middle = middle_of(list, row);
     again ? press_again(list->viewport(), middle) : press(list->viewport(), middle);
   }
 
@@ -147,6 +153,82 @@ TEST_F(Input, KeysReachEveryPictureOnShow) {
   for (int i = 1; i <= 5; ++i) form.pictures(i).Visible = false;
   QCoreApplication::processEvents();
   EXPECT_FALSE(has_cursor());
+}
+
+// A menu opens on what is under the mouse, or by key on what is selected. No tick comes meanwhile.
+TEST_F(Input, ContextMenusOpenByMouseAndKey) {
+  for (int i = 0; i < 3; ++i) form.list.AddItem("row");
+  form.list.ContextMenu = form.pictures.ContextMenu = &form.context;
+  form.pictures.DblClick = [](int) {};
+  form.pick.Click = [&] { log += "picked "; };
+  form.context.Popup = [&](int index) {
+    log += std::to_string(index) + " ";
+    return true;
+  };
+  form.timer.Timer = [&] { log += "tick", form.timer.Enabled = false; };
+  form.timer.Interval = 1;
+  write([&] { picture().Visible = true, form.pictures(2).Visible = true; });
+  write([&] { form.pictures(2).Move(900, 900), form.list.ListIndex = 2; });
+  QAbstractItemView* list = rows_of(form.list);
+  const auto right_press = [&](QWidget* on, const QPoint& at) {
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, on->mapTo(&window, at));
+  };
+  const auto by_key = [](QWidget* on) {
+    on->setFocus();
+    QTest::keyClick(on, Qt::Key_F10, Qt::ShiftModifier);
+  };
+  const std::pair<std::function<void()>, const char*> cases[] = {
+      {[&] { right_press(list->viewport(), middle_of(list, 1)); }, "1 picked tick"},
+      {[&] { by_key(list); }, "2 picked tick"},
+      {[&] {
+         right_press(canvas, {61, 61});
+       },
+       "2 picked tick"},
+      {[&] { by_key(canvas); }, "1 picked tick"},
+      {[&] { by_key(widget_of(window, form.inner)); }, ""},
+      {[&] {
+         right_press(canvas, {5, 150});
+       },
+       ""},
+  };
+  for (const auto& [open, expected] : cases) {
+    log.clear();
+    QTimer::singleShot(20, [&] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      form.timer.Enabled = true;
+      QTest::qWait(20);
+      QTest::keyClick(menu, Qt::Key_P);
+    });
+    open();
+    QTest::qWait(50);
+    EXPECT_EQ(log, expected) << &open - &cases[0].first;
+  }
+}
+
+TEST_F(Input, SaveDialogsAndTheClipboard) {
+  picture().Width = 60;
+  picture().PSet(0, 0, forms_layer::rgb(1, 2, 3));
+  screen.copy_picture(picture());
+  const QImage copied = QGuiApplication::clipboard()->image();
+  EXPECT_EQ(copied.size(), QSize(2, picture().rows()));
+  EXPECT_EQ(copied.pixel(0, 0), qRgb(1, 2, 3));
+  EXPECT_EQ(qAlpha(copied.pixel(1, 0)), 0);
+  QTimer::singleShot(20, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    dialog->setDirectory(QString::fromStdString(folder.string()));
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), "A\u00C9-sheet.png");
+    auto* kinds = dialog->findChild<QComboBox*>("fileTypeCombo");
+    kinds->setFocus();
+    kinds->setCurrentIndex(1);
+    emit kinds->activated(1), emit kinds->textActivated(kinds->currentText());
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), "A\u00C9.gif");
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  const forms_layer::save_answer answer =
+      screen.ask_save_path({"Save", "A\xC9", {{"Sheet", "-sheet.png"}, {"Motion", ".gif"}}});
+  EXPECT_EQ(answer.path, folder / "A\u00C9.gif");
+  EXPECT_EQ(answer.kind, 1U);
 }
 
 TEST_F(Input, AWriteRestartsATimer) {

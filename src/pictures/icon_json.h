@@ -7,7 +7,7 @@
 #include "data/shp_format.h"
 
 // The JSON that an export of an icon file writes beside its PNGs; docs/command.md tells its fields.
-namespace ostrane::command {
+namespace ostrane {
 
 struct exported_icon {
   std::optional<std::string> file;  // the PNG, in UTF-8; none of an icon that cannot be drawn
@@ -20,6 +20,7 @@ struct exported_icons {
   std::string name;  // of the entry, in UTF-8
   shp_identifier identifier = {};
   int scale = 1;
+  std::size_t first = 1;  // number of the first icon; not read
   std::vector<exported_icon> icons;
 };
 
@@ -29,4 +30,4 @@ std::string json_of(const exported_icons& exported);
 // name.
 exported_icons read_icon_json(const std::string& text, const std::string& shown);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

@@ -5,7 +5,7 @@
 
 #include "data/picture.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 // All pictures on a grid of equal cells, row by row, as near to a square as it goes.
 struct sheet {
@@ -24,4 +24,4 @@ std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     const std::vector<std::string>& names, const std::string& image, int pace,
                     int scale);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "command/pictures/new_icon.h"
 #include "files/binary_file.h"
+#include "pictures/new_icon.h"
 
 namespace ostrane::command {
 

@@ -1,10 +1,10 @@
-#include "command/pictures/pixel_form.h"
+#include "pictures/pixel_form.h"
 
 #include <algorithm>
 #include <array>
 #include <unordered_set>
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -71,4 +71,4 @@ colour_table distinct_colours(const colour_table& palette) {
   return distinct;
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

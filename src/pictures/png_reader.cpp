@@ -1,4 +1,4 @@
-#include "command/pictures/png_reader.h"
+#include "pictures/png_reader.h"
 
 #include <png.h>
 
@@ -10,7 +10,7 @@
 #include "data/data_error.h"
 #include "data/icon_file.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -189,4 +189,4 @@ png_picture read_png(std::string_view bytes, const std::string& shown, colour_fi
   return std::move(job.result);
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

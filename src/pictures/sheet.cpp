@@ -1,18 +1,16 @@
-#include "command/pictures/sheet.h"
+#include "pictures/sheet.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
-#include "command/pictures/pixel_form.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
+#include "pictures/json_text.h"
+#include "pictures/pixel_form.h"
 #include "state/version.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
-
-using json = nlohmann::ordered_json;
 
 constexpr int milliseconds_per_hundredth = 10;
 
@@ -26,8 +24,15 @@ grid_place place_of(const sheet& all, std::size_t number) {
   return {n % all.columns * all.cell_width, n / all.columns * all.cell_height};
 }
 
-json rectangle(int x, int y, int width, int height) {
-  return {{"x", x}, {"y", y}, {"w", width}, {"h", height}};
+std::string size_json(int width, int height) {
+  return json_object({{"w", std::to_string(width)}, {"h", std::to_string(height)}});
+}
+
+std::string rectangle(int x, int y, int width, int height) {
+  return json_object({{"x", std::to_string(x)},
+                      {"y", std::to_string(y)},
+                      {"w", std::to_string(width)},
+                      {"h", std::to_string(height)}});
 }
 
 }  // namespace
@@ -58,27 +63,29 @@ sheet sheet_of(const std::vector<picture>& pictures) {
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     const std::vector<std::string>& names, const std::string& image, int pace,
                     int scale) {
-  json frames = json::array();
+  std::string text = "{\"frames\":[";
   for (std::size_t i = 0; i < pictures.size(); ++i) {
     const grid_place at = place_of(all, i);
     const int width = pictures[i].columns() * scale;
     const int height = pictures[i].rows() * scale;
-    frames.push_back({{"filename", names[i]},
-                      {"frame", rectangle(at.left * scale, at.top * scale, width, height)},
-                      {"rotated", false},
-                      {"trimmed", false},
-                      {"spriteSourceSize", rectangle(0, 0, width, height)},
-                      {"sourceSize", {{"w", width}, {"h", height}}},
-                      {"duration", pace * milliseconds_per_hundredth}});
+    text += i == 0 ? "\n " : ",\n ";
+    text += json_object({{"filename", json_string(names[i])},
+                         {"frame", rectangle(at.left * scale, at.top * scale, width, height)},
+                         {"rotated", "false"},
+                         {"trimmed", "false"},
+                         {"spriteSourceSize", rectangle(0, 0, width, height)},
+                         {"sourceSize", size_json(width, height)},
+                         {"duration", std::to_string(pace * milliseconds_per_hundredth)}});
   }
-  const json meta = {
-      {"app", "ostrane-dat"},
-      {"version", version},
-      {"image", image},
-      {"format", form_of(all.drawn).is_indexed ? "I8" : "RGBA8888"},
-      {"size", {{"w", all.drawn.columns() * scale}, {"h", all.drawn.rows() * scale}}},
-      {"scale", "1"}};
-  return json{{"frames", frames}, {"meta", meta}}.dump(1) + "\n";
+  const char* pixels = form_of(all.drawn).is_indexed ? "I8" : "RGBA8888";
+  const std::string meta =
+      json_object({{"app", json_string("ostrane-dat")},
+                   {"version", json_string(version)},
+                   {"image", json_string(image)},
+                   {"format", json_string(pixels)},
+                   {"size", size_json(all.drawn.columns() * scale, all.drawn.rows() * scale)},
+                   {"scale", json_string("1")}});
+  return text + "\n],\"meta\":" + meta + "}\n";
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

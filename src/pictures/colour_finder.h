@@ -3,9 +3,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "command/pictures/pixel_form.h"
+#include "pictures/pixel_form.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 struct found_colour {
   std::uint8_t index = 0;
@@ -40,4 +40,4 @@ class colour_finder {
   std::vector<remembered_colour> remembered_;  // of many colours the last ones
 };
 
-}  // namespace ostrane::command
+}  // namespace ostrane

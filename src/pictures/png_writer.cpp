@@ -1,14 +1,14 @@
-#include "command/pictures/png_writer.h"
+#include "pictures/png_writer.h"
 
 #include <png.h>
 
 #include <csetjmp>
 #include <vector>
 
-#include "command/pictures/pixel_form.h"
 #include "data/data_error.h"
+#include "pictures/pixel_form.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -113,10 +113,14 @@ std::string png_of(const picture& drawn, const colour_table& palette, const colo
   png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, &job, fail, ignore_warning);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
   if (info == nullptr) throw std::bad_alloc();
+  const struct writer_guard {
+    png_structp png;
+    png_infop info;
+    ~writer_guard() { png_destroy_write_struct(&png, &info); }
+  } at_end{png, info};
   write(png, info, job);
-  png_destroy_write_struct(&png, &info);
   if (!job.failure.empty()) throw data_error("A PNG cannot be made: " + job.failure + ".");
   return std::move(job.bytes);
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

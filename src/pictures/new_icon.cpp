@@ -1,4 +1,4 @@
-#include "command/pictures/new_icon.h"
+#include "pictures/new_icon.h"
 
 #include <algorithm>
 
@@ -6,7 +6,7 @@
 #include "data/icon_file.h"
 #include "data/shp_reader.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -59,4 +59,4 @@ shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known) 
   return {head, packed(drawn, head)};
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

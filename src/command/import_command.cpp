@@ -6,13 +6,13 @@
 
 #include "command/commands.h"
 #include "command/console.h"
+#include "command/import_sources.h"
 #include "command/named_files.h"
-#include "command/pictures/import_sources.h"
-#include "command/pictures/png_reader.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "data/palette.h"
 #include "files/whole_file.h"
+#include "pictures/png_reader.h"
 
 namespace ostrane::command {
 

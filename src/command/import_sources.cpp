@@ -1,10 +1,9 @@
-#include "command/pictures/import_sources.h"
+#include "command/import_sources.h"
 
 #include <algorithm>
 #include <memory>
 
 #include "command/named_files.h"
-#include "command/pictures/icon_json.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
@@ -12,6 +11,7 @@
 #include "files/file_calls.h"
 #include "files/text.h"
 #include "files/whole_file.h"
+#include "pictures/icon_json.h"
 
 namespace ostrane::command {
 

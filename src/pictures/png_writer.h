@@ -5,7 +5,7 @@
 #include "data/game_palette.h"
 #include "data/picture.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 // The bytes of a PNG in which each cell is `scale` pixels wide and high. pixel_form.h tells the
 // pixels. Throws data_error if libpng fails.
@@ -13,4 +13,4 @@ namespace ostrane::command {
 std::string png_of(const picture& drawn, const colour_table& palette, const colour_table& distinct,
                    int scale = 1);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

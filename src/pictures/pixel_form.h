@@ -9,7 +9,7 @@
 // How the cells of a picture become pixels of a PNG, of which none is lost: indexed with the
 // palette, where one index that the picture does not use stands for unset cells; or, if it uses all
 // 256 and has unset cells too, with a colour and an alpha value for each pixel.
-namespace ostrane::command {
+namespace ostrane {
 
 struct pixel_form {
   bool is_indexed = true;
@@ -25,4 +25,4 @@ colour_table distinct_colours(const colour_table& palette);
 // The squared distance of two colours.
 std::int32_t distance(std::uint32_t a, std::uint32_t b);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

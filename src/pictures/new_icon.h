@@ -4,7 +4,7 @@
 
 #include "data/icon_packer.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 // What is known of an icon before its picture is read.
 struct known_icon {
@@ -17,4 +17,4 @@ struct known_icon {
 // far outside the picture that no decoder would come to it.
 shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

@@ -6,7 +6,7 @@
 #include "data/game_palette.h"
 #include "data/picture.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 // The bytes of a GIF that shows the pictures once, one after the other, each for `pace` hundredths
 // of a second. Each cell is `scale` pixels wide and high. A picture that uses all 256 indices and
@@ -15,4 +15,4 @@ namespace ostrane::command {
 std::string gif_of(const std::vector<picture>& pictures, const colour_table& palette, int pace,
                    int scale, std::int64_t& inexact);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

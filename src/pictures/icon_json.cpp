@@ -1,4 +1,4 @@
-#include "command/pictures/icon_json.h"
+#include "pictures/icon_json.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -6,8 +6,9 @@
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "files/code_page.h"
+#include "pictures/json_text.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -20,21 +21,22 @@ const char* text_of(icon_kind kind) {
   return kind == icon_kind::blank ? "blank" : "refused";
 }
 
-json json_of(const exported_icon& icon, std::size_t number) {
+std::string json_of(const exported_icon& icon, std::size_t number) {
   const icon_head& head = icon.head;
-  json object = {{"number", number},
-                 {"file", icon.file ? json(*icon.file) : json()},
-                 {"kind", text_of(classify_icon(head))},
-                 {"offset", icon.offset},
-                 {"no_of_rows", head.no_of_rows},
-                 {"no_of_cols", head.no_of_cols},
-                 {"spare", head.spare},
-                 {"col_start", head.col_start},
-                 {"row_start", head.row_start},
-                 {"col_end", head.col_end},
-                 {"row_end", head.row_end}};
-  if (icon.last_column > head.col_end) object["last_column"] = icon.last_column;
-  return object;
+  std::string text = json_object({{"number", std::to_string(number)},
+                                  {"file", icon.file ? json_string(*icon.file) : "null"},
+                                  {"kind", json_string(text_of(classify_icon(head)))},
+                                  {"offset", std::to_string(icon.offset)},
+                                  {"no_of_rows", std::to_string(head.no_of_rows)},
+                                  {"no_of_cols", std::to_string(head.no_of_cols)},
+                                  {"spare", std::to_string(head.spare)},
+                                  {"col_start", std::to_string(head.col_start)},
+                                  {"row_start", std::to_string(head.row_start)},
+                                  {"col_end", std::to_string(head.col_end)},
+                                  {"row_end", std::to_string(head.row_end)}});
+  if (icon.last_column <= head.col_end) return text;
+  text.back() = ',';
+  return text + "\"last_column\":" + std::to_string(icon.last_column) + "}";
 }
 
 template <typename Number>
@@ -100,17 +102,16 @@ exported_icons read(const std::string& text) {
 }  // namespace
 
 std::string json_of(const exported_icons& exported) {
-  const json head = {{"format", form},
-                     {"name", exported.name},
-                     {"identifier", files::to_utf8(std::string_view(exported.identifier.data(),
-                                                                    exported.identifier.size()))},
-                     {"scale", exported.scale}};
-  std::string text = head.dump();
+  const std::string_view identifier(exported.identifier.data(), exported.identifier.size());
+  std::string text = json_object({{"format", json_string(form)},
+                                  {"name", json_string(exported.name)},
+                                  {"identifier", json_string(files::to_utf8(identifier))},
+                                  {"scale", std::to_string(exported.scale)}});
   text.back() = ',';
   text += "\n \"icons\": [";
   for (std::size_t i = 0; i < exported.icons.size(); ++i) {
     text += i == 0 ? "\n  " : ",\n  ";
-    text += json_of(exported.icons[i], i + 1).dump();
+    text += json_of(exported.icons[i], exported.first + i);
   }
   return text + "\n]}\n";
 }
@@ -126,4 +127,4 @@ exported_icons read_icon_json(const std::string& text, const std::string& shown)
   }
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

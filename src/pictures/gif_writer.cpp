@@ -1,14 +1,14 @@
-#include "command/pictures/gif_writer.h"
+#include "pictures/gif_writer.h"
 
 #include <gif_lib.h>
 
 #include <algorithm>
 #include <memory>
 
-#include "command/pictures/pixel_form.h"
 #include "data/data_error.h"
+#include "pictures/pixel_form.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -135,4 +135,4 @@ std::string gif_of(const std::vector<picture>& pictures, const colour_table& pal
   return bytes;
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

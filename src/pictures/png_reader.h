@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "command/pictures/colour_finder.h"
 #include "data/picture.h"
+#include "pictures/colour_finder.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 struct png_picture {
   picture drawn;
@@ -19,4 +19,4 @@ struct png_picture {
 // max_picture_cells.
 png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours);
 
-}  // namespace ostrane::command
+}  // namespace ostrane

@@ -1,6 +1,6 @@
-#include "command/pictures/colour_finder.h"
+#include "pictures/colour_finder.h"
 
-namespace ostrane::command {
+namespace ostrane {
 
 namespace {
 
@@ -35,4 +35,4 @@ found_colour colour_finder::look_for(std::uint32_t colour) {
   return known.found;
 }
 
-}  // namespace ostrane::command
+}  // namespace ostrane

@@ -1,0 +1,73 @@
+#include "archive/entry_menu.h"
+
+#include <string>
+
+#include "archive/skipped_files.h"
+#include "data/entry_file_name.h"
+#include "data/extraction.h"
+#include "files/failure.h"
+#include "files/paths.h"
+#include "forms/form1.h"
+#include "forms_layer/dialogs.h"
+#include "forms_layer/message_box.h"
+#include "state/open_archive.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+std::string entry_name() {
+  return name_with_blanks(
+      tool_state.dat_index[static_cast<std::size_t>(tool_state.menu_target)].name);
+}
+
+void report_skipped(const std::string& reason) {
+  forms_layer::message_box("This entry was not extracted:" +
+                           skipped_files_text({{entry_name(), reason}}, ""));
+}
+
+extraction_result extract_to(const std::filesystem::path& path) {
+  const auto wanted = static_cast<std::size_t>(tool_state.menu_target);
+  return extract_entries(
+      tool_state.archive_file, index_records(),
+      [&path](const std::string&) { return files::from_system_path(path); },
+      [](const files::file_path&) {},
+      {.on_file = [](std::size_t, const std::string&, std::int32_t) {},
+       .on_bytes = [](std::int32_t) {}},
+      {.is_wanted = [wanted](std::size_t index) { return index == wanted; },
+       .replaces_whole = true});
+}
+
+}  // namespace
+
+bool prepare_entry_menu(std::int32_t row) {
+  tool_state.menu_target = row;
+  Form1.mnu_extract_entry.Enabled = tool_state.archive_is_open == flag_true;
+  return row < tool_state.record_count - 1;
+}
+
+void extract_one_entry() {
+  const std::string unsafe = unsafe_name_reason(entry_name());
+  if (!unsafe.empty()) {
+    report_skipped(unsafe);
+    return;
+  }
+  const forms_layer::save_answer answer = forms_layer::ask_save_path(
+      {.title = "Extract this entry", .stem = entry_name(), .kinds = {{"All files", ""}}});
+  if (answer.path.empty()) return;
+  extraction_result result;
+  std::string failure = files::failure_of(open_archive_file);
+  if (failure.empty()) {
+    result = extract_to(answer.path);
+    failure = result.stopped;
+  }
+  tool_state.archive_file.close();
+  if (!failure.empty()) {
+    forms_layer::message_box(failure + " The entry was not extracted.");
+  } else if (!result.skipped.empty()) {
+    report_skipped(result.skipped.front().reason);
+  }
+}
+
+}  // namespace ostrane

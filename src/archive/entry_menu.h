@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+
+// The context menu on the rows of `List1`.
+namespace ostrane {
+
+// For the row of an entry, which becomes `menu_target`. False for the end record.
+bool prepare_entry_menu(std::int32_t row);
+
+// Asks for a file and extracts the entry `menu_target` to it. An existing file is replaced whole.
+void extract_one_entry();
+
+}  // namespace ostrane

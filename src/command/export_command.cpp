@@ -1,0 +1,161 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "command/commands.h"
+#include "command/console.h"
+#include "command/named_files.h"
+#include "command/program.h"
+#include "data/data_error.h"
+#include "data/entry_file_name.h"
+#include "data/entry_kind.h"
+#include "data/palette.h"
+#include "files/code_page.h"
+#include "files/file_error.h"
+#include "files/whole_file.h"
+#include "pictures/icon_exporter.h"
+#include "pictures/png_writer.h"
+
+namespace ostrane::command {
+
+namespace {
+
+constexpr int palette_side = 16;
+
+struct export_job {
+  const export_options& options;
+  files::binary_file archive = {};
+  files::file_identity identity = {};  // of the archive
+  colour_table palette = {};
+  files::binary_file output = {};
+  int status = status_done;
+};
+
+// An entry, with all texts in UTF-8.
+struct exported_entry {
+  std::string name;
+  std::string stem;  // what its files begin with
+  std::int32_t start = 0;
+  std::int32_t end = 0;
+};
+
+void skip(export_job& job, const exported_entry& entry, const std::string& reason) {
+  tell(entry.name, reason);
+  job.status = status_differs;
+}
+
+files::file_path target_of(const export_job& job, const std::string& name) {
+  const std::filesystem::path path =
+      path_of_argument(job.options.folder) / std::u8string(name.begin(), name.end());
+  return {path, argument_of_path(path) + ":"};
+}
+
+void write_file(export_job& job, const std::string& name, std::string_view bytes) {
+  write_whole_file(job.output, target_of(job, name), bytes, job.identity);
+}
+
+void export_icons(export_job& job, const exported_entry& entry) {
+  const export_options& options = job.options;
+  const bool is_sheet = options.form == picture_form::sheet;
+  make_icon_exporter()(
+      job.archive,
+      {.entry = entry.name,
+       .start = entry.start,
+       .end = entry.end,
+       .colours = job.palette,
+       .form = options.form,
+       .stem = is_sheet ? entry.stem + "-sheet" : entry.stem,
+       .pace = options.pace,
+       .scale = options.scale,
+       .target = [&](const std::string& name) { return target_of(job, name); },
+       .on_skipped = [&](const std::string& reason) { skip(job, entry, reason); },
+       .on_icon = [&](std::size_t number,
+                      std::size_t count) { show_progress(number, count, entry.name); }});
+}
+
+std::string gpl_of(const std::string& name, const colour_table& colours) {
+  std::string text = "GIMP Palette\nName: " + printable(name) + "\nColumns: 16\n#\n";
+  for (std::size_t i = 0; i < colours.size(); ++i) {
+    std::array<char, 48> line = {};
+    std::snprintf(line.data(), line.size(), "%3u %3u %3u\tIndex %zu\n", colours[i] >> 16U,
+                  colours[i] >> 8U & 0xFFU, colours[i] & 0xFFU, i);
+    text += line.data();
+  }
+  return text;
+}
+
+void export_palette(export_job& job, const exported_entry& entry) {
+  const std::int64_t there = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
+  if (entry.start < 0 || there < std::int64_t{palette_colours * colour_size}) {
+    skip(job, entry, "it is too short for a palette");
+    return;
+  }
+  const colour_table colours = read_colours(job.archive, entry.start);
+  picture drawn(palette_side, palette_side);
+  for (int i = 0; i < palette_side * palette_side; ++i) {
+    drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
+  }
+  write_file(job, entry.stem + ".png", png_of(drawn, colours, colours, job.options.scale));
+  write_file(job, entry.stem + ".gpl", gpl_of(entry.name, colours));
+}
+
+void export_text(export_job& job, const exported_entry& entry) {
+  const std::int64_t size = std::int64_t{entry.end} - entry.start;
+  if (entry.start < 0 || size < 0 || entry.end > job.archive.size()) {
+    skip(job, entry, "the archive does not hold it whole");
+    return;
+  }
+  std::string text(static_cast<std::size_t>(size), ' ');
+  job.archive.seek(entry.start);
+  job.archive.read(std::as_writable_bytes(std::span(text)));
+  std::replace(text.begin(), text.end(), '\0', ' ');
+  write_file(job, entry.stem + ".txt", files::to_utf8(text));
+}
+
+void export_one(export_job& job, const exported_entry& entry, entry_kind kind) {
+  if (kind == entry_kind::palette) {
+    export_palette(job, entry);
+  } else if (kind == entry_kind::text) {
+    export_text(job, entry);
+  } else if (kind == entry_kind::other) {
+    skip(job, entry, "left out: it is no icon file, palette or text");
+  } else {
+    export_icons(job, entry);
+  }
+}
+
+void export_entry(export_job& job, const archive_index& index, std::size_t i) {
+  const std::string name = name_with_blanks(index.records[i].name);
+  const exported_entry entry = {.name = files::to_utf8(name),
+                                .stem = files::to_utf8(stem_of_entry(name)),
+                                .start = index.records[i].offset,
+                                .end = index.records[i + 1].offset};
+  const std::string unsafe = unsafe_name_reason(name);
+  if (!unsafe.empty()) {
+    skip(job, entry, "left out: " + unsafe);
+    return;
+  }
+  try {
+    export_one(job, entry, kind_of_entry(name_without_nuls(index.records[i].name)));
+  } catch (const data_error& error) {
+    skip(job, entry, error.text);
+  }
+}
+
+}  // namespace
+
+int export_entries(const export_options& options) {
+  const files::file_path archive = named_file(options.archive);
+  const archive_index index = read_archive_index(archive);
+  const std::vector<bool> chosen = chosen_entries(index.records, options.names);
+  make_folder(options.folder);
+  export_job job = {.options = options};
+  open_unchanged(job.archive, archive, index.stamp);
+  job.identity = index.stamp.identity;
+  job.palette = read_game_colours(job.archive, index.records);
+  for (std::size_t i = 0; i < chosen.size(); ++i) {
+    if (chosen[i]) export_entry(job, index, i);
+  }
+  return job.status;
+}
+
+}  // namespace ostrane::command

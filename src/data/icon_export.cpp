@@ -1,0 +1,19 @@
+#include "data/icon_export.h"
+
+#include <array>
+#include <cstdio>
+
+namespace ostrane {
+
+std::string stem_of_entry(const std::string& name) {
+  constexpr std::size_t ending = 4;  // ".SHP"
+  return name.size() > ending ? name.substr(0, name.size() - ending) : name;
+}
+
+std::string png_name(const std::string& stem, std::size_t number) {
+  std::array<char, 16> digits = {};
+  std::snprintf(digits.data(), digits.size(), "-%04zu.png", number);
+  return stem + digits.data();
+}
+
+}  // namespace ostrane

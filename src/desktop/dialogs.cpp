@@ -1,0 +1,87 @@
+#include "desktop/dialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <algorithm>
+
+#include "desktop/designed_look.h"
+#include "desktop/menu_captions.h"
+#include "desktop/screen_text.h"
+#include "forms_layer/menu.h"
+
+namespace desktop {
+
+namespace {
+
+using forms_layer::file_kind;
+
+QString name_filter(const file_kind& kind) {
+  return to_screen(kind.label) + QStringLiteral(" (*") + to_screen(kind.ending) + QLatin1Char(')');
+}
+
+// The ending without the file name extension: "-sheet" of "-sheet.png".
+QString before_extension(const QString& text) { return text.left(text.lastIndexOf('.')); }
+
+// The name with the ending of a kind in place of that of another one, of which Qt may have changed
+// the extension already.
+QString with_ending(const QString& name, const std::vector<file_kind>& kinds,
+                    const file_kind& wanted) {
+  QString stem = before_extension(name);
+  for (const file_kind& kind : kinds) {
+    const QString ending = before_extension(to_screen(kind.ending));
+    if (!stem.endsWith(ending) || ending.isEmpty()) continue;
+    stem.chop(ending.size());
+    break;
+  }
+  return stem + to_screen(wanted.ending);
+}
+
+void select_kind(QFileDialog& dialog, const file_kind& kind) {
+  dialog.setDefaultSuffix(QFileInfo(to_screen(kind.ending)).suffix());
+}
+
+}  // namespace
+
+forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
+                                  forms_layer::screen_point at, QWidget* owner) {
+  QMenu menu(owner);
+  // A desktop may have a font of its own for menus.
+  menu.setFont(font_for({}));
+  QString taken;
+  for (const forms_layer::menu_item* item : opened.items) {
+    menu.addAction(with_shortcut(item->Caption, taken))->setEnabled(item->Enabled());
+  }
+  const qsizetype picked = menu.actions().indexOf(menu.exec(QPoint(at.x, at.y)));
+  return picked < 0 ? nullptr : opened.items[static_cast<std::size_t>(picked)];
+}
+
+forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {
+  static QString folder = QDir::homePath();  // where the user saved last
+  QFileDialog dialog(owner, to_screen(question.title), folder);
+  dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  QStringList filters;
+  for (const file_kind& kind : question.kinds) filters += name_filter(kind);
+  dialog.setNameFilters(filters);
+  select_kind(dialog, question.kinds.front());
+  dialog.selectFile(to_screen(question.stem + question.kinds.front().ending));
+  const auto kind_selected = [&] {
+    return static_cast<std::size_t>(
+        std::max<qsizetype>(0, filters.indexOf(dialog.selectedNameFilter())));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&] {
+    const file_kind& kind = question.kinds[kind_selected()];
+    const QString name = QFileInfo(dialog.selectedFiles().value(0)).fileName();
+    select_kind(dialog, kind);
+    dialog.selectFile(with_ending(name, question.kinds, kind));
+  });
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  folder = dialog.directory().absolutePath();
+  const std::string path = dialog.selectedFiles().first().toStdString();
+  return {.path = std::u8string(path.begin(), path.end()), .kind = kind_selected()};
+}
+
+}  // namespace desktop

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+
+#include "forms_layer/screen.h"
+
+namespace forms_layer {
+
+// As those of the screen. Without one the answers below count.
+menu_item* pick_item(context_menu& opened, screen_point at);
+save_answer ask_save_path(const save_question& question);
+void copy_picture(const picture_box& shown);
+
+// What the user answers without a screen. A null function picks and answers nothing.
+struct user_answers {
+  std::function<menu_item*(context_menu& opened)> pick_item;
+  std::function<save_answer(const save_question& question)> save_path;
+  std::function<void(const picture_box& shown)> copied;
+};
+extern user_answers answers;
+
+}  // namespace forms_layer

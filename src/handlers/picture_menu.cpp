@@ -1,0 +1,150 @@
+#include "handlers/picture_menu.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "archive/skipped_files.h"
+#include "data/entry_file_name.h"
+#include "data/entry_range.h"
+#include "files/code_page.h"
+#include "files/failure.h"
+#include "files/paths.h"
+#include "forms/form1.h"
+#include "forms_layer/dialogs.h"
+#include "forms_layer/message_box.h"
+#include "icons/motion.h"
+#include "state/open_archive.h"
+#include "state/tool_state.h"
+
+namespace ostrane {
+
+namespace {
+
+constexpr std::size_t kind_of_pngs = 1;  // index of a file_kind
+
+std::string entry_name() {
+  return name_with_blanks(
+      tool_state.dat_index[static_cast<std::size_t>(tool_state.directory_index)].name);
+}
+
+// What the proposed file name begins with; it must not lead to another folder.
+std::string proposed_stem() {
+  const std::string name = entry_name();
+  return unsafe_name_reason(name).empty() ? stem_of_entry(name) : "picture";
+}
+
+std::size_t icon_number_of(std::int32_t slot) {
+  return static_cast<std::size_t>(tool_state.series_first_icon - 1 + slot);
+}
+
+std::string as_utf8(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+// "GEMS" for "GEMS-0001"; nothing for other names.
+std::optional<std::string> without_number(const std::string& stem) {
+  const std::size_t digits_at = stem.find_last_not_of("0123456789") + 1;
+  if (digits_at < 2 || stem[digits_at - 1] != '-' || stem.size() - digits_at < 4) return {};
+  return stem.substr(0, digits_at - 1);
+}
+
+// Sets the form and the names of the files. False if the ending is that of no form.
+bool take_name(icon_export& wanted, const forms_layer::save_answer& answer) {
+  const std::filesystem::path path = answer.path;
+  const std::string ending = files::lower_case(as_utf8(path.extension()));
+  const bool is_series = wanted.form != picture_form::picture;
+  wanted.stem = as_utf8(path.stem());
+  if (is_series && ending == ".gif") {
+    wanted.form = picture_form::gif;
+  } else if (ending != ".png") {
+    return false;
+  } else if (is_series) {
+    const std::optional<std::string> stem = without_number(wanted.stem);
+    const bool are_pngs = stem || answer.kind == kind_of_pngs;
+    wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
+    if (stem) wanted.stem = *stem;
+  }
+  // The file of that name is replaced and no other, whatever the case of its ending.
+  const bool is_numbered = wanted.form == picture_form::png;
+  wanted.target = [path, is_numbered](const std::string& name) {
+    const bool is_other = is_numbered || name.ends_with(".json");
+    return files::from_system_path(
+        is_other ? path.parent_path() / std::u8string(name.begin(), name.end()) : path);
+  };
+  return true;
+}
+
+void export_from_archive(icon_export& wanted) {
+  open_archive_file();
+  wanted.start = entry_start(index_records(), tool_state.directory_index);
+  wanted.end = entry_end(index_records(), tool_state.directory_index);
+  wanted.colours = read_game_colours(tool_state.archive_file, index_records());
+  tool_state.export_icons(tool_state.archive_file, wanted);
+}
+
+void save(icon_export wanted, const forms_layer::save_answer& answer, const std::string& what) {
+  constexpr std::int32_t milliseconds_per_hundredth = 10;
+  const std::string not_saved = " The " + what + " was not saved.";
+  if (answer.path.empty()) return;
+  if (!take_name(wanted, answer)) {
+    const char* gif = wanted.form == picture_form::picture ? "" : " or \".gif\"";
+    forms_layer::message_box(std::string("The name of the file must end in \".png\"") + gif + "." +
+                             not_saved);
+    return;
+  }
+  std::vector<skipped_file> skipped;
+  wanted.entry = files::to_utf8(entry_name());
+  wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
+  wanted.on_skipped = [&skipped](const std::string& reason) {
+    skipped.push_back({entry_name(), reason});
+  };
+  const std::string failure = files::failure_of([&wanted] { export_from_archive(wanted); });
+  tool_state.archive_file.close();
+  if (!failure.empty()) {
+    forms_layer::message_box(failure + not_saved);
+  } else if (!skipped.empty()) {
+    forms_layer::message_box(
+        "The " + what + " was saved, with these exceptions:" + skipped_files_text(skipped, ""));
+  }
+}
+
+}  // namespace
+
+bool prepare_picture_menu(std::int32_t slot) {
+  tool_state.menu_target = slot;
+  const bool can_be_read =
+      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
+  Form1.mnu_save_picture.Enabled = can_be_read;
+  Form1.mnu_save_series.Enabled = can_be_read;
+  // A text covers the icons. A swatch of a palette has no pixels.
+  return !Form1.Text6.Visible() && Form1.s16_image(slot).pixels() != nullptr;
+}
+
+void copy_picture() { forms_layer::copy_picture(Form1.s16_image(tool_state.menu_target)); }
+
+void save_picture() {
+  const std::size_t number = icon_number_of(tool_state.menu_target);
+  const std::string name = png_name(proposed_stem(), number);
+  const forms_layer::save_answer answer =
+      forms_layer::ask_save_path({.title = "Save picture",
+                                  .stem = name.substr(0, name.rfind('.')),
+                                  .kinds = {{"PNG", ".png"}}});
+  save({.form = picture_form::picture, .first = number, .last = number}, answer, "picture");
+}
+
+void save_series() {
+  const std::size_t first = icon_number_of(1);
+  const forms_layer::save_answer answer =
+      forms_layer::ask_save_path({.title = "Save series",
+                                  .stem = proposed_stem(),
+                                  .kinds = {{"One PNG with all icons", "-sheet.png"},
+                                            {"One PNG per icon", png_name("", first)},
+                                            {"Motion", ".gif"}}});
+  save({.first = first, .last = static_cast<std::size_t>(tool_state.series_next_icon)}, answer,
+       "series");
+}
+
+}  // namespace ostrane

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+// Writes JSON as text: a tree of values of nlohmann-json needs memory when it is freed, and ends
+// the program without it.
+namespace ostrane {
+
+// A field of an object; the value is JSON.
+struct json_field {
+  const char* name;
+  std::string value;
+};
+
+std::string json_object(std::initializer_list<json_field> fields);
+
+// `text` is UTF-8.
+std::string json_string(std::string_view text);
+
+}  // namespace ostrane
