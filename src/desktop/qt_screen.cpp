@@ -67,7 +67,7 @@ forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
   sync();
-  const forms_layer::save_answer answer = desktop::ask_save_path(question, topmost(nullptr));
+  forms_layer::save_answer answer = desktop::ask_save_path(question, topmost(nullptr));
   sync_soon();
   return answer;
 }

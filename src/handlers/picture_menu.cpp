@@ -36,7 +36,8 @@ std::string proposed_stem() {
 }
 
 std::size_t icon_number_of(std::int32_t slot) {
-  return static_cast<std::size_t>(tool_state.series_first_icon - 1 + slot);
+  return static_cast<std::size_t>(tool_state.series_first_icon) + static_cast<std::size_t>(slot) -
+         1;
 }
 
 std::string as_utf8(const std::filesystem::path& path) {
@@ -115,10 +116,11 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
 
 bool prepare_picture_menu(std::int32_t slot) {
   tool_state.menu_target = slot;
-  const bool can_be_read =
+  const bool of_open_archive =
       tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
-  Form1.mnu_save_picture.Enabled = can_be_read;
-  Form1.mnu_save_series.Enabled = can_be_read;
+  const bool can_be_saved = of_open_archive && tool_state.export_icons != nullptr;
+  Form1.mnu_save_picture.Enabled = can_be_saved;
+  Form1.mnu_save_series.Enabled = can_be_saved;
   // A text covers the icons. A swatch of a palette has no pixels.
   return !Form1.Text6.Visible() && Form1.s16_image(slot).pixels() != nullptr;
 }
