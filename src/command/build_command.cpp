@@ -26,7 +26,7 @@ struct build_job {
   std::vector<dat_record> records = {};
 };
 
-// The archive that is written is none of its own entries.
+// The new archive is not an entry of itself.
 bool is_archive_itself(const build_job& job, const std::string& name) {
   if (files::upper_case(name) == archive_name) return true;
   return !job.own_name.empty() && files::system_name(name) == job.own_name;
@@ -70,7 +70,7 @@ int report_left_out(const build_job& job) {
   int status = status_done;
   for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
     if (is_archive_itself(job, file.name)) continue;
-    tell(files::to_utf8(file.name), std::string("left out: ") + file.reason);
+    report(files::to_utf8(file.name), std::string("left out: ") + file.reason);
     status = status_differs;
   }
   return status;
@@ -85,7 +85,7 @@ int build(const build_options& options) {
     const fs::path path = job.folder.system / archive_name;
     job.target = {path, argument_of_path(path) + ":"};
   } else {
-    job.target = named_file_behind_links(options.archive);
+    job.target = named_link_target(options.archive);
     std::error_code failed;
     const fs::path place = fs::absolute(job.target.system, failed).parent_path();
     if (fs::equivalent(place, job.folder.system, failed)) {

@@ -34,7 +34,7 @@ int check(const check_options& options) {
     try {
       all_good = check_one(archive) && all_good;
     } catch (const files::file_error& error) {
-      tell(archive, error.text);
+      report(archive, error.text);
       ++unreadable;
     }
   }

@@ -155,7 +155,7 @@ void add_import(CLI::App& app, all_options& all) {
       ->type_name("OLD.SHP");
 }
 
-// Texts of the data side may hold names in the code page.
+// Texts of the data side can contain names in the code page.
 std::string utf8_text(const std::string& text) {
   return files::from_utf8_lossy(text).find('?') == std::string::npos ? text : files::to_utf8(text);
 }
@@ -168,7 +168,7 @@ int run_chosen(const all_options& options) {
     finish_printing();
   });
   if (failure.empty()) return status;
-  tell("", utf8_text(failure));
+  report("", utf8_text(failure));
   return status_failed;
 }
 
@@ -190,7 +190,7 @@ int run(std::vector<std::string> arguments) {
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    tell("", std::string(error.what()) + " (--help tells more)");
+    report("", std::string(error.what()) + " (--help tells more)");
     return status_failed;
   }
   return run_chosen(options);

@@ -5,7 +5,7 @@
 
 namespace ostrane::command {
 
-// Runs the command that the arguments tell, which come without the program's name. Returns the exit
+// Runs the command of these arguments, which do not include the program's name. Returns the exit
 // status; throws interruption.
 int run(std::vector<std::string> arguments);
 

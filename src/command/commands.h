@@ -5,8 +5,8 @@
 
 #include "data/icon_export.h"
 
-// The commands of the program. Each does its work on the files that its record names and returns
-// the exit status; it throws file_error, data_error and interruption.
+// The commands of the program and their options. Each returns the exit status and throws
+// file_error, data_error and interruption.
 namespace ostrane::command {
 
 struct list_options {

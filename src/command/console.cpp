@@ -66,7 +66,7 @@ std::string printable(std::string_view text) {
   return line;
 }
 
-void tell(std::string_view file, std::string_view text) {
+void report(std::string_view file, std::string_view text) {
   hide_progress();
   std::string line = "ostrane-dat: ";
   if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
@@ -75,7 +75,7 @@ void tell(std::string_view file, std::string_view text) {
 }
 
 void note(std::string_view file, std::string_view text) {
-  if (!console.is_quiet) tell(file, text);
+  if (!console.is_quiet) report(file, text);
 }
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {

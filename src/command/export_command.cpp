@@ -33,13 +33,13 @@ struct export_job {
 // An entry, with all texts in UTF-8.
 struct exported_entry {
   std::string name;
-  std::string stem;  // what its files begin with
+  std::string stem;  // the beginning of its file names
   std::int32_t start = 0;
   std::int32_t end = 0;
 };
 
 void skip(export_job& job, const exported_entry& entry, const std::string& reason) {
-  tell(entry.name, reason);
+  report(entry.name, reason);
   job.status = status_differs;
 }
 

@@ -8,14 +8,14 @@ namespace ostrane::command {
 
 namespace {
 
-int report(const extraction_result& result) {
+int report_result(const extraction_result& result) {
   for (const skipped_file& entry : result.skipped) {
     const std::string name = files::to_utf8(entry.name);
-    // A failure of the system names the file by itself.
+    // The text of a system error already names the file.
     const bool names_file = entry.reason.find(": cannot be ") != std::string::npos;
-    tell(names_file ? "" : name, names_file ? entry.reason : "not extracted: " + entry.reason);
+    report(names_file ? "" : name, names_file ? entry.reason : "not extracted: " + entry.reason);
   }
-  if (!result.stopped.empty()) tell("", result.stopped);
+  if (!result.stopped.empty()) report("", result.stopped);
   if (!result.stopped.empty()) return status_failed;
   return result.skipped.empty() ? status_done : status_differs;
 }
@@ -46,7 +46,7 @@ int extract(const extract_options& options) {
        .on_bytes = [&](std::int32_t) { show(""); }},
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
        .replaces_whole = true});
-  return report(result);
+  return report_result(result);
 }
 
 }  // namespace ostrane::command

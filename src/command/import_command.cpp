@@ -27,11 +27,11 @@ colour_table read_palette_argument(const std::string& argument) {
   return read_game_colours(file, index.records);
 }
 
-// What the threads of an import share.
+// Shared by the threads of an import.
 struct import_job {
   const import_plan& plan;
   std::vector<shp_icon> icons;
-  std::atomic<std::size_t> next = 0;  // number of the next icon to be made
+  std::atomic<std::size_t> next = 0;  // number of the next icon
   std::atomic<bool> stops = false;
   std::atomic<std::int64_t> inexact_pixels = 0;
   std::atomic<std::int64_t> inexact_pictures = 0;
@@ -64,13 +64,13 @@ void make_icons(import_job& job, colour_finder colours) {
   }
 }
 
-// Reading a PNG and packing an icon take the processor alone, so each processor gets a thread.
+// Reading a PNG and packing an icon need only the processor, so there is a thread per processor.
 void make_all_icons(import_job& job, const colour_finder& colours) {
   constexpr auto between_looks = std::chrono::milliseconds(20);
   constexpr std::size_t max_threads = 8;
   const auto count = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
   std::vector<std::future<void>> threads;
-  const struct stopping {  // before the threads are waited for
+  const struct stopping {  // before the threads are joined
     import_job& job;
     ~stopping() { job.stops = true; }
   } at_end{job};

@@ -24,7 +24,7 @@ void catch_signals() {
 #endif
   };
   for (const int number : numbers) {
-    // What the parent process ignores stays ignored.
+    // Signals that the parent process ignores stay ignored.
     if (std::signal(number, note_signal) == SIG_IGN) std::signal(number, SIG_IGN);
   }
 }

@@ -2,17 +2,17 @@
 
 namespace ostrane::command {
 
-// Thrown when the user has asked for the end of the program, or the reader of a pipe has gone. It
-// is not a std::exception, so that no part of a job takes it for a failure of its own.
+// Thrown after Ctrl+C or a similar signal, or if the reader of a pipe has ended. It is not a
+// std::exception, so that no job handles it as a failure.
 struct interruption {};
 
-// From then on signals that ask for the end are only noted, so that nothing is left half-written.
+// From now on signals to end the program are only recorded, so that no file is left incomplete.
 void catch_signals();
 
-// Throws interruption if there was such a signal.
+// Throws interruption if a signal was recorded.
 void check_interruption();
 
-// Ends the process as the signal would have.
+// Ends the process as the signal would have done.
 [[noreturn]] void end_interrupted();
 
 }  // namespace ostrane::command

@@ -19,17 +19,17 @@ namespace ostrane::command {
 namespace {
 
 struct listed_entry {
-  std::string name;  // UTF-8, as all texts here
+  std::string name;  // UTF-8
   std::int64_t size = 0;
   std::int32_t offset = 0;
   entry_kind kind = entry_kind::other;
-  std::optional<std::int32_t> icons;  // of an icon file that has a head
+  std::optional<std::int32_t> icons;  // of an icon file with a complete head
   std::string description;
 };
 
 using descriptions = std::unordered_map<std::string, std::string>;
 
-// Of several rows for a name the first counts.
+// Of several rows for a name the first is used.
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
   const files::file_path beside = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
@@ -70,7 +70,7 @@ std::string padded(const std::string& text, std::size_t width) {
   return std::string(text.size() < width ? width - text.size() : 0, ' ') + text;
 }
 
-// The name stands last but one, as it may hold blanks; a name has 13 characters at most.
+// The name is the last column but one, as it can contain blanks. It has at most 13 characters.
 std::string long_line(const listed_entry& entry) {
   std::string line = padded(std::to_string(entry.size), 10) + " " +
                      padded(std::to_string(entry.offset), 10) + "  ";

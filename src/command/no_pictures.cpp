@@ -1,7 +1,7 @@
 #include "command/commands.h"
 #include "data/data_error.h"
 
-// In place of pictures/ where the libraries for PNG and GIF are missing.
+// Replaces the commands for pictures where the libraries for PNG and GIF are missing.
 namespace ostrane::command {
 
 int export_entries(const export_options& /*options*/) {

@@ -6,10 +6,10 @@
 
 #include "files/file_path.h"
 
-// What is another thing on each system.
+// What differs between systems.
 namespace ostrane::command {
 
-// The arguments, without the program's name: UTF-8, or on systems where names are bytes any bytes.
+// The arguments without the program's name: UTF-8, or any bytes on systems whose names are bytes.
 std::vector<std::string> arguments_of(int argc, char** argv);
 
 std::filesystem::path path_of_argument(const std::string& argument);
@@ -17,10 +17,10 @@ std::string argument_of_path(const std::filesystem::path& path);
 
 bool errors_go_to_terminal();
 
-// No line ends are translated then.
+// Turns off the translation of line ends.
 void set_binary_output();
 
-// Another open file for the standard output, of file_calls; negative on failure.
+// A duplicate of the standard output for file_calls, or a negative errno number.
 int open_standard_output();
 
 }  // namespace ostrane::command

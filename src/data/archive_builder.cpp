@@ -71,9 +71,9 @@ void write_archive(const build_list& list, std::span<const make_record> files,
   files::replaced_file archive(target);
   write_archive_to(archive.file(), list, files, records, progress);
   archive.put_in_place();
-  // The old archive has its name until the new one is there, so there never are two. If the
-  // spelling cannot be changed the old one stays; names compare without regard to case.
-  // From here on nothing makes the build fail.
+  // The new archive replaced the old one under its old spelling, so there never are two. If the
+  // spelling cannot be changed, it stays; names are compared without regard to case. The archive is
+  // complete, so nothing fails the build from here on.
   files::failure_of([&] { archive.respell(target.system); });
   archive.flush_folder();
 }

@@ -16,14 +16,14 @@
 //   4 + 17 * N            the entries, in the order of their records, nothing between them
 //
 // Record N - 1 is the end record: no name, and the offset just after the last entry. So the size
-// of every entry is the offset of the next record less its own.
+// of every entry is the offset of the next record minus its own.
 namespace ostrane {
 
 constexpr std::size_t name_size = 13;
 constexpr std::int32_t count_size = 4;
 constexpr std::int32_t record_size = 17;
 constexpr std::int32_t max_records = 32768;
-// With the end record, as many as a number of 16 bits can count.
+// With the end record, as many as a 16-bit number can count.
 constexpr std::size_t max_files = 32766;
 static_assert(record_size == 4 + name_size);
 
@@ -43,15 +43,15 @@ struct make_record {
 
 using record_bytes = std::span<std::byte, record_size>;
 
-// A record from and to its bytes in the file. Any 17 bytes are a record; what its offset is worth
-// is for the reader to see.
+// Convert a record from and to its bytes in the file. Any 17 bytes are a record; its offset is not
+// checked.
 dat_record decode_record(std::span<const std::byte, record_size> bytes);
 void encode_record(const dat_record& record, record_bytes bytes);
 
-// The name without any of its NUL characters, as `List1` shows it.
+// The name without its NUL characters, as `List1` shows it.
 std::string name_without_nuls(const record_name& name);
 
-// The name with a blank for every NUL character and then trimmed, as a file bears it.
+// The name with NUL characters replaced by blanks, then trimmed. Files are named so.
 std::string name_with_blanks(const record_name& name);
 
 }  // namespace ostrane

@@ -16,17 +16,17 @@ struct rewritten_entry {
   files::file_path file;
 };
 
-// The entries of an archive, in their order, as it has them.
+// The entries of an archive in their order.
 std::vector<rewritten_entry> entries_of(const archive_index& index);
 
-// Puts a file in the place of the last entry of its name, or before the first one whose name sorts
-// after its own. Returns its name in the archive, which is cut at 13 characters.
+// Replaces the last entry of the same name by a file, or inserts the file before the first entry
+// whose name sorts after its name. Returns its name in the archive, which is cut to 13 characters.
 std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& file_name,
                       const files::file_path& file);
 
-// Replaces the archive in one step by one of these entries, whose bytes are those that they had.
-// Throws file_error, and data_error if the archive does not hold an entry whole, has changed since
-// its index was read, or would become too large; then it is as it was.
+// Replaces the archive atomically by one with these entries. Old entries keep their bytes. Throws
+// file_error, and data_error if an entry ends after the archive, if the archive has changed since
+// its index was read, or if it would become too large. The archive is unchanged then.
 void rewrite_archive(const files::file_path& path, const archive_index& old,
                      const std::vector<rewritten_entry>& entries, const job_progress& progress);
 

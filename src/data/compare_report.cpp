@@ -8,7 +8,7 @@ namespace ostrane {
 
 namespace {
 
-// Walks at row i of the archive's names and at line j of the shiplist, and the names there.
+// Row i of the archive's names and line j of the shiplist, and the names there.
 class report_walk {
  public:
   report_walk(const line_writer& report, const name_list& archive, shiplist_comparison& ships)
@@ -21,7 +21,7 @@ class report_walk {
     step_ship();
     while (!ships_.shiplist_walk_done) {
       write_smaller_names();
-      // Both sides step on, whether or not their names agree now.
+      // Both sides advance, even if their names differ now.
       step_list();
       step_ship();
       ships_.shiplist_walk_done = i_ >= archive_.count - 1 || j_ >= ships_.shiplist_last;
@@ -41,8 +41,8 @@ class report_walk {
     ship_key_ = exists ? files::compare_key(ships_.shiplist_lines[line]) : "";
   }
 
-  // First of the archive, then of the shiplist, the names that sort before the other side's current
-  // name. The bound of the first run includes the end record.
+  // Writes the names that sort before the other side's current name, first of the archive, then of
+  // the shiplist. The bound of the first run includes the end record.
   void write_smaller_names() {
     while (i_ < archive_.count && list_key_ < ship_key_) write_list_row();
     while (j_ < ships_.shiplist_last && list_key_ > ship_key_) write_ship_row();

@@ -15,7 +15,7 @@ namespace ostrane {
 
 namespace {
 
-// The file of an entry. If it is new it is removed unless it was written whole.
+// The file of an entry. A new file is removed unless it was written completely.
 struct entry_file {
   files::binary_file& file;
   files::file_path path;
@@ -32,8 +32,7 @@ struct entry_file {
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
     if (is_whole) return;
-    const bool drop =
-        is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
+    const bool drop = is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
     file.abandon();
     if (drop) files::file_calls::remove_file(path.system);
   }
@@ -53,7 +52,7 @@ struct extraction {
   extraction_result result = {};
 };
 
-// Like write_entry, but an old file stays until the new one is whole.
+// Like write_entry, but an old file stays until the new one is complete.
 std::string replace_file_of_entry(extraction& job, const std::string& name, std::int32_t size) {
   const files::file_path path = job.target(name);
   files::whole_file to(job.file, path, job.stamp.identity);

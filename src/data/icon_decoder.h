@@ -10,14 +10,14 @@
 //
 //   b                 operands           effect
 //   0                 none               end of the row: down by 1, back to the first column
-//   1                 a count            that many columns to the right, no pixel is touched
+//   1                 a count            skip that many columns to the right
 //   even, 2 to 254    a palette index    b / 2 pixels of that colour
 //   odd, 3 to 255     (b - 1) / 2 bytes  one palette index for each of as many pixels
 //
-// The stream ends with the last row of the box; nothing marks its end.
+// The stream ends after the last row of the box; there is no end mark.
 namespace ostrane {
 
-// Paints one icon on a canvas, which clips to its own area and has
+// Paints one icon on a canvas, which clips to its own area and provides
 //   void run(column, row, count, index): `count` pixels to the right with one palette index
 //   void pixels(column, row, count, indices): one index (std::byte) for each
 template <typename Canvas>
@@ -39,7 +39,7 @@ class icon_decoder {
   }
 
  private:
-  // To the right of every picture, with room for one more step before the numbers end.
+  // Right of every picture, with room for one more step before an overflow.
   static constexpr std::int32_t column_limit = std::numeric_limits<std::int32_t>::max() - 1024;
 
   void decode_stream_op() {

@@ -11,7 +11,7 @@ namespace {
 struct picture_canvas {
   picture& drawn;
 
-  // The cells that lie in the picture, of `count` from `column` on; `lost` lie left of it.
+  // The cells inside the picture of `count` cells from `column` on; `lost` are left of it.
   std::span<std::int16_t> cells(std::int64_t column, std::int32_t row, std::int32_t count,
                                 std::size_t& lost) const {
     if (row < 0 || row >= drawn.rows()) return {};

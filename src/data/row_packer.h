@@ -7,16 +7,16 @@
 
 namespace ostrane {
 
-// Packs rows of a picture as icon_decoder.h reads them. Keeps its memory from row to row.
+// Packs rows of a picture into the operations of icon_decoder.h. Reuses its memory between rows.
 class row_packer {
  public:
   // Appends the shortest stream that sets exactly these cells, and the end of the row. The stream
-  // begins `outside` columns left of the first cell; what it paints there is lost.
+  // begins `outside` columns left of the first cell; pixels there are clipped.
   void pack(std::int32_t outside, std::span<const std::int16_t> cells, std::string& stream);
 
  private:
   enum class op_kind : std::uint8_t { skip, run, literal };
-  // The last operation of the shortest stream for all columns up to here, and its columns.
+  // The last operation of the shortest stream for the columns before this one.
   struct step {
     std::int32_t bytes;  // of the whole stream
     op_kind kind;
@@ -25,9 +25,9 @@ class row_packer {
   void find_steps();
   void append_ops(std::string& stream);
 
-  std::vector<std::int16_t> columns_;  // cells, and `free_cell` for those outside
+  std::vector<std::int16_t> columns_;  // cells, and `free_cell` outside the picture
   std::vector<step> steps_;
-  std::vector<step> way_;
+  std::vector<step> path_;
 };
 
 }  // namespace ostrane

@@ -33,7 +33,7 @@ sort_key key_of(const std::string& line, std::size_t number) {
   return {as_number(key, 0), as_number(key, sizeof(std::uint64_t)), number};
 }
 
-// Below 0, 0 or above it, as the key of the one is less, the same or greater.
+// Negative, 0 or positive if the key of the first is less, equal or greater.
 int difference(const std::vector<std::string>& lines, const sort_key& a, const sort_key& b) {
   if (a.first != b.first) return a.first < b.first ? -1 : 1;
   if (a.second != b.second) return a.second < b.second ? -1 : 1;

@@ -15,13 +15,13 @@ struct shiplist_comparison {
   bool shiplist_walk_done = false;
 };
 
-// Reads the lines of a shiplist; `shiplist_last` is the index of the final one, which is no name
-// but stands opposite the archive's end record. A file of no bytes is one empty line. Throws
-// file_error, and data_error if it has more than 32768 lines.
+// Reads the lines of a shiplist. `shiplist_last` becomes the index of the final line, which is no
+// name: it matches the archive's end record. An empty file has one empty line. Throws file_error,
+// and data_error if there are more than 32768 lines.
 void read_shiplist(const files::file_path& path, shiplist_comparison& comparison);
 
-// Puts all lines but the final one into ascending order of their keys and leaves each key once;
-// `shiplist_last` falls by as many as went.
+// Sorts all lines but the final one by their keys and drops lines with equal keys. `shiplist_last`
+// decreases by the number of dropped lines.
 void sort_shiplist(shiplist_comparison& comparison);
 
 }  // namespace ostrane

@@ -9,8 +9,8 @@ namespace ostrane {
 
 namespace {
 
-// Far more bytes than a picture has use for. Without such a bound a small directory that names one
-// long stream again and again would keep the tool busy for minutes.
+// Far more than a picture needs. Without this limit a small directory that refers to one long
+// stream many times would keep the tool busy for minutes.
 constexpr std::int64_t max_bytes_per_pixel = 16;
 constexpr std::int64_t max_extra_bytes = 65536;
 

@@ -4,10 +4,10 @@
 
 namespace ostrane {
 
-// A file or an entry that a job has to tell of.
+// A file or an entry that a job skipped.
 struct skipped_file {
   std::string name;
-  std::string reason;  // the end of a sentence
+  std::string reason;  // a sentence fragment
 };
 
 }  // namespace ostrane
