@@ -18,7 +18,7 @@ bool application::notify(QObject* receiver, QEvent* event) {
 }
 
 void set_up_application() {
-  // Qt takes the user's locale for the whole process.
+  // Qt sets the user's locale for the whole process.
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setStyle(new desktop_style);
   QApplication::setFont(font_for({}));

@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-// A push button, which Enter presses in any window.
+// A push button. Enter presses it in all windows.
 class button_view : public QPushButton, public control_view {
  public:
   button_view(forms_layer::button& shown, QWidget* parent);

@@ -24,19 +24,17 @@ namespace desktop {
 
 namespace {
 
-// A region of many rectangles costs more than the painting that it saves.
+// With more rectangles a region costs more time than it saves.
 constexpr int max_damaged_parts = 40;
 
-// The cursor goes round a picture: over its border and a pixel outside.
-QRect with_cursor(const QRect& place) {
-  return place.isNull() ? place : place.adjusted(-1, -1, 1, 1);
-}
+// The cursor is a frame on the border of a picture and one pixel outside.
+QRect with_cursor(const QRect& rect) { return rect.isNull() ? rect : rect.adjusted(-1, -1, 1, 1); }
 
-void paint_cursor(QPainter& painter, const QRect& place, const QColor& colour) {
-  if (place.isNull()) return;
+void paint_cursor(QPainter& painter, const QRect& rect, const QColor& colour) {
+  if (rect.isNull()) return;
   painter.setPen(colour);
-  painter.drawRect(place.adjusted(0, 0, -1, -1));
-  painter.drawRect(place.adjusted(-1, -1, 0, 0));
+  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+  painter.drawRect(rect.adjusted(-1, -1, 0, 0));
 }
 
 }  // namespace
@@ -142,7 +140,7 @@ void canvas::mouseDoubleClickEvent(QMouseEvent* event) {
   if (clicked != nullptr && event->button() == Qt::LeftButton) double_click(*clicked);
 }
 
-// Events that a control on the canvas had no use for come here too.
+// Controls on the canvas pass on events that they ignore.
 void canvas::contextMenuEvent(QContextMenuEvent* event) {
   bool opened = false;
   if (event->reason() != QContextMenuEvent::Keyboard) {
@@ -163,7 +161,7 @@ void canvas::move_cursor(int key) {
   rects.reserve(pictures_.size());
   for (const picture& p : pictures_) rects.push_back(p.rect);
   damage_cursor();
-  // A cursor whose picture is gone starts again at the first.
+  // If its picture is hidden, the cursor returns to the first one.
   cursor_ = cursor_step(rects, cursor_, rects[cursor_].isNull() ? Qt::Key_Home : key);
   damage_cursor();
   update(std::exchange(damage_, {}));
@@ -173,7 +171,7 @@ void canvas::move_cursor(int key) {
   QAccessible::updateAccessibility(&moved);
 }
 
-// Keys that a control on the canvas had no use for come here too.
+// Controls on the canvas pass on keys that they ignore.
 void canvas::keyPressEvent(QKeyEvent* event) {
   const bool confirms = is_enter(*event) || event->key() == Qt::Key_Space;
   if (!hasFocus() || (!confirms && !is_cursor_key(event->key()))) {
@@ -185,7 +183,7 @@ void canvas::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// Without a picture on show Tab leads past the canvas.
+// Without a visible picture Tab skips the canvas.
 void canvas::focusInEvent(QFocusEvent* event) {
   const bool back = event->reason() == Qt::BacktabFocusReason;
   const bool by_tab = back || event->reason() == Qt::TabFocusReason;

@@ -10,23 +10,22 @@
 
 namespace desktop {
 
-// The parent widget of the controls of a form or a frame. It paints the picture boxes among them,
-// as there can be thousands; all other controls are child widgets. Where double clicks on pictures
-// are answered, Tab leads to a cursor on them, which the arrow keys move; Enter and Space do what a
-// double click does.
+// The parent widget of the controls of a form or a frame. It paints picture boxes itself, as there
+// can be thousands; other controls are child widgets. If double clicks on pictures have a handler,
+// Tab leads to a cursor on them: arrow keys move it, Enter and Space act as a double click.
 class canvas : public QWidget {
  public:
   canvas(forms_layer::container& shown, QWidget* parent);
 
   struct picture {
     forms_layer::picture_box* box;
-    QRect rect;  // as on the screen; null while the box is hidden
+    QRect rect;  // on the screen; null while the box is hidden
     bool dirty;
   };
 
-  // Marks a picture box dirty; true if none was dirty before.
+  // Marks a picture box dirty. Returns true if none was dirty before.
   bool mark_dirty(forms_layer::picture_box& box);
-  // Schedules the painting of the dirty ones.
+  // Schedules repaints of the dirty boxes.
   void sync_pictures();
 
   // From back to front.
@@ -59,9 +58,9 @@ class canvas : public QWidget {
   QRegion damage_;
 };
 
-// What a double click on a picture does.
+// Acts as a double click on a picture.
 void double_click(const forms_layer::picture_box& box);
-// What the right button does, at a point of the screen. False if the picture has no menu.
+// Opens the context menu at a point of the screen. Returns false if the picture has no menu.
 bool open_menu(const forms_layer::picture_box& box, const QPoint& at);
 
 }  // namespace desktop

@@ -16,8 +16,8 @@ constexpr unsigned bit(property_id what) { return 1U << static_cast<unsigned>(wh
 constexpr unsigned content = bit(property_id::caption) | bit(property_id::text) |
                              bit(property_id::items) | bit(property_id::range);
 
-// The window's layout puts the lower edge of its list a pixel below the window, where it would not
-// be seen.
+// The designed layout puts the lower edge of the list one pixel below the window, where it is
+// invisible.
 QRect with_edge_in_sight(QRect rect, const QWidget& parent) {
   if (rect.bottom() == parent.height()) rect.setBottom(parent.height() - 1);
   return rect;

@@ -6,8 +6,7 @@
 
 namespace desktop {
 
-// The widget that shows one control. It mirrors the control's properties and tells the tool what
-// the user does to it.
+// The widget of one control. It mirrors the control's properties and reports input to the tool.
 class control_view {
  public:
   explicit control_view(forms_layer::control& shown) : control(shown) {}
@@ -18,10 +17,10 @@ class control_view {
   forms_layer::control& control;
   virtual QWidget& widget() = 0;
 
-  // The widget that takes the focus, and its place in the tab order.
+  // The widget that takes the focus and is in the tab order.
   virtual QWidget& focus_widget() { return widget(); }
 
-  // Marks the property dirty; true if none was dirty before.
+  // Marks the property dirty. Returns true if none was dirty before.
   bool mark_dirty(forms_layer::property_id what);
   // Shows all dirty properties.
   void sync();
@@ -29,7 +28,7 @@ class control_view {
   void show_all();
 
  protected:
-  // Caption, text, items or range; what the selection refers to is shown before it.
+  // Caption, text, items or range. Synced before the selection, which refers to the items.
   virtual void show_content() {}
   virtual void show_selection() {}
   virtual void show_colours() {}

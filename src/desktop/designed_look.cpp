@@ -10,11 +10,11 @@ namespace desktop {
 
 namespace {
 
-// Lengths as designed are for a screen of 96 dots an inch.
+// Designed lengths assume 96 dots per inch.
 constexpr double pixels_per_point = 96.0 / 72.0;
 
-// Fusion draws a frame in the window's colour darkened by this percentage, which is invisible in a
-// dark theme.
+// Fusion darkens the window's colour by this percentage for frames, which is invisible in a dark
+// theme.
 constexpr int fusion_darkens_lines_by = 140;
 
 int pixels(std::int32_t twips, std::int32_t twips_per_pixel) {

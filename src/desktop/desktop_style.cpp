@@ -41,7 +41,7 @@ void desktop_style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
 }
 
-// The caption of a push button does not wrap in Qt. Those of Qt's own dialogs need not.
+// Qt does not wrap captions of push buttons. In Qt's own dialogs they need not wrap.
 void desktop_style::drawControl(ControlElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -57,7 +57,7 @@ void desktop_style::drawControl(ControlElement element, const QStyleOption* opti
                QPalette::ButtonText);
 }
 
-// A path without blanks wraps too.
+// Also wraps paths without blanks.
 void desktop_style::drawItemText(QPainter* painter, const QRect& rect, int flags,
                                  const QPalette& colours, bool enabled, const QString& text,
                                  QPalette::ColorRole role) const {

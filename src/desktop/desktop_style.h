@@ -4,9 +4,8 @@
 
 namespace desktop {
 
-// Fusion on every desktop, with what the design asks for beyond it: captions of buttons and labels
-// that wrap, a frame round a list that has the focus, and menus whose letters are underlined only
-// where a key picks them.
+// The Fusion style with additions of the design: captions of buttons and labels wrap, a focused
+// list has a frame, and menu letters are underlined only while a key picks them.
 class desktop_style : public QProxyStyle {
  public:
   desktop_style();

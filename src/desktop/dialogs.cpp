@@ -21,11 +21,11 @@ QString name_filter(const file_kind& kind) {
   return to_screen(kind.label) + QStringLiteral(" (*") + to_screen(kind.ending) + QLatin1Char(')');
 }
 
-// The ending without the file name extension: "-sheet" of "-sheet.png".
+// The ending without the extension: "-sheet" of "-sheet.png".
 QString before_extension(const QString& text) { return text.left(text.lastIndexOf('.')); }
 
-// The name with the ending of a kind in place of that of another one, of which Qt may have changed
-// the extension already.
+// Replaces the ending of another kind by that of the selected kind. Qt may already have changed the
+// extension.
 QString with_ending(const QString& name, const std::vector<file_kind>& kinds,
                     const file_kind& wanted) {
   QString stem = before_extension(name);
@@ -47,7 +47,7 @@ void select_kind(QFileDialog& dialog, const file_kind& kind) {
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
                                   forms_layer::screen_point at, QWidget* owner) {
   QMenu menu(owner);
-  // A desktop may have a font of its own for menus.
+  // Some desktops set another font for menus.
   menu.setFont(font_for({}));
   QString taken;
   for (const forms_layer::menu_item* item : opened.items) {
@@ -58,7 +58,7 @@ forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
 }
 
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {
-  static QString folder = QDir::homePath();  // where the user saved last
+  static QString folder = QDir::homePath();  // of the last saved file
   QFileDialog dialog(owner, to_screen(question.title), folder);
   dialog.setWindowModality(Qt::ApplicationModal);
   dialog.setAcceptMode(QFileDialog::AcceptSave);

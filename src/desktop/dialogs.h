@@ -10,7 +10,7 @@ inline forms_layer::screen_point as_screen_point(const QPoint& point) {
   return {static_cast<std::int16_t>(point.x()), static_cast<std::int16_t>(point.y())};
 }
 
-// As those of forms_layer::screen, over `owner`.
+// The dialogs of forms_layer::screen, over `owner`.
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
                                   forms_layer::screen_point at, QWidget* owner);
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner);

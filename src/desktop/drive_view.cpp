@@ -14,7 +14,7 @@ drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent)
   setFont(font_for(shown.designed.font));
   connect(this, &QComboBox::activated, this, [this](int row) {
     forms_layer::user::choose(drives_, row);
-    // The tool may have gone to another drive than the chosen one.
+    // The tool may have selected another drive.
     if (!forms_layer::handler_running()) show_selection();
   });
 }
@@ -32,7 +32,7 @@ void drive_view::show_colours() {
   setPalette(with_colours(list, QPalette::Button, QPalette::ButtonText, back));
 }
 
-// A turn of the wheel over the closed list would go to another drive by accident.
+// The wheel over the closed list would change the drive by accident.
 void drive_view::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 }  // namespace desktop

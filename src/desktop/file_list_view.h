@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-// Names of files; choosing one selects it.
+// Names of files.
 class file_list_view : public rows_view {
  public:
   file_list_view(forms_layer::file_list& shown, QWidget* parent)

@@ -9,7 +9,7 @@
 
 #include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
-#include "desktop/window_place.h"
+#include "desktop/window_position.h"
 #include "desktop/window_system.h"
 #include "forms_layer/application.h"
 #include "forms_layer/user.h"
@@ -32,7 +32,7 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   auto* client = new canvas(form, this);
   setCentralWidget(client);
   set_designed_size();
-  // The layout gives the client area its size only when the window is shown.
+  // The layout sets the size of the client area only when the window is shown.
   client->resize(size() - QSize(0, menu_height()));
   views_.make_all(form, *client);
   set_tab_order();
@@ -68,7 +68,7 @@ void form_window::resizeEvent(QResizeEvent* event) {
                             (height() - menu_height()) * forms_layer::application.TwipsPerPixelY);
 }
 
-// Whether the window closes is decided by the tool.
+// The tool decides whether the window closes.
 void form_window::closeEvent(QCloseEvent* event) {
   event->ignore();
   forms_layer::user::close(form);
@@ -79,7 +79,7 @@ void form_window::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
 }
 
-// Keys that no control had use for.
+// Keys that all controls ignored.
 void form_window::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Refresh)) {
     forms_layer::user::reload(form);
@@ -92,7 +92,7 @@ void form_window::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// What the menu key does, which Qt answers by itself.
+// Shift+F10 acts as the menu key, which Qt handles.
 void form_window::open_focused_menu() {
   QWidget* focused = focusWidget();
   if (focused == nullptr) return;
@@ -123,7 +123,7 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
 void form_window::hide_window() {
   last_position_ = geometry().topLeft();
   wants_focus_ = false;
-  // Qt hands the focus on when its widget goes; the window is to come back as it was.
+  // Qt moves the focus when its widget is hidden; the window must keep it for the next time.
   focused_ = focusWidget();
   hide();
 }
@@ -136,7 +136,7 @@ void form_window::take_focus() {
 }
 
 void form_window::show_caption() {
-  // Without any title some systems show the name of the program's file.
+  // Without a title some systems show the name of the executable.
   const QString caption = to_screen(form.Caption());
   setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
 }

@@ -10,23 +10,23 @@
 
 namespace desktop {
 
-// The window of one form: the menu bar if it has menus, and beneath it the client area.
+// The window of one form: the menu bar if it has menus, and the client area below.
 class form_window : public QMainWindow {
  public:
   form_window(forms_layer::form& shown, views& all_views);
 
   forms_layer::form& form;
 
-  // Shows the window over `owner` (null: over nothing). It goes to its place as designed the first
-  // time, later to where it was. Over `centre_of` it centres if it is so designed. A window that is
-  // shown in the middle of a handler gets no keyboard until `take_focus`.
+  // Shows the window over `owner`, which may be null. The first time it is at its designed
+  // position, later at its last one. If designed so, it is centred over `centre_of`. A window shown
+  // during a handler gets no focus before `take_focus`.
   void show_over(QWindow* owner, const QWidget* centre_of, bool in_handler);
   void hide_window();
   void take_focus();
   void show_caption();
   void show_menu_item(const forms_layer::menu_item& item);
 
-  // It was shown in the middle of a handler and has no keyboard yet.
+  // True if it was shown during a handler and has no focus yet.
   bool wants_focus() const { return wants_focus_; }
 
  protected:

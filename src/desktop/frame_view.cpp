@@ -35,7 +35,7 @@ void frame_view::show_colours() {
   setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, frame_.BackColor()));
 }
 
-// Fusion draws the line beneath the caption, where the design has controls.
+// Fusion draws the line below the caption, where the design has controls.
 void frame_view::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor back = palette().color(QPalette::Window);

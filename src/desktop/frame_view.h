@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// A group box, filled by the canvas on which the controls of the frame are.
+// A group box, filled by the canvas of the frame's controls.
 class frame_view : public QGroupBox, public control_view {
  public:
   frame_view(forms_layer::frame& shown, QWidget* parent);

@@ -38,7 +38,7 @@ bool is_input(QEvent::Type type) {
   }
 }
 
-// The receiver, or the widget it belongs to, as it goes for a shortcut.
+// The receiver, or for a shortcut the widget that it belongs to.
 QWidget* widget_of(QObject* receiver) {
   while (receiver != nullptr && !receiver->isWidgetType()) receiver = receiver->parent();
   return static_cast<QWidget*>(receiver);
@@ -51,15 +51,15 @@ bool is_barred(QObject* receiver) {
   return window != nullptr && !window->form.Enabled();
 }
 
-// Another window, a menu or the list of a drive list takes the focus for a while only.
-bool is_for_a_while(Qt::FocusReason reason) {
+// Another window, a menu or the popup of a drive list takes the focus only temporarily.
+bool is_temporary(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
          reason == Qt::MenuBarFocusReason;
 }
 
-// The canvas in a frame has the focus for the frame.
+// The canvas in a frame takes the focus for the frame.
 void report_focus(QObject* receiver, const QFocusEvent& event) {
-  if (is_for_a_while(event.reason())) return;
+  if (is_temporary(event.reason())) return;
   for (QObject* at = receiver; at != nullptr; at = at->parent()) {
     if (const auto* view = dynamic_cast<control_view*>(at)) {
       forms_layer::user::focus(&view->control);

@@ -5,9 +5,9 @@
 
 namespace desktop {
 
-// Sees every event of the program before its receiver does. It keeps input from the windows of
-// disabled forms, which look as ever, tells the tool when a control gets the focus, and makes the
-// second press of a double click a single press if the first one was on another widget.
+// Filters every event of the program. It drops input to windows of disabled forms, whose look is
+// unchanged, reports focus changes to the tool, and turns the second press of a double click into a
+// single press if the first was on another widget.
 class input_filter : public QObject {
  public:
   bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -15,7 +15,7 @@ class input_filter : public QObject {
  private:
   bool is_double_click_of_another(const QObject* receiver, QEvent::Type type);
 
-  const QObject* pressed_ = nullptr;  // by the latest press; perhaps no longer there
+  const QObject* pressed_ = nullptr;  // by the latest press; may be deleted
 };
 
 }  // namespace desktop

@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// Either of the two keys that confirm.
+// True for Return and Enter.
 inline bool is_enter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }

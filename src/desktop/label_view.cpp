@@ -18,7 +18,7 @@ label_view::label_view(forms_layer::label& shown, QWidget* parent)
   setAlignment(shown.designed.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop);
   setAutoFillBackground(true);
   if (shown.Click) setFocusPolicy(Qt::TabFocus);
-  // A label never covers the edge of a field beside it.
+  // A label must not cover the edge of a field beside it.
   lower();
 }
 

@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-// A label that answers a click answers Enter and Space too.
+// If the label has a Click handler, Enter and Space click it.
 class label_view : public QLabel, public control_view {
  public:
   label_view(forms_layer::label& shown, QWidget* parent);

@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-// Rows of text; a press, a double click and the keyboard go to the tool.
+// Rows of text. Presses, double clicks and keys are reported to the tool.
 class list_box_view : public rows_view {
  public:
   list_box_view(forms_layer::list_box& shown, QWidget* parent)

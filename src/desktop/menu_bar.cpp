@@ -20,7 +20,7 @@ menu_bar::menu_bar(forms_layer::form& shown, QWidget* window) : QMenuBar(window)
 
 void menu_bar::add(const forms_layer::menu& shown, const QString& caption) {
   QMenu* column = addMenu(caption);
-  // A desktop may have a font of its own for menus.
+  // Some desktops set another font for menus.
   column->setFont(font_for({}));
   QString taken;
   for (forms_layer::menu_item* item : shown.items) {
@@ -40,7 +40,7 @@ void menu_bar::show_item(const forms_layer::menu_item& item) {
   if (at != actions_.end()) at->second->setEnabled(item.Enabled());
 }
 
-// Qt watches the window for Alt; the letters in the bar depend on that key.
+// The underlined letters in the bar depend on the Alt key, which Qt watches in the window.
 bool menu_bar::eventFilter(QObject* watched, QEvent* event) {
   const bool of_key =
       event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyRelease;

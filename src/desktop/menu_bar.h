@@ -8,9 +8,8 @@
 
 namespace desktop {
 
-// The menus of a form. The first letter of a caption that no caption before it has taken is its
-// shortcut, with Alt in the bar and alone in an open menu, where it is underlined; F10 opens the
-// first menu.
+// The menus of a form. The shortcut of a caption is its first letter that no earlier caption uses:
+// with Alt in the bar, alone in an open menu. F10 opens the first menu.
 class menu_bar : public QMenuBar {
  public:
   menu_bar(forms_layer::form& shown, QWidget* window);

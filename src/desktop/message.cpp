@@ -10,7 +10,7 @@ namespace desktop {
 
 namespace {
 
-// Leaves room for the title, which is in a font of the window manager's.
+// Leaves room for the title, whose font the window manager chooses.
 void widen(QMessageBox& box) {
   constexpr int min_width = 260;
   auto* rows = qobject_cast<QGridLayout*>(box.layout());
@@ -24,7 +24,7 @@ void widen(QMessageBox& box) {
 void show_message(const std::string& title, const std::string& text, QWidget* owner) {
   QMessageBox box(owner);
   box.setWindowModality(Qt::ApplicationModal);
-  // A desktop may have a font of its own for such boxes.
+  // Some desktops set another font for message boxes.
   box.setFont(font_for({}));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_screen(title));

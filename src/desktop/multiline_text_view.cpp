@@ -14,7 +14,7 @@ namespace {
 
 constexpr int pause_in_milliseconds = 200;
 
-// Qt lays a line out as a whole, in a time that makes lines of megabytes endless.
+// Qt's layout time grows faster than the length of a line; a line of megabytes would hang.
 constexpr qsizetype max_line_length = 4096;
 
 QString with_short_lines(const QString& text) {
@@ -32,8 +32,8 @@ QString with_short_lines(const QString& text) {
   return lines;
 }
 
-// Qt keeps some 400 bytes and an object per block, so blocks of a text of many lines hold several.
-// Blocks of one line are better for editing.
+// Qt needs some 400 bytes per block. In texts of many lines a block holds several lines; in others
+// one, which is better for editing.
 constexpr qsizetype max_single_lines = 20000;
 constexpr qsizetype lines_per_block = 64;
 
@@ -78,7 +78,7 @@ void multiline_text_view::show_content() {
   count_lines();
 }
 
-// Qt counts the lines of a block only when it paints it, and the scroll bar goes by them.
+// The scroll bar counts lines, and Qt counts those of a block only when it paints it.
 void multiline_text_view::count_lines() {
   for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
     block.setLineCount(1 + static_cast<int>(block.text().count(QChar::LineSeparator)));

@@ -8,8 +8,8 @@
 
 namespace desktop {
 
-// A text box of several lines with scroll bars both ways. The tool learns of an edit when the user
-// pauses or leaves, as the text may be megabytes long.
+// A text box of several lines with both scroll bars. Edits are reported when the user pauses or
+// leaves, as the text can be megabytes long.
 class multiline_text_view : public QPlainTextEdit, public control_view {
  public:
   multiline_text_view(forms_layer::text_box& shown, QWidget* parent);

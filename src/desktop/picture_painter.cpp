@@ -20,15 +20,15 @@ QRgb as_rgb(forms_layer::colour c) {
          forms_layer::blue_of(c);
 }
 
-void paint_border(QPainter& painter, const QRect& place, const QColor& colour) {
-  const QRect inner = place.adjusted(1, 1, -1, -1);
-  painter.fillRect(QRect(place.topLeft(), QSize(place.width(), 1)), colour);
-  painter.fillRect(QRect(place.bottomLeft(), QSize(place.width(), 1)), colour);
-  painter.fillRect(QRect(place.left(), inner.top(), 1, inner.height()), colour);
-  painter.fillRect(QRect(place.right(), inner.top(), 1, inner.height()), colour);
+void paint_border(QPainter& painter, const QRect& rect, const QColor& colour) {
+  const QRect inner = rect.adjusted(1, 1, -1, -1);
+  painter.fillRect(QRect(rect.topLeft(), QSize(rect.width(), 1)), colour);
+  painter.fillRect(QRect(rect.bottomLeft(), QSize(rect.width(), 1)), colour);
+  painter.fillRect(QRect(rect.left(), inner.top(), 1, inner.height()), colour);
+  painter.fillRect(QRect(rect.right(), inner.top(), 1, inner.height()), colour);
 }
 
-// The pixels of `part` (of the drawing area) row by row, in memory that is used again and again.
+// The pixels of `part` of the drawing area, row by row, in reused memory.
 const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QRgb background) {
   static std::vector<QRgb> rows;
   rows.resize(static_cast<std::size_t>(part.width()) * static_cast<std::size_t>(part.height()));
@@ -43,7 +43,7 @@ const std::vector<QRgb>& converted(const picture_box& box, const QRect& part, QR
   return rows;
 }
 
-// A picture that the program carries, read once; null for a name that it has none of.
+// A picture from the program's resources, loaded once; null if there is none of that name.
 const QImage& resource_picture(const char* name) {
   static std::map<std::string, QImage> read;
   const auto [at, is_new] = read.try_emplace(name);
@@ -61,13 +61,13 @@ void paint_designed_picture(QPainter& painter, const char* name, const QRect& in
 
 }  // namespace
 
-void paint_picture(QPainter& painter, const picture_box& box, const QRect& place,
+void paint_picture(QPainter& painter, const picture_box& box, const QRect& rect,
                    const QRect& dirty) {
   const QColor background = on_screen(box.BackColor());
-  const QRect inner = place.adjusted(1, 1, -1, -1);
+  const QRect inner = rect.adjusted(1, 1, -1, -1);
   if (!inner.contains(dirty)) {
     const QPalette theme = QApplication::palette();
-    paint_border(painter, place,
+    paint_border(painter, rect,
                  mix(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
   }
   painter.fillRect(inner & dirty, background);

@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A display shows some 60 frames a second.
+// Displays show some 60 frames per second.
 constexpr auto frame_time = 16ms;
 
 // A message of a job that ends sooner would only flicker.
@@ -76,7 +76,7 @@ void qt_screen::copy_picture(const forms_layer::picture_box& shown) {
   QGuiApplication::clipboard()->setImage(image_of(shown));
 }
 
-// Nothing is open and nothing is to be saved.
+// No file is open and there is nothing to save.
 void qt_screen::end_process() { std::_Exit(EXIT_SUCCESS); }
 
 form_window* qt_screen::window_of(const forms_layer::form& shown) const {
@@ -84,8 +84,8 @@ form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   return at == windows_.end() ? nullptr : at->second.get();
 }
 
-// At the end of the handler. The event loop may also get here in its middle, from a frame or a
-// message box, which then call this again.
+// Runs at the end of the handler. The event loop can also call it during the handler, from a frame
+// or a message box, which then schedule it again.
 void qt_screen::sync_soon() {
   if (std::exchange(syncing_soon_, true)) return;
   const auto when_reached = [this] {
@@ -101,7 +101,7 @@ void qt_screen::sync() {
   if (!forms_layer::handler_running()) give_focus();
 }
 
-// The start of a handler counts as a frame: the end of the one before has brought everything.
+// The start of a handler counts as a frame, as the end of the previous one synced everything.
 void qt_screen::show_frame_if_due() {
   const auto began = forms_layer::handler_began();
   const auto now = std::chrono::steady_clock::now();
@@ -144,7 +144,7 @@ void qt_screen::hide_window(forms_layer::form& shown) {
     if (handle->transientParent() == window->windowHandle()) handle->setTransientParent(nullptr);
   }
   window->hide_window();
-  // Not every window manager hands the focus on.
+  // Not all window managers pass on the focus.
   form_window* next = topmost(nullptr);
   if (was_active && next != nullptr) next->take_focus();
 }
@@ -158,14 +158,14 @@ form_window& qt_screen::made_window(forms_layer::form& shown) {
   return *window;
 }
 
-// The latest window shown whose form stays, other than `but`'s.
+// The latest shown window whose form is visible, other than `but`.
 form_window* qt_screen::topmost(const forms_layer::form* but) const {
   const auto stays = [but](const form_window* w) { return &w->form != but && w->form.Visible(); };
   const auto at = std::find_if(on_screen_.rbegin(), on_screen_.rend(), stays);
   return at == on_screen_.rend() ? nullptr : *at;
 }
 
-// Windows that were shown in the middle of a handler and stay get the focus at its end.
+// Windows that were shown during a handler and are still visible get the focus at its end.
 void qt_screen::give_focus() {
   for (form_window* window : on_screen_) {
     if (window->wants_focus()) window->take_focus();

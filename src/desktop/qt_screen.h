@@ -15,10 +15,10 @@
 
 namespace desktop {
 
-// Shows the tool's forms with Qt. Properties that the tool writes are marked dirty; the screen
-// follows at the end of the handler, before a message box, and with a frame every 16 ms while the
-// handler asks for a refresh. A window that a handler shows is mapped once the handler has lasted
-// 100 ms, or at its end or a message box if it is still visible then.
+// Shows the tool's forms with Qt. Written properties are marked dirty. They are synced at the end
+// of the handler, before a message box, and at most every 16 ms when the handler refreshes. A
+// window that a handler shows is mapped when the handler has run for 100 ms, at a message box, or
+// at the end of the handler if it is still visible.
 class qt_screen : public forms_layer::screen {
  public:
   qt_screen();

@@ -98,8 +98,8 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
     if (currentIndex().isValid()) enter_pressed(currentIndex().row());
     return;
   }
-  // Qt makes the first row the current one when the list gets the focus; the first arrow key
-  // selects that row and not the one after it.
+  // Qt makes the first row current when the list gets the focus. The first arrow key must select
+  // that row, not the next one.
   if (!selectionModel()->hasSelection()) setCurrentIndex({});
   const int before = currentIndex().row();
   QListView::keyPressEvent(event);
@@ -122,13 +122,13 @@ bool rows_view::viewportEvent(QEvent* event) {
   return true;
 }
 
-// Ctrl with Space or an arrow key would take the highlight away.
+// Ctrl with Space or an arrow key would remove the highlight.
 QItemSelectionModel::SelectionFlags rows_view::selectionCommand(const QModelIndex& index,
                                                                 const QEvent* /*event*/) const {
   return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-// As wide as the widest row. Qt would lay out the text of each.
+// The width of the widest row. Qt would lay out the text of every row.
 QSize rows_view::needed_size() const {
   std::array<int, 256> widths{};
   for (std::size_t c = 0; c < widths.size(); ++c) {
@@ -157,7 +157,7 @@ int rows_view::rows_model::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant rows_view::rows_model::data(const QModelIndex& index, int role) const {
-  // The control may have lost rows that the screen does not know of yet.
+  // The control may have fewer rows than the screen knows.
   if (index.row() >= view_.row_count()) return {};
   switch (role) {
     case Qt::DisplayRole:

@@ -8,8 +8,8 @@
 
 namespace desktop {
 
-// A list of rows of text; subclasses supply the rows and what selecting one does. A row is read
-// from the control when it is painted, so a long list costs nothing.
+// A list of rows of text. Subclasses supply the rows and handle selections. A row is read from the
+// control when it is painted, so long lists are cheap.
 class rows_view : public QListView, public control_view {
  public:
   rows_view(forms_layer::control& shown, QWidget* parent);
@@ -25,11 +25,11 @@ class rows_view : public QListView, public control_view {
 
  protected:
   virtual int selected_row() const = 0;
-  // A press on a row, the selected one too, or its selection by keyboard.
+  // Called after a press on a row, also the selected one, or a selection by keyboard.
   virtual void row_chosen(int /*row*/) {}
   virtual void row_double_clicked(int /*row*/) {}
   virtual void enter_pressed(int /*row*/) {}
-  // The right button or the menu key, at a point of the screen.
+  // Called after the right button or the menu key, with a point of the screen.
   virtual void menu_requested(int /*row*/, const QPoint& /*at*/) {}
 
   void show_content() override;

@@ -8,7 +8,7 @@ namespace desktop {
 
 namespace {
 
-// Qt breaks only marked-up tool tips into lines.
+// Qt breaks only tool tips with markup into lines.
 constexpr qsizetype longest_plain_tool_tip = 90;
 
 }  // namespace

@@ -4,21 +4,21 @@
 #include <string>
 #include <string_view>
 
-// Text on its way between the tool (code page 1252) and the screen.
+// Converts text between the tool (code page 1252) and the screen.
 namespace desktop {
 
-// Any text has a form on the screen.
+// Never fails.
 QString to_screen(std::string_view text);
-// With "?" for each character that the code page has not got.
+// Characters that the code page lacks become "?".
 std::string from_screen(const QString& text);
 
-// With "\n" for each CR LF, CR and LF, and with `pairs_turned` for each LF CR as well.
+// Replaces CR LF, CR and LF by "\n", and LF CR too if `pairs_turned`.
 QString normalize_newlines(QString text, bool pairs_turned = false);
 
-// For captions in which Qt would take "&" for the mark of a shortcut.
+// Doubles "&", which marks a shortcut in Qt's captions.
 QString escape_ampersands(QString caption);
 
-// Never taken for markup; a long text is broken into lines.
+// Escapes markup, and breaks a long text into lines.
 QString as_tool_tip(const std::string& text);
 
 }  // namespace desktop

@@ -19,13 +19,13 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
 
 void text_field_view::take_edit() {
   forms_layer::user::type(box_, from_screen(text()));
-  // The tool may have kept another text, and says so only if it differs from the one before.
+  // The tool can keep another text. It reports that only if its text has changed.
   if (!forms_layer::handler_running()) show_content();
 }
 
 void text_field_view::show_content() {
   const QString now = to_screen(box_.Text());
-  // The limit holds for what the user adds, not for what the tool writes.
+  // The limit applies to the user's input, not to texts of the tool.
   const int limit = box_.designed.max_length;
   if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
   setPlaceholderText(to_screen(box_.Placeholder()));

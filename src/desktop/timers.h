@@ -7,10 +7,10 @@
 
 namespace desktop {
 
-// Makes the timers of the forms tick.
+// Runs the timers of the forms.
 class timers {
  public:
-  // Stops or restarts the QTimer of one whose properties were written.
+  // Stops or restarts the QTimer of a timer whose properties were written.
   void sync(forms_layer::timer& written);
 
  private:

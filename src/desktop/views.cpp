@@ -13,7 +13,7 @@ namespace {
 
 using forms_layer::control_kind;
 
-// What a screen reader calls a control without a caption.
+// Names for screen readers of controls without a caption.
 QString spoken_name(const forms_layer::control& shown) {
   if (!shown.designed.spoken_name.empty()) return to_screen(shown.designed.spoken_name);
   if (shown.kind == control_kind::drive_list) return QStringLiteral("Drives");

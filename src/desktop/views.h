@@ -9,17 +9,17 @@
 
 namespace desktop {
 
-// All widgets that show controls, by control, and which of them are dirty.
+// All widgets of controls, and which of them are dirty.
 class views {
  public:
-  // Makes widgets on the canvas for all controls of its container, and for those in its frames.
+  // Creates widgets on the canvas for all controls of its container and of the frames in it.
   void make_all(forms_layer::container& shown, canvas& on);
 
-  // A control without a widget is skipped. True if it had no dirty property before.
+  // Ignores a control without a widget. Returns true if it had no dirty property before.
   bool mark_dirty(forms_layer::control& written, forms_layer::property_id what);
   void sync();
 
-  // For a new theme.
+  // After a change of the theme.
   void show_all();
 
   // The widgets of a form in tab order.

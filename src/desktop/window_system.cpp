@@ -8,7 +8,8 @@ namespace desktop {
 
 namespace {
 
-// A busy machine takes its time; a window manager that does not map the window must not stop a job.
+// Long enough for a busy machine. A window manager that does not map the window must not stop a
+// job.
 constexpr int max_wait_in_milliseconds = 500;
 
 }  // namespace

@@ -4,12 +4,12 @@
 
 namespace desktop {
 
-// Handles what the window system has sent, in the middle of a handler. Keys and the mouse wait for
-// the end of the handler; other events that reach the tool are queued by it.
+// Processes events of the window system during a handler. Keys and the mouse wait for the end of
+// the handler; the tool queues other events.
 void pump_window_system();
 
-// The window system exposes a new window through the event loop, which a handler does not return
-// to. Pumps until the window is exposed, for a moment at most.
+// Processes events until a new window is exposed, for a short time at most. Qt learns of the
+// exposure only through the event loop, to which a handler does not return.
 void wait_until_exposed(const QWindow& shown);
 
 }  // namespace desktop

@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// The main window: the entries on the left, what they hold on the right. Lengths are twips.
+// The main window: the entries on the left, their content on the right. Lengths are twips.
 struct form1 : forms_layer::form {
   form1()
       : form({.name = "Form1",

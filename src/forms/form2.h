@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// Finds the archive to read. Lengths are twips.
+// The dialog to open an archive. Lengths are twips.
 struct form2 : forms_layer::form {
   form2()
       : form({.name = "Form2",

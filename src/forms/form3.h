@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// The window in which long jobs and the icon report speak to the user. Lengths are twips.
+// The window for the progress of long jobs and for the icon report. Lengths are twips.
 struct form3 : forms_layer::form {
   form3() : form({.name = "Form3", .client_width = 7425, .client_height = 4785}) {}
 

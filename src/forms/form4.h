@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// Extracts all entries into a folder. Lengths are twips.
+// The dialog to extract all entries into a folder. Lengths are twips.
 struct form4 : forms_layer::form {
   form4()
       : form({.name = "Form4",

@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// Makes a new archive from the files of a folder. Lengths are twips.
+// The dialog to build an archive from the files of a folder. Lengths are twips.
 struct form5 : forms_layer::form {
   form5()
       : form({.name = "Form5",

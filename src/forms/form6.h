@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// Compares the open archive with a shiplist. Lengths are twips.
+// The dialog to compare the open archive with a shiplist. Lengths are twips.
 struct form6 : forms_layer::form {
   form6()
       : form({.name = "Form6",

@@ -29,7 +29,7 @@ std::string entry_name() {
       tool_state.dat_index[static_cast<std::size_t>(tool_state.directory_index)].name);
 }
 
-// What the proposed file name begins with; it must not lead to another folder.
+// The beginning of the proposed file name. It must not lead to another folder.
 std::string proposed_stem() {
   const std::string name = entry_name();
   return unsafe_name_reason(name).empty() ? stem_of_entry(name) : "picture";
@@ -45,14 +45,14 @@ std::string as_utf8(const std::filesystem::path& path) {
   return {text.begin(), text.end()};
 }
 
-// "GEMS" for "GEMS-0001"; nothing for other names.
+// "GEMS" for "GEMS-0001"; nullopt for other names.
 std::optional<std::string> without_number(const std::string& stem) {
   const std::size_t digits_at = stem.find_last_not_of("0123456789") + 1;
   if (digits_at < 2 || stem[digits_at - 1] != '-' || stem.size() - digits_at < 4) return {};
   return stem.substr(0, digits_at - 1);
 }
 
-// Sets the form and the names of the files. False if the ending is that of no form.
+// Sets the form and the names of the files. Returns false for an unknown ending.
 bool take_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   const std::filesystem::path path = answer.path;
   const std::string ending = files::lower_case(as_utf8(path.extension()));
@@ -68,7 +68,7 @@ bool take_name(icon_export& wanted, const forms_layer::save_answer& answer) {
     wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
     if (stem) wanted.stem = *stem;
   }
-  // The file of that name is replaced and no other, whatever the case of its ending.
+  // Only the file of that name is replaced, whatever the case of its ending.
   const bool is_numbered = wanted.form == picture_form::png;
   wanted.target = [path, is_numbered](const std::string& name) {
     const bool is_other = is_numbered || name.ends_with(".json");

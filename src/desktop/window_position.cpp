@@ -1,4 +1,4 @@
-#include "desktop/window_place.h"
+#include "desktop/window_position.h"
 
 #include <QScreen>
 #include <QWindow>
