@@ -6,11 +6,11 @@
 namespace ostrane {
 
 struct archive_entry {
-  std::string name;   // of at most 13 characters, which are stored as they are
+  std::string name;   // at most 13 characters, stored unchanged
   std::string bytes;  // one byte per character
 };
 
-// The bytes of an archive in normal form: the entries in this order, then the end record.
+// Returns an archive of these entries in this order, without gaps.
 std::string archive_bytes(const std::vector<archive_entry>& entries);
 
 }  // namespace ostrane

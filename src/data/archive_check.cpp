@@ -19,11 +19,11 @@ namespace ostrane {
 namespace {
 
 constexpr std::int64_t palette_size = palette_colours * colour_size;
-// What the window shows of a text.
+// The window shows no more of a text.
 constexpr std::int64_t max_text_size = std::int64_t{2} << 20U;
 
 struct archive_check {
-  const fault_sink& tell;
+  const fault_sink& report;
   std::vector<dat_record> records;
   std::int64_t file_size;
   std::vector<bool> overlaps;  // for each entry
@@ -39,7 +39,7 @@ std::string name_of(const archive_check& check, std::size_t index) {
   return name_with_blanks(check.records[index].name);
 }
 
-// An entry without a name is told of by its number.
+// An entry without a name is reported by its 1-based number.
 std::string shown_name(const archive_check& check, std::size_t index) {
   const std::string name = name_of(check, index);
   return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
@@ -55,21 +55,21 @@ std::int64_t size_of(const archive_check& check, std::size_t index) {
 
 void check_ends(const archive_check& check) {
   if (check.records.empty()) {
-    check.tell("", "its index has no end record");
+    check.report("", "its index has no end record");
     return;
   }
   const std::int64_t after_index =
       count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
   const std::int64_t gap = start_of(check, 0) - after_index;
-  if (gap > 0) check.tell("", number(gap) + " bytes lie between its index and the first entry");
+  if (gap > 0) check.report("", number(gap) + " bytes lie between its index and the first entry");
   const dat_record& end = check.records.back();
-  if (end.name != record_name{}) check.tell("", "its end record has a name");
+  if (end.name != record_name{}) check.report("", "its end record has a name");
   const std::int64_t rest = check.file_size - end.offset;
-  if (rest > 0) check.tell("", number(rest) + " bytes lie after the end record's offset");
+  if (rest > 0) check.report("", number(rest) + " bytes lie after the end record's offset");
   if (rest < 0) {
-    check.tell("", "its end record's offset lies " + number(-rest) + " bytes after its end");
+    check.report("", "its end record's offset lies " + number(-rest) + " bytes after its end");
   }
-  if (end.offset < after_index) check.tell("", "its end record's offset lies in the index");
+  if (end.offset < after_index) check.report("", "its end record's offset lies in the index");
 }
 
 void check_names(const archive_check& check) {
@@ -77,10 +77,10 @@ void check_names(const archive_check& check) {
   for (std::size_t i = 0; i < entry_count(check); ++i) {
     const std::string name = name_of(check, i);
     const std::string unsafe = unsafe_name_reason(name);
-    if (!unsafe.empty()) check.tell(shown_name(check, i), "cannot become a file: " + unsafe);
+    if (!unsafe.empty()) check.report(shown_name(check, i), "cannot become a file: " + unsafe);
     const auto [first, is_new] = known.emplace(files::compare_key(name), i);
     if (!is_new) {
-      check.tell(
+      check.report(
           shown_name(check, i),
           "entry " + number(static_cast<std::int64_t>(first->second) + 1) + " has its name too");
     }
@@ -94,21 +94,21 @@ void check_offsets(const archive_check& check) {
     const std::string name = shown_name(check, i);
     const std::int64_t start = start_of(check, i);
     const std::string offset = "its offset " + number(start);
-    if (start < 0) check.tell(name, offset + " is below 0");
-    if (start >= 0 && start < after_index) check.tell(name, offset + " lies in the index");
-    if (start > check.file_size) check.tell(name, offset + " lies after the end of the archive");
+    if (start < 0) check.report(name, offset + " is below 0");
+    if (start >= 0 && start < after_index) check.report(name, offset + " lies in the index");
+    if (start > check.file_size) check.report(name, offset + " lies after the end of the archive");
     if (size_of(check, i) < 0) {
-      check.tell(name,
-                 offset + " is out of order: the next one is " + number(start_of(check, i + 1)));
+      check.report(name,
+                   offset + " is out of order: the next one is " + number(start_of(check, i + 1)));
     } else if (start >= 0 && start <= check.file_size &&
                start + size_of(check, i) > check.file_size) {
-      check.tell(name, "it ends " + number(start + size_of(check, i) - check.file_size) +
-                           " bytes after the end of the archive");
+      check.report(name, "it ends " + number(start + size_of(check, i) - check.file_size) +
+                             " bytes after the end of the archive");
     }
   }
 }
 
-// Compares each entry with the one that reaches furthest of those that begin before it.
+// Compares each entry with the entry that ends last among those that begin before it.
 void check_overlaps(archive_check& check) {
   check.overlaps.resize(entry_count(check));
   std::vector<std::size_t> order;
@@ -124,7 +124,7 @@ void check_overlaps(archive_check& check) {
     const std::int64_t end = start_of(check, other) + size_of(check, other);
     if (start_of(check, entry) < end) {
       check.overlaps[entry] = true;
-      check.tell(shown_name(check, entry), "it overlaps with " + shown_name(check, other));
+      check.report(shown_name(check, entry), "it overlaps with " + shown_name(check, other));
     }
     if (start_of(check, entry) + size_of(check, entry) > end) furthest = k;
   }
@@ -134,23 +134,23 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
                    std::size_t index) {
   const std::int64_t start = start_of(check, index);
   const std::int64_t size = size_of(check, index);
-  // Of what overlaps only the first one is looked into, so that no byte is read for many entries.
+  // Of overlapping entries only the first is checked, so that no byte is read for many entries.
   if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps[index]) return;
   const std::string name = shown_name(check, index);
   switch (kind_of_entry(name_without_nuls(check.records[index].name))) {
     case entry_kind::icons:
       check_icon_file(file, static_cast<std::int32_t>(start), check.records[index + 1].offset,
-                      stream, [&](const std::string& fault) { check.tell(name, fault); });
+                      stream, [&](const std::string& fault) { check.report(name, fault); });
       break;
     case entry_kind::palette:
       if (size != palette_size) {
-        check.tell(
+        check.report(
             name, "a palette has " + number(palette_size) + " bytes, this one has " + number(size));
       }
       break;
     case entry_kind::text:
       if (size > max_text_size) {
-        check.tell(
+        check.report(
             name, "of its " + number(size) + " bytes only " + number(max_text_size) + " are shown");
       }
       break;
@@ -162,7 +162,7 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
 }  // namespace
 
 void check_archive(
-    const files::file_path& path, const fault_sink& tell,
+    const files::file_path& path, const fault_sink& report,
     const std::function<void(std::size_t, std::size_t, const std::string&)>& on_entry) {
   archive_index index;
   files::binary_file file;
@@ -170,10 +170,10 @@ void check_archive(
     index = read_archive_index(path);
     open_unchanged(file, path, index.stamp);
   } catch (const data_error& error) {
-    tell("", error.text);
+    report("", error.text);
     return;
   }
-  archive_check check{tell, std::move(index.records), index.stamp.size, {}};
+  archive_check check{report, std::move(index.records), index.stamp.size, {}};
   check_ends(check);
   check_names(check);
   check_offsets(check);

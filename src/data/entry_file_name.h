@@ -4,8 +4,9 @@
 
 namespace ostrane {
 
-// Why an entry of this name must not become a file, as the end of a sentence, or "". Unsafe are
-// names that would lead out of the folder, that mean a device, or that hold a control character.
+// Returns the reason why an entry of this name is unsafe as a file (a sentence fragment), or "".
+// Unsafe are empty names, folder and device names, and names with a path separator or a control
+// character.
 std::string unsafe_name_reason(const std::string& name);
 
 }  // namespace ostrane

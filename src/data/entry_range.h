@@ -7,14 +7,14 @@
 
 namespace ostrane {
 
-// The file offset of the entry of record `index` (from 0 on), as the index of the archive claims
-// it: it may be below 0 or beyond the end of the file.
+// Returns the file offset of entry `index` (0-based) as the archive's index gives it. The offset
+// may be negative or past the end of the file.
 std::int32_t entry_start(std::span<const dat_record> records, std::int32_t index);
 
-// The offset just after that entry, likewise. The end record has no entry: its own offset.
+// Returns the offset after that entry, also unchecked. For the end record returns its own offset.
 std::int32_t entry_end(std::span<const dat_record> records, std::int32_t index);
 
-// The nearest number of 32 bits; what an index claims can add up to more.
+// Sums of the offsets in an index can exceed 32 bits.
 std::int32_t clamp_to_int32(std::int64_t number);
 
 }  // namespace ostrane

@@ -32,8 +32,7 @@ struct entry_file {
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
     if (is_whole) return;
-    const bool drop =
-        is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
+    const bool drop = is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
     file.abandon();
     if (drop) files::file_calls::remove_file(path.system);
   }
