@@ -45,7 +45,7 @@ int extract(const extract_options& options) {
            },
        .on_bytes = [&](std::int32_t) { show(""); }},
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
-       .replaces_whole = true});
+       .replaces_atomically = true});
   return report(result);
 }
 

@@ -15,26 +15,25 @@ namespace ostrane {
 struct extraction_result {
   std::int32_t written = 0;           // entries
   std::vector<skipped_file> skipped;  // entries that were not written
-  std::vector<skipped_file> hidden;   // files that the system does not show by itself
-  std::string stopped;                // why the job ended before its end, or ""
+  std::vector<skipped_file> hidden;   // written files that the system hides by default
+  std::string stopped;                // why the job was aborted, or ""
 };
 
-// Where the file of an entry goes.
+// Returns the path of the file for an entry.
 using entry_target = std::function<files::file_path(const std::string& name)>;
-// Called when that file was made new.
+// Called after a new file was created.
 using entry_file_created = std::function<void(const files::file_path& path)>;
 
-// Which entries are written, and how.
 struct extraction_choice {
   std::function<bool(std::size_t index)> is_wanted;  // null for all
-  // Each entry is read from its own offset, and an existing file is replaced whole.
-  bool replaces_whole = false;
+  // Reads each entry from its own offset and replaces existing files atomically.
+  bool replaces_atomically = false;
 };
 
-// Writes every entry of an open archive to a file of its own, over one of its name or as a new one.
-// The entries lie one after the other from the offset of the first record on. A full disk and a
-// lack of memory stop the job; any other failure skips the entry. A new file that is not whole is
-// removed. The archive itself is never written to.
+// Writes every entry of an open archive to its own file. Existing files are overwritten. By default
+// the entries are read as adjacent, starting at the offset of the first record. A full disk and a
+// lack of memory abort the job; any other failure skips the entry. An incomplete new file is
+// removed. The archive is never overwritten.
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
                                   const entry_target& target, const entry_file_created& on_created,
                                   const job_progress& progress,

@@ -5,7 +5,7 @@
 
 namespace ostrane {
 
-// Takes what a check has found: the name of the entry, or "" for the archive itself, and the fault.
+// Receives the faults that a check finds. `entry` is "" for a fault of the archive itself.
 using fault_sink = std::function<void(const std::string& entry, const std::string& fault)>;
 
 }  // namespace ostrane
