@@ -9,46 +9,46 @@
 #include "data/shp_format.h"
 #include "files/binary_file.h"
 
-// What is to become of the icons of an icon file in the formats of other programs. Names are in
-// UTF-8.
+// Export of the icons of an icon file to the formats of other programs. Names are in UTF-8.
 namespace ostrane {
 
 enum class picture_form {
   png,      // a PNG for each icon, and a JSON
   sheet,    // one PNG, and a JSON
-  gif,      // the motion
+  gif,      // an animation
   picture,  // one PNG of one icon
 };
 
 struct icon_export {
-  std::string entry = {};  // its name
-  std::int32_t start = 0;  // its first byte in the archive
-  std::int32_t end = 0;    // after its last byte
+  std::string entry = {};  // name of the icon file
+  std::int32_t start = 0;  // archive offset of its first byte
+  std::int32_t end = 0;    // archive offset after its last byte
   colour_table colours = {};
 
   picture_form form = picture_form::png;
-  std::string stem = {};  // what the names of the files begin with
-  int pace = 10;          // hundredths of a second for each picture
-  int scale = 1;          // pixels of a cell
-  // Numbers of icons, from 1.
+  std::string stem = {};  // prefix of the file names
+  int pace = 10;          // hundredths of a second per picture
+  int scale = 1;          // pixels per cell
+  // The range of icons, 1-based and inclusive.
   std::size_t first = 1;
   std::size_t last = max_icons_per_file;
 
   std::function<files::file_path(const std::string& name)> target = {};
-  // Called with the reason for each icon that is left out, and for what is not exact.
+  // Called with the reason for each icon that is skipped or not exact.
   std::function<void(const std::string& reason)> on_skipped = {};
-  // Called for each icon; may be null.
+  // Called before each icon; may be null.
   std::function<void(std::size_t number, std::size_t count)> on_icon = {};
 };
 
-// Reads the icons from an open archive and writes the files, each whole or not at all. Throws
-// data_error if nothing can be made of the icons, and file_error.
+// Reads the icons from an open archive and writes each file atomically. Throws data_error if no
+// icon can be exported, and file_error.
 using icon_exporter = void (*)(files::binary_file& archive, const icon_export& wanted);
 
-// The name of an entry without its ending of four characters, if more than that is left.
+// Returns the name of an entry without its last four characters, the extension. Names of at most
+// four characters are returned unchanged.
 std::string stem_of_entry(const std::string& name);
 
-// "GEMS-0001.png"
+// Returns "GEMS-0001.png" for the stem "GEMS" and 1.
 std::string png_name(const std::string& stem, std::size_t number);
 
 }  // namespace ostrane

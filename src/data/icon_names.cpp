@@ -19,7 +19,7 @@ icon_name_pair pair_of(std::string_view line) {
 
 std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
   std::vector<icon_name_pair> rows(1);
-  // The descriptions are an extra, so a failure is not reported.
+  // Descriptions are optional, so a failure is not reported.
   files::failure_of([&] {
     files::text_reader reader(path);
     while (!reader.at_end() && rows.size() <= max_icon_names) {

@@ -6,7 +6,7 @@ namespace ostrane {
 
 namespace {
 
-// Appends one block to what the buffer holds; false if the file ended in it.
+// Appends one block to the buffer. Returns false if the file ended in it.
 bool read_block(icon_stream& stream, files::binary_file& file, std::size_t size) {
   const auto to = std::span(stream.read_buffer)
                       .subspan(static_cast<std::size_t>(stream.read_buffer_fill), size);

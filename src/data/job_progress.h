@@ -7,11 +7,11 @@
 
 namespace ostrane {
 
-// What a job on many files tells on its way.
+// Progress callbacks of a job on many files.
 struct job_progress {
-  // The file of this 0-based number comes next; `size` is in bytes.
+  // Called before each file with its 0-based index and its size in bytes.
   std::function<void(std::size_t index, const std::string& name, std::int32_t size)> on_file;
-  // How far it is, in bytes of the part that is copied in blocks of one size.
+  // Called with the bytes of the part that is copied in blocks of the current size.
   std::function<void(std::int32_t value)> on_bytes;
 };
 

@@ -4,10 +4,10 @@
 
 namespace ostrane {
 
-// A file or an entry that a job has to tell of.
+// A file or entry that a job reports to the user.
 struct skipped_file {
   std::string name;
-  std::string reason;  // the end of a sentence
+  std::string reason;  // a sentence fragment
 };
 
 }  // namespace ostrane
