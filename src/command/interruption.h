@@ -2,17 +2,17 @@
 
 namespace ostrane::command {
 
-// Thrown when the user has asked for the end of the program, or the reader of a pipe has gone. It
-// is not a std::exception, so that no part of a job takes it for a failure of its own.
+// Thrown after a signal to terminate or a broken pipe. Not a std::exception, so that no handler of
+// failures catches it.
 struct interruption {};
 
-// From then on signals that ask for the end are only noted, so that nothing is left half-written.
+// Installs handlers that only store signals to terminate, so that temporary files are removed.
 void catch_signals();
 
-// Throws interruption if there was such a signal.
+// Throws interruption if a signal was stored.
 void check_interruption();
 
-// Ends the process as the signal would have.
-[[noreturn]] void end_interrupted();
+// Terminates the process by the stored signal.
+[[noreturn]] void raise_stored_signal();
 
 }  // namespace ostrane::command

@@ -19,11 +19,11 @@ files::file_path named_file(const std::string& argument) {
   return {path_of_argument(argument), argument + ":"};
 }
 
-files::file_path named_file_behind_links(const std::string& argument) {
+files::file_path resolved_named_file(const std::string& argument) {
   files::file_path path = named_file(argument);
-  std::error_code nowhere;
-  const fs::path target = fs::canonical(path.system, nowhere);
-  if (!nowhere) path.system = target;
+  std::error_code failed;
+  const fs::path target = fs::canonical(path.system, failed);
+  if (!failed) path.system = target;
   return path;
 }
 
@@ -64,7 +64,7 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
 }
 
 void open_output(files::binary_file& file) {
-  finish_printing();
+  flush_output();
   file.adopt(open_standard_output(), "standard output:");
 }
 
@@ -73,7 +73,7 @@ void write_result(const std::string& argument, std::string_view bytes) {
     print(bytes);
     return;
   }
-  const files::file_path path = named_file_behind_links(argument);
+  const files::file_path path = resolved_named_file(argument);
   files::require_replaceable(path);
   files::replaced_file to(path);
   to.file().write(std::as_bytes(std::span(bytes)));

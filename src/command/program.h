@@ -6,21 +6,21 @@
 
 #include "files/file_path.h"
 
-// What is another thing on each system.
+// System-dependent parts of the program.
 namespace ostrane::command {
 
-// The arguments, without the program's name: UTF-8, or on systems where names are bytes any bytes.
+// Returns the arguments without the program's name: UTF-8 on Windows, raw bytes on POSIX.
 std::vector<std::string> arguments_of(int argc, char** argv);
 
 std::filesystem::path path_of_argument(const std::string& argument);
 std::string argument_of_path(const std::filesystem::path& path);
 
-bool errors_go_to_terminal();
+bool stderr_is_terminal();
 
-// No line ends are translated then.
+// Turns off the translation of line ends on standard output.
 void set_binary_output();
 
-// Another open file for the standard output, of file_calls; negative on failure.
+// Duplicates the descriptor of standard output. Returns -errno on failure.
 int open_standard_output();
 
 }  // namespace ostrane::command
