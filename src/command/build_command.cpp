@@ -85,7 +85,7 @@ int build(const build_options& options) {
     const fs::path path = job.folder.system / archive_name;
     job.target = {path, argument_of_path(path) + ":"};
   } else {
-    job.target = resolved_named_file(options.archive);
+    job.target = named_link_target(options.archive);
     std::error_code failed;
     const fs::path parent = fs::absolute(job.target.system, failed).parent_path();
     if (fs::equivalent(parent, job.folder.system, failed)) {

@@ -47,7 +47,7 @@ void add_file(std::vector<rewritten_entry>& entries, const files::file_path& arc
 }  // namespace
 
 int add(const add_options& options) {
-  const files::file_path archive = resolved_named_file(options.archive);
+  const files::file_path archive = named_link_target(options.archive);
   const archive_index index = read_archive_index(archive);
   std::vector<rewritten_entry> entries = entries_of(index);
   for (const std::string& file : options.files) add_file(entries, archive, file);
@@ -56,7 +56,7 @@ int add(const add_options& options) {
 }
 
 int remove(const remove_options& options) {
-  const files::file_path archive = resolved_named_file(options.archive);
+  const files::file_path archive = named_link_target(options.archive);
   const archive_index index = read_archive_index(archive);
   const std::vector<bool> chosen = chosen_entries(index.records, options.names);
   std::vector<rewritten_entry> entries = entries_of(index);

@@ -19,7 +19,7 @@ files::file_path named_file(const std::string& argument) {
   return {path_of_argument(argument), argument + ":"};
 }
 
-files::file_path resolved_named_file(const std::string& argument) {
+files::file_path named_link_target(const std::string& argument) {
   files::file_path path = named_file(argument);
   std::error_code failed;
   const fs::path target = fs::canonical(path.system, failed);
@@ -73,7 +73,7 @@ void write_result(const std::string& argument, std::string_view bytes) {
     print(bytes);
     return;
   }
-  const files::file_path path = resolved_named_file(argument);
+  const files::file_path path = named_link_target(argument);
   files::require_replaceable(path);
   files::replaced_file to(path);
   to.file().write(std::as_bytes(std::span(bytes)));

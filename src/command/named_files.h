@@ -14,7 +14,7 @@ namespace ostrane::command {
 files::file_path named_file(const std::string& argument);
 
 // The same with symbolic links resolved, so that the link survives when the file is replaced.
-files::file_path resolved_named_file(const std::string& argument);
+files::file_path named_link_target(const std::string& argument);
 
 // Returns the path of a file in a folder; the name is in the code page. Prefers an existing file
 // whose name differs in case only.

@@ -12,8 +12,8 @@ struct found_colour {
   bool is_exact = false;
 };
 
-// Finds the indices of colours: one that has the colour, else one for which distinct_colours
-// stands, else the lowest of the nearest ones.
+// Finds the palette index of a colour: one with this colour, or with this colour in
+// distinct_colours, or the lowest index of the nearest colours.
 class colour_finder {
  public:
   explicit colour_finder(const colour_table& palette);
@@ -37,7 +37,7 @@ class colour_finder {
   };
   colour_table palette_;
   std::unordered_map<std::uint32_t, std::uint8_t> exact_;
-  std::vector<remembered_colour> remembered_;  // of many colours the last ones
+  std::vector<remembered_colour> remembered_;  // the latest colour per hash value
 };
 
 }  // namespace ostrane

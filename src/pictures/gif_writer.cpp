@@ -37,7 +37,7 @@ int append_bytes(GifFileType* gif, const GifByteType* bytes, int count) {
   return count;
 }
 
-// What each index becomes, and the one for unset cells, if there are any.
+// The new index for each index, and the one for unset cells, if there are any.
 struct frame_indices {
   std::array<std::uint8_t, 256> of = {};
   int unset = NO_TRANSPARENT_COLOR;

@@ -8,7 +8,7 @@
 
 namespace ostrane {
 
-// The bytes of a GIF that shows the pictures once, one after the other, each for `pace` hundredths
+// The bytes of a GIF that shows the pictures once in order, each for `pace` hundredths
 // of a second. Each cell is `scale` pixels wide and high. A picture that uses all 256 indices and
 // has unset cells loses its rarest index to the nearest colour; `inexact` counts these cells.
 // Throws data_error if a side would be longer than 65535 pixels, or if giflib fails.

@@ -51,10 +51,10 @@ std::int32_t last_set_column(const picture& drawn) {
   return last;
 }
 
-// Takes an icon that can be drawn.
+// Called with an icon that can be drawn.
 using icon_taker = std::function<void(std::size_t number, picture drawn, exported_icon& icon)>;
 
-// What stands for an icon whose head cannot be read: a blank one.
+// The head for an icon whose head cannot be read: that of a blank icon.
 constexpr icon_head lost_head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
 
 exported_icon export_icon(export_job& job, const icon_file& from, std::size_t number,
@@ -105,7 +105,7 @@ void export_series(export_job& job) {
   write_file(job, job.wanted.stem + ".json", json_of(exported));
 }
 
-// Blank icons have no place in a motion and on a sheet.
+// Blank icons are left out of a motion and a sheet.
 struct all_pictures {
   std::vector<picture> pictures;
   std::vector<std::string> names;

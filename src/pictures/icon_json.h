@@ -6,14 +6,15 @@
 
 #include "data/shp_format.h"
 
-// The JSON that an export of an icon file writes beside its PNGs; docs/command.md tells its fields.
+// The JSON that an export of an icon file writes beside its PNGs. docs/command.md describes its
+// fields.
 namespace ostrane {
 
 struct exported_icon {
-  std::optional<std::string> file;  // the PNG, in UTF-8; none of an icon that cannot be drawn
+  std::optional<std::string> file;  // the PNG, in UTF-8; nullopt if the icon cannot be drawn
   icon_head head;
   std::int32_t offset = 0;       // in the icon file; not read
-  std::int32_t last_column = 0;  // the last one with a set cell, if the box ends before it
+  std::int32_t last_column = 0;  // the last column with a set cell, if the box ends before it
 };
 
 struct exported_icons {
@@ -26,8 +27,7 @@ struct exported_icons {
 
 std::string json_of(const exported_icons& exported);
 
-// Throws data_error, which names `shown`, if it is no such JSON, or if a file in it is not just a
-// name.
+// Throws data_error, which names `shown`, if it is another JSON or if a file in it has a folder.
 exported_icons read_icon_json(const std::string& text, const std::string& shown);
 
 }  // namespace ostrane

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-// Writes JSON as text: a tree of values of nlohmann-json needs memory when it is freed, and ends
-// the program without it.
+// Writes JSON as text. A tree of values of nlohmann-json allocates memory when it is destroyed, and
+// ends the program if there is none.
 namespace ostrane {
 
 // A field of an object; the value is JSON.

@@ -18,7 +18,7 @@ bool has_set_cells(const picture& drawn, const icon_head& smallest) {
          smallest.col_end > 0;
 }
 
-// The smallest box that holds the known one and all set cells.
+// The smallest box that contains the known one and all set cells.
 void widen(icon_head& head, const icon_head& smallest, std::int32_t last_column) {
   if (head.row_start > head.row_end) {
     head.row_start = smallest.row_start;
@@ -30,7 +30,8 @@ void widen(icon_head& head, const icon_head& smallest, std::int32_t last_column)
   if (smallest.col_end > std::max(head.col_end, last_column)) head.col_end = smallest.col_end;
 }
 
-// What a stream has at least if cells are set: the way to the first of them, in each row at worst.
+// The minimum length of a stream if cells are set: the skips to the first of them, at worst in each
+// row.
 std::int64_t bytes_before_cells(const icon_head& head, const icon_head& smallest, bool is_set) {
   const std::int64_t skips = std::max<std::int64_t>(-std::int64_t{head.col_start}, 0) / max_skip;
   const std::int64_t rows = is_set ? std::int64_t{smallest.row_end} - smallest.row_start + 1 : 0;

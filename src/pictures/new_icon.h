@@ -9,12 +9,12 @@ namespace ostrane {
 // What is known of an icon before its picture is read.
 struct known_icon {
   icon_head head;
-  std::int32_t last_column = 0;  // the last set one that its box may leave out
+  std::int32_t last_column = 0;  // the last set column, which can be outside its box
 };
 
-// The icon for a picture. A known drawable head of the same size is kept, its box made larger if
-// cells outside it are set; else the box is the smallest. Throws data_error if the box begins so
-// far outside the picture that no decoder would come to it.
+// The icon for a picture. A known drawable head of the same size is kept, with its box enlarged if
+// cells outside it are set; otherwise the box is the smallest. Throws data_error if the box begins
+// so far outside the picture that no decoder would reach it.
 shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known);
 
 }  // namespace ostrane

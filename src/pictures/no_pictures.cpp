@@ -1,6 +1,6 @@
 #include "pictures/icon_exporter.h"
 
-// In place of the other sources where the libraries for PNG, GIF and JSON are missing.
+// Replaces the other sources where the libraries for PNG, GIF and JSON are missing.
 namespace ostrane {
 
 icon_exporter make_icon_exporter() { return nullptr; }

@@ -12,7 +12,7 @@ std::int32_t part(std::uint32_t colour, unsigned shift) {
   return static_cast<std::int32_t>(colour >> shift & 0xFFU);
 }
 
-// The nearest colour to `wanted` that is not taken. 256 taken colours fit in a cube of 7 steps.
+// The nearest unused colour to `wanted`. 256 used colours fit in a cube of 7 steps.
 std::uint32_t nearest_free(std::uint32_t wanted, const std::unordered_set<std::uint32_t>& taken) {
   constexpr std::int32_t reach = 8;
   std::uint32_t best = wanted;

@@ -6,20 +6,20 @@
 #include "data/game_palette.h"
 #include "data/picture.h"
 
-// How the cells of a picture become pixels of a PNG, of which none is lost: indexed with the
-// palette, where one index that the picture does not use stands for unset cells; or, if it uses all
-// 256 and has unset cells too, with a colour and an alpha value for each pixel.
+// How the cells of a picture become pixels of a PNG without loss: indexed with the palette, where
+// one unused index means unset; or, if the picture uses all 256 indices and has unset cells, with a
+// colour and an alpha value for each pixel.
 namespace ostrane {
 
 struct pixel_form {
   bool is_indexed = true;
-  std::optional<std::uint8_t> unset_index;  // the lowest that is free, if there are unset cells
+  std::optional<std::uint8_t> unset_index;  // the lowest unused one, if there are unset cells
 };
 
 pixel_form form_of(const picture& drawn);
 
-// The palette with a colour of its own for each index. Of indices with one colour the lowest keeps
-// it; the others get the nearest colour that is in no other place.
+// The palette with a different colour for each index. Of indices with the same colour the lowest
+// keeps it; the others get the nearest unused colour.
 colour_table distinct_colours(const colour_table& palette);
 
 // The squared distance of two colours.

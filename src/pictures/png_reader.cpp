@@ -15,16 +15,16 @@ namespace ostrane {
 namespace {
 
 constexpr png_uint_32 max_side = 32768;
-// No stream of deflate gives more bytes for each of its own.
+// The best compression ratio of deflate.
 constexpr std::uint64_t max_inflation = 1032;
 
-// What an index of an indexed PNG becomes.
+// The meaning of an index of an indexed PNG.
 struct mapped_index {
   std::int16_t cell = picture::unset;
   bool is_exact = true;
 };
 
-// All that the reading uses lives here, as libpng leaves a failed call by longjmp.
+// All state of reading is here, as libpng leaves a failed call by longjmp.
 struct png_job {
   std::string_view bytes;
   colour_finder& colours;
@@ -155,10 +155,10 @@ void read_rows(png_structp png, png_job& job) {
   png_read_end(png, nullptr);
 }
 
-// Calls one of the two above. False if libpng has failed.
+// Calls one of the two functions above. Returns false if libpng has failed.
 template <typename Part>
 bool run(png_structp png, const Part& part) {
-  if (setjmp(png_jmpbuf(png)) != 0) return false;  // NOLINT: how libpng tells of a failure
+  if (setjmp(png_jmpbuf(png)) != 0) return false;  // NOLINT: how libpng reports a failure
   part();
   return true;
 }

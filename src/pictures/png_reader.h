@@ -13,9 +13,9 @@ struct png_picture {
   std::int64_t inexact = 0;  // pixels whose colour or transparency had to change
 };
 
-// Reads a PNG of any kind. A pixel that is more than half transparent is unset. Indices of an
-// indexed PNG stay where its palette has the colour of the same index; other colours are looked
-// for. Throws data_error, which names `shown`, if it is no whole PNG or is larger than
+// Reads a PNG of any kind. A pixel that is more than half transparent is unset. An index of an
+// indexed PNG is kept if both palettes have the same colour there; otherwise `colours` finds the
+// index. Throws data_error, which names `shown`, if the PNG is incomplete or larger than
 // max_picture_cells.
 png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours);
 

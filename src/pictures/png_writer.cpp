@@ -12,7 +12,7 @@ namespace ostrane {
 
 namespace {
 
-// All that the writing uses lives here, as libpng leaves a failed call by longjmp.
+// All state of writing is here, as libpng leaves a failed call by longjmp.
 struct png_job {
   const picture& drawn;
   pixel_form form;
@@ -85,7 +85,7 @@ void write_rows(png_structp png, png_job& job) {
 }
 
 void write(png_structp png, png_infop info, png_job& job) {
-  if (setjmp(png_jmpbuf(png)) != 0) return;  // NOLINT: how libpng tells of a failure
+  if (setjmp(png_jmpbuf(png)) != 0) return;  // NOLINT: how libpng reports a failure
   png_set_write_fn(png, &job, append_bytes, nullptr);
   const auto scaled = [&job](int cells) { return static_cast<png_uint_32>(cells * job.scale); };
   png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);

@@ -7,7 +7,7 @@
 
 namespace ostrane {
 
-// All pictures on a grid of equal cells, row by row, as near to a square as it goes.
+// All pictures on a grid of equal cells, row by row, nearly square.
 struct sheet {
   picture drawn{0, 0};
   int columns = 0;  // of the grid
@@ -18,8 +18,8 @@ struct sheet {
 // Throws data_error if the sheet would have more than max_picture_cells.
 sheet sheet_of(const std::vector<picture>& pictures);
 
-// What sprite editors read beside the sheet: an array of frames, and meta. `names` are those of the
-// frames, `image` that of the PNG, in UTF-8; `pace` is in hundredths of a second.
+// The JSON of a sheet for sprite editors: an array of frames, and meta. `names` are the names of
+// the frames, `image` is the name of the PNG, in UTF-8; `pace` is in hundredths of a second.
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     const std::vector<std::string>& names, const std::string& image, int pace,
                     int scale);
