@@ -20,22 +20,22 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
-  fs::path own_name = {};  // of the target, if it lies in the folder
+  fs::path target_name = {};  // "" if the target is not in the folder
   build_list list = {};
   std::vector<make_record> files = {};
   std::vector<dat_record> records = {};
 };
 
-// The new archive is not an entry of itself.
-bool is_archive_itself(const build_job& job, const std::string& name) {
+// An archive does not contain itself.
+bool is_target(const build_job& job, const std::string& name) {
   if (files::upper_case(name) == archive_name) return true;
-  return !job.own_name.empty() && files::system_name(name) == job.own_name;
+  return !job.target_name.empty() && files::system_name(name) == job.target_name;
 }
 
 void list_files(build_job& job) {
   job.list.folder = argument_of_path(job.folder.system / "");
   for (const std::string& name : files::files_in(job.folder)) {
-    if (!is_archive_itself(job, name)) job.list.names.push_back(name);
+    if (!is_target(job, name)) job.list.names.push_back(name);
   }
   job.list.path_of = [&job](const std::string& name) {
     const fs::path path = job.folder.system / files::system_name(name);
@@ -66,11 +66,11 @@ void write(build_job& job) {
   output.close();
 }
 
-int report_left_out(const build_job& job) {
+int report_omitted_files(const build_job& job) {
   int status = status_done;
   for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
-    if (is_archive_itself(job, file.name)) continue;
-    report(files::to_utf8(file.name), std::string("left out: ") + file.reason);
+    if (is_target(job, file.name)) continue;
+    print_error(files::to_utf8(file.name), std::string("left out: ") + file.reason);
     status = status_differs;
   }
   return status;
@@ -87,16 +87,16 @@ int build(const build_options& options) {
   } else {
     job.target = named_link_target(options.archive);
     std::error_code failed;
-    const fs::path place = fs::absolute(job.target.system, failed).parent_path();
-    if (fs::equivalent(place, job.folder.system, failed)) {
-      job.own_name = job.target.system.filename();
+    const fs::path parent = fs::absolute(job.target.system, failed).parent_path();
+    if (fs::equivalent(parent, job.folder.system, failed)) {
+      job.target_name = job.target.system.filename();
     }
   }
   list_files(job);
   if (options.archive != "-") files::require_replaceable(job.target);
   job.records = measure_files(job.list, job.files);
   write(job);
-  return report_left_out(job);
+  return report_omitted_files(job);
 }
 
 }  // namespace ostrane::command

@@ -40,7 +40,7 @@ void add_file(std::vector<rewritten_entry>& entries, const files::file_path& arc
   }
   const std::string entry = add_entry(entries, *name, file);
   if (entry != files::upper_case(files::trimmed(*name))) {
-    note(argument, "its name is too long; the entry is " + files::to_utf8(entry));
+    print_note(argument, "its name is too long; the entry is " + files::to_utf8(entry));
   }
 }
 

@@ -9,37 +9,37 @@ namespace ostrane::command {
 
 namespace {
 
-// True if the archive has no fault.
+// Returns true if the archive has no fault.
 bool check_one(const std::string& archive) {
-  bool is_good = true;
+  bool is_valid = true;
   check_archive(
       named_file(archive),
       [&](const std::string& entry, const std::string& fault) {
-        is_good = false;
+        is_valid = false;
         const std::string where = entry.empty() ? archive : archive + ": " + files::to_utf8(entry);
         print_line(printable(fault.starts_with(where) ? fault : where + ": " + fault));
       },
       [](std::size_t number, std::size_t count, const std::string& name) {
         show_progress(number, count, files::to_utf8(name));
       });
-  return is_good;
+  return is_valid;
 }
 
 }  // namespace
 
 int check(const check_options& options) {
-  bool all_good = true;
+  bool all_valid = true;
   std::size_t unreadable = 0;
   for (const std::string& archive : options.archives) {
     try {
-      all_good = check_one(archive) && all_good;
+      all_valid = check_one(archive) && all_valid;
     } catch (const files::file_error& error) {
-      report(archive, error.text);
+      print_error(archive, error.text);
       ++unreadable;
     }
   }
   if (unreadable == options.archives.size()) return status_failed;
-  return all_good && unreadable == 0 ? status_done : status_differs;
+  return all_valid && unreadable == 0 ? status_done : status_differs;
 }
 
 }  // namespace ostrane::command

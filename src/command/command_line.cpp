@@ -29,7 +29,7 @@ struct all_options {
   std::function<int()> chosen;
 };
 
-// A command with its help and one example.
+// Adds a command with its help and an example.
 CLI::App* add_command(CLI::App& app, all_options& options, const char* name, const char* help,
                       const char* example, std::function<int()> job) {
   CLI::App* command = app.add_subcommand(name, help);
@@ -155,7 +155,7 @@ void add_import(CLI::App& app, all_options& all) {
       ->type_name("OLD.SHP");
 }
 
-// Texts of the data side can contain names in the code page.
+// Texts of src/data may contain names in the code page.
 std::string utf8_text(const std::string& text) {
   return files::from_utf8_lossy(text).find('?') == std::string::npos ? text : files::to_utf8(text);
 }
@@ -165,10 +165,10 @@ int run_chosen(const all_options& options) {
   int status = status_failed;
   const std::string failure = files::failure_of([&] {
     status = options.chosen();
-    finish_printing();
+    flush_output();
   });
   if (failure.empty()) return status;
-  report("", utf8_text(failure));
+  print_error("", utf8_text(failure));
   return status_failed;
 }
 
@@ -190,7 +190,7 @@ int run(std::vector<std::string> arguments) {
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    report("", std::string(error.what()) + " (--help tells more)");
+    print_error("", std::string(error.what()) + " (--help tells more)");
     return status_failed;
   }
   return run_chosen(options);

@@ -5,15 +5,15 @@
 
 #include "data/icon_export.h"
 
-// The commands of the program and their options. Each returns the exit status and throws
-// file_error, data_error and interruption.
+// The commands of the program. Each returns the exit status and throws file_error, data_error and
+// interruption.
 namespace ostrane::command {
 
 struct list_options {
   std::string archive;
   bool is_long = false;
   bool is_json = false;
-  std::string icon_names;  // "" for the file beside the program
+  std::string icon_names;  // "" for iconlist.csv in the program's folder
 };
 int list(const list_options& options);
 
@@ -59,7 +59,7 @@ struct export_options {
   std::vector<std::string> names;
   std::string folder = ".";
   picture_form form = picture_form::png;
-  int pace = 10;  // hundredths of a second for each picture
+  int pace = 10;  // hundredths of a second per picture
   int scale = 1;
 };
 int export_entries(const export_options& options);

@@ -15,15 +15,15 @@ namespace {
 
 using clock = std::chrono::steady_clock;
 
-constexpr auto before_first_bar = std::chrono::milliseconds(500);
-constexpr auto between_bars = std::chrono::milliseconds(100);
+constexpr auto first_bar_delay = std::chrono::milliseconds(500);
+constexpr auto bar_interval = std::chrono::milliseconds(100);
 constexpr std::size_t bar_width = 30;
 
 struct console_state {
   bool is_quiet = false;
-  std::string unprinted;
+  std::string pending;
   bool bar_is_shown = false;
-  clock::time_point next_bar = clock::now() + before_first_bar;
+  clock::time_point next_bar = clock::now() + first_bar_delay;
 };
 
 console_state console;
@@ -32,10 +32,10 @@ constexpr std::size_t print_buffer_size = 65536;
 
 void write_out() {
   const std::size_t written =
-      std::fwrite(console.unprinted.data(), 1, console.unprinted.size(), stdout);
-  const bool is_written = written == console.unprinted.size() && std::fflush(stdout) == 0;
+      std::fwrite(console.pending.data(), 1, console.pending.size(), stdout);
+  const bool is_written = written == console.pending.size() && std::fflush(stdout) == 0;
   const int reason = errno;
-  console.unprinted.clear();
+  console.pending.clear();
   check_interruption();
   if (!is_written) files::file_calls::fail("standard output:", " cannot be written: ", -reason);
 }
@@ -45,8 +45,8 @@ void write_out() {
 void set_quiet(bool quiet) { console.is_quiet = quiet; }
 
 void print(std::string_view text) {
-  console.unprinted += text;
-  if (console.unprinted.size() >= print_buffer_size) write_out();
+  console.pending += text;
+  if (console.pending.size() >= print_buffer_size) write_out();
 }
 
 void print_line(std::string_view text) {
@@ -54,8 +54,8 @@ void print_line(std::string_view text) {
   print("\n");
 }
 
-void finish_printing() {
-  if (!console.unprinted.empty()) write_out();
+void flush_output() {
+  if (!console.pending.empty()) write_out();
 }
 
 std::string printable(std::string_view text) {
@@ -66,7 +66,7 @@ std::string printable(std::string_view text) {
   return line;
 }
 
-void report(std::string_view file, std::string_view text) {
+void print_error(std::string_view file, std::string_view text) {
   hide_progress();
   std::string line = "ostrane-dat: ";
   if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
@@ -74,15 +74,15 @@ void report(std::string_view file, std::string_view text) {
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-void note(std::string_view file, std::string_view text) {
-  if (!console.is_quiet) report(file, text);
+void print_note(std::string_view file, std::string_view text) {
+  if (!console.is_quiet) print_error(file, text);
 }
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
-  static const bool has_terminal = errors_go_to_terminal();
+  static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
-  console.next_bar = clock::now() + between_bars;
+  console.next_bar = clock::now() + bar_interval;
   console.bar_is_shown = true;
   const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
   const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');

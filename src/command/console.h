@@ -3,34 +3,34 @@
 #include <string>
 #include <string_view>
 
-// Output of the program: results on the standard output, everything else on the error output.
+// Output of the program: results go to standard output, everything else to standard error.
 namespace ostrane::command {
 
-// Exit statuses. `status_differs` also means faults and skipped entries.
+// Exit statuses. `status_differs` also stands for faults and skipped entries.
 constexpr int status_done = 0;
 constexpr int status_differs = 1;
 constexpr int status_failed = 2;
 
-// Suppresses notes, but not faults.
+// Suppresses notes and progress. Errors are still printed.
 void set_quiet(bool quiet);
 
-// Prints a result. Throws file_error if it cannot be written, and interruption.
+// Prints a result, buffered. Throws file_error if the output fails, and interruption.
 void print(std::string_view text);
 void print_line(std::string_view text);
-// Flushes the standard output. Throws the same.
-void finish_printing();
+// Flushes the buffer of print. Throws the same.
+void flush_output();
 
-// Prints the line "ostrane-dat: FILE: TEXT" on the error output. The file's name is left out if it
-// is empty or if the text begins with it.
-void report(std::string_view file, std::string_view text);
-// The same for what is not a fault.
-void note(std::string_view file, std::string_view text);
+// Prints the line "ostrane-dat: FILE: TEXT" to standard error. "FILE: " is omitted if `file` is
+// empty or `text` begins with it.
+void print_error(std::string_view file, std::string_view text);
+// The same for a note, which set_quiet suppresses.
+void print_note(std::string_view file, std::string_view text);
 
-// Text for one line: control characters become "?".
+// Replaces control characters by "?".
 std::string printable(std::string_view text);
 
-// Shows a progress bar on the error output if that is a terminal and the job takes long. Throws
-// interruption after Ctrl+C.
+// Shows the progress of a long job as a bar on standard error if that is a terminal. Throws
+// interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);
 void hide_progress();
 

@@ -33,13 +33,13 @@ struct export_job {
 // An entry, with all texts in UTF-8.
 struct exported_entry {
   std::string name;
-  std::string stem;  // the beginning of its file names
+  std::string stem;  // prefix of its file names
   std::int32_t start = 0;
   std::int32_t end = 0;
 };
 
 void skip(export_job& job, const exported_entry& entry, const std::string& reason) {
-  report(entry.name, reason);
+  print_error(entry.name, reason);
   job.status = status_differs;
 }
 
@@ -84,8 +84,8 @@ std::string gpl_of(const std::string& name, const colour_table& colours) {
 }
 
 void export_palette(export_job& job, const exported_entry& entry) {
-  const std::int64_t there = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
-  if (entry.start < 0 || there < std::int64_t{palette_colours * colour_size}) {
+  const std::int64_t size = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
+  if (entry.start < 0 || size < std::int64_t{palette_colours * colour_size}) {
     skip(job, entry, "it is too short for a palette");
     return;
   }

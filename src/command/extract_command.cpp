@@ -8,14 +8,15 @@ namespace ostrane::command {
 
 namespace {
 
-int report_result(const extraction_result& result) {
+int report(const extraction_result& result) {
   for (const skipped_file& entry : result.skipped) {
     const std::string name = files::to_utf8(entry.name);
-    // The text of a system error already names the file.
+    // The text of a file_error already names the file.
     const bool names_file = entry.reason.find(": cannot be ") != std::string::npos;
-    report(names_file ? "" : name, names_file ? entry.reason : "not extracted: " + entry.reason);
+    print_error(names_file ? "" : name,
+                names_file ? entry.reason : "not extracted: " + entry.reason);
   }
-  if (!result.stopped.empty()) report("", result.stopped);
+  if (!result.stopped.empty()) print_error("", result.stopped);
   if (!result.stopped.empty()) return status_failed;
   return result.skipped.empty() ? status_done : status_differs;
 }
@@ -37,7 +38,7 @@ int extract(const extract_options& options) {
   const extraction_result result = extract_entries(
       file, index.records,
       [&](const std::string& name) { return file_in(options.folder, name, names); },
-      [&](const files::file_path& made) { names.add(made.system); },
+      [&](const files::file_path& created) { names.add(created.system); },
       {.on_file =
            [&](std::size_t number, const std::string& name, std::int32_t) {
              current = number;
@@ -45,8 +46,8 @@ int extract(const extract_options& options) {
            },
        .on_bytes = [&](std::int32_t) { show(""); }},
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
-       .replaces_whole = true});
-  return report_result(result);
+       .replaces_atomically = true});
+  return report(result);
 }
 
 }  // namespace ostrane::command

@@ -27,11 +27,11 @@ colour_table read_palette_argument(const std::string& argument) {
   return read_game_colours(file, index.records);
 }
 
-// Shared by the threads of an import.
+// What the threads of an import share.
 struct import_job {
   const import_plan& plan;
   std::vector<shp_icon> icons;
-  std::atomic<std::size_t> next = 0;  // number of the next icon
+  std::atomic<std::size_t> next = 0;  // index of the next icon to make
   std::atomic<bool> stops = false;
   std::atomic<std::int64_t> inexact_pixels = 0;
   std::atomic<std::int64_t> inexact_pictures = 0;
@@ -51,7 +51,7 @@ shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finde
   }
 }
 
-// Makes icons until there are no more, or until a thread fails.
+// Makes icons until all are made or a thread fails.
 void make_icons(import_job& job, colour_finder colours) {
   files::binary_file file;
   try {
@@ -64,13 +64,13 @@ void make_icons(import_job& job, colour_finder colours) {
   }
 }
 
-// Reading a PNG and packing an icon need only the processor, so there is a thread per processor.
+// Decoding a PNG and packing an icon are CPU-bound, so there is one thread per processor.
 void make_all_icons(import_job& job, const colour_finder& colours) {
-  constexpr auto between_looks = std::chrono::milliseconds(20);
+  constexpr auto poll_interval = std::chrono::milliseconds(20);
   constexpr std::size_t max_threads = 8;
   const auto count = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
   std::vector<std::future<void>> threads;
-  const struct stopping {  // before the threads are joined
+  const struct stopping {  // destroyed before the futures, whose destructors block
     import_job& job;
     ~stopping() { job.stops = true; }
   } at_end{job};
@@ -78,7 +78,7 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
     threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
   }
   for (std::future<void>& thread : threads) {
-    while (thread.wait_for(between_looks) != std::future_status::ready) {
+    while (thread.wait_for(poll_interval) != std::future_status::ready) {
       show_progress(std::min(job.next.load(), job.icons.size()), job.icons.size(), "");
     }
     thread.get();
@@ -87,9 +87,9 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
 
 int report(const import_options& options, const import_job& job) {
   if (job.inexact_pixels == 0) return status_done;
-  note(options.icon_file, std::to_string(job.inexact_pixels) + " pixels of " +
-                              std::to_string(job.inexact_pictures) +
-                              " pictures were not exact and got the nearest colour");
+  print_note(options.icon_file, std::to_string(job.inexact_pixels) + " pixels of " +
+                                    std::to_string(job.inexact_pictures) +
+                                    " pictures were not exact and got the nearest colour");
   return status_differs;
 }
 

@@ -44,7 +44,7 @@ void add_export(import_plan& plan, const fs::path& json) {
   }
 }
 
-// The JSON of the export in a folder, not that of a sheet.
+// Returns the JSON of the export in a folder. The JSONs of sheets are ignored.
 std::optional<fs::path> export_among(const std::vector<fs::path>& files, const std::string& stem,
                                      const std::string& folder) {
   std::vector<fs::path> found;
@@ -79,7 +79,7 @@ void add_folder(import_plan& plan, const std::string& folder, const std::string&
   }
 }
 
-// Returns nullopt for an icon that cannot be drawn.
+// Returns nothing for an icon that is not drawable.
 std::optional<std::int32_t> last_column_of(icon_stream& stream, files::binary_file& file,
                                            const icon_file& from, const icon_head& head,
                                            std::int32_t position) {

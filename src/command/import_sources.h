@@ -9,24 +9,24 @@
 
 namespace ostrane::command {
 
-// An icon to make: from a picture, or only from a known head that is not drawable.
+// An icon to make: from a PNG, or for an icon that is not drawable from a known head alone.
 struct planned_icon {
   std::optional<files::file_path> png;
   std::optional<known_icon> known;
 };
 
 struct import_plan {
-  shp_identifier identifier = own_identifier;
+  shp_identifier identifier = default_identifier;
   std::vector<planned_icon> icons;
 };
 
-// The icons for the sources: PNGs, folders of PNGs, and the JSON of an export or its folder. Of
-// several JSON files in a folder, the one with the name `stem` is used; case is ignored. Throws
+// Plans the icons of the sources: PNGs, folders of PNGs, JSONs of an export, and folders with such
+// a JSON. If a folder has several, the one named `stem` is used (case-insensitive). Throws
 // file_error and data_error.
 import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem);
 
-// Takes identifier, heads and order from an old icon file: its drawable icons get the pictures in
-// order, and its other icons stay between them. Throws file_error.
+// Takes identifier, heads and order from an old icon file. Its drawable icons get the PNGs of
+// `plan` in order; its other icons keep their positions. Throws file_error and data_error.
 import_plan plan_like(const import_plan& plan, const files::file_path& old_file);
 
 }  // namespace ostrane::command

@@ -8,11 +8,11 @@ namespace ostrane::command {
 
 namespace {
 
-volatile std::sig_atomic_t noted_signal = 0;
+volatile std::sig_atomic_t stored_signal = 0;
 
-extern "C" void note_signal(int number) {
-  noted_signal = number;
-  std::signal(number, note_signal);
+extern "C" void store_signal(int number) {
+  stored_signal = number;
+  std::signal(number, store_signal);
 }
 
 }  // namespace
@@ -24,17 +24,17 @@ void catch_signals() {
 #endif
   };
   for (const int number : numbers) {
-    // Signals that the parent process ignores stay ignored.
-    if (std::signal(number, note_signal) == SIG_IGN) std::signal(number, SIG_IGN);
+    // A signal that the parent process ignores stays ignored.
+    if (std::signal(number, store_signal) == SIG_IGN) std::signal(number, SIG_IGN);
   }
 }
 
 void check_interruption() {
-  if (noted_signal != 0) throw interruption{};
+  if (stored_signal != 0) throw interruption{};
 }
 
-void end_interrupted() {
-  const int number = noted_signal;
+void raise_stored_signal() {
+  const int number = stored_signal;
   std::signal(number, SIG_DFL);
   std::raise(number);
   std::_Exit(128 + number);

@@ -2,17 +2,17 @@
 
 namespace ostrane::command {
 
-// Thrown after Ctrl+C or a similar signal, or if the reader of a pipe has ended. It is not a
-// std::exception, so that no job handles it as a failure.
+// Thrown after a signal to terminate or a broken pipe. Not a std::exception, so that no handler of
+// failures catches it.
 struct interruption {};
 
-// From now on signals to end the program are only recorded, so that no file is left incomplete.
+// Installs handlers that only store signals to terminate, so that temporary files are removed.
 void catch_signals();
 
-// Throws interruption if a signal was recorded.
+// Throws interruption if a signal was stored.
 void check_interruption();
 
-// Ends the process as the signal would have done.
-[[noreturn]] void end_interrupted();
+// Terminates the process by the stored signal.
+[[noreturn]] void raise_stored_signal();
 
 }  // namespace ostrane::command

@@ -19,25 +19,25 @@ namespace ostrane::command {
 namespace {
 
 struct listed_entry {
-  std::string name;  // UTF-8
+  std::string name;  // UTF-8, like all texts of this record
   std::int64_t size = 0;
   std::int32_t offset = 0;
   entry_kind kind = entry_kind::other;
-  std::optional<std::int32_t> icons;  // of an icon file with a complete head
+  std::optional<std::int32_t> icons;  // of an icon file that has a head
   std::string description;
 };
 
 using descriptions = std::unordered_map<std::string, std::string>;
 
-// Of several rows for a name the first is used.
+// The first row of a name wins.
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
-  const files::file_path beside = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
+  const files::file_path installed = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
   const files::file_path given = named_file(options.icon_names);
   if (!options.icon_names.empty()) files::binary_file().open_to_read(given);
-  const auto rows = read_icon_names(options.icon_names.empty() ? beside : given);
+  const auto rows = read_icon_names(options.icon_names.empty() ? installed : given);
   for (const icon_name_pair& row : rows) {
-    if (&row == rows.data()) continue;  // row 0 stands for no row
+    if (&row == rows.data()) continue;  // row 0 is unused
     found.emplace(files::compare_key(row.name), files::to_utf8(row.description));
   }
   return found;
@@ -70,7 +70,7 @@ std::string padded(const std::string& text, std::size_t width) {
   return std::string(text.size() < width ? width - text.size() : 0, ' ') + text;
 }
 
-// The name is the last column but one, as it can contain blanks. It has at most 13 characters.
+// The name comes after the columns without blanks, as it may contain some.
 std::string long_line(const listed_entry& entry) {
   std::string line = padded(std::to_string(entry.size), 10) + " " +
                      padded(std::to_string(entry.offset), 10) + "  ";
@@ -79,9 +79,11 @@ std::string long_line(const listed_entry& entry) {
   line +=
       padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  " + printable(entry.name);
   if (!entry.description.empty()) {
-    const auto in_line = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; };
-    const auto width =
-        static_cast<std::size_t>(std::count_if(entry.name.begin(), entry.name.end(), in_line));
+    const auto starts_character = [](char c) {
+      return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
+    };
+    const auto width = static_cast<std::size_t>(
+        std::count_if(entry.name.begin(), entry.name.end(), starts_character));
     line += std::string(width < name_size ? name_size - width : 0, ' ') + "  " +
             printable(entry.description);
   }

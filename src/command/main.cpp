@@ -15,6 +15,6 @@ int main(int argc, char** argv) {
     return status;
   } catch (const interruption&) {
     hide_progress();
-    end_interrupted();
+    raise_stored_signal();
   }
 }

@@ -21,9 +21,9 @@ files::file_path named_file(const std::string& argument) {
 
 files::file_path named_link_target(const std::string& argument) {
   files::file_path path = named_file(argument);
-  std::error_code nowhere;
-  const fs::path target = fs::canonical(path.system, nowhere);
-  if (!nowhere) path.system = target;
+  std::error_code failed;
+  const fs::path target = fs::canonical(path.system, failed);
+  if (!failed) path.system = target;
   return path;
 }
 
@@ -64,7 +64,7 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
 }
 
 void open_output(files::binary_file& file) {
-  finish_printing();
+  flush_output();
   file.adopt(open_standard_output(), "standard output:");
 }
 

@@ -10,31 +10,33 @@
 
 namespace ostrane::command {
 
-// The file of an argument. In messages it has the argument's text and a colon.
+// Returns the file that an argument names. Messages show the argument with a colon.
 files::file_path named_file(const std::string& argument);
 
-// The same, but for a link to a file the target, so that the link stays when the file is replaced.
+// The same with symbolic links resolved, so that the link survives when the file is replaced.
 files::file_path named_link_target(const std::string& argument);
 
-// A file in a folder; the name is in the code page. Finds an existing name in another case.
+// Returns the path of a file in a folder; the name is in the code page. Prefers an existing file
+// whose name differs in case only.
 files::file_path file_in(const std::string& folder, const std::string& name,
                          files::case_insensitive_lookup& names);
 
-// Throws file_error or data_error if the folder does not exist or is a file.
+// Throws file_error or data_error if the folder does not exist or is not a folder.
 void require_folder(const std::string& argument);
 
-// The same, but creates a missing folder. Its parent must exist.
+// Creates the folder if it does not exist, but not its parents. Throws as require_folder.
 void make_folder(const std::string& argument);
 
-// True for each entry whose name matches an argument ("*", "?", case ignored), and for all entries
-// if there are no arguments. Throws data_error if an argument matches nothing.
+// Returns true for each entry whose name matches one of the arguments (patterns with "*" and "?",
+// case-insensitive), or for all entries if there are no arguments. Throws data_error if an argument
+// matches no entry.
 std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments);
 
-// Opens a binary file that writes to the standard output.
+// Opens a binary file that writes to standard output.
 void open_output(files::binary_file& file);
 
-// Replaces or creates a file atomically, or writes to the standard output for "-".
+// Replaces a file atomically, or writes to standard output for "-".
 void write_result(const std::string& argument, std::string_view bytes);
 
 }  // namespace ostrane::command

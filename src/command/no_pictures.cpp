@@ -1,7 +1,7 @@
 #include "command/commands.h"
 #include "data/data_error.h"
 
-// Replaces the commands for pictures where the libraries for PNG and GIF are missing.
+// Replaces export_command.cpp and import_command.cpp in builds without the PNG and GIF libraries.
 namespace ostrane::command {
 
 int export_entries(const export_options& /*options*/) {

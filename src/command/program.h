@@ -6,21 +6,21 @@
 
 #include "files/file_path.h"
 
-// What differs between systems.
+// System-dependent parts of the program.
 namespace ostrane::command {
 
-// The arguments without the program's name: UTF-8, or any bytes on systems whose names are bytes.
+// Returns the arguments without the program's name: UTF-8 on Windows, raw bytes on POSIX.
 std::vector<std::string> arguments_of(int argc, char** argv);
 
 std::filesystem::path path_of_argument(const std::string& argument);
 std::string argument_of_path(const std::filesystem::path& path);
 
-bool errors_go_to_terminal();
+bool stderr_is_terminal();
 
-// Turns off the translation of line ends.
+// Turns off the translation of line ends on standard output.
 void set_binary_output();
 
-// A duplicate of the standard output for file_calls, or a negative errno number.
+// Duplicates the descriptor of standard output. Returns -errno on failure.
 int open_standard_output();
 
 }  // namespace ostrane::command

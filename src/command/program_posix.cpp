@@ -17,7 +17,7 @@ fs::path path_of_argument(const std::string& argument) { return argument; }
 
 std::string argument_of_path(const fs::path& path) { return path.native(); }
 
-bool errors_go_to_terminal() { return isatty(STDERR_FILENO) == 1; }
+bool stderr_is_terminal() { return isatty(STDERR_FILENO) == 1; }
 
 void set_binary_output() {}
 

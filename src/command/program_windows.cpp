@@ -31,7 +31,7 @@ fs::path path_of_argument(const std::string& argument) {
   return std::u8string(argument.begin(), argument.end());
 }
 
-bool errors_go_to_terminal() { return _isatty(2) != 0; }
+bool stderr_is_terminal() { return _isatty(2) != 0; }
 
 void set_binary_output() {
   _setmode(_fileno(stdout), _O_BINARY);

@@ -15,24 +15,24 @@ constexpr const char* archive_name = "OSTRANE.DAT";
 
 // The files of a new archive, in their order.
 struct build_list {
-  std::string folder;  // for messages: they print it before the name
+  std::string folder;  // prefix of a name in messages
   std::vector<std::string> names;
   std::function<files::file_path(const std::string& name)> path_of;
 };
 
-// Reads the sizes of the files and returns the index of their archive. `files` has an element for
-// each file. Throws file_error, and data_error if there are too many files or too many bytes.
+// Fills `files`, which has one element per name, and returns the index of the archive. Throws
+// file_error, and data_error if there are too many files or too many bytes.
 std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files);
 
 // Writes the archive to an open file. `files` and `records` come from measure_files. Throws
-// file_error, and data_error if a file has changed its size.
+// file_error, and data_error if the size of a file has changed.
 void write_archive_to(files::binary_file& archive, const build_list& list,
                       std::span<const make_record> files, std::span<const dat_record> records,
                       const job_progress& progress);
 
-// Writes the archive and replaces the old one atomically. Other spellings of its name are deleted.
-// `files` and `records` come from measure_files. Throws file_error, and data_error if a file has
-// changed its size. The old archive is unchanged then.
+// Writes the archive and replaces the old one atomically. Archives whose names differ from the new
+// one in case only are deleted. `files` and `records` come from measure_files. Throws file_error,
+// and data_error if the size of a file has changed; the old archive is then unchanged.
 void write_archive(const build_list& list, std::span<const make_record> files,
                    std::span<const dat_record> records, const files::file_path& target,
                    const job_progress& progress);

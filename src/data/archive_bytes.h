@@ -10,7 +10,7 @@ struct archive_entry {
   std::string bytes;  // one byte per character
 };
 
-// The bytes of an archive with these entries in this order, and an end record.
+// Returns an archive of these entries in this order, without gaps.
 std::string archive_bytes(const std::vector<archive_entry>& entries);
 
 }  // namespace ostrane

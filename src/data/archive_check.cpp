@@ -39,7 +39,7 @@ std::string name_of(const archive_check& check, std::size_t index) {
   return name_with_blanks(check.records[index].name);
 }
 
-// An entry without a name is reported by its number.
+// An entry without a name is reported by its 1-based number.
 std::string shown_name(const archive_check& check, std::size_t index) {
   const std::string name = name_of(check, index);
   return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
@@ -108,7 +108,7 @@ void check_offsets(const archive_check& check) {
   }
 }
 
-// Compares each entry with the one that ends last of those that begin before it.
+// Compares each entry with the entry that ends last among those that begin before it.
 void check_overlaps(archive_check& check) {
   check.overlaps.resize(entry_count(check));
   std::vector<std::size_t> order;
@@ -134,7 +134,7 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
                    std::size_t index) {
   const std::int64_t start = start_of(check, index);
   const std::int64_t size = size_of(check, index);
-  // Of overlapping entries only the first is checked, so that no byte is read many times.
+  // Of overlapping entries only the first is checked, so that no byte is read for many entries.
   if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps[index]) return;
   const std::string name = shown_name(check, index);
   switch (kind_of_entry(name_without_nuls(check.records[index].name))) {

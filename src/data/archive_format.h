@@ -12,18 +12,18 @@
 //   offset          size  content
 //   0               4     N, the number of records, the end record included
 //   4 + 17 * i      4     record i: offset of entry i
-//   8 + 17 * i      13    record i: name of entry i, filled with NUL bytes, without a terminator
+//   8 + 17 * i      13    record i: name of entry i, padded with NUL bytes, without a terminator
 //   4 + 17 * N            the entries, in the order of their records, nothing between them
 //
-// Record N - 1 is the end record: no name, and the offset just after the last entry. So the size
-// of every entry is the offset of the next record minus its own.
+// Record N - 1 is the end record: no name, and the offset after the last entry. So the size of
+// every entry is the offset of the next record minus its own.
 namespace ostrane {
 
 constexpr std::size_t name_size = 13;
 constexpr std::int32_t count_size = 4;
 constexpr std::int32_t record_size = 17;
 constexpr std::int32_t max_records = 32768;
-// With the end record, as many as a 16-bit number can count.
+// With the end record INT16_MAX records.
 constexpr std::size_t max_files = 32766;
 static_assert(record_size == 4 + name_size);
 
@@ -31,27 +31,26 @@ using record_name = std::array<char, name_size>;
 
 struct dat_record {
   std::int32_t offset;
-  record_name name;  // as in the file, NUL characters included
+  record_name name;  // as in the file, with NUL characters
 };
 
 // One file of a new archive.
 struct make_record {
   std::int32_t size;    // bytes
-  record_name name;     // trimmed, cut or filled with blanks, in the case of the file name
+  record_name name;     // as padded_name returns it
   std::int32_t offset;  // of the entry in the new archive
 };
 
 using record_bytes = std::span<std::byte, record_size>;
 
-// Convert a record from and to its bytes in the file. Any 17 bytes are a record; its offset is not
-// checked.
+// Converts a record from and to its bytes in the file. Offsets are not checked.
 dat_record decode_record(std::span<const std::byte, record_size> bytes);
 void encode_record(const dat_record& record, record_bytes bytes);
 
-// The name without its NUL characters, as `List1` shows it.
+// Returns the name without NUL characters, as `List1` shows it.
 std::string name_without_nuls(const record_name& name);
 
-// The name with NUL characters replaced by blanks, then trimmed. Files are named so.
+// Replaces every NUL character by a blank and trims the name. Extracted files get this name.
 std::string name_with_blanks(const record_name& name);
 
 }  // namespace ostrane

@@ -9,14 +9,14 @@ namespace ostrane {
 
 struct archive_index {
   std::vector<dat_record> records;  // the end record included
-  files::file_stamp stamp;          // of the file from which they were read
+  files::file_stamp stamp;          // of the archive file
 };
 
-// Reads the index of an archive. Offsets are not checked. Throws data_error if the file cannot be
-// an archive or changes meanwhile, and file_error.
+// Reads the index of an archive. Offsets are not checked. Throws data_error if the file is not an
+// archive or changes during the read, and file_error.
 archive_index read_archive_index(const files::file_path& path);
 
-// Opens an archive to read entries. Throws data_error if its stamp differs, and file_error.
+// Opens an archive to read entries. Throws data_error if its stamp has changed, and file_error.
 void open_unchanged(files::binary_file& file, const files::file_path& path,
                     const files::file_stamp& stamp);
 

@@ -8,20 +8,20 @@ namespace ostrane {
 
 namespace {
 
-// Row i of the archive's names and line j of the shiplist, and the names there.
+// The merge: row i of the archive, line j of the shiplist, and the keys of both.
 class report_walk {
  public:
   report_walk(const line_writer& report, const name_list& archive, shiplist_comparison& ships)
       : report_(report), archive_(archive), ships_(ships) {}
 
-  // True if a name was written.
+  // Returns true if a name was written.
   bool run() {
     ships_.shiplist_walk_done = false;
     step_list();
     step_ship();
     while (!ships_.shiplist_walk_done) {
       write_smaller_names();
-      // Both sides advance, even if their names differ now.
+      // Both sides advance even if their names differ.
       step_list();
       step_ship();
       ships_.shiplist_walk_done = i_ >= archive_.count - 1 || j_ >= ships_.shiplist_last;
@@ -34,15 +34,15 @@ class report_walk {
  private:
   void step_list() { list_key_ = files::compare_key(archive_.name(++i_)); }
 
-  // A line after the final one is empty.
+  // Lines past the final one read as empty.
   void step_ship() {
     const auto line = static_cast<std::size_t>(++j_);
     const bool exists = line < ships_.shiplist_lines.size();
     ship_key_ = exists ? files::compare_key(ships_.shiplist_lines[line]) : "";
   }
 
-  // Writes the names that sort before the other side's current name, first of the archive, then of
-  // the shiplist. The bound of the first run includes the end record.
+  // Writes the names that sort before the other side's current name, first those of the archive.
+  // The first loop includes the end record.
   void write_smaller_names() {
     while (i_ < archive_.count && list_key_ < ship_key_) write_list_row();
     while (j_ < ships_.shiplist_last && list_key_ > ship_key_) write_ship_row();

@@ -15,18 +15,18 @@ struct name_list {
   std::int32_t count = 0;
   // Returns "" for a row that does not exist.
   std::function<const std::string&(std::int32_t row)> name;
-  files::file_identity archive = {};  // of the archive, which no list may overwrite
+  files::file_identity archive = {};  // of the archive, which a list must not overwrite
 };
 
 // Receives the lines of a report, without line ends.
 using line_writer = std::function<void(std::string_view line)>;
 
-// Merges the names of an archive and a sorted shiplist and writes the names that only one of them
-// has. Returns true if it wrote a name or if one side has more lines.
+// Merges the names of an archive with a sorted shiplist and writes the names that only one side
+// has. Returns true if it wrote a name, or if the sides have different numbers of lines.
 bool write_compare_report(const line_writer& write_line, const name_list& archive,
                           shiplist_comparison& comparison);
 
-// The same to the report file. Throws file_error.
+// Writes the same to a file. Throws file_error.
 bool write_compare_report(const files::file_path& path, const name_list& archive,
                           shiplist_comparison& comparison);
 

@@ -6,7 +6,7 @@
 
 namespace ostrane {
 
-// Data is invalid: a damaged archive, a list that is too long, a file that has changed.
+// Invalid data: a damaged archive, a list that is too long, a file that changed during a job.
 struct data_error : std::exception {
   explicit data_error(std::string sentence) : text(std::move(sentence)) {}
   const char* what() const noexcept override { return text.c_str(); }

@@ -11,19 +11,19 @@ namespace ostrane {
 
 namespace {
 
-// Five bytes of the code page are control characters, too.
+// The code page maps 0x7F and its five undefined bytes to control characters.
 bool is_control_character(char c) {
   constexpr std::string_view in_code_page = "\x7F\x81\x8D\x8F\x90\x9D";
   return static_cast<unsigned char>(c) < 0x20 || in_code_page.find(c) != in_code_page.npos;
 }
 
-// The superscript digits 1 to 3 are digits, too.
+// Windows also accepts the superscript digits 1 to 3.
 bool has_number(std::string_view stem, std::string_view device) {
   constexpr std::string_view digits = "123456789\xB9\xB2\xB3";
   return stem.size() == 4 && stem.substr(0, 3) == device && digits.find(stem[3]) != digits.npos;
 }
 
-// On Windows these name devices, also with an extension or trailing blanks.
+// Windows treats these as devices, also with an extension and with blanks after the stem.
 bool is_device(const std::string& name) {
   const std::string folded = files::upper_case(name);
   const std::string_view stem =

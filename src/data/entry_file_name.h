@@ -4,8 +4,9 @@
 
 namespace ostrane {
 
-// Why no file may have this name, as a sentence fragment, or "". A name is unsafe if it leads out
-// of the folder, names a device, or contains a control character.
+// Returns the reason why an entry of this name is unsafe as a file (a sentence fragment), or "".
+// Unsafe are empty names, folder and device names, and names with a path separator or a control
+// character.
 std::string unsafe_name_reason(const std::string& name);
 
 }  // namespace ostrane

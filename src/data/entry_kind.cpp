@@ -9,10 +9,10 @@ namespace ostrane {
 
 entry_kind kind_of_entry(std::string_view name) {
   const std::string_view trimmed = files::trimmed(name);
-  const std::string ending = files::lower_case(files::last_characters(trimmed, 4));
-  if (ending == ".shp") return entry_kind::icons;
-  if (ending == ".pal") return entry_kind::palette;
-  if (ending == ".txt" || trimmed == "000DATUP.000") return entry_kind::text;
+  const std::string extension = files::lower_case(files::last_characters(trimmed, 4));
+  if (extension == ".shp") return entry_kind::icons;
+  if (extension == ".pal") return entry_kind::palette;
+  if (extension == ".txt" || trimmed == "000DATUP.000") return entry_kind::text;
   return entry_kind::other;
 }
 

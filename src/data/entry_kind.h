@@ -8,7 +8,7 @@ namespace ostrane {
 
 enum class entry_kind : std::uint8_t { icons, palette, text, other };
 
-// Determined by the extension.
+// Decides by the extension of the name, and by the name for 000DATUP.000.
 entry_kind kind_of_entry(std::string_view name);
 
 // "icons", "palette", "text" or "other".

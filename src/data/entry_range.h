@@ -7,14 +7,14 @@
 
 namespace ostrane {
 
-// The file offset of the entry of record `index` (0-based) according to the index of the archive.
-// It can be negative or after the end of the file.
+// Returns the file offset of entry `index` (0-based) as the archive's index gives it. The offset
+// may be negative or past the end of the file.
 std::int32_t entry_start(std::span<const dat_record> records, std::int32_t index);
 
-// The offset after that entry. For the end record, its own offset.
+// Returns the offset after that entry, also unchecked. For the end record returns its own offset.
 std::int32_t entry_end(std::span<const dat_record> records, std::int32_t index);
 
-// The nearest 32-bit number. Sums of offsets can exceed 32 bits.
+// Sums of the offsets in an index can exceed 32 bits.
 std::int32_t clamp_to_int32(std::int64_t number);
 
 }  // namespace ostrane

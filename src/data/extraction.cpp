@@ -15,13 +15,13 @@ namespace ostrane {
 
 namespace {
 
-// The file of an entry. A new file is removed unless it was written completely.
+// The file of an entry. The destructor removes a new file that is incomplete.
 struct entry_file {
   files::binary_file& file;
   files::file_path path;
   files::file_info info = {};
   bool is_new = false;
-  bool is_whole = false;
+  bool is_complete = false;
 
   entry_file(files::binary_file& opened, files::file_path target)
       : file(opened), path(std::move(target)) {
@@ -31,10 +31,11 @@ struct entry_file {
   entry_file(const entry_file&) = delete;
   entry_file& operator=(const entry_file&) = delete;
   ~entry_file() {
-    if (is_whole) return;
-    const bool drop = is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
+    if (is_complete) return;
+    const bool created_here =
+        is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
     file.abandon();
-    if (drop) files::file_calls::remove_file(path.system);
+    if (created_here) files::file_calls::remove_file(path.system);
   }
 };
 
@@ -52,8 +53,8 @@ struct extraction {
   extraction_result result = {};
 };
 
-// Like write_entry, but an old file stays until the new one is complete.
-std::string replace_file_of_entry(extraction& job, const std::string& name, std::int32_t size) {
+// Like write_entry, but replaces an existing file atomically.
+std::string replace_entry_file(extraction& job, const std::string& name, std::int32_t size) {
   const files::file_path path = job.target(name);
   files::whole_file to(job.file, path, job.stamp.identity);
   job.archive.seek(job.position);
@@ -67,7 +68,7 @@ std::string replace_file_of_entry(extraction& job, const std::string& name, std:
 
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
-  if (job.choice.replaces_whole) return replace_file_of_entry(job, name, size);
+  if (job.choice.replaces_atomically) return replace_entry_file(job, name, size);
   entry_file to(job.file, job.target(name));
   if (to.is_new) {
     job.on_created(to.path);
@@ -79,11 +80,11 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
       chunk_ladder(job.archive, to.file, size, job.small_block_bytes, job.progress);
   if (copied < size) return "the archive ends before it does";
   to.file.close();
-  to.is_whole = true;
+  to.is_complete = true;
   return "";
 }
 
-// Why the entry cannot be written, before its file is touched, or "".
+// Returns why the entry must be skipped before its file is opened, or "".
 std::string reason_to_skip(const extraction& job, const std::string& name, std::int32_t size) {
   if (size < 0) return "the index gives it a size below 0";
   if (job.position < 0) return "the index puts it before the file";
@@ -107,7 +108,7 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
 
 void extract_entry(extraction& job, std::size_t index) {
   if (job.choice.is_wanted && !job.choice.is_wanted(index)) return;
-  if (job.choice.replaces_whole) job.position = job.records[index].offset;
+  if (job.choice.replaces_atomically) job.position = job.records[index].offset;
   const std::int32_t size =
       clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);

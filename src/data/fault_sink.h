@@ -5,7 +5,7 @@
 
 namespace ostrane {
 
-// Receives a fault and the name of its entry, or "" for the archive itself.
+// Receives the faults that a check finds. `entry` is "" for a fault of the archive itself.
 using fault_sink = std::function<void(const std::string& entry, const std::string& fault)>;
 
 }  // namespace ostrane

@@ -9,15 +9,14 @@
 
 namespace ostrane {
 
-// The 256 colours as 0xRRGGBB.
+// 256 colours as 0xRRGGBB.
 using colour_table = std::array<std::uint32_t, 256>;
 
-// Reads a palette at a file offset. Colours after the end of the file are built-in ones. Throws
+// Reads a palette at a file offset. Built-in colours replace those past the end of the file. Throws
 // file_error.
 colour_table read_colours(files::binary_file& file, std::int32_t offset);
 
-// The colours of the last entry GAME.PAL of an open archive, or the built-in ones. Throws
-// file_error.
+// Returns the colours of the last entry GAME.PAL, or the built-in ones. Throws file_error.
 colour_table read_game_colours(files::binary_file& archive, std::span<const dat_record> records);
 
 }  // namespace ostrane

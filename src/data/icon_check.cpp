@@ -10,28 +10,28 @@ namespace ostrane {
 
 namespace {
 
-// Icons can share streams, so a small file could cause endless reading without this limit.
-constexpr std::int64_t max_readings_of_a_byte = 64;
+// Streams may share bytes. This bounds the time that a malicious file can take.
+constexpr std::int64_t max_reads_per_byte = 64;
 
 using report_fault = std::function<void(const std::string&)>;
 
 std::string number(std::int64_t value) { return std::to_string(value); }
 
-// A canvas that records whether anything is painted outside the picture.
-struct edge_canvas {
+// Checks whether anything is painted outside the picture.
+struct bounds_canvas {
   const icon_head& head;
-  bool left_picture = false;
+  bool paints_outside = false;
 
-  void note(std::int64_t column, std::int32_t row, std::int32_t count) {
+  void check(std::int64_t column, std::int32_t row, std::int32_t count) {
     const bool inside =
         row >= 0 && row < rows_of(head) && column >= 0 && column + count <= columns_of(head);
-    left_picture = left_picture || !inside;
+    paints_outside = paints_outside || !inside;
   }
   void run(std::int32_t column, std::int32_t row, std::int32_t count, std::uint8_t /*index*/) {
-    note(column, row, count);
+    check(column, row, count);
   }
   void pixels(std::int32_t column, std::int32_t row, std::int32_t count, const std::byte*) {
-    note(column, row, count);
+    check(column, row, count);
   }
 };
 
@@ -65,8 +65,8 @@ std::string range_text(const char* what, std::int32_t from, std::int32_t to, std
          number(highest);
 }
 
-// The fault in the numbers of a head, or "".
-std::string fault_of_head(const icon_head& head) {
+// Returns the fault of an icon head, or "".
+std::string head_fault(const icon_head& head) {
   const std::string numbers =
       ": " + range_text("rows", head.row_start, head.row_end, head.no_of_rows) + ", " +
       range_text("columns", head.col_start, head.col_end, head.no_of_cols);
@@ -83,10 +83,10 @@ std::string fault_of_head(const icon_head& head) {
   return "";
 }
 
-// The file is positioned at the stream's first byte, `at`.
+// The current position of the file must be `at`, the offset of the stream.
 void check_stream(icon_file_check& check, const std::string& icon, const icon_head& head,
                   std::int64_t at) {
-  edge_canvas canvas{head};
+  bounds_canvas canvas{head};
   check.stream.read_buffer_fill = 0;
   check.stream.read_buffer_pos = 0;
   const std::int64_t size = std::max<std::int64_t>(check.icons.end - at, 0);
@@ -95,7 +95,7 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   const std::int64_t used = size - check.stream.entry_bytes_left -
                             (check.stream.read_buffer_fill - check.stream.read_buffer_pos);
   check.bytes_left_to_read -= used;
-  if (canvas.left_picture) check.report(icon + "its stream paints outside the picture");
+  if (canvas.paints_outside) check.report(icon + "its stream paints outside the picture");
   if (check.stream.stream_ended) {
     check.report(icon + "its stream ends before row " + number(head.row_end));
     return;
@@ -118,7 +118,7 @@ void check_icon(icon_file_check& check, std::size_t index) {
   }
   icon_head head;
   read_icon_head(check.file, check.icons.positions[index], head);
-  const std::string fault = fault_of_head(head);
+  const std::string fault = head_fault(head);
   if (!fault.empty()) check.report(icon + fault);
   if (head.no_of_rows < 0 || head.no_of_cols < 0 || classify_icon(head) != icon_kind::drawable) {
     return;
@@ -126,7 +126,7 @@ void check_icon(icon_file_check& check, std::size_t index) {
   check_stream(check, icon, head, at + std::int64_t{icon_head_size});
 }
 
-// A stream ends where the next icon begins or the file ends.
+// Collects the bounds of the streams: a stream ends at the next icon or at the end of the file.
 void collect_starts(icon_file_check& check) {
   for (const std::int32_t position : check.icons.positions) {
     if (position > check.icons.start && position <= check.icons.end) {
@@ -145,14 +145,14 @@ void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t 
   icon_file_check check{file, stream, report, read_icon_file(file, start, end), {}};
   check_head(check);
   collect_starts(check);
-  check.bytes_left_to_read = max_readings_of_a_byte * (std::int64_t{end} - start);
+  check.bytes_left_to_read = max_reads_per_byte * (std::int64_t{end} - start);
   std::vector<bool> is_known(check.starts.size());
   for (std::size_t i = 0; i < check.icons.positions.size(); ++i) {
-    const auto place =
+    const auto index =
         std::lower_bound(check.starts.begin(), check.starts.end(), check.icons.positions[i] - 1) -
         check.starts.begin();
-    const auto known = static_cast<std::size_t>(place);
-    // Several directory entries can refer to one icon.
+    const auto known = static_cast<std::size_t>(index);
+    // Several directory entries may point to the same icon; check it once.
     if (known < is_known.size() && check.starts[known] == check.icons.positions[i] - 1) {
       if (is_known[known]) continue;
       is_known[known] = true;

@@ -6,27 +6,28 @@
 #include "data/icon_stream.h"
 #include "data/shp_format.h"
 
-// The run-length stream of an icon paints its data box row by row. The control byte b decides:
+// The run-length stream of an icon paints its data box row by row. The control byte b selects the
+// operation:
 //
 //   b                 operands           effect
-//   0                 none               end of the row: down by 1, back to the first column
-//   1                 a count            skip that many columns to the right
-//   even, 2 to 254    a palette index    b / 2 pixels of that colour
-//   odd, 3 to 255     (b - 1) / 2 bytes  one palette index for each of as many pixels
+//   0                 none               end of row: down by 1, back to the first column of the box
+//   1                 a count            skip: moves right by the count, leaves pixels unset
+//   even, 2 to 254    a palette index    run: b / 2 pixels of that colour
+//   odd, 3 to 255     (b - 1) / 2 bytes  literals: one palette index per pixel
 //
-// The stream ends after the last row of the box; there is no end mark.
+// The stream ends after the last row of the box, without an end marker.
 namespace ostrane {
 
-// Paints one icon on a canvas, which clips to its own area and provides
-//   void run(column, row, count, index): `count` pixels to the right with one palette index
-//   void pixels(column, row, count, indices): one index (std::byte) for each
+// Paints one icon on a canvas. The canvas clips to its own area and has
+//   void run(column, row, count, index): paints `count` pixels with one palette index
+//   void pixels(column, row, count, indices): paints one index (std::byte) per pixel
 template <typename Canvas>
 class icon_decoder {
  public:
   icon_decoder(icon_stream& stream, files::binary_file& file, const icon_head& head, Canvas& canvas)
       : stream_(stream), file_(file), head_(head), canvas_(canvas) {}
 
-  // A stream that runs out ends the icon. Throws file_error.
+  // Stops early if the stream ends. Throws file_error.
   void decode() {
     stream_.cur_row = head_.row_start;
     stream_.cur_col = head_.col_start;
@@ -39,7 +40,7 @@ class icon_decoder {
   }
 
  private:
-  // Right of every picture, with room for one more step before an overflow.
+  // Right of every picture. One more move from here does not overflow.
   static constexpr std::int32_t column_limit = std::numeric_limits<std::int32_t>::max() - 1024;
 
   void decode_stream_op() {

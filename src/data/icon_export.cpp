@@ -6,8 +6,8 @@
 namespace ostrane {
 
 std::string stem_of_entry(const std::string& name) {
-  constexpr std::size_t ending = 4;  // ".SHP"
-  return name.size() > ending ? name.substr(0, name.size() - ending) : name;
+  constexpr std::size_t extension = 4;  // ".SHP"
+  return name.size() > extension ? name.substr(0, name.size() - extension) : name;
 }
 
 std::string png_name(const std::string& stem, std::size_t number) {

@@ -11,27 +11,28 @@ namespace {
 struct picture_canvas {
   picture& drawn;
 
-  // The cells inside the picture of `count` cells from `column` on; `lost` are left of it.
+  // Clips `count` cells at `column` to the picture. Sets `clipped` to the number cut off at the
+  // left.
   std::span<std::int16_t> cells(std::int64_t column, std::int32_t row, std::int32_t count,
-                                std::size_t& lost) const {
+                                std::size_t& clipped) const {
     if (row < 0 || row >= drawn.rows()) return {};
     const std::int64_t from = std::clamp<std::int64_t>(column, 0, drawn.columns());
     const std::int64_t to = std::clamp<std::int64_t>(column + count, 0, drawn.columns());
-    lost = static_cast<std::size_t>(from - std::min(column, from));
+    clipped = static_cast<std::size_t>(from - std::min(column, from));
     return drawn.row(row).subspan(static_cast<std::size_t>(from),
                                   static_cast<std::size_t>(to - from));
   }
   void run(std::int32_t column, std::int32_t row, std::int32_t count, std::uint8_t index) const {
-    std::size_t lost = 0;
-    const auto to = cells(column, row, count, lost);
+    std::size_t clipped = 0;
+    const auto to = cells(column, row, count, clipped);
     std::fill(to.begin(), to.end(), std::int16_t{index});
   }
   void pixels(std::int32_t column, std::int32_t row, std::int32_t count,
               const std::byte* indices) const {
-    std::size_t lost = 0;
-    const auto to = cells(column, row, count, lost);
+    std::size_t clipped = 0;
+    const auto to = cells(column, row, count, clipped);
     for (std::size_t i = 0; i < to.size(); ++i) {
-      to[i] = std::to_integer<std::int16_t>(indices[lost + i]);
+      to[i] = std::to_integer<std::int16_t>(indices[clipped + i]);
     }
   }
 };

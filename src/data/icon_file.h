@@ -8,26 +8,28 @@
 
 namespace ostrane {
 
-// The head and the directory of an icon file, which can be a part of a larger file.
+// The head and directory of an icon file, which may be part of a larger file.
 struct icon_file {
-  std::int32_t start = 0;  // its first byte
-  std::int32_t end = 0;    // after its last byte
+  std::int32_t start = 0;  // file offset of its first byte
+  std::int32_t end = 0;    // file offset after its last byte
   shp_head head;
-  // 1-based; of at most 5000 icons whose directory entry is inside the file.
+  // 1-based positions of the icons: at most 5000, and only of directory entries inside the file.
   std::vector<std::int32_t> positions;
 };
 
-// Reads an icon file between the offsets `start` and `end`. Without a complete head it has no
+// Reads an icon file at the offsets [start, end). If the head is incomplete the result has no
 // icons. Throws file_error.
 icon_file read_icon_file(files::binary_file& file, std::int32_t start, std::int32_t end);
 
-// The size of an icon according to its head, in cells, and whether a picture can be made of it.
+// The size in cells that the head of an icon gives.
 std::int64_t columns_of(const icon_head& head);
 std::int64_t rows_of(const icon_head& head);
 constexpr std::int64_t max_picture_cells = std::int64_t{1} << 26U;
+// False if that size is not positive or above max_picture_cells.
 bool has_picture(const icon_head& head);
 
-// Draws a drawable icon whose head was read at `position`. Requires has_picture. Throws file_error.
+// Draws a drawable icon with a picture. `position` is that of its head; the file's current position
+// must be after the head. Throws file_error.
 picture read_icon_picture(icon_stream& stream, files::binary_file& file, const icon_file& from,
                           const icon_head& head, std::int32_t position);
 

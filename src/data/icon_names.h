@@ -6,8 +6,8 @@
 
 #include "files/file_path.h"
 
-// iconlist.csv: one row per line with two fields, separated by the first ";": an entry's name up to
-// its first ".", and its description. There is no header line and no quoting.
+// iconlist.csv: each line has two fields, separated by the first ";": an entry's name up to its
+// first ".", and its description. There is no header line, no quoting and no escape.
 namespace ostrane {
 
 constexpr std::size_t max_icon_names = 32000;
@@ -17,16 +17,16 @@ struct icon_name_pair {
   std::string description;
 };
 
-// Line n of the file becomes row n; row 0 is empty. Without a file there is an empty row 1. Lines
-// without ";" give empty rows; lines after 32000 are skipped. After a read failure the rows before
-// it are returned.
+// Line n of the file becomes row n; row 0 is empty. Without a file, row 1 is empty too. Lines
+// without ";" become empty rows; lines after the first 32000 are skipped. After a read failure the
+// rows before it are returned.
 std::vector<icon_name_pair> read_icon_names(const files::file_path& path);
 
-// The key to look up an entry's description: its name before the first ".", as a compare_key.
+// Returns the lookup key of an entry: the compare_key of its name up to the first ".", or "".
 std::string icon_name_key(std::string_view entry_name);
 
-// The first row for an entry, by its name before the first ".". Ignores case and surrounding
-// blanks. 0 if there is none.
+// Returns the first row whose name has the key of this entry, or 0. Names are trimmed and compared
+// case-insensitively.
 std::size_t find_icon_name(const std::vector<icon_name_pair>& rows, std::string_view entry_name);
 
 }  // namespace ostrane

@@ -10,7 +10,7 @@
 #include "data/row_packer.h"
 #include "files/little_endian.h"
 
-// shp_format.h describes the bytes of an icon file, icon_decoder.h those of a stream.
+// shp_format.h describes the icon file, icon_decoder.h the stream.
 namespace ostrane {
 namespace {
 
@@ -35,7 +35,8 @@ void append_icon(std::string& to, const shp_icon& icon) {
   to += icon.stream;
 }
 
-// The offset of an equal icon in the file, or the end of the file.
+// Returns the offset of an identical icon in the file, or else the end of the file, and registers
+// the icon there.
 std::size_t offset_of(const std::string& file, const std::string& icon,
                       std::unordered_multimap<std::size_t, std::size_t>& known) {
   const std::size_t hash = std::hash<std::string>()(icon);

@@ -10,16 +10,17 @@
 
 namespace ostrane {
 
-// The name of a file as in make_record: trimmed, then cut or padded with blanks to 13 characters.
+// Returns the name of a file as make_record stores it: trimmed, then cut or padded with blanks to
+// 13 characters. Case is unchanged.
 record_name padded_name(std::string_view file_name);
 
-// The same as stored in the archive: in upper case, with NUL for every blank.
+// Returns that name as the archive stores it: in upper case, with NUL for every blank.
 record_name stored_name(record_name name);
 
-// The offset of the first entry in an archive with this number of files.
+// Returns the offset of the first entry in an archive of `files` entries.
 std::int32_t first_entry_offset(std::size_t files);
 
-// The bytes of an index: the number of records, then the records.
+// Returns an index as stored: the number of records, then the records.
 std::string index_bytes(std::span<const dat_record> records);
 
 }  // namespace ostrane

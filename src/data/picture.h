@@ -7,8 +7,8 @@
 
 namespace ostrane {
 
-// A picture of palette indices, row by row. A cell holds an index from 0 to 255 or is unset, that
-// is transparent.
+// A picture of palette indices, row by row. A cell holds an index from 0 to 255 or is unset, which
+// means transparent.
 class picture {
  public:
   static constexpr std::int16_t unset = -1;

@@ -11,10 +11,11 @@ namespace {
 
 constexpr std::int32_t max_skip = 255;
 constexpr std::int32_t max_op_pixels = 127;
-// A column outside the picture. Any operation may paint it.
+// A column outside the picture, which any operation may paint.
 constexpr std::int16_t free_cell = -2;
 
-// With more columns outside, the stream begins with the longest skips until this many are left.
+// For more outside columns the stream begins with skips of maximum length until at most this many
+// remain.
 constexpr std::int32_t max_outside = 2 * max_skip;
 
 }  // namespace
@@ -32,19 +33,19 @@ void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
   stream += '\0';
 }
 
-// Dynamic programming: each step depends on a few values of the columns before it. The length of
-// the shortest stream never decreases from column to column, so the longest skip and the longest
-// run are the best. Of the literals that can be extended, the shortest stream is the best: to start
-// a new literal later costs at most the byte that it saves. Of equal ones the literal with fewer
+// Dynamic programming in one pass: each step depends only on a few values of the columns before it.
+// The shortest stream never gets shorter from one column to the next, so the longest skip and the
+// longest run are the best ones. Only one open literal is kept: one that is a byte shorter is never
+// worse, because restarting a literal costs at most that byte. Of equal literals the one with fewer
 // columns can be extended further.
 void row_packer::find_steps() {
   steps_.resize(columns_.size() + 1);
-  step* to = steps_.data();  // of the current column; the result goes into the next one
+  step* to = steps_.data();  // step before the current column; its result goes to the next one
   *to = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
   std::int32_t skip = 0;
   std::int32_t run = 0;
-  std::int32_t literal = max_op_pixels;  // columns in the literal; the longest cannot be extended
-  std::int32_t literal_bytes = 0;        // of the stream that ends with it
+  std::int32_t literal = max_op_pixels;  // columns of the open literal; a full one cannot grow
+  std::int32_t literal_bytes = 0;        // of the stream that ends in it
   std::int16_t before = free_cell;
   for (const std::int16_t cell : columns_) {
     const bool can_skip = cell < 0;
@@ -72,13 +73,13 @@ void row_packer::find_steps() {
 }
 
 void row_packer::append_ops(std::string& stream) {
-  path_.clear();
-  for (std::size_t end = columns_.size(); end > 0; end -= path_.back().columns) {
-    path_.push_back(steps_[end]);
+  ops_.clear();
+  for (std::size_t end = columns_.size(); end > 0; end -= ops_.back().columns) {
+    ops_.push_back(steps_[end]);
   }
-  std::reverse(path_.begin(), path_.end());
+  std::reverse(ops_.begin(), ops_.end());
   std::size_t at = 0;
-  for (const step& op : path_) {
+  for (const step& op : ops_) {
     if (op.kind == op_kind::skip) {
       stream += '\1';
       stream += static_cast<char>(op.columns);

@@ -33,8 +33,8 @@ sort_key key_of(const std::string& line, std::size_t number) {
   return {as_number(key, 0), as_number(key, sizeof(std::uint64_t)), number};
 }
 
-// Negative, 0 or positive if the key of the first is less, equal or greater.
-int difference(const std::vector<std::string>& lines, const sort_key& a, const sort_key& b) {
+// Three-way comparison of the keys.
+int compare(const std::vector<std::string>& lines, const sort_key& a, const sort_key& b) {
   if (a.first != b.first) return a.first < b.first ? -1 : 1;
   if (a.second != b.second) return a.second < b.second ? -1 : 1;
   return files::compare_key(lines[a.line]).compare(files::compare_key(lines[b.line]));
@@ -65,10 +65,10 @@ void sort_shiplist(shiplist_comparison& comparison) {
   order.reserve(count);
   for (std::size_t i = 0; i < count; ++i) order.push_back(key_of(lines[i], i));
   std::sort(order.begin(), order.end(), [&lines](const sort_key& a, const sort_key& b) {
-    const int sign = difference(lines, a, b);
+    const int sign = compare(lines, a, b);
     return sign == 0 ? a.line < b.line : sign < 0;
   });
-  const auto same = [&lines](const auto& a, const auto& b) { return difference(lines, a, b) == 0; };
+  const auto same = [&lines](const auto& a, const auto& b) { return compare(lines, a, b) == 0; };
   order.erase(std::unique(order.begin(), order.end(), same), order.end());
   std::vector<std::string> sorted;
   sorted.reserve(order.size() + 1);

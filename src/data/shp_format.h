@@ -11,13 +11,13 @@
 //   offset                size            content
 //   0                     4               identifier, any bytes
 //   4                     4               number of icons
-//   8 + 8 * (n - 1)       4 + 4           offset of icon n, and an offset that nothing uses
-//   where that points     24              icon_head
-//   24 bytes later                        the icon's run-length stream
+//   8 + 8 * (n - 1)       4 + 4           offset of icon n, and an unused offset
+//   offset of icon n      24              icon_head
+//   24 bytes after that                   the icon's run-length stream
 //
 // icon_head:
-//   0   2   highest row number of the picture     8   4   first column with data
-//   2   2   highest column number                12   4   first row with data
+//   0   2   rows of the picture - 1               8   4   first column with data
+//   2   2   columns of the picture - 1           12   4   first row with data
 //   4   4   spare                                16   4   last column with data
 //                                                20   4   last row with data
 namespace ostrane {
@@ -48,15 +48,15 @@ struct icon_head {
   std::int32_t spare = 0;
 };
 
-// Convert from the bytes in the file. Values are not checked; see classify_icon.
+// Convert the bytes in the file. Values are not checked.
 shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes);
 shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes);
 icon_head decode_icon_head(std::span<const std::byte, icon_head_size> bytes);
 
 enum class icon_kind { drawable, refused, blank };
 
-// Drawable if the data box ends inside the picture, refused if only its end is outside, blank if
-// its start is outside.
+// Blank if the data box starts right of or below the picture, refused if it only ends there, else
+// drawable.
 icon_kind classify_icon(const icon_head& head);
 
 }  // namespace ostrane

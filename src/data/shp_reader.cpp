@@ -9,8 +9,8 @@ namespace ostrane {
 
 namespace {
 
-// Far more than a picture needs. Without this limit a small directory that refers to one long
-// stream many times would keep the tool busy for minutes.
+// Far more bytes than a picture needs. Without a limit a small directory whose entries all point to
+// one long stream would block the tool for minutes.
 constexpr std::int64_t max_bytes_per_pixel = 16;
 constexpr std::int64_t max_extra_bytes = 65536;
 
@@ -40,8 +40,8 @@ void read_icon_positions(files::binary_file& file, std::int32_t entry_offset,
                          std::span<std::int32_t> positions) {
   std::array<std::byte, shp_dir_entry_size> bytes;
   for (std::int32_t& position : positions) {
-    const bool is_there = file.read(bytes) == bytes.size();
-    position = is_there ? clamp_to_int32(std::int64_t{entry_offset} +
+    const bool was_read = file.read(bytes) == bytes.size();
+    position = was_read ? clamp_to_int32(std::int64_t{entry_offset} +
                                          decode_shp_dir_entry(bytes).icon_offset + 1)
                         : 0;
   }

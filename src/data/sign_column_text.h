@@ -5,8 +5,8 @@
 
 namespace ostrane {
 
-// A sign column and decimal digits: a blank for zero and positive numbers, a minus sign for
-// negative ones.
+// Returns the decimal digits after a sign column, which is a blank for zero and positive numbers
+// and a minus sign for negative ones.
 std::string sign_column_text(std::int64_t number);
 
 }  // namespace ostrane

@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-// A file or an entry that a job skipped.
+// A file or entry that a job reports to the user.
 struct skipped_file {
   std::string name;
   std::string reason;  // a sentence fragment
