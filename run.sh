@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the tool, puts a sample archive into ~/ostrane-sample and starts
-# the tool. Without a display it starts the tool on a virtual one, takes a screenshot and ends.
+# Installs missing packages, builds the tool, copies a sample archive to ~/ostrane-sample and starts
+# the tool. Without a display it starts the tool on a virtual one, takes a screenshot and exits.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the tool, runs all tests and checks, and ends with a summary of what passed and what was
-# skipped. Installs what the first tests need. A further step is skipped if its packages are missing;
-# with CI=1 they are installed. The steps up to "Documents" are commands that CONTRIBUTING.md shows.
+# Builds the tool, runs all tests and checks, and prints a summary of the passed and skipped steps.
+# Installs the packages for the build and its tests. Other steps are skipped if their packages are
+# missing; with CI=1 these are installed. CONTRIBUTING.md shows the commands, except for the screenshot.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -22,7 +22,7 @@ print_summary() {
   exit $status
 }
 
-# step NAME PURPOSES COMMAND: runs the command, which needs the packages for the purposes.
+# step NAME PURPOSES COMMAND: runs the command if the packages for the purposes are installed.
 step() {
   local name=$1 command=$3 start=$SECONDS purposes packages missing
   read -ra purposes <<<"$2"
@@ -40,7 +40,7 @@ step() {
   current=
 }
 
-# list_skipped_tests BUILD: adds the tests that were skipped there, and why.
+# list_skipped_tests BUILD: adds the skipped tests of that build to the summary, with their reasons.
 list_skipped_tests() {
   local tests
   mapfile -t tests < <(awk '

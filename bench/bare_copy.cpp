@@ -1,7 +1,7 @@
 // bench_bare_copy extract|build FOLDER
-// The same files as bench_job moves, by nothing but the system's calls: microseconds of a loop of
-// open, read, write and close. extract splits ostrane.dat by its index into the folder "out"; build
-// writes an index, which needs the size of each file, and then the files of FOLDER into
+// Does the same as bench_job with a plain loop of open, read, write and close, and prints the
+// microseconds. extract splits ostrane.dat by its index into the folder "out". build asks for the
+// size of each file in FOLDER, as an index needs it, and writes an index and the files into
 // OSTRANE.DAT.
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,13 +21,13 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t record_size = 17;
 
-int opened(const fs::path& path, int flags) {
+int open_file(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags, 0644);
   if (file < 0) throw std::runtime_error("cannot open " + path.string());
   return file;
 }
 
-// Up to `size` bytes from one file to the other.
+// Copies at most `size` bytes.
 void copy(int from, int to, std::size_t size) {
   static std::vector<char> buffer(std::size_t{1} << 18U);
   while (size > 0) {
@@ -47,7 +47,7 @@ std::uint32_t number_at(const std::vector<unsigned char>& bytes, std::size_t at)
 }
 
 void extract(const fs::path& folder) {
-  const int archive = opened(folder / "ostrane.dat", O_RDONLY);
+  const int archive = open_file(folder / "ostrane.dat", O_RDONLY);
   std::vector<unsigned char> index(4);
   if (read(archive, index.data(), 4) != 4) throw std::runtime_error("no index");
   const std::size_t count = number_at(index, 0);
@@ -57,7 +57,7 @@ void extract(const fs::path& folder) {
     const std::size_t at = i * record_size;
     const std::string name(reinterpret_cast<const char*>(index.data() + at + 4), 13);
     const int file =
-        opened(folder / "out" / name.substr(0, name.find('\0')), O_WRONLY | O_CREAT | O_TRUNC);
+        open_file(folder / "out" / name.substr(0, name.find('\0')), O_WRONLY | O_CREAT | O_TRUNC);
     copy(archive, file, number_at(index, at + record_size) - number_at(index, at));
     close(file);
   }
@@ -71,11 +71,11 @@ void build(const fs::path& folder) {
     files.push_back(entry.path());
     size += entry.file_size();
   }
-  const int archive = opened(folder / "OSTRANE.DAT", O_WRONLY | O_CREAT | O_TRUNC);
+  const int archive = open_file(folder / "OSTRANE.DAT", O_WRONLY | O_CREAT | O_TRUNC);
   const std::vector<char> index(4 + record_size * (files.size() + 1), static_cast<char>(size));
   if (write(archive, index.data(), index.size()) < 0) throw std::runtime_error("cannot write");
   for (const fs::path& path : files) {
-    const int file = opened(path, O_RDONLY);
+    const int file = open_file(path, O_RDONLY);
     copy(file, archive, SIZE_MAX);
     close(file);
   }
@@ -91,9 +91,9 @@ int main(int argc, char** argv) {
   }
   using clock = std::chrono::steady_clock;
   try {
-    const auto begun = clock::now();
+    const auto start = clock::now();
     std::string(argv[1]) == "extract" ? extract(argv[2]) : build(argv[2]);
-    const auto took = clock::now() - begun;
+    const auto took = clock::now() - start;
     std::cout << std::chrono::duration_cast<std::chrono::microseconds>(took).count() << " 0\n";
   } catch (const std::exception& failure) {
     std::cerr << "bench_bare_copy: " << failure.what() << '\n';

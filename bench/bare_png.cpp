@@ -1,7 +1,7 @@
 // bench_bare_png write FOLDER OUT | read FOLDER
-// A bare loop with libpng over the PNGs of a folder: writes the same pixels, palettes and
-// transparent indices at the settings of `ostrane-dat export` into OUT, or reads them. Tells the
-// microseconds of the loop alone.
+// A bare loop with libpng over the PNGs of a folder. write writes the same pixels, palettes and
+// transparent indices into OUT, with the settings of `ostrane-dat export`. read only reads the
+// PNGs. Prints the microseconds of the loop.
 #include <png.h>
 
 #include <algorithm>
@@ -92,13 +92,13 @@ int main(int argc, char** argv) {
   if (job == "write") {
     for (const fs::path& file : files) all.push_back(read_png(file));
   }
-  const auto begun = std::chrono::steady_clock::now();
+  const auto start = std::chrono::steady_clock::now();
   std::size_t bytes = 0;
   for (const pixels& drawn : all) write_png(drawn, argv[3]);
   if (job == "read") {
     for (const fs::path& file : files) bytes += read_png(file).bytes.size();
   }
-  const auto took = std::chrono::steady_clock::now() - begun;
+  const auto took = std::chrono::steady_clock::now() - start;
   std::cout << std::chrono::duration_cast<std::chrono::microseconds>(took).count() << " 0\n";
   return job == "read" && bytes == 0 ? 1 : 0;
 }

@@ -16,7 +16,7 @@ void extract_all(benchmark::State& state) {
   const std::filesystem::path folder = bench::scratch("extract");
   bench::write_archive(folder, entries());
   create_directories(folder / "out");
-  bench::begin_tool_on(folder);
+  bench::start_tool_on(folder);
   bench::open_archive("C:\\");
   for (auto _ : state) {
     state.PauseTiming();
@@ -25,16 +25,16 @@ void extract_all(benchmark::State& state) {
     state.ResumeTiming();
     bench::extract_into("C:\\out");
   }
-  bench::expect_no_complaint();
+  bench::expect_success();
 }
 BENCHMARK(extract_all)->Unit(benchmark::kMillisecond);
 
 void build_archive(benchmark::State& state) {
   const std::filesystem::path folder = bench::scratch("build");
   for (const bench::entry& e : entries()) bench::write_file(folder / e.name, e.bytes);
-  bench::begin_tool_on(folder);
+  bench::start_tool_on(folder);
   for (auto _ : state) bench::build_from("C:\\");
-  bench::expect_no_complaint();
+  bench::expect_success();
 }
 BENCHMARK(build_archive)->Unit(benchmark::kMillisecond);
 

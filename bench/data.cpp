@@ -14,16 +14,16 @@ namespace fs = std::filesystem;
 namespace {
 
 struct scratch_root {
-  fs::path place = fs::temp_directory_path() / ("ostrane-bench-" + std::to_string(getpid()));
+  fs::path path = fs::temp_directory_path() / ("ostrane-bench-" + std::to_string(getpid()));
   ~scratch_root() {
-    std::error_code gone;
-    fs::remove_all(place, gone);
+    std::error_code ignored;
+    fs::remove_all(path, ignored);
   }
 };
 
-// A stretch of a row: a gap, a run in one colour or pixels that all differ.
-void draw_stretch(picture& drawn, int row, int from, int behind, unsigned kind) {
-  for (int x = from; x < behind; ++x) {
+// Draws a part of a row: a gap, a run of one colour, or pixels of different colours.
+void draw_segment(picture& drawn, int row, int from, int end, unsigned kind) {
+  for (int x = from; x < end; ++x) {
     if (kind == 0) continue;
     const int index = kind == 1 ? from + row : x * 7 + row * 13;
     drawn.set(x, row, static_cast<std::uint8_t>(index));
@@ -48,12 +48,12 @@ std::vector<picture> mixed_pictures(int count, int side) {
     picture drawn(side, side);
     for (int row = 0; row < side; ++row) {
       for (int x = 0; x < side;) {
-        const int behind = std::min(side, x + 1 + static_cast<int>(chance() % 16));
-        draw_stretch(drawn, row, x, behind, static_cast<unsigned>(chance() % 3));
-        x = behind;
+        const int end = std::min(side, x + 1 + static_cast<int>(chance() % 16));
+        draw_segment(drawn, row, x, end, static_cast<unsigned>(chance() % 3));
+        x = end;
       }
     }
-    // The data takes up the whole picture.
+    // The data box is the whole picture.
     drawn.set(0, 0, 1);
     drawn.set(side - 1, side - 1, 1);
     pictures.push_back(std::move(drawn));
@@ -79,9 +79,9 @@ void write_archive(const fs::path& folder, const std::vector<entry>& entries) {
 
 fs::path scratch(const std::string& name) {
   static const scratch_root root;
-  fs::path place = root.place / name;
-  fs::create_directories(place);
-  return place;
+  fs::path path = root.path / name;
+  fs::create_directories(path);
+  return path;
 }
 
 }  // namespace ostrane::bench

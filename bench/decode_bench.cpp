@@ -36,16 +36,16 @@ forms_layer::picture_box& size_slot(std::int16_t index) {
   return slot;
 }
 
-void begin_tool_on_icons() {
+void start_tool_on_icons() {
   const std::filesystem::path folder = bench::scratch("icons");
   bench::write_archive(folder, {{"ICONS.SHP", shp_file(pictures())}, {"N", "n"}});
-  bench::begin_tool_on(folder);
+  bench::start_tool_on(folder);
   bench::open_archive("C:\\");
   forms_layer::user::select_row(Form1.List1, 0);
 }
 
 void decode_icons_from_file(benchmark::State& state) {
-  begin_tool_on_icons();
+  start_tool_on_icons();
   forms_layer::picture_box& slot = size_slot(1);
   tool_state.current_slot = 1;
   for (auto _ : state) {
@@ -69,12 +69,12 @@ BENCHMARK(decode_icons_from_file)->Unit(benchmark::kMicrosecond);
 void libpng_from_file(benchmark::State& state) {
   std::string all;
   for (const picture& drawn : pictures()) all += bench::png_of(drawn);
-  const std::filesystem::path place = bench::scratch("png") / "all";
-  bench::write_file(place, all);
+  const std::filesystem::path path = bench::scratch("png") / "all";
+  bench::write_file(path, all);
   std::vector<unsigned char> pixels(std::size_t{side} * side);
   std::string bytes(all.size(), '\0');
   for (auto _ : state) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(place.c_str(), "rb"),
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
                                                                std::fclose);
     bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
     const char* at = bytes.data();
@@ -99,7 +99,7 @@ std::vector<stream_in_memory> all_streams() {
 }
 
 void decode_streams_in_memory(benchmark::State& state) {
-  begin_tool_on_icons();
+  start_tool_on_icons();
   const std::vector<stream_in_memory> streams = all_streams();
   size_slot(1);
   tool_state.current_slot = 1;
@@ -116,7 +116,7 @@ void decode_streams_in_memory(benchmark::State& state) {
 }
 BENCHMARK(decode_streams_in_memory)->Unit(benchmark::kMicrosecond);
 
-// What the streams themselves cost: no clipping, no record of what changed, no end of the buffer.
+// Decodes without clipping, damage tracking and checks of the buffer's end.
 void bare_loop(const std::string& stream, const forms_layer::colour* colours,
                forms_layer::colour* row) {
   const auto* at = reinterpret_cast<const unsigned char*>(stream.data());

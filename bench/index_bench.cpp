@@ -28,7 +28,7 @@ std::filesystem::path folder_of_names() {
 }
 
 void read_index_into_list(benchmark::State& state) {
-  bench::begin_tool_on(folder_of_names());
+  bench::start_tool_on(folder_of_names());
   for (auto _ : state) bench::open_archive("C:\\");
   if (Form1.List1.ListCount() != bench::max_names + 1) state.SkipWithError("not all were read");
 }

@@ -1,7 +1,7 @@
 // bench_job index|compare|extract|build FOLDER
-// One job of the tool in a process of its own, without a screen: tells its microseconds, from the
-// opening of its dialog on. FOLDER holds ostrane.dat, or for build the files; extract writes into
-// its folder "out", compare reads shiplist.txt.
+// Runs one job of the tool without a screen. Prints its microseconds, starting with the opening of
+// its dialog. FOLDER contains ostrane.dat, or for build the files. extract writes into its folder
+// "out". compare reads shiplist.txt.
 #include <chrono>
 #include <cstdint>
 #include <exception>
@@ -24,13 +24,13 @@ void run(const std::string& job, const std::string& path) {
 
 std::int64_t microseconds_of(const std::string& job, const std::filesystem::path& folder) {
   using clock = std::chrono::steady_clock;
-  bench::begin_tool_on(folder.parent_path());
+  bench::start_tool_on(folder.parent_path());
   const std::string path = "C:\\" + folder.filename().string();
   if (job == "compare" || job == "extract") bench::open_archive(path);
-  const auto begun = clock::now();
+  const auto start = clock::now();
   run(job, path);
-  const auto took = clock::now() - begun;
-  bench::expect_no_complaint();
+  const auto took = clock::now() - start;
+  bench::expect_success();
   return std::chrono::duration_cast<std::chrono::microseconds>(took).count();
 }
 

@@ -1,8 +1,12 @@
 // bench_make_data FOLDER
-// Writes what peers.sh measures with: names (an index of 32,768 records, empty files of the same
-// names, a shiplist, and the two lists of names one a line), files (4000 files, 64 MB), archive
-// (the same as an archive), icons (one file each of 300, 500 and 999 icons, and a text of 32 KB),
-// steps (an archive of 40 icon files), pictures (5000 icons of 64 by 64).
+// Writes the data of peers.sh into folders:
+//   names     an index of 32,768 records, empty files of these names, a shiplist, and the names
+//             shuffled and in order, one per line
+//   files     4000 files, 64 MB
+//   archive   an archive of these files
+//   icons     an archive with files of 300, 500 and 999 icons and a text of 32 KB
+//   steps     an archive of 40 icon files
+//   pictures  an archive with one file of 5000 icons, 64 by 64 pixels each
 #include <algorithm>
 #include <exception>
 #include <iostream>

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# bench/peers.sh [ROUNDS]: what the tool's jobs take beside what other programs take for the same
-# bytes. Both sides of a row run in turns, ROUNDS times each (11 if not told); a table of the medians
-# goes to the standard output. The data is made here, where no disk is asked if the system has such
-# a place; OSTRANE_BUILD is the folder to build in.
+# bench/peers.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
+# table of the medians. Both sides of a row run in turns, ROUNDS times each (default 11). The data is
+# in memory if the system has /dev/shm. OSTRANE_BUILD is the build folder.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -25,18 +24,18 @@ trap 'rm -rf "$data"' EXIT
 tar -C "$data/names/empty" -cf "$data/names.tar" .
 tar -C "$data/files" -cf "$data/files.tar" .
 
-# Each sets `took`, in microseconds.
+# Each of these sets `took`, in microseconds.
 wall() {
   local began=${EPOCHREALTIME/./}
   "$@" >"$data/output"
   took=$((${EPOCHREALTIME/./} - began))
 }
-told() { # The program tells what it took, and its memory in KB.
+printed() { # The program prints its microseconds, and its memory in KB.
   "$@" >"$data/output"
   read -r took memory <"$data/output"
 }
 memory_of() {
-  told "$@"
+  printed "$@"
   took=$memory
 }
 
@@ -63,12 +62,12 @@ export_pictures() {
 bare_export() {
   rm -rf "$data/bare"
   mkdir "$data/bare"
-  told "$bin/bench_bare_png" write "$data/png" "$data/bare"
+  printed "$bin/bench_bare_png" write "$data/png" "$data/bare"
 }
-job() { told "$bin/bench_job" "$1" "$data/$2"; }
-window() { told "$bin/bench_window" "$@"; }
-bare_copy() { told "$bin/bench_bare_copy" "$1" "$data/$2"; }
-bare() { told "$bin/bench_bare_qt" "$@"; }
+job() { printed "$bin/bench_job" "$1" "$data/$2"; }
+window() { printed "$bin/bench_window" "$@"; }
+bare_copy() { printed "$bin/bench_bare_copy" "$1" "$data/$2"; }
+bare() { printed "$bin/bench_bare_qt" "$@"; }
 
 median() { sort -n "$1" | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
 
@@ -121,7 +120,7 @@ scripts() {
   row '`export` of 5,000 icons; a bare loop with libpng' 1.2 ms 1000 export_pictures -- bare_export
   row '`import` of them; a bare loop with libpng' 1.5 ms 1000 \
     dat import "$data/png" -o "$data/new.shp" --palette "$data/pictures/ostrane.dat" -- \
-    told "$bin/bench_bare_png" read "$data/png"
+    printed "$bin/bench_bare_png" read "$data/png"
 }
 
 windows() { # PLATFORM
@@ -143,9 +142,9 @@ windows() { # PLATFORM
     without_archive window build "$data/files" -- tar_up
 }
 
-# A window manager is needed: without one no window is active.
+# Needs a window manager: without one no window is active.
 keys() {
-  told "$bin/bench_window" keys "$data/steps"
+  printed "$bin/bench_window" keys "$data/steps"
   printf '| twenty presses of Down at 20 ms each over icon files, Xvfb | row %s, %s changes of the active window | | | row 20, 0 changes |\n' \
     "$took" "$memory"
 }
@@ -153,7 +152,7 @@ keys() {
 in_process() {
   "$bin/ostrane_bench" --benchmark_format=csv --benchmark_repetitions=$((rounds > 1 ? rounds : 2)) \
     --benchmark_enable_random_interleaving=true --benchmark_min_time=0.05 \
-    --benchmark_filter='index|fread|decode|libpng|bare|memset|series' 2>"$data/complaints" |
+    --benchmark_filter='index|fread|decode|libpng|bare|memset|series' 2>"$data/errors" |
     tr -d '"' | awk -F, '$1 ~ /_median$/ {sub("_median", "", $1); print $1, $3 / 1000}' >"$data/in_process"
   of() { awk -v name="$1" '$1 == name {print $2}' "$data/in_process"; }
   between() { line "$1" "$(of "$2")" "$(of "$3")" "$4" ms; }

@@ -15,7 +15,7 @@ void append_bytes(png_structp png, png_bytep bytes, size_t count) {
   to->append(reinterpret_cast<const char*>(bytes), count);
 }
 
-void take_bytes(png_structp png, png_bytep to, size_t count) {
+void read_bytes(png_structp png, png_bytep to, size_t count) {
   auto* at = static_cast<const char**>(png_get_io_ptr(png));
   std::memcpy(to, *at, count);
   *at += count;
@@ -58,7 +58,7 @@ std::string png_of(const picture& drawn) {
 void decode_png(const char*& at, unsigned char* to) {
   png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, nullptr);
   png_infop info = png_create_info_struct(png);
-  png_set_read_fn(png, static_cast<void*>(&at), take_bytes);
+  png_set_read_fn(png, static_cast<void*>(&at), read_bytes);
   png_read_info(png, info);
   const png_uint_32 rows = png_get_image_height(png, info);
   const std::size_t row_bytes = png_get_rowbytes(png, info);

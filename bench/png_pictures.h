@@ -7,11 +7,11 @@
 
 namespace ostrane::bench {
 
-// A picture as a PNG file with a palette of 256 colours; unset cells are colour 0.
+// Encodes a picture as a PNG with a palette of 256 colours. Unset cells get index 0.
 std::string png_of(const picture& drawn);
 
-// Decodes a PNG from the bytes at `at` into `to`, one palette index a pixel, and moves `at` behind
-// it. `to` must be large enough.
+// Decodes the PNG at `at` into `to`, one palette index per pixel, and sets `at` to the end of the
+// PNG. `to` must be large enough.
 void decode_png(const char*& at, unsigned char* to);
 
 }  // namespace ostrane::bench

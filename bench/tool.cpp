@@ -14,7 +14,7 @@ namespace ostrane::bench {
 
 namespace user = forms_layer::user;
 
-void begin_tool_on(const std::filesystem::path& folder) {
+void start_tool_on(const std::filesystem::path& folder) {
   files::set_drives({{'C', "bench", folder}}, "C:\\");
   start_tool(folder);
 }
@@ -46,14 +46,14 @@ void compare_with(const std::string& folder, const std::string& file_name) {
   user::click(Form6.Command1);
 }
 
-void widen_window(int width, int height, int max_icons) {
+void resize_window(int width, int height, int max_icons) {
   user::resize(Form1, width * forms_layer::application.TwipsPerPixelX,
                height * forms_layer::application.TwipsPerPixelY);
   user::type(Form1.Text5, std::to_string(max_icons));
   user::focus(&Form1.List1);
 }
 
-void expect_no_complaint() {
+void expect_success() {
   for (const std::string& message : forms_layer::messages_shown()) {
     const bool done = message.find("has been") != std::string::npos;
     if (!done) throw std::runtime_error(message);

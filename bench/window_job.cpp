@@ -1,8 +1,8 @@
 // bench_window start|icons|text|extract|build|keys FOLDER [COUNT]
-// One job of the tool with its window, from the click to the last pixel on the screen, in
-// microseconds; the peak memory in KB. FOLDER is as for bench_job; icons draws the series of COUNT
-// icons. keys has xdotool press Down twenty times over the rows of FOLDER, and prints the row that
-// is selected then and how many times the active window changed.
+// Runs one job of the tool with its windows. Prints the microseconds from the click to the last
+// pixel on the screen, and the peak memory in KB. FOLDER is as for bench_job. icons draws a series
+// of COUNT icons. keys sends twenty presses of Down to the list of entries with xdotool. It prints
+// the number of the selected row, and how often the active window changed.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -27,7 +27,7 @@ namespace {
 using namespace ostrane;
 namespace user = forms_layer::user;
 
-// Messages are answered at once.
+// Answers messages immediately.
 class screen : public desktop::qt_screen {
  public:
   void message_box(const std::string& /*title*/, const std::string& /*text*/) override {}
@@ -49,7 +49,7 @@ void click(const std::string& name) {
 void prepare(const std::string& job, const std::string& folder) {
   if (job == "start") return;
   if (job != "build") bench::open_archive(folder);
-  if (job == "icons" || job == "text") bench::widen_window(1900, 1200, 999);
+  if (job == "icons" || job == "text") bench::resize_window(1900, 1200, 999);
   if (job == "text") click("SHORT.TXT");
   settle();
 }
@@ -59,7 +59,7 @@ void run(const std::string& job, const std::string& folder, const std::string& c
   if (job == "text") click("LONG.TXT");
   if (job == "extract") bench::extract_into(folder + "\\out");
   if (job == "build") bench::build_from(folder);
-  // What the end of a job leaves to the event loop.
+  // The end of a job posts its last work to the event loop.
   QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents();
   bench::sync_with_screen();
@@ -89,7 +89,7 @@ void run(const std::string& job, const std::string& folder, const std::string& c
   time.start();
   if (job != "start") run(job, folder, count);
   const qint64 microseconds = time.nsecsElapsed() / 1000;
-  bench::expect_no_complaint();
+  bench::expect_success();
   std::cout << microseconds << ' ' << bench::peak_memory() << std::endl;
   std::_Exit(0);
 }
@@ -106,7 +106,7 @@ int main(int argc, char** argv) {
   screen shown;
   forms_layer::attach_screen(&shown);
   const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
-  bench::begin_tool_on(folder.parent_path());
+  bench::start_tool_on(folder.parent_path());
   QCoreApplication::processEvents();
   QTimer::singleShot(0, [&] {
     measure(shown, argv[1], "C:\\" + folder.filename().string(), argc > 3 ? argv[3] : "");

@@ -1,11 +1,11 @@
-# Builds for Windows on another system and runs the programs under Wine.
+# Toolchain to build for Windows on Linux and run the programs under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
-# The variant whose standard library has threads, which GoogleTest needs.
+# GoogleTest needs the variant with threads in the standard library.
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-set(CMAKE_EXE_LINKER_FLAGS_INIT -static)  # the programs need no further libraries
+set(CMAKE_EXE_LINKER_FLAGS_INIT -static)  # the programs need no DLLs of the compiler
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

@@ -1,11 +1,10 @@
-# The compiler and linker options of this project. A target gets them by linking ostrane_options,
-# directly or through a library that does.
+# Compiler and linker options. Targets get them by linking ostrane_options, directly or indirectly.
 add_library(ostrane_options INTERFACE)
 
 # The presets turn warnings into errors (CMAKE_COMPILE_WARNING_AS_ERROR).
 target_compile_options(ostrane_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # A false alarm on "literal" + std::string in optimised code.
+  # GCC 12 gives a false warning for "literal" + std::string in optimised code.
   target_compile_options(ostrane_options INTERFACE -Wno-restrict)
 endif()
 target_compile_definitions(ostrane_options INTERFACE _GLIBCXX_ASSERTIONS)
@@ -16,9 +15,9 @@ if(OSTRANE_SANITIZE OR OSTRANE_FUZZ)
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(ostrane_options INTERFACE -fsanitize=address,undefined)
 elseif(CMAKE_SYSTEM_NAME STREQUAL "Linux")
-  # What Debian builds with (hardening=+all); its compiler makes position-independent programs by
-  # itself. Fortified calls check buffers whose size the compiler knows. The program has none today:
-  # it reads and copies into spans and vectors, which _GLIBCXX_ASSERTIONS checks.
+  # Debian's hardening options (hardening=+all); its compiler enables PIE by default. _FORTIFY_SOURCE
+  # checks buffers of known size. The program copies into spans and vectors, which
+  # _GLIBCXX_ASSERTIONS checks.
   set(optimised $<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>,$<CONFIG:MinSizeRel>>)
   target_compile_options(ostrane_options INTERFACE -fstack-protector-strong -Wformat
                          -Werror=format-security)

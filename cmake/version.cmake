@@ -1,5 +1,4 @@
-# The version is that of src/state/version.h; v2r1m0 there is 2.1.0 in numbers. Its date is that of
-# its chapter in CHANGELOG.md.
+# Reads the version from src/state/version.h, where v2r1m0 means 2.1.0, and its date from CHANGELOG.md.
 file(STRINGS src/state/version.h version_line REGEX "version = \"v[0-9]+r[0-9]+m[0-9]+\"")
 if(NOT version_line MATCHES "\"(v([0-9]+)r([0-9]+)m([0-9]+))\"")
   message(FATAL_ERROR "src/state/version.h holds no version like v2r1m0")

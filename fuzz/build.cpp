@@ -1,5 +1,5 @@
-// The parts of the input are the names (UTF-8) and bytes of files in turn. The entries of the
-// archive built from them must be those files.
+// The parts of the input are alternately a file name (UTF-8) and the bytes of that file. The
+// entries of the archive built from them must be these files.
 #include <set>
 
 #include "data/entry_range.h"
@@ -13,7 +13,7 @@ namespace {
 
 using contents = std::multiset<std::string>;
 
-// Some names are equal to the tool, hidden, too long or outside the code page.
+// Some names differ only in case, are hidden, are too long or are outside the code page.
 std::string generate_files(fuzz::fields& from) {
   const texts names = {
       "GEMS.SHP",    "Gems.shp",       "a b .txt",        ".hidden",  "c\\d",
@@ -72,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string archive = build();
   open_archive("C:\\work");
   fuzz::check(entries_of(archive) == before, "the entries are the files");
-  fuzz::check(build() == archive, "an archive is no file of the next one");
+  fuzz::check(build() == archive, "a build leaves out the old archive");
   fuzz::check(source_files() == before, "the files do not change");
   // One message per build, and one about skipped files.
   const std::size_t messages = new_messages().size();

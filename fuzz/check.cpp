@@ -1,4 +1,4 @@
-// The input is an archive. It is checked as `ostrane-dat check` does.
+// The input is an archive, which is checked as by `ostrane-dat check`.
 #include "data/archive_check.h"
 #include "generated_input.h"
 
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         ++faults;
       },
       [](std::size_t, std::size_t, const std::string&) {});
-  // A record has at most six faults of its own, an icon four.
+  // A record has at most six faults, an icon four.
   fuzz::check(faults <= archive.size() + 10, "faults follow from the bytes");
   return 0;
 }

@@ -1,11 +1,12 @@
-// The input is an archive. Its extraction writes files into one folder and nothing else.
+// The input is an archive. Its extraction must write nothing but files in one folder.
 #include "generated_input.h"
 
 using namespace ostrane;
 
 namespace {
 
-// Outside `out` are its parent folders, the drive D:, the tool's folder and the archive.
+// The 8 paths outside `out` are its parent folders, the drive D:, the tool's folder and the
+// archive.
 void check_all_folders(const fs::path& out, std::size_t archive_size) {
   std::size_t outside = 0;
   std::uintmax_t bytes = 0;
@@ -16,7 +17,7 @@ void check_all_folders(const fs::path& out, std::size_t archive_size) {
     if (inside && !found.is_symlink()) bytes += found.file_size();
   }
   fuzz::check(outside == 8, "nothing is written outside the folder");
-  fuzz::check(bytes <= archive_size, "each byte of the archive is written once at most");
+  fuzz::check(bytes <= archive_size, "each byte of the archive is written at most once");
 }
 
 }  // namespace
@@ -28,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   new_messages();
   const fs::path out = disk_path("C:\\out");
   fs::create_directory(out);
-  // An entry of this name would be written over the archive that it comes from.
+  // An entry of this name would overwrite the open archive.
   fs::create_symlink("../ostrane.dat", out / "SELF.DAT");
   extract_into("C:\\out");
   fuzz::check(new_messages().size() <= 2, "an extraction shows at most two messages");

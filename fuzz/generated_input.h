@@ -8,7 +8,7 @@
 #include "files/little_endian.h"
 #include "target.h"
 
-// Generated inputs are well-formed; the bytes of the fuzzer choose their field values.
+// Makes well-formed inputs. The bytes of the fuzzer choose their field values.
 namespace ostrane::fuzz {
 
 using fields = FuzzedDataProvider;
@@ -20,7 +20,7 @@ const texts names = {"A.SHP",         "b.shp",      "N.TXT",       "GAME.PAL",
                      "13CHARACT.TXT", "\x80\xE4.T", "OSTRANE.DAT", " G.TXT ",
                      "ABCDEFGHI.SHP", "\x81.TXT",   ".HIDDEN"};
 
-// A `likely` number or a 16- or 32-bit limit, each also plus or minus 1, or any number.
+// A `likely` number or a 16- or 32-bit limit, each also plus or minus 1, or a random number.
 inline std::int32_t number(fields& from, std::initializer_list<std::int64_t> likely) {
   std::vector<std::int64_t> edges = {0, INT16_MIN, INT16_MAX, UINT16_MAX, INT32_MIN, INT32_MAX};
   edges.insert(edges.end(), likely);
@@ -34,18 +34,18 @@ inline std::size_t size(fields& from, std::initializer_list<std::int64_t> likely
   return static_cast<std::size_t>(std::clamp(number(from, likely), 0, UINT16_MAX + 1));
 }
 
-// A `likely` text or any.
+// A `likely` text or a random one.
 inline std::string text(fields& from, const texts& likely) {
   const auto choice = from.ConsumeIntegralInRange<std::size_t>(0, likely.size());
   return choice < likely.size() ? likely[choice] : from.ConsumeRandomLengthString(16);
 }
 
-// True for 1 in `cases` values of a byte.
+// True for one in `cases` values of a byte.
 inline bool one_in(fields& from, std::uint8_t cases) {
   return from.ConsumeIntegral<std::uint8_t>() % cases == 1;
 }
 
-// Overwrites 4 bytes if they are inside.
+// Overwrites 4 bytes, unless they are past the end.
 inline void put(std::string& bytes, std::size_t at, std::int32_t value) {
   if (at + 4 <= bytes.size()) files::put_int32(std::as_writable_bytes(std::span(bytes)), at, value);
 }
@@ -73,7 +73,7 @@ inline shp_icon icon(fields& from) {
   return {head, stream(from)};
 }
 
-// Some of its numbers are inconsistent, as those of an archive.
+// Some numbers of an icon file or an archive are inconsistent.
 inline std::string icon_file(fields& from) {
   std::vector<shp_icon> icons;
   for (int left = from.ConsumeIntegralInRange(0, 8); left > 0; --left) icons.push_back(icon(from));

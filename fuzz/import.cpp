@@ -1,5 +1,5 @@
-// The input is a PNG, the JSON of an export, or a picture that is written as a PNG and must come
-// back from it and from the icon that is made of it.
+// The input is a PNG, the JSON of an export, or a picture. A picture must be unchanged after a
+// round trip through a PNG and through an icon.
 #include <memory>
 
 #include "data/data_error.h"
@@ -23,18 +23,18 @@ bool same_cells(const picture& a, const picture& b) {
 }
 
 void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
-  static const fs::path place = fuzz::top_folder() / "made.shp";
+  static const fs::path path = fuzz::top_folder() / "made.shp";
   const std::string bytes = shp_file({new_icon(drawn, known)});
-  write_bytes(place, bytes);
+  write_bytes(path, bytes);
   files::binary_file file;
-  file.open_to_read({place, "made.shp"});
+  file.open_to_read({path, "made.shp"});
   const icon_file icons = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
   icon_head head;
   fuzz::check(read_icon_head(file, icons.positions.at(0), head), "an icon is made");
   fuzz::check(classify_icon(head) == icon_kind::drawable, "it can be drawn");
   static const auto stream = std::make_unique<icon_stream>();
   const picture seen = read_icon_picture(*stream, file, icons, head, icons.positions[0]);
-  fuzz::check(same_cells(seen, drawn), "it has the cells of its picture");
+  fuzz::check(same_cells(seen, drawn), "its cells are those of the picture");
 }
 
 colour_table colours(std::uint32_t step) {
@@ -59,7 +59,7 @@ void import_json(const std::string& text) {
   }
 }
 
-void import_made(fuzz::fields& from) {
+void import_generated(fuzz::fields& from) {
   picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
   const colour_table palette = colours(from.ConsumeIntegral<std::uint32_t>());
   const bool is_full = from.ConsumeBool();
@@ -87,14 +87,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     if (data[0] == 1) {
       fuzz::fields from(data + 1, size - 1);
-      import_made(from);
+      import_generated(from);
     } else if (data[0] == '{') {
       import_json({reinterpret_cast<const char*>(data), size});
     } else {
       import_png({reinterpret_cast<const char*>(data), size});
     }
   } catch (const data_error& error) {
-    fuzz::check(!error.text.empty(), "a failure is told");
+    fuzz::check(!error.text.empty(), "an error has a text");
   }
   return 0;
 }

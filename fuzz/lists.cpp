@@ -6,7 +6,7 @@ using namespace ostrane;
 
 namespace {
 
-// One in 64 lists repeats a text beyond the limit of a list.
+// One in 64 lists repeats a line, up to 65536 times.
 std::string generate_list(fuzz::fields& from, const texts& likely) {
   std::string list;
   for (int left = from.ConsumeIntegralInRange(0, 30); left > 0; --left) {

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets and runs all of them or TARGET. Fails on a finding, whose input is then in
 # build-fuzz/findings.
-#   run.sh SECONDS [TARGET]  runs each target for so long, starting from fuzz/corpus; inputs that
-#                            reach new code are kept in build-fuzz/corpus for the next run
-#   run.sh short [TARGET]    runs a fixed set of some thousand inputs each
-#   run.sh corpus [TARGET]   replaces fuzz/corpus by the fewest inputs, of these and those kept, with
-#                            the same coverage
+#   run.sh SECONDS [TARGET]  runs each target for SECONDS, starting from fuzz/corpus. Inputs that
+#                            reach new code are kept in build-fuzz/corpus for the next run.
+#   run.sh short [TARGET]    runs a fixed set of some thousand inputs per target
+#   run.sh corpus [TARGET]   reduces fuzz/corpus and the kept inputs to the fewest with the same
+#                            coverage, and replaces fuzz/corpus by them
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -42,7 +42,7 @@ summary() {
     }' "$2"
 }
 
-# Ignores how often an edge was reached, which keeps the corpus small.
+# Counts of edges are ignored, which keeps the corpus small.
 shrink_corpus() {
   local shrunk=$work/shrunk
   mkdir -p "$build/corpus/$1" "$shrunk"

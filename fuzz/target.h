@@ -9,7 +9,7 @@
 
 #include "tool_on_drives.h"
 
-// Shared by all targets: restarting the tool for each input, failing checks, and generated input.
+// Shared by all targets: restarts the tool for each input and checks its results.
 namespace ostrane::fuzz {
 
 inline void check(bool holds, const char* what) {
@@ -18,7 +18,8 @@ inline void check(bool holds, const char* what) {
   std::abort();
 }
 
-// Holds only the drives, deeper down than a name of 13 characters can lead up.
+// Contains only the drives. They are nested so deep that a name of 13 characters with ".." stays
+// inside.
 inline const fs::path& top_folder() {
   static const fs::path top = make_temporary_folder();
   return top;
@@ -30,7 +31,7 @@ inline void restart_on_empty_drives() {
   restart();
 }
 
-// The first byte selects whether the rest is the input or chooses its fields.
+// Calls `maker` if the first byte is odd. Otherwise the rest is the input.
 template <typename Maker>
 std::string raw_or_generated(const std::uint8_t* data, std::size_t size, Maker maker) {
   if (size == 0) return "";

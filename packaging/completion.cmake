@@ -1,7 +1,7 @@
-# What shells complete the arguments of ostrane-dat with.
+# Shell completion of the arguments of ostrane-dat.
 install(FILES packaging/completion/ostrane-dat.bash
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ostrane-dat)
-# Debian's zsh reads another folder below /usr than below /usr/local.
+# Debian's zsh uses different folders in /usr and /usr/local.
 install(CODE "
   set(folder site-functions)
   if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")

@@ -2,7 +2,7 @@
 set(ostrane_maintainer
     "The Ostrane.dat-tool developers <ostrane-dat-tool@users.noreply.example>")
 
-# The release that the package is built on and for: bookworm, jammy.
+# The release that the package is built on, such as bookworm or jammy.
 cmake_host_system_information(RESULT system QUERY DISTRIB_INFO)
 set(ostrane_distribution unstable)
 if(system_VERSION_CODENAME)
@@ -15,7 +15,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-# Below 1, so that a package of the distribution's own would be the newer one.
+# Lower than 1, so that a package of the distribution itself counts as newer.
 set(CPACK_DEBIAN_PACKAGE_RELEASE 0${ostrane_distribution}1)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${ostrane_maintainer})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)

@@ -1,5 +1,5 @@
-# What `cmake --install` puts where. The program looks for iconlist.csv beside itself, so it has a
-# folder of its own, and bin/ holds a link to it.
+# Rules for `cmake --install`. The program reads iconlist.csv from its own folder. So it is installed in
+# a separate folder, with a link in bin/.
 include(GNUInstallDirs)
 
 set(programs ostrane-dat-tool)
@@ -27,7 +27,7 @@ endforeach()
 
 configure_file(packaging/ostrane-dat-tool.metainfo.xml.in
                ${made}/example.ostrane.dat_tool.metainfo.xml @ONLY)
-# The manuals name folders below the prefix, which is known only at the installation.
+# The manuals name folders below the prefix, which is only known during the installation.
 set(program_folder @program_folder@)
 set(examples_folder @examples_folder@)
 foreach(program IN LISTS programs)
@@ -57,7 +57,7 @@ foreach(size 16 24 32 48 64 128 256)
 endforeach()
 install(FILES packaging/icons/ostrane-dat-tool.svg DESTINATION ${icons_dir}/scalable/apps)
 
-# The descriptions of the sample are beside the program too, where it reads them.
+# The program reads iconlist.csv from its own folder.
 install(FILES ${CMAKE_BINARY_DIR}/sample/ostrane.dat ${CMAKE_BINARY_DIR}/sample/iconlist.csv
         DESTINATION ${examples_dir})
 install(FILES ${CMAKE_BINARY_DIR}/sample/iconlist.csv DESTINATION ${program_dir})

@@ -1,5 +1,5 @@
-# Removes what the last `cmake --install` of BUILD installed, and the program's own folders if they
-# are empty then.
+# Removes the files of the last `cmake --install` of BUILD, and the program's own folders if they are
+# empty afterwards.
 file(STRINGS ${BUILD}/install_manifest.txt files)
 foreach(file IN LISTS files)
   message(STATUS "Removing $ENV{DESTDIR}${file}")

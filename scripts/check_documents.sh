@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Runs the commands that README.md and CONTRIBUTING.md show, less those that are steps of test.sh, in
-# a copy of the tree with a home and an installation folder of its own. Packages are installed with
-# --simulate.
+# Runs the commands in README.md and CONTRIBUTING.md, except for the steps of test.sh. They run in a
+# copy of the tree, with a separate home and installation folder. Package installations are simulated.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -11,7 +10,7 @@ mkdir "$work/tree" "$work/home" "$work/installed"
 tar -c --exclude='./build*' --exclude=./.git . | tar -x -C "$work/tree"
 echo 'APT::Get::Simulate "true";' >"$work/apt.conf"
 
-# A command is an indented block, or stands in the last column of a table. Each ends with a NUL.
+# Prints the indented blocks and the last columns of tables, each with a NUL at the end.
 commands_in() {
   awk '
     /^    / { block = block substr($0, 5) "\n"; next }
@@ -21,16 +20,16 @@ commands_in() {
 }
 
 steps=$(<test.sh)
-cat >"$work/stand_ins" <<'EOS'
+cat >"$work/replacements" <<'EOS'
 sudo() { "$@"; }
 ./test.sh() { :; }
-# It runs until it is stopped.
+# The tool runs until timeout ends it.
 build/bin/ostrane-dat-tool() {
   local status=0
   QT_QPA_PLATFORM=offscreen timeout 5 ./build/bin/ostrane-dat-tool || status=$?
   [ $status -eq 124 ]
 }
-# The sample stands for the reader's archive.
+# The sample replaces the reader's archive.
 ostrane-dat() {
   [ -f ostrane.dat ] || cp build/sample/ostrane.dat .
   build/bin/ostrane-dat "$@"
@@ -48,7 +47,7 @@ run_commands_in() {
     printf '\n%s shows:\n%s\n' "$1" "$command"
     env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -C "$work/tree" HOME="$work/home" \
       DESTDIR="$work/installed" APT_CONFIG="$work/apt.conf" \
-      bash -euo pipefail -c '. "$1"; eval "$2"' bash "$work/stand_ins" "$command" </dev/null
+      bash -euo pipefail -c '. "$1"; eval "$2"' bash "$work/replacements" "$command" </dev/null
     count=$((count + 1))
   done < <(commands_in "$1")
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Fails if clang-format would format a source file differently. The version is fixed, as versions
-# differ.
+# Fails if clang-format would change a source file. Versions format differently, so the version is
+# fixed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh

@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# check_packaging.sh BUILD: checks what an installed program needs: the desktop entry, the data for
-# software centres, and the Debian package, which it makes. BUILD is a folder in which the project
-# was built.
+# check_packaging.sh BUILD: checks the desktop entry and the data for software centres, and builds and
+# checks the Debian package. BUILD is a folder with a finished build.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -11,7 +10,7 @@ build=$(cd "$1" && pwd)
 desktop-file-validate packaging/ostrane-dat-tool.desktop
 appstreamcli validate --no-net "$build"/packaging/example.ostrane.dat_tool.metainfo.xml
 
-# The files, permissions and metadata in the package are the same under any umask.
+# The package must be the same under any umask.
 SOURCE_DATE_EPOCH=$(date +%s)
 export SOURCE_DATE_EPOCH
 rm -rf "$build/package-check"

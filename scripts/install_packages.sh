@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# install_packages.sh PURPOSE...: installs the missing ones of the packages that packages.txt lists
-# for each purpose.
+# install_packages.sh PURPOSE...: installs the missing packages for these purposes in packages.txt.
 set -euo pipefail
 . "$(dirname "$0")/packages.sh"
 need "$@"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# on_virtual_display.sh COMMAND...: runs the command on a virtual display with a window manager, and
-# stops both after it.
+# on_virtual_display.sh COMMAND...: runs the command on a virtual display with a window manager. Ends
+# both afterwards.
 set -euo pipefail
 
 work=$(mktemp -d)

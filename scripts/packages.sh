@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# To be sourced. packages_for PURPOSE... prints the packages that packages.txt lists, need PURPOSE...
-# installs those of them that are missing, and need_packages NAME... does so by name.
+# Source this file.
+#   packages_for PURPOSE...  prints the packages for these purposes in packages.txt
+#   need PURPOSE...          installs the missing packages for these purposes
+#   need_packages NAME...    installs the missing ones of these packages
 
 package_list=$(dirname "${BASH_SOURCE[0]}")/packages.txt
 

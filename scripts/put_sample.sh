@@ -1,20 +1,20 @@
 #!/usr/bin/env bash
-# put_sample.sh FROM TO: copies the files of the sample to the folder TO. A file that was changed
-# there since is kept.
+# put_sample.sh FROM TO: copies the sample files to the folder TO. Files changed there since the last
+# copy are kept.
 set -euo pipefail
 from=$(cd "$1" && pwd)
 mkdir -p "$2/files"
 cd "$2"
 
-# The output of sha256sum for the files as copied.
-as_put=.as-put
-touch $as_put
+# Checksums of the files as copied, by sha256sum.
+copied=.as-put
+touch $copied
 
-is_as_put() { grep -- "  $1\$" $as_put | sha256sum --status --check 2>/dev/null; }
+is_unchanged() { grep -- "  $1\$" $copied | sha256sum --status --check 2>/dev/null; }
 
 put() {
   cmp --quiet "$from/$1" "$1" && return
-  if [ -e "$1" ] && ! is_as_put "$1"; then
+  if [ -e "$1" ] && ! is_unchanged "$1"; then
     echo "Kept your own $PWD/$1"
     return
   fi
@@ -27,4 +27,4 @@ cd - >/dev/null
 for file in "${files[@]}"; do
   put "$file"
 done
-(cd "$from" && sha256sum "${files[@]}") >$as_put
+(cd "$from" && sha256sum "${files[@]}") >$copied

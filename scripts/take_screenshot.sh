@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# take_screenshot.sh PROGRAM PICTURE: starts the tool, opens the archive in ~/ostrane-sample as a user
-# would, shows VISTA.SHP and writes a picture of the window. Needs a display of its own with a window
-# manager.
+# take_screenshot.sh PROGRAM PICTURE: starts the tool, opens the archive in ~/ostrane-sample by mouse
+# and keyboard, shows VISTA.SHP and writes a screenshot of the window. Needs a separate display with a
+# window manager.
 set -euo pipefail
 program=$1
 picture=$2
@@ -11,7 +11,7 @@ fail() {
   exit 1
 }
 
-# Waits for the window of that title and prints its number.
+# Waits for a window with this title and prints its ID.
 window() {
   for _ in $(seq 100); do
     xdotool search --onlyvisible --name "$1" 2>/dev/null && return
@@ -34,7 +34,7 @@ press() {
   sleep 0.3
 }
 
-# A list searches for what is typed quickly, so the word is typed without a pause.
+# A list searches for letters typed in quick succession.
 pick_row() {
   xdotool type --delay 20 "$1"
   sleep 0.3

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the tests and the tool without its windows for Windows, in build-windows, and runs the tests
+# Builds the tests and the tool without the desktop for Windows in build-windows, and runs the tests
 # under Wine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -8,8 +8,8 @@ need windows
 build=$PWD/build-windows
 mkdir -p "$build"
 
-# Wine gets a home of its own and no display, and keeps names in UTF-8. Processes that it leaves
-# running after the tests would keep the output open.
+# Wine gets a separate prefix, no display, and file names in UTF-8. Its background processes would keep
+# the output open after the tests.
 unset DISPLAY WAYLAND_DISPLAY
 export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LC_ALL=C.UTF-8
 trap 'wineserver -k || true' EXIT
@@ -22,7 +22,7 @@ configure -S /usr/src/googletest -B "$build/googletest" -DBUILD_GMOCK=OFF \
   -DCMAKE_INSTALL_PREFIX="$build/installed" -DCMAKE_INSTALL_MESSAGE=NEVER
 cmake --build "$build/googletest" --target install
 
-# These headers lie among those of this system, which are not for the other one.
+# The headers in /usr/include are for this system, so only these two folders are linked.
 mkdir -p "$build/headers"
 ln -sfn /usr/include/CLI "$build/headers/CLI"
 ln -sfn /usr/include/nlohmann "$build/headers/nlohmann"

@@ -17,10 +17,10 @@ set(palette ${icons} icons)
 set(archive ${palette} palette)
 set(lists ${progress} progress)
 set(handlers ${archive} archive lists)
-# Of the tool itself the screen includes only the start-up and the version.
+# Of handlers only start_up.h is included, of pictures only the exporter.
 set(desktop files forms_layer handlers pictures)
 set(pictures files data)
-# The program for scripts is made of the data side and the pictures.
+# The program for scripts uses the data side and the pictures.
 set(command ${pictures} pictures)
 set(version "state/version.h")
 

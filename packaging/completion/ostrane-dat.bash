@@ -1,7 +1,7 @@
 # Completion of ostrane-dat for bash.
 _ostrane_dat() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local command=${COMP_WORDS[1]} options= place=1 word i
+  local command=${COMP_WORDS[1]} options= position=1 word i
   COMPREPLY=()
   if [ "$COMP_CWORD" -eq 1 ]; then
     mapfile -t COMPREPLY < <(compgen -W 'list extract build add remove compare check export import
@@ -32,11 +32,11 @@ _ostrane_dat() {
   fi
   for ((i = 2; i < COMP_CWORD; ++i)); do
     word=${COMP_WORDS[i]}
-    [[ $word == -* || ${COMP_WORDS[i - 1]} == -[do] ]] || place=$((place + 1))
+    [[ $word == -* || ${COMP_WORDS[i - 1]} == -[do] ]] || position=$((position + 1))
   done
   case $command in
     extract | remove | export)
-      if [ "$place" -gt 1 ]; then
+      if [ "$position" -gt 1 ]; then
         local IFS=$'\n'
         mapfile -t COMPREPLY < <(compgen -W "$(ostrane-dat list "${COMP_WORDS[2]}" 2>/dev/null)" \
           -- "${current^^}")

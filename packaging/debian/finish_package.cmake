@@ -1,7 +1,7 @@
-# Runs on the files of the package before they are packed. Debian wants manual and changes
-# compressed, and the licence under a name of its own.
+# Runs before the package is packed. Debian requires compressed manuals and changelogs, and the licence
+# in a file "copyright".
 
-# Without it CPack would leave out the libraries that the package depends on, with a mere notice.
+# Without dpkg-shlibdeps CPack would only print a notice and omit the library dependencies.
 find_program(shlibdeps dpkg-shlibdeps REQUIRED)
 
 set(share ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share)
@@ -12,7 +12,7 @@ file(RENAME ${doc}/CHANGELOG.md ${doc}/changelog)
 file(COPY_FILE ${CPACK_OSTRANE_CHANGELOG} ${doc}/changelog.Debian)
 
 file(GLOB manuals ${share}/man/man1/*.1)
-# -n leaves out name and time, so that the same files give the same package.
+# -n omits name and time, which makes the package reproducible.
 execute_process(COMMAND gzip -9nf ${manuals} ${doc}/changelog
                         ${doc}/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
 

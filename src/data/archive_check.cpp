@@ -39,10 +39,14 @@ std::string name_of(const archive_check& check, std::size_t index) {
   return name_with_blanks(check.records[index].name);
 }
 
-// An entry without a name is reported by its 1-based number.
+// An entry without a name is reported by its 1-based number. A fault is one line, so control
+// characters of a name become "?".
 std::string shown_name(const archive_check& check, std::size_t index) {
-  const std::string name = name_of(check, index);
-  return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
+  std::string name = name_of(check, index);
+  if (name.empty()) return "entry " + number(static_cast<std::int64_t>(index) + 1);
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, '?');
+  return name;
 }
 
 std::int64_t start_of(const archive_check& check, std::size_t index) {

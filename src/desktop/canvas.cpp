@@ -62,9 +62,9 @@ canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent)
 }
 
 bool canvas::mark_dirty(forms_layer::picture_box& box) {
-  picture& written = find_or_add(box);
-  if (std::exchange(written.dirty, true)) return false;
-  dirty_.push_back(static_cast<std::size_t>(&written - pictures_.data()));
+  picture& changed = find_or_add(box);
+  if (std::exchange(changed.dirty, true)) return false;
+  dirty_.push_back(static_cast<std::size_t>(&changed - pictures_.data()));
   return dirty_.size() == 1;
 }
 

@@ -4,16 +4,16 @@
 
 namespace desktop {
 
-void timers::sync(forms_layer::timer& written) {
-  const auto [at, is_new] = running_.try_emplace(&written);
+void timers::sync(forms_layer::timer& changed) {
+  const auto [at, is_new] = running_.try_emplace(&changed);
   QTimer& timer = at->second;
   if (is_new) {
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &timer,
-                     [&written] { forms_layer::user::tick(written); });
+                     [&changed] { forms_layer::user::tick(changed); });
   }
   timer.stop();
-  if (written.Enabled() && written.Interval() > 0) timer.start(written.Interval());
+  if (changed.Enabled() && changed.Interval() > 0) timer.start(changed.Interval());
 }
 
 }  // namespace desktop

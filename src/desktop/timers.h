@@ -11,7 +11,7 @@ namespace desktop {
 class timers {
  public:
   // Stops or restarts the QTimer of a timer whose properties were written.
-  void sync(forms_layer::timer& written);
+  void sync(forms_layer::timer& changed);
 
  private:
   std::map<forms_layer::timer*, QTimer> running_;

@@ -40,11 +40,11 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
   }
 }
 
-bool views::mark_dirty(forms_layer::control& written, forms_layer::property_id what) {
-  if (written.kind == control_kind::picture_box) {
-    return mark_picture_dirty(static_cast<forms_layer::picture_box&>(written));
+bool views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
+  if (changed.kind == control_kind::picture_box) {
+    return mark_picture_dirty(static_cast<forms_layer::picture_box&>(changed));
   }
-  const auto at = by_control_.find(&written);
+  const auto at = by_control_.find(&changed);
   if (at == by_control_.end() || !at->second->mark_dirty(what)) return false;
   dirty_.push_back(at->second);
   return true;

@@ -16,7 +16,7 @@ class views {
   void make_all(forms_layer::container& shown, canvas& on);
 
   // Ignores a control without a widget. Returns true if it had no dirty property before.
-  bool mark_dirty(forms_layer::control& written, forms_layer::property_id what);
+  bool mark_dirty(forms_layer::control& changed, forms_layer::property_id what);
   void sync();
 
   // After a change of the theme.

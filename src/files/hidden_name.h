@@ -5,7 +5,8 @@
 // Names of the hidden files that exist beside a file while it is written.
 namespace files {
 
-// The path of the lock file of `target`, ".NAME.lock" in its folder. NAME is its name in upper case.
+// The path of the lock file of `target`, ".NAME.lock" in its folder. NAME is its name in upper
+// case.
 std::filesystem::path lock_beside(const std::filesystem::path& target);
 
 // A path for the new content of `target`, ".NAME.<time>.new" in its folder. The time makes a clash
