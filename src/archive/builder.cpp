@@ -50,6 +50,7 @@ void show_current_file(const build_job& job, std::size_t index, const std::strin
 void write(build_job& job) {
   std::int16_t total_bar_tick = 0;
   set_total_range(static_cast<std::int64_t>(job.records.size()));
+  // Always in upper case, whatever the old archive is called: respell() renames it so.
   const files::file_path target = {
       files::system_path(job.list.folder, job.names) / files::system_name(archive_name),
       job.list.folder + archive_name};

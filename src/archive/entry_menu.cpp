@@ -36,6 +36,7 @@ extraction_result extract_to(const std::filesystem::path& path) {
       {.on_file = [](std::size_t, const std::string&, std::int32_t) {},
        .on_bytes = [](std::int32_t) {}},
       {.is_wanted = [wanted](std::size_t index) { return index == wanted; },
+       .entries_are_adjacent = false,
        .replaces_atomically = true});
 }
 

@@ -46,6 +46,7 @@ int extract(const extract_options& options) {
            },
        .on_bytes = [&](std::int32_t) { show(""); }},
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
+       .entries_are_adjacent = false,
        .replaces_atomically = true});
   return report(result);
 }

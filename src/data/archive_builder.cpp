@@ -71,8 +71,8 @@ void write_archive(const build_list& list, std::span<const make_record> files,
   files::replaced_file archive(target);
   write_archive_to(archive.file(), list, files, records, progress);
   archive.put_in_place();
-  // The new archive replaced the old one under the old spelling, so there are never two. If the
-  // rename to the new spelling fails, the old spelling stays: names compare case-insensitively.
+  // put_in_place kept the spelling of the old file, so there are never two archives. A failure to
+  // rename it now is harmless, as names are compared case-insensitively.
   files::failure_of([&] { archive.respell(target.system); });
   archive.flush_folder();
 }

@@ -21,8 +21,10 @@ struct name_list {
 // Receives the lines of a report, without line ends.
 using line_writer = std::function<void(std::string_view line)>;
 
-// Merges the names of an archive with a sorted shiplist and writes the names that only one side
-// has. Returns true if it wrote a name, or if the sides have different numbers of lines.
+// Steps through the names of an archive and a sorted shiplist and writes names that only one side
+// has. After each line both sides advance, even if their names differ, as the report has always
+// done; so some of these names are left out. Returns true if it wrote a name, or if the sides have
+// different numbers of lines.
 bool write_compare_report(const line_writer& write_line, const name_list& archive,
                           shiplist_comparison& comparison);
 

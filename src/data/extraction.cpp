@@ -108,7 +108,7 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
 
 void extract_entry(extraction& job, std::size_t index) {
   if (job.choice.is_wanted && !job.choice.is_wanted(index)) return;
-  if (job.choice.replaces_atomically) job.position = job.records[index].offset;
+  if (!job.choice.entries_are_adjacent) job.position = job.records[index].offset;
   const std::int32_t size =
       clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);

@@ -21,19 +21,22 @@ struct extraction_result {
 
 // Returns the path of the file for an entry.
 using entry_target = std::function<files::file_path(const std::string& name)>;
-// Called after a new file was created.
+// Called after a new file was created, so that the caller's look-up of names knows it: a later
+// entry whose name differs in case only must be written to the same file.
 using entry_file_created = std::function<void(const files::file_path& path)>;
 
 struct extraction_choice {
   std::function<bool(std::size_t index)> is_wanted;  // null for all
-  // Reads each entry from its own offset and replaces existing files atomically.
+  // Each entry begins where the previous one ends, whatever its own offset is. Requires that all
+  // entries are wanted.
+  bool entries_are_adjacent = true;
+  // Otherwise an existing file is overwritten from its first byte and not truncated.
   bool replaces_atomically = false;
 };
 
-// Writes every entry of an open archive to its own file. Existing files are overwritten. By default
-// the entries are read as adjacent, starting at the offset of the first record. A full disk and a
-// lack of memory abort the job; any other failure skips the entry. An incomplete new file is
-// removed. The archive is never overwritten.
+// Writes the wanted entries of an open archive, each to its own file. A full disk, a lack of memory
+// and an archive that changes meanwhile abort the job; any other failure skips the entry. An
+// incomplete new file is removed. The archive is never overwritten.
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
                                   const entry_target& target, const entry_file_created& on_created,
                                   const job_progress& progress,

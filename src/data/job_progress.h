@@ -11,7 +11,8 @@ namespace ostrane {
 struct job_progress {
   // Called before each file with its 0-based index and its size in bytes.
   std::function<void(std::size_t index, const std::string& name, std::int32_t size)> on_file;
-  // Called with the bytes of the part that is copied in blocks of the current size.
+  // Called with the bytes copied in blocks of the current size. With each smaller size the count
+  // starts again, so the bar moves back.
   std::function<void(std::int32_t value)> on_bytes;
 };
 

@@ -33,7 +33,7 @@ int list(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 int leads_to(const std::filesystem::path& path, const file_identity& identity);
 int leads_to(const std::filesystem::path& path, int file);
 
-// True if `path` still names the file that was just made there, also if that cannot be found out.
+// True unless `path` is known to name another file. A zero identity is unknown.
 bool is_made_file(const std::filesystem::path& path, const file_identity& identity);
 
 // The errno number of an error of the standard library.

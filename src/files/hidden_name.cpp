@@ -63,7 +63,7 @@ fs::path temporary_beside(const fs::path& target) {
 
 bool is_temporary_of(const fs::path& target, const fs::path& name) {
   const fs::path::string_type stem = stem_of(target);
-  // An earlier version's had no time stamp.
+  // Version 1 used names without a time stamp.
   const bool is_old = name.native() == stem + fs::path(temporary_ending).native();
   return is_old || stem_of_temporary(name.native()) == stem;
 }

@@ -4,7 +4,7 @@
 
 namespace files {
 
-// The folder of the program's file, links resolved. "" if the system does not tell it.
+// The folder of the executable, links resolved. "" if it is unknown.
 std::filesystem::path program_folder();
 
 }  // namespace files

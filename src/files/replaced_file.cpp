@@ -42,15 +42,17 @@ replaced_file::replaced_file(file_path target)
   remove_leftovers();
   file_info old;
   const bool replaces = file_calls::info_at(target_.system, old) >= 0 && old.is_file;
+  const bool is_private = replaces;  // until it has the permissions of the old file
   int file = -EEXIST;
   for (int tries = 0; file == -EEXIST && tries < max_tries; ++tries) {
     temporary_ = temporary_beside(target_.system);
-    file = file_calls::open_new(temporary_, replaces);
+    file = file_calls::open_new(temporary_, is_private);
   }
   try {
     file_.adopt(file, target_.shown);
     identity_ = file_.info().stamp.identity;
   } catch (...) {
+    // adopt() can run out of memory before it owns the file.
     if (file >= 0) file_calls::remove_file(temporary_);
     if (file >= 0 && file_.handle() != file) file_calls::close_file(file);
     throw;

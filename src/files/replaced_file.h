@@ -46,7 +46,7 @@ class replaced_file {
   writing_lock lock_;
   std::filesystem::path temporary_;
   binary_file file_;
-  file_identity identity_;  // of the new file; Wine does not tell that of a renamed open file
+  file_identity identity_;  // of the new file; Wine cannot query it after the rename
 };
 
 }  // namespace files

@@ -66,18 +66,18 @@ text_writer::text_writer(const file_path& path, const file_identity& spared) {
     throw file_error(file_error_number::permission_denied,
                      path.shown + " cannot be written: it leads to the open archive.");
   }
-  overwrites([&] { new_file_.emplace(target); });
+  succeeds_unless_denied([&] { new_file_.emplace(target); });
 }
 
-// Runs a step of replacing the old file. True if it is not allowed, so that the file has to be
-// overwritten.
-bool text_writer::overwrites(const std::function<void()>& step) {
+// Runs a step of replacing the old file. Returns false if the system denies it and there is an old
+// file to overwrite instead.
+bool text_writer::succeeds_unless_denied(const std::function<void()>& step) {
   try {
     step();
-    return false;
+    return true;
   } catch (const file_error& error) {
     if (old_file_.handle() < 0 || error.number != file_error_number::permission_denied) throw;
-    return true;
+    return false;
   }
 }
 
@@ -88,12 +88,11 @@ void text_writer::write_line(std::string_view line) {
 }
 
 void text_writer::close() {
-  const bool is_refused = new_file_ && overwrites([&] { new_file_->put_in_place(); });
-  if (is_refused) new_file_->copy_to(old_file_);
-  if (new_file_ && !is_refused) {
+  if (new_file_ && succeeds_unless_denied([&] { new_file_->put_in_place(); })) {
     new_file_->flush_folder();
     old_file_.abandon();
   } else {
+    if (new_file_) new_file_->copy_to(old_file_);
     old_file_.truncate();
     old_file_.flush(true);
     old_file_.close();

@@ -43,7 +43,7 @@ class text_writer {
   void close();
 
  private:
-  bool overwrites(const std::function<void()>& step);
+  bool succeeds_unless_denied(const std::function<void()>& step);
   binary_file& file() { return new_file_ ? new_file_->file() : old_file_; }
 
   binary_file old_file_;

@@ -7,14 +7,13 @@
 
 namespace files {
 
-// A file that is written whole or not at all, for jobs that write many. A missing file is made
-// under its own name and removed again if it is not kept. An old file or link stays until the new
-// content is whole and takes its place in one step. Unlike replaced_file it takes no lock and does
-// not flush to the disk.
+// A file that is written completely or not at all, for jobs that write many files. A new file is
+// created under its own name and removed if it is not kept. An old file or link is replaced
+// atomically by the complete new file. Unlike replaced_file it takes no lock and does not flush to
+// the disk.
 class whole_file {
  public:
-  // Opens `file` to write `target`. Throws file_error, also if something else than a normal file or
-  // a link has the name, or the file that is read from, `source`.
+  // Opens `file` to write `target`. Throws file_error, also if require_replaceable does.
   whole_file(binary_file& file, file_path target, const file_identity& source = {});
   whole_file(const whole_file&) = delete;
   whole_file& operator=(const whole_file&) = delete;
@@ -31,11 +30,11 @@ class whole_file {
   bool is_kept_ = false;
 };
 
-// Throws file_error if there is something at `target` that must not be replaced: what is no normal
-// file and no link, a read-only file, or the file that is read from, `source`.
+// Throws file_error if `target` exists and must not be replaced: if it is neither a regular file
+// nor a link, if it is read-only, or if it is `source`, the file that is read.
 void require_replaceable(const file_path& target, const file_identity& source = {});
 
-// Throws file_error; then the old file is as it was.
+// Throws file_error; the old file is unchanged then.
 void write_whole_file(binary_file& file, const file_path& target, std::string_view bytes,
                       const file_identity& source = {});
 

@@ -49,6 +49,7 @@ writing_lock::~writing_lock() {
 bool writing_lock::try_lock(const std::string& shown_path) {
   const int file = file_calls::open_lock(path_);
   if (file < 0) fail_to_open(path_, shown_path, file);
+  // A file system without locks gives another error. Then the copies do not wait for each other.
   const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
   // The copy that held the lock may have removed the lock file after it was opened here.
   if (is_locked || file_calls::leads_to(path_, file) == 0) {

@@ -9,7 +9,7 @@
 
 namespace ostrane {
 
-// All forms as designed, as a new process has them: nothing shown, nothing wired.
+// All forms. At the start they are as designed, not shown and not wired.
 void reset_forms();
 
 }  // namespace ostrane

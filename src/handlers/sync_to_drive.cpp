@@ -11,8 +11,8 @@ namespace ostrane {
 
 namespace {
 
-// Recovery itself changes the drive. Errors during recovery are ignored, and while it goes back to
-// the drive of `Dir1` the folder stays.
+// recover() sets `Drive1`, whose Change calls sync() again. The phase tells that inner call to
+// report no error (to_drive_c) or to leave the folder unchanged (back).
 enum class recovery_phase { none, to_drive_c, back };
 recovery_phase phase = recovery_phase::none;
 

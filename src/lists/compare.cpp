@@ -37,6 +37,7 @@ void compare_with_shiplist() {
     forms_layer::message_box(failure + " Nothing was compared.");
     return;
   }
+  // Success shows no message: the report is the result.
   Form6.Visible = false;
   Form1.Enabled = true;
   Form1.SetFocus();
