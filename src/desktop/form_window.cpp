@@ -27,6 +27,7 @@ Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
 
 form_window::form_window(forms_layer::form& shown, views& all_views)
     : QMainWindow(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
+  setObjectName(QString::fromLatin1(form.designed.name));
   setFont(font_for({}));
   if (!form.menus.empty()) setMenuBar(menus_ = new menu_bar(form, this));
   auto* client = new canvas(form, this);

@@ -31,6 +31,7 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
     if (view == nullptr) continue;
     all_.push_back(view);
     by_control_[control] = view;
+    view->widget().setObjectName(QString::fromLatin1(control->designed.name));
     view->widget().setAccessibleName(spoken_name(*control));
     view->show_all();
     if (control->kind == control_kind::frame) {

@@ -103,11 +103,7 @@ class paint_watch : public QObject {
 };
 
 inline QWidget* widget_of(const QWidget& window, const forms_layer::control& shown) {
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    const auto* view = dynamic_cast<desktop::control_view*>(widget);
-    if (view != nullptr && &view->control == &shown) return widget;
-  }
-  return nullptr;
+  return window.findChild<QWidget*>(QString::fromLatin1(shown.designed.name));
 }
 // The one that paints the frame and its pictures.
 inline QWidget* canvas_of(const QWidget& window, const all_kinds& form) {
