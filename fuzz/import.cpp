@@ -37,8 +37,8 @@ void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   fuzz::check(same_cells(seen, drawn), "its cells are those of the picture");
 }
 
-colour_table colours(std::uint32_t step) {
-  colour_table made = {};
+rgb_palette colours(std::uint32_t step) {
+  rgb_palette made = {};
   for (std::uint32_t i = 0; i < made.size(); ++i) made[i] = i * step & 0xFFFFFFU;
   return made;
 }
@@ -61,7 +61,7 @@ void import_json(const std::string& text) {
 
 void import_generated(fuzz::fields& from) {
   picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
-  const colour_table palette = colours(from.ConsumeIntegral<std::uint32_t>());
+  const rgb_palette palette = colours(from.ConsumeIntegral<std::uint32_t>());
   const bool is_full = from.ConsumeBool();
   for (int i = 0; is_full && i < std::min(256, drawn.columns() * drawn.rows()); ++i) {
     drawn.set(i % drawn.columns(), i / drawn.columns(), static_cast<std::uint8_t>(i));

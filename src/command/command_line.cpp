@@ -129,7 +129,9 @@ void add_export(CLI::App& app, all_options& all) {
       ->transform(CLI::CheckedTransformer(forms))
       ->type_name("png|sheet|gif")
       ->option_text("png|sheet|gif");
-  command->add_option("--pace", options.pace, "Hundredths of a second for each picture of a motion")
+  command
+      ->add_option("--pace", options.pace,
+                   "Hundredths of a second for each picture of a motion or sheet")
       ->check(CLI::Range(1, 65535))
       ->option_text("N");
   command->add_option("--scale", options.scale, "Repeats each pixel so often, both ways")

@@ -25,7 +25,7 @@ struct export_job {
   const export_options& options;
   files::binary_file archive = {};
   files::file_identity identity = {};  // of the archive
-  colour_table palette = {};
+  rgb_palette palette = {};
   files::binary_file output = {};
   int status = status_done;
 };
@@ -72,7 +72,7 @@ void export_icons(export_job& job, const exported_entry& entry) {
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }
 
-std::string gpl_of(const std::string& name, const colour_table& colours) {
+std::string gpl_of(const std::string& name, const rgb_palette& colours) {
   std::string text = "GIMP Palette\nName: " + printable(name) + "\nColumns: 16\n#\n";
   for (std::size_t i = 0; i < colours.size(); ++i) {
     std::array<char, 48> line = {};
@@ -89,7 +89,7 @@ void export_palette(export_job& job, const exported_entry& entry) {
     skip(job, entry, "it is too short for a palette");
     return;
   }
-  const colour_table colours = read_colours(job.archive, entry.start);
+  const rgb_palette colours = read_colours(job.archive, entry.start);
   picture drawn(palette_side, palette_side);
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));

@@ -18,7 +18,7 @@ namespace ostrane::command {
 
 namespace {
 
-colour_table read_palette_argument(const std::string& argument) {
+rgb_palette read_palette_argument(const std::string& argument) {
   const files::file_path path = named_file(argument);
   files::binary_file file;
   file.open_to_read(path);

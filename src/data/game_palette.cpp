@@ -6,8 +6,8 @@
 
 namespace ostrane {
 
-colour_table read_colours(files::binary_file& file, std::int32_t offset) {
-  colour_table colours = built_in_colours;
+rgb_palette read_colours(files::binary_file& file, std::int32_t offset) {
+  rgb_palette colours = built_in_colours;
   stored_palette stored = {};
   const std::size_t count = offset < 0 ? 0 : read_palette(file, offset, stored);
   for (std::size_t i = 0; i < count; ++i) {
@@ -17,7 +17,7 @@ colour_table read_colours(files::binary_file& file, std::int32_t offset) {
   return colours;
 }
 
-colour_table read_game_colours(files::binary_file& archive, std::span<const dat_record> records) {
+rgb_palette read_game_colours(files::binary_file& archive, std::span<const dat_record> records) {
   for (std::size_t i = records.size(); i > 0; --i) {
     const dat_record& record = records[i - 1];
     if (files::compare_key(name_without_nuls(record.name)) == "GAME.PAL") {

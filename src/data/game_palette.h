@@ -10,13 +10,13 @@
 namespace ostrane {
 
 // 256 colours as 0xRRGGBB.
-using colour_table = std::array<std::uint32_t, 256>;
+using rgb_palette = std::array<std::uint32_t, 256>;
 
 // Reads a palette at a file offset. Built-in colours replace those past the end of the file. Throws
 // file_error.
-colour_table read_colours(files::binary_file& file, std::int32_t offset);
+rgb_palette read_colours(files::binary_file& file, std::int32_t offset);
 
 // Returns the colours of the last entry GAME.PAL, or the built-in ones. Throws file_error.
-colour_table read_game_colours(files::binary_file& archive, std::span<const dat_record> records);
+rgb_palette read_game_colours(files::binary_file& archive, std::span<const dat_record> records);
 
 }  // namespace ostrane

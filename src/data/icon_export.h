@@ -23,7 +23,7 @@ struct icon_export {
   std::string entry = {};  // name of the icon file
   std::int32_t start = 0;  // archive offset of its first byte
   std::int32_t end = 0;    // archive offset after its last byte
-  colour_table colours = {};
+  rgb_palette colours = {};
 
   picture_form form = picture_form::png;
   std::string stem = {};  // prefix of the file names

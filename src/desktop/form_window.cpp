@@ -108,6 +108,7 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
   const bool first = !std::exchange(placed_, true);
   if (first) last_position_ = first_position(*this, form.designed, centre_of);
   if (!isMaximized()) setGeometry(QRect(last_position_, size()));
+  // What the user types during a handler must arrive at the control that has the focus.
   setAttribute(Qt::WA_ShowWithoutActivating, in_handler);
   windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, in_handler);
   wants_focus_ = in_handler;

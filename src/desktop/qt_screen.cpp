@@ -62,7 +62,9 @@ void qt_screen::message_box(const std::string& title, const std::string& text) {
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
-  return desktop::pick_item(opened, at, topmost(nullptr));
+  forms_layer::menu_item* const picked = desktop::pick_item(opened, at, topmost(nullptr));
+  sync_soon();
+  return picked;
 }
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {

@@ -73,6 +73,7 @@ void rows_view::show_colours() {
 
 void rows_view::choose(int row) {
   row_chosen(row);
+  // While a handler runs the event is queued, and the end of the handler syncs the selection.
   if (!forms_layer::handler_running()) show_selection();
 }
 

@@ -89,7 +89,7 @@ class control {
   // In twips, relative to the parent.
   void Move(std::int32_t left, std::int32_t top);
 
-  // Repaints the control on the screen before it returns.
+  // Lets the screen show what has changed; a screen may limit the rate.
   void Refresh();
 
   form& owner_form();

@@ -49,7 +49,7 @@ class form : public container {
   event Unload;
   event Resize;
 
-  // Repaints the form and its controls on the screen before it returns.
+  // The same for the form and its controls.
   void Refresh();
   // Gives the window the focus after the running handler.
   void SetFocus();

@@ -5,7 +5,7 @@
 namespace forms_layer {
 
 // Any three numbers are accepted: the bar is empty if Max <= Min, and a Value out of range is
-// clamped. Each change repaints the bar on the screen at once.
+// clamped. Each change refreshes the bar.
 class progress_bar : public control {
  public:
   progress_bar(container& parent_container, const design& as_designed)

@@ -10,6 +10,7 @@ timer::timer(form& owner_form, const char* timer_name, std::int32_t interval, bo
   owner.timers.push_back(this);
 }
 
+// Setting a property to its old value restarts the timer, too.
 void timer::on_changed(property_id /*what*/, bool /*differs*/) {
   if (screen* on = attached_screen()) on->timer_changed(*this);
 }

@@ -65,6 +65,7 @@ void step_motion() {
     enable_stepping(true);
     return;
   }
+  // At the first step the slot before is element 0, which is never shown.
   ++tool_state.loop_counter;
   tool_state.shown_slot = tool_state.loop_counter;
   Form1.s16_image(tool_state.loop_counter - 1).Visible = false;

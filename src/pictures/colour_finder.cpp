@@ -8,9 +8,9 @@ constexpr std::size_t max_remembered = 65536;
 
 }  // namespace
 
-colour_finder::colour_finder(const colour_table& palette)
+colour_finder::colour_finder(const rgb_palette& palette)
     : palette_(palette), remembered_(max_remembered) {
-  const auto add = [this](const colour_table& colours) {
+  const auto add = [this](const rgb_palette& colours) {
     for (std::size_t i = 0; i < colours.size(); ++i) {
       exact_.emplace(colours[i], static_cast<std::uint8_t>(i));
     }

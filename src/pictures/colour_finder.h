@@ -16,14 +16,14 @@ struct found_colour {
 // distinct_colours, or the lowest index of the nearest colours.
 class colour_finder {
  public:
-  explicit colour_finder(const colour_table& palette);
+  explicit colour_finder(const rgb_palette& palette);
 
   found_colour find(std::uint32_t colour) {
     const remembered_colour& known = remembered_[colour * spread >> 16U];
     return known.colour == colour ? known.found : look_for(colour);
   }
 
-  const colour_table& palette() const { return palette_; }
+  const rgb_palette& palette() const { return palette_; }
 
  private:
   static constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
@@ -35,7 +35,7 @@ class colour_finder {
     std::uint32_t colour = UINT32_MAX;
     found_colour found;
   };
-  colour_table palette_;
+  rgb_palette palette_;
   std::unordered_map<std::uint32_t, std::uint8_t> exact_;
   std::vector<remembered_colour> remembered_;  // the latest colour per hash value
 };

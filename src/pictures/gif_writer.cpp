@@ -16,7 +16,7 @@ constexpr int max_side = 65535;
 
 struct gif_job {
   GifFileType* gif;
-  const colour_table& palette;
+  const rgb_palette& palette;
   int pace;
   int scale;
   std::int64_t& inexact;
@@ -119,7 +119,7 @@ void put_all(const gif_job& job, const std::vector<picture>& pictures) {
 
 }  // namespace
 
-std::string gif_of(const std::vector<picture>& pictures, const colour_table& palette, int pace,
+std::string gif_of(const std::vector<picture>& pictures, const rgb_palette& palette, int pace,
                    int scale, std::int64_t& inexact) {
   std::string bytes;
   int reason = 0;

@@ -22,7 +22,7 @@ struct export_job {
   files::binary_file& archive;
   const icon_export& wanted;
   files::file_identity identity;  // of the archive
-  colour_table distinct;          // the distinct_colours of the palette
+  rgb_palette distinct;           // the distinct_colours of the palette
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
   files::binary_file output = {};
 };

@@ -30,8 +30,8 @@ void widen(icon_head& head, const icon_head& smallest, std::int32_t last_column)
   if (smallest.col_end > std::max(head.col_end, last_column)) head.col_end = smallest.col_end;
 }
 
-// The minimum length of a stream if cells are set: the skips to the first of them, at worst in each
-// row.
+// The bytes of a stream besides those of its cells: the row ends, and in each row with cells the
+// skips to column 0.
 std::int64_t bytes_before_cells(const icon_head& head, const icon_head& smallest, bool is_set) {
   const std::int64_t skips = std::max<std::int64_t>(-std::int64_t{head.col_start}, 0) / max_skip;
   const std::int64_t rows = is_set ? std::int64_t{smallest.row_end} - smallest.row_start + 1 : 0;

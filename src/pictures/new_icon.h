@@ -14,7 +14,7 @@ struct known_icon {
 
 // The icon for a picture. A known drawable head of the same size is kept, with its box enlarged if
 // cells outside it are set; otherwise the box is the smallest. Throws data_error if the box begins
-// so far outside the picture that no decoder would reach it.
+// so far outside the picture that its stream would exceed max_stream_bytes.
 shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known);
 
 }  // namespace ostrane

@@ -58,10 +58,10 @@ pixel_form form_of(const picture& drawn) {
   return {.is_indexed = true, .unset_index = static_cast<std::uint8_t>(free - is_used.begin() - 1)};
 }
 
-colour_table distinct_colours(const colour_table& palette) {
+rgb_palette distinct_colours(const rgb_palette& palette) {
   std::unordered_set<std::uint32_t> taken(palette.begin(), palette.end());
   std::unordered_set<std::uint32_t> given;
-  colour_table distinct = palette;
+  rgb_palette distinct = palette;
   for (std::uint32_t& colour : distinct) {
     if (given.insert(colour).second) continue;
     colour = nearest_free(colour, taken);

@@ -20,7 +20,7 @@ pixel_form form_of(const picture& drawn);
 
 // The palette with a different colour for each index. Of indices with the same colour the lowest
 // keeps it; the others get the nearest unused colour.
-colour_table distinct_colours(const colour_table& palette);
+rgb_palette distinct_colours(const rgb_palette& palette);
 
 // The squared distance of two colours.
 std::int32_t distance(std::uint32_t a, std::uint32_t b);

@@ -16,7 +16,7 @@ namespace {
 struct png_job {
   const picture& drawn;
   pixel_form form;
-  const colour_table& colours;
+  const rgb_palette& colours;
   int scale;
   std::vector<png_byte> row = {};
   std::string bytes = {};
@@ -100,7 +100,7 @@ void write(png_structp png, png_infop info, png_job& job) {
 
 }  // namespace
 
-std::string png_of(const picture& drawn, const colour_table& palette, const colour_table& distinct,
+std::string png_of(const picture& drawn, const rgb_palette& palette, const rgb_palette& distinct,
                    int scale) {
   const pixel_form form = form_of(drawn);
   png_job job = {.drawn = drawn,
