@@ -44,8 +44,9 @@ std::vector<drive> system_drives() {
   std::vector<drive> found = {{'C', "home", home_folder()}};
   const std::string user = user_name();
   std::vector<fs::path> mount_folders = {"/mnt"};
-  if (!user.empty())
+  if (!user.empty()) {
     mount_folders.insert(mount_folders.begin(), {"/media/" + user, "/run/media/" + user});
+  }
   char letter = 'D';
   for (const fs::path& folder : mount_folders) {
     for (const fs::path& medium : folders_in(folder)) {
