@@ -15,10 +15,10 @@
 
 namespace desktop {
 
-// Shows the tool's forms with Qt. Written properties are marked dirty. They are synced at the end of
-// the handler, before a message box, a menu or a dialog, and at most every 16 ms when the handler
-// refreshes. A window that a handler shows is mapped at the first refresh after 100 ms, at a message
-// box, or at the end of the handler if it is still visible.
+// Shows the tool's forms with Qt. Written properties are marked dirty. They are synced at the end
+// of the handler, before a message box, a menu or a dialog, and at most every 16 ms when the
+// handler refreshes. A window that a handler shows is mapped at the first refresh after 100 ms, at
+// a message box, or at the end of the handler if it is still visible.
 class qt_screen : public forms_layer::screen {
  public:
   qt_screen();
