@@ -7,6 +7,8 @@
 namespace ostrane::command {
 
 int compare(const compare_options& options) {
+  require_other_file(options.report, options.archive);
+  require_other_file(options.report, options.shiplist);
   const archive_index index = read_archive_index(named_file(options.archive));
   std::vector<std::string> rows;
   rows.reserve(index.records.size());

@@ -96,6 +96,7 @@ int report(const import_options& options, const import_job& job) {
 }  // namespace
 
 int import_pictures(const import_options& options) {
+  require_other_file(options.icon_file, options.palette);
   import_plan plan =
       plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
   if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));

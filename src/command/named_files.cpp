@@ -10,6 +10,7 @@
 #include "files/file_system.h"
 #include "files/replaced_file.h"
 #include "files/whole_file.h"
+#include "files/written_path.h"
 
 namespace ostrane::command {
 
@@ -73,12 +74,25 @@ void write_result(const std::string& argument, std::string_view bytes) {
     print(bytes);
     return;
   }
-  const files::file_path path = named_link_target(argument);
+  files::file_path path = named_link_target(argument);
+  path.system = files::existing_spelling(path.system);
   files::require_replaceable(path);
   files::replaced_file to(path);
   to.file().write(std::as_bytes(std::span(bytes)));
   to.put_in_place();
   to.flush_folder();
+}
+
+void require_other_file(const std::string& output, const std::string& input) {
+  if (output == "-") return;
+  const files::file_path path = named_file(output);
+  std::error_code failed;
+  if (!std::filesystem::equivalent(files::written_path(path.system), path_of_argument(input),
+                                   failed)) {
+    return;
+  }
+  throw files::file_error{files::file_error_number::permission_denied,
+                          path.shown + " cannot be written: it is read by this command."};
 }
 
 }  // namespace ostrane::command

@@ -39,4 +39,8 @@ void open_output(files::binary_file& file);
 // Replaces a file atomically, or writes to standard output for "-".
 void write_result(const std::string& argument, std::string_view bytes);
 
+// Throws file_error if the argument `output` names the same file as `input`, also through a link or
+// in another case.
+void require_other_file(const std::string& output, const std::string& input);
+
 }  // namespace ostrane::command

@@ -53,6 +53,11 @@ struct extraction {
   extraction_result result = {};
 };
 
+void require_unchanged(extraction& job) {
+  if (job.archive.info().stamp == job.stamp) return;
+  throw data_error("The archive was written to meanwhile. Extract it again.");
+}
+
 // Like write_entry, but replaces an existing file atomically.
 std::string replace_entry_file(extraction& job, const std::string& name, std::int32_t size) {
   const files::file_path path = job.target(name);
@@ -61,6 +66,7 @@ std::string replace_entry_file(extraction& job, const std::string& name, std::in
   const std::int32_t copied =
       chunk_ladder(job.archive, job.file, size, job.small_block_bytes, job.progress);
   if (copied < size) return "the archive ends before it does";
+  require_unchanged(job);  // before the old file is replaced
   to.keep();
   job.on_created(path);
   return "";
@@ -133,9 +139,7 @@ extraction_result extract_entries(files::binary_file& archive, std::span<const d
     job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
-    if (archive.info().stamp != job.stamp) {
-      throw data_error("The archive was written to meanwhile. Extract it again.");
-    }
+    require_unchanged(job);
   });
   return std::move(job.result);
 }

@@ -66,4 +66,11 @@ void case_insensitive_lookup::add(const fs::path& path) {
   }
 }
 
+fs::path existing_spelling(const fs::path& path) {
+  const std::optional<std::string> name = name_as_text(path.filename().native());
+  if (!name) return path;
+  const fs::path folder = path.parent_path();
+  return case_insensitive_lookup().find(folder.empty() ? "." : folder, *name);
+}
+
 }  // namespace files

@@ -32,4 +32,7 @@ class case_insensitive_lookup {
   std::unordered_map<std::filesystem::path::string_type, folder_names> folders_;
 };
 
+// The path of an existing file whose name differs from that of `path` in case only, else `path`.
+std::filesystem::path existing_spelling(const std::filesystem::path& path);
+
 }  // namespace files

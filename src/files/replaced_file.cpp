@@ -36,9 +36,7 @@ std::string upper_case_name(const fs::path::string_type& system_name) {
 replaced_file::replaced_file(file_path target)
     : target_(std::move(target)), lock_(target_.system, target_.shown) {
   // Another copy of the tool may have changed the spelling before this one got the lock.
-  if (const auto name = name_as_text(target_.system.filename().native())) {
-    target_.system = case_insensitive_lookup().find(folder_of(target_.system), *name);
-  }
+  target_.system = existing_spelling(target_.system);
   remove_leftovers();
   file_info old;
   const bool replaces = file_calls::info_at(target_.system, old) >= 0 && old.is_file;
@@ -122,7 +120,9 @@ void replaced_file::copy_to(binary_file& to) {
 void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
   const fs::path& kept = is_own(target) == 1 ? target : target_.system;
+  // A name that the code page lacks has no other spelling.
   const std::string folded = upper_case_name(kept.filename().native());
+  if (folded.empty()) return;
   std::vector<listed_entry> listed;
   file_calls::list(folder_of(kept), listed);
   for (const listed_entry& entry : listed) {

@@ -3,25 +3,13 @@
 #include <algorithm>
 
 #include "files/file_error.h"
+#include "files/written_path.h"
 
 namespace files {
 
 namespace {
 
 constexpr std::size_t block_size = 65536;
-
-// Where `path` leads, which need not exist. A circle of links is left to the system to refuse.
-file_path resolve_links(const file_path& path) {
-  constexpr int max_links = 40;
-  file_path target = path;
-  for (int links = 0; links < max_links; ++links) {
-    std::error_code failed;
-    const std::filesystem::path next = std::filesystem::read_symlink(target.system, failed);
-    if (failed) break;
-    target.system = target.system.parent_path() / next;
-  }
-  return target;
-}
 
 bool exists(const file_path& path) {
   std::error_code failed;
@@ -57,16 +45,21 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const file_path& path, const file_identity& spared) {
-  const file_path target = resolve_links(path);
-  const bool replaces = exists(target);
-  // Fails if the old file is read-only, which replacing it would not.
-  if (replaces) old_file_.open_to_write(target);
-  if (replaces && old_file_.info().stamp.identity == spared) {
+text_writer::text_writer(const file_path& path, const file_identity& spared)
+    : target_{written_path(path.system), path.shown} {
+  replaces_ = exists(target_);
+  if (replaces_) open_old_file(spared);
+  if (succeeds_unless_denied([&] { new_file_.emplace(target_); })) old_file_.abandon();
+}
+
+// Fails if the old file is read-only, which replacing it would not.
+void text_writer::open_old_file(const file_identity& spared) {
+  old_file_.open_to_write(target_);
+  old_identity_ = old_file_.info().stamp.identity;
+  if (old_identity_ == spared) {
     throw file_error(file_error_number::permission_denied,
-                     path.shown + " cannot be written: it leads to the open archive.");
+                     target_.shown + " cannot be written: it leads to the open archive.");
   }
-  succeeds_unless_denied([&] { new_file_.emplace(target); });
 }
 
 // Runs a step of replacing the old file. Returns false if the system denies it and there is an old
@@ -76,9 +69,19 @@ bool text_writer::succeeds_unless_denied(const std::function<void()>& step) {
     step();
     return true;
   } catch (const file_error& error) {
-    if (old_file_.handle() < 0 || error.number != file_error_number::permission_denied) throw;
+    if (!replaces_ || error.number != file_error_number::permission_denied) throw;
     return false;
   }
+}
+
+// The old file was closed meanwhile, as Windows does not replace an open file.
+void text_writer::overwrite_old_file() {
+  old_file_.open_to_write(target_);
+  if (old_file_.info().stamp.identity != old_identity_) {
+    throw file_error(file_error_number::device_error,
+                     target_.shown + " cannot be written: another program has replaced it.");
+  }
+  new_file_->copy_to(old_file_);
 }
 
 void text_writer::write_line(std::string_view line) {
@@ -90,9 +93,8 @@ void text_writer::write_line(std::string_view line) {
 void text_writer::close() {
   if (new_file_ && succeeds_unless_denied([&] { new_file_->put_in_place(); })) {
     new_file_->flush_folder();
-    old_file_.abandon();
   } else {
-    if (new_file_) new_file_->copy_to(old_file_);
+    if (new_file_) overwrite_old_file();
     old_file_.truncate();
     old_file_.flush(true);
     old_file_.close();

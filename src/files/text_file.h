@@ -43,9 +43,14 @@ class text_writer {
   void close();
 
  private:
+  void open_old_file(const file_identity& spared);
+  void overwrite_old_file();
   bool succeeds_unless_denied(const std::function<void()>& step);
   binary_file& file() { return new_file_ ? new_file_->file() : old_file_; }
 
+  file_path target_;
+  bool replaces_ = false;  // an old file
+  file_identity old_identity_;
   binary_file old_file_;
   std::optional<replaced_file> new_file_;
 };

@@ -46,7 +46,14 @@ whole_file::whole_file(binary_file& file, file_path target, const file_identity&
     made = file_calls::open_new(written_, replaces);
     if (made >= 0 && replaces) file_calls::copy_permissions(made, target_.system);
   }
-  file_.adopt(made, target_.shown);
+  try {
+    file_.adopt(made, target_.shown);
+  } catch (...) {
+    // adopt() can run out of memory before it owns the file.
+    if (made >= 0) file_calls::close_file(made);
+    if (made >= 0) file_calls::remove_file(written_);
+    throw;
+  }
   file_info info;
   if (file_calls::info_of(made, info) >= 0) identity_ = info.stamp.identity;
 }

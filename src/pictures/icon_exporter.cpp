@@ -127,8 +127,11 @@ all_pictures collect_pictures(export_job& job) {
 void export_sheet(export_job& job) {
   const all_pictures all = collect_pictures(job);
   const sheet made = sheet_of(all.pictures);
-  const std::string image = job.wanted.stem + ".png";
-  write_file(job, image, png_at_scale(job, made.drawn));
+  const std::string name = job.wanted.stem + ".png";
+  write_file(job, name, png_at_scale(job, made.drawn));
+  // The user may have given the file a name in another case.
+  const std::u8string image_name = job.wanted.target(name).system.filename().u8string();
+  const std::string image(image_name.begin(), image_name.end());
   write_file(job, job.wanted.stem + ".json",
              json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
 }

@@ -18,6 +18,21 @@ TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
   EXPECT_TRUE(fs::is_fifo("pipe"));
 }
 
+// The code page lacks Cyrillic letters. A link can lead to another spelling of a file.
+TEST_F(commands_posix_test, ReplacesNoOtherFileThanTheOneNamed) {
+  write_bytes("in/A.TXT", "a");
+  for (const char* name : {"out/\xD1\x84.jpg", "out/\xD0\xBF.txt", "out/B.DAT"}) {
+    write_bytes(name, "other");
+  }
+  EXPECT_EQ(run("build in -o out/\xD0\xB0.dat").status, 0);
+  EXPECT_EQ(files_at("out").size(), 4U);
+  write_bytes("a.dat", archive_bytes({{"A.TXT", "a"}}));
+  write_bytes("l.txt", "A.TXT\n\n");
+  fs::create_symlink("A.dat", "link");
+  EXPECT_EQ(run("compare a.dat l.txt -o link").status, 2);
+  EXPECT_EQ(bytes_of("a.dat"), archive_bytes({{"A.TXT", "a"}}));
+}
+
 // The signal comes first, so each job ends at its first look.
 TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNothingBehind) {
   write_bytes("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));

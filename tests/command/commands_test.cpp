@@ -32,6 +32,10 @@ TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
       {"extract bad.dat ..", 1, error + "..: not extracted: its name means a folder\n"},
       {"compare a.dat same.txt -o r", 0, ""},
       {"compare a.dat other.txt -o r", 1, ""},
+      {"compare a.dat same.txt -o A.DAT", 2,
+       error + "A.DAT: cannot be written: it is read by this command.\n"},
+      {"compare a.dat same.txt -o same.txt", 2,
+       error + "same.txt: cannot be written: it is read by this command.\n"},
       {"check a.dat", 0, ""},
       {"check bad.dat a.dat", 1,
        "bad.dat: 4 bytes lie after the end record's offset\n"

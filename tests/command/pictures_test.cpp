@@ -63,6 +63,7 @@ TEST_F(pictures_test, AnExportedIconFileComesBackWithoutLossAndNoLonger) {
     fs::create_directory("out");
     run("export a.dat F.SHP -d out");
     EXPECT_EQ(run("import out -o new.shp --palette a.dat").errors, "");
+    EXPECT_EQ(run("import out -o a.dat --palette a.dat").status, 2);
     const texts old_icons = icons_of("old.shp");
     ASSERT_EQ(icons_of("new.shp"), old_icons);
     EXPECT_EQ(bytes_of("new.shp").substr(0, 8), file.substr(0, 8));

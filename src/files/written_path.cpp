@@ -1,0 +1,20 @@
+#include "files/written_path.h"
+
+#include "files/case_insensitive_lookup.h"
+
+namespace files {
+
+// A circle of links is left to the system to refuse.
+std::filesystem::path written_path(const std::filesystem::path& path) {
+  constexpr int max_links = 40;
+  std::filesystem::path target = path;
+  for (int links = 0; links < max_links; ++links) {
+    std::error_code failed;
+    const std::filesystem::path next = std::filesystem::read_symlink(target, failed);
+    if (failed) break;
+    target = target.parent_path() / next;
+  }
+  return existing_spelling(target);
+}
+
+}  // namespace files
