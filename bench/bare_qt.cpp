@@ -38,8 +38,8 @@ class pictures : public QWidget {
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
     for (std::size_t i = 0; i < images.size(); ++i) {
-      if (event->region().intersects(rect_of(i)))
-        painter.drawImage(rect_of(i).topLeft(), images[i]);
+      const QRect rect = rect_of(i);
+      if (event->region().intersects(rect)) painter.drawImage(rect.topLeft(), images[i]);
     }
   }
 };
