@@ -92,8 +92,8 @@ TEST_F(context_menu_test, DoesWhatExportAndExtractDo) {
        "not "
        "saved.>"},
       {on_refused, 2, "r.gif", 2,
-       "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 5 was left "
-       "out: its box ends beyond its picture>"},
+       "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 5 was "
+       "skipped: its box ends outside its picture>"},
       {on_blank, 0, "", 0, ""},
       {on_row, 0, "note", 0, "+ N.TXT note", "note"},
       {on_end_record, 0, "", 0, ""},

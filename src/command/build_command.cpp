@@ -66,11 +66,11 @@ void write(build_job& job) {
   output.close();
 }
 
-int report_omitted_files(const build_job& job) {
+int report_skipped_files(const build_job& job) {
   int status = status_done;
   for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
     if (is_target(job, file.name)) continue;
-    print_error(files::to_utf8(file.name), std::string("left out: ") + file.reason);
+    print_error(files::to_utf8(file.name), std::string("skipped: ") + file.reason);
     status = status_differs;
   }
   return status;
@@ -96,7 +96,7 @@ int build(const build_options& options) {
   if (options.archive != "-") files::require_replaceable(job.target);
   job.records = measure_files(job.list, job.files);
   write(job);
-  return report_omitted_files(job);
+  return report_skipped_files(job);
 }
 
 }  // namespace ostrane::command

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int palette_side = 16;
 
-struct export_job {
+struct entries_export {
   const export_options& options;
   files::binary_file archive = {};
   files::file_identity identity = {};  // of the archive
@@ -38,22 +38,22 @@ struct exported_entry {
   std::int32_t end = 0;
 };
 
-void skip(export_job& job, const exported_entry& entry, const std::string& reason) {
+void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
   print_error(entry.name, reason);
   job.status = status_differs;
 }
 
-files::file_path target_of(const export_job& job, const std::string& name) {
+files::file_path target_of(const entries_export& job, const std::string& name) {
   const std::filesystem::path path =
       path_of_argument(job.options.folder) / std::u8string(name.begin(), name.end());
   return {path, argument_of_path(path) + ":"};
 }
 
-void write_file(export_job& job, const std::string& name, std::string_view bytes) {
+void write_export(entries_export& job, const std::string& name, std::string_view bytes) {
   write_whole_file(job.output, target_of(job, name), bytes, job.identity);
 }
 
-void export_icons(export_job& job, const exported_entry& entry) {
+void export_icons(entries_export& job, const exported_entry& entry) {
   const export_options& options = job.options;
   const bool is_sheet = options.form == picture_form::sheet;
   make_icon_exporter()(
@@ -83,7 +83,7 @@ std::string gpl_of(const std::string& name, const rgb_palette& colours) {
   return text;
 }
 
-void export_palette(export_job& job, const exported_entry& entry) {
+void export_palette(entries_export& job, const exported_entry& entry) {
   const std::int64_t size = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
   if (entry.start < 0 || size < std::int64_t{palette_colours * colour_size}) {
     skip(job, entry, "it is too short for a palette");
@@ -94,36 +94,36 @@ void export_palette(export_job& job, const exported_entry& entry) {
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
   }
-  write_file(job, entry.stem + ".png", png_of(drawn, colours, colours, job.options.scale));
-  write_file(job, entry.stem + ".gpl", gpl_of(entry.name, colours));
+  write_export(job, entry.stem + ".png", png_of(drawn, colours, colours, job.options.scale));
+  write_export(job, entry.stem + ".gpl", gpl_of(entry.name, colours));
 }
 
-void export_text(export_job& job, const exported_entry& entry) {
+void export_text(entries_export& job, const exported_entry& entry) {
   const std::int64_t size = std::int64_t{entry.end} - entry.start;
   if (entry.start < 0 || size < 0 || entry.end > job.archive.size()) {
-    skip(job, entry, "the archive does not hold it whole");
+    skip(job, entry, "the archive does not contain all of it");
     return;
   }
   std::string text(static_cast<std::size_t>(size), ' ');
   job.archive.seek(entry.start);
   job.archive.read(std::as_writable_bytes(std::span(text)));
   std::replace(text.begin(), text.end(), '\0', ' ');
-  write_file(job, entry.stem + ".txt", files::to_utf8(text));
+  write_export(job, entry.stem + ".txt", files::to_utf8(text));
 }
 
-void export_one(export_job& job, const exported_entry& entry, entry_kind kind) {
+void export_one(entries_export& job, const exported_entry& entry, entry_kind kind) {
   if (kind == entry_kind::palette) {
     export_palette(job, entry);
   } else if (kind == entry_kind::text) {
     export_text(job, entry);
   } else if (kind == entry_kind::other) {
-    skip(job, entry, "left out: it is no icon file, palette or text");
+    skip(job, entry, "skipped: it is not an icon file, palette or text");
   } else {
     export_icons(job, entry);
   }
 }
 
-void export_entry(export_job& job, const archive_index& index, std::size_t i) {
+void export_entry(entries_export& job, const archive_index& index, std::size_t i) {
   const std::string name = name_with_blanks(index.records[i].name);
   const exported_entry entry = {.name = files::to_utf8(name),
                                 .stem = files::to_utf8(stem_of_entry(name)),
@@ -131,7 +131,7 @@ void export_entry(export_job& job, const archive_index& index, std::size_t i) {
                                 .end = index.records[i + 1].offset};
   const std::string unsafe = unsafe_name_reason(name);
   if (!unsafe.empty()) {
-    skip(job, entry, "left out: " + unsafe);
+    skip(job, entry, "skipped: " + unsafe);
     return;
   }
   try {
@@ -148,7 +148,7 @@ int export_entries(const export_options& options) {
   const archive_index index = read_archive_index(archive);
   const std::vector<bool> chosen = chosen_entries(index.records, options.names);
   make_folder(options.folder);
-  export_job job = {.options = options};
+  entries_export job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
   job.identity = index.stamp.identity;
   job.palette = read_game_colours(job.archive, index.records);

@@ -8,7 +8,7 @@ namespace ostrane::command {
 
 namespace {
 
-int report(const extraction_result& result) {
+int report_skipped_entries(const extraction_result& result) {
   for (const skipped_file& entry : result.skipped) {
     const std::string name = files::to_utf8(entry.name);
     // The text of a file_error already names the file.
@@ -48,7 +48,7 @@ int extract(const extract_options& options) {
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
        .entries_are_adjacent = false,
        .replaces_atomically = true});
-  return report(result);
+  return report_skipped_entries(result);
 }
 
 }  // namespace ostrane::command

@@ -12,6 +12,7 @@
 #include "data/data_error.h"
 #include "data/palette.h"
 #include "files/whole_file.h"
+#include "pictures/counted.h"
 #include "pictures/png_reader.h"
 
 namespace ostrane::command {
@@ -85,11 +86,11 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
   }
 }
 
-int report(const import_options& options, const import_job& job) {
+int report_inexact_pixels(const import_options& options, const import_job& job) {
   if (job.inexact_pixels == 0) return status_done;
-  print_note(options.icon_file, std::to_string(job.inexact_pixels) + " pixels of " +
-                                    std::to_string(job.inexact_pictures) +
-                                    " pictures were not exact and got the nearest colour");
+  print_note(options.icon_file, counted(job.inexact_pixels, "pixel") + " of " +
+                                    counted(job.inexact_pictures, "picture") +
+                                    " changed to the nearest colour or transparency");
   return status_differs;
 }
 
@@ -100,15 +101,14 @@ int import_pictures(const import_options& options) {
   import_plan plan =
       plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
   if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
-  if (plan.icons.empty()) throw data_error(options.sources.front() + ": holds no pictures.");
+  if (plan.icons.empty()) throw data_error(options.sources.front() + ": contains no pictures.");
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
-    throw data_error("An icon file holds at most " + std::to_string(max_icons_per_file) +
-                     " icons.");
+    throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
   }
   import_job job = {.plan = plan, .icons = std::vector<shp_icon>(plan.icons.size())};
   make_all_icons(job, colour_finder(read_palette_argument(options.palette)));
   write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
-  return report(options, job);
+  return report_inexact_pixels(options, job);
 }
 
 }  // namespace ostrane::command

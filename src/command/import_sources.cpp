@@ -23,11 +23,11 @@ bool has_ending(const fs::path& path, const char* ending) {
   return files::lower_case(argument_of_path(path.extension())) == ending;
 }
 
-files::file_path shown(const fs::path& path) { return {path, argument_of_path(path) + ":"}; }
+files::file_path as_file_path(const fs::path& path) { return {path, argument_of_path(path) + ":"}; }
 
 void add_export(import_plan& plan, const fs::path& json) {
   files::binary_file file;
-  const files::file_path path = shown(json);
+  const files::file_path path = as_file_path(json);
   const exported_icons exported = read_icon_json(read_whole_file(file, path), path.shown);
   if (exported.scale != 1) {
     throw data_error(path.shown + " was exported at scale " + std::to_string(exported.scale) +
@@ -38,15 +38,15 @@ void add_export(import_plan& plan, const fs::path& json) {
     planned_icon planned = {.png = {}, .known = known_icon{icon.head, icon.last_column}};
     if (icon.file) {
       const std::u8string name(icon.file->begin(), icon.file->end());
-      planned.png = shown(json.parent_path() / name);
+      planned.png = as_file_path(json.parent_path() / name);
     }
     plan.icons.push_back(planned);
   }
 }
 
 // Returns the JSON of the export in a folder. The JSONs of sheets are ignored.
-std::optional<fs::path> export_among(const std::vector<fs::path>& files, const std::string& stem,
-                                     const std::string& folder) {
+std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const std::string& stem,
+                                       const std::string& folder) {
   std::vector<fs::path> found;
   for (const fs::path& file : files) {
     const bool is_sheet = argument_of_path(file.stem()).ends_with("-sheet");
@@ -57,7 +57,8 @@ std::optional<fs::path> export_among(const std::vector<fs::path>& files, const s
   for (const fs::path& file : found) {
     if (files::upper_case(argument_of_path(file.stem())) == files::upper_case(stem)) return file;
   }
-  throw data_error(folder + ": holds the JSON of several exports; name the one that is meant.");
+  throw data_error(folder +
+                   ": contains the JSON of several exports. Give the name of one of them.");
 }
 
 void add_folder(import_plan& plan, const std::string& folder, const std::string& stem) {
@@ -70,12 +71,12 @@ void add_folder(import_plan& plan, const std::string& folder, const std::string&
     if (entry.is_file && !entry.is_hidden) files.push_back(path / entry.name);
   }
   std::sort(files.begin(), files.end());
-  if (const auto json = export_among(files, stem, folder)) {
+  if (const auto json = json_of_export(files, stem, folder)) {
     add_export(plan, *json);
     return;
   }
   for (const fs::path& file : files) {
-    if (has_ending(file, ".png")) plan.icons.push_back({.png = shown(file), .known = {}});
+    if (has_ending(file, ".png")) plan.icons.push_back({.png = as_file_path(file), .known = {}});
   }
 }
 

@@ -18,7 +18,7 @@ namespace ostrane::command {
 
 namespace {
 
-struct listed_entry {
+struct entry_row {
   std::string name;  // UTF-8, like all texts of this record
   std::int64_t size = 0;
   std::int32_t offset = 0;
@@ -33,9 +33,9 @@ using descriptions = std::unordered_map<std::string, std::string>;
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
   const files::file_path installed = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
-  const files::file_path given = named_file(options.icon_names);
-  if (!options.icon_names.empty()) files::binary_file().open_to_read(given);
-  const auto rows = read_icon_names(options.icon_names.empty() ? installed : given);
+  const files::file_path chosen = named_file(options.icon_names);
+  if (!options.icon_names.empty()) files::binary_file().open_to_read(chosen);
+  const auto rows = read_icon_names(options.icon_names.empty() ? installed : chosen);
   for (const icon_name_pair& row : rows) {
     if (&row == rows.data()) continue;  // row 0 is unused
     found.emplace(files::compare_key(row.name), files::to_utf8(row.description));
@@ -43,23 +43,23 @@ descriptions read_descriptions(const list_options& options) {
   return found;
 }
 
-std::optional<std::int32_t> icons_of(files::binary_file& file, const listed_entry& entry) {
+std::optional<std::int32_t> icons_of(files::binary_file& file, const entry_row& entry) {
   shp_head head;
   if (entry.kind != entry_kind::icons || entry.size < std::int64_t{shp_head_size}) return {};
   if (!read_shp_head(file, entry.offset, head)) return {};
   return head.icon_count;
 }
 
-listed_entry entry_at(files::binary_file& file, const archive_index& index, std::size_t i,
-                      const descriptions& known) {
+entry_row row_at(files::binary_file& file, const archive_index& index, std::size_t i,
+                 const descriptions& known) {
   const dat_record& record = index.records[i];
   const std::string listed = name_without_nuls(record.name);
-  listed_entry entry = {.name = files::to_utf8(name_with_blanks(record.name)),
-                        .size = std::int64_t{index.records[i + 1].offset} - record.offset,
-                        .offset = record.offset,
-                        .kind = kind_of_entry(listed),
-                        .icons = {},
-                        .description = {}};
+  entry_row entry = {.name = files::to_utf8(name_with_blanks(record.name)),
+                     .size = std::int64_t{index.records[i + 1].offset} - record.offset,
+                     .offset = record.offset,
+                     .kind = kind_of_entry(listed),
+                     .icons = {},
+                     .description = {}};
   entry.icons = icons_of(file, entry);
   const auto row = known.find(icon_name_key(listed));
   if (row != known.end()) entry.description = row->second;
@@ -71,7 +71,7 @@ std::string padded(const std::string& text, std::size_t width) {
 }
 
 // The name comes after the columns without blanks, as it may contain some.
-std::string long_line(const listed_entry& entry) {
+std::string long_line(const entry_row& entry) {
   std::string line = padded(std::to_string(entry.size), 10) + " " +
                      padded(std::to_string(entry.offset), 10) + "  ";
   const std::string kind = text_of(entry.kind);
@@ -90,7 +90,7 @@ std::string long_line(const listed_entry& entry) {
   return line;
 }
 
-nlohmann::ordered_json json_of(const listed_entry& entry) {
+nlohmann::ordered_json json_of(const entry_row& entry) {
   return {{"name", entry.name},
           {"size", entry.size},
           {"offset", entry.offset},
@@ -119,7 +119,7 @@ int list(const list_options& options) {
   open_unchanged(file, archive, index.stamp);
   if (options.is_json) print("[");
   for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
-    const listed_entry entry = entry_at(file, index, i, known);
+    const entry_row entry = row_at(file, index, i, known);
     if (!options.is_json) {
       print_line(long_line(entry));
       continue;

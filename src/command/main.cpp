@@ -1,7 +1,7 @@
-#include "command/command_line.h"
 #include "command/console.h"
 #include "command/interruption.h"
 #include "command/program.h"
+#include "command/run_command.h"
 #include "files/system_calls.h"
 
 int main(int argc, char** argv) {
@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
   files::ignore_size_limit_signal();
   set_binary_output();
   try {
-    const int status = run(arguments_of(argc, argv));
+    const int status = run_command(arguments_of(argc, argv));
     hide_progress();
     return status;
   } catch (const interruption&) {

@@ -39,7 +39,7 @@ void require_folder(const std::string& argument) {
   const fs::file_status status = fs::status(path_of_argument(argument), failed);
   if (fs::is_directory(status)) return;
   const int reason = fs::exists(status) ? ENOTDIR : files::file_calls::errno_number(failed);
-  if (reason == ENOTDIR) throw data_error(argument + ": is no folder.");
+  if (reason == ENOTDIR) throw data_error(argument + ": is not a folder.");
   files::file_calls::fail(argument + ":", " cannot be opened: ", reason == 0 ? -ENOENT : -reason);
 }
 

@@ -6,6 +6,7 @@
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "files/whole_file.h"
+#include "pictures/counted.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/pixel_form.h"
@@ -18,7 +19,7 @@ namespace {
 
 constexpr std::int64_t max_scaled_pixels = std::int64_t{1} << 28U;
 
-struct export_job {
+struct icon_export_job {
   files::binary_file& archive;
   const icon_export& wanted;
   files::file_identity identity;  // of the archive
@@ -27,11 +28,11 @@ struct export_job {
   files::binary_file output = {};
 };
 
-void write_file(export_job& job, const std::string& name, std::string_view bytes) {
+void write_output(icon_export_job& job, const std::string& name, std::string_view bytes) {
   write_whole_file(job.output, job.wanted.target(name), bytes, job.identity);
 }
 
-std::string png_at_scale(const export_job& job, const picture& drawn) {
+std::string png_at_scale(const icon_export_job& job, const picture& drawn) {
   const int scale = job.wanted.scale;
   const std::int64_t pixels = std::int64_t{drawn.columns()} * drawn.rows();
   if (pixels * scale * scale > max_scaled_pixels) {
@@ -51,31 +52,43 @@ std::int32_t last_set_column(const picture& drawn) {
   return last;
 }
 
-// Called with an icon that can be drawn.
-using icon_taker = std::function<void(std::size_t number, picture drawn, exported_icon& icon)>;
+// Called for each drawable icon.
+using drawable_handler =
+    std::function<void(std::size_t number, picture drawn, exported_icon& icon)>;
 
-// The head for an icon whose head cannot be read: that of a blank icon.
-constexpr icon_head lost_head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
+// Replaces a head that cannot be read.
+constexpr icon_head blank_head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
 
-exported_icon export_icon(export_job& job, const icon_file& from, std::size_t number,
-                          const icon_taker& take) {
+exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
+                        const drawable_handler& on_drawable) {
   const std::int32_t position = from.positions[number - 1];
-  exported_icon icon = {.file = {}, .head = lost_head, .offset = position - 1 - from.start};
-  const std::string which = "icon " + std::to_string(number) + " was left out: ";
+  exported_icon icon = {.file = {}, .head = blank_head, .offset = position - 1 - from.start};
+  const std::string which = "icon " + std::to_string(number) + " was skipped: ";
   const bool is_there = position > 0 && position <= from.end;
   if (!is_there || !read_icon_head(job.archive, position, icon.head)) {
-    job.wanted.on_skipped(which + "its offset leads outside the entry");
+    job.wanted.on_skipped(which + "its offset is outside the entry");
   } else if (classify_icon(icon.head) == icon_kind::refused) {
-    job.wanted.on_skipped(which + "its box ends beyond its picture");
+    job.wanted.on_skipped(which + "its box ends outside its picture");
   } else if (classify_icon(icon.head) == icon_kind::drawable && !has_picture(icon.head)) {
     job.wanted.on_skipped(which + "its size is below 1 or too large");
   } else if (classify_icon(icon.head) == icon_kind::drawable) {
-    take(number, read_icon_picture(*job.stream, job.archive, from, icon.head, position), icon);
+    on_drawable(number, read_icon_picture(*job.stream, job.archive, from, icon.head, position),
+                icon);
   }
   return icon;
 }
 
-exported_icons export_icons(export_job& job, const icon_taker& take) {
+// The directory may have room for fewer icons than the head says, or the head may exceed the limit.
+void report_unread_icons(const icon_export& wanted, const icon_file& from) {
+  const auto read = static_cast<std::int32_t>(from.positions.size());
+  const bool wants_all = wanted.last > from.positions.size() ||
+                         wanted.last == static_cast<std::size_t>(max_icons_per_file);
+  if (!wants_all || from.head.icon_count <= read) return;
+  wanted.on_skipped("its head gives " + std::to_string(from.head.icon_count) +
+                    " as the number of its icons; only " + std::to_string(read) + " can be read");
+}
+
+exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawable) {
   const icon_export& wanted = job.wanted;
   const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
   exported_icons exported = {.name = wanted.entry,
@@ -86,76 +99,74 @@ exported_icons export_icons(export_job& job, const icon_taker& take) {
   const std::size_t last = std::min(wanted.last, from.positions.size());
   for (std::size_t number = wanted.first; number <= last; ++number) {
     if (wanted.on_icon) wanted.on_icon(number, last);
-    exported.icons.push_back(export_icon(job, from, number, take));
+    exported.icons.push_back(read_icon(job, from, number, on_drawable));
   }
-  if (wanted.last > from.positions.size() &&
-      from.positions.size() != static_cast<std::size_t>(std::max(from.head.icon_count, 0))) {
-    wanted.on_skipped("it has not as many icons as its head gives, or more than 5000");
-  }
+  report_unread_icons(wanted, from);
   return exported;
 }
 
-void export_series(export_job& job) {
+void export_series(icon_export_job& job) {
   const exported_icons exported =
-      export_icons(job, [&](std::size_t number, const picture& drawn, exported_icon& icon) {
+      read_icons(job, [&](std::size_t number, const picture& drawn, exported_icon& icon) {
         icon.file = png_name(job.wanted.stem, number);
         icon.last_column = last_set_column(drawn);
-        write_file(job, *icon.file, png_at_scale(job, drawn));
+        write_output(job, *icon.file, png_at_scale(job, drawn));
       });
-  write_file(job, job.wanted.stem + ".json", json_of(exported));
+  write_output(job, job.wanted.stem + ".json", json_of(exported));
 }
 
-// Blank icons are left out of a motion and a sheet.
+// Blank icons are omitted from a GIF and a sheet.
 struct all_pictures {
   std::vector<picture> pictures;
   std::vector<std::string> names;
 };
 
-all_pictures collect_pictures(export_job& job) {
+all_pictures collect_pictures(icon_export_job& job) {
   all_pictures all;
   std::int64_t cells = 0;
-  export_icons(job, [&](std::size_t number, picture drawn, exported_icon&) {
+  read_icons(job, [&](std::size_t number, picture drawn, exported_icon&) {
     cells += std::int64_t{drawn.columns()} * drawn.rows();
     if (cells > max_picture_cells) throw data_error("Its pictures together are too large.");
     all.pictures.push_back(std::move(drawn));
     all.names.push_back(png_name(stem_of_entry(job.wanted.entry), number));
   });
-  if (all.pictures.empty()) throw data_error("It has no icon that can be drawn.");
+  if (all.pictures.empty()) throw data_error("It has no drawable icon.");
   return all;
 }
 
-void export_sheet(export_job& job) {
+void export_sheet(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
   const sheet made = sheet_of(all.pictures);
   const std::string name = job.wanted.stem + ".png";
-  write_file(job, name, png_at_scale(job, made.drawn));
+  write_output(job, name, png_at_scale(job, made.drawn));
   // The user may have given the file a name in another case.
   const std::u8string image_name = job.wanted.target(name).system.filename().u8string();
   const std::string image(image_name.begin(), image_name.end());
-  write_file(job, job.wanted.stem + ".json",
-             json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
+  write_output(job, job.wanted.stem + ".json",
+               json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
 }
 
-void export_motion(export_job& job) {
+void export_gif(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
   std::int64_t inexact = 0;
-  write_file(job, job.wanted.stem + ".gif",
-             gif_of(all.pictures, job.wanted.colours, job.wanted.pace, job.wanted.scale, inexact));
+  write_output(
+      job, job.wanted.stem + ".gif",
+      gif_of(all.pictures, job.wanted.colours, job.wanted.pace, job.wanted.scale, inexact));
   if (inexact > 0) {
-    job.wanted.on_skipped(std::to_string(inexact) + " pixels of the GIF are not exact");
+    job.wanted.on_skipped(counted(inexact, "pixel") + " of the GIF changed to the nearest colour");
   }
 }
 
-void export_picture(export_job& job) {
+void export_picture(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
-  write_file(job, job.wanted.stem + ".png", png_at_scale(job, all.pictures.front()));
+  write_output(job, job.wanted.stem + ".png", png_at_scale(job, all.pictures.front()));
 }
 
 void export_to_files(files::binary_file& archive, const icon_export& wanted) {
-  export_job job = {.archive = archive,
-                    .wanted = wanted,
-                    .identity = archive.info().stamp.identity,
-                    .distinct = distinct_colours(wanted.colours)};
+  icon_export_job job = {.archive = archive,
+                         .wanted = wanted,
+                         .identity = archive.info().stamp.identity,
+                         .distinct = distinct_colours(wanted.colours)};
   switch (wanted.form) {
     case picture_form::png:
       export_series(job);
@@ -164,7 +175,7 @@ void export_to_files(files::binary_file& archive, const icon_export& wanted) {
       export_sheet(job);
       break;
     case picture_form::gif:
-      export_motion(job);
+      export_gif(job);
       break;
     case picture_form::picture:
       export_picture(job);

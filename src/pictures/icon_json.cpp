@@ -42,7 +42,7 @@ std::string json_of(const exported_icon& icon, std::size_t number) {
 template <typename Number>
 Number number_in(const json& object, const char* field) {
   const json& value = object.at(field);
-  if (!value.is_number_integer()) throw data_error(std::string(field) + " is no whole number");
+  if (!value.is_number_integer()) throw data_error(std::string(field) + " is not an integer");
   const bool is_too_large =
       value.is_number_unsigned() && value.get<std::uint64_t>() > std::uint64_t{INT64_MAX};
   const std::int64_t number = is_too_large ? INT64_MAX : value.get<std::int64_t>();
@@ -62,11 +62,12 @@ icon_head head_in(const json& object) {
           .spare = number_in<std::int32_t>(object, "spare")};
 }
 
-// A name that leads out of the folder of the JSON is refused.
+// Refuses a name that would select a file outside the folder of the JSON.
 std::string file_name_in(const json& file) {
   auto name = file.get<std::string>();
   const std::optional<std::string> text = files::from_utf8(name);
-  const std::string unsafe = text ? unsafe_name_reason(*text) : "it is not in the code page";
+  const std::string unsafe =
+      text ? unsafe_name_reason(*text) : "its name has characters that the code page lacks";
   if (!unsafe.empty()) throw data_error("a file cannot be read: " + unsafe);
   return name;
 }
@@ -82,18 +83,18 @@ exported_icon icon_in(const json& object) {
 
 exported_icons read(const std::string& text) {
   const json all = json::parse(text);
-  if (all.at("format").get<std::string>() != form) throw data_error("it is of another kind");
+  if (all.value("format", "") != form) throw data_error("it is not the JSON of an icon file");
   exported_icons found;
   const std::optional<std::string> identifier =
       files::from_utf8(all.at("identifier").get<std::string>());
   if (!identifier || identifier->size() != found.identifier.size()) {
-    throw data_error("its identifier is not of four characters");
+    throw data_error("its identifier does not have four characters");
   }
   std::copy(identifier->begin(), identifier->end(), found.identifier.begin());
   found.scale = number_in<std::int16_t>(all, "scale");
   const json& icons = all.at("icons");
   if (!icons.is_array() || icons.size() > std::size_t{max_icons_per_file}) {
-    throw data_error("it has no list of up to 5000 icons");
+    throw data_error("icons is not a list of at most 5000");
   }
   for (const json& icon : icons) found.icons.push_back(icon_in(icon));
   return found;

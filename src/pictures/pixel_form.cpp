@@ -13,7 +13,7 @@ std::int32_t part(std::uint32_t colour, unsigned shift) {
 }
 
 // The nearest unused colour to `wanted`. 256 used colours fit in a cube of 7 steps.
-std::uint32_t nearest_free(std::uint32_t wanted, const std::unordered_set<std::uint32_t>& taken) {
+std::uint32_t nearest_unused(std::uint32_t wanted, const std::unordered_set<std::uint32_t>& used) {
   constexpr std::int32_t reach = 8;
   std::uint32_t best = wanted;
   std::int32_t best_distance = INT32_MAX;
@@ -25,7 +25,7 @@ std::uint32_t nearest_free(std::uint32_t wanted, const std::unordered_set<std::u
       for (std::int32_t b = -reach; b <= reach; ++b) {
         const std::uint32_t colour = near(part(wanted, 16), r) << 16U |
                                      near(part(wanted, 8), g) << 8U | near(part(wanted, 0), b);
-        if (distance(colour, wanted) >= best_distance || taken.contains(colour)) continue;
+        if (distance(colour, wanted) >= best_distance || used.contains(colour)) continue;
         best = colour;
         best_distance = distance(colour, wanted);
       }
@@ -59,14 +59,14 @@ pixel_form form_of(const picture& drawn) {
 }
 
 rgb_palette distinct_colours(const rgb_palette& palette) {
-  std::unordered_set<std::uint32_t> taken(palette.begin(), palette.end());
-  std::unordered_set<std::uint32_t> given;
+  std::unordered_set<std::uint32_t> used(palette.begin(), palette.end());
+  std::unordered_set<std::uint32_t> assigned;
   rgb_palette distinct = palette;
   for (std::uint32_t& colour : distinct) {
-    if (given.insert(colour).second) continue;
-    colour = nearest_free(colour, taken);
-    taken.insert(colour);
-    given.insert(colour);
+    if (assigned.insert(colour).second) continue;
+    colour = nearest_unused(colour, used);
+    used.insert(colour);
+    assigned.insert(colour);
   }
   return distinct;
 }

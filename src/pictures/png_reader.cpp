@@ -41,7 +41,7 @@ struct png_job {
   png_picture result = {picture(0, 0)};
 };
 
-void take_bytes(png_structp png, png_bytep to, size_t count) {
+void read_bytes(png_structp png, png_bytep to, size_t count) {
   auto* job = static_cast<png_job*>(png_get_io_ptr(png));
   if (job->bytes.size() - job->at < count) png_error(png, "it ends too early");
   std::memcpy(to, job->bytes.data() + job->at, count);
@@ -91,7 +91,7 @@ void choose_pixels(png_structp png, png_infop info, png_job& job) {
 }
 
 void read_head(png_structp png, png_infop info, png_job& job) {
-  png_set_read_fn(png, &job, take_bytes);
+  png_set_read_fn(png, &job, read_bytes);
   png_set_user_limits(png, max_side, max_side);
   png_set_chunk_malloc_max(png, std::size_t{8} << 20U);
   png_read_info(png, info);
@@ -107,7 +107,7 @@ void read_head(png_structp png, png_infop info, png_job& job) {
   job.row_bytes = png_get_rowbytes(png, info);
 }
 
-void take_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+void convert_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
   std::int64_t inexact = 0;
   for (std::int16_t& cell : cells) {
     const mapped_index& mapped = job.map[*pixels++];
@@ -117,7 +117,7 @@ void take_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> 
   job.result.inexact += inexact;
 }
 
-void take_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
+void convert_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
   std::int64_t inexact = 0;
   for (std::int16_t& cell : cells) {
     const int alpha = pixels[3];
@@ -134,12 +134,12 @@ void take_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> 
   job.result.inexact += inexact;
 }
 
-void take_row(png_job& job, const png_byte* pixels, int row) {
+void convert_row(png_job& job, const png_byte* pixels, int row) {
   const auto cells = job.result.drawn.row(row);
   if (job.is_indexed) {
-    take_indices(job, pixels, cells);
+    convert_indices(job, pixels, cells);
   } else {
-    take_colours(job, pixels, cells);
+    convert_colours(job, pixels, cells);
   }
 }
 
@@ -149,7 +149,7 @@ void read_rows(png_structp png, png_job& job) {
     for (png_uint_32 row = 0; row < job.height; ++row) {
       png_byte* to = job.rows.data() + (is_interlaced ? row * job.row_bytes : 0);
       png_read_row(png, to, nullptr);
-      if (pass + 1 == job.passes) take_row(job, to, static_cast<int>(row));
+      if (pass + 1 == job.passes) convert_row(job, to, static_cast<int>(row));
     }
   }
   png_read_end(png, nullptr);

@@ -14,12 +14,12 @@ namespace {
 
 constexpr int milliseconds_per_hundredth = 10;
 
-struct grid_place {
+struct frame_offset {
   int left;
   int top;
 };
 
-grid_place place_of(const sheet& all, std::size_t number) {
+frame_offset offset_of_frame(const sheet& all, std::size_t number) {
   const int n = static_cast<int>(number);
   return {n % all.columns * all.cell_width, n / all.columns * all.cell_height};
 }
@@ -51,7 +51,7 @@ sheet sheet_of(const std::vector<picture>& pictures) {
   if (width * height > max_picture_cells) throw data_error("The sheet would be too large.");
   all.drawn = picture(static_cast<int>(width), static_cast<int>(height));
   for (std::size_t i = 0; i < pictures.size(); ++i) {
-    const grid_place to = place_of(all, i);
+    const frame_offset to = offset_of_frame(all, i);
     for (int row = 0; row < pictures[i].rows(); ++row) {
       const auto cells = pictures[i].row(row);
       std::copy(cells.begin(), cells.end(), all.drawn.row(to.top + row).begin() + to.left);
@@ -65,7 +65,7 @@ std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     int scale) {
   std::string text = "{\"frames\":[";
   for (std::size_t i = 0; i < pictures.size(); ++i) {
-    const grid_place at = place_of(all, i);
+    const frame_offset at = offset_of_frame(all, i);
     const int width = pictures[i].columns() * scale;
     const int height = pictures[i].rows() * scale;
     text += i == 0 ? "\n " : ",\n ";

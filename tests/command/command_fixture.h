@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "command/command_line.h"
+#include "command/run_command.h"
 #include "data/archive_bytes.h"
 #include "disk.h"
 
@@ -29,7 +29,7 @@ struct command_test : testing::Test {
   static outcome run(const std::string& command_line) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    const int status = command::run(arguments_of(command_line));
+    const int status = command::run_command(arguments_of(command_line));
     std::string output = testing::internal::GetCapturedStdout();
     return {status, std::move(output), testing::internal::GetCapturedStderr()};
   }

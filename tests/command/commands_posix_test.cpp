@@ -10,7 +10,7 @@ namespace ostrane {
 
 using commands_posix_test = command_test;
 
-TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
+TEST_F(commands_posix_test, DoesNotReplaceAPipe) {
   write_bytes("in/A.TXT", "a");
   ASSERT_EQ(mkfifo("pipe", 0600), 0);
   EXPECT_EQ(run("build in -o pipe").errors,
@@ -19,7 +19,7 @@ TEST_F(commands_posix_test, APipeIsNotReplacedByAFile) {
 }
 
 // The code page lacks Cyrillic letters. A link can lead to another spelling of a file.
-TEST_F(commands_posix_test, ReplacesNoOtherFileThanTheOneNamed) {
+TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
   write_bytes("in/A.TXT", "a");
   for (const char* name : {"out/\xD1\x84.jpg", "out/\xD0\xBF.txt", "out/B.DAT"}) {
     write_bytes(name, "other");
@@ -33,8 +33,8 @@ TEST_F(commands_posix_test, ReplacesNoOtherFileThanTheOneNamed) {
   EXPECT_EQ(bytes_of("a.dat"), archive_bytes({{"A.TXT", "a"}}));
 }
 
-// The signal comes first, so each job ends at its first look.
-TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNothingBehind) {
+// The signal is raised first, so each job ends at its first check.
+TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNoFile) {
   write_bytes("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));
   write_bytes("b.txt", "b");
   const auto before = files_at(".");
@@ -42,7 +42,7 @@ TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNothingBehind) {
     command::catch_signals();
     std::raise(SIGTERM);
     for (const char* job : {"add a.dat b.txt", "extract a.dat", "list a.dat"}) {
-      EXPECT_THROW(command::run(arguments_of(job)), command::interruption) << job;
+      EXPECT_THROW(command::run_command(arguments_of(job)), command::interruption) << job;
       EXPECT_EQ(files_at("."), before) << job;
     }
   });

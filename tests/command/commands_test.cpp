@@ -16,7 +16,7 @@ struct commands_test : command_test {
 };
 
 // The command line, the exit status, and what is printed or the error.
-TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
+TEST_F(commands_test, EachReportsItsStatusAndErrors) {
   write_bytes("bad.dat", archive_bytes({{"A", "1"}, {"A", "2"}, {"..", "3"}}) + "rest");
   write_bytes("same.txt", "A.TXT\r\nMYFILE.TXT\r\nZ\xC4.DAT\r\n\r\n");
   write_bytes("other.txt", "A.TXT\nB.TXT\nMYFILE.TXT\n\n");
@@ -26,7 +26,8 @@ TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
       {"list a.dat", 0, "A.TXT\nMY FILE.TXT\nZ\xC3\x84.DAT\n"},
       {"list none", 2, error + "none: cannot be opened: it is not there.\n"},
       {"list a.dat --nothing", 2,
-       error + "The following argument was not expected: --nothing (--help tells more)\n"},
+       error + "The following argument was not expected: --nothing (see --help)\n"},
+      {"export a.dat * --as bmp", 2, error + "--as: bmp not in {gif,png,sheet} (see --help)\n"},
       {"extract a.dat B*", 2, error + "B*: no entry has this name.\n"},
       {"extract a.dat -d none/in", 2, error + "none/in: cannot be opened: it is not there.\n"},
       {"extract bad.dat ..", 1, error + "..: not extracted: its name means a folder\n"},
@@ -57,7 +58,7 @@ TEST_F(commands_test, EachTellsItsStatusAndWhatIsWrong) {
   }
 }
 
-TEST_F(commands_test, ExtractedFilesAreReplacedWholeAndBuildTheSameArchive) {
+TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
   write_bytes("out/A.TXT", std::string(100, 'o'));
   EXPECT_EQ(run("extract a.dat -d out").status, 0);
   EXPECT_EQ(bytes_of("out/A.TXT"), entries[0].bytes);
@@ -71,7 +72,7 @@ TEST_F(commands_test, ExtractedFilesAreReplacedWholeAndBuildTheSameArchive) {
   EXPECT_EQ(bytes_of("out/OSTRANE.DAT"), bytes_of("a.dat"));
 }
 
-TEST_F(commands_test, AnAddedFileTakesItsPlaceAndAllOtherBytesStay) {
+TEST_F(commands_test, AddsAndReplacesEntriesAndKeepsTheOthers) {
   write_bytes("b.txt", "new");
   write_bytes("sub/a.txt", "newer");
   EXPECT_EQ(run("add a.dat b.txt sub/a.txt").status, 0);
@@ -79,8 +80,8 @@ TEST_F(commands_test, AnAddedFileTakesItsPlaceAndAllOtherBytesStay) {
             archive_bytes({{"A.TXT", "newer"}, {"B.TXT", "new"}, entries[1], entries[2]}));
 }
 
-// Each call fails in turn: the archive is the old or the new one, and nothing lies beside it.
-TEST_F(commands_test, AFailingDiskLeavesTheOldArchiveOrTheNewOne) {
+// Each call fails in turn: the archive is the old or the new one, and no other file remains.
+TEST_F(commands_test, AFailingDiskLeavesTheOldOrTheNewArchive) {
   int changed = 0;
   int calls = 0;
   for (bool happened = true; happened; ++calls) {
@@ -90,7 +91,7 @@ TEST_F(commands_test, AFailingDiskLeavesTheOldArchiveOrTheNewOne) {
     const int status = run("remove a.dat A.TXT").status;
     happened = fault->happened();
     fault.reset();
-    fs::remove(".A.DAT.lock");  // it stays where a question about it has failed
+    fs::remove(".A.DAT.lock");  // remains if its identity cannot be queried
     const bool is_new = bytes_of("a.dat") != archive_bytes(entries);
     ASSERT_TRUE(is_new || status == 2) << calls;
     ASSERT_EQ(run("check a.dat").status, 0) << calls;

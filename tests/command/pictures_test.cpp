@@ -10,7 +10,7 @@
 namespace ostrane {
 
 struct pictures_test : command_test {
-  // Every third colour stands twice.
+  // Every third colour is a duplicate.
   static std::string palette() {
     std::string bytes;
     for (int i = 0; i < 256; ++i) {
@@ -49,9 +49,9 @@ struct pictures_test : command_test {
   }
 };
 
-TEST_F(pictures_test, AnExportedIconFileComesBackWithoutLossAndNoLonger) {
-  const char* asked = std::getenv("OSTRANE_ICONS");
-  const int count = asked == nullptr ? 400 : std::atoi(asked);
+TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
+  const char* wanted = std::getenv("OSTRANE_ICONS");
+  const int count = wanted == nullptr ? 400 : std::atoi(wanted);
   random_icons random(3);
   for (int made = 0; made < count; made += 400) {
     std::vector<shp_icon> icons;
@@ -89,7 +89,7 @@ static std::string png_with(png_uint_32 format, const std::vector<png_byte>& row
   return bytes;
 }
 
-TEST_F(pictures_test, OtherColoursGoToTheNearestAndAreCounted) {
+TEST_F(pictures_test, ChangesAndCountsInexactColours) {
   write_bytes("GAME.PAL", palette());
   // Colour 4 itself, a step beside it, half transparent and hardly set.
   write_bytes("p.png",
@@ -99,11 +99,11 @@ TEST_F(pictures_test, OtherColoursGoToTheNearestAndAreCounted) {
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(
       seen.errors,
-      "ostrane-dat: p.shp: 3 pixels of 1 pictures were not exact and got the nearest colour\n");
+      "ostrane-dat: p.shp: 3 pixels of 1 picture changed to the nearest colour or transparency\n");
   EXPECT_EQ(icons_of("p.shp"), texts{"0 3 0 0 0 2 0 4,4,4,-1,"});
 }
 
-TEST_F(pictures_test, BadSourcesAreToldAndNothingIsWritten) {
+TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
   write_bytes("GAME.PAL", palette());
   const std::string good = png_with(PNG_FORMAT_GRAY, {1, 2, 3, 4}, 2, 2);
   write_bytes("cut.png", good.substr(0, good.size() / 2));
@@ -129,15 +129,17 @@ TEST_F(pictures_test, BadSourcesAreToldAndNothingIsWritten) {
   EXPECT_EQ(run("import good.json -o new.shp --palette GAME.PAL").status, 1);
 }
 
-TEST_F(pictures_test, PalettesTextsSheetsAndMotionsAreExported) {
+TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
   picture small(2, 1);
   small.set(0, 0, 7);
   write_bytes("a.dat", archive_bytes({{"F.SHP", shp_file(std::vector<picture>(5, small))},
+                                      {"G.SHP", std::string("ICON\2\0\0\0", 8)},
                                       {"GAME.PAL", palette()},
                                       {"N.TXT", std::string("\x80\0", 2)},
                                       {"W.WAV", ""}}));
   EXPECT_EQ(run("export a.dat *.*").errors,
-            "ostrane-dat: W.WAV: left out: it is no icon file, palette or text\n");
+            "ostrane-dat: G.SHP: its head gives 2 as the number of its icons; only 0 can be read\n"
+            "ostrane-dat: W.WAV: skipped: it is not an icon file, palette or text\n");
   EXPECT_EQ(run("export a.dat f.shp --as sheet --scale 2").status, 0);
   EXPECT_EQ(run("export a.dat f.shp --as gif --pace 7").status, 0);
   EXPECT_EQ(bytes_of("N.txt"), "\xE2\x82\xAC ");

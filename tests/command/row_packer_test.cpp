@@ -13,8 +13,8 @@ namespace ostrane {
 
 using row = std::vector<std::int16_t>;
 
-// The bytes of the shortest stream for the columns from `at` on, of all that there are, if it has
-// less than `bound`. The first `outside` columns are free.
+// The length of the shortest stream for the columns from `at` on, found by trying all, if it is
+// below `bound`. The first `outside` columns may have any colour.
 static int shortest(const row& cells, int outside, int at, int bound) {
   const int columns = outside + static_cast<int>(cells.size());
   if (at == columns) return 1;
@@ -30,11 +30,11 @@ static int shortest(const row& cells, int outside, int at, int bound) {
   return best;
 }
 
-TEST(row_packer_test, PacksAsShortAsAnyStream) {
-  const char* asked = std::getenv("OSTRANE_ROWS");
+TEST(row_packer_test, FindsTheShortestStream) {
+  const char* wanted = std::getenv("OSTRANE_ROWS");
   random_icons random(7);
   row_packer packer;
-  for (int left = asked == nullptr ? 1000 : std::atoi(asked); left > 0; --left) {
+  for (int left = wanted == nullptr ? 1000 : std::atoi(wanted); left > 0; --left) {
     row cells(static_cast<std::size_t>(random.number(1, 12)));
     const int colours = random.number(1, 4);
     for (auto& cell : cells) cell = static_cast<std::int16_t>(random.number(-1, colours - 1));
@@ -42,13 +42,14 @@ TEST(row_packer_test, PacksAsShortAsAnyStream) {
     std::string stream;
     packer.pack(outside, cells, stream);
     while (!cells.empty() && cells.back() == picture::unset) cells.pop_back();
-    const int wanted = cells.empty() ? 1 : shortest(cells, outside, 0, 1000);
-    ASSERT_EQ(static_cast<int>(stream.size()), wanted) << testing::PrintToString(cells) << outside;
+    const int expected = cells.empty() ? 1 : shortest(cells, outside, 0, 1000);
+    ASSERT_EQ(static_cast<int>(stream.size()), expected)
+        << testing::PrintToString(cells) << outside;
   }
 }
 
-// Lengths beyond those of single operations, and a way to the picture that many skips lead.
-TEST(row_packer_test, PacksLongRowsAsShortAsTheyGo) {
+// Rows longer than one operation, and boxes that begin many skips left of the picture.
+TEST(row_packer_test, PacksLongRowsIntoTheShortestStream) {
   row mixed(300);
   for (std::size_t i = 0; i < mixed.size(); ++i) mixed[i] = static_cast<std::int16_t>(i % 256);
   row distant(600, picture::unset);

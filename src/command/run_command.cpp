@@ -1,4 +1,4 @@
-#include "command/command_line.h"
+#include "command/run_command.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -32,128 +32,150 @@ struct all_options {
 // Adds a command with its help and an example.
 CLI::App* add_command(CLI::App& app, all_options& options, const char* name, const char* help,
                       const char* example, std::function<int()> job) {
-  CLI::App* command = app.add_subcommand(name, help);
+  CLI::App* command = app.add_subcommand(name, help)->group("Commands");
   command->footer(std::string("Example:\n  ostrane-dat ") + example);
-  command->add_flag("-q,--quiet", options.is_quiet, "No notes and no progress");
+  command->add_flag("-q,--quiet", options.is_quiet, "Suppress notes and progress");
   command->callback([&options, job = std::move(job)] { options.chosen = job; });
   return command;
 }
 
-void add_archive(CLI::App* command, std::string& archive) {
-  command->add_option("ARCHIVE", archive, "The archive")->required();
+// Adds a positional argument. Its help shows no type.
+template <typename Value>
+CLI::Option* add_argument(CLI::App* command, const char* name, Value& value,
+                          const std::string& help) {
+  return command->add_option(name, value, help)->type_name("");
 }
 
-constexpr const char* names_help =
-    "Names of entries; case is ignored, * and ? stand for characters";
+void add_archive(CLI::App* command, std::string& archive) {
+  add_argument(command, "ARCHIVE", archive, "The archive")->required();
+}
+
+void add_folder(CLI::App* command, std::string& folder) {
+  command->add_option("-d", folder, "The folder to write to (default: the current one)")
+      ->type_name("FOLDER");
+}
+
+constexpr const char* names_help = "Names of entries; * and ? are wildcards, case is ignored";
 
 void add_list(CLI::App& app, all_options& all) {
   list_options& options = all.list;
-  CLI::App* command = add_command(app, all, "list", "Prints the names of the entries",
+  CLI::App* command = add_command(app, all, "list", "Print the names of the entries",
                                   "list ostrane.dat --long", [&options] { return list(options); });
   add_archive(command, options.archive);
-  command->add_flag("-l,--long", options.is_long, "Size, offset, kind, icons, description too");
-  command->add_flag("--json", options.is_json, "The same as an array of objects");
+  command->add_flag("-l,--long", options.is_long,
+                    "Also print size, offset, kind, number of icons and description");
+  command->add_flag("--json", options.is_json, "Print the same as a JSON array of objects");
   command
       ->add_option("--icon-names", options.icon_names,
-                   "The file with the descriptions, instead of iconlist.csv beside the program")
+                   "The descriptions (default: iconlist.csv in the program's folder)")
       ->type_name("FILE");
 }
 
 void add_extract(CLI::App& app, all_options& all) {
   extract_options& options = all.extract;
   CLI::App* command =
-      add_command(app, all, "extract", "Writes entries as files",
+      add_command(app, all, "extract", "Write entries to files",
                   "extract ostrane.dat '*.SHP' -d work", [&options] { return extract(options); });
   add_archive(command, options.archive);
-  command->add_option("NAME", options.names, names_help);
-  command->add_option("-d", options.folder, "The folder to write to")->type_name("FOLDER");
+  add_argument(command, "NAME", options.names, std::string(names_help) + " (default: all entries)");
+  add_folder(command, options.folder);
 }
 
 void add_build(CLI::App& app, all_options& all) {
   build_options& options = all.build;
   CLI::App* command =
-      add_command(app, all, "build", "Makes an archive of the files of a folder",
+      add_command(app, all, "build", "Make an archive from the files in a folder",
                   "build work -o ostrane.dat", [&options] { return build(options); });
-  command->add_option("FOLDER", options.folder, "The folder")->required();
-  command->add_option("-o", options.archive, "The archive, instead of OSTRANE.DAT in the folder")
+  add_argument(command, "FOLDER", options.folder, "The folder")->required();
+  command
+      ->add_option("-o", options.archive, "The archive to write (default: OSTRANE.DAT in FOLDER)")
       ->type_name("ARCHIVE");
 }
 
 void add_add(CLI::App& app, all_options& all) {
   add_options& options = all.add;
   CLI::App* command =
-      add_command(app, all, "add", "Puts files into an archive, for entries of their names or new",
+      add_command(app, all, "add", "Add files to an archive; entries with their names are replaced",
                   "add ostrane.dat GEMS.SHP", [&options] { return add(options); });
   add_archive(command, options.archive);
-  command->add_option("FILE", options.files, "The files")->required();
+  add_argument(command, "FILE", options.files, "The files")->required();
 }
 
 void add_remove(CLI::App& app, all_options& all) {
   remove_options& options = all.remove;
   CLI::App* command =
-      add_command(app, all, "remove", "Takes entries out of an archive",
+      add_command(app, all, "remove", "Remove entries from an archive",
                   "remove ostrane.dat CHIME.WAV", [&options] { return remove(options); });
   add_archive(command, options.archive);
-  command->add_option("NAME", options.names, names_help)->required();
+  add_argument(command, "NAME", options.names, names_help)->required();
 }
 
 void add_compare(CLI::App& app, all_options& all) {
   compare_options& options = all.compare;
   CLI::App* command =
-      add_command(app, all, "compare", "Tells which names only an archive or only a list has",
+      add_command(app, all, "compare", "Report names that only an archive or only a list has",
                   "compare ostrane.dat shplist.txt", [&options] { return compare(options); });
   add_archive(command, options.archive);
-  command->add_option("SHIPLIST", options.shiplist, "The list, a name on each line")->required();
-  command->add_option("-o", options.report, "The file for the report")->type_name("REPORT");
+  add_argument(command, "SHIPLIST", options.shiplist, "The list, one name per line")->required();
+  command->add_option("-o", options.report, "The report to write (default: standard output)")
+      ->type_name("REPORT");
 }
 
 void add_check(CLI::App& app, all_options& all) {
   check_options& options = all.check;
-  CLI::App* command =
-      add_command(app, all, "check", "Tells the faults of archives, one on each line",
-                  "check ostrane.dat", [&options] { return check(options); });
-  command->add_option("ARCHIVE", options.archives, "The archives")->required();
+  CLI::App* command = add_command(app, all, "check", "Report the faults of archives, one per line",
+                                  "check ostrane.dat", [&options] { return check(options); });
+  add_argument(command, "ARCHIVE", options.archives, "The archives")->required();
+}
+
+void add_form(CLI::App* command, picture_form& form) {
+  const std::map<std::string, picture_form> forms = {
+      {"png", picture_form::png}, {"sheet", picture_form::sheet}, {"gif", picture_form::gif}};
+  command
+      ->add_option_function<std::string>(
+          "--as", [&form, forms](const std::string& name) { form = forms.at(name); },
+          "One PNG per icon (default), one PNG with all icons, or an animation")
+      ->check(CLI::IsMember(forms))
+      ->type_name("png|sheet|gif")
+      ->option_text("png|sheet|gif");
 }
 
 void add_export(CLI::App& app, all_options& all) {
   export_options& options = all.exported;
   CLI::App* command = add_command(
-      app, all, "export", "Writes icons as PNG or GIF, palettes as PNG and GPL, texts in UTF-8",
+      app, all, "export", "Write icons as PNG or GIF, palettes as PNG and GPL, texts in UTF-8",
       "export ostrane.dat GEMS.SHP -d gems", [&options] { return export_entries(options); });
   add_archive(command, options.archive);
-  command->add_option("NAME", options.names, names_help)->required();
-  command->add_option("-d", options.folder, "The folder to write to")->type_name("FOLDER");
-  const std::map<std::string, picture_form> forms = {
-      {"png", picture_form::png}, {"sheet", picture_form::sheet}, {"gif", picture_form::gif}};
-  command->add_option("--as", options.form, "A PNG for each icon, one of all icons, or a motion")
-      ->transform(CLI::CheckedTransformer(forms))
-      ->type_name("png|sheet|gif")
-      ->option_text("png|sheet|gif");
+  add_argument(command, "NAME", options.names, names_help)->required();
+  add_folder(command, options.folder);
+  add_form(command, options.form);
   command
       ->add_option("--pace", options.pace,
-                   "Hundredths of a second for each picture of a motion or sheet")
+                   "Hundredths of a second per icon of a GIF or sheet (default: 10)")
       ->check(CLI::Range(1, 65535))
       ->option_text("N");
-  command->add_option("--scale", options.scale, "Repeats each pixel so often, both ways")
+  command
+      ->add_option("--scale", options.scale, "Enlarge the pictures N times (1 to 64, default: 1)")
       ->check(CLI::Range(1, 64))
       ->option_text("N");
 }
 
 void add_import(CLI::App& app, all_options& all) {
   import_options& options = all.imported;
-  CLI::App* command = add_command(app, all, "import", "Makes an icon file of PNGs",
+  CLI::App* command = add_command(app, all, "import", "Make an icon file from PNGs",
                                   "import gems -o GEMS.SHP --palette ostrane.dat",
                                   [&options] { return import_pictures(options); });
-  command->add_option("SOURCE", options.sources, "PNGs, or a folder or its JSON from export")
+  add_argument(command, "SOURCE", options.sources, "PNGs, or the folder or the JSON of an export")
       ->required();
   command->add_option("-o", options.icon_file, "The icon file to write")
       ->required()
       ->type_name("FILE.SHP");
-  command->add_option("--palette", options.palette, "The archive, or a palette of 1024 bytes")
+  command
+      ->add_option("--palette", options.palette,
+                   "The archive or palette with the colours of the game")
       ->required()
       ->type_name("ARCHIVE|GAME.PAL");
-  command
-      ->add_option("--like", options.like, "Takes identifier, boxes and order from this icon file")
+  command->add_option("--like", options.like, "Keep identifier, boxes and order of this icon file")
       ->type_name("OLD.SHP");
 }
 
@@ -176,13 +198,16 @@ int run_chosen(const all_options& options) {
 
 }  // namespace
 
-int run(std::vector<std::string> arguments) {
-  CLI::App app("Lists, extracts, builds, checks and converts what an archive ostrane.dat holds.",
+int run_command(std::vector<std::string> arguments) {
+  CLI::App app("List, extract, build, change, compare and check archives, and convert their icons.",
                "ostrane-dat");
+  app.get_formatter()->label("REQUIRED", "(required)");
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  app.get_formatter()->label("Positionals", "Arguments");
   all_options options;
   app.require_subcommand(1);
   app.set_version_flag("--version", std::string("ostrane-dat ") + ostrane::version);
-  app.footer("ostrane-dat COMMAND --help tells of one command.");
+  app.footer("ostrane-dat COMMAND --help describes a command.");
   for (const auto add_one : {add_list, add_extract, add_build, add_add, add_remove, add_compare,
                              add_check, add_export, add_import}) {
     add_one(app, options);
@@ -192,7 +217,7 @@ int run(std::vector<std::string> arguments) {
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    print_error("", std::string(error.what()) + " (--help tells more)");
+    print_error("", std::string(error.what()) + " (see --help)");
     return status_failed;
   }
   return run_chosen(options);
