@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # bench/peers.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
-# table of the medians. Both sides of a row run in turns, ROUNDS times each (default 11). The data is
+# table of the medians. Both sides of a row alternate, ROUNDS times each (default 11). The data is
 # in memory if the system has /dev/shm. OSTRANE_BUILD is the build folder.
 set -euo pipefail
 cd "$(dirname "$0")/.."
