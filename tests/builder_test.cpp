@@ -93,6 +93,18 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
   }
 }
 
+// The list of files is still that of the other folder.
+TEST_F(builder_test, FindsTheListedFilesInATypedFolderInAnyCase) {
+  restart_with({{"a.txt", "listed"}, {"b.txt", "listed"}});
+  write("C:\\typed\\A.TXT", "typed a");
+  write("C:\\typed\\b.txt", "typed b");
+  open_build_dialog();
+  user::type(Form5.Text1, "C:\\typed");
+  user::click(Form5.Command1);
+  EXPECT_EQ(read("C:\\typed\\OSTRANE.DAT"),
+            archive_bytes({{"A.TXT", "typed a"}, {"B.TXT", "typed b"}}));
+}
+
 // The list, the views and extraction must not mix the previous archive with the new one.
 TEST_F(builder_test, OpensTheNewArchiveIfOneWasOpen) {
   restart_with({{"new.txt", "new"}, {"game.pal", std::string(1024, 2)}});

@@ -72,6 +72,31 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   }
 }
 
+// Blocks from the buffer and blocks that bypass it, then a step back by one buffer.
+TEST_F(files_test, CopiesBlocksOfAnySize) {
+  const std::string bytes = some_bytes(1000000);
+  write("C:\\from", bytes);
+  files::binary_file from;
+  files::binary_file to;
+  from.open_to_read(files::to_file_path("C:\\from"));
+  to.open_to_write(files::to_file_path("C:\\to"));
+  std::string expected;
+  std::size_t at = 0;
+  for (const std::size_t size : {100, 700000, 5000, 4095, 4096, 1, 200000, 0}) {
+    std::size_t left = size;
+    while (left > 0) left -= to.write_from(from, left);
+    expected += bytes.substr(at, size);
+    at += size;
+    const std::size_t back = at > 262144 ? at - 262144 : 0;
+    from.seek(static_cast<std::int64_t>(back));
+    to.write(from.next(9));
+    expected += bytes.substr(back, 9);
+    from.seek(static_cast<std::int64_t>(at));
+  }
+  to.close();
+  EXPECT_EQ(read("C:\\to"), expected);
+}
+
 TEST(CodePage, EveryByteSurvivesUtf8) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));

@@ -8,6 +8,7 @@
 #include "data/sign_column_text.h"
 #include "files/code_page.h"
 #include "files/failure.h"
+#include "files/file_error.h"
 #include "files/file_system.h"
 #include "files/paths.h"
 #include "files/system_name.h"
@@ -38,6 +39,28 @@ std::vector<std::string> listed_files() {
     if (files::lower_case(name) != "ostrane.dat") names.push_back(name);
   }
   return names;
+}
+
+void set_paths(build_job& job, bool in_any_case) {
+  const std::filesystem::path folder = files::system_path(job.list.folder, job.names);
+  job.list.paths.clear();
+  for (const std::string& name : job.list.names) {
+    const std::filesystem::path path =
+        in_any_case ? job.names.find(folder, name) : folder / files::system_name(name);
+    job.list.paths.push_back({path, job.list.folder + name});
+  }
+}
+
+std::vector<dat_record> measure(build_job& job) {
+  set_paths(job, false);
+  try {
+    return measure_files(job.list, tool_state.make_index);
+  } catch (const files::file_error& error) {
+    if (error.number != files::file_error_number::file_not_found) throw;
+  }
+  // If the list is that of another folder, the files here may be spelled differently.
+  set_paths(job, true);
+  return measure_files(job.list, tool_state.make_index);
 }
 
 void show_current_file(const build_job& job, std::size_t index, const std::string& name) {
@@ -76,10 +99,7 @@ std::string skipped_message(const build_job& job) {
 void run(build_job& job) {
   show_progress_text("Calculation internal offsets for the files in Ostrane.dat");
   job.list.names = listed_files();
-  job.list.path_of = [&job](const std::string& name) {
-    return files::to_file_path(job.list.folder + name, job.names);
-  };
-  job.records = measure_files(job.list, tool_state.make_index);
+  job.records = measure(job);
   refresh_progress();
   write(job);
   // The archive is complete, so a failure to list the folder is only reported.

@@ -32,7 +32,7 @@ extraction_result extract_to(const std::filesystem::path& path) {
   return extract_entries(
       tool_state.archive_file, index_records(),
       [&path](const std::string&) { return files::from_system_path(path); },
-      [](const files::file_path&) {},
+      [](const std::string&) {},
       {.on_file = [](std::size_t, const std::string&, std::int32_t) {},
        .on_bytes = [](std::int32_t) {}},
       {.is_wanted = [wanted](std::size_t index) { return index == wanted; },

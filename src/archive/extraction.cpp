@@ -22,15 +22,24 @@ namespace {
 
 constexpr std::int16_t entries_per_bar_step = 49;
 
+struct extraction_job {
+  std::string folder;  // tool path, ends in "\\"
+  std::filesystem::path system_folder = {};
+  files::case_insensitive_lookup names = {};
+};
+
 // Opens the archive. Returns why nothing can be extracted, or "".
-std::string prepare(const std::string& target_folder) {
-  if (!files::folder_exists(target_folder)) {
-    return "The folder " + target_folder + " is not there. Make it or choose another.";
+std::string prepare(extraction_job& job) {
+  if (!files::folder_exists(job.folder)) {
+    return "The folder " + job.folder + " is not there. Make it or choose another.";
   }
   if (tool_state.record_count > 1 && tool_state.dat_index[0].offset < 0) {
     return "The index of " + tool_state.archive_path_copy + " puts entries before the file.";
   }
-  return files::failure_of(open_archive_file);
+  return files::failure_of([&job] {
+    job.system_folder = files::system_path(job.folder, job.names);
+    open_archive_file();
+  });
 }
 
 void show_current_entry(const std::string& path, std::size_t index, std::int32_t size) {
@@ -40,18 +49,19 @@ void show_current_entry(const std::string& path, std::size_t index, std::int32_t
   set_file_range(std::max(size, 0));
 }
 
-extraction_result extract(const std::string& target_folder) {
-  files::case_insensitive_lookup names;
+extraction_result extract(extraction_job& job) {
   std::int16_t total_bar_tick = 0;
   set_total_range(std::max(tool_state.record_count - 2, 0));
   return extract_entries(
       tool_state.archive_file, index_records(),
-      [&](const std::string& name) { return files::to_file_path(target_folder + name, names); },
-      [&](const files::file_path& made) { names.add(made.system); },
+      [&](const std::string& name) {
+        return files::file_path{job.names.find(job.system_folder, name), job.folder + name};
+      },
+      [&](const std::string& name) { job.names.add(job.system_folder, name); },
       {.on_file =
            [&](std::size_t index, const std::string& name, std::int32_t size) {
              move_total_bar(total_bar_tick, entries_per_bar_step, index);
-             show_current_entry(target_folder + name, index, size);
+             show_current_entry(job.folder + name, index, size);
            },
        .on_bytes = move_file_bar});
 }
@@ -70,18 +80,18 @@ std::string result_message(const extraction_result& result, const std::string& t
 }  // namespace
 
 void extract_all_entries() {
-  const std::string target_folder = files::with_separator(Form4.Text1.Text());
-  const std::string failure = prepare(target_folder);
+  extraction_job job = {.folder = files::with_separator(Form4.Text1.Text())};
+  const std::string failure = prepare(job);
   if (!failure.empty()) {
     tool_state.archive_file.close();
     forms_layer::message_box(failure + " Nothing was extracted.");
     return;
   }
   show_progress("Ostrane.dat tool - File Extraction");
-  const extraction_result result = extract(target_folder);
+  const extraction_result result = extract(job);
   tool_state.archive_file.close();
   hide_progress("Ostrane.dat tool - ");
-  forms_layer::message_box(result_message(result, target_folder));
+  forms_layer::message_box(result_message(result, job.folder));
   const bool none_written = !result.skipped.empty() && result.written == 0;
   if (!result.stopped.empty() || none_written) return;
   Form4.Visible = false;

@@ -35,12 +35,11 @@ bool is_target(const build_job& job, const std::string& name) {
 void list_files(build_job& job) {
   job.list.folder = argument_of_path(job.folder.system / "");
   for (const std::string& name : files::files_in(job.folder)) {
-    if (!is_target(job, name)) job.list.names.push_back(name);
-  }
-  job.list.path_of = [&job](const std::string& name) {
+    if (is_target(job, name)) continue;
     const fs::path path = job.folder.system / files::system_name(name);
-    return files::file_path{path, argument_of_path(path) + ":"};
-  };
+    job.list.names.push_back(name);
+    job.list.paths.push_back({path, argument_of_path(path) + ":"});
+  }
   job.files.resize(job.list.names.size());
 }
 

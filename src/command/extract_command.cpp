@@ -1,6 +1,7 @@
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
+#include "command/program.h"
 #include "data/extraction.h"
 #include "files/code_page.h"
 
@@ -38,7 +39,7 @@ int extract(const extract_options& options) {
   const extraction_result result = extract_entries(
       file, index.records,
       [&](const std::string& name) { return file_in(options.folder, name, names); },
-      [&](const files::file_path& created) { names.add(created.system); },
+      [&](const std::string& name) { names.add(path_of_argument(options.folder), name); },
       {.on_file =
            [&](std::size_t number, const std::string& name, std::int32_t) {
              current = number;

@@ -18,9 +18,10 @@ void copy_file(const build_list& list, std::size_t index, std::int32_t size,
                const job_progress& progress) {
   const std::string& name = list.names[index];
   std::int16_t small_block_bytes = 0;
-  source.open_to_read(list.path_of(name));
+  source.open_to_read(list.paths[index]);
   progress.on_file(index, name, size);
-  const std::int32_t copied = chunk_ladder(source, archive, size, small_block_bytes, progress);
+  const auto copy = [&](std::size_t max) { return archive.write_from(source, max); };
+  const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || source.read(one_more) > 0) {
     throw data_error(list.folder + name + " has changed its size meanwhile.");
@@ -39,7 +40,7 @@ std::vector<dat_record> measure_files(const build_list& list, std::span<make_rec
   std::vector<dat_record> records;
   records.reserve(list.names.size() + 1);
   for (std::size_t i = 0; i < list.names.size(); ++i) {
-    const std::int64_t size = files::file_size(list.path_of(list.names[i]));
+    const std::int64_t size = files::file_size(list.paths[i]);
     if (next_offset + size > INT32_MAX) {
       throw data_error("With " + list.folder + list.names[i] +
                        " the archive would be larger than 2 GB, which is the most that it can be.");

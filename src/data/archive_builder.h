@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -17,7 +16,7 @@ constexpr const char* archive_name = "OSTRANE.DAT";
 struct build_list {
   std::string folder;  // prefix of a name in messages
   std::vector<std::string> names;
-  std::function<files::file_path(const std::string& name)> path_of;
+  std::vector<files::file_path> paths;  // of the names
 };
 
 // Fills `files`, which has one element per name, and returns the index of the archive. Throws

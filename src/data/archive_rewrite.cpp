@@ -66,11 +66,13 @@ void copy_entry(const rewriting& job, const rewritten_entry& entry, std::int32_t
   std::int16_t small_block_bytes = 0;
   if (entry.old_index) {
     job.archive.seek(job.old.records[*entry.old_index].offset);
-    if (chunk_ladder(job.archive, to, size, small_block_bytes, job.progress) == size) return;
+    const auto copy = [&](std::size_t max) { return to.write_from(job.archive, max); };
+    if (chunk_ladder(copy, size, small_block_bytes, job.progress) == size) return;
     throw data_error("The archive was cut meanwhile.");
   }
   job.file.open_to_read(entry.file);
-  const std::int32_t copied = chunk_ladder(job.file, to, size, small_block_bytes, job.progress);
+  const auto copy = [&](std::size_t max) { return to.write_from(job.file, max); };
+  const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, job.progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || job.file.read(one_more) > 0) {
     throw data_error(entry.file.shown + " has changed its size meanwhile.");

@@ -15,6 +15,8 @@ namespace ostrane {
 
 namespace {
 
+constexpr const char* archive_too_short = "the archive ends before it does";
+
 // The file of an entry. The destructor removes a new file that is incomplete.
 struct entry_file {
   files::binary_file& file;
@@ -58,17 +60,21 @@ void require_unchanged(extraction& job) {
   throw data_error("The archive was written to meanwhile. Extract it again.");
 }
 
+// Copies the current entry to an open file. Returns false if the archive ends before it does.
+bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
+  job.archive.seek(job.position);
+  const auto copy = [&](std::size_t max) { return to.write_from(job.archive, max); };
+  return chunk_ladder(copy, size, job.small_block_bytes, job.progress) == size;
+}
+
 // Like write_entry, but replaces an existing file atomically.
 std::string replace_entry_file(extraction& job, const std::string& name, std::int32_t size) {
   const files::file_path path = job.target(name);
   files::whole_file to(job.file, path, job.stamp.identity);
-  job.archive.seek(job.position);
-  const std::int32_t copied =
-      chunk_ladder(job.archive, job.file, size, job.small_block_bytes, job.progress);
-  if (copied < size) return "the archive ends before it does";
+  if (!copy_entry(job, job.file, size)) return archive_too_short;
   require_unchanged(job);  // before the old file is replaced
   to.keep();
-  job.on_created(path);
+  job.on_created(name);
   return "";
 }
 
@@ -77,14 +83,11 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   if (job.choice.replaces_atomically) return replace_entry_file(job, name, size);
   entry_file to(job.file, job.target(name));
   if (to.is_new) {
-    job.on_created(to.path);
+    job.on_created(name);
   } else if (to.file.info().stamp.identity == job.stamp.identity) {
     return "it would be written over the open archive";
   }
-  job.archive.seek(job.position);
-  const std::int32_t copied =
-      chunk_ladder(job.archive, to.file, size, job.small_block_bytes, job.progress);
-  if (copied < size) return "the archive ends before it does";
+  if (!copy_entry(job, to.file, size)) return archive_too_short;
   to.file.close();
   to.is_complete = true;
   return "";
@@ -96,7 +99,7 @@ std::string reason_to_skip(const extraction& job, const std::string& name, std::
   if (job.position < 0) return "the index puts it before the file";
   std::string reason = unsafe_name_reason(name);
   if (reason.empty() && job.position + size > job.stamp.size) {
-    reason = "the archive ends before it does";
+    reason = archive_too_short;
   }
   return reason;
 }

@@ -21,9 +21,9 @@ struct extraction_result {
 
 // Returns the path of the file for an entry.
 using entry_target = std::function<files::file_path(const std::string& name)>;
-// Called after a new file was created, so that the caller's look-up of names knows it: a later
-// entry whose name differs in case only must be written to the same file.
-using entry_file_created = std::function<void(const files::file_path& path)>;
+// Called with the name of an entry after its file was created, so that the caller's look-up of
+// names knows it: a later entry whose name differs in case only must be written to the same file.
+using entry_file_created = std::function<void(const std::string& name)>;
 
 struct extraction_choice {
   std::function<bool(std::size_t index)> is_wanted;  // null for all

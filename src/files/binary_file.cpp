@@ -11,6 +11,8 @@ namespace files {
 namespace {
 
 constexpr std::size_t buffer_size = 262144;
+// A block of this size costs less in a system call of its own than in a copy through a buffer.
+constexpr std::size_t min_direct_block = 4096;
 
 }  // namespace
 
@@ -116,6 +118,10 @@ std::size_t binary_file::read(std::span<std::byte> to) {
 }
 
 void binary_file::write(std::span<const std::byte> from) {
+  if (position_ == 0 && from.size() >= min_direct_block) {
+    write_to_system(from);
+    return;
+  }
   while (!from.empty()) {
     if (position_ == buffer_size) flush();
     const std::size_t part = std::min(buffer_size - position_, from.size());
@@ -123,6 +129,23 @@ void binary_file::write(std::span<const std::byte> from) {
     position_ += part;
     from = from.subspan(part);
   }
+}
+
+std::size_t binary_file::write_from(binary_file& source, std::size_t max) {
+  if (source.position_ < source.fill_ || max < min_direct_block) {
+    const std::span<const std::byte> part = source.next(max);
+    write(part);
+    return part.size();
+  }
+  // Reads straight into the buffer of this file.
+  if (position_ == buffer_size) flush();
+  const std::size_t space = std::min(buffer_size - position_, max);
+  const std::size_t moved = source.read_from_system(std::span(buffer_).subspan(position_, space));
+  source.buffer_start_ += static_cast<std::int64_t>(source.fill_ + moved);
+  source.position_ = 0;
+  source.fill_ = 0;
+  position_ += moved;
+  return moved;
 }
 
 file_info binary_file::info() {
@@ -138,17 +161,19 @@ void binary_file::truncate() {
   if (outcome < 0) fail(outcome, " cannot be written: ");
 }
 
-void binary_file::flush(bool to_disk) {
-  std::size_t written = 0;
-  const std::size_t count = position_;
-  position_ = 0;  // so that close() does not retry a failed write
-  while (writes_ && written < count) {
-    const std::int64_t moved =
-        file_calls::write_some(file_, buffer_.data() + written, count - written);
+void binary_file::write_to_system(std::span<const std::byte> from) {
+  while (!from.empty()) {
+    const std::int64_t moved = file_calls::write_some(file_, from.data(), from.size());
     if (moved <= 0) fail(moved < 0 ? moved : -EIO, " cannot be written: ");
-    written += static_cast<std::size_t>(moved);
+    from = from.subspan(static_cast<std::size_t>(moved));
     buffer_start_ += moved;
   }
+}
+
+void binary_file::flush(bool to_disk) {
+  const std::size_t count = position_;
+  position_ = 0;  // so that close() does not retry a failed write
+  if (writes_) write_to_system(std::span(buffer_).first(count));
   if (!to_disk) return;
   const int flushed = file_calls::flush_to_disk(file_);
   if (flushed < 0) fail(flushed, " cannot be written: ");

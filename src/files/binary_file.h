@@ -38,6 +38,8 @@ class binary_file {
   // until the next call.
   std::span<const std::byte> next(std::size_t max);
   void write(std::span<const std::byte> from);
+  // Writes the next bytes of `source`, at most `max`, and returns how many; 0 at its end.
+  std::size_t write_from(binary_file& source, std::size_t max);
   // Truncates the file at the current position. For files open for writing.
   void truncate();
   file_info info();
@@ -59,6 +61,7 @@ class binary_file {
   [[noreturn]] void fail(std::int64_t outcome, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
+  void write_to_system(std::span<const std::byte> from);
 
   int file_ = -1;
   bool writes_ = false;

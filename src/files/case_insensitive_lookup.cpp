@@ -58,12 +58,10 @@ fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string
   return left == known.names.end() ? exact : folder / left->second;
 }
 
-void case_insensitive_lookup::add(const fs::path& path) {
-  const auto known = folders_.find(path.parent_path().native());
+void case_insensitive_lookup::add(const fs::path& folder, const std::string& name) {
+  const auto known = folders_.find(folder.native());
   if (known == folders_.end() || !known->second.is_read) return;
-  if (const std::optional<std::string> text = name_as_text(path.filename().native())) {
-    known->second.names.emplace(upper_case(*text), path.filename().native());
-  }
+  known->second.names.emplace(upper_case(name), system_name(name).native());
 }
 
 fs::path existing_spelling(const fs::path& path) {

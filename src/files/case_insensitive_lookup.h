@@ -14,8 +14,8 @@ class case_insensitive_lookup {
   // case only, else the name as given.
   std::filesystem::path find(const std::filesystem::path& folder, const std::string& name);
 
-  // Adds a file that was created at `path` to the cache.
-  void add(const std::filesystem::path& path);
+  // Adds a file `name` that was created in `folder` to the cache.
+  void add(const std::filesystem::path& folder, const std::string& name);
 
   // Cache of system_path: system paths of folders by their full tool paths, which end in "\".
   std::unordered_map<std::string, std::filesystem::path> known_folders;

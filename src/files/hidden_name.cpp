@@ -48,6 +48,8 @@ fs::path::string_type stem_of_temporary(const fs::path::string_type& name) {
   return has_stamp ? name.substr(0, at - 1) : fs::path::string_type();
 }
 
+bool starts_with_dot(const fs::path& name) { return name.native().starts_with('.'); }
+
 }  // namespace
 
 fs::path lock_beside(const fs::path& target) {
@@ -62,6 +64,7 @@ fs::path temporary_beside(const fs::path& target) {
 }
 
 bool is_temporary_of(const fs::path& target, const fs::path& name) {
+  if (!starts_with_dot(name)) return false;
   const fs::path::string_type stem = stem_of(target);
   // Version 1 used names without a time stamp.
   const bool is_old = name.native() == stem + fs::path(temporary_ending).native();
@@ -69,11 +72,12 @@ bool is_temporary_of(const fs::path& target, const fs::path& name) {
 }
 
 bool is_work_file(const fs::path& name) {
+  if (!starts_with_dot(name)) return false;
   const fs::path::string_type& text = name.native();
   const fs::path::string_type ending = fs::path(lock_ending).native();
   fs::path::string_type stem = stem_of_temporary(text);
   if (text.ends_with(ending)) stem = text.substr(0, text.size() - ending.size());
-  return stem.size() > 1 && stem.front() == '.' && stem_of(stem.substr(1)) == stem;
+  return stem.size() > 1 && stem_of(stem.substr(1)) == stem;
 }
 
 }  // namespace files

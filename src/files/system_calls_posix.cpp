@@ -23,8 +23,10 @@ namespace fs = std::filesystem;
 int result(int outcome) { return outcome < 0 ? -errno : outcome; }
 
 // Without O_NONBLOCK, open() of a pipe waits for its other end.
-int open_regular(const fs::path& path, int flags, mode_t permissions = 0666) {
-  const int file = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, permissions);
+constexpr int always = O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+
+int open_regular(const fs::path& path, int flags) {
+  const int file = open(path.c_str(), flags | always, 0666);
   if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
   if (fstat(file, &status) == 0 && S_ISREG(status.st_mode)) return file;
@@ -38,8 +40,10 @@ int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
 // Without O_CREAT, which the system may refuse for another user's file in a sticky folder.
 int open_to_write(const fs::path& path) { return open_regular(path, O_WRONLY); }
 
+// A file that O_EXCL creates is a regular one.
 int open_new(const fs::path& path, bool is_private) {
-  return open_regular(path, O_WRONLY | O_CREAT | O_EXCL, is_private ? 0600 : 0666);
+  const mode_t permissions = is_private ? 0600 : 0666;
+  return result(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | always, permissions));
 }
 
 // Reading is enough to lock the file of another user.
