@@ -74,12 +74,15 @@ void multiline_text_view::show_content() {
   const QString now = with_short_lines(normalize_newlines(to_screen(box_.Text())));
   if (now == toPlainText()) return;
   const QSignalBlocker quiet(this);
-  setPlainText(with_joined_lines(now));
+  const QString shown = with_joined_lines(now);
+  has_joined_lines_ = shown.contains(QChar::LineSeparator);
+  setPlainText(shown);
   count_lines();
 }
 
 // The scroll bar counts lines, and Qt counts those of a block only when it paints it.
 void multiline_text_view::count_lines() {
+  if (!has_joined_lines_) return;
   for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
     block.setLineCount(1 + static_cast<int>(block.text().count(QChar::LineSeparator)));
   }

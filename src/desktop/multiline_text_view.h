@@ -26,6 +26,7 @@ class multiline_text_view : public QPlainTextEdit, public control_view {
   void count_lines();
 
   forms_layer::text_box& box_;
+  bool has_joined_lines_ = false;
   QTimer pause_;
 };
 
