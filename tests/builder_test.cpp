@@ -60,7 +60,7 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
   const std::tuple<std::function<void()>, std::function<void()>, std::string> cases[] = {
       {remove_b, nothing, "C:\\work\\b.txt cannot be read: it is not there."},
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
-      {nothing, append_to_b, "C:\\work\\b.txt has changed its size meanwhile."},
+      {nothing, append_to_b, "C:\\work\\b.txt has changed its size during the copy."},
       {enlarge_b, nothing,
        "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
        "be."},

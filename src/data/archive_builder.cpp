@@ -24,9 +24,20 @@ void copy_file(const build_list& list, std::size_t index, std::int32_t size,
   const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || source.read(one_more) > 0) {
-    throw data_error(list.folder + name + " has changed its size meanwhile.");
+    throw data_error(list.folder + name + " has changed its size during the copy.");
   }
   source.close();
+}
+
+// `end` is the offset after the last entry.
+std::vector<dat_record> index_of(std::span<const make_record> files, std::int32_t end) {
+  std::vector<dat_record> records;
+  records.reserve(files.size() + 1);
+  for (const make_record& file : files) {
+    records.push_back({.offset = file.offset, .name = stored_name(file.name)});
+  }
+  records.push_back({.offset = end, .name = {}});
+  return records;
 }
 
 }  // namespace
@@ -37,8 +48,6 @@ std::vector<dat_record> measure_files(const build_list& list, std::span<make_rec
                      ". An archive holds at most " + std::to_string(max_files) + ".");
   }
   std::int32_t next_offset = first_entry_offset(list.names.size());
-  std::vector<dat_record> records;
-  records.reserve(list.names.size() + 1);
   for (std::size_t i = 0; i < list.names.size(); ++i) {
     const std::int64_t size = files::file_size(list.paths[i]);
     if (next_offset + size > INT32_MAX) {
@@ -48,11 +57,9 @@ std::vector<dat_record> measure_files(const build_list& list, std::span<make_rec
     files[i] = {.size = static_cast<std::int32_t>(size),
                 .name = padded_name(list.names[i]),
                 .offset = next_offset};
-    records.push_back({.offset = next_offset, .name = stored_name(files[i].name)});
     next_offset += files[i].size;
   }
-  records.push_back({.offset = next_offset, .name = {}});
-  return records;
+  return index_of(files.first(list.names.size()), next_offset);
 }
 
 void write_archive_to(files::binary_file& archive, const build_list& list,
@@ -74,7 +81,7 @@ void write_archive(const build_list& list, std::span<const make_record> files,
   archive.put_in_place();
   // put_in_place kept the spelling of the old file, so there are never two archives. A failure to
   // rename it now is harmless, as names are compared case-insensitively.
-  files::failure_of([&] { archive.respell(target.system); });
+  files::ignore_failure([&] { archive.respell(target.system); });
   archive.flush_folder();
 }
 

@@ -19,8 +19,16 @@ struct build_list {
   std::vector<files::file_path> paths;  // of the names
 };
 
-// Fills `files`, which has one element per name, and returns the index of the archive. Throws
-// file_error, and data_error if there are too many files or too many bytes.
+// A file of a build list, measured: its size, its name, and the place of its entry in the archive.
+// The archive's index is derived from these records.
+struct make_record {
+  std::int32_t size;    // bytes
+  record_name name;     // as padded_name returns it
+  std::int32_t offset;  // of the entry in the new archive
+};
+
+// Fills `files`, which has at least one element per name, and returns the index of the archive.
+// Throws file_error, and data_error if there are too many files or too many bytes.
 std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files);
 
 // Writes the archive to an open file. `files` and `records` come from measure_files. Throws

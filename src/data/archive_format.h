@@ -34,13 +34,6 @@ struct dat_record {
   record_name name;  // as in the file, with NUL characters
 };
 
-// One file of a new archive.
-struct make_record {
-  std::int32_t size;    // bytes
-  record_name name;     // as padded_name returns it
-  std::int32_t offset;  // of the entry in the new archive
-};
-
 using record_bytes = std::span<std::byte, record_size>;
 
 // Converts a record from and to its bytes in the file. Offsets are not checked.

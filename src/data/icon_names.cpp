@@ -19,8 +19,8 @@ icon_name_pair pair_of(std::string_view line) {
 
 std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
   std::vector<icon_name_pair> rows(1);
-  // Descriptions are optional, so a failure is not reported.
-  files::failure_of([&] {
+  // Descriptions are optional.
+  files::ignore_failure([&] {
     files::text_reader reader(path);
     while (!reader.at_end() && rows.size() <= max_icon_names) {
       rows.push_back(pair_of(reader.read_line()));

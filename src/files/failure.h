@@ -8,7 +8,7 @@ namespace files {
 
 // Runs `part` and catches its exceptions. Returns why it failed, as a sentence for the user, or "".
 template <typename Part>
-std::string failure_of(const Part& part) {
+[[nodiscard]] std::string failure_of(const Part& part) {
   try {
     part();
   } catch (const std::bad_alloc&) {
@@ -17,6 +17,11 @@ std::string failure_of(const Part& part) {
     return error.what();
   }
   return "";
+}
+
+template <typename Part>
+void ignore_failure(const Part& part) {
+  static_cast<void>(failure_of(part));
 }
 
 }  // namespace files

@@ -18,7 +18,7 @@ void set_default_palette() {
 void read_game_palette() {
   if (tool_state.game_pal_offset <= 0) return;
   std::size_t count = 0;
-  files::failure_of([&] {
+  files::ignore_failure([&] {
     open_archive_file();
     count = read_palette(tool_state.archive_file, tool_state.game_pal_offset,
                          tool_state.stored_palette);

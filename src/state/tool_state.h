@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "data/archive_builder.h"
 #include "data/archive_format.h"
 #include "data/icon_export.h"
 #include "data/icon_names.h"
