@@ -18,6 +18,22 @@ constexpr std::int16_t free_cell = -2;
 // remain.
 constexpr std::int32_t max_outside = 2 * max_skip;
 
+struct open_literal {
+  std::int32_t columns;
+  std::int32_t bytes;  // of the stream that ends in it
+};
+
+// A full literal, which cannot grow.
+constexpr open_literal no_literal = {.columns = max_op_pixels, .bytes = 0};
+
+// Adds a column to the literal or begins a new one, whichever is shorter. `bytes_before` is the
+// size of the shortest stream for the columns before.
+open_literal extended(const open_literal& literal, std::int32_t bytes_before) {
+  const std::int32_t new_bytes = bytes_before + 2;
+  if (literal.columns == max_op_pixels || literal.bytes + 1 >= new_bytes) return {1, new_bytes};
+  return {literal.columns + 1, literal.bytes + 1};
+}
+
 }  // namespace
 
 void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
@@ -33,41 +49,38 @@ void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
   stream += '\0';
 }
 
-// Dynamic programming in one pass: each step depends only on a few values of the columns before it.
-// The shortest stream never gets shorter from one column to the next, so the longest skip and the
-// longest run are the best ones. Only one open literal is kept: one that is a byte shorter is never
-// worse, because restarting a literal costs at most that byte. Of equal literals the one with fewer
-// columns can be extended further.
+// Dynamic programming. best[c] is the size of the shortest stream for the first c columns, the
+// minimum over the operation that ends it:
+//   skip or run of n columns:  best[c - n] + 2
+//   literal:                   literal[c] = min(literal[c - 1] + 1, best[c - 1] + 2)
+// best[c] never decreases with c, so n is the largest number of columns that end here and that one
+// skip or one run can cover. A skip covers all that a run can, where both are possible. A literal
+// that is a byte shorter is never worse than a longer one, as a new literal costs that byte; of
+// equal ones the new one can grow further. So one open literal is enough.
 void row_packer::find_steps() {
   steps_.resize(columns_.size() + 1);
-  step* to = steps_.data();  // step before the current column; its result goes to the next one
-  *to = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
-  std::int32_t skip = 0;
-  std::int32_t run = 0;
-  std::int32_t literal = max_op_pixels;  // columns of the open literal; a full one cannot grow
-  std::int32_t literal_bytes = 0;        // of the stream that ends in it
+  step* const best = steps_.data();
+  best[0] = {.bytes = 0, .kind = op_kind::skip, .columns = 0};
+  std::int32_t skip = 0;  // columns that end here and that skips can cover
+  std::int32_t run = 0;   // columns that end here and that runs of one colour can cover
+  open_literal literal = no_literal;
   std::int16_t before = free_cell;
+  std::int32_t c = 0;
   for (const std::int16_t cell : columns_) {
     const bool can_skip = cell < 0;
     const bool can_paint = cell != picture::unset;
-    run = !can_paint ? 0 : before == free_cell || cell == before ? run + 1 : 1;
+    const bool continues_run = before == free_cell || cell == before;
     skip = can_skip ? skip + 1 : 0;
-    if (!can_paint) {
-      literal = max_op_pixels;
-    } else if (literal == max_op_pixels || literal_bytes + 1 >= to->bytes + 2) {
-      literal = 1;
-      literal_bytes = to->bytes + 2;
-    } else {
-      ++literal;
-      ++literal_bytes;
+    run = !can_paint ? 0 : continues_run ? run + 1 : 1;
+    literal = can_paint ? extended(literal, best[c].bytes) : no_literal;
+    const std::int32_t n = can_skip ? std::min(skip, max_skip) : std::min(run, max_op_pixels);
+    ++c;
+    best[c] = {.bytes = best[c - n].bytes + 2,
+               .kind = can_skip ? op_kind::skip : op_kind::run,
+               .columns = static_cast<std::uint8_t>(n)};
+    if (can_paint && literal.bytes < best[c].bytes) {
+      best[c] = {literal.bytes, op_kind::literal, static_cast<std::uint8_t>(literal.columns)};
     }
-    const op_kind kind = can_skip ? op_kind::skip : op_kind::run;
-    const std::int32_t columns = can_skip ? std::min(skip, max_skip) : std::min(run, max_op_pixels);
-    step best = {to[1 - columns].bytes + 2, kind, static_cast<std::uint8_t>(columns)};
-    if (can_paint && literal_bytes < best.bytes) {
-      best = {literal_bytes, op_kind::literal, static_cast<std::uint8_t>(literal)};
-    }
-    *++to = best;
     before = cell;
   }
 }
