@@ -105,10 +105,4 @@ bool write_compare_report(const files::file_path& path, const name_list& archive
   return differs;
 }
 
-void write_name_list(const files::file_path& path, const name_list& archive) {
-  files::text_writer writer(path, archive.archive);
-  for (std::int32_t row = 0; row < archive.count; ++row) writer.write_line(archive.name(row));
-  writer.close();
-}
-
 }  // namespace ostrane

@@ -1,22 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <string>
 #include <string_view>
 
+#include "data/name_list.h"
 #include "data/shiplist.h"
-#include "files/file_path.h"
-#include "files/system_calls.h"
 
 namespace ostrane {
-
-// The names of an archive, the end record included.
-struct name_list {
-  std::int32_t count = 0;
-  // Returns "" for a row that does not exist.
-  std::function<const std::string&(std::int32_t row)> name;
-  files::file_identity archive = {};  // of the archive, which a list must not overwrite
-};
 
 // Receives the lines of a report, without line ends.
 using line_writer = std::function<void(std::string_view line)>;
@@ -31,8 +21,5 @@ bool write_compare_report(const line_writer& write_line, const name_list& archiv
 // Writes the same to a file. Throws file_error.
 bool write_compare_report(const files::file_path& path, const name_list& archive,
                           shiplist_comparison& comparison);
-
-// Writes the names, one per line. Throws file_error.
-void write_name_list(const files::file_path& path, const name_list& archive);
 
 }  // namespace ostrane

@@ -1,5 +1,6 @@
 #include "lists/compare.h"
 
+#include "data/compare_report.h"
 #include "files/failure.h"
 #include "files/paths.h"
 #include "files/text.h"

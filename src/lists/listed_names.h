@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/compare_report.h"
+#include "data/name_list.h"
 
 namespace ostrane {
 
