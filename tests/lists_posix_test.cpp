@@ -72,7 +72,7 @@ TEST_F(lists_test, NoListIsWrittenOverTheOpenArchive) {
     user::click(Form1.mnu_save);
     EXPECT_EQ(new_messages(),
               texts{"The list of files was not saved. shplist.txt cannot be written: "
-                    "it leads to the open archive."});
+                    "it is the open archive."});
   }
   EXPECT_EQ(read("C:\\ostrane.dat"), archive_bytes({{"A", "bytes"}}));
 }

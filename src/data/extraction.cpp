@@ -35,7 +35,7 @@ struct entry_file {
   ~entry_file() {
     if (is_complete) return;
     const bool created_here =
-        is_new && files::file_calls::is_made_file(path.system, info.stamp.identity);
+        is_new && files::file_calls::may_name(path.system, info.stamp.identity);
     file.abandon();
     if (created_here) files::file_calls::remove_file(path.system);
   }
@@ -57,7 +57,7 @@ struct extraction {
 
 void require_unchanged(extraction& job) {
   if (job.archive.info().stamp == job.stamp) return;
-  throw data_error("The archive was written to meanwhile. Extract it again.");
+  throw data_error("The archive was written to during the extraction. Extract it again.");
 }
 
 // Copies the current entry to an open file. Returns false if the archive ends before it does.

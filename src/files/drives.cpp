@@ -31,10 +31,10 @@ void refresh_drives() {
             [](const drive& a, const drive& b) { return a.letter < b.letter; });
 }
 
-void set_drives(std::vector<drive> given, std::string current) {
-  is_override = !given.empty();
+void set_drives(std::vector<drive> replacement, std::string current) {
+  is_override = !replacement.empty();
   is_known = is_override;
-  known = std::move(given);
+  known = std::move(replacement);
   current_override = std::move(current);
 }
 

@@ -21,9 +21,9 @@ void refresh_drives();
 
 // Replaces the system's drives, and the current folder of the process by the tool path `current`.
 // An empty list restores the system's.
-void set_drives(std::vector<drive> given, std::string current = {});
+void set_drives(std::vector<drive> replacement, std::string current = {});
 
-// The current folder that set_drives was given, or "".
+// The `current` of set_drives, or "".
 const std::string& current_folder_override();
 
 // `letter` is in upper case. Returns null if the drive does not exist.

@@ -73,22 +73,23 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
   }
 }
 
-int leads_to(const fs::path& path, const file_identity& identity) {
+path_match match(const fs::path& path, const file_identity& identity) {
   file_info found;
   const int outcome = info_at(path, found);
-  if (outcome == -ENOENT || outcome == -ENOTDIR) return 0;
-  if (outcome < 0) return outcome;
-  return found.stamp.identity == identity ? 1 : 0;
+  if (outcome == -ENOENT || outcome == -ENOTDIR) return {};
+  if (outcome < 0) return {.error = outcome};
+  return {.is_same = found.stamp.identity == identity};
 }
 
-int leads_to(const fs::path& path, int file) {
+path_match match(const fs::path& path, int file) {
   file_info open;
   const int outcome = info_of(file, open);
-  return outcome < 0 ? outcome : leads_to(path, open.stamp.identity);
+  if (outcome < 0) return {.error = outcome};
+  return match(path, open.stamp.identity);
 }
 
-bool is_made_file(const fs::path& path, const file_identity& identity) {
-  return identity == file_identity{} || leads_to(path, identity) != 0;
+bool may_name(const fs::path& path, const file_identity& identity) {
+  return identity == file_identity{} || !match(path, identity).is_other();
 }
 
 file_error_number error_number(int errno_number) {

@@ -28,13 +28,18 @@ int replace(const std::filesystem::path& file, const std::filesystem::path& targ
 int flush_folder(const std::filesystem::path& folder);
 int list(const std::filesystem::path& folder, std::vector<listed_entry>& found);
 
-// Returns 1 if `path` names this file, 0 if it names another one or none, or a negative errno
-// number.
-int leads_to(const std::filesystem::path& path, const file_identity& identity);
-int leads_to(const std::filesystem::path& path, int file);
+// Whether a path names a certain file.
+struct path_match {
+  bool is_same = false;
+  int error = 0;  // why it is unknown, a negative errno number
 
-// True unless `path` is known to name another file. A zero identity is unknown.
-bool is_made_file(const std::filesystem::path& path, const file_identity& identity);
+  bool is_other() const { return !is_same && error == 0; }  // another file or none
+};
+path_match match(const std::filesystem::path& path, const file_identity& identity);
+path_match match(const std::filesystem::path& path, int file);
+
+// True unless `path` is known to name another file or none. A zero identity is unknown.
+bool may_name(const std::filesystem::path& path, const file_identity& identity);
 
 // The errno number of an error of the standard library.
 int errno_number(const std::error_code& reason);

@@ -61,7 +61,7 @@ replaced_file::replaced_file(file_path target)
 }
 
 replaced_file::~replaced_file() {
-  if (is_own(temporary_) == 1) file_calls::remove_file(temporary_);
+  if (match(temporary_).is_same) file_calls::remove_file(temporary_);
   file_.abandon();
 }
 
@@ -74,21 +74,21 @@ void replaced_file::remove_leftovers() const {
     const fs::path leftover = folder_of(target_.system) / entry.name;
     const int file = file_calls::open_to_read(leftover);
     if (file < 0) continue;
-    if (file_calls::lock(file) >= 0 && file_calls::leads_to(leftover, file) == 1) {
+    if (file_calls::lock(file) >= 0 && file_calls::match(leftover, file).is_same) {
       file_calls::remove_file(leftover);
     }
     file_calls::close_file(file);
   }
 }
 
-int replaced_file::is_own(const fs::path& path) const {
-  return file_calls::leads_to(path, identity_);
+file_calls::path_match replaced_file::match(const fs::path& path) const {
+  return file_calls::match(path, identity_);
 }
 
 void replaced_file::require_own_file() const {
-  const int own = is_own(temporary_);
-  if (own < 0) file_calls::fail(target_.shown, cannot_write, own);
-  if (own == 1) return;
+  const file_calls::path_match found = match(temporary_);
+  if (found.error < 0) file_calls::fail(target_.shown, cannot_write, found.error);
+  if (found.is_same) return;
   throw file_error{file_error_number::device_error,
                    target_.shown + cannot_write + "another program has moved what was written."};
 }
@@ -99,8 +99,8 @@ void replaced_file::put_in_place() {
   file_.flush(true);
   require_own_file();
   const int replaced = file_calls::replace(temporary_, target_.system);
-  const int own = is_own(target_.system);
-  if (own == 1 || (own < 0 && replaced >= 0)) return;
+  const file_calls::path_match found = match(target_.system);
+  if (found.is_same || (found.error < 0 && replaced >= 0)) return;
   if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
   throw file_error{file_error_number::device_error,
                    target_.shown + cannot_write + "another program has replaced it."};
@@ -119,7 +119,7 @@ void replaced_file::copy_to(binary_file& to) {
 
 void replaced_file::respell(const fs::path& target) {
   if (target != target_.system) file_calls::replace(target_.system, target);
-  const fs::path& kept = is_own(target) == 1 ? target : target_.system;
+  const fs::path& kept = match(target).is_same ? target : target_.system;
   // A name that the code page lacks has no other spelling.
   const std::string folded = upper_case_name(kept.filename().native());
   if (folded.empty()) return;
@@ -127,9 +127,9 @@ void replaced_file::respell(const fs::path& target) {
   file_calls::list(folder_of(kept), listed);
   for (const listed_entry& entry : listed) {
     if (entry.is_folder || entry.name == kept.filename().native()) continue;
-    if (upper_case_name(entry.name) != folded || is_own(kept) != 1) continue;
+    if (upper_case_name(entry.name) != folded || !match(kept).is_same) continue;
     const fs::path other = folder_of(kept) / entry.name;
-    if (is_own(other) == 0) file_calls::remove_file(other);
+    if (match(other).is_other()) file_calls::remove_file(other);
   }
 }
 

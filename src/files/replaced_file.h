@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/binary_file.h"
+#include "files/file_calls.h"
 #include "files/writing_lock.h"
 
 namespace files {
@@ -39,8 +40,8 @@ class replaced_file {
  private:
   void remove_leftovers() const;
   void require_own_file() const;
-  // As file_calls::leads_to, for the new file.
-  int is_own(const std::filesystem::path& path) const;
+  // Whether a path names the new file.
+  file_calls::path_match match(const std::filesystem::path& path) const;
 
   file_path target_;
   writing_lock lock_;

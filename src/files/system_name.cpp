@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// On POSIX names are bytes, taken as UTF-8.
+// On POSIX names are bytes, interpreted as UTF-8.
 [[maybe_unused]] std::string utf8_of(const std::string& name) { return name; }
 
 // A Windows name can hold half a surrogate pair, which has no UTF-8; "\xFF" is not UTF-8 either.

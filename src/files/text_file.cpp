@@ -45,20 +45,20 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const file_path& path, const file_identity& spared)
+text_writer::text_writer(const file_path& path, const file_identity& source)
     : target_{written_path(path.system), path.shown} {
   replaces_ = exists(target_);
-  if (replaces_) open_old_file(spared);
+  if (replaces_) open_old_file(source);
   if (succeeds_unless_denied([&] { new_file_.emplace(target_); })) old_file_.abandon();
 }
 
 // Fails if the old file is read-only, which replacing it would not.
-void text_writer::open_old_file(const file_identity& spared) {
+void text_writer::open_old_file(const file_identity& source) {
   old_file_.open_to_write(target_);
   old_identity_ = old_file_.info().stamp.identity;
-  if (old_identity_ == spared) {
+  if (old_identity_ == source) {
     throw file_error(file_error_number::permission_denied,
-                     target_.shown + " cannot be written: it leads to the open archive.");
+                     target_.shown + " cannot be written: it is the open archive.");
   }
 }
 

@@ -34,16 +34,15 @@ class text_reader {
 // leaves a part of the lines. All operations throw file_error.
 class text_writer {
  public:
-  // Throws if the old file is read-only, or if `path` leads to the file `spared`, which must not be
-  // overwritten.
-  explicit text_writer(const file_path& path, const file_identity& spared = {});
+  // Throws if the old file is read-only, or if it is `source`, the file that the lines come from.
+  explicit text_writer(const file_path& path, const file_identity& source = {});
 
   // `line` has no line end.
   void write_line(std::string_view line);
   void close();
 
  private:
-  void open_old_file(const file_identity& spared);
+  void open_old_file(const file_identity& source);
   void overwrite_old_file();
   bool succeeds_unless_denied(const std::function<void()>& step);
   binary_file& file() { return new_file_ ? new_file_->file() : old_file_; }

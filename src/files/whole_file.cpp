@@ -60,7 +60,7 @@ whole_file::whole_file(binary_file& file, file_path target, const file_identity&
 
 whole_file::~whole_file() {
   if (is_kept_) return;
-  const bool drop = file_calls::is_made_file(written_, identity_);
+  const bool drop = file_calls::may_name(written_, identity_);
   file_.abandon();
   if (drop) file_calls::remove_file(written_);
 }

@@ -42,7 +42,7 @@ writing_lock::writing_lock(const std::filesystem::path& target, const std::strin
 }
 
 writing_lock::~writing_lock() {
-  if (file_calls::leads_to(path_, file_) == 1) file_calls::remove_file(path_);
+  if (file_calls::match(path_, file_).is_same) file_calls::remove_file(path_);
   file_calls::close_file(file_);
 }
 
@@ -52,7 +52,7 @@ bool writing_lock::try_lock(const std::string& shown_path) {
   // A file system without locks gives another error. Then the copies do not wait for each other.
   const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
   // The copy that held the lock may have removed the lock file after it was opened here.
-  if (is_locked || file_calls::leads_to(path_, file) == 0) {
+  if (is_locked || file_calls::match(path_, file).is_other()) {
     file_calls::close_file(file);
     return false;
   }

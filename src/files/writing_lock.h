@@ -9,7 +9,7 @@ namespace files {
 // which the system unlocks after a crash. On file systems without locks it has no effect.
 class writing_lock {
  public:
-  // Waits up to half a second for another copy. Throws file_error if the lock cannot be taken.
+  // Waits up to half a second for another copy. Throws file_error if it cannot get the lock.
   // `shown_path` is the path of `target` for messages.
   writing_lock(const std::filesystem::path& target, const std::string& shown_path);
   writing_lock(const writing_lock&) = delete;
