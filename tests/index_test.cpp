@@ -95,7 +95,7 @@ TEST_F(index_test, RefusesAnArchiveThatIsWrittenToMeanwhile) {
   };
   open_archive({{"A.TXT", "a"}});
   EXPECT_EQ(new_messages(), texts{"C:\\ostrane.dat cannot be read as an archive: it was written to "
-                                  "meanwhile."});
+                                  "during the read."});
 }
 
 // From the last record that names one, and only colours inside the file. An archive without a

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "data/archive_index.h"
+#include "data/count_text.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_kind.h"
@@ -65,15 +66,20 @@ void check_ends(const archive_check& check) {
   const std::int64_t after_index =
       count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
   const std::int64_t gap = start_of(check, 0) - after_index;
-  if (gap > 0) check.report("", number(gap) + " bytes lie between its index and the first entry");
+  if (gap > 0) {
+    check.report("",
+                 "it has " + count_text(gap, "byte") + " between its index and the first entry");
+  }
   const dat_record& end = check.records.back();
   if (end.name != record_name{}) check.report("", "its end record has a name");
   const std::int64_t rest = check.file_size - end.offset;
-  if (rest > 0) check.report("", number(rest) + " bytes lie after the end record's offset");
-  if (rest < 0) {
-    check.report("", "its end record's offset lies " + number(-rest) + " bytes after its end");
+  if (rest > 0) {
+    check.report("", "it has " + count_text(rest, "byte") + " after the end record's offset");
   }
-  if (end.offset < after_index) check.report("", "its end record's offset lies in the index");
+  if (rest < 0) {
+    check.report("", "its end record's offset is " + count_text(-rest, "byte") + " after its end");
+  }
+  if (end.offset < after_index) check.report("", "its end record's offset is in the index");
 }
 
 void check_names(const archive_check& check) {
@@ -99,15 +105,15 @@ void check_offsets(const archive_check& check) {
     const std::int64_t start = start_of(check, i);
     const std::string offset = "its offset " + number(start);
     if (start < 0) check.report(name, offset + " is below 0");
-    if (start >= 0 && start < after_index) check.report(name, offset + " lies in the index");
-    if (start > check.file_size) check.report(name, offset + " lies after the end of the archive");
+    if (start >= 0 && start < after_index) check.report(name, offset + " is in the index");
+    if (start > check.file_size) check.report(name, offset + " is after the end of the archive");
     if (size_of(check, i) < 0) {
       check.report(name,
                    offset + " is out of order: the next one is " + number(start_of(check, i + 1)));
     } else if (start >= 0 && start <= check.file_size &&
                start + size_of(check, i) > check.file_size) {
-      check.report(name, "it ends " + number(start + size_of(check, i) - check.file_size) +
-                             " bytes after the end of the archive");
+      const std::int64_t excess = start + size_of(check, i) - check.file_size;
+      check.report(name, "it ends " + count_text(excess, "byte") + " after the end of the archive");
     }
   }
 }

@@ -39,10 +39,10 @@ archive_index read_archive_index(const files::file_path& path) {
   index.records.reserve(static_cast<std::size_t>(count));
   std::array<std::byte, record_size> bytes;
   for (std::int32_t i = 0; i < count; ++i) {
-    if (file.read(bytes) < bytes.size()) refuse(path, "it was cut meanwhile.");
+    if (file.read(bytes) < bytes.size()) refuse(path, "it was truncated during the read.");
     index.records.push_back(decode_record(bytes));
   }
-  if (file.info().stamp != index.stamp) refuse(path, "it was written to meanwhile.");
+  if (file.info().stamp != index.stamp) refuse(path, "it was written to during the read.");
   return index;
 }
 

@@ -35,8 +35,8 @@ std::int64_t size_of(const archive_index& old, const rewritten_entry& entry) {
   const std::int64_t start = old.records[i].offset;
   const std::int64_t size = old.records[i + 1].offset - start;
   if (start < 0 || size < 0 || start + size > old.stamp.size) {
-    throw data_error("The archive does not hold the entry " + name_with_blanks(entry.name) +
-                     " whole.");
+    throw data_error("The archive does not contain all bytes of the entry " +
+                     name_with_blanks(entry.name) + ".");
   }
   return size;
 }
@@ -68,14 +68,14 @@ void copy_entry(const rewriting& job, const rewritten_entry& entry, std::int32_t
     job.archive.seek(job.old.records[*entry.old_index].offset);
     const auto copy = [&](std::size_t max) { return to.write_from(job.archive, max); };
     if (chunk_ladder(copy, size, small_block_bytes, job.progress) == size) return;
-    throw data_error("The archive was cut meanwhile.");
+    throw data_error("The archive was truncated during the copy.");
   }
   job.file.open_to_read(entry.file);
   const auto copy = [&](std::size_t max) { return to.write_from(job.file, max); };
   const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, job.progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || job.file.read(one_more) > 0) {
-    throw data_error(entry.file.shown + " has changed its size meanwhile.");
+    throw data_error(entry.file.shown + " has changed its size during the copy.");
   }
   job.file.close();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "data/count_text.h"
 #include "data/icon_decoder.h"
 #include "data/icon_file.h"
 
@@ -55,7 +56,8 @@ void check_head(const icon_file_check& check) {
     check.report("it gives " + number(count) + " as the number of its icons; at most " +
                  number(max_icons_per_file) + " are read");
   } else if (icons.positions.size() < static_cast<std::size_t>(count)) {
-    check.report("its directory should have " + number(count) + " icons and has room for " +
+    check.report("it gives " + number(count) +
+                 " as the number of its icons; its directory has room for " +
                  number(static_cast<std::int64_t>(icons.positions.size())));
   }
 }
@@ -102,9 +104,9 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   }
   const auto next = std::upper_bound(check.starts.begin(), check.starts.end(), at - 1);
   const std::int64_t left = *next - (at + used);
-  if (left > 0) check.report(icon + number(left) + " bytes are left after its stream");
+  if (left > 0) check.report(icon + "its stream leaves " + count_text(left, "byte") + " unused");
   if (left < 0) {
-    check.report(icon + "its stream reaches " + number(-left) + " bytes into the next icon");
+    check.report(icon + "its stream reaches " + count_text(-left, "byte") + " into the next icon");
   }
 }
 
@@ -112,8 +114,7 @@ void check_icon(icon_file_check& check, std::size_t index) {
   const std::string icon = "icon " + number(static_cast<std::int64_t>(index) + 1) + ": ";
   const std::int64_t at = std::int64_t{check.icons.positions[index]} - 1;
   if (at < check.icons.start || at + std::int64_t{icon_head_size} > check.icons.end) {
-    check.report(icon + "its offset " + number(at - check.icons.start) +
-                 " leads outside the entry");
+    check.report(icon + "its offset " + number(at - check.icons.start) + " is outside the entry");
     return;
   }
   icon_head head;

@@ -39,7 +39,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
        error + "same.txt: cannot be written: it is read by this command.\n"},
       {"check a.dat", 0, ""},
       {"check bad.dat a.dat", 1,
-       "bad.dat: 4 bytes lie after the end record's offset\n"
+       "bad.dat: it has 4 bytes after the end record's offset\n"
        "bad.dat: A: entry 1 has its name too\n"
        "bad.dat: ..: cannot become a file: its name means a folder\n"},
       {"add a.dat nul", 2, error + "nul: cannot become an entry: its name means a device.\n"},
