@@ -11,7 +11,7 @@
 #include "forms/forms.h"
 #include "forms_layer/user.h"
 #include "icons/decode_icon.h"
-#include "icons/shp_reader.h"
+#include "icons/series_reader.h"
 #include "png_pictures.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"

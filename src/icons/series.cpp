@@ -8,7 +8,7 @@
 #include "forms/form3.h"
 #include "forms_layer/message_box.h"
 #include "icons/decode_icon.h"
-#include "icons/shp_reader.h"
+#include "icons/series_reader.h"
 #include "icons/slots.h"
 #include "progress/progress.h"
 #include "state/open_archive.h"
@@ -101,41 +101,20 @@ void draw_from_archive() {
   }
 }
 
-void draw_under_working_message() {
-  Form3.Visible = true;
-  show_working_message();
-  draw_shp_series();
-  Form3.Visible = false;
-}
-
-}  // namespace
-
-void show_shp_series() {
+// Clears the view and starts a series at this icon.
+void reset_series(std::int16_t first_icon) {
   reset_icon_view();
-  tool_state.series_full = flag_false;
-  tool_state.next_icon = 1;
-  tool_state.current_slot = 0;
-  tool_state.directory_read = flag_false;
-  show_bars(false);
-  draw_under_working_message();
-}
-
-void show_next_series() {
-  const bool of_open_archive =
-      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
-  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count || !of_open_archive) return;
-  Form1.Text2.Text = "";
-  reset_icon_view();
-  tool_state.series_full = flag_false;
-  tool_state.current_slot = 0;
+  tool_state.next_icon = first_icon;
+  tool_state.series_first_icon = first_icon;
   tool_state.series_next_icon = 0;
-  draw_under_working_message();
-}
-
-void draw_shp_series() {
-  tool_state.series_first_icon = tool_state.next_icon;
+  tool_state.current_slot = 0;
+  tool_state.series_full = flag_false;
   tool_state.size_reported = flag_false;
   tool_state.refusals_reported = 0;
+}
+
+// If the archive cannot be read, shows a message and the icons drawn so far.
+void draw_shp_series() {
   const std::string failure = files::failure_of(draw_from_archive);
   if (!failure.empty()) {
     forms_layer::message_box(failure);
@@ -149,6 +128,31 @@ void draw_shp_series() {
                      sign_column_text(tool_state.series_next_icon);
   Form1.Command3.Enabled = false;
   Form1.Command4.Enabled = false;
+}
+
+void draw_under_working_message() {
+  Form3.Visible = true;
+  show_working_message();
+  draw_shp_series();
+  Form3.Visible = false;
+}
+
+}  // namespace
+
+void show_shp_series() {
+  reset_series(1);
+  tool_state.directory_read = flag_false;
+  show_bars(false);
+  draw_under_working_message();
+}
+
+void show_next_series() {
+  const bool of_open_archive =
+      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
+  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count || !of_open_archive) return;
+  Form1.Text2.Text = "";
+  reset_series(tool_state.next_icon);
+  draw_under_working_message();
 }
 
 }  // namespace ostrane

@@ -41,7 +41,8 @@ struct tool_state_record {
   std::int32_t record_count = 0;  // records of the index, end record included
   std::array<dat_record, max_records> dat_index;
   std::array<make_record, max_records> make_index;
-  std::string archive_path_copy;  // always equal to archive_path
+  // Always equal to archive_path. The index is read from archive_path, entries from this one.
+  std::string archive_path_copy;
   // True while dat_index and List1 hold the index of the file at archive_path. The stamp is that of
   // the file when its index was read; it stays if another archive cannot be read.
   flag archive_is_open = flag_false;
@@ -79,10 +80,13 @@ struct tool_state_record {
   flag directory_read = flag_false;  // shp_head and icon_positions are those of the shown file
   std::int16_t next_icon = 0;        // number of the next icon to draw, from 1
   std::int16_t current_slot = 0;     // index in s16_image of the slot being drawn
-  std::int16_t slots_drawn = 0;      // last value of current_slot in the series drawn last
-  std::int32_t series_first_icon = 0;
-  std::int32_t series_next_icon = 0;  // number of the last icon drawn or refused
-  flag slot_fits = flag_false;
+  // Not a count: the last slot of the series drawn last. It shows nothing if its icon did not fit.
+  std::int16_t slots_drawn = 0;
+  std::int32_t series_first_icon = 0;  // number of the icon in slot 1
+  // Not the next icon, which is next_icon, but the last one of the series: the one before next_icon
+  // when place_icon_slot last ran. 0 if it has not run; refused icons after that do not count.
+  std::int32_t series_next_icon = 0;
+  flag slot_fits = flag_false;  // false after place_icon_slot if the slot does not fit into Frame1
   // A damaged file may hold thousands of bad icons, so a series reports one size that no slot can
   // have and a limited number of bad data boxes.
   flag size_reported = flag_false;

@@ -2,16 +2,15 @@
 
 namespace ostrane {
 
-// All read `archive_file`, which is open, and throw file_error.
-
 // Reads head and directory of the entry `selected_index` into `shp_head` and `icon_positions`; sets
 // `directory_index` and `directory_read`. Reports a count above the size of `icon_positions` and
-// uses that size; reports a head outside the file and leaves no icons.
+// uses that size; reports a head outside the file and leaves no icons. `archive_file` must be open.
+// Throws file_error.
 void read_directory();
 
 // Reads the head of icon `icon_number` into `icon_header`, sets `entry_bytes_left` and empties the
 // read buffer; the file position is then the first byte of the icon's stream. Reports a position
-// outside the file and sets `series_full`.
+// outside the file and sets `series_full`. `archive_file` must be open. Throws file_error.
 void read_current_icon_head();
 
 // Shows the message about the refused icon of `icon_header`; `is_last` adds that further ones get

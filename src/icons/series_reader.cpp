@@ -1,4 +1,4 @@
-#include "icons/shp_reader.h"
+#include "icons/series_reader.h"
 
 #include <algorithm>
 #include <span>
