@@ -1,13 +1,12 @@
 #include "archive/index_reader.h"
 
-#include <string_view>
+#include <algorithm>
 
 #include "data/archive_index.h"
-#include "files/code_page.h"
+#include "data/game_palette.h"
 #include "files/failure.h"
 #include "files/file_system.h"
 #include "files/paths.h"
-#include "files/text.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "palette/palette_store.h"
@@ -17,20 +16,14 @@ namespace ostrane {
 
 namespace {
 
-bool is_palette_row(std::string_view row) {
-  const std::string_view name = files::trimmed(row);
-  return name.size() == 8 && files::upper_case(name) == "GAME.PAL";
-}
-
 void store_records(const std::vector<dat_record>& records) {
   tool_state.record_count = static_cast<std::int32_t>(records.size());
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    tool_state.dat_index[i] = records[i];
-    const auto row = static_cast<std::int32_t>(i);
-    Form1.List1.AddItem(name_without_nuls(records[i].name));
-    if (is_palette_row(Form1.List1.List(row))) {
-      tool_state.game_pal_offset = records[i].offset;
-    }
+  std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
+  for (const dat_record& record : records) Form1.List1.AddItem(name_without_nuls(record.name));
+  // Without a palette the offset stays that of the previous archive, at which this one is then
+  // read.
+  if (const dat_record* found = find_game_palette(records)) {
+    tool_state.game_pal_offset = found->offset;
   }
 }
 

@@ -8,7 +8,10 @@ namespace ostrane {
 
 enum class entry_kind : std::uint8_t { icons, palette, text, other };
 
-// Decides by the extension of the name, and by the name for 000DATUP.000.
+// Decides by the extension in any case, and by the exact name for 000DATUP.000; blanks at both ends
+// are ignored. `name` has no NUL characters. name_without_nuls and name_with_blanks give different
+// kinds only for a NUL inside the extension. The report of an icon takes the latter, all others the
+// former.
 entry_kind kind_of_entry(std::string_view name);
 
 // "icons", "palette", "text" or "other".

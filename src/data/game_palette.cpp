@@ -1,5 +1,7 @@
 #include "data/game_palette.h"
 
+#include <algorithm>
+
 #include "data/built_in_colours.h"
 #include "data/palette.h"
 #include "files/text.h"
@@ -17,14 +19,16 @@ rgb_palette read_colours(files::binary_file& file, std::int32_t offset) {
   return colours;
 }
 
+const dat_record* find_game_palette(std::span<const dat_record> records) {
+  const auto found = std::find_if(records.rbegin(), records.rend(), [](const dat_record& record) {
+    return files::compare_key(name_without_nuls(record.name)) == "GAME.PAL";
+  });
+  return found == records.rend() ? nullptr : &*found;
+}
+
 rgb_palette read_game_colours(files::binary_file& archive, std::span<const dat_record> records) {
-  for (std::size_t i = records.size(); i > 0; --i) {
-    const dat_record& record = records[i - 1];
-    if (files::compare_key(name_without_nuls(record.name)) == "GAME.PAL") {
-      return read_colours(archive, record.offset);
-    }
-  }
-  return built_in_colours;
+  const dat_record* const found = find_game_palette(records);
+  return found == nullptr ? built_in_colours : read_colours(archive, found->offset);
 }
 
 }  // namespace ostrane

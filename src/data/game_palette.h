@@ -16,7 +16,11 @@ using rgb_palette = std::array<std::uint32_t, 256>;
 // file_error.
 rgb_palette read_colours(files::binary_file& file, std::int32_t offset);
 
-// Returns the colours of the last entry GAME.PAL, or the built-in ones. Throws file_error.
+// Returns the record of the palette: the last one named GAME.PAL, in any case and with blanks at
+// the ends. Null if there is none.
+const dat_record* find_game_palette(std::span<const dat_record> records);
+
+// Returns the colours of that palette, or the built-in ones. Throws file_error.
 rgb_palette read_game_colours(files::binary_file& archive, std::span<const dat_record> records);
 
 }  // namespace ostrane

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "files/code_page.h"
-#include "files/text.h"
+#include "data/entry_kind.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "icons/series.h"
@@ -19,21 +18,11 @@ namespace {
 
 std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex()); }
 
-std::string extension_of(const std::string& row) {
-  return files::lower_case(files::last_characters(files::trimmed(row), 4));
-}
-
-bool is_text(const std::string& row) {
-  return extension_of(row) == ".txt" || files::trimmed(row) == "000DATUP.000";
-}
-
 void report_unknown_kind(const std::string& row) {
   forms_layer::message_box("This is not a shp image, I haven't got to display this yet... " + row);
 }
 
 void draw_first_series() {
-  tool_state.series_first_icon = 0;
-  tool_state.series_next_icon = 0;
   show_shp_series();
   Form1.Command5.Enabled = true;
 }
@@ -51,17 +40,22 @@ void show_clicked_entry() {
   Form1.Text6.Visible = false;
   Form1.Frame1.Caption = row;
   tool_state.selected_index = Form1.List1.ListIndex();
-  if (extension_of(row) == ".shp") {
-    Form1.Text2.Text = "";
-    clear_slots_for_icons();
-    draw_first_series();
-  } else if (extension_of(row) == ".pal") {
-    show_palette_view();
-  } else if (is_text(row)) {
-    Form1.Text6.Visible = true;
-    show_text_entry();
-  } else {
-    report_unknown_kind(row);
+  switch (kind_of_entry(row)) {
+    case entry_kind::icons:
+      Form1.Text2.Text = "";
+      clear_slots_for_icons();
+      draw_first_series();
+      break;
+    case entry_kind::palette:
+      show_palette_view();
+      break;
+    case entry_kind::text:
+      Form1.Text6.Visible = true;
+      show_text_entry();
+      break;
+    case entry_kind::other:
+      report_unknown_kind(row);
+      break;
   }
   add_description(row);
   Form1.Refresh();
@@ -69,8 +63,9 @@ void show_clicked_entry() {
 
 void show_double_clicked_entry() {
   const std::string row = selected_row();
-  if (extension_of(row) == ".pal") return;
-  if (extension_of(row) != ".shp") {
+  const entry_kind kind = kind_of_entry(row);
+  if (kind == entry_kind::palette) return;
+  if (kind != entry_kind::icons) {
     report_unknown_kind(row);
     return;
   }

@@ -3,9 +3,8 @@
 #include <string>
 
 #include "data/archive_format.h"
+#include "data/entry_kind.h"
 #include "data/sign_column_text.h"
-#include "files/code_page.h"
-#include "files/text.h"
 #include "forms/form1.h"
 #include "progress/progress.h"
 #include "state/tool_state.h"
@@ -13,11 +12,6 @@
 namespace ostrane {
 
 namespace {
-
-bool is_icon_file(const dat_record& record) {
-  const std::string name = files::upper_case(name_with_blanks(record.name));
-  return files::last_characters(name, 4) == ".SHP";
-}
 
 std::string report_line(const char* label, std::int64_t number) {
   return label + sign_column_text(number) + "\r";
@@ -43,7 +37,7 @@ void show_icon_report(std::int32_t Index) {
   const std::int32_t selected = Form1.List1.ListIndex();
   if (selected < 0 || Index < 1 || Index > max_slots) return;
   const dat_record& entry = tool_state.dat_index[static_cast<std::size_t>(selected)];
-  if (!is_icon_file(entry)) return;
+  if (kind_of_entry(name_with_blanks(entry.name)) != entry_kind::icons) return;
   show_report("Icon-data for picture number: " + sign_column_text(Index) + ", on this screen.",
               icon_report(Index, entry));
 }
