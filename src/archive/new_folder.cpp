@@ -16,7 +16,7 @@ void make_new_folder() {
   try {
     files::create_folder(path);
     Form4.Dir1.Path = path;
-    Form4.Dir1.Refresh();
+    // Without a Change, as Dir1 can show the same path if another program has removed the folder.
     Form4.File1.Refresh();
     Form4.Text1.Text = Form4.Dir1.Path();
   } catch (const files::file_error& error) {

@@ -52,10 +52,10 @@ void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
   const auto run_step = [&](const step& run) {
     if (!succeeds(run) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
   };
+  const std::string old_folder = Dir1.Path();
   run_step([&] { Dir1.Path = Drive1.Drive(); });
-  if (File1 == nullptr) return;
-  run_step([&] { Dir1.Refresh(); });
-  run_step([&] { File1->Refresh(); });
+  // The assignment reads `Dir1`. For another folder its Change reads `File1`.
+  if (File1 != nullptr && Dir1.Path() == old_folder) run_step([&] { File1->Refresh(); });
 }
 
 }  // namespace

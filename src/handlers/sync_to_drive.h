@@ -9,7 +9,7 @@ namespace ostrane {
 // `Drive1` to the drive of `Dir1`.
 void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1);
 
-// The same, then reloads both lists.
+// The same, and reloads both lists even if the folder is the same.
 void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
                    forms_layer::file_list& File1);
 

@@ -67,13 +67,12 @@ void wire_form2() {
 
 void wire_form3() { Form3.message.Click = close_report; }
 
-// Change of `Dir1` of `Form4` and `Form5`.
+// Change of `Dir1` of `Form4` and `Form5`. It needs no Refresh: `Dir1` was read before its Change,
+// and the assignment reads `File1`.
 template <typename Form>
 void sync_to_folder(Form& dialog) {
   dialog.File1.Path = dialog.Dir1.Path();
   dialog.Text1.Text = dialog.Dir1.Path();
-  dialog.Dir1.Refresh();
-  dialog.File1.Refresh();
 }
 
 void wire_form4() {
