@@ -1,4 +1,4 @@
-#include "forms_layer/dialogs.h"
+#include "forms_layer/screen_services.h"
 #include "handlers/start_up.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"

@@ -9,7 +9,7 @@
 #include "failing_calls.h"
 #include "failing_memory.h"
 #include "files/code_page.h"
-#include "forms_layer/dialogs.h"
+#include "forms_layer/screen_services.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "archive/builder.h"
+#include "archive/make_archive.h"
 #include "child_process.h"
 #include "tool_fixture.h"
 

@@ -8,8 +8,8 @@
 #include "files/failure.h"
 #include "files/paths.h"
 #include "forms/form1.h"
-#include "forms_layer/dialogs.h"
 #include "forms_layer/message_box.h"
+#include "forms_layer/screen_services.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
 

@@ -1,7 +1,7 @@
 #include "forms_layer/application.h"
-#include "forms_layer/dialogs.h"
 #include "forms_layer/events.h"
 #include "forms_layer/message_box.h"
+#include "forms_layer/screen_services.h"
 #include "forms_layer/user.h"
 
 namespace forms_layer {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "forms_layer/dialogs.h"
 #include "forms_layer/events.h"
+#include "forms_layer/screen_services.h"
 
 namespace forms_layer::user {
 

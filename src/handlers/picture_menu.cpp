@@ -12,8 +12,8 @@
 #include "files/failure.h"
 #include "files/paths.h"
 #include "forms/form1.h"
-#include "forms_layer/dialogs.h"
 #include "forms_layer/message_box.h"
+#include "forms_layer/screen_services.h"
 #include "icons/motion.h"
 #include "state/open_archive.h"
 #include "state/tool_state.h"
@@ -53,7 +53,7 @@ std::optional<std::string> without_number(const std::string& stem) {
 }
 
 // Sets the form and the names of the files. Returns false for an unknown ending.
-bool take_name(icon_export& wanted, const forms_layer::save_answer& answer) {
+bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   const std::filesystem::path path = answer.path;
   const std::string ending = files::lower_case(as_utf8(path.extension()));
   const bool is_series = wanted.form != picture_form::picture;
@@ -90,7 +90,7 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   constexpr std::int32_t milliseconds_per_hundredth = 10;
   const std::string not_saved = " The " + what + " was not saved.";
   if (answer.path.empty()) return;
-  if (!take_name(wanted, answer)) {
+  if (!apply_name(wanted, answer)) {
     const char* gif = wanted.form == picture_form::picture ? "" : " or \".gif\"";
     forms_layer::message_box(std::string("The name of the file must end in \".png\"") + gif + "." +
                              not_saved);

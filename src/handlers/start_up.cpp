@@ -4,7 +4,7 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
-#include "handlers/file_service.h"
+#include "handlers/connect_file_service.h"
 #include "handlers/out_of_memory.h"
 #include "handlers/wiring.h"
 #include "state/tool_state.h"

@@ -1,8 +1,8 @@
 #include "handlers/wiring.h"
 
-#include "archive/builder.h"
 #include "archive/entry_menu.h"
-#include "archive/extraction.h"
+#include "archive/extract_all.h"
+#include "archive/make_archive.h"
 #include "archive/new_folder.h"
 #include "forms/forms.h"
 #include "forms_layer/application.h"

@@ -13,7 +13,7 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
-#include "handlers/file_service.h"
+#include "handlers/connect_file_service.h"
 
 namespace fs = std::filesystem;
 

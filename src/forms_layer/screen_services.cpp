@@ -1,4 +1,4 @@
-#include "forms_layer/dialogs.h"
+#include "forms_layer/screen_services.h"
 
 namespace forms_layer {
 

@@ -1,4 +1,4 @@
-#include "archive/builder.h"
+#include "archive/make_archive.h"
 
 #include <algorithm>
 
@@ -102,12 +102,12 @@ void run(build_job& job) {
   job.records = measure(job);
   refresh_progress();
   write(job);
-  // The archive is complete, so a failure to list the folder is only reported.
+  // The archive is complete. A failure to list the folder is shown in place of the skipped files.
   const std::string failure = files::failure_of([&job] { job.skipped = skipped_message(job); });
   if (!failure.empty()) job.skipped = failure;
 }
 
-// What to do if a typed path leads elsewhere than the list of files.
+// A hint for a typed path that is not the folder of the listed files, or "".
 std::string folder_hint(const build_job& job) {
   const std::string listed = Form5.File1.Path();
   const std::string target = files::full_path(job.list.folder);
@@ -115,6 +115,8 @@ std::string folder_hint(const build_job& job) {
   return " The list shows the files of " + listed + ". Double click on the folder to build from.";
 }
 
+// An open archive is replaced by the new one, as dat_index and List1 must describe the same file.
+// Without one no archive is opened unasked; only the index is stored.
 void use_new_index(const build_job& job) {
   if (tool_state.archive_is_open == flag_true) {
     read_archive(job.list.folder);

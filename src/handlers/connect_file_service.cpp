@@ -1,4 +1,4 @@
-#include "handlers/file_service.h"
+#include "handlers/connect_file_service.h"
 
 #include "files/drives.h"
 #include "files/file_system.h"

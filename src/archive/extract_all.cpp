@@ -1,4 +1,4 @@
-#include "archive/extraction.h"
+#include "archive/extract_all.h"
 
 #include <algorithm>
 #include <string>

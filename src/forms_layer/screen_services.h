@@ -6,12 +6,12 @@
 
 namespace forms_layer {
 
-// As those of the screen. Without one the answers below count.
+// Call the function of this name of the attached screen, or without one that of `answers`.
 menu_item* pick_item(context_menu& opened, screen_point at);
 save_answer ask_save_path(const save_question& question);
 void copy_picture(const picture_box& shown);
 
-// What the user answers without a screen. A null function picks and answers nothing.
+// What the user answers without a screen. A null function picks nothing and gives no path.
 struct user_answers {
   std::function<menu_item*(context_menu& opened)> pick_item;
   std::function<save_answer(const save_question& question)> save_path;
