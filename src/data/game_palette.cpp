@@ -4,9 +4,22 @@
 
 #include "data/built_in_colours.h"
 #include "data/palette.h"
+#include "files/code_page.h"
 #include "files/text.h"
 
 namespace ostrane {
+
+namespace {
+
+// The first letter rejects most names before a string is made.
+bool is_game_palette(const dat_record& record) {
+  const auto* const first = std::find_if(record.name.begin(), record.name.end(),
+                                         [](char c) { return c != '\0' && c != ' '; });
+  if (first == record.name.end() || files::upper_case(*first) != 'G') return false;
+  return files::compare_key(name_without_nuls(record.name)) == "GAME.PAL";
+}
+
+}  // namespace
 
 rgb_palette read_colours(files::binary_file& file, std::int32_t offset) {
   rgb_palette colours = built_in_colours;
@@ -20,9 +33,7 @@ rgb_palette read_colours(files::binary_file& file, std::int32_t offset) {
 }
 
 const dat_record* find_game_palette(std::span<const dat_record> records) {
-  const auto found = std::find_if(records.rbegin(), records.rend(), [](const dat_record& record) {
-    return files::compare_key(name_without_nuls(record.name)) == "GAME.PAL";
-  });
+  const auto found = std::find_if(records.rbegin(), records.rend(), is_game_palette);
   return found == records.rend() ? nullptr : &*found;
 }
 
