@@ -16,12 +16,6 @@ namespace {
 
 std::string key_of(const record_name& name) { return files::compare_key(name_with_blanks(name)); }
 
-bool sorts_before(const std::string& a, const std::string& b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
-  });
-}
-
 struct rewriting {
   const archive_index& old;
   files::binary_file& archive;
@@ -100,9 +94,8 @@ std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& 
   if (of_name != entries.rend()) {
     *of_name = {of_name->name, std::nullopt, file};
   } else {
-    const auto next = std::find_if(entries.begin(), entries.end(), [&key](const auto& entry) {
-      return sorts_before(key, key_of(entry.name));
-    });
+    const auto next = std::find_if(entries.begin(), entries.end(),
+                                   [&key](const auto& entry) { return key < key_of(entry.name); });
     entries.insert(next, {name, std::nullopt, file});
   }
   return name_with_blanks(name);

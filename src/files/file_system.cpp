@@ -27,18 +27,12 @@ fs::file_status status_of(const std::string& path) {
   }
 }
 
-void sort_folded(std::vector<std::string>& names) {
+// std::string compares by unsigned bytes.
+void sort_by_upper_case(std::vector<std::string>& names) {
   std::vector<std::pair<std::string, std::string>> keyed;
   keyed.reserve(names.size());
   for (std::string& name : names) keyed.emplace_back(upper_case(name), std::move(name));
-  const auto by_bytes = [](const std::string& a, const std::string& b) {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-      return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
-    });
-  };
-  std::sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
-    return a.first == b.first ? by_bytes(a.second, b.second) : by_bytes(a.first, b.first);
-  });
+  std::sort(keyed.begin(), keyed.end());
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
 }
 
@@ -63,7 +57,7 @@ std::vector<std::string> sorted_names(const file_path& folder, bool listed_entry
     std::optional<std::string> name = name_as_text(entry.name);
     if (*unlisted_reason(entry, name) == '\0') names.push_back(std::move(*name));
   }
-  sort_folded(names);
+  sort_by_upper_case(names);
   return names;
 }
 

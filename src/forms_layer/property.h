@@ -4,7 +4,7 @@
 
 namespace forms_layer {
 
-// Tells the screen what has changed. Properties that it reads together share an id.
+// Identifies to the screen what has changed. Properties that it reads together share an id.
 enum class property_id {
   caption,
   text,

@@ -116,9 +116,7 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
 
 bool prepare_picture_menu(std::int32_t slot) {
   tool_state.menu_target = slot;
-  const bool of_open_archive =
-      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
-  const bool can_be_saved = of_open_archive && tool_state.export_icons != nullptr;
+  const bool can_be_saved = icons_are_from_open_archive() && tool_state.export_icons != nullptr;
   Form1.mnu_save_picture.Enabled = can_be_saved;
   Form1.mnu_save_series.Enabled = can_be_saved;
   // A text covers the icons. A swatch of a palette has no pixels.

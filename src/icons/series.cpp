@@ -147,9 +147,8 @@ void show_shp_series() {
 }
 
 void show_next_series() {
-  const bool of_open_archive =
-      tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
-  if (tool_state.series_next_icon >= tool_state.shp_head.icon_count || !of_open_archive) return;
+  const bool is_last_series = tool_state.series_next_icon >= tool_state.shp_head.icon_count;
+  if (is_last_series || !icons_are_from_open_archive()) return;
   Form1.Text2.Text = "";
   reset_series(tool_state.next_icon);
   draw_under_working_message();

@@ -15,6 +15,10 @@ void open_archive_file() {
                  tool_state.archive_stamp);
 }
 
+bool icons_are_from_open_archive() {
+  return tool_state.archive_is_open == flag_true && tool_state.directory_index >= 0;
+}
+
 std::span<const dat_record> index_records() {
   return std::span(tool_state.dat_index).first(static_cast<std::size_t>(tool_state.record_count));
 }

@@ -11,6 +11,9 @@ namespace ostrane {
 // changed since the index was read, and file_error.
 void open_archive_file();
 
+// True if the icons shown last, those of `directory_index`, are from the open archive.
+bool icons_are_from_open_archive();
+
 // The first `record_count` records of `dat_index`.
 std::span<const dat_record> index_records();
 
