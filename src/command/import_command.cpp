@@ -9,10 +9,10 @@
 #include "command/import_sources.h"
 #include "command/named_files.h"
 #include "command/program.h"
+#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/palette.h"
 #include "files/whole_file.h"
-#include "pictures/counted.h"
 #include "pictures/png_reader.h"
 
 namespace ostrane::command {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "data/archive_index.h"
-#include "data/count_text.h"
+#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_kind.h"
@@ -67,17 +67,16 @@ void check_ends(const archive_check& check) {
       count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
   const std::int64_t gap = start_of(check, 0) - after_index;
   if (gap > 0) {
-    check.report("",
-                 "it has " + count_text(gap, "byte") + " between its index and the first entry");
+    check.report("", "it has " + counted(gap, "byte") + " between its index and the first entry");
   }
   const dat_record& end = check.records.back();
   if (end.name != record_name{}) check.report("", "its end record has a name");
   const std::int64_t rest = check.file_size - end.offset;
   if (rest > 0) {
-    check.report("", "it has " + count_text(rest, "byte") + " after the end record's offset");
+    check.report("", "it has " + counted(rest, "byte") + " after the end record's offset");
   }
   if (rest < 0) {
-    check.report("", "its end record's offset is " + count_text(-rest, "byte") + " after its end");
+    check.report("", "its end record's offset is " + counted(-rest, "byte") + " after its end");
   }
   if (end.offset < after_index) check.report("", "its end record's offset is in the index");
 }
@@ -113,7 +112,7 @@ void check_offsets(const archive_check& check) {
     } else if (start >= 0 && start <= check.file_size &&
                start + size_of(check, i) > check.file_size) {
       const std::int64_t excess = start + size_of(check, i) - check.file_size;
-      check.report(name, "it ends " + count_text(excess, "byte") + " after the end of the archive");
+      check.report(name, "it ends " + counted(excess, "byte") + " after the end of the archive");
     }
   }
 }

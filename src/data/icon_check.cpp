@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "data/count_text.h"
+#include "data/counted.h"
 #include "data/icon_decoder.h"
 #include "data/icon_file.h"
 
@@ -104,9 +104,9 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   }
   const auto next = std::upper_bound(check.starts.begin(), check.starts.end(), at - 1);
   const std::int64_t left = *next - (at + used);
-  if (left > 0) check.report(icon + "its stream leaves " + count_text(left, "byte") + " unused");
+  if (left > 0) check.report(icon + "its stream leaves " + counted(left, "byte") + " unused");
   if (left < 0) {
-    check.report(icon + "its stream reaches " + count_text(-left, "byte") + " into the next icon");
+    check.report(icon + "its stream reaches " + counted(-left, "byte") + " into the next icon");
   }
 }
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <memory>
 
+#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "files/whole_file.h"
-#include "pictures/counted.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/pixel_form.h"
