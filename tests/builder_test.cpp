@@ -50,7 +50,6 @@ TEST_F(builder_test, ReplacesAnOldArchiveOfAnyCase) {
 // A build that fails leaves the old archive, the folder and the index in memory unchanged.
 TEST_F(builder_test, AFailedBuildChangesNothing) {
   const fs::path b = disk_path("C:\\work\\b.txt");
-  const auto nothing = [] {};
   const auto remove_b = [&] { fs::remove(b); };
   const auto enlarge_b = [&] { fs::resize_file(b, 2147483647); };
   const auto append_to_b = [&] { std::ofstream(b) << "longer"; };

@@ -1,5 +1,3 @@
-#include <functional>
-
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -76,15 +74,6 @@ TEST_F(dialogs_test, ReloadsItsLists) {
       EXPECT_EQ(form.File1.ListCount(), 0);
     }
   });
-}
-
-TEST_F(dialogs_test, ListsTextFilesAfterAnUnreadableFolder) {
-  restart("D:\\gone");
-  open_archive({{"A.TXT", "a"}});
-  user::click(Form1.mnu_read_filelist);
-  write("D:\\here\\a.dat", "");
-  Form6.Dir1.Path = "D:\\here";
-  EXPECT_TRUE(Form6.Visible() && Form6.File1.ListCount() == 0);
 }
 
 // The typed folder and name, the folder in the dialog afterwards, and the error number. A blank

@@ -1,11 +1,8 @@
 #include "failing_calls.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <string_view>
-
-#include "files/system_calls.h"
 
 namespace ostrane {
 namespace {

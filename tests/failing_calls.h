@@ -1,8 +1,10 @@
 #pragma once
 
-#include <cstddef>
+#include <cerrno>
 #include <string>
 #include <vector>
+
+#include "files/system_calls.h"
 
 namespace ostrane {
 

@@ -1,7 +1,5 @@
 #include <sys/stat.h>
 
-#include <cerrno>
-
 #include "failing_calls.h"
 #include "files/code_page.h"
 #include "files/file_error.h"

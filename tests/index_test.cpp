@@ -1,5 +1,4 @@
 #include "failing_calls.h"
-#include "files/system_calls.h"
 #include "icon_fixture.h"
 
 namespace ostrane {

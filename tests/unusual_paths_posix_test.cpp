@@ -3,87 +3,12 @@
 
 #include <cstring>
 
-#include "archive/builder.h"
-#include "child_process.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
 
-// Links, pipes, devices, folders in place of files, missing permissions, and names that are hard to
-// store.
-struct unusual_paths_test : tool_test {
-  using action = std::function<void()>;
-  // Runs each command that reads or writes after `break_disk`, with an archive of one entry open.
-  // None can open a file, for `reason`. Opening and extracting may have messages of their own.
-  static void expect_reports(
-      const std::string& reason, const action& break_disk, const action& restore = [] {},
-      const std::string& opening = "", const std::string& extracting = "") {
-    const std::string cannot = " cannot be opened: " + reason + ".";
-    const std::string archive = "D:\\x\\ostrane.dat" + cannot;
-    const auto nothing = [] {};
-    const std::tuple<action, action, std::string> commands[] = {
-        {[] { user::click(Form1.mnu_open); }, [] { user::click(Form2.Command1); },
-         opening.empty() ? archive : opening},
-        {nothing, [] { click_row("A.TXT"); }, archive},
-        {nothing, [] { extract_into("D:\\x"); },
-         extracting.empty() ? archive + " Nothing was extracted." : extracting},
-        {[] { open_build_dialog("D:\\x"); }, [] { user::click(Form5.Command1); },
-         "D:\\x\\list.txt cannot be read: " + reason + ". No new archive was made."},
-        {nothing, [] { user::click(Form1.mnu_save); },
-         "The list of files was not saved. shplist.txt" + cannot},
-        {[] { choose_shiplist("D:\\x", "list.txt"); }, [] { user::click(Form6.Command1); },
-         "D:\\x\\list.txt" + cannot + " Nothing was compared."},
-    };
-    for (const auto& [open_dialog, command, message] : commands) {
-      fs::remove_all(disk_path("D:\\x"));
-      write("D:\\x\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
-      write("D:\\x\\list.txt", "A\r\n");
-      restart("D:\\x");
-      open_archive("D:\\x");
-      open_dialog();
-      break_disk();
-      command();
-      EXPECT_EQ(new_messages(), texts{message});
-      restore();
-    }
-  }
-};
-
-// Every command reports the path and the reason. The alarm ends one that waits for the other end of
-// a pipe.
-TEST_F(unusual_paths_test, EveryCommandReportsUnusableFiles) {
-  const fs::path drive = root / "d";
-  const fs::path away = root / "away";
-  const std::string missing = "D:\\x\\ostrane.dat is not found";
-  run_in_process([&] {
-    alarm(30);
-    for (const char* own : {"", "c", "d", "c/program"}) fs::permissions(root / own, fs::perms::all);
-    drop_root();
-    expect_reports(
-        "it is not there", [&] { fs::rename(drive, away); }, [&] { fs::rename(away, drive); },
-        missing,
-        "The folder D:\\x\\ is not there. Make it or choose another. Nothing was extracted.");
-    expect_reports(
-        "access is not allowed", [&] { fs::permissions(drive / "x", fs::perms::none); },
-        [&] { fs::permissions(drive / "x", fs::perms::all); }, missing);
-    const std::tuple<std::string, std::string, std::function<void(const fs::path&)>> cases[] = {
-        {"it is a folder", missing, [](const auto& p) { fs::create_directory(p); }},
-        {"access is not allowed", "", [](const auto& p) { mkfifo(p.c_str(), 0600); }},
-        {"access is not allowed", "", [](const auto& p) { fs::create_symlink("/dev/zero", p); }},
-    };
-    for (int row = 0; const auto& [reason, opening, make] : cases) {
-      SCOPED_TRACE(row++);
-      const auto replace_all = [&make = make] {
-        for (const char* name : {"ostrane.dat", "list.txt", "A.TXT", "shplist.txt"}) {
-          fs::remove(disk_path("D:\\x") / name);
-          make(disk_path("D:\\x") / name);
-        }
-      };
-      expect_reports(
-          reason, replace_all, [] {}, opening);
-    }
-  });
-}
+// Links, hidden files, and names that are hard to store.
+using unusual_paths_test = tool_test;
 
 // A build replaces the link and leaves the archive unchanged.
 TEST_F(unusual_paths_test, NeverWritesThroughALinkToAnArchive) {

@@ -2,25 +2,20 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
-#include <csignal>
-#include <fstream>
-
 #include "child_process.h"
 #include "failing_calls.h"
-#include "files/system_calls.h"
 #include "recording_screen.h"
 
+// Builds that are killed, that run at the same time, and that other programs disturb.
 namespace ostrane {
 
 enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
-// Two copies of the tool build in one folder, each in a process of its own.
-struct two_copies_test : small_build_test {
-  int pairs = 15;  // OSTRANE_PAIRS overrides it
+// Copies of the tool build in one folder, each in a process of its own.
+struct builds_test : small_build_test {
+  const char* const asked = std::getenv("OSTRANE_PAIRS");
+  const int pairs = asked == nullptr ? 15 : std::atoi(asked);
 
-  two_copies_test() {
-    if (const char* wanted = std::getenv("OSTRANE_PAIRS")) pairs = std::atoi(wanted);
-  }
   static constexpr int without_locks = INT32_MAX - 1;  // as on some network file systems
   static pid_t start_copy(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills}) {
     return start_process([&] {
@@ -60,8 +55,32 @@ struct two_copies_test : small_build_test {
   }
 };
 
-// In half of the pairs each copy may be killed at any call, in a quarter nothing can be locked.
-TEST_F(two_copies_test, StartedTogetherLeaveACompleteArchive) {
+TEST_F(builds_test, KilledAtAnyCallLeavesACompleteArchive) {
+  int at = 0;
+  for (int status = -1; status == -1 && !HasFailure(); ++at) {
+    SCOPED_TRACE(at);
+    restart_beside("ostrane.dat");
+    status = exit_status(start_copy(at));
+    check({status});
+  }
+  EXPECT_GT(at, 30);
+}
+
+// A new archive is flushed before it replaces the old one, and the folder after.
+TEST_F(builds_test, FlushesTheArchiveThenItsFolder) {
+  restart_beside("ostrane.dat");
+  const failing_calls none(INT32_MAX, {});
+  build_in();
+  texts flushes = none.calls;
+  std::erase_if(flushes, [](const std::string& call) {
+    return call != "replace" && !call.starts_with("flush_");
+  });
+  EXPECT_EQ(flushes, (texts{"flush_to_disk", "replace", "replace", "flush_folder"}));
+}
+
+// In half of the pairs each copy may be killed at any call, in an eighth the first one is at any
+// time, in a quarter nothing can be locked.
+TEST_F(builds_test, StartedTogetherLeaveACompleteArchive) {
   std::mt19937 random(std::random_device{}());
   for (int pair = 0; pair < 2 * pairs && !HasFailure(); ++pair) {
     restart_beside(pair % 3 == 0 ? "OSTRANE.DAT" : "Ostrane.dat");
@@ -72,12 +91,13 @@ TEST_F(two_copies_test, StartedTogetherLeaveACompleteArchive) {
     };
     const pid_t first = start_one();
     usleep(static_cast<useconds_t>(random() % 3000));
+    if (pair % 8 == 3) kill(first, SIGKILL);
     const pid_t second = start_one();
     check({exit_status(first), exit_status(second)});
   }
 }
 
-TEST_F(two_copies_test, OneStoppedAtAnyCallLeaveACompleteArchive) {
+TEST_F(builds_test, StoppedAtAnyCallLeavesACompleteArchive) {
   std::mt19937 random(std::random_device{}());
   for (int pair = 0; pair < pairs && !HasFailure(); ++pair) {
     restart_beside(pair % 2 == 0 ? "Ostrane.dat" : "ostrane.dat");
@@ -93,36 +113,27 @@ TEST_F(two_copies_test, OneStoppedAtAnyCallLeaveACompleteArchive) {
 }
 
 // Whatever happens to the temporary file, the old archive stays and the failure is reported.
-TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
+TEST_F(builds_test, KeepTheOldArchiveIfTheirFileIsLost) {
   const fs::path work = disk_path("C:\\work");
-  const auto temporary = [&] {
-    for (const auto& found : fs::directory_iterator(work)) {
-      if (found.path().extension() == ".new") return found.path();
-    }
-    return fs::path();
+  // What happens to it, and whether a file has its name in the end.
+  const std::pair<std::function<void(const fs::path&)>, bool> faults[] = {
+      {[](const fs::path& file) { fs::rename(file, disk_path("C:\\elsewhere")); }, false},
+      {[&](const fs::path&) { fs::rename(work, disk_path("C:\\moved")); }, true},
+      {[](const fs::path& file) { fs::remove(file), mkfifo(file.c_str(), 0600); }, true},
+      {[](const fs::path& file) { fs::remove(file), std::ofstream{file}; }, true},
+      {[](const fs::path& file) { fs::remove(file), fs::create_directory(file); }, true},
   };
-  fs::path swapped_in;
-  const auto replace = [&](const auto& make) {
-    return [&, make] {
-      swapped_in = temporary();
-      fs::remove(swapped_in);
-      make(swapped_in);
-    };
-  };
-  const std::function<void()> faults[] = {
-      [&] { fs::rename(temporary(), disk_path("C:\\elsewhere")); },
-      [&] { fs::rename(work, disk_path("C:\\moved")); },
-      replace([](const fs::path& path) { mkfifo(path.c_str(), 0600); }),
-      replace([](const fs::path& path) { std::ofstream{path}; }),
-      replace([](const fs::path& path) { fs::create_directory(path); }),
-  };
-  for (const auto& inject : faults) {
+  for (const auto& [inject, is_there] : faults) {
     restart_beside("ostrane.dat");
-    swapped_in.clear();
+    fs::path temporary;
     {
       recording_screen screen;
-      screen.on_refresh = [&] {
-        if (screen.log.back().find("C:\\work\\c.txt") != std::string::npos) inject();
+      screen.on_refresh = [&, &inject = inject] {
+        if (screen.log.back().find("C:\\work\\c.txt") == std::string::npos) return;
+        for (const auto& found : fs::directory_iterator(work)) {
+          if (found.path().extension() == ".new") temporary = found.path();
+        }
+        inject(temporary);
       };
       build_in();
       EXPECT_EQ(
@@ -131,8 +142,8 @@ TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
           "written. No new archive was made.");
     }
     if (fs::exists(disk_path("C:\\moved"))) fs::rename(disk_path("C:\\moved"), work);
-    EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one") << &inject - faults;
-    EXPECT_TRUE(swapped_in.empty() || fs::exists(swapped_in)) << &inject - faults;
+    EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
+    EXPECT_EQ(fs::exists(temporary), is_there) << &inject - &faults[0].first;
     for (const auto& found : fs::directory_iterator(work)) {
       if (!found.is_regular_file()) fs::remove(found);
     }
@@ -140,7 +151,7 @@ TEST_F(two_copies_test, ABuildThatLosesItsFileKeepsTheOldArchive) {
   check({});
 }
 
-TEST_F(two_copies_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
+TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   restart_beside("OSTRANE.DAT");
   write("C:\\elsewhere", "");
   const texts kept = {".OSTRANE.DAT.2.new", ".OSTRANE.DAT.3.new", ".OSTRANE.DAT.x.new",
@@ -149,9 +160,8 @@ TEST_F(two_copies_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   const fs::path link = disk_path("C:\\work\\" + kept[1]);
   fs::remove(link);
   fs::create_symlink("../elsewhere", link);
-  for (const char* name : {".OSTRANE.DAT.1.new", ".OSTRANE.DAT.new"}) {
-    write(std::string("C:\\work\\") + name, "");
-  }
+  write("C:\\work\\.OSTRANE.DAT.1.new", "");
+  write("C:\\work\\.OSTRANE.DAT.new", "");
   const int held = open(disk_path("C:\\work\\" + kept[0]).c_str(), O_RDONLY);
   EXPECT_EQ(flock(held, LOCK_EX), 0);
   build_in();
@@ -162,7 +172,7 @@ TEST_F(two_copies_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   EXPECT_TRUE(fs::is_symlink(link) && fs::exists(link));
 }
 
-TEST_F(two_copies_test, ALockFileThatIsALinkIsRefused) {
+TEST_F(builds_test, ALockFileThatIsALinkIsRefused) {
   restart_beside("ostrane.dat");
   fs::create_symlink("../made", disk_path("C:\\work\\.OSTRANE.DAT.lock"));
   build_in();
@@ -173,14 +183,12 @@ TEST_F(two_copies_test, ALockFileThatIsALinkIsRefused) {
 }
 
 // Another program puts its archive in place of the new one, before the change of case.
-TEST_F(two_copies_test, AnArchiveOfAnotherProgramIsNotDeleted) {
+TEST_F(builds_test, AnArchiveOfAnotherProgramIsNotDeleted) {
   restart_beside("Ostrane.dat");
   static const auto real = files::system_calls;
-  static int replaced;
-  replaced = 0;
   const failing_calls none(INT32_MAX);
   files::system_calls.replace = [](const fs::path& file, const fs::path& target) {
-    if (++replaced == 2) {
+    if (file.filename() == "Ostrane.dat") {
       fs::remove(file);
       std::ofstream(file) << "another";
       std::ofstream(file.parent_path() / "ostrane.DAT") << "and another";
