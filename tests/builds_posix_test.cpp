@@ -4,7 +4,7 @@
 
 #include "child_process.h"
 #include "failing_calls.h"
-#include "recording_screen.h"
+#include "tool_fixture.h"
 
 // Builds that are killed, that run at the same time, and that other programs disturb.
 namespace ostrane {
@@ -16,11 +16,10 @@ struct builds_test : small_build_test {
   const char* const asked = std::getenv("OSTRANE_PAIRS");
   const int pairs = asked == nullptr ? 15 : std::atoi(asked);
 
-  static constexpr int without_locks = INT32_MAX - 1;  // as on some network file systems
-  static pid_t start_copy(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills}) {
+  template <typename... Fault>
+  static pid_t start_copy(const Fault&... fault) {
     return start_process([&] {
-      const failing_calls faults(at, with);
-      if (at == without_locks) files::system_calls.lock = [](int) { return -ENOLCK; };
+      const failing_calls calls(fault...);
       build_in();
       const std::string message = new_messages().back();
       const bool other_copy = message.find(": another ") != std::string::npos;
@@ -69,7 +68,7 @@ TEST_F(builds_test, KilledAtAnyCallLeavesACompleteArchive) {
 // A new archive is flushed before it replaces the old one, and the folder after.
 TEST_F(builds_test, FlushesTheArchiveThenItsFolder) {
   restart_beside("ostrane.dat");
-  const failing_calls none(INT32_MAX, {});
+  const failing_calls none;
   build_in();
   texts flushes = none.calls;
   std::erase_if(flushes, [](const std::string& call) {
@@ -85,9 +84,9 @@ TEST_F(builds_test, StartedTogetherLeaveACompleteArchive) {
   for (int pair = 0; pair < 2 * pairs && !HasFailure(); ++pair) {
     restart_beside(pair % 3 == 0 ? "OSTRANE.DAT" : "Ostrane.dat");
     const auto start_one = [&] {
+      if (pair % 4 == 1) return start_copy("lock", ENOLCK);  // as on some network file systems
       const bool is_killed = pair % 2 == 0 && random() % 3 == 0;
-      const int never = pair % 4 == 1 ? without_locks : INT32_MAX;
-      return start_copy(is_killed ? static_cast<int>(random() % 70) : never);
+      return start_copy(is_killed ? static_cast<int>(random() % 70) : INT32_MAX);
     };
     const pid_t first = start_one();
     usleep(static_cast<useconds_t>(random() % 3000));
@@ -103,7 +102,7 @@ TEST_F(builds_test, StoppedAtAnyCallLeavesACompleteArchive) {
     restart_beside(pair % 2 == 0 ? "Ostrane.dat" : "ostrane.dat");
     const int at = static_cast<int>(random() % 70);
     SCOPED_TRACE(at);
-    const pid_t first = start_copy(at, {.kind = call_fault::stops});
+    const pid_t first = start_copy(at, call_fault{.kind = call_fault::stops});
     int status = 0;
     waitpid(first, &status, WUNTRACED);
     const int end = exit_status(start_copy());
@@ -126,21 +125,18 @@ TEST_F(builds_test, KeepTheOldArchiveIfTheirFileIsLost) {
   for (const auto& [inject, is_there] : faults) {
     restart_beside("ostrane.dat");
     fs::path temporary;
-    {
-      recording_screen screen;
-      screen.on_refresh = [&, &inject = inject] {
-        if (screen.log.back().find("C:\\work\\c.txt") == std::string::npos) return;
-        for (const auto& found : fs::directory_iterator(work)) {
-          if (found.path().extension() == ".new") temporary = found.path();
-        }
-        inject(temporary);
-      };
-      build_in();
-      EXPECT_EQ(
-          screen.log.back(),
-          "dialog C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
-          "written. No new archive was made.");
-    }
+    failing_calls watched;
+    watched.before_call = [&, &inject = inject](const std::string& call) {
+      if (call != "flush_to_disk") return;
+      for (const auto& found : fs::directory_iterator(work)) {
+        if (found.path().extension() == ".new") temporary = found.path();
+      }
+      inject(temporary);
+    };
+    build_in();
+    EXPECT_EQ(new_messages(),
+              texts{"C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
+                    "written. No new archive was made."});
     if (fs::exists(disk_path("C:\\moved"))) fs::rename(disk_path("C:\\moved"), work);
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
     EXPECT_EQ(fs::exists(temporary), is_there) << &inject - &faults[0].first;
@@ -185,15 +181,12 @@ TEST_F(builds_test, ALockFileThatIsALinkIsRefused) {
 // Another program puts its archive in place of the new one, before the change of case.
 TEST_F(builds_test, AnArchiveOfAnotherProgramIsNotDeleted) {
   restart_beside("Ostrane.dat");
-  static const auto real = files::system_calls;
-  const failing_calls none(INT32_MAX);
-  files::system_calls.replace = [](const fs::path& file, const fs::path& target) {
-    if (file.filename() == "Ostrane.dat") {
-      fs::remove(file);
-      std::ofstream(file) << "another";
-      std::ofstream(file.parent_path() / "ostrane.DAT") << "and another";
-    }
-    return real.replace(file, target);
+  failing_calls watched;
+  watched.before_call = [&watched](const std::string&) {
+    if (std::ranges::count(watched.calls, "replace") != 2) return;
+    fs::remove(disk_path("C:\\work\\Ostrane.dat"));
+    write("C:\\work\\Ostrane.dat", "another");
+    write("C:\\work\\ostrane.DAT", "and another");
   };
   build_in();
   EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), "another");

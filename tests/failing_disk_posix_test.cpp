@@ -259,34 +259,31 @@ TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
 
 // A full drive of 256 KiB and a limit on file sizes, each in a process of its own to undo them.
 TEST_F(failing_disk_test, ARealFullDiskAndASizeLimitLeaveNoPartialFile) {
-  const auto mount_full_drive = [&] {
+  const auto mount_small_drive = [&] {
     return unshare(CLONE_NEWNS) == 0 &&
            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            mount("none", (root / "d").c_str(), "tmpfs", 0, "size=256k") == 0;
   };
-  const auto limit_sizes = [] {
-    const rlimit limit = {100000, 100000};
-    return setrlimit(RLIMIT_FSIZE, &limit) == 0;
-  };
-  const std::tuple<std::function<bool()>, std::function<bool()>, const char*> cases[] = {
-      {mount_full_drive, [] { return true; }, "the disk is full"},
-      {[] { return true; }, limit_sizes, "it would be larger than the system allows"}};
-  for (const auto& [at_first, after_writing, reason] : cases) {
-    run_in_process([&, &at_first = at_first, &reason = reason, &after_writing = after_writing] {
-      if (!at_first()) _exit(cannot_run);
+  const std::tuple<bool, rlim_t, std::string> cases[] = {
+      {true, RLIM_INFINITY, "the disk is full"},
+      {false, 100000, "it would be larger than the system allows"}};
+  for (const auto& [is_small, max_size, reason] : cases) {
+    run_in_process([&, &is_small = is_small, &max_size = max_size, &reason = reason] {
+      if (is_small && !mount_small_drive()) _exit(cannot_run);
       write("D:\\ostrane.dat", "the old one");
       write("D:\\big.txt", some_bytes(180000));
       open_archive({{"LONG.TXT", some_bytes(180000)}});
       const file_map before = files_in("D:\\");
-      if (!after_writing()) _exit(cannot_run);
+      const rlimit limit = {max_size, RLIM_INFINITY};
+      setrlimit(RLIMIT_FSIZE, &limit);
       extract_into("D:\\");
       EXPECT_EQ(new_messages(),
                 texts{"0 of 1 files from Ostrane.dat has been extracted into: D:\\\nThe extraction "
                       "was stopped. D:\\LONG.TXT cannot be written: " +
-                      std::string(reason) + "."});
+                      reason + "."});
       restart();
       build_in("D:\\");
-      EXPECT_EQ(new_messages(), texts{"D:\\OSTRANE.DAT cannot be written: " + std::string(reason) +
+      EXPECT_EQ(new_messages(), texts{"D:\\OSTRANE.DAT cannot be written: " + reason +
                                       ". No new archive was made."});
       EXPECT_TRUE(files_in("D:\\") == before);
     });

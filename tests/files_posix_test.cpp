@@ -45,10 +45,7 @@ TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
 TEST_F(files_posix_test, ReplacesFilesOfLongNamesAndOnlyInFoldersThatCanBeListed) {
   const fs::path name = "a" + files::to_utf8(std::string(120, '\xE9'));
   EXPECT_TRUE(files::name_as_text(files::lock_beside(name).native()));
-  const failing_calls none(INT32_MAX);
-  files::system_calls.list = [](const fs::path&, std::vector<files::listed_entry>&) {
-    return -EACCES;
-  };
+  const failing_calls unlisted("list", EACCES);
   EXPECT_THROW(files::replaced_file({disk_path("D:\\x.txt"), ""}), files::file_error);
 }
 

@@ -43,10 +43,7 @@ TEST_F(lists_test, AReplacedListKeepsPermissionsLinksAndOtherSpellings) {
       fs::create_symlink(disk_path("D:\\far\\list"), list);
       for (const auto& [file, old] : linked) write("D:\\far\\" + file, old);
       {
-        const failing_calls none(INT32_MAX);
-        files::system_calls.write_some = [](int, const std::byte*, std::size_t) {
-          return std::int64_t{-ENOSPC};
-        };
+        const failing_calls full("write_some", ENOSPC);
         save();
       }
       EXPECT_EQ(files_in("D:\\far"), linked);
@@ -75,16 +72,11 @@ TEST_F(lists_test, NoListIsWrittenOverTheOpenArchive) {
 
 // As in a read-only folder, in a sticky one and for a file that is a mount point.
 TEST_F(lists_test, AListThatCannotBeReplacedIsOverwritten) {
-  auto& calls = files::system_calls;
-  const std::function<void()> faults[] = {
-      [&] { calls.open_lock = [](const fs::path&) { return -EACCES; }; },
-      [&] { calls.replace = [](const fs::path&, const fs::path&) { return -EBUSY; }; }};
-  for (const auto& inject : faults) {
+  for (const auto& [call, reason] : {std::pair{"open_lock", EACCES}, {"replace", EBUSY}}) {
     write("D:\\shplist.txt", std::string(1000, 'o'));
     restart("D:\\");
     open_archive({{"A", ""}});
-    const failing_calls none(INT32_MAX);
-    inject();
+    const failing_calls failing(call, reason);
     user::click(Form1.mnu_save);
     EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", "A\r\n\r\n"}}));
   }
@@ -109,8 +101,7 @@ TEST_F(lists_test, ANewFileIsNeverReadableForMoreUsersThanTheOld) {
   };
   run_in_process([&] {
     const auto replaced = mode_after();
-    const failing_calls none(INT32_MAX);
-    files::system_calls.copy_permissions = [](int, const fs::path&) { return -EPERM; };
+    const failing_calls failing("copy_permissions", EPERM);
     EXPECT_EQ(replaced(022), fs::perms{0600});
   });
   run_in_process([&] {
