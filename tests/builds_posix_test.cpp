@@ -12,12 +12,14 @@ namespace ostrane {
 enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
 // Copies of the tool build in one folder, each in a process of its own.
-struct builds_test : small_build_test {
+struct builds_test : tool_test {
+  const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
+  const std::string archive =
+      archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
   const char* const asked = std::getenv("OSTRANE_PAIRS");
   const int pairs = asked == nullptr ? 15 : std::atoi(asked);
 
-  template <typename... Fault>
-  static pid_t start_copy(const Fault&... fault) {
+  static pid_t start_copy(const auto&... fault) {
     return start_process([&] {
       const failing_calls calls(fault...);
       build_in();
@@ -27,16 +29,13 @@ struct builds_test : small_build_test {
       _exit(other_copy ? reported_other_copy : reported_success);
     });
   }
-  // The only archive, ignoring what a killed copy left.
-  static std::string only_archive() {
-    std::string bytes;
-    for (const auto& [name, found] : files_in("C:\\work")) {
-      if (name.size() != 11 || name.find(".txt") != name.npos) continue;
-      EXPECT_TRUE(bytes.empty()) << "two archives";
-      bytes = found;
-    }
-    return bytes;
+  // Restarts the tool with the files and an old archive in C:\work.
+  void restart_beside(const std::string& old_archive) const {
+    file_map all = sources;
+    all[old_archive] = "the old one";
+    restart_with(all);
   }
+  // There is one archive, whatever a killed copy left, and the next build succeeds.
   void check(std::initializer_list<int> statuses) {
     bool created = false;
     for (const int status : statuses) {
@@ -44,7 +43,10 @@ struct builds_test : small_build_test {
       EXPECT_TRUE(status == reported_success || status == reported_other_copy || status == -1)
           << status;
     }
-    const std::string left = only_archive();
+    file_map archives = files_in("C:\\work");
+    std::erase_if(archives, [](const auto& file) { return file.first.size() != 11; });
+    ASSERT_EQ(archives.size(), 1U);
+    const std::string& left = archives.begin()->second;
     EXPECT_TRUE(left == archive || (!created && left == "the old one"));
     restart();
     build_in();
@@ -112,7 +114,7 @@ TEST_F(builds_test, StoppedAtAnyCallLeavesACompleteArchive) {
 }
 
 // Whatever happens to the temporary file, the old archive stays and the failure is reported.
-TEST_F(builds_test, KeepTheOldArchiveIfTheirFileIsLost) {
+TEST_F(builds_test, LosingTheTemporaryFileKeepsTheOldArchive) {
   const fs::path work = disk_path("C:\\work");
   // What happens to it, and whether a file has its name in the end.
   const std::pair<std::function<void(const fs::path&)>, bool> faults[] = {
@@ -168,7 +170,7 @@ TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   EXPECT_TRUE(fs::is_symlink(link) && fs::exists(link));
 }
 
-TEST_F(builds_test, ALockFileThatIsALinkIsRefused) {
+TEST_F(builds_test, RefusesALinkAsLockFile) {
   restart_beside("ostrane.dat");
   fs::create_symlink("../made", disk_path("C:\\work\\.OSTRANE.DAT.lock"));
   build_in();
@@ -179,7 +181,7 @@ TEST_F(builds_test, ALockFileThatIsALinkIsRefused) {
 }
 
 // Another program puts its archive in place of the new one, before the change of case.
-TEST_F(builds_test, AnArchiveOfAnotherProgramIsNotDeleted) {
+TEST_F(builds_test, DoesNotDeleteAnArchiveOfAnotherProgram) {
   restart_beside("Ostrane.dat");
   failing_calls watched;
   watched.before_call = [&watched](const std::string&) {

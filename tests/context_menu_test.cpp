@@ -72,7 +72,7 @@ void on_row_during_changes() {
 }
 void without_archive() { open_archive("D:\\"), new_messages(), on_slot(1); }
 
-TEST_F(context_menu_test, DoesWhatExportAndExtractDo) {
+TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
   if (make_icon_exporter() == nullptr) GTEST_SKIP() << "built without libpng and giflib";
   const std::string changed =
       " <C:\\ostrane.dat has changed since it was read. Read it again. The ";

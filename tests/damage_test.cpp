@@ -33,7 +33,7 @@ struct damage_test : icon_test {
 };
 
 // A truncated index is not shown, a truncated entry is not extracted and leaves an existing file.
-TEST_F(damage_test, ATruncatedArchiveDoesNoHarm) {
+TEST_F(damage_test, ExtractsOnlyTheCompleteEntriesOfATruncatedArchive) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     SCOPED_TRACE(length);
     make_folder("D:\\new");
@@ -52,7 +52,7 @@ TEST_F(damage_test, ATruncatedArchiveDoesNoHarm) {
   }
 }
 
-TEST_F(damage_test, AnyChangedByteDoesNoHarm) {
+TEST_F(damage_test, HandlesAnyChangedByte) {
   const std::size_t end_of_icons = whole.size() - 44;
   for (std::size_t at = 0; at < end_of_icons; ++at) {
     for (const int flip : {0x01, 0x7F, 0x80, 0xFF}) {
@@ -65,7 +65,7 @@ TEST_F(damage_test, AnyChangedByteDoesNoHarm) {
 }
 
 // More icons than are shown, of one kind each.
-TEST_F(damage_test, ThousandsOfBadIconsGiveFewMessages) {
+TEST_F(damage_test, LimitsTheMessagesAboutBadIcons) {
   constexpr std::size_t many = 5001;
   shp_icon huge = blank_icon(2, 2);
   huge.head.no_of_rows = 32767;

@@ -13,7 +13,7 @@ struct decoder_test : icon_test {
   }
 };
 
-TEST_F(decoder_test, APictureKeepsItsPixelsOnResize) {
+TEST_F(decoder_test, ResizingKeepsThePixels) {
   forms_layer::picture_box& box = slot(1);
   box.Width = 15 * 6;
   box.Height = 15 * 5;
@@ -82,7 +82,7 @@ TEST_F(decoder_test, ReadsStreamsLongerThanTheBuffer) {
 }
 
 // The pixels painted so far stay, without a message.
-TEST_F(decoder_test, ATruncatedStreamEndsTheIcon) {
+TEST_F(decoder_test, TruncatedStreamEndsTheIcon) {
   const std::string bytes = stream({6, 1, 0, 7, 2, 3, 4, 0, 1, 2, 2, 5, 0});
   const std::string file = shp_file(std::vector<shp_icon>{{plain_icon(3, 3, 0).head, bytes}});
   const char* const stages[] = {". . . | . . . | . . . | ", "1 1 1 | . . . | . . . | ",
@@ -99,7 +99,7 @@ TEST_F(decoder_test, ATruncatedStreamEndsTheIcon) {
 
 // An icon reads up to 23 bytes past its entry and no more. Some streams fill the buffer exactly or
 // exceed it by up to 8 bytes.
-TEST_F(decoder_test, AnIconReadsNoFurtherThanItsEntry) {
+TEST_F(decoder_test, DoesNotReadPastTheEntry) {
   for (const auto bytes :
        {32U, 33U, 3231U, 32767U, 32768U, 32769U, 32775U, 32776U, 65536U, 65537U}) {
     std::string whole = bytes % 2 == 0 ? "" : stream({0});

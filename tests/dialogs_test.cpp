@@ -4,8 +4,7 @@ namespace ostrane {
 
 // Calls `check` with each dialog open in a restarted tool that has an archive open: the form, its
 // field that shows the folder, or null, its menu item and its Cancel.
-template <typename Check>
-static void with_each(const Check& check) {
+static void with_each(const auto& check) {
   const auto open = [&check](auto& form, forms_layer::text_box* field, auto& menu, auto& cancel) {
     restart("D:\\Sub");
     open_archive({{"A.TXT", "a"}});
@@ -21,8 +20,7 @@ static void with_each(const Check& check) {
 }
 
 // `text` is that of the field.
-template <typename Form>
-static void expect_position(const Form& form, const forms_layer::text_box* field,
+static void expect_position(const auto& form, const forms_layer::text_box* field,
                             const std::string& drive, const std::string& folder,
                             const std::string& text) {
   EXPECT_EQ((texts{form.Drive1.Drive(), form.Dir1.Path(), form.File1.Path(),

@@ -45,7 +45,7 @@ TEST_F(extraction_test, WritesOverFilesWithoutEmptyingThem) {
 }
 
 // Only the first offset is a seek; a negative size skips the entry.
-TEST_F(extraction_test, ReadsEntriesInSequenceWhateverTheirOffsets) {
+TEST_F(extraction_test, ReadsEntriesInSequenceIgnoringTheirOffsets) {
   open_bytes(index_bytes(4, {{72, "A"}, {82, "B"}, {76, "C"}, {81, ""}}) + "0123456789abcdefghij");
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"), (file_map{{"A", "0123456789"}, {"C", "abcde"}}));
@@ -80,19 +80,14 @@ TEST_F(extraction_test, WritesOneFileForNamesThatDifferInCase) {
 
 // The dialog stays, and no folder is made.
 TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
+  const auto close_archive = [] { open_archive("C:\\program"); };
+  const auto misplace = [] { open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}})); };
+  const auto change = [] { write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}})); };
   const std::tuple<const char*, std::function<void()>, std::string> cases[] = {
       {"E:\\", nothing, "The folder E:\\ is not there. Make it or choose another."},
-      {"D:\\", [] { open_archive("C:\\program"); }, "No archive is open. Read one first."},
-      {"D:\\",
-       [] {
-         open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}}));
-       },
-       "The index of C:\\ostrane.dat puts entries before the file."},
-      {"D:\\",
-       [] {
-         write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "b"}}));
-       },
-       "C:\\ostrane.dat has changed since it was read. Read it again."},
+      {"D:\\", close_archive, "No archive is open. Read one first."},
+      {"D:\\", misplace, "The index of C:\\ostrane.dat puts entries before the file."},
+      {"D:\\", change, "C:\\ostrane.dat has changed since it was read. Read it again."},
   };
   for (const auto& [folder, prepare, message] : cases) {
     restart();
@@ -107,7 +102,7 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
 }
 
 // Twenty are reported. A skipped entry must not shift the bytes of the next ones.
-TEST_F(extraction_test, SkipsEntriesThatMustNotOrCannotBeWritten) {
+TEST_F(extraction_test, SkipsUnsafeAndUnwritableEntries) {
   const std::pair<const char*, texts> refused[] = {
       {"it has no name", {""}},
       {"its name means a folder", {".", ".."}},

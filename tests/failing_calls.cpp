@@ -14,8 +14,7 @@ failing_calls* current = nullptr;
 
 // Records a call and returns its result or the error of the fault. Closes a file whose opening is
 // reported as failed.
-template <typename Call>
-auto record(std::string_view name, const Call& call) {
+auto record(std::string_view name, const auto& call) {
   const int number = static_cast<int>(current->calls.size());
   current->calls.emplace_back(name);
   current->before_call(current->calls.back());

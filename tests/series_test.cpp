@@ -94,7 +94,7 @@ TEST_F(series_test, RefusesIcons) {
 }
 
 // The archive, the number in the message or "", and the view.
-TEST_F(series_test, AnIconOutsideTheFileEndsTheSeries) {
+TEST_F(series_test, IconOutsideTheFileEndsTheSeries) {
   const std::string three = shp_file(plain_icons(3, 1, 1));
   const auto at = [](int offset) { return index_bytes(2, {{offset, " A.SHP"}, {38, ""}}); };
   const auto holding = [](const std::string& icon_file) {
@@ -134,7 +134,7 @@ TEST_F(series_test, AnIconOutsideTheFileEndsTheSeries) {
 }
 
 // And reads the shown entry, not the one that was clicked after it.
-TEST_F(series_test, TheNextSeriesNeedsTheSameArchive) {
+TEST_F(series_test, NextSeriesRequiresTheSameArchive) {
   const std::vector<entry> entries = {
       palette_entry(), {"A.TXT", ""}, {"F.SHP", shp_file(plain_icons(3, 30, 30))}};
   write("C:\\other\\ostrane.dat", archive_bytes(entries));
