@@ -29,11 +29,7 @@ std::int32_t browse(std::int32_t row, std::int32_t max_series) {
   tool_state.next_icon = 0;
   for (std::int32_t series = 1;; ++series) {
     new_messages();
-    if (series == 1) {
-      user::select_row(Form1.List1, row);
-    } else {
-      user::click(Form1.Command6);
-    }
+    series == 1 ? user::select_row(Form1.List1, row) : user::click(Form1.Command6);
     // One per icon, one for the file, and one for the position of the next icon.
     const std::int32_t processed = std::max(tool_state.next_icon - first_icon, 0);
     fuzz::check(new_messages().size() <= static_cast<std::size_t>(processed) + 2,

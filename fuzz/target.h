@@ -32,8 +32,7 @@ inline void restart_on_empty_drives() {
 }
 
 // Calls `maker` if the first byte is odd. Otherwise the rest is the input.
-template <typename Maker>
-std::string raw_or_generated(const std::uint8_t* data, std::size_t size, Maker maker) {
+std::string raw_or_generated(const std::uint8_t* data, std::size_t size, const auto& maker) {
   if (size == 0) return "";
   if (data[0] % 2 == 0) return {reinterpret_cast<const char*>(data) + 1, size - 1};
   FuzzedDataProvider from(data + 1, size - 1);

@@ -10,8 +10,7 @@ namespace ostrane {
 constexpr int cannot_run = 77;  // exit status of a process that cannot set up its test
 
 // Forks a process that runs `job` and exits with 0, or with 1 if an expectation failed.
-template <typename Job>
-pid_t start_process(const Job& job) {
+pid_t start_process(const auto& job) {
   const pid_t child = fork();
   if (child != 0) return child;
   try {
@@ -29,8 +28,7 @@ inline int exit_status(pid_t child) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-template <typename Job>
-void run_in_process(const Job& job) {
+void run_in_process(const auto& job) {
   const int status = exit_status(start_process(job));
   if (status == cannot_run) GTEST_SKIP() << "this user may not do that";
   EXPECT_EQ(status, 0);

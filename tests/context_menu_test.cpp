@@ -1,5 +1,5 @@
+#include "failing_calls.h"
 #include "forms_layer/screen_services.h"
-#include "handlers/start_up.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 
@@ -62,9 +62,17 @@ void on_swatch() { click_row("GAME.PAL"), on_slot(1); }
 void change() { write("C:\\ostrane.dat", read("C:\\ostrane.dat") + " "); }
 void after_change() { change(), on_slot(1); }
 void on_row_after_change() { change(), on_row(); }
+void on_row_during_changes() {
+  write("D:\\out\\note", "old");
+  failing_calls watched;
+  watched.before_call = [](const std::string& call) {
+    if (call == "read_some") change();
+  };
+  on_row();
+}
 void without_archive() { open_archive("D:\\"), new_messages(), on_slot(1); }
 
-TEST_F(context_menu_test, DoesWhatExportAndExtractDo) {
+TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
   if (make_icon_exporter() == nullptr) GTEST_SKIP() << "built without libpng and giflib";
   const std::string changed =
       " <C:\\ostrane.dat has changed since it was read. Read it again. The ";
@@ -80,6 +88,7 @@ TEST_F(context_menu_test, DoesWhatExportAndExtractDo) {
       {on_second, 1, "", 0, "+++ F1-0005.png"},
       {on_second, 1, "p.PNG", 0, "+++ F1-0005.png p.PNG", "\x89PNG"},
       {on_second, 2, "all.png", 0, "+++ F1-sheet.png all.json all.png", "\"duration\":70"},
+      {on_second, 2, "all.PNG", 0, "+++ F1-sheet.png all.PNG all.json", "\"image\":\"all.PNG\""},
       {on_first, 2, "a-0001.png", 0, "+++ F1-sheet.png a-0004.png a-0005.png a-0006.png a.json",
        "{\"number\":4,"},
       {on_first, 2, "b.png", 1, "+++ F1-0004.png b-0004.png b-0005.png b-0006.png b.json",
@@ -101,6 +110,10 @@ TEST_F(context_menu_test, DoesWhatExportAndExtractDo) {
       {on_swatch, 0, "", 0, ""},
       {after_change, 1, "p.png", 0, "+++ F1-0004.png" + changed + "picture was not saved.>"},
       {on_row_after_change, 0, "note", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
+      {on_row_during_changes, 0, "note", 0,
+       "+ N.TXT note <The archive was written to meanwhile. Extract it again. The entry was not "
+       "extracted.>",
+       "old"},
       {without_archive, 0, "", 0, "+-- copied 3"},
   };
   for (const auto& c : cases) {

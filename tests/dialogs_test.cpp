@@ -1,13 +1,10 @@
-#include <functional>
-
 #include "tool_fixture.h"
 
 namespace ostrane {
 
 // Calls `check` with each dialog open in a restarted tool that has an archive open: the form, its
 // field that shows the folder, or null, its menu item and its Cancel.
-template <typename Check>
-static void with_each(const Check& check) {
+static void with_each(const auto& check) {
   const auto open = [&check](auto& form, forms_layer::text_box* field, auto& menu, auto& cancel) {
     restart("D:\\Sub");
     open_archive({{"A.TXT", "a"}});
@@ -23,8 +20,7 @@ static void with_each(const Check& check) {
 }
 
 // `text` is that of the field.
-template <typename Form>
-static void expect_position(const Form& form, const forms_layer::text_box* field,
+static void expect_position(const auto& form, const forms_layer::text_box* field,
                             const std::string& drive, const std::string& folder,
                             const std::string& text) {
   EXPECT_EQ((texts{form.Drive1.Drive(), form.Dir1.Path(), form.File1.Path(),
@@ -76,15 +72,6 @@ TEST_F(dialogs_test, ReloadsItsLists) {
       EXPECT_EQ(form.File1.ListCount(), 0);
     }
   });
-}
-
-TEST_F(dialogs_test, ListsTextFilesAfterAnUnreadableFolder) {
-  restart("D:\\gone");
-  open_archive({{"A.TXT", "a"}});
-  user::click(Form1.mnu_read_filelist);
-  write("D:\\here\\a.dat", "");
-  Form6.Dir1.Path = "D:\\here";
-  EXPECT_TRUE(Form6.Visible() && Form6.File1.ListCount() == 0);
 }
 
 // The typed folder and name, the folder in the dialog afterwards, and the error number. A blank

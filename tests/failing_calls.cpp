@@ -1,11 +1,8 @@
 #include "failing_calls.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <string_view>
-
-#include "files/system_calls.h"
 
 namespace ostrane {
 namespace {
@@ -17,12 +14,13 @@ failing_calls* current = nullptr;
 
 // Records a call and returns its result or the error of the fault. Closes a file whose opening is
 // reported as failed.
-template <typename Call>
-auto record(std::string_view name, const Call& call) {
+auto record(std::string_view name, const auto& call) {
   const int number = static_cast<int>(current->calls.size());
   current->calls.emplace_back(name);
+  current->before_call(current->calls.back());
   const call_fault& fault = current->fault;
-  if (number < current->at || (number > current->at && !fault.lasting)) return call();
+  const bool fails = number == current->at || (number > current->at && fault.lasting);
+  if (!fails && name != current->failing_name) return call();
 #ifdef SIGKILL  // where processes have signals
   if (fault.kind == call_fault::kills) std::raise(SIGKILL);
   if (fault.kind == call_fault::stops) std::raise(SIGSTOP);
@@ -31,7 +29,7 @@ auto record(std::string_view name, const Call& call) {
   using result = decltype(call());
   if (fault.kind == call_fault::writes_nothing) return name == "write_some" ? result{} : call();
   // A failing close or remove takes effect all the same, and a full disk takes part of a write.
-  const bool fails_late = name[0] == 'c' || name == "remove_file" || name == "write_some";
+  const bool fails_late = name == "close_file" || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {
     const result done = call();
     if (name.starts_with("open") && done >= 0) real.close_file(static_cast<int>(done));
@@ -53,40 +51,37 @@ struct counted<Name, Member> {
   static Result call(Args... args) {
     return record(Name.text, [&] { return (real.*Member)(args...); });
   }
+  static void put_into(table& all) { all.*Member = call; }
 };
+
+template <typename... Calls>
+void put_into(table& all) {
+  (Calls::put_into(all), ...);
+}
+
+#define COUNTED(name) counted<#name, &table::name>
 
 std::size_t half(std::size_t count) { return (count + 1) / 2; }
 
 table counted_calls() {
   table all = real;
-  all.open_to_read = counted<"open_to_read", &table::open_to_read>::call;
-  all.open_to_write = counted<"open_to_write", &table::open_to_write>::call;
-  all.open_new = counted<"open_new", &table::open_new>::call;
-  all.open_lock = counted<"open_lock", &table::open_lock>::call;
+  put_into<COUNTED(open_to_read), COUNTED(open_to_write), COUNTED(open_new), COUNTED(open_lock),
+           COUNTED(seek_to), COUNTED(set_size), COUNTED(info_of), COUNTED(info_at),
+           COUNTED(copy_permissions), COUNTED(lock), COUNTED(flush_to_disk), COUNTED(close_file),
+           COUNTED(remove_file), COUNTED(replace), COUNTED(flush_folder), COUNTED(list)>(all);
   all.read_some = [](int file, std::byte* to, std::size_t count) {
     return record("read_some", [&] { return real.read_some(file, to, half(count)); });
   };
   all.write_some = [](int file, const std::byte* from, std::size_t count) {
     return record("write_some", [&] { return real.write_some(file, from, half(count)); });
   };
-  all.seek_to = counted<"seek_to", &table::seek_to>::call;
-  all.set_size = counted<"set_size", &table::set_size>::call;
-  all.info_of = counted<"info_of", &table::info_of>::call;
-  all.info_at = counted<"info_at", &table::info_at>::call;
-  all.copy_permissions = counted<"copy_permissions", &table::copy_permissions>::call;
-  all.lock = counted<"lock", &table::lock>::call;
-  all.flush_to_disk = counted<"flush_to_disk", &table::flush_to_disk>::call;
-  all.close_file = counted<"close_file", &table::close_file>::call;
-  all.remove_file = counted<"remove_file", &table::remove_file>::call;
-  all.replace = counted<"replace", &table::replace>::call;
-  all.flush_folder = counted<"flush_folder", &table::flush_folder>::call;
-  all.list = counted<"list", &table::list>::call;
   return all;
 }
 
 }  // namespace
 
-failing_calls::failing_calls(int number, call_fault with) : at(number), fault(with) {
+failing_calls::failing_calls(int number, call_fault with, std::string name)
+    : at(number), fault(with), failing_name(std::move(name)) {
   current = this;
   files::system_calls = counted_calls();
 }

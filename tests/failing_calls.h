@@ -1,8 +1,12 @@
 #pragma once
 
-#include <cstddef>
+#include <cerrno>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "files/system_calls.h"
 
 namespace ostrane {
 
@@ -19,11 +23,14 @@ struct call_fault {
   bool lasting = false;  // all later calls fail too
 };
 
-// During its lifetime the tool's file calls are recorded, and call `at` fails. Reads and writes
-// move half of the bytes asked for.
+// During its lifetime the tool's file calls are recorded, and call `at`, or all of one name, fail.
+// Reads and writes move half of the bytes asked for.
 class failing_calls {
  public:
-  explicit failing_calls(int at, call_fault with = {.kind = call_fault::kills});
+  explicit failing_calls(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills},
+                         std::string name = "");
+  failing_calls(std::string name, int reason)
+      : failing_calls(INT32_MAX, {.reason = reason}, std::move(name)) {}
   failing_calls(const failing_calls&) = delete;
   failing_calls& operator=(const failing_calls&) = delete;
   ~failing_calls();
@@ -32,6 +39,8 @@ class failing_calls {
 
   const int at;  // 0-based number of the call
   const call_fault fault;
+  const std::string failing_name;
+  std::function<void(const std::string& name)> before_call = [](const auto&) {};
   std::vector<std::string> calls;
 };
 

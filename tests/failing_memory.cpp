@@ -9,41 +9,22 @@
 #define malloc_usable_size _msize
 #endif
 
-namespace {
+using ostrane::failing_memory;
 
-long calls_until_failure = 0;  // 0: none fails
-bool lasting = false;
-bool failed = false;
-std::size_t freed = 0;  // bytes since the failure
+static failing_memory* current = nullptr;
 
-bool fails(std::size_t size) {
-  if (failed && lasting) {
-    const bool fits = size <= freed;
-    if (fits) freed -= size;
-    return !fits;
-  }
-  if (calls_until_failure == 0 || --calls_until_failure > 0) return false;
-  failed = true;
-  return true;
+failing_memory::failing_memory(long at, bool lasting) : calls_left(at), is_lasting(lasting) {
+  current = this;
 }
+failing_memory::~failing_memory() { current = nullptr; }
 
-}  // namespace
-
-namespace ostrane {
-
-failing_memory::failing_memory(long at, bool is_lasting) {
-  calls_until_failure = at;
-  lasting = is_lasting;
-  failed = false;
-  freed = 0;
+static bool fails(std::size_t size) {
+  if (current == nullptr || (current->happened && !current->is_lasting)) return false;
+  if (!current->happened) return current->happened = --current->calls_left == 0;
+  const bool fits = size <= current->freed;
+  if (fits) current->freed -= size;
+  return !fits;
 }
-failing_memory::~failing_memory() {
-  calls_until_failure = 0;
-  lasting = false;
-}
-bool failing_memory::happened() { return failed; }
-
-}  // namespace ostrane
 
 void* operator new(std::size_t size) {
   void* memory = fails(size) ? nullptr : std::malloc(size > 0 ? size : 1);
@@ -51,18 +32,9 @@ void* operator new(std::size_t size) {
   return memory;
 }
 void operator delete(void* memory) noexcept {
-  if (lasting && failed && memory != nullptr) freed += malloc_usable_size(memory);
+  const bool counts = current != nullptr && current->happened && memory != nullptr;
+  if (counts) current->freed += malloc_usable_size(memory);
   std::free(memory);
 }
-// Sanitizers have their own.
-void* operator new[](std::size_t size) { return operator new(size); }
-void* operator new[](std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
-  try {
-    return operator new(size);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
-}
-void operator delete[](void* memory) noexcept { operator delete(memory); }
-void operator delete[](void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
+// Sanitizers have their own, also for arrays.
 void operator delete(void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }

@@ -72,6 +72,7 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   }
 }
 
+<<<<<<< HEAD
 // Blocks from the buffer and blocks that bypass it, then a step back by one buffer.
 TEST_F(files_test, CopiesBlocksOfAnySize) {
   const std::string bytes = some_bytes(1000000);
@@ -97,7 +98,10 @@ TEST_F(files_test, CopiesBlocksOfAnySize) {
   EXPECT_EQ(read("C:\\to"), expected);
 }
 
-TEST(CodePage, EveryByteSurvivesUtf8) {
+TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
+=======
+TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
+>>>>>>> 0218942 (Shorten the tests and name them in plain words)
   for (int byte = 0; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));
     EXPECT_EQ(files::from_utf8(files::to_utf8(text)), text) << byte;
@@ -110,7 +114,7 @@ TEST(CodePage, EveryByteSurvivesUtf8) {
       "\u0153\u009D\u017E\u0178\u00A0\u00E9\u00FF");
 }
 
-TEST(CodePage, RefusesCharactersItLacks) {
+TEST(CodePage, RejectsUnsupportedCharacters) {
   // A Greek letter, a control character whose byte is the Euro sign, and a combining accent; then
   // truncated, overlong, a surrogate, after the last code point, not UTF-8 at all.
   for (const char* text : {"\xCE\xA9", "\xC2\x80", "e\xCC\x81", "\xC3", "\xC1\x81", "\xE0\x83\xA9",

@@ -41,16 +41,11 @@ TEST_F(forms_layer_test, HandlersRunOneAtATime) {
 TEST_F(forms_layer_test, DisabledAndHiddenControlsIgnoreInput) {
   int clicks = 0;
   Form1.Command6.Click = [&] { ++clicks; };
-  const auto click_without = [](auto& property) {
-    property = false;
-    user::click(Form1.Command6);
-    property = true;
+  const auto click_without_each = [](auto&... properties) {
+    ((properties = false, user::click(Form1.Command6), properties = true), ...);
   };
-  click_without(Form1.Enabled);
-  click_without(Form1.Visible);
-  click_without(Form1.Command6.Enabled);
-  click_without(Form1.Command6.Visible);
-  click_without(Form1.Frame1.Visible);
+  click_without_each(Form1.Enabled, Form1.Visible, Form1.Command6.Enabled, Form1.Command6.Visible,
+                     Form1.Frame1.Visible);
   EXPECT_EQ(clicks, 0);
 }
 

@@ -1,69 +1,46 @@
 #include <sys/stat.h>
 
-#include <cerrno>
-#include <fstream>
-
 #include "child_process.h"
 #include "failing_calls.h"
-#include "files/code_page.h"
 #include "files/paths.h"
-#include "files/system_calls.h"
 #include "files/text_file.h"
-#include "handlers/start_up.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
 
 using lists_test = tool_test;
 
-// For the saved list and for the report.
-TEST_F(lists_test, AReplacedListKeepsPermissionsLinksAndOtherSpellings) {
-  const std::string saved = "A\r\n\r\n";
-  for (const char* name : {"D:\\shplist.txt", "C:\\Shiplist-compare.txt"}) {
-    const fs::path list = disk_path(name);
-    const fs::path other = list.parent_path() / files::upper_case(list.filename().string());
-    const auto save = [&] {
-      restart("D:\\");
-      write("D:\\x.txt", "X");
-      open_archive({{"A", ""}});
-      user::click(Form1.mnu_save);
-      compare_with("D:\\", "x.txt");
-    };
-    write(name, "old");
-    std::ofstream(other) << "another";
-    const bool owner_changed = chown(list.c_str(), 12345, 54321) == 0;  // only root can
-    chmod(list.c_str(), 04640);
-    save();
-    struct stat status = {};
-    EXPECT_EQ(stat(list.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777U, 0640U);
-    EXPECT_TRUE(!owner_changed || (status.st_uid == 12345 && status.st_gid == 54321));
-    const std::string bytes = bytes_of(list);
-    EXPECT_NE(bytes, "old");
-    EXPECT_EQ(bytes_of(other), "another");
-    for (const bool dangling : {false, true}) {
-      fs::remove(list);
-      make_folder("D:\\far");
-      fs::create_symlink(disk_path("D:\\far\\list"), list);
-      if (!dangling) write("D:\\far\\list", std::string(1000, 'o'));
-      save();
-      EXPECT_TRUE(fs::is_symlink(list));
-      EXPECT_EQ(files_in("D:\\far"), (file_map{{"list", bytes}}));
-      if (dangling) fs::remove(disk_path("D:\\far\\list"));
-      const failing_calls none(INT32_MAX);
-      files::system_calls.write_some = [](int, const std::byte*, std::size_t) {
-        return std::int64_t{-ENOSPC};
-      };
-      save();
-      EXPECT_EQ(files_in("D:\\far").size(), dangling ? 0U : 1U);
-      fs::remove_all(disk_path("D:\\far"));
-    }
+TEST_F(lists_test, ReplacingAListKeepsPermissionsLinksAndOtherSpellings) {
+  const fs::path list = disk_path("D:\\shplist.txt");
+  write("D:\\shplist.txt", "old");
+  write("D:\\SHPLIST.TXT", "another");
+  const bool owner_changed = chown(list.c_str(), 12345, 54321) == 0;  // only root can
+  chmod(list.c_str(), 04640);
+  save_list();
+  struct stat status = {};
+  EXPECT_EQ(stat(list.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_TRUE(!owner_changed || (status.st_uid == 12345 && status.st_gid == 54321));
+  EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", saved}, {"SHPLIST.TXT", "another"}}));
+  for (const file_map& linked : {file_map{{"list", std::string(1000, 'o')}}, file_map{}}) {
     fs::remove(list);
+    fs::remove_all(disk_path("D:\\far"));
+    make_folder("D:\\far");
+    fs::create_symlink(disk_path("D:\\far\\list"), list);
+    for (const auto& [name, old] : linked) write("D:\\far\\" + name, old);
+    {
+      const failing_calls full("write_some", ENOSPC);
+      save_list();
+    }
+    EXPECT_EQ(files_in("D:\\far"), linked);
+    save_list();
+    EXPECT_TRUE(fs::is_symlink(list));
+    EXPECT_EQ(files_in("D:\\far"), (file_map{{"list", saved}}));
   }
 }
 
 // Such a list would destroy the archive.
-TEST_F(lists_test, NoListIsWrittenOverTheOpenArchive) {
+TEST_F(lists_test, RefusesToOverwriteTheOpenArchive) {
   restart("D:\\");
   open_archive({{"A", "bytes"}});
   for (const char* target : {"ostrane.dat", "oSTRANE.dat"}) {
@@ -77,65 +54,38 @@ TEST_F(lists_test, NoListIsWrittenOverTheOpenArchive) {
   EXPECT_EQ(read("C:\\ostrane.dat"), archive_bytes({{"A", "bytes"}}));
 }
 
-TEST_F(lists_test, AListInAReadOnlyFolderIsOverwritten) {
-  run_in_process([&] {
-    write("D:\\ro\\shplist.txt", std::string(1000, 'o'));
-    for (const char* own : {"", "c", "d", "c/program", "d/ro/shplist.txt"}) {
-      fs::permissions(root / own, fs::perms::all);
-    }
-    fs::permissions(disk_path("D:\\ro"), fs::perms::others_read | fs::perms::others_exec);
-    drop_root();
-    restart("D:\\ro");
-    open_archive({{"A", ""}});
-    user::click(Form1.mnu_save);
-    EXPECT_EQ(files_in("D:\\ro"), (file_map{{"shplist.txt", "A\r\n\r\n"}}));
-  });
-  fs::permissions(disk_path("D:\\ro"), fs::perms::all);
-}
-
-// As in a sticky folder and for a file that is a mount point.
-TEST_F(lists_test, AListThatCannotBeReplacedIsOverwritten) {
-  const failing_calls none(INT32_MAX);
-  files::system_calls.replace = [](const fs::path&, const fs::path&) { return -EBUSY; };
-  write("D:\\shplist.txt", std::string(1000, 'o'));
-  restart("D:\\");
-  open_archive({{"A", ""}});
-  user::click(Form1.mnu_save);
-  EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", "A\r\n\r\n"}}));
+// As in a read-only folder, in a sticky one and for a file that is a mount point.
+TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
+  for (const auto& [call, reason] : {std::pair{"open_lock", EACCES}, {"replace", EBUSY}}) {
+    write("D:\\shplist.txt", std::string(1000, 'o'));
+    const failing_calls failing(call, reason);
+    save_list();
+    EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", saved}}));
+  }
 }
 
 // A new file is its owner's alone until it has the permissions of the old one. A group that it
 // cannot have gets those of others. Every user can lock.
-TEST_F(lists_test, ANewFileIsNeverReadableForMoreUsersThanTheOld) {
-  const auto mode_of = [](const char* name) {
-    struct stat status = {};
-    EXPECT_EQ(stat(disk_path(name).c_str(), &status), 0) << name;
-    return status.st_mode & 07777U;
+TEST_F(lists_test, NewFileIsReadableForNoMoreUsersThanTheOldOne) {
+  const auto mode_of = [](const char* name) { return fs::status(disk_path(name)).permissions(); };
+  const auto mode_after_replacing = [&](mode_t mask) {
+    umask(mask);
+    files::text_writer writer(files::to_file_path("D:\\old"));
+    EXPECT_EQ(mode_of("D:\\.OLD.lock"), fs::perms{0666});
+    writer.close();
+    return mode_of("D:\\old");
   };
-  const auto mode_after = [&] {
-    write("D:\\old", "");
-    chmod(disk_path("D:\\old").c_str(), 0664);
-    if (geteuid() == 0 && chown(disk_path("D:\\old").c_str(), 65534, 12345) != 0) _exit(cannot_run);
-    fs::permissions(root / "d", fs::perms::all);
-    return [&](mode_t mask) {
-      umask(mask);
-      files::text_writer writer(files::to_file_path("D:\\old"));
-      EXPECT_EQ(mode_of("D:\\.OLD.lock"), 0666U);
-      writer.close();
-      return mode_of("D:\\old");
-    };
-  };
+  write("D:\\old", "");
+  chmod(disk_path("D:\\old").c_str(), 0664);
+  EXPECT_TRUE(geteuid() != 0 || chown(disk_path("D:\\old").c_str(), 65534, 12345) == 0);
+  for (const char* own : {"", "d"}) fs::permissions(root / own, fs::perms::all);
   run_in_process([&] {
-    const auto replaced = mode_after();
-    const failing_calls none(INT32_MAX);
-    files::system_calls.copy_permissions = [](int, const fs::path&) { return -EPERM; };
-    EXPECT_EQ(replaced(022), 0600U);
+    drop_root();
+    EXPECT_EQ(mode_after_replacing(077), fs::perms{geteuid() == 0 ? 0664U : 0644U});
   });
   run_in_process([&] {
-    fs::permissions(root, fs::perms::all);
-    const auto replaced = mode_after();
-    drop_root();
-    EXPECT_EQ(replaced(077), geteuid() == 0 ? 0664U : 0644U);
+    const failing_calls failing("copy_permissions", EPERM);
+    EXPECT_EQ(mode_after_replacing(022), fs::perms{0600});
   });
 }
 

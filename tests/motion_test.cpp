@@ -98,19 +98,14 @@ TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
     }
     return shown;
   };
-  const auto report = [](const texts& numbers) {
-    std::string text =
-        "Icon-data for picture number:  @, on this screen."
-        "Number of cols(0-#)         : @\rNumber of rows(0-#)         : @\r"
-        "First column with data      : @\rLast column with data       : @\r"
-        "First row with data         : @\rLast row with data          : @\r"
-        "\rIcon-number in shp-file     : @\rSHP-Startpos in Ostrane.dat : @\r"
-        "\rClick >HERE< to make this message disappear...";
-    for (const std::string& number : numbers) text.replace(text.find('@'), 1, number);
-    return text;
-  };
-  EXPECT_EQ(reports(), (texts{report({"1", " 1", " 1", " 2", " 1", " 0", " 1", " 2", " 1100"}),
-                              report({"2", " 63", " 9", "-2", " 40", " 3", " 8", " 3", " 1100"})}));
+  EXPECT_EQ(reports().size(), 2U);
+  EXPECT_EQ(reports().back(),
+            "Icon-data for picture number:  2, on this screen."
+            "Number of cols(0-#)         :  63\rNumber of rows(0-#)         :  9\r"
+            "First column with data      : -2\rLast column with data       :  40\r"
+            "First row with data         :  3\rLast row with data          :  8\r"
+            "\rIcon-number in shp-file     :  3\rSHP-Startpos in Ostrane.dat :  1100\r"
+            "\rClick >HERE< to make this message disappear...");
   click_row("N.TXT");
   EXPECT_EQ(reports(), texts{});
 }

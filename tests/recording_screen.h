@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "forms_layer/screen.h"
 #include "tool_fixture.h"
 
@@ -17,7 +15,6 @@ class recording_screen : public forms_layer::screen {
   // Form1: Text2 and Text3. Per focus change: the name of the form.
   texts log;
   std::string moves;  // of the bars: " bar:value" each
-  std::function<void()> on_refresh = [] {};
 
   // Sets the bars to a value that no job uses.
   void reset_bars() {
@@ -29,7 +26,6 @@ class recording_screen : public forms_layer::screen {
     if (&shown == &Form1) log.push_back(Form1.Text2.Text() + ":" + Form1.Text3.Text());
     if (&shown != &Form3) return;
     log.push_back(visible_windows() + Form3.Caption() + "|" + Form3.message.Caption());
-    on_refresh();
   }
   // A change of the range alone is no move.
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {

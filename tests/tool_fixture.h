@@ -48,6 +48,15 @@ inline void restart_with(const file_map& files) {
   restart();
 }
 
+const std::string saved = "A\r\n\r\n";
+
+// Saves that list as D:\shplist.txt.
+inline void save_list() {
+  restart("D:\\");
+  open_archive({{"A", ""}});
+  user::click(Form1.mnu_save);
+}
+
 // Clicks the first row of that name.
 inline void click_row(const std::string& name) {
   std::int32_t row = 0;
@@ -67,22 +76,6 @@ struct tool_test : testing::Test {
     files::set_drives({});
     std::error_code left;
     fs::remove_all(root, left);
-  }
-};
-
-// Files for a build, and the archive that it makes of them.
-struct small_build_test : tool_test {
-  const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
-  const std::string archive =
-      archive_bytes({{"A.TXT", sources.at("a.txt")}, {"B.TXT", ""}, {"C.TXT", "c"}});
-  file_map sources_and(const std::string& name, const std::string& bytes) const {
-    file_map both = sources;
-    both[name] = bytes;
-    return both;
-  }
-  // Restarts the tool with the files and an old archive in C:\work.
-  void restart_beside(const std::string& old_archive) const {
-    restart_with(sources_and(old_archive, "the old one"));
   }
 };
 

@@ -54,7 +54,12 @@ inline texts names_in(const std::string& folder) {
   return all;
 }
 
+const auto nothing = [] {};
+
 // Commands, through the dialogs.
+inline auto clicking(auto& control) {
+  return [&control] { user::click(control); };
+}
 inline void open_archive(const std::string& folder = "C:\\") {
   user::click(Form1.mnu_open);
   Form2.Dir1.Path = folder;

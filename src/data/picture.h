@@ -18,6 +18,8 @@ class picture {
         rows_(rows),
         cells_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), unset) {}
 
+  friend bool operator==(const picture&, const picture&) = default;
+
   int columns() const { return columns_; }
   int rows() const { return rows_; }
 
