@@ -72,7 +72,6 @@ TEST_F(files_test, SeeksInsideAndOutsideItsBuffer) {
   }
 }
 
-<<<<<<< HEAD
 // Blocks from the buffer and blocks that bypass it, then a step back by one buffer.
 TEST_F(files_test, CopiesBlocksOfAnySize) {
   const std::string bytes = some_bytes(1000000);
@@ -99,9 +98,6 @@ TEST_F(files_test, CopiesBlocksOfAnySize) {
 }
 
 TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
-=======
-TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
->>>>>>> 0218942 (Shorten the tests and name them in plain words)
   for (int byte = 0; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));
     EXPECT_EQ(files::from_utf8(files::to_utf8(text)), text) << byte;
