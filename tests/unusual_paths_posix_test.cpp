@@ -1,5 +1,5 @@
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstring>
 
@@ -66,8 +66,6 @@ TEST_F(unusual_paths_test, RefusesTooManyFiles) {
                                 "archive was made.";
     EXPECT_EQ(new_messages().front() == refusal, left > max_files) << left;
   }
-  open_archive("C:\\work");
-  EXPECT_EQ(Form1.List1.ListCount(), 32767);
 }
 
 #ifdef NDEBUG

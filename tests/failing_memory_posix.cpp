@@ -5,10 +5,6 @@
 #include <cstdlib>
 #include <new>
 
-#ifdef _WIN32
-#define malloc_usable_size _msize
-#endif
-
 using ostrane::failing_memory;
 
 static failing_memory* current = nullptr;
