@@ -1,39 +1,34 @@
 #include "desktop/cursor_step.h"
 
 #include <cstdlib>
-#include <optional>
+#include <limits>
 #include <utility>
 
 namespace desktop {
 
 namespace {
 
-// Distance of two rectangles; rows count first. Rectangles of a row have the same top.
-std::pair<int, int> distance(const QRect& rect, const QRect& from) {
-  return {std::abs(rect.top() - from.top()), std::abs(rect.center().x() - from.center().x())};
-}
-
-bool lies_that_way(const QRect& rect, const QRect& from, int key) {
-  return key == Qt::Key_Up ? rect.top() < from.top() : rect.top() > from.top();
-}
-
-std::optional<std::size_t> first_shown(const std::vector<QRect>& rects, std::size_t at,
-                                       bool onward) {
-  // A step back from index 0 wraps around, which ends the search like the end does.
-  while (at < rects.size() && rects[at].isNull()) onward ? ++at : --at;
-  return at < rects.size() ? std::optional(at) : std::nullopt;
-}
-
-std::size_t nearest_row_step(const std::vector<QRect>& rects, std::size_t from, int key) {
-  std::size_t nearest = from;
-  for (std::size_t i = 0; i < rects.size(); ++i) {
-    if (rects[i].isNull() || !lies_that_way(rects[i], rects[from], key)) continue;
-    const bool first = nearest == from;
-    if (first || distance(rects[i], rects[from]) < distance(rects[nearest], rects[from])) {
-      nearest = i;
-    }
+// How far a key moves the cursor if it goes from one rectangle to the other; rows count before
+// columns. Not positive if the key leads elsewhere. Rectangles of a row have the same top.
+std::pair<int, int> distance(const std::vector<QRect>& rects, std::size_t from, std::size_t to,
+                             int key) {
+  const int steps = static_cast<int>(to) - static_cast<int>(from);
+  const int down = rects[to].top() - rects[from].top();
+  const int across = std::abs(rects[to].center().x() - rects[from].center().x());
+  switch (key) {
+    case Qt::Key_Left:
+      return {-steps, 0};
+    case Qt::Key_Right:
+      return {steps, 0};
+    case Qt::Key_Home:
+      return {static_cast<int>(to) + 1, 0};
+    case Qt::Key_End:
+      return {static_cast<int>(rects.size() - to), 0};
+    case Qt::Key_Up:
+      return {-down, across};
+    default:
+      return {down, across};
   }
-  return nearest;
 }
 
 }  // namespace
@@ -44,18 +39,15 @@ bool is_cursor_key(int key) {
 }
 
 std::size_t cursor_step(const std::vector<QRect>& rects, std::size_t from, int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return first_shown(rects, from - 1, false).value_or(from);
-    case Qt::Key_Right:
-      return first_shown(rects, from + 1, true).value_or(from);
-    case Qt::Key_Home:
-      return first_shown(rects, 0, true).value_or(from);
-    case Qt::Key_End:
-      return first_shown(rects, rects.size() - 1, false).value_or(from);
-    default:
-      return nearest_row_step(rects, from, key);
+  std::size_t nearest = from;
+  std::pair<int, int> least{std::numeric_limits<int>::max(), 0};
+  for (std::size_t to = 0; to < rects.size(); ++to) {
+    const std::pair<int, int> there = distance(rects, from, to, key);
+    if (rects[to].isNull() || there.first <= 0 || there >= least) continue;
+    nearest = to;
+    least = there;
   }
+  return nearest;
 }
 
 }  // namespace desktop
