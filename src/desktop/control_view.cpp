@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 
 namespace desktop {
@@ -52,6 +51,12 @@ void control_view::sync() {
 void control_view::show_all() {
   dirty_ = ~0U;
   sync();
+}
+
+void control_view::show_colours() {
+  QWidget& shown = widget();
+  shown.setPalette(
+      with_colours({}, shown.backgroundRole(), shown.foregroundRole(), control.BackColor()));
 }
 
 }  // namespace desktop

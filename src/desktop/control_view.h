@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "desktop/designed_look.h"
 #include "forms_layer/control.h"
 
 namespace desktop {
@@ -31,10 +32,24 @@ class control_view {
   // Caption, text, items or range. Synced before the selection, which refers to the items.
   virtual void show_content() {}
   virtual void show_selection() {}
-  virtual void show_colours() {}
+  // By default BackColor is the colour of the widget's background role.
+  virtual void show_colours();
 
  private:
   unsigned dirty_ = 0;
+};
+
+// The base of a view: a Qt widget that shows a kind of control, in its designed font.
+template <typename Widget, typename Control>
+class view_of : public Widget, public control_view {
+ public:
+  view_of(Control& shown, QWidget* parent) : Widget(parent), control_view(shown), shown_(shown) {
+    this->setFont(font_for(shown.designed.font));
+  }
+  QWidget& widget() override { return *this; }
+
+ protected:
+  Control& shown_;
 };
 
 }  // namespace desktop

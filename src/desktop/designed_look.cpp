@@ -68,6 +68,8 @@ QColor text_on(forms_layer::colour back) {
 
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       forms_layer::colour back) {
+  // Themes have their own colour for it.
+  if (back_role == QPalette::Button && back == forms_layer::system_button_face) return start;
   const QColor background = on_screen(back);
   const QColor text = text_on(back);
   start.setColor(back_role, background);

@@ -10,7 +10,9 @@ namespace desktop {
 class dir_list_view : public rows_view {
  public:
   dir_list_view(forms_layer::dir_list& shown, QWidget* parent)
-      : rows_view(shown, parent), folders_(shown) {}
+      : rows_view(shown, parent), folders_(shown) {
+    setAccessibleName(QStringLiteral("Folders"));
+  }
 
   std::string_view row_text(int row) const override { return at(row).name; }
   int row_count() const override { return static_cast<int>(folders_.rows().size()); }

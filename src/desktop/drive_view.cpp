@@ -2,18 +2,16 @@
 
 #include <QWheelEvent>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/events.h"
 #include "forms_layer/user.h"
 
 namespace desktop {
 
-drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent)
-    : QComboBox(parent), control_view(shown), drives_(shown) {
-  setFont(font_for(shown.designed.font));
+drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent) : view_of(shown, parent) {
+  setAccessibleName(QStringLiteral("Drives"));
   connect(this, &QComboBox::activated, this, [this](int row) {
-    forms_layer::user::choose(drives_, row);
+    forms_layer::user::choose(shown_, row);
     // The tool may have selected another drive.
     if (!forms_layer::handler_running()) show_selection();
   });
@@ -21,13 +19,13 @@ drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent)
 
 void drive_view::show_content() {
   clear();
-  for (const std::string& drive : drives_.rows()) addItem(to_screen(drive));
+  for (const std::string& drive : shown_.rows()) addItem(to_screen(drive));
 }
 
-void drive_view::show_selection() { setCurrentIndex(drives_.selected_row()); }
+void drive_view::show_selection() { setCurrentIndex(shown_.selected_row()); }
 
 void drive_view::show_colours() {
-  const forms_layer::colour back = drives_.BackColor();
+  const forms_layer::colour back = shown_.BackColor();
   const QPalette list = with_colours({}, QPalette::Base, QPalette::Text, back);
   setPalette(with_colours(list, QPalette::Button, QPalette::ButtonText, back));
 }

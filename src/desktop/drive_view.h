@@ -8,19 +8,15 @@
 namespace desktop {
 
 // A drop-down list of the drives.
-class drive_view : public QComboBox, public control_view {
+class drive_view : public view_of<QComboBox, forms_layer::drive_list> {
  public:
   drive_view(forms_layer::drive_list& shown, QWidget* parent);
-  QWidget& widget() override { return *this; }
 
  protected:
   void show_content() override;
   void show_selection() override;
   void show_colours() override;
   void wheelEvent(QWheelEvent* event) override;
-
- private:
-  forms_layer::drive_list& drives_;
 };
 
 }  // namespace desktop

@@ -10,7 +10,9 @@ namespace desktop {
 class file_list_view : public rows_view {
  public:
   file_list_view(forms_layer::file_list& shown, QWidget* parent)
-      : rows_view(shown, parent), files_(shown) {}
+      : rows_view(shown, parent), files_(shown) {
+    setAccessibleName(QStringLiteral("Files"));
+  }
 
   std::string_view row_text(int row) const override { return files_.List(row); }
   int row_count() const override { return files_.ListCount(); }

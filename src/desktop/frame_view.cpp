@@ -2,7 +2,6 @@
 
 #include <QPainter>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 
 namespace desktop {
@@ -15,13 +14,12 @@ constexpr int caption_margin = 2;
 }  // namespace
 
 frame_view::frame_view(forms_layer::frame& shown, QWidget* parent)
-    : QGroupBox(parent), control_view(shown), frame_(shown), inside_(*new canvas(shown, this)) {
-  setFont(font_for(shown.designed.font));
+    : view_of(shown, parent), inside_(*new canvas(shown, this)) {
   setAutoFillBackground(true);
 }
 
 void frame_view::show_content() {
-  const QString caption = to_screen(frame_.Caption());
+  const QString caption = to_screen(shown_.Caption());
   setTitle(fontMetrics().elidedText(caption, Qt::ElideRight, width() - 2 * caption_left));
   setAccessibleName(caption);
 }
@@ -29,10 +27,6 @@ void frame_view::show_content() {
 void frame_view::resizeEvent(QResizeEvent* /*event*/) {
   inside_.resize(size());
   show_content();
-}
-
-void frame_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, frame_.BackColor()));
 }
 
 // Fusion draws the line below the caption, where the design has controls.

@@ -3,17 +3,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
 
 namespace desktop {
 
-label_view::label_view(forms_layer::label& shown, QWidget* parent)
-    : QLabel(parent), control_view(shown), label_(shown) {
+label_view::label_view(forms_layer::label& shown, QWidget* parent) : view_of(shown, parent) {
   setTextFormat(Qt::PlainText);
-  setFont(font_for(shown.designed.font));
   setWordWrap(true);
   setAlignment(shown.designed.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop);
   setAutoFillBackground(true);
@@ -22,20 +19,16 @@ label_view::label_view(forms_layer::label& shown, QWidget* parent)
   lower();
 }
 
-void label_view::show_content() { setText(normalize_newlines(to_screen(label_.Caption()))); }
-
-void label_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Window, QPalette::WindowText, label_.BackColor()));
-}
+void label_view::show_content() { setText(normalize_newlines(to_screen(shown_.Caption()))); }
 
 void label_view::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-  forms_layer::user::click(label_);
+  forms_layer::user::click(shown_);
 }
 
 void label_view::keyPressEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat() && (is_enter(*event) || event->key() == Qt::Key_Space)) {
-    forms_layer::user::click(label_);
+    forms_layer::user::click(shown_);
   } else {
     QLabel::keyPressEvent(event);
   }

@@ -8,19 +8,14 @@
 namespace desktop {
 
 // If the label has a Click handler, Enter and Space click it.
-class label_view : public QLabel, public control_view {
+class label_view : public view_of<QLabel, forms_layer::label> {
  public:
   label_view(forms_layer::label& shown, QWidget* parent);
-  QWidget& widget() override { return *this; }
 
  protected:
   void show_content() override;
-  void show_colours() override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-
- private:
-  forms_layer::label& label_;
 };
 
 }  // namespace desktop

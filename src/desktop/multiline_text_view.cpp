@@ -4,7 +4,6 @@
 #include <QSignalBlocker>
 #include <QTextBlock>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
 
@@ -49,8 +48,8 @@ QString with_joined_lines(QString text) {
 }  // namespace
 
 multiline_text_view::multiline_text_view(forms_layer::text_box& shown, QWidget* parent)
-    : QPlainTextEdit(parent), control_view(shown), box_(shown) {
-  setFont(font_for(shown.designed.font));
+    : view_of(shown, parent) {
+  setBackgroundRole(QPalette::Base);
   setReadOnly(shown.designed.locked);
   setLineWrapMode(NoWrap);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -66,12 +65,12 @@ multiline_text_view::multiline_text_view(forms_layer::text_box& shown, QWidget* 
 void multiline_text_view::take_edit() {
   pause_.stop();
   QString lines = toPlainText();
-  forms_layer::user::type(box_,
+  forms_layer::user::type(shown_,
                           from_screen(lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"))));
 }
 
 void multiline_text_view::show_content() {
-  const QString now = with_short_lines(normalize_newlines(to_screen(box_.Text())));
+  const QString now = with_short_lines(normalize_newlines(to_screen(shown_.Text())));
   if (now == toPlainText()) return;
   const QSignalBlocker quiet(this);
   const QString shown = with_joined_lines(now);
@@ -88,10 +87,6 @@ void multiline_text_view::count_lines() {
   }
   QAbstractTextDocumentLayout* layout = document()->documentLayout();
   emit layout->documentSizeChanged(layout->documentSize());
-}
-
-void multiline_text_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
 }
 
 // A new width resets the numbers of lines.

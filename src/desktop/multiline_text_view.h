@@ -10,14 +10,12 @@ namespace desktop {
 
 // A text box of several lines with both scroll bars. Edits are reported when the user pauses or
 // leaves, as the text can be megabytes long.
-class multiline_text_view : public QPlainTextEdit, public control_view {
+class multiline_text_view : public view_of<QPlainTextEdit, forms_layer::text_box> {
  public:
   multiline_text_view(forms_layer::text_box& shown, QWidget* parent);
-  QWidget& widget() override { return *this; }
 
  protected:
   void show_content() override;
-  void show_colours() override;
   void resizeEvent(QResizeEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -25,7 +23,6 @@ class multiline_text_view : public QPlainTextEdit, public control_view {
   void take_edit();
   void count_lines();
 
-  forms_layer::text_box& box_;
   bool has_joined_lines_ = false;
   QTimer pause_;
 };

@@ -7,22 +7,18 @@
 
 namespace desktop {
 
-class progress_view : public QProgressBar, public control_view {
+class progress_view : public view_of<QProgressBar, forms_layer::progress_bar> {
  public:
-  progress_view(forms_layer::progress_bar& shown, QWidget* parent)
-      : QProgressBar(parent), control_view(shown), bar_(shown) {
+  progress_view(forms_layer::progress_bar& shown, QWidget* parent) : view_of(shown, parent) {
     setTextVisible(false);
     setRange(0, steps);
   }
-  QWidget& widget() override { return *this; }
 
  protected:
-  void show_content() override { setValue(static_cast<int>(bar_.filled() * steps)); }
+  void show_content() override { setValue(static_cast<int>(shown_.filled() * steps)); }
 
  private:
   static constexpr int steps = 1000;
-
-  forms_layer::progress_bar& bar_;
 };
 
 }  // namespace desktop

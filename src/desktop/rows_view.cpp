@@ -1,15 +1,12 @@
 #include "desktop/rows_view.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
-#include <QToolTip>
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "desktop/designed_look.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/events.h"
@@ -39,8 +36,8 @@ class indenting : public QStyledItemDelegate {
 }  // namespace
 
 rows_view::rows_view(forms_layer::control& shown, QWidget* parent)
-    : QListView(parent), control_view(shown), model_(*this) {
-  setFont(font_for(shown.designed.font));
+    : view_of(shown, parent), model_(*this) {
+  setBackgroundRole(QPalette::Base);
   setModel(&model_);
   setItemDelegate(new indenting(*this));
   setIconSize(QSize(icon_side, icon_side));
@@ -65,10 +62,6 @@ void rows_view::show_selection() {
   } else if (row != currentIndex().row() || !selectionModel()->hasSelection()) {
     setCurrentIndex(model_.index(row));
   }
-}
-
-void rows_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, control.BackColor()));
 }
 
 void rows_view::choose(int row) {
@@ -117,10 +110,9 @@ void rows_view::contextMenuEvent(QContextMenuEvent* event) {
   menu_requested(on.row(), by_key ? middle : event->globalPos());
 }
 
+// Qt would show the tool tips of rows, which have none, instead of that of the list.
 bool rows_view::viewportEvent(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip(), this);
-  return true;
+  return event->type() != QEvent::ToolTip && QListView::viewportEvent(event);
 }
 
 // Ctrl with Space or an arrow key would remove the highlight.

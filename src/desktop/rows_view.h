@@ -10,10 +10,9 @@ namespace desktop {
 
 // A list of rows of text. Subclasses supply the rows and handle selections. A row is read from the
 // control when it is painted, so long lists are cheap.
-class rows_view : public QListView, public control_view {
+class rows_view : public view_of<QListView, forms_layer::control> {
  public:
   rows_view(forms_layer::control& shown, QWidget* parent);
-  QWidget& widget() override { return *this; }
 
   // The text in the tool's code page.
   virtual std::string_view row_text(int row) const = 0;
@@ -34,7 +33,6 @@ class rows_view : public QListView, public control_view {
 
   void show_content() override;
   void show_selection() override;
-  void show_colours() override;
 
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

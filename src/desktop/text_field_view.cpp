@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "desktop/designed_look.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/events.h"
 #include "forms_layer/user.h"
@@ -10,33 +9,26 @@
 namespace desktop {
 
 text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
-    : QLineEdit(parent), control_view(shown), box_(shown) {
-  setFont(font_for(shown.designed.font));
+    : view_of(shown, parent) {
   setReadOnly(shown.designed.locked);
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
-  connect(this, &QLineEdit::textEdited, this, [this] { take_edit(); });
-}
-
-void text_field_view::take_edit() {
-  forms_layer::user::type(box_, from_screen(text()));
-  // The tool can keep another text. It reports that only if its text has changed.
-  if (!forms_layer::handler_running()) show_content();
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
+    forms_layer::user::type(shown_, from_screen(edited));
+    // The tool can keep another text. It reports that only if its text has changed.
+    if (!forms_layer::handler_running()) show_content();
+  });
 }
 
 void text_field_view::show_content() {
-  const QString now = to_screen(box_.Text());
+  const QString now = to_screen(shown_.Text());
   // The limit applies to the user's input, not to texts of the tool.
-  const int limit = box_.designed.max_length;
+  const int limit = shown_.designed.max_length;
   if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
-  setPlaceholderText(to_screen(box_.Placeholder()));
+  setPlaceholderText(to_screen(shown_.Placeholder()));
   if (now == text()) return;
   const int cursor = cursorPosition();
   setText(now);
   setCursorPosition(hasFocus() ? cursor : 0);
-}
-
-void text_field_view::show_colours() {
-  setPalette(with_colours({}, QPalette::Base, QPalette::Text, box_.BackColor()));
 }
 
 }  // namespace desktop

@@ -8,19 +8,12 @@
 namespace desktop {
 
 // A text box of one line.
-class text_field_view : public QLineEdit, public control_view {
+class text_field_view : public view_of<QLineEdit, forms_layer::text_box> {
  public:
   text_field_view(forms_layer::text_box& shown, QWidget* parent);
-  QWidget& widget() override { return *this; }
 
  protected:
   void show_content() override;
-  void show_colours() override;
-
- private:
-  void take_edit();
-
-  forms_layer::text_box& box_;
 };
 
 }  // namespace desktop

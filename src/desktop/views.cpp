@@ -9,21 +9,6 @@
 
 namespace desktop {
 
-namespace {
-
-using forms_layer::control_kind;
-
-// Names for screen readers of controls without a caption.
-QString spoken_name(const forms_layer::control& shown) {
-  if (!shown.designed.spoken_name.empty()) return to_screen(shown.designed.spoken_name);
-  if (shown.kind == control_kind::drive_list) return QStringLiteral("Drives");
-  if (shown.kind == control_kind::dir_list) return QStringLiteral("Folders");
-  if (shown.kind == control_kind::file_list) return QStringLiteral("Files");
-  return {};
-}
-
-}  // namespace
-
 void views::make_all(forms_layer::container& shown, canvas& on) {
   canvases_[&shown] = &on;
   for (forms_layer::control* control : shown.controls()) {
@@ -32,9 +17,11 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
     all_.push_back(view);
     by_control_[control] = view;
     view->widget().setObjectName(QString::fromLatin1(control->designed.name));
-    view->widget().setAccessibleName(spoken_name(*control));
+    if (!control->designed.spoken_name.empty()) {
+      view->widget().setAccessibleName(to_screen(control->designed.spoken_name));
+    }
     view->show_all();
-    if (control->kind == control_kind::frame) {
+    if (control->kind == forms_layer::control_kind::frame) {
       make_all(static_cast<forms_layer::frame&>(*control),
                static_cast<frame_view&>(*view).inside());
     }
@@ -42,7 +29,7 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
 }
 
 bool views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
-  if (changed.kind == control_kind::picture_box) {
+  if (changed.kind == forms_layer::control_kind::picture_box) {
     return mark_picture_dirty(static_cast<forms_layer::picture_box&>(changed));
   }
   const auto at = by_control_.find(&changed);
