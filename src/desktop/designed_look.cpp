@@ -26,7 +26,15 @@ QPalette::ColorRole role_of(forms_layer::colour system_colour) {
   return system_colour == forms_layer::system_window ? QPalette::Base : QPalette::Window;
 }
 
-bool is_light(const QColor& c) { return qGray(c.rgb()) > 127; }
+// The text colour for a background.
+QColor text_on(forms_layer::colour back) {
+  if (!forms_layer::is_system_colour(back)) {
+    return qGray(as_rgb(back)) > 127 ? Qt::black : Qt::white;
+  }
+  const bool is_field = role_of(back) == QPalette::Base;
+  return QApplication::palette().color(QPalette::Active,
+                                       is_field ? QPalette::Text : QPalette::WindowText);
+}
 
 }  // namespace
 
@@ -51,19 +59,7 @@ QColor on_screen(forms_layer::colour c) {
   if (c == forms_layer::system_light) {
     return mix(theme.color(QPalette::Window), theme.color(QPalette::Base));
   }
-  if (forms_layer::is_system_colour(c)) return theme.color(role_of(c));
-  return QColor(static_cast<int>(forms_layer::red_of(c)),
-                static_cast<int>(forms_layer::green_of(c)),
-                static_cast<int>(forms_layer::blue_of(c)));
-}
-
-QColor text_on(forms_layer::colour back) {
-  const QPalette theme = QApplication::palette();
-  if (forms_layer::is_system_colour(back)) {
-    const bool window = role_of(back) == QPalette::Base;
-    return theme.color(QPalette::Active, window ? QPalette::Text : QPalette::WindowText);
-  }
-  return is_light(on_screen(back)) ? QColor(Qt::black) : QColor(Qt::white);
+  return forms_layer::is_system_colour(c) ? theme.color(role_of(c)) : QColor(as_rgb(c));
 }
 
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,

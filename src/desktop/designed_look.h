@@ -13,15 +13,18 @@ namespace desktop {
 // An installed font with similar widths.
 QFont font_for(const forms_layer::font_design& designed);
 
+// A colour that is no system colour.
+inline QRgb as_rgb(forms_layer::colour c) {
+  return qRgb(static_cast<int>(forms_layer::red_of(c)), static_cast<int>(forms_layer::green_of(c)),
+              static_cast<int>(forms_layer::blue_of(c)));
+}
+
 // A system colour becomes that of the theme.
 QColor on_screen(forms_layer::colour c);
 
-// The text colour for a background: the theme's on a system colour, the better readable of black
-// and white on others.
-QColor text_on(forms_layer::colour back);
-
-// `start` with `back` and its text colour for a pair of roles, slightly greyed when disabled. For
-// the Base role also with a frame colour that is visible in light and dark themes.
+// `start` with `back` and its text colour for a pair of roles, slightly greyed when disabled: the
+// theme's text on a system colour, the better readable of black and white on others. For the Base
+// role also with a frame colour that is visible in light and dark themes.
 QPalette with_colours(QPalette start, QPalette::ColorRole back_role, QPalette::ColorRole text_role,
                       forms_layer::colour back);
 
