@@ -1,8 +1,8 @@
 #include "desktop/accessible_canvas.h"
 
 #include <QAccessibleWidget>
+#include <algorithm>
 #include <map>
-#include <vector>
 
 #include "desktop/canvas.h"
 #include "desktop/screen_text.h"
@@ -13,9 +13,11 @@ namespace {
 
 class accessible_picture : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  accessible_picture(canvas& on, std::size_t index) : canvas_(on), index_(index) {}
+  accessible_picture(canvas& on, std::size_t number) : index(number), canvas_(on) {}
 
-  bool isValid() const override { return !picture().rect.isNull(); }
+  const std::size_t index;  // in the pictures of the canvas
+
+  bool isValid() const override { return true; }
   QObject* object() const override { return nullptr; }
   QAccessibleInterface* parent() const override {
     return QAccessible::queryAccessibleInterface(&canvas_);
@@ -38,7 +40,8 @@ class accessible_picture : public QAccessibleInterface, public QAccessibleAction
   QAccessible::State state() const override {
     QAccessible::State now;
     now.focusable = true;
-    now.focused = canvas_.hasFocus() && canvas_.cursor() == index_;
+    now.invisible = picture().rect.isNull();
+    now.focused = canvas_.hasFocus() && canvas_.cursor() == index;
     return now;
   }
   void* interface_cast(QAccessible::InterfaceType type) override {
@@ -56,10 +59,9 @@ class accessible_picture : public QAccessibleInterface, public QAccessibleAction
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
  private:
-  const canvas::picture& picture() const { return canvas_.pictures()[index_]; }
+  const canvas::picture& picture() const { return canvas_.pictures()[index]; }
 
   canvas& canvas_;
-  std::size_t index_;
 };
 
 class accessible_canvas : public QAccessibleWidget {
@@ -72,41 +74,33 @@ class accessible_canvas : public QAccessibleWidget {
   }
 
   int childCount() const override {
-    return QAccessibleWidget::childCount() + static_cast<int>(visible().size());
+    return QAccessibleWidget::childCount() + static_cast<int>(canvas_.pictures().size());
   }
   QAccessibleInterface* child(int index) const override {
     const int widgets = QAccessibleWidget::childCount();
-    if (index < widgets) return QAccessibleWidget::child(index);
-    const std::vector<std::size_t> shown = visible();
-    const auto at = static_cast<std::size_t>(index - widgets);
-    return at < shown.size() ? picture(shown[at]) : nullptr;
+    return index < widgets ? QAccessibleWidget::child(index)
+                           : picture(static_cast<std::size_t>(index - widgets));
   }
   int indexOfChild(const QAccessibleInterface* wanted) const override {
-    for (int i = 0; i < childCount(); ++i) {
-      if (child(i) == wanted) return i;
-    }
-    return -1;
+    const auto* picture = dynamic_cast<const accessible_picture*>(wanted);
+    return picture == nullptr ? QAccessibleWidget::indexOfChild(wanted)
+                              : QAccessibleWidget::childCount() + static_cast<int>(picture->index);
   }
   QAccessibleInterface* childAt(int x, int y) const override {
-    for (const std::size_t index : visible()) {
-      if (picture(index)->rect().contains(x, y)) return picture(index);
-    }
-    return QAccessibleWidget::childAt(x, y);
+    const QPoint at = canvas_.mapFromGlobal(QPoint(x, y));
+    const auto& pictures = canvas_.pictures();
+    const auto found = std::find_if(pictures.begin(), pictures.end(),
+                                    [&at](const auto& p) { return p.rect.contains(at); });
+    if (found == pictures.end()) return QAccessibleWidget::childAt(x, y);
+    return picture(static_cast<std::size_t>(found - pictures.begin()));
   }
   QAccessibleInterface* focusChild() const override {
-    const bool at_picture = canvas_.hasFocus() && canvas_.cursor() < canvas_.pictures().size();
-    return at_picture ? picture(canvas_.cursor()) : QAccessibleWidget::focusChild();
+    return canvas_.hasFocus() ? picture(canvas_.cursor()) : QAccessibleWidget::focusChild();
   }
 
  private:
-  std::vector<std::size_t> visible() const {
-    std::vector<std::size_t> shown;
-    for (std::size_t i = 0; i < canvas_.pictures().size(); ++i) {
-      if (!canvas_.pictures()[i].rect.isNull()) shown.push_back(i);
-    }
-    return shown;
-  }
   QAccessibleInterface* picture(std::size_t index) const {
+    if (index >= canvas_.pictures().size()) return nullptr;
     const auto [at, is_new] = ids_.try_emplace(index);
     if (is_new) {
       at->second = QAccessible::registerAccessibleInterface(new accessible_picture(canvas_, index));

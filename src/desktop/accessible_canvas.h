@@ -2,9 +2,8 @@
 
 namespace desktop {
 
-// Call after the application is created. Screen readers then find the visible pictures of a canvas
-// as its children, after its widgets: with a name, a position, and the double click as their
-// action.
+// Call after the application is created. Screen readers then find the pictures of a canvas as its
+// children, after its widgets: with a name, a position, and the double click as their action.
 void install_accessible_canvases();
 
 }  // namespace desktop

@@ -62,16 +62,11 @@ canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent)
 }
 
 bool canvas::mark_dirty(forms_layer::picture_box& box) {
-  picture& changed = find_or_add(box);
-  if (std::exchange(changed.dirty, true)) return false;
-  dirty_.push_back(static_cast<std::size_t>(&changed - pictures_.data()));
-  return dirty_.size() == 1;
-}
-
-canvas::picture& canvas::find_or_add(forms_layer::picture_box& box) {
   const auto [at, is_new] = indices_.try_emplace(&box, pictures_.size());
   if (is_new) pictures_.push_back({&box, {}, false});
-  return pictures_[at->second];
+  if (std::exchange(pictures_[at->second].dirty, true)) return false;
+  dirty_.push_back(at->second);
+  return dirty_.size() == 1;
 }
 
 void canvas::sync_pictures() {
@@ -84,11 +79,10 @@ void canvas::sync(picture& p) {
   const QRect rect = p.box->Visible() ? rect_of(*p.box) : QRect();
   const forms_layer::pixel_area painted = p.box->consume_damage();
   if (rect != p.rect) {
-    const bool under_cursor = &p == &pictures_[cursor_] && hasFocus();
-    if (under_cursor) damage_cursor();
-    damage(std::exchange(p.rect, rect));
-    damage(rect);
-    if (under_cursor) damage_cursor();
+    const bool has_cursor = &p == &pictures_[cursor_] && hasFocus();
+    for (const QRect& seen : {std::exchange(p.rect, rect), rect}) {
+      damage(has_cursor ? with_cursor(seen) : seen);
+    }
   } else if (!rect.isNull() && !painted.empty()) {
     const int border = forms_layer::picture_box::border;
     damage(QRect(rect.left() + border + painted.left, rect.top() + border + painted.top,
@@ -121,12 +115,10 @@ forms_layer::picture_box* canvas::picture_at(const QPoint& position) const {
 bool canvas::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
-  if (forms_layer::picture_box* pointed_at = picture_at(help->pos())) {
-    QToolTip::showText(help->globalPos(), as_tool_tip(pointed_at->ToolTipText()), this,
-                       rect_of(*pointed_at));
-  } else {
-    QToolTip::showText(help->globalPos(), toolTip(), this);
-  }
+  const forms_layer::picture_box* pointed_at = picture_at(help->pos());
+  if (pointed_at == nullptr) return QWidget::event(event);
+  QToolTip::showText(help->globalPos(), as_tool_tip(pointed_at->ToolTipText()), this,
+                     rect_of(*pointed_at));
   return true;
 }
 

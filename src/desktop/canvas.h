@@ -43,7 +43,6 @@ class canvas : public QWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  picture& find_or_add(forms_layer::picture_box& box);
   void sync(picture& p);
   void damage(const QRect& part);
   forms_layer::picture_box* picture_at(const QPoint& position) const;
