@@ -3,13 +3,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMenu>
 #include <algorithm>
 
-#include "desktop/designed_look.h"
-#include "desktop/menu_captions.h"
+#include "desktop/menu_items.h"
 #include "desktop/screen_text.h"
-#include "forms_layer/menu.h"
 
 namespace desktop {
 
@@ -47,14 +44,8 @@ void select_kind(QFileDialog& dialog, const file_kind& kind) {
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
                                   forms_layer::screen_point at, QWidget* owner) {
   QMenu menu(owner);
-  // Some desktops set another font for menus.
-  menu.setFont(font_for({}));
-  QString taken;
-  for (const forms_layer::menu_item* item : opened.items) {
-    menu.addAction(with_shortcut(item->Caption, taken))->setEnabled(item->Enabled());
-  }
-  const qsizetype picked = menu.actions().indexOf(menu.exec(QPoint(at.x, at.y)));
-  return picked < 0 ? nullptr : opened.items[static_cast<std::size_t>(picked)];
+  add_items(menu, opened);
+  return item_of(menu, opened, menu.exec(QPoint(at.x, at.y)));
 }
 
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {

@@ -7,7 +7,9 @@
 #include <QWindow>
 #include <utility>
 
+#include "desktop/canvas.h"
 #include "desktop/designed_look.h"
+#include "desktop/menu_bar.h"
 #include "desktop/screen_text.h"
 #include "desktop/window_position.h"
 #include "desktop/window_system.h"
@@ -29,7 +31,7 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
     : QMainWindow(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
   setObjectName(QString::fromLatin1(form.designed.name));
   setFont(font_for({}));
-  if (!form.menus.empty()) setMenuBar(menus_ = new menu_bar(form, this));
+  if (!form.menus.empty()) setMenuBar(new menu_bar(form, this));
   auto* client = new canvas(form, this);
   setCentralWidget(client);
   set_designed_size();
@@ -40,7 +42,9 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   show_caption();
 }
 
-int form_window::menu_height() const { return menus_ == nullptr ? 0 : menus_->sizeHint().height(); }
+int form_window::menu_height() const {
+  return menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height();
+}
 
 void form_window::set_designed_size() {
   const QSize size(pixels_across(form.client_width()),
@@ -141,10 +145,6 @@ void form_window::show_caption() {
   // Without a title some systems show the name of the executable.
   const QString caption = to_screen(form.Caption());
   setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
-}
-
-void form_window::show_menu_item(const forms_layer::menu_item& item) {
-  if (menus_ != nullptr) menus_->show_item(item);
 }
 
 }  // namespace desktop

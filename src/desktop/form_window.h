@@ -3,8 +3,6 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include "desktop/canvas.h"
-#include "desktop/menu_bar.h"
 #include "desktop/views.h"
 #include "forms_layer/form.h"
 
@@ -24,7 +22,6 @@ class form_window : public QMainWindow {
   void hide_window();
   void take_focus();
   void show_caption();
-  void show_menu_item(const forms_layer::menu_item& item);
 
   // True if it was shown during a handler and has no focus yet.
   bool wants_focus() const { return wants_focus_; }
@@ -42,7 +39,6 @@ class form_window : public QMainWindow {
   void open_focused_menu();
 
   views& views_;
-  menu_bar* menus_ = nullptr;
   bool placed_ = false;
   QPoint last_position_;       // of the client area
   QPointer<QWidget> focused_;  // when the window was last hidden

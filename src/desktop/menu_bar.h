@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QAction>
 #include <QMenuBar>
-#include <unordered_map>
 
 #include "forms_layer/form.h"
 
@@ -12,18 +10,13 @@ namespace desktop {
 // with Alt in the bar, alone in an open menu. F10 opens the first menu.
 class menu_bar : public QMenuBar {
  public:
-  menu_bar(forms_layer::form& shown, QWidget* window);
-
-  void show_item(const forms_layer::menu_item& item);
+  menu_bar(const forms_layer::form& shown, QWidget* window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void add(const forms_layer::menu& shown, const QString& caption);
   void open_first();
-
-  std::unordered_map<const forms_layer::menu_item*, QAction*> actions_;
 };
 
 }  // namespace desktop

@@ -1,5 +1,6 @@
 #include "desktop/qt_screen.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QMetaObject>
@@ -44,7 +45,10 @@ void qt_screen::form_changed(forms_layer::form& changed, forms_layer::property_i
 }
 
 void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& changed) {
-  if (form_window* window = window_of(owner)) window->show_menu_item(changed);
+  const form_window* window = window_of(owner);
+  if (window == nullptr) return;
+  const auto name = QString::fromLatin1(changed.name);
+  if (auto* action = window->findChild<QAction*>(name)) action->setEnabled(changed.Enabled());
 }
 
 void qt_screen::timer_changed(forms_layer::timer& changed) { timers_.sync(changed); }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QMenu>
+#include <QString>
+#include <string>
+
+#include "forms_layer/menu.h"
+
+namespace desktop {
+
+// The caption with "&" before its first letter that is not in `taken`. Adds the letter to `taken`.
+QString with_shortcut(const std::string& caption, QString& taken);
+
+// Adds an action for each item of `shown`, in the same order and with the same name.
+void add_items(QMenu& menu, const forms_layer::menu& shown);
+
+// The item of an action that was picked; null if `picked` is null.
+forms_layer::menu_item* item_of(const QMenu& menu, const forms_layer::menu& shown, QAction* picked);
+
+}  // namespace desktop
