@@ -58,7 +58,7 @@ void form_window::set_designed_size() {
 
 void form_window::set_tab_order() {
   QWidget* before = nullptr;
-  for (QWidget* widget : views_.in_tab_order(form)) {
+  for (const auto& [index, widget] : views_.in_tab_order(form)) {
     if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
     if (before == nullptr) widget->setFocus();
     if (before != nullptr) setTabOrder(before, widget);

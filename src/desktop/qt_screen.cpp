@@ -1,11 +1,12 @@
 #include "desktop/qt_screen.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QMetaObject>
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 #include <utility>
 
 #include "desktop/dialogs.h"
@@ -13,6 +14,7 @@
 #include "desktop/picture_painter.h"
 #include "desktop/window_system.h"
 #include "forms_layer/events.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -28,12 +30,16 @@ constexpr auto window_delay = 100ms;
 
 }  // namespace
 
-qt_screen::qt_screen() { qApp->installEventFilter(&filter_); }
+qt_screen::qt_screen() {
+  qApp->installEventFilter(&filter_);
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &filter_,
+                   [this] { sync_between_handlers(); });
+}
 
 qt_screen::~qt_screen() = default;
 
 void qt_screen::control_changed(forms_layer::control& changed, forms_layer::property_id what) {
-  if (views_.mark_dirty(changed, what)) sync_soon();
+  views_.mark_dirty(changed, what);
 }
 
 void qt_screen::form_changed(forms_layer::form& changed, forms_layer::property_id what) {
@@ -41,7 +47,6 @@ void qt_screen::form_changed(forms_layer::form& changed, forms_layer::property_i
   if (what == forms_layer::property_id::caption && window != nullptr) window->show_caption();
   if (what == forms_layer::property_id::visible) dirty_forms_.push_back(&changed);
   if (what == forms_layer::property_id::focus) takes_focus_ = &changed;
-  sync_soon();
 }
 
 void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& changed) {
@@ -51,7 +56,17 @@ void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& c
   if (auto* action = window->findChild<QAction*>(name)) action->setEnabled(changed.Enabled());
 }
 
-void qt_screen::timer_changed(forms_layer::timer& changed) { timers_.sync(changed); }
+// Each write restarts a timer, also of the old value.
+void qt_screen::timer_changed(forms_layer::timer& changed) {
+  const auto [at, is_new] = timers_.try_emplace(&changed);
+  QTimer& timer = at->second;
+  if (is_new) {
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.callOnTimeout([&changed] { forms_layer::user::tick(changed); });
+  }
+  timer.stop();
+  if (changed.Enabled() && changed.Interval() > 0) timer.start(changed.Interval());
+}
 
 void qt_screen::refresh(forms_layer::form& /*shown*/) { show_frame_if_due(); }
 
@@ -60,22 +75,17 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
   show_message(title, text, topmost(nullptr));
-  sync_soon();
 }
 
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
-  forms_layer::menu_item* const picked = desktop::pick_item(opened, at, topmost(nullptr));
-  sync_soon();
-  return picked;
+  return desktop::pick_item(opened, at, topmost(nullptr));
 }
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
   sync();
-  forms_layer::save_answer answer = desktop::ask_save_path(question, topmost(nullptr));
-  sync_soon();
-  return answer;
+  return desktop::ask_save_path(question, topmost(nullptr));
 }
 
 void qt_screen::copy_picture(const forms_layer::picture_box& shown) {
@@ -90,15 +100,14 @@ form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   return at == windows_.end() ? nullptr : at->second.get();
 }
 
-// Runs at the end of the handler. The event loop can also call it during the handler, from a frame
-// or a message box, which then schedule it again.
-void qt_screen::sync_soon() {
-  if (std::exchange(syncing_soon_, true)) return;
-  const auto when_reached = [this] {
-    syncing_soon_ = false;
-    if (!forms_layer::handler_running()) sync();
-  };
-  QMetaObject::invokeMethod(&receiver_, when_reached, Qt::QueuedConnection);
+// The event loop also turns during a handler, for a frame or a dialog.
+void qt_screen::sync_between_handlers() {
+  if (forms_layer::handler_running()) return;
+  try {
+    sync();
+  } catch (const std::bad_alloc&) {
+    // As for an event that is dropped: a later change is shown.
+  }
 }
 
 void qt_screen::sync() {
@@ -115,7 +124,6 @@ void qt_screen::show_frame_if_due() {
   views_.sync();
   if (now - began >= window_delay) sync_forms();
   pump_window_system();
-  sync_soon();
   last_frame_ = std::chrono::steady_clock::now();
 }
 
@@ -159,7 +167,7 @@ form_window& qt_screen::made_window(forms_layer::form& shown) {
   std::unique_ptr<form_window>& window = windows_[&shown];
   if (window == nullptr) {
     window = std::make_unique<form_window>(shown, views_);
-    for (forms_layer::timer* timer : shown.timers) timers_.sync(*timer);
+    for (forms_layer::timer* timer : shown.timers) timer_changed(*timer);
   }
   return *window;
 }

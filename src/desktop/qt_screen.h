@@ -1,17 +1,18 @@
 #pragma once
 
-#include <QObject>
+#include <QTimer>
 #include <chrono>
+#include <map>
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
 #include "desktop/form_window.h"
 #include "desktop/input_filter.h"
-#include "desktop/timers.h"
 #include "desktop/views.h"
 #include "forms_layer/form.h"
 #include "forms_layer/screen.h"
+#include "forms_layer/timer.h"
 
 namespace desktop {
 
@@ -41,7 +42,7 @@ class qt_screen : public forms_layer::screen {
   form_window* window_of(const forms_layer::form& shown) const;
 
  private:
-  void sync_soon();
+  void sync_between_handlers();
   void sync();
   void sync_forms();
   void show_frame_if_due();
@@ -51,11 +52,9 @@ class qt_screen : public forms_layer::screen {
   form_window* topmost(const forms_layer::form* but) const;
   void give_focus();
 
-  QObject receiver_;
-  bool syncing_soon_ = false;
   std::chrono::steady_clock::time_point last_frame_;
   input_filter filter_;
-  timers timers_;
+  std::map<const forms_layer::timer*, QTimer> timers_;
   views views_;
   std::unordered_map<const forms_layer::form*, std::unique_ptr<form_window>> windows_;
   form_window* main_ = nullptr;          // the first one shown

@@ -1,6 +1,5 @@
 #include "desktop/views.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "desktop/frame_view.h"
@@ -28,21 +27,17 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
   }
 }
 
-bool views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
+void views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
   if (changed.kind == forms_layer::control_kind::picture_box) {
-    return mark_picture_dirty(static_cast<forms_layer::picture_box&>(changed));
+    const auto at = canvases_.find(&changed.parent);
+    const bool first = at != canvases_.end() &&
+                       at->second->mark_dirty(static_cast<forms_layer::picture_box&>(changed));
+    if (first) dirty_canvases_.push_back(at->second);
+  } else {
+    const auto at = by_control_.find(&changed);
+    const bool first = at != by_control_.end() && at->second->mark_dirty(what);
+    if (first) dirty_.push_back(at->second);
   }
-  const auto at = by_control_.find(&changed);
-  if (at == by_control_.end() || !at->second->mark_dirty(what)) return false;
-  dirty_.push_back(at->second);
-  return true;
-}
-
-bool views::mark_picture_dirty(forms_layer::picture_box& box) {
-  const auto at = canvases_.find(&box.parent);
-  if (at == canvases_.end() || !at->second->mark_dirty(box)) return false;
-  dirty_canvases_.push_back(at->second);
-  return true;
 }
 
 void views::sync() {
@@ -54,17 +49,12 @@ void views::show_all() {
   for (control_view* view : all_) view->show_all();
 }
 
-std::vector<QWidget*> views::in_tab_order(const forms_layer::form& shown) const {
-  std::vector<control_view*> in_order;
+std::multimap<int, QWidget*> views::in_tab_order(const forms_layer::form& shown) const {
+  std::multimap<int, QWidget*> widgets;
   for (control_view* view : all_) {
-    if (&view->control.owner_form() == &shown) in_order.push_back(view);
+    if (&view->control.owner_form() != &shown) continue;
+    widgets.emplace(view->control.designed.tab_index, &view->focus_widget());
   }
-  std::stable_sort(in_order.begin(), in_order.end(), [](control_view* a, control_view* b) {
-    return a->control.designed.tab_index < b->control.designed.tab_index;
-  });
-  std::vector<QWidget*> widgets;
-  widgets.reserve(in_order.size());
-  for (control_view* view : in_order) widgets.push_back(&view->focus_widget());
   return widgets;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <map>
 #include <unordered_map>
 #include <vector>
 
@@ -15,19 +16,17 @@ class views {
   // Creates widgets on the canvas for all controls of its container and of the frames in it.
   void make_all(forms_layer::container& shown, canvas& on);
 
-  // Ignores a control without a widget. Returns true if it had no dirty property before.
-  bool mark_dirty(forms_layer::control& changed, forms_layer::property_id what);
+  // Ignores a control without a widget.
+  void mark_dirty(forms_layer::control& changed, forms_layer::property_id what);
   void sync();
 
   // After a change of the theme.
   void show_all();
 
-  // The widgets of a form in tab order.
-  std::vector<QWidget*> in_tab_order(const forms_layer::form& shown) const;
+  // The widgets of a form by their place in the tab order.
+  std::multimap<int, QWidget*> in_tab_order(const forms_layer::form& shown) const;
 
  private:
-  bool mark_picture_dirty(forms_layer::picture_box& box);
-
   std::vector<control_view*> all_;
   std::unordered_map<const forms_layer::control*, control_view*> by_control_;
   std::unordered_map<const forms_layer::container*, canvas*> canvases_;
