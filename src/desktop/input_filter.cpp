@@ -12,29 +12,17 @@ namespace desktop {
 
 namespace {
 
-bool is_input(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
+bool is_input(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::HoverLeave:  // a button must not stay highlighted
+      return false;
     case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::ContextMenu:
     case QEvent::ToolTip:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
     case QEvent::DragEnter:
     case QEvent::Drop:
       return true;
     default:
-      return false;
+      return event.isInputEvent();
   }
 }
 
@@ -78,7 +66,7 @@ void send_as_press(QObject* receiver, const QMouseEvent& event) {
 
 bool input_filter::eventFilter(QObject* receiver, QEvent* event) {
   if (event->type() == QEvent::FocusIn) report_focus(receiver, *static_cast<QFocusEvent*>(event));
-  if (is_input(event->type()) && is_barred(receiver)) return true;
+  if (is_input(*event) && is_barred(receiver)) return true;
   if (!is_double_click_of_another(receiver, event->type())) return false;
   send_as_press(receiver, *static_cast<QMouseEvent*>(event));
   return true;
