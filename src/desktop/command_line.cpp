@@ -29,10 +29,9 @@ int answer_command_line(int argc, char** argv) {
   QCoreApplication::setApplicationVersion(QString::fromLatin1(ostrane::version));
   QCommandLineParser parser;
   parser.setApplicationDescription(description());
-  const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Prints this and exits."));
-  const QCommandLineOption version(QStringLiteral("version"),
-                                   QStringLiteral("Prints the version and exits."));
-  parser.addOptions({help, version});
+  const QString version = QStringLiteral("version");
+  parser.addOptions({{QStringLiteral("help"), QStringLiteral("Prints this and exits.")},
+                     {version, QStringLiteral("Prints the version and exits.")}});
   QString error;
   if (!parser.parse(QCoreApplication::arguments())) error = parser.errorText();
   const QStringList files = parser.positionalArguments();

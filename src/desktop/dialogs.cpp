@@ -51,9 +51,7 @@ forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {
   static QString folder = QDir::homePath();  // of the last saved file
   QFileDialog dialog(owner, to_screen(question.title), folder);
-  dialog.setWindowModality(Qt::ApplicationModal);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
   QStringList filters;
   for (const file_kind& kind : question.kinds) filters += name_filter(kind);
   dialog.setNameFilters(filters);

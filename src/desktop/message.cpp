@@ -11,13 +11,7 @@ namespace desktop {
 namespace {
 
 // Leaves room for the title, whose font the window manager chooses.
-void widen(QMessageBox& box) {
-  constexpr int min_width = 260;
-  auto* rows = qobject_cast<QGridLayout*>(box.layout());
-  if (rows == nullptr) return;
-  rows->addItem(new QSpacerItem(min_width, 0, QSizePolicy::Minimum), rows->rowCount(), 0, 1,
-                rows->columnCount());
-}
+constexpr int min_text_width = 260;
 
 }  // namespace
 
@@ -29,8 +23,8 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_screen(title));
   box.setText(normalize_newlines(to_screen(text), true));
-  widen(box);
-  box.setStandardButtons(QMessageBox::Ok);
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (rows != nullptr) rows->setColumnMinimumWidth(rows->columnCount() - 1, min_text_width);
   box.show();
   box.raise();
   box.activateWindow();
