@@ -1,5 +1,6 @@
 #include "desktop/rows_view.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
@@ -96,9 +97,27 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
   // that row, not the next one.
   if (!selectionModel()->hasSelection()) setCurrentIndex({});
   const int before = currentIndex().row();
+  key_time_ = event->timestamp();
   QListView::keyPressEvent(event);
   const int now = currentIndex().row();
   if (now >= 0 && now != before) choose(now);
+}
+
+// Qt goes by the times at which it handles the letters. Those that are typed during a handler are
+// handled late, and each can start the next handler.
+void rows_view::keyboardSearch(const QString& letters) {
+  const int rows = model_.rowCount({});
+  if (rows == 0) return;
+  const quint64 pause = key_time_ - std::exchange(letter_time_, key_time_);
+  const auto max_pause = static_cast<quint64>(QApplication::keyboardInputInterval());
+  word_ = pause > max_pause ? letters : word_ + letters;
+  // One letter, also repeated, leads to the next row.
+  const bool is_one_letter = word_.count(word_.front()) == word_.size();
+  const int start = std::max(0, currentIndex().row() + (is_one_letter ? 1 : 0)) % rows;
+  const QModelIndexList found =
+      model_.match(model_.index(start), Qt::DisplayRole, is_one_letter ? word_.left(1) : word_, 1,
+                   Qt::MatchStartsWith | Qt::MatchWrap);
+  if (!found.isEmpty()) setCurrentIndex(found.front());
 }
 
 void rows_view::contextMenuEvent(QContextMenuEvent* event) {

@@ -38,6 +38,7 @@ class rows_view : public view_of<QListView, forms_layer::control> {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyboardSearch(const QString& letters) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -62,6 +63,9 @@ class rows_view : public view_of<QListView, forms_layer::control> {
   rows_model model_;
   QSize row_size_;
   int pressed_row_ = -1;
+  QString word_;             // that the latest letters make up
+  quint64 key_time_ = 0;     // of the latest press of a key
+  quint64 letter_time_ = 0;  // of the latest letter
 };
 
 }  // namespace desktop

@@ -126,6 +126,32 @@ TEST_F(Input, ReachesTheTool) {
   EXPECT_EQ(list->verticalScrollBar()->value(), 0) << "another list starts at its first row";
 }
 
+// The letters after the first are typed while its handler runs, and are handled late.
+TEST_F(Input, LettersTypedDuringAHandlerGoOnWithTheWord) {
+  constexpr int interval = 30;
+  QApplication::setKeyboardInputInterval(interval);
+  for (const char* row : {"ba", "a", "bb", "bbc", "ab"}) form.list.AddItem(row);
+  form.list.Click = [] { QTest::qSleep(2 * interval); };
+  QAbstractItemView* list = rows_of(form.list);
+  const std::tuple<const char*, std::vector<quint64>, int> cases[] = {
+      {"bb", {0, interval}, 2},     {"bb", {0, interval + 1}, 2},
+      {"ab", {0, interval}, 4},     {"ab", {0, interval + 1}, 2},
+      {"xa", {0, interval + 1}, 1}, {"bbc", {0, interval, 2 * interval}, 3},
+  };
+  quint64 start = 0;
+  for (const auto& [word, times, row] : cases) {
+    write([&] { form.list.ListIndex = -1; });
+    start += 1000;
+    for (std::size_t i = 0; i < times.size(); ++i) {
+      QKeyEvent typed(QEvent::KeyPress, Qt::Key_unknown, {}, QString(QLatin1Char(word[i])));
+      typed.setTimestamp(start + times[i]);
+      QCoreApplication::sendEvent(list, &typed);
+    }
+    EXPECT_EQ(form.list.ListIndex(), row) << word << " in " << times.back() << " ms";
+  }
+  QApplication::setKeyboardInputInterval(-1);
+}
+
 TEST_F(Input, KeysReachEveryPictureOnShow) {
   int opened = 0;
   form.pictures.DblClick = [&](int i) { opened = i; };
