@@ -75,6 +75,7 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
   show_message(title, text, topmost(nullptr));
+  box_had_focus_ = true;
 }
 
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
@@ -179,8 +180,11 @@ form_window* qt_screen::topmost(const forms_layer::form* but) const {
   return at == on_screen_.rend() ? nullptr : *at;
 }
 
-// Windows that were shown during a handler and are still visible get the focus at its end.
+// Windows that were shown during a handler and are still visible get the focus at its end. After a
+// message box the window manager may have given it to one that is hidden now, or to none.
 void qt_screen::give_focus() {
+  form_window* top = topmost(nullptr);
+  if (std::exchange(box_had_focus_, false) && top != nullptr) top->take_focus();
   for (form_window* window : on_screen_) {
     if (window->wants_focus()) window->take_focus();
   }

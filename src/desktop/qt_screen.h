@@ -61,6 +61,7 @@ class qt_screen : public forms_layer::screen {
   std::vector<form_window*> on_screen_;  // the latest one shown comes last
   std::vector<forms_layer::form*> dirty_forms_;
   forms_layer::form* takes_focus_ = nullptr;
+  bool box_had_focus_ = false;
 };
 
 }  // namespace desktop
