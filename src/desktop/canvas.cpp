@@ -1,5 +1,7 @@
 #include "desktop/canvas.h"
 
+#include <qdrawutil.h>
+
 #include <QAccessible>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
@@ -29,13 +31,6 @@ constexpr int max_damaged_parts = 40;
 
 // The cursor is a frame on the border of a picture and one pixel outside.
 QRect with_cursor(const QRect& rect) { return rect.isNull() ? rect : rect.adjusted(-1, -1, 1, 1); }
-
-void paint_cursor(QPainter& painter, const QRect& rect, const QColor& colour) {
-  if (rect.isNull()) return;
-  painter.setPen(colour);
-  painter.drawRect(rect.adjusted(0, 0, -1, -1));
-  painter.drawRect(rect.adjusted(-1, -1, 0, 0));
-}
 
 }  // namespace
 
@@ -101,8 +96,9 @@ void canvas::paintEvent(QPaintEvent* event) {
     if (!event->rect().intersects(p.rect) || !event->region().intersects(p.rect)) continue;
     paint_picture(painter, *p.box, p.rect, event->rect() & p.rect);
   }
-  if (hasFocus() && !pictures_.empty()) {
-    paint_cursor(painter, pictures_[cursor_].rect, palette().color(QPalette::Highlight));
+  if (hasFocus() && !pictures_[cursor_].rect.isNull()) {
+    qDrawPlainRect(&painter, with_cursor(pictures_[cursor_].rect),
+                   palette().color(QPalette::Highlight), 2);
   }
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/desktop_style.h"
 
+#include <qdrawutil.h>
+
 #include <QApplication>
 #include <QMenuBar>
 #include <QPainter>
@@ -37,8 +39,8 @@ void desktop_style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                                   QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   if (element != PE_Frame || (option->state & State_HasFocus) == 0) return;
-  painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
-  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  qDrawPlainRect(painter, option->rect,
+                 option->palette.color(QPalette::Active, QPalette::Highlight));
 }
 
 // Qt does not wrap captions of push buttons. In Qt's own dialogs they need not wrap.

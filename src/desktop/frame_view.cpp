@@ -1,5 +1,7 @@
 #include "desktop/frame_view.h"
 
+#include <qdrawutil.h>
+
 #include <QPainter>
 
 #include "desktop/screen_text.h"
@@ -34,8 +36,8 @@ void frame_view::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor back = palette().color(QPalette::Window);
   const QColor text = palette().color(QPalette::WindowText);
-  painter.setPen(mix(back, mix(back, text)));
-  painter.drawRect(rect().adjusted(0, fontMetrics().height() / 2, -1, -1));
+  qDrawPlainRect(&painter, rect().adjusted(0, fontMetrics().height() / 2, 0, 0),
+                 mix(back, mix(back, text)));
   if (title().isEmpty()) return;
   const QRect caption(caption_left, 0,
                       fontMetrics().horizontalAdvance(title()) + 2 * caption_margin,
