@@ -60,8 +60,7 @@ void form_window::set_tab_order() {
   QWidget* before = nullptr;
   for (const auto& [index, widget] : views_.in_tab_order(form)) {
     if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-    if (before == nullptr) widget->setFocus();
-    if (before != nullptr) setTabOrder(before, widget);
+    before == nullptr ? widget->setFocus() : setTabOrder(before, widget);
     before = widget;
   }
 }

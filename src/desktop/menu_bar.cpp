@@ -19,7 +19,10 @@ menu_bar::menu_bar(const forms_layer::form& shown, QWidget* window) : QMenuBar(w
     });
   }
   auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), window);
-  connect(f10, &QShortcut::activated, this, [this] { open_first(); });
+  connect(f10, &QShortcut::activated, this, [this] {
+    setFocus(Qt::MenuBarFocusReason);
+    setActiveAction(actions().first());
+  });
 }
 
 // The underlined letters in the bar depend on the Alt key, which Qt watches in the window.
@@ -28,12 +31,6 @@ bool menu_bar::eventFilter(QObject* watched, QEvent* event) {
       event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyRelease;
   if (of_key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt) update();
   return QMenuBar::eventFilter(watched, event);
-}
-
-void menu_bar::open_first() {
-  if (actions().isEmpty()) return;
-  setFocus(Qt::MenuBarFocusReason);
-  setActiveAction(actions().first());
 }
 
 }  // namespace desktop

@@ -64,8 +64,8 @@ void qt_screen::timer_changed(forms_layer::timer& changed) {
     timer.setTimerType(Qt::PreciseTimer);
     timer.callOnTimeout([&changed] { forms_layer::user::tick(changed); });
   }
-  timer.stop();
-  if (changed.Enabled() && changed.Interval() > 0) timer.start(changed.Interval());
+  const bool runs = changed.Enabled() && changed.Interval() > 0;
+  runs ? timer.start(changed.Interval()) : timer.stop();
 }
 
 void qt_screen::refresh(forms_layer::form& /*shown*/) { show_frame_if_due(); }
