@@ -7,8 +7,6 @@
 namespace ostrane {
 namespace {
 
-namespace fs = std::filesystem;
-
 const files::system_call_table real = files::system_calls;
 failing_calls* current = nullptr;
 
