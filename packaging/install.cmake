@@ -16,7 +16,21 @@ endif()
 set(program_dir ${CMAKE_INSTALL_LIBDIR}/ostrane-dat-tool)
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/ostrane-dat-tool)
 set(examples_dir ${doc_dir}/examples)
+set(data_dir ${CMAKE_INSTALL_DATADIR})
+set(icons_dir ${data_dir}/icons/hicolor)
+set(icon_sizes 16 24 32 48 64 128 256)
 set(made ${CMAKE_BINARY_DIR}/packaging)
+
+set(installed_folders ${CMAKE_INSTALL_BINDIR} ${program_dir} ${CMAKE_INSTALL_MANDIR}/man1
+    ${data_dir}/applications ${data_dir}/metainfo ${examples_dir} ${icons_dir}/scalable/apps)
+foreach(size IN LISTS icon_sizes)
+  list(APPEND installed_folders ${icons_dir}/${size}x${size}/apps)
+endforeach()
+if(TARGET ostrane-dat)
+  list(APPEND installed_folders ${data_dir}/bash-completion/completions)
+endif()
+install(CODE "set(installed_folders ${installed_folders})")
+install(SCRIPT packaging/make_folders.cmake)
 
 file(MAKE_DIRECTORY ${made}/bin)
 foreach(program IN LISTS programs)
@@ -45,13 +59,12 @@ if(TARGET ostrane-dat)
 endif()
 
 install(FILES packaging/ostrane-dat-tool.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+        DESTINATION ${data_dir}/applications)
 install(FILES ${made}/example.ostrane.dat_tool.metainfo.xml
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+        DESTINATION ${data_dir}/metainfo)
 install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc_dir})
 
-set(icons_dir ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
-foreach(size 16 24 32 48 64 128 256)
+foreach(size IN LISTS icon_sizes)
   install(FILES packaging/icons/ostrane-dat-tool-${size}.png
           DESTINATION ${icons_dir}/${size}x${size}/apps RENAME ostrane-dat-tool.png)
 endforeach()
