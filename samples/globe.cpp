@@ -26,7 +26,7 @@ std::optional<ink> colour_at(const globe& shown, double x, double y) {
   if (radius_squared > 1) return std::nullopt;
   const vector normal{x, y, std::sqrt(1 - radius_squared)};
   const double lit = std::max(dot(normal, towards_light()), 0.0);
-  const ground point = shown.look(point_on(shown, normal));
+  const material point = shown.look(point_on(shown, normal));
   if (shown.air && normal.z < 0.34 && lit > 0.12) return ink{*shown.air, 0.3 + 0.6 * lit};
   const double light = point.colour.light * (0.1 + 1.0 * lit) + 0.5 * point.gloss * shine(normal);
   return ink{point.colour.hue, std::max(light, point.glow * point.colour.light)};

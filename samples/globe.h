@@ -8,18 +8,19 @@
 
 namespace ostrane::samples {
 
-// A point of a globe in full light. `gloss` reflects the sun, `glow` is emitted light; both 0 to 1.
-struct ground {
+// How a point of a globe looks in full light. `gloss` reflects the sun, `glow` is emitted light;
+// both are 0 to 1.
+struct material {
   ink colour;
   double gloss = 0;
   double glow = 0;
 };
 
-// The ground at a point of the unit sphere, whose y axis points from the north to the south pole.
-using surface = std::function<ground(const vector& point)>;
+// The material at a point of the unit sphere, whose y axis points from the north to the south pole.
+using texture = std::function<material(const vector& point)>;
 
 struct globe {
-  surface look;
+  texture look;
   double turn = 0;  // about its axis, in radians
   double tilt = 0;  // of the axis to the right, in radians
   std::optional<ramp> air = {};

@@ -14,7 +14,7 @@ left and it shows on the right.
 
 CREST.SHP     21 shields
 GEMS.SHP      400 cut stones: more than fit, so press "Next series"
-LOST.SHP      the second icon has no place in the file
+LOST.SHP      the second icon is outside the file
 ODDITY.SHP    a good icon, a blank one, a refused one, a good one
 PLANET.SHP    32 frames of one turn: press "Start motion"
 ROCKET.SHP    16 frames of a rising rocket
@@ -25,7 +25,7 @@ WORLDS.SHP    planets and moons
 GAME.PAL      the 256 colours of all of them
 CHIME.WAV     a sound, which the tool does not play
 
-A double click on a picture tells its numbers. Text is code page
+A double click on a picture shows its numbers. Text is code page
 1252: “quotes”, dashes – and —, ä ö ü ß, é è ê, ñ, ½, 20 °C, 5 €.
 )";
 
@@ -44,7 +44,7 @@ Gürtel      ringed    8.40      10 h     31
 Radius and day are those of Aurelia = 1 and of its own sun.
 )";
 
-constexpr std::string_view data = R"(; what each entry is worth
+constexpr std::string_view data = R"(; the number of icons of each entry
 crest   = 21
 gems    = 400
 planet  = 32
@@ -57,11 +57,11 @@ worlds  = 15
 constexpr std::string_view list = R"(000DATUP;How many icons there are
 ALMANAC;Seven worlds in a table
 CHIME;A bell
-CREST;Shields, party in every way
+CREST;Shields, each with another division
 GAME;The colours; sixteen ramps of sixteen shades
 GEMS;Cut stones, 25 cuts in 16 colours
 GUIDE;What is in this archive
-LOST;One good icon and one without a place
+LOST;One good icon and one outside the file
 ODDITY;Good, blank, refused, good
 PLANET;One turn of a world of seas and clouds
 ROCKET;A rocket above its flame

@@ -9,24 +9,24 @@
 namespace ostrane::samples {
 namespace {
 
-struct ground_kind {
+struct terrain {
   ramp top;
   double top_light;
   ramp side;
   double grain;  // how rough the top looks
 };
 
-constexpr ground_kind grass{ramp::leaf, 0.66, ramp::earth, 0.4};
-constexpr ground_kind meadow{ramp::moss, 0.7, ramp::earth, 0.5};
-constexpr ground_kind water{ramp::ocean, 0.6, ramp::ocean, 0.35};
-constexpr ground_kind sand{ramp::sand, 0.78, ramp::sand, 0.2};
-constexpr ground_kind rock{ramp::grey, 0.6, ramp::grey, 0.5};
-constexpr ground_kind snow{ramp::ice, 0.95, ramp::steel, 0.2};
-constexpr ground_kind embers{ramp::flame, 0.55, ramp::earth, 0.9};
-constexpr ground_kind heath{ramp::rose, 0.55, ramp::earth, 0.6};
+constexpr terrain grass{ramp::leaf, 0.66, ramp::earth, 0.4};
+constexpr terrain meadow{ramp::moss, 0.7, ramp::earth, 0.5};
+constexpr terrain water{ramp::ocean, 0.6, ramp::ocean, 0.35};
+constexpr terrain sand{ramp::sand, 0.78, ramp::sand, 0.2};
+constexpr terrain rock{ramp::grey, 0.6, ramp::grey, 0.5};
+constexpr terrain snow{ramp::ice, 0.95, ramp::steel, 0.2};
+constexpr terrain embers{ramp::flame, 0.55, ramp::earth, 0.9};
+constexpr terrain heath{ramp::rose, 0.55, ramp::earth, 0.6};
 
 struct tile {
-  ground_kind kind;
+  terrain kind;
   int width;   // of the block in pixels; its top is half as high
   int height;  // of its sides
   int left;    // margins around the block

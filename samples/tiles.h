@@ -6,7 +6,7 @@
 
 namespace ostrane::samples {
 
-// Blocks of ground in isometric view, in many sizes and with different margins on all four sides.
+// Blocks of terrain in isometric view, in many sizes and with different margins on all four sides.
 std::vector<picture> land_tiles();
 
 }  // namespace ostrane::samples

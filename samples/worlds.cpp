@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "grounds.h"
 #include "noise.h"
+#include "textures.h"
 
 namespace ostrane::samples {
 namespace {

@@ -1,4 +1,4 @@
-#include "grounds.h"
+#include "textures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,7 @@ double veins(const vector& at, std::uint32_t seed) {
   return 1 - std::min(std::abs(clouds(at, 4, seed) - 0.5) * 12, 1.0);
 }
 
-ground dry_land(double height) {
+material dry_land(double height) {
   if (height < 0.545) return {{ramp::sand, 0.75}};
   if (height < 0.66) return {{ramp::leaf, 0.95 - 2.6 * (height - 0.545)}};
   if (height < 0.72) return {{ramp::earth, 0.6}};
@@ -28,7 +28,7 @@ double dent(double distance, double radius) {
 
 }  // namespace
 
-ground seas_and_land(const vector& point) {
+material seas_and_land(const vector& point) {
   const double height = clouds(1.9 * point, 5, 11);
   const double cover = clouds(vector{2.6 * point.x, 4.2 * point.y, 2.6 * point.z}, 4, 40);
   if (cover > 0.58) return {{ramp::ice, 0.7 + 1.6 * (cover - 0.58)}};
@@ -37,7 +37,7 @@ ground seas_and_land(const vector& point) {
   return dry_land(height);
 }
 
-ground banded_gas(const vector& point) {
+material banded_gas(const vector& point) {
   const double flow = clouds(3.0 * point, 3, 7);
   const double storm = std::hypot((point.x - 0.1) * 1.4, (point.y - 0.36) * 3.2);
   if (point.z > 0 && storm < 0.36) return {{ramp::rust, 0.85 - storm}};
@@ -47,36 +47,36 @@ ground banded_gas(const vector& point) {
   return {{ramp::rust, 0.5 + 0.6 * band}};
 }
 
-ground pale_gas(const vector& point) {
+material pale_gas(const vector& point) {
   const double band = noise({0, 4.0 * point.y + 0.6 * clouds(2.0 * point, 3, 19), 4}, 23);
   return {{ramp::teal, 0.55 + 0.5 * band}};
 }
 
-ground lava(const vector& point) {
+material lava(const vector& point) {
   const double heat = veins(2.4 * point, 29);
   if (heat > 0.45) return {{ramp::flame, 0.35 + 0.6 * heat}, 0, 1};
   return {{ramp::earth, 0.25 + 0.5 * clouds(6.0 * point, 3, 31)}};
 }
 
-ground desert(const vector& point) {
+material desert(const vector& point) {
   const double dunes = clouds({3 * point.x, 9 * point.y, 3 * point.z}, 4, 37);
   if (std::abs(point.y) > 0.9) return {{ramp::ice, 0.9}};
-  return dunes > 0.56 ? ground{{ramp::rust, 0.75}} : ground{{ramp::sand, 0.35 + 0.8 * dunes}};
+  return dunes > 0.56 ? material{{ramp::rust, 0.75}} : material{{ramp::sand, 0.35 + 0.8 * dunes}};
 }
 
-ground cracked_ice(const vector& point) {
+material cracked_ice(const vector& point) {
   const double crack = veins(2.0 * point, 43);
   if (crack > 0.7) return {{ramp::ocean, 0.75}};
   return {{ramp::ice, 0.7 + 0.4 * clouds(5.0 * point, 3, 47)}, 0.5};
 }
 
-ground cratered_rock(const vector& point) {
+material cratered_rock(const vector& point) {
   double light = 0.5 + 0.4 * clouds(4.0 * point, 4, 53);
   for (int i = 0; i < 40; ++i) {
     const auto random = [i](int axis) { return 2 * scatter(i, axis, 0, 59) - 1; };
     const vector middle = unit({random(0), random(1), random(2)});
-    const vector between = point + -1.0 * middle;
-    light += dent(std::sqrt(dot(between, between)), 0.08 + 0.26 * scatter(i, 3, 0, 59));
+    const vector offset = point + -1.0 * middle;
+    light += dent(std::sqrt(dot(offset, offset)), 0.08 + 0.26 * scatter(i, 3, 0, 59));
   }
   return {{ramp::grey, std::clamp(light, 0.25, 1.0)}};
 }
