@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# bench/peers.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
+# bench/baselines.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
 # table of the medians. Both sides of a row alternate, ROUNDS times each (default 11). The data is
 # in memory if the system has /dev/shm. OSTRANE_BUILD is the build folder.
 set -euo pipefail
@@ -18,7 +18,7 @@ need_packages "${build_packages[@]}" "${bench_packages[@]}" "${virtual_display_p
 } >&2
 bin=$(cd "$build/bin" && pwd)
 
-data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-peers.XXXXXX")
+data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-baselines.XXXXXX")
 trap 'rm -rf "$data"' EXIT
 "$bin/bench_make_data" "$data"
 tar -C "$data/names/empty" -cf "$data/names.tar" .
@@ -71,13 +71,13 @@ bare() { printed "$bin/bench_bare_qt" "$@"; }
 
 median() { sort -n "$1" | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
 
-line() { # NAME OURS PEER GOAL UNIT
-  awk -v name="$1" -v ours="$2" -v peer="$3" -v goal="$4" -v unit="$5" 'BEGIN {
-    if (ours <= 0 || peer <= 0) exit 1
-    printf "| %s | %.2f %s | %.2f %s | %.2f | %s |\n", name, ours, unit, peer, unit, ours / peer, goal}'
+line() { # NAME OURS BASELINE GOAL UNIT
+  awk -v name="$1" -v ours="$2" -v baseline="$3" -v goal="$4" -v unit="$5" 'BEGIN {
+    if (ours <= 0 || baseline <= 0) exit 1
+    printf "| %s | %.2f %s | %.2f %s | %.2f | %s |\n", name, ours, unit, baseline, unit, ours / baseline, goal}'
 }
 
-row() { # NAME GOAL UNIT DIVISOR, then OURS... -- PEER...
+row() { # NAME GOAL UNIT DIVISOR, then OURS... -- BASELINE...
   local name=$1 goal=$2 unit=$3 divisor=$4 ours=() i
   shift 4
   while [ "$1" != -- ]; do
@@ -86,19 +86,19 @@ row() { # NAME GOAL UNIT DIVISOR, then OURS... -- PEER...
   done
   shift
   : >"$data/ours"
-  : >"$data/peer"
+  : >"$data/baseline"
   for ((i = 0; i < rounds; i++)); do
     "${ours[@]}"
     echo "$took" >>"$data/ours"
     "$@"
-    echo "$took" >>"$data/peer"
+    echo "$took" >>"$data/baseline"
   done
   line "$name" "$(median "$data/ours" | awk "{print \$1 / $divisor}")" \
-    "$(median "$data/peer" | awk "{print \$1 / $divisor}")" "$goal" "$unit"
+    "$(median "$data/baseline" | awk "{print \$1 / $divisor}")" "$goal" "$unit"
 }
 
 heading() {
-  printf '| Work | Tool | Peer | Ratio | Goal |\n|---|--:|--:|--:|---|\n'
+  printf '| Work | Tool | Baseline | Ratio | Goal |\n|---|--:|--:|--:|---|\n'
 }
 
 programs() {
@@ -155,12 +155,12 @@ in_process() {
     --benchmark_filter='index|fread|decode|libpng|bare|memset|series' 2>"$data/errors" |
     tr -d '"' | awk -F, '$1 ~ /_median$/ {sub("_median", "", $1); print $1, $3 / 1000}' >"$data/in_process"
   of() { awk -v name="$1" '$1 == name {print $2}' "$data/in_process"; }
-  between() { line "$1" "$(of "$2")" "$(of "$3")" "$4" ms; }
-  between 'index of 32,768 records; `fread` and splitting' read_index_into_list fread_and_split 3
-  between '5,000 icons from the file; libpng' decode_icons_from_file libpng_from_file 0.25
-  between 'their streams alone; `memset`' decode_streams_in_memory memset_of_the_pixels 8
-  between 'the same; a bare loop' decode_streams_in_memory bare_loop_over_streams ''
-  between 'series of 999 icons without a screen; of 500' draw_series/999 draw_series/500 2.2
+  in_process_row() { line "$1" "$(of "$2")" "$(of "$3")" "$4" ms; }
+  in_process_row 'index of 32,768 records; `fread` and splitting' read_index_into_list fread_and_split 3
+  in_process_row '5,000 icons from the file; libpng' decode_icons_from_file libpng_from_file 0.25
+  in_process_row 'their streams alone; `memset`' decode_streams_in_memory memset_of_the_pixels 8
+  in_process_row 'the same; a bare loop' decode_streams_in_memory bare_loop_over_streams ''
+  in_process_row 'series of 999 icons without a screen; of 500' draw_series/999 draw_series/500 2.2
   printf '| series of 300 icons without a screen | %.2f ms | | | 30 ms |\n' "$(of draw_series/300)"
 }
 
