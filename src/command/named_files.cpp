@@ -79,7 +79,7 @@ void write_result(const std::string& argument, std::string_view bytes) {
   files::require_replaceable(path);
   files::replaced_file to(path);
   to.file().write(std::as_bytes(std::span(bytes)));
-  to.put_in_place();
+  to.commit();
   to.flush_folder();
 }
 

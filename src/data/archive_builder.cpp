@@ -78,8 +78,8 @@ void write_archive(const build_list& list, std::span<const make_record> files,
                    const job_progress& progress) {
   files::replaced_file archive(target);
   write_archive_to(archive.file(), list, files, records, progress);
-  archive.put_in_place();
-  // put_in_place kept the spelling of the old file, so there are never two archives. A failure to
+  archive.commit();
+  // commit() kept the spelling of the old file, so there are never two archives. A failure to
   // rename it now is harmless, as names are compared case-insensitively.
   files::ignore_failure([&] { archive.respell(target.system); });
   archive.flush_folder();

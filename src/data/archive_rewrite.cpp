@@ -117,7 +117,7 @@ void rewrite_archive(const files::file_path& path, const archive_index& old,
     copy_entry(job, entries[i], size, to.file());
   }
   archive.close();
-  to.put_in_place();
+  to.commit();
   to.flush_folder();
 }
 

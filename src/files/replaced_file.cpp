@@ -67,8 +67,8 @@ replaced_file::~replaced_file() {
 
 void replaced_file::remove_leftovers() const {
   std::vector<listed_entry> listed;
-  const int outcome = file_calls::list(folder_of(target_.system), listed);
-  if (outcome < 0) file_calls::fail(target_.shown, cannot_write, outcome);
+  const int status = file_calls::list(folder_of(target_.system), listed);
+  if (status < 0) file_calls::fail(target_.shown, cannot_write, status);
   for (const listed_entry& entry : listed) {
     if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
     const fs::path leftover = folder_of(target_.system) / entry.name;
@@ -95,7 +95,7 @@ void replaced_file::require_own_file() const {
 
 // A network file system can report a failure although it renamed the file, so the result is
 // checked.
-void replaced_file::put_in_place() {
+void replaced_file::commit() {
   file_.flush(true);
   require_own_file();
   const int replaced = file_calls::replace(temporary_, target_.system);

@@ -20,18 +20,18 @@ class replaced_file {
   explicit replaced_file(file_path target);
   replaced_file(const replaced_file&) = delete;
   replaced_file& operator=(const replaced_file&) = delete;
-  // Removes the new file unless it was put in place.
+  // Removes the new file unless it was committed.
   ~replaced_file();
 
   binary_file& file() { return file_; }
 
   // Flushes the new file to the disk and renames it to the target.
-  void put_in_place();
+  void commit();
   // For a target that cannot be replaced: writes the new content to `to` instead.
   void copy_to(binary_file& to);
 
-  // Renames the file to `target`, which differs from the name in place in case only, and deletes
-  // files whose names differ from it in case only. Failures are ignored. Call after put_in_place.
+  // Renames the file to `target`, which differs from its current name in case only, and deletes
+  // files whose names differ from it in case only. Failures are ignored. Call after commit.
   void respell(const std::filesystem::path& target);
 
   // Flushes the folder, so that the new file survives a power loss. Failures are ignored.

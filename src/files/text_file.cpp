@@ -52,7 +52,7 @@ text_writer::text_writer(const file_path& path, const file_identity& source)
   if (succeeds_unless_denied([&] { new_file_.emplace(target_); })) old_file_.abandon();
 }
 
-// Fails if the old file is read-only, which replacing it would not.
+// Fails if the old file is read-only. Replacing it would succeed.
 void text_writer::open_old_file(const file_identity& source) {
   old_file_.open_to_write(target_);
   old_identity_ = old_file_.info().stamp.identity;
@@ -74,7 +74,7 @@ bool text_writer::succeeds_unless_denied(const std::function<void()>& step) {
   }
 }
 
-// The old file was closed meanwhile, as Windows does not replace an open file.
+// Opens the old file again: it was closed, as Windows does not replace an open file.
 void text_writer::overwrite_old_file() {
   old_file_.open_to_write(target_);
   if (old_file_.info().stamp.identity != old_identity_) {
@@ -91,7 +91,7 @@ void text_writer::write_line(std::string_view line) {
 }
 
 void text_writer::close() {
-  if (new_file_ && succeeds_unless_denied([&] { new_file_->put_in_place(); })) {
+  if (new_file_ && succeeds_unless_denied([&] { new_file_->commit(); })) {
     new_file_->flush_folder();
   } else {
     if (new_file_) overwrite_old_file();

@@ -28,10 +28,10 @@ class text_reader {
   std::size_t position_ = 0;
 };
 
-// Writes lines, each with CR LF at its end, to a new file that close() puts in place of the old
-// one. Until then, and after any failure, the old file is unchanged. Of a link, the target is
-// replaced. If the folder does not allow that, the old file is overwritten instead; a failure then
-// leaves a part of the lines. All operations throw file_error.
+// Writes lines, each with CR LF at its end, to a new file. close() replaces the old file by it.
+// Until then, and after any failure, the old file is unchanged. If the path is a link, its target
+// is replaced. If the folder does not allow that, the old file is overwritten instead; a failure
+// then leaves a part of the lines. All operations throw file_error.
 class text_writer {
  public:
   // Throws if the old file is read-only, or if it is `source`, the file that the lines come from.
