@@ -101,13 +101,13 @@ TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
   }
 }
 
-// Twenty are reported. A skipped entry must not shift the bytes of the next ones.
+// At most 20 are reported. A skipped entry must not shift the bytes of the next ones.
 TEST_F(extraction_test, SkipsUnsafeAndUnwritableEntries) {
   const std::pair<const char*, texts> refused[] = {
       {"it has no name", {""}},
       {"its name means a folder", {".", ".."}},
-      {"its name holds a separator of paths", {"A\\B", "..\\UP.TXT", "A/B", "/etc/x", "C:X"}},
-      {"its name holds a control character",
+      {"its name contains a path separator", {"A\\B", "..\\UP.TXT", "A/B", "/etc/x", "C:X"}},
+      {"its name contains a control character",
        {"A\tB", "A\x7F", "\x81", "\x8D.X", "\x8F", "\x90", "\x9D"}},
       {"D:\\in\\DIR cannot be opened: it is a folder.", {"DIR"}},
       {"its name means a device",

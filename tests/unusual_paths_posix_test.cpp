@@ -35,7 +35,7 @@ TEST_F(unusual_paths_test, AcceptsTheLongestNamesAndNamesThatDifferInCase) {
             archive_bytes({{"A.TXT", "2"}, {"A.TXT", "1"}, {"NNNNNNNNNNNNN", "3"}}));
 }
 
-// What the tool writes beside a list meanwhile is not reported.
+// Hidden files of a list that another copy is writing are not reported.
 TEST_F(unusual_paths_test, ReportsSkippedFiles) {
   for (const char* name : {".HID.TXT", "\xCE\xA9.TXT", "a\\b", "ok", ".SHPLIST.TXT.lock"}) {
     write_bytes(disk_path("C:\\work") / name, "");
@@ -47,7 +47,7 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
   EXPECT_EQ(new_messages(),
             (texts{"These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden"
                    "\n>?.TXT<: its name has characters that the code page lacks"
-                   "\n>a\\b<: its name holds a separator of paths"
+                   "\n>a\\b<: its name contains a path separator"
                    "\n>late<: it came after the files were listed",
                    "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat"}));
   EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}}));

@@ -40,10 +40,10 @@ std::string unsafe_name_reason(const std::string& name) {
   if (name.empty()) return "it has no name";
   if (name == "." || name == "..") return "its name means a folder";
   if (name.find_first_of("\\/:") != std::string::npos) {
-    return "its name holds a separator of paths";
+    return "its name contains a path separator";
   }
   if (std::any_of(name.begin(), name.end(), is_control_character)) {
-    return "its name holds a control character";
+    return "its name contains a control character";
   }
   if (is_device(name)) return "its name means a device";
   return "";

@@ -46,7 +46,7 @@ std::vector<listed_entry> listed_in(const file_path& folder) {
 // Why the lists leave an entry out, or "". `name` is its name in the code page, if it has one.
 const char* unlisted_reason(const listed_entry& entry, const std::optional<std::string>& name) {
   if (!name) return "its name has characters that the code page lacks";
-  if (name->find('\\') != name->npos) return "its name holds a separator of paths";
+  if (name->find('\\') != name->npos) return "its name contains a path separator";
   return entry.is_hidden ? "it is hidden" : "";
 }
 
