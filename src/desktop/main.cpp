@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
   ostrane::start_tool(files::program_folder(), ostrane::make_icon_exporter());
-  const int outcome = QApplication::exec();
+  const int exit_code = QApplication::exec();
   forms_layer::attach_screen(nullptr);
-  return outcome;
+  return exit_code;
 }

@@ -54,8 +54,8 @@ void binary_file::set_file(int file, bool writes) {
   writes_ = writes;
 }
 
-void binary_file::fail(std::int64_t outcome, const char* what) {
-  file_calls::fail(path_, what, outcome);
+void binary_file::fail(std::int64_t status, const char* what) {
+  file_calls::fail(path_, what, status);
 }
 
 void binary_file::seek(std::int64_t offset) {
@@ -150,15 +150,15 @@ std::size_t binary_file::write_from(binary_file& source, std::size_t max) {
 
 file_info binary_file::info() {
   file_info found;
-  const int outcome = file_calls::info_of(file_, found);
-  if (outcome < 0) fail(outcome, " cannot be read: ");
+  const int status = file_calls::info_of(file_, found);
+  if (status < 0) fail(status, " cannot be read: ");
   return found;
 }
 
 void binary_file::truncate() {
   flush();
-  const int outcome = file_calls::set_size(file_, buffer_start_);
-  if (outcome < 0) fail(outcome, " cannot be written: ");
+  const int status = file_calls::set_size(file_, buffer_start_);
+  if (status < 0) fail(status, " cannot be written: ");
 }
 
 void binary_file::write_to_system(std::span<const std::byte> from) {

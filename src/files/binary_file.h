@@ -58,7 +58,7 @@ class binary_file {
  private:
   void reset(const std::string& shown_path);
   void set_file(int file, bool writes);
-  [[noreturn]] void fail(std::int64_t outcome, const char* what);
+  [[noreturn]] void fail(std::int64_t status, const char* what);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
   void write_to_system(std::span<const std::byte> from);

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The first lookups in a folder ask the system for the exact name; a further one reads the whole
+// The first lookups in a folder ask the system for the exact name. The next one reads the whole
 // folder, which is faster for many names.
 constexpr int max_single_lookups = 8;
 
@@ -32,7 +32,7 @@ void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) 
   for (const listed_entry& found : listed) {
     const std::optional<std::string> text = name_as_text(found.name);
     if (!text) continue;
-    // Of names that differ in case only, the first by code value wins.
+    // If names differ in case only, the first by code value wins.
     const auto [entry, is_new] = known.names.emplace(upper_case(*text), found.name);
     if (!is_new && found.name < entry->second) entry->second = found.name;
   }

@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 template <typename Call, typename... Arguments>
 auto uninterrupted(Call call, Arguments&&... arguments) {
   for (;;) {
-    const auto outcome = call(arguments...);
-    if (outcome != -EINTR) return outcome;
+    const auto status = call(arguments...);
+    if (status != -EINTR) return status;
   }
 }
 
@@ -52,8 +52,8 @@ int flush_to_disk(int file) { return uninterrupted(system_calls.flush_to_disk, f
 
 // close() closes the file even if it is interrupted, so it must not be retried.
 int close_file(int file) {
-  const int outcome = system_calls.close_file(file);
-  return outcome == -EINTR ? 0 : outcome;
+  const int status = system_calls.close_file(file);
+  return status == -EINTR ? 0 : status;
 }
 
 int remove_file(const fs::path& path) { return uninterrupted(system_calls.remove_file, path); }
@@ -67,24 +67,24 @@ int flush_folder(const fs::path& folder) {
 int list(const fs::path& folder, std::vector<listed_entry>& found) {
   const std::size_t before = found.size();
   for (;;) {
-    const int outcome = system_calls.list(folder, found);
-    if (outcome != -EINTR) return outcome;
+    const int status = system_calls.list(folder, found);
+    if (status != -EINTR) return status;
     found.resize(before);
   }
 }
 
 path_match match(const fs::path& path, const file_identity& identity) {
   file_info found;
-  const int outcome = info_at(path, found);
-  if (outcome == -ENOENT || outcome == -ENOTDIR) return {};
-  if (outcome < 0) return {.error = outcome};
+  const int status = info_at(path, found);
+  if (status == -ENOENT || status == -ENOTDIR) return {};
+  if (status < 0) return {.error = status};
   return {.is_same = found.stamp.identity == identity};
 }
 
 path_match match(const fs::path& path, int file) {
   file_info open;
-  const int outcome = info_of(file, open);
-  if (outcome < 0) return {.error = outcome};
+  const int status = info_of(file, open);
+  if (status < 0) return {.error = status};
   return match(path, open.stamp.identity);
 }
 
@@ -156,8 +156,8 @@ std::string error_text(int errno_number) {
   }
 }
 
-void fail(const std::string& path, const char* what, std::int64_t outcome) {
-  const int number = static_cast<int>(-outcome);
+void fail(const std::string& path, const char* what, std::int64_t status) {
+  const int number = static_cast<int>(-status);
   throw file_error{error_number(number), path + what + error_text(number) + "."};
 }
 

@@ -47,8 +47,8 @@ int errno_number(const std::error_code& reason);
 file_error_number error_number(int errno_number);
 std::string error_text(int errno_number);
 
-// Throws file_error for `outcome`, a negative errno number. `what` is " cannot be read: " or the
+// Throws file_error for `status`, a negative errno number. `what` is " cannot be read: " or the
 // like; the text becomes "C:\a.txt cannot be read: it is not there."
-[[noreturn]] void fail(const std::string& path, const char* what, std::int64_t outcome);
+[[noreturn]] void fail(const std::string& path, const char* what, std::int64_t status);
 
 }  // namespace files::file_calls

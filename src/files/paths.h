@@ -27,9 +27,9 @@ char drive_letter(std::string_view path);
 // The drive of a tool path or of a drive list's row. Throws file_error if it does not exist.
 const drive& drive_of(const std::string& path);
 
-// The system path of a tool path. Of each name the exact spelling is used if it exists, else one
-// that differs in case only, else the name as given. Throws file_error if the drive does not exist.
-// For many paths pass the same `names`, which caches lookups.
+// The system path of a tool path. Each name keeps its exact spelling if that exists, else becomes
+// one that differs in case only, else stays as given. Throws file_error if the drive does not
+// exist. For many paths pass the same `names`, which caches lookups.
 std::filesystem::path system_path(const std::string& path);
 std::filesystem::path system_path(const std::string& path, case_insensitive_lookup& names);
 // The same, with `path` as the path for messages.

@@ -44,8 +44,8 @@ struct system_call_table {
   int (*open_to_read)(const std::filesystem::path& path);
   // Opens an existing file without truncating it.
   int (*open_to_write)(const std::filesystem::path& path);
-  // Creates a file; -EEXIST if the path exists. A private file is its owner's alone until
-  // copy_permissions.
+  // Creates a file; -EEXIST if the path exists. Only its owner can open a private
+  // file until copy_permissions.
   int (*open_new)(const std::filesystem::path& path, bool is_private);
   // Opens or creates a file that every user may lock; -ELOOP for a link.
   int (*open_lock)(const std::filesystem::path& path);

@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-int result(int outcome) { return outcome < 0 ? -errno : outcome; }
+int result(int returned) { return returned < 0 ? -errno : returned; }
 
 // Without O_NONBLOCK, open() of a pipe waits for its other end.
 constexpr int always = O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
@@ -78,7 +78,7 @@ void fill(file_info& info, const struct stat& status) {
   info.stamp.identity = {static_cast<std::uint64_t>(status.st_dev),
                          static_cast<std::uint64_t>(status.st_ino)};
   info.stamp.size = status.st_size;
-  // Unsigned, as a time after the year 2262 has no such number; all that counts is a difference.
+  // Unsigned, as times after the year 2262 overflow. Stamps are only compared for equality.
   info.stamp.modified = static_cast<std::int64_t>(
       static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanoseconds_per_second +
       static_cast<std::uint64_t>(status.st_mtim.tv_nsec));
@@ -107,7 +107,7 @@ void copy_access_list(int file, const fs::path& from) {
   const ssize_t size = getxattr(from.c_str(), access_list, list.data(), list.size());
   if (size < 0 ||
       fsetxattr(file, access_list, list.data(), static_cast<std::size_t>(size), 0) < 0) {
-    fremovexattr(file, access_list);  // of a list that the folder gives its new files
+    fremovexattr(file, access_list);  // the default list of the folder
   }
 }
 

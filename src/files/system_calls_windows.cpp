@@ -121,9 +121,9 @@ int info_at(const fs::path& path, file_info& info) {
       path.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (file == INVALID_HANDLE_VALUE) return last_error();
-  const int outcome = info_of(static_cast<int>(reinterpret_cast<std::intptr_t>(file)), info);
+  const int status = info_of(static_cast<int>(reinterpret_cast<std::intptr_t>(file)), info);
   CloseHandle(file);
-  return outcome;
+  return status;
 }
 
 int copy_permissions(int /*file*/, const fs::path& /*from*/) { return 0; }

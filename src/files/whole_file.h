@@ -13,13 +13,13 @@ namespace files {
 // the disk.
 class whole_file {
  public:
-  // Opens `file` to write `target`. Throws file_error, also if require_replaceable does.
+  // Opens `file` to write `target`. Throws file_error, as require_replaceable does too.
   whole_file(binary_file& file, file_path target, const file_identity& source = {});
   whole_file(const whole_file&) = delete;
   whole_file& operator=(const whole_file&) = delete;
   ~whole_file();
 
-  // Closes the file and puts it in place. Throws file_error.
+  // Closes the file and gives it the name of the target. Throws file_error.
   void keep();
 
  private:

@@ -17,14 +17,14 @@ constexpr auto pause = std::chrono::milliseconds(5);
 
 // If the lock file exists but cannot be opened, the message names it instead of the target.
 [[noreturn]] void fail_to_open(const std::filesystem::path& lock, const std::string& shown_path,
-                               int outcome) {
+                               int status) {
   file_info found;
   std::string shown = shown_path;
   if (file_calls::info_at(lock, found) >= 0) {
     shown.erase(shown.find_last_of("\\/") + 1);
     shown += name_as_text_lossy(lock.filename().native());
   }
-  file_calls::fail(shown, " cannot be opened: ", outcome);
+  file_calls::fail(shown, " cannot be opened: ", status);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 namespace files {
 
-// A circle of links is left to the system to refuse.
+// Resolves a limited number of links. The system then rejects a cycle of links.
 std::filesystem::path written_path(const std::filesystem::path& path) {
   constexpr int max_links = 40;
   std::filesystem::path target = path;

@@ -27,8 +27,8 @@ struct gif_job {
   throw data_error(std::string("A GIF cannot be made: ") + (text == nullptr ? "" : text) + ".");
 }
 
-void require(const gif_job& job, int outcome) {
-  if (outcome != GIF_OK) fail(job.gif->Error);
+void require(const gif_job& job, int status) {
+  if (status != GIF_OK) fail(job.gif->Error);
 }
 
 int append_bytes(GifFileType* gif, const GifByteType* bytes, int count) {
