@@ -9,7 +9,8 @@ namespace ostrane {
 // record.
 bool prepare_entry_menu(std::int32_t row);
 
-// Asks for a file and extracts the entry `menu_target` to it. An existing file is replaced whole.
+// Asks for a file and extracts the entry `menu_target` to it. An existing file is replaced
+// atomically.
 void extract_one_entry();
 
 }  // namespace ostrane

@@ -20,8 +20,8 @@ void store_records(const std::vector<dat_record>& records) {
   tool_state.record_count = static_cast<std::int32_t>(records.size());
   std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
   for (const dat_record& record : records) Form1.List1.AddItem(name_without_nuls(record.name));
-  // Without a palette the offset stays that of the previous archive, at which this one is then
-  // read.
+  // If the archive has no palette, the offset stays that of the previous archive. The colours are
+  // then read at that offset.
   if (const dat_record* found = find_game_palette(records)) {
     tool_state.game_pal_offset = found->offset;
   }

@@ -102,7 +102,7 @@ void run(build_job& job) {
   job.records = measure(job);
   refresh_progress();
   write(job);
-  // The archive is complete. A failure to list the folder is shown in place of the skipped files.
+  // The archive is complete. A failure to list the folder is shown instead of the skipped files.
   const std::string failure = files::failure_of([&job] { job.skipped = skipped_message(job); });
   if (!failure.empty()) job.skipped = failure;
 }
@@ -116,7 +116,7 @@ std::string folder_hint(const build_job& job) {
 }
 
 // An open archive is replaced by the new one, as dat_index and List1 must describe the same file.
-// Without one no archive is opened unasked; only the index is stored.
+// If none is open, none is opened; only the index is stored.
 void use_new_index(const build_job& job) {
   if (tool_state.archive_is_open == flag_true) {
     read_archive(job.list.folder);

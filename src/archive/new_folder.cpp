@@ -16,7 +16,8 @@ void make_new_folder() {
   try {
     files::create_folder(path);
     Form4.Dir1.Path = path;
-    // Without a Change, as Dir1 can show the same path if another program has removed the folder.
+    // The assignment raises no Change if Dir1 shows this path already, which is possible if another
+    // program has removed the folder.
     Form4.File1.Refresh();
     Form4.Text1.Text = Form4.Dir1.Path();
   } catch (const files::file_error& error) {

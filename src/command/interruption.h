@@ -2,8 +2,8 @@
 
 namespace ostrane::command {
 
-// Thrown after a signal to terminate or a broken pipe. Not a std::exception, so that no handler of
-// failures catches it.
+// Thrown after a signal to terminate or a broken pipe. Not a std::exception, so that code that
+// handles failures does not catch it.
 struct interruption {};
 
 // Installs handlers that only store signals to terminate, so that temporary files are removed.

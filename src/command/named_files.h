@@ -24,7 +24,7 @@ files::file_path file_in(const std::string& folder, const std::string& name,
 // Throws file_error or data_error if the folder does not exist or is not a folder.
 void require_folder(const std::string& argument);
 
-// Creates the folder if it does not exist, but not its parents. Throws as require_folder.
+// Creates the folder if it does not exist, but not its parents. Throws like require_folder.
 void make_folder(const std::string& argument);
 
 // Returns true for each entry whose name matches one of the arguments (patterns with "*" and "?",

@@ -19,7 +19,7 @@ struct build_list {
   std::vector<files::file_path> paths;  // of the names
 };
 
-// A file of a build list, measured: its size, its name, and the place of its entry in the archive.
+// A file of a build list, with its size and the offset of its entry in the archive.
 // The archive's index is derived from these records.
 struct make_record {
   std::int32_t size;    // bytes

@@ -20,7 +20,7 @@ namespace ostrane {
 namespace {
 
 constexpr std::int64_t palette_size = palette_colours * colour_size;
-// The window shows no more of a text.
+// The window shows at most this much of a text.
 constexpr std::int64_t max_text_size = std::int64_t{2} << 20U;
 
 struct archive_check {
@@ -143,7 +143,7 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
                    std::size_t index) {
   const std::int64_t start = start_of(check, index);
   const std::int64_t size = size_of(check, index);
-  // Of overlapping entries only the first is checked, so that no byte is read for many entries.
+  // Checks only the first of overlapping entries, so that no byte is read for many entries.
   if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps[index]) return;
   const std::string name = shown_name(check, index);
   switch (kind_of_entry(name_without_nuls(check.records[index].name))) {

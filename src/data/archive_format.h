@@ -23,7 +23,7 @@ constexpr std::size_t name_size = 13;
 constexpr std::int32_t count_size = 4;
 constexpr std::int32_t record_size = 17;
 constexpr std::int32_t max_records = 32768;
-// With the end record INT16_MAX records.
+// Plus the end record, that is INT16_MAX records.
 constexpr std::size_t max_files = 32766;
 static_assert(record_size == 4 + name_size);
 

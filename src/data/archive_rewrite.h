@@ -19,7 +19,7 @@ struct rewritten_entry {
 // Returns the entries of an archive in index order.
 std::vector<rewritten_entry> entries_of(const archive_index& index);
 
-// Replaces the last entry of this name by the file. Without such an entry inserts the file before
+// Replaces the last entry of this name by the file. If there is none, inserts the file before
 // the first entry whose name sorts after it. Returns the name of the entry, cut at 13 characters.
 std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& file_name,
                       const files::file_path& file);

@@ -5,8 +5,8 @@
 namespace ostrane {
 
 // Returns the reason why an entry of this name is unsafe as a file (a sentence fragment), or "".
-// Unsafe are empty names, folder and device names, and names with a path separator or a control
-// character.
+// These names are unsafe: empty names, folder and device names, and names with a path separator or
+// a control character.
 std::string unsafe_name_reason(const std::string& name);
 
 }  // namespace ostrane

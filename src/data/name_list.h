@@ -14,7 +14,7 @@ struct name_list {
   std::int32_t count = 0;
   // Returns "" for a row that does not exist.
   std::function<const std::string&(std::int32_t row)> name;
-  files::file_identity archive = {};  // of its file, which no list may overwrite
+  files::file_identity archive = {};  // of its file, which a list must not overwrite
 };
 
 // Writes the names, one per line. Throws file_error.

@@ -14,8 +14,8 @@ constexpr std::int32_t max_op_pixels = 127;
 // A column outside the picture, which any operation may paint.
 constexpr std::int16_t free_cell = -2;
 
-// For more outside columns the stream begins with skips of maximum length until at most this many
-// remain.
+// If there are more outside columns, the stream begins with skips of maximum length until at most
+// this many remain.
 constexpr std::int32_t max_outside = 2 * max_skip;
 
 struct open_literal {
@@ -54,9 +54,10 @@ void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
 //   skip or run of n columns:  best[c - n] + 2
 //   literal:                   literal[c] = min(literal[c - 1] + 1, best[c - 1] + 2)
 // best[c] never decreases with c, so n is the largest number of columns that end here and that one
-// skip or one run can cover. A skip covers all that a run can, where both are possible. A literal
-// that is a byte shorter is never worse than a longer one, as a new literal costs that byte; of
-// equal ones the new one can grow further. So one open literal is enough.
+// skip or one run can cover. Where both are possible, a skip covers all that a run can.
+//
+// One open literal is enough. A literal that is a byte shorter is never worse than a longer one, as
+// a new literal costs that byte. If both are equal, the new one can grow further.
 void row_packer::find_steps() {
   steps_.resize(columns_.size() + 1);
   step* const best = steps_.data();

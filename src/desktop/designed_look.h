@@ -13,7 +13,7 @@ namespace desktop {
 // An installed font with similar widths.
 QFont font_for(const forms_layer::font_design& designed);
 
-// A colour that is no system colour.
+// A colour that is not a system colour.
 inline QRgb as_rgb(forms_layer::colour c) {
   return qRgb(static_cast<int>(forms_layer::red_of(c)), static_cast<int>(forms_layer::green_of(c)),
               static_cast<int>(forms_layer::blue_of(c)));

@@ -16,8 +16,8 @@ class form_window : public QMainWindow {
   forms_layer::form& form;
 
   // Shows the window over `owner`, which may be null. The first time it is at its designed
-  // position, later at its last one. If designed so, it is centred over `centre_of`. A window shown
-  // during a handler gets no focus before `take_focus`.
+  // position, later at its last one. If its design says so, it is centred over `centre_of`. A
+  // window shown during a handler gets no focus before `take_focus`.
   void show_over(QWindow* owner, const QWidget* centre_of, bool in_handler);
   void hide_window();
   void take_focus();

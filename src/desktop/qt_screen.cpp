@@ -56,7 +56,7 @@ void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& c
   if (auto* action = window->findChild<QAction*>(name)) action->setEnabled(changed.Enabled());
 }
 
-// Each write restarts a timer, also of the old value.
+// Each write restarts a timer, even if the value is the same.
 void qt_screen::timer_changed(forms_layer::timer& changed) {
   const auto [at, is_new] = timers_.try_emplace(&changed);
   QTimer& timer = at->second;
@@ -101,13 +101,13 @@ form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   return at == windows_.end() ? nullptr : at->second.get();
 }
 
-// The event loop also turns during a handler, for a frame or a dialog.
+// The event loop also runs during a handler, for a frame or a dialog.
 void qt_screen::sync_between_handlers() {
   if (forms_layer::handler_running()) return;
   try {
     sync();
   } catch (const std::bad_alloc&) {
-    // As for an event that is dropped: a later change is shown.
+    // As after a dropped event, these changes may stay invisible. Later changes are shown.
   }
 }
 

@@ -103,8 +103,8 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
   if (now >= 0 && now != before) choose(now);
 }
 
-// Qt goes by the times at which it handles the letters. Those that are typed during a handler are
-// handled late, and each can start the next handler.
+// Qt compares the times at which it handles the letters. Letters typed during a handler are handled
+// late, and each can start the next handler.
 void rows_view::keyboardSearch(const QString& letters) {
   const int rows = model_.rowCount({});
   if (rows == 0) return;

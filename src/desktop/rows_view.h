@@ -63,7 +63,7 @@ class rows_view : public view_of<QListView, forms_layer::control> {
   rows_model model_;
   QSize row_size_;
   int pressed_row_ = -1;
-  QString word_;             // that the latest letters make up
+  QString word_;             // typed by the latest letters
   quint64 key_time_ = 0;     // of the latest press of a key
   quint64 letter_time_ = 0;  // of the latest letter
 };

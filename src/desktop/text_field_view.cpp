@@ -14,7 +14,7 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
   connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
     forms_layer::user::type(shown_, from_screen(edited));
-    // The tool can keep another text. It reports that only if its text has changed.
+    // The tool can reject the edit. If its text is then unchanged, it reports no change.
     if (!forms_layer::handler_running()) show_content();
   });
 }

@@ -23,7 +23,7 @@ class views {
   // After a change of the theme.
   void show_all();
 
-  // The widgets of a form by their place in the tab order.
+  // The widgets of a form in tab order.
   std::multimap<int, QWidget*> in_tab_order(const forms_layer::form& shown) const;
 
  private:

@@ -59,7 +59,7 @@ void run_one(const std::function<void()>& handler) {
   }
 }
 
-// Without memory the event is lost, as an input that the system drops.
+// If memory runs out, the event is lost, like an input that the system drops.
 void queue_event(const std::function<void()>& handler, const void* key) {
   const auto same_key = [key](const queued_event& e) { return e.key == key; };
   if (key != nullptr && std::any_of(queue.begin(), queue.end(), same_key)) return;

@@ -23,7 +23,7 @@ struct form_design {
   bool control_box = false;  // the user can close the window
   bool resizable = false;
   start_position opens = start_position::owner_centre;
-  // Width() and Height() less the client area, a fixed part whatever the window manager draws.
+  // Width() and Height() minus the client area. Fixed, whatever the window manager draws.
   std::int32_t frame_width = 225;
   std::int32_t frame_height = 705;
 };

@@ -22,15 +22,15 @@ struct pixel_area {
 };
 
 // A bitmap that the box keeps while it is hidden, moved or covered. The drawing area is the box
-// less a border of one pixel on each side. Coordinates are pixels of the drawing area (ScaleMode
-// 3). An unset pixel shows BackColor. The bitmap is allocated when the first pixel is set.
-// Assigning BackColor clears it; a new size keeps the pixels that fit.
+// without its border of one pixel on each side. Coordinates are pixels of the drawing area
+// (ScaleMode 3). An unset pixel shows BackColor. The bitmap is allocated when the first pixel is
+// set. Assigning BackColor clears it; a new size keeps the pixels that fit.
 class picture_box : public control {
  public:
   picture_box(container& parent_container, const design& as_designed, std::int32_t array_index);
 
   const std::int32_t Index;
-  picture_array* array = nullptr;  // that it is an element of, if any
+  picture_array* array = nullptr;  // the array of this element, or null
   property<int, property_id::rect, control> ScaleMode{*this, 1};
 
   static constexpr colour unset = 0xFFFFFFFF;

@@ -37,7 +37,7 @@ struct save_question {
 
 struct save_answer {
   std::filesystem::path path;  // empty if the user gave none
-  std::size_t kind = 0;        // that was selected; the name may have another ending
+  std::size_t kind = 0;        // the selected one; the name may have another ending
 };
 
 // Shows the forms to a user. The forms also work without one.

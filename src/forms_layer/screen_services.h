@@ -6,7 +6,7 @@
 
 namespace forms_layer {
 
-// Call the function of this name of the attached screen, or without one that of `answers`.
+// Each calls the function of its name on the attached screen, or without a screen in `answers`.
 menu_item* pick_item(context_menu& opened, screen_point at);
 save_answer ask_save_path(const save_question& question);
 void copy_picture(const picture_box& shown);

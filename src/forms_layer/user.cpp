@@ -22,8 +22,8 @@ void move_focus(control* to) {
   if (from != nullptr) raise(from->LostFocus);
 }
 
-// `after` an edit of `before`, without those of the added characters that go beyond the limit. What
-// was longer before may stay.
+// The text `after` an edit of `before`, without added characters beyond the limit. A text that was
+// too long before is not cut.
 std::string limited(const std::string& before, const std::string& after, std::size_t limit) {
   const std::size_t shorter = std::min(before.size(), after.size());
   std::size_t head = 0;
@@ -38,7 +38,7 @@ std::string limited(const std::string& before, const std::string& after, std::si
          after.substr(after.size() - tail);
 }
 
-// The menu and its item are one event, so that what the menu was opened on stays as it is.
+// The menu and its item are one event, so that the target of the menu does not change meanwhile.
 void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
   if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
   const menu_item* picked = pick_item(*opened, at);

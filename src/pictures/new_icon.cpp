@@ -54,7 +54,7 @@ shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known) 
   const bool is_set = has_set_cells(drawn, smallest);
   if (is_set) widen(head, smallest, known->last_column);
   if (bytes_before_cells(head, smallest, is_set) > max_stream_bytes(head)) {
-    if (!is_set) return {head, ""};  // a decoder gives up before the first cell
+    if (!is_set) return {head, ""};  // a decoder stops before the first cell
     throw data_error("its box begins too far outside the picture");
   }
   return {head, packed(drawn, head)};

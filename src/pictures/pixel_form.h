@@ -18,8 +18,8 @@ struct pixel_form {
 
 pixel_form form_of(const picture& drawn);
 
-// The palette with a different colour for each index. Of indices with the same colour the lowest
-// keeps it; the others get the nearest unused colour.
+// The palette with a different colour for each index. The lowest of the indices with the same
+// colour keeps it; the others get the nearest unused colour.
 rgb_palette distinct_colours(const rgb_palette& palette);
 
 // The squared distance of two colours.

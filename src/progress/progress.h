@@ -10,11 +10,11 @@ namespace ostrane {
 // Shows or hides the two bars and their labels.
 void show_bars(bool shown);
 
-// Shows `Form3` with its bars and `caption`; hides both and leaves `caption`.
+// Show `Form3` with its bars, and hide both. Both procedures set its caption.
 void show_progress(const char* caption);
 void hide_progress(const char* caption);
 
-// Repaints `Form3` before the call returns, the second one with a new text.
+// Repaint `Form3` before the call returns. The second one also sets its text.
 void refresh_progress();
 void show_progress_text(const std::string& text);
 
