@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       },
       [](std::size_t, std::size_t, const std::string&) {});
   // A record has at most six faults, an icon four.
-  fuzz::check(faults <= archive.size() + 10, "faults follow from the bytes");
+  fuzz::check(faults <= archive.size() + 10, "the number of faults is limited");
   return 0;
 }

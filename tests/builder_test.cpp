@@ -7,7 +7,7 @@ const std::string success = "Your new Ostrane.dat has been created and saved in:
 
 using builder_test = tool_test;
 
-TEST_F(builder_test, WritesTheIndexAndTheFilesInPlaceOfOldArchives) {
+TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
   const std::pair<const char*, std::string> names[] = {
       {" lead.txt", "LEAD.TXT"},
       {"abcdefghi.shp", "ABCDEFGHI.SHP"},
@@ -15,7 +15,7 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesInPlaceOfOldArchives) {
       {"game.pal", "GAME.PAL"},
       {"My file.shp", std::string("MY\0FILE.SHP", 11)},
       {"\xC3\xA9t\xC3\xA9", "\xC9T\xC9"}};
-  // The old archives, in whatever case, and what is left of a build are no entries and replaced.
+  // Old archives in any case and leftovers of a build do not become entries, and are replaced.
   file_map named = {{".hidden", "no entry"},
                     {".OSTRANE.DAT.new", "left"},
                     {"oStrane.dat", "old"},
@@ -46,7 +46,7 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
   const auto append_to_b = [&] { std::ofstream(b) << "longer"; };
   const auto type_no_drive = [] { user::type(Form5.Text1, "Q:\\"); };
   const auto make_lock_folder = [] { make_folder("C:\\work\\.OSTRANE.DAT.lock"); };
-  // Before the click, between the passes over the files, and the fault.
+  // The action before the click, the one after the files are measured, and the fault.
   const std::tuple<std::function<void()>, std::function<void()>, std::string> cases[] = {
       {remove_b, nothing, "C:\\work\\b.txt cannot be read: it is not there."},
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},

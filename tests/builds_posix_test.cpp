@@ -79,8 +79,8 @@ TEST_F(builds_test, FlushesTheArchiveThenItsFolder) {
   EXPECT_EQ(flushes, (texts{"flush_to_disk", "replace", "replace", "flush_folder"}));
 }
 
-// In half of the pairs each copy may be killed at any call, in an eighth the first one is at any
-// time, in a quarter nothing can be locked.
+// In half of the pairs each copy may be killed at any call. In an eighth the first copy is killed
+// at any time. In a quarter the file system has no locks.
 TEST_F(builds_test, StartedTogetherLeaveACompleteArchive) {
   std::mt19937 random(std::random_device{}());
   for (int pair = 0; pair < 2 * pairs && !HasFailure(); ++pair) {
@@ -113,10 +113,11 @@ TEST_F(builds_test, StoppedAtAnyCallLeavesACompleteArchive) {
   }
 }
 
-// Whatever happens to the temporary file, the old archive stays and the failure is reported.
+// If another program moves or replaces the temporary file, the old archive stays and the failure is
+// reported.
 TEST_F(builds_test, LosingTheTemporaryFileKeepsTheOldArchive) {
   const fs::path work = disk_path("C:\\work");
-  // What happens to it, and whether a file has its name in the end.
+  // The change, and whether a file has the name of the temporary one afterwards.
   const std::pair<std::function<void(const fs::path&)>, bool> faults[] = {
       {[](const fs::path& file) { fs::rename(file, disk_path("C:\\elsewhere")); }, false},
       {[&](const fs::path&) { fs::rename(work, disk_path("C:\\moved")); }, true},
@@ -180,7 +181,7 @@ TEST_F(builds_test, RefusesALinkAsLockFile) {
   EXPECT_FALSE(fs::exists(disk_path("C:\\made")));
 }
 
-// Another program puts its archive in place of the new one, before the change of case.
+// Another program replaces the new archive by its own, before the change of case.
 TEST_F(builds_test, DoesNotDeleteAnArchiveOfAnotherProgram) {
   restart_beside("Ostrane.dat");
   failing_calls watched;

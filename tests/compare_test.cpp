@@ -57,7 +57,7 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
   }
 }
 
-// Without rows no list is saved, but the message comes.
+// Without rows no list is saved, but the message is shown.
 TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
   restart("D:\\");
   write("D:\\many.txt", std::string(32769, '\n'));

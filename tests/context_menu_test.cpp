@@ -9,7 +9,7 @@ namespace {
 using forms_layer::answers;
 
 struct context_menu_test : icon_test {
-  // Shows the icons 4 to 6 of nine. Those of F2.SHP are fit to be drawn, refused and blank.
+  // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, refused and blank.
   static void show_second_series() {
     reset_drives();
     restart();
@@ -25,8 +25,8 @@ struct context_menu_test : icon_test {
     new_messages();
   }
 
-  // Opens a menu, picks an item of it and gives a name. Returns the items by whether they are
-  // enabled, the name that is proposed, the names of the files, and the messages.
+  // Opens a menu, picks an item and types a file name. Returns "+" or "-" for each enabled or
+  // disabled item, the proposed name, the names of the files, and the messages.
   static std::string pick(const std::function<void()>& open, std::size_t item, const char* typed,
                           std::size_t kind) {
     std::string seen;
@@ -57,7 +57,7 @@ void on_end_record() { user::open_menu(Form1.List1, 4); }
 void show_odd_icons() { click_row("F2.SHP"), user::click(Form1.Command6), new_messages(); }
 void on_refused() { show_odd_icons(), on_slot(1); }
 void on_blank() { show_odd_icons(), on_slot(3); }
-void behind_text() { click_row("N.TXT"), on_slot(1); }
+void under_text() { click_row("N.TXT"), on_slot(1); }
 void on_swatch() { click_row("GAME.PAL"), on_slot(1); }
 void change() { write("C:\\ostrane.dat", read("C:\\ostrane.dat") + " "); }
 void after_change() { change(), on_slot(1); }
@@ -82,7 +82,7 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
     const char* typed;
     std::size_t kind;
     std::string seen;
-    std::string held = {};  // by a file
+    std::string held = {};  // bytes in one of the files
   } cases[] = {
       {on_second, 0, "", 0, "+++ copied 4"},
       {on_second, 1, "", 0, "+++ F1-0005.png"},
@@ -106,7 +106,7 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
       {on_blank, 0, "", 0, ""},
       {on_row, 0, "note", 0, "+ N.TXT note", "note"},
       {on_end_record, 0, "", 0, ""},
-      {behind_text, 0, "", 0, ""},
+      {under_text, 0, "", 0, ""},
       {on_swatch, 0, "", 0, ""},
       {after_change, 1, "p.png", 0, "+++ F1-0004.png" + changed + "picture was not saved.>"},
       {on_row_after_change, 0, "note", 0, "+ N.TXT" + changed + "entry was not extracted.>"},

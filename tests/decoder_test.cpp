@@ -38,16 +38,16 @@ TEST_F(decoder_test, PaintsThePixelsOfTheStream) {
        ". 42 42 42 . . | . . . 16 17 . | "},
       // One-pixel operations, the first and the last index.
       {row_of_4, stream({2, 0, 3, 0, 2, 9, 3, 255, 0}), "0 0 9 255 | "},
-      // Skips of nothing and of 255 to the right.
+      // Skips of 0 and of 255 pixels.
       {row_of_4, stream({1, 0, 2, 5, 0}), "5 . . . | "},
       {row_of_4, stream({1, 255, 2, 5, 0}), ". . . . | "},
-      // Runs that meet, and a row that ends ahead of its second run.
+      // Runs that meet, and a row that ends before its second run.
       {row_of_4, stream({4, 1, 4, 2, 0}), "1 1 2 2 | "},
       {row_of_4, stream({8, 1, 0, 2, 2, 0}), "1 1 1 1 | "},
       // Margins stay unset; a run may paint past the data box.
       {margins, stream({4, 7, 0}), ". . . . | . 7 7 . | . . . . | "},
       {margins, stream({254, 7, 0}), ". . . . | . 7 7 7 | . . . . | "},
-      // What lies beyond the picture is lost, on the left and above too.
+      // Pixels outside the picture are dropped, on the left and above too.
       {row_of_4, stream({13, 1, 2, 3, 4, 5, 6, 0}), "1 2 3 4 | "},
       {{1, 2, -2, -1, 2, 1}, stream({2, 9, 0, 8, 5, 0, 7, 6, 6, 6, 0}), "5 5 . | 6 . . | "},
       {{0, 3, INT32_MIN, 0, 3, 0}, stream({3, 5, 0}), ". . . . | "},

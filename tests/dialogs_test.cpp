@@ -99,7 +99,8 @@ TEST_F(dialogs_test, MakesAndOpensANewFolder) {
   }
 }
 
-// By drive C:; if that does not answer either, by its last folder. One message in both cases.
+// The dialog goes to drive C:. If that does not answer either, it goes back to its last folder.
+// Both cases show one message.
 TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
   for (const bool c_answers : {true, false}) {
     with_each([&](auto& form, auto* field, auto&...) {

@@ -69,17 +69,16 @@ TEST_F(entry_selection_test, ShowsTheBytesOfATextInsideTheFile) {
   constexpr std::int32_t end = zeros + (17 << 20);
   std::string long_text = some_bytes(40000);
   const std::vector<std::pair<std::int32_t, std::string>> records = {
-      {data, "A.TXT"},           {data + 5, "LONG.TXT"},
-      {zeros, "BIG.TXT"},        {end - 3, "LAST.TXT"},
-      {end + 500, "BEHIND.TXT"}, {-9, "BEFORE.TXT"},
-      {INT32_MAX, "FAR.TXT"},    {INT32_MIN, ""}};
+      {data, "A.TXT"},        {data + 5, "LONG.TXT"},   {zeros, "BIG.TXT"},
+      {end - 3, "LAST.TXT"},  {end + 500, "AFTER.TXT"}, {-9, "BEFORE.TXT"},
+      {INT32_MAX, "FAR.TXT"}, {INT32_MIN, ""}};
   write("C:\\ostrane.dat", index_bytes(8, records) + std::string("a\0b\r\n", 5) + long_text);
   fs::resize_file(disk_path("C:\\ostrane.dat"), end);
   open_archive();
   std::replace(long_text.begin(), long_text.end(), '\0', ' ');
   const std::pair<const char*, std::string> cases[] = {
       {"LONG.TXT", long_text}, {"A.TXT", "a b\r\n"}, {"BIG.TXT", std::string(1 << 21, ' ')},
-      {"LAST.TXT", "   "},     {"BEHIND.TXT", ""},   {"BEFORE.TXT", ""},
+      {"LAST.TXT", "   "},     {"AFTER.TXT", ""},    {"BEFORE.TXT", ""},
       {"FAR.TXT", ""},
   };
   for (const auto& [name, text] : cases) {

@@ -26,7 +26,7 @@ auto record(std::string_view name, const auto& call) {
 #endif
   using result = decltype(call());
   if (fault.kind == call_fault::writes_nothing) return name == "write_some" ? result{} : call();
-  // A failing close or remove takes effect all the same, and a full disk takes part of a write.
+  // A failing close or remove still takes effect, and a failing write writes a part.
   const bool fails_late = name == "close_file" || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {
     const result done = call();

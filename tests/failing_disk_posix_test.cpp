@@ -17,12 +17,12 @@ struct file_job {
   texts reports;  // a failure message contains one of these
   std::function<void()> open_dialog;
   std::function<void()> job;
-  bool silent = false;  // may ignore failures
-  bool doubts = false;  // a rename that happened may be reported as failed
+  bool silent = false;                // may ignore failures
+  bool may_misreport_rename = false;  // a rename that happened may be reported as failed
 };
 
 // The files by their upper-case paths, and the messages.
-struct outcome {
+struct job_result {
   file_map files;
   texts messages;
 };
@@ -60,9 +60,9 @@ struct failing_disk_test : tool_test {
     job.open_dialog();
   }
   // No two paths differ in case only.
-  static outcome outcome_of(const std::function<void()>& job) {
+  static job_result result_of(const std::function<void()>& job) {
     job();
-    outcome all = {{}, new_messages()};
+    job_result all = {{}, new_messages()};
     for (const auto& found : fs::recursive_directory_iterator(root)) {
       if (!found.is_regular_file()) continue;
       const std::string name = files::upper_case(found.path().lexically_relative(root).string());
@@ -70,8 +70,8 @@ struct failing_disk_test : tool_test {
     }
     return all;
   }
-  static void expect_complete_files(const outcome& after, const outcome& before,
-                                    const outcome& done) {
+  static void expect_complete_files(const job_result& after, const job_result& before,
+                                    const job_result& done) {
     for (const auto& file : after.files) {
       const auto complete =
           std::ranges::count(before.files, file) + std::ranges::count(done.files, file);
@@ -80,7 +80,7 @@ struct failing_disk_test : tool_test {
     for (const auto& [name, bytes] : before.files) EXPECT_TRUE(after.files.contains(name)) << name;
   }
   static void check(const file_job& tried, const std::string& call, const std::string& words,
-                    bool is_success, const outcome& after, const outcome& done) {
+                    bool is_success, const job_result& after, const job_result& done) {
     EXPECT_LE(after.messages.size(), tried.reports.size() > 1 ? 2U : 1U);
     std::string text;
     for (const std::string& message : after.messages) text += message + "\n";
@@ -100,7 +100,7 @@ struct failing_disk_test : tool_test {
     EXPECT_TRUE(Form1.Enabled() || Form6.Visible());
   }
 
-  // Shows icons, and says what is picked of a menu and which file it goes to.
+  // Shows icons, and answers with this menu item and this file to save.
   static std::function<void()> answering(forms_layer::menu_item& item, const char* name) {
     return [&item, name] {
       click_row("I.SHP");
@@ -149,14 +149,14 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
   int tried = 0;
   for (const file_job& job : jobs) {
     prepare(job);
-    const outcome before = outcome_of([] {});
-    const outcome done = outcome_of(job.job);
+    const job_result before = result_of([] {});
+    const job_result done = result_of(job.job);
     for (const auto& [fault, words] : faults) {
       for (int at = 0;; ++at, ++tried) {
         prepare(job);
-        outcome after;
+        job_result after;
         failing_calls failing(at, fault);
-        after = outcome_of(job.job);
+        after = result_of(job.job);
         if (!failing.happened()) break;
         const std::string& call = failing.calls[static_cast<std::size_t>(at)];
         SCOPED_TRACE(testing::Message()
@@ -173,7 +173,7 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
         });
         expect_complete_files(after, before, done);
         const bool is_success = fault.kind == call_fault::interrupted ||
-                                (lies && call == "replace" && !job.doubts) ||
+                                (lies && call == "replace" && !job.may_misreport_rename) ||
                                 (fault.kind == call_fault::writes_nothing && call != "write_some");
         check(job, call, words, is_success, after, done);
       }
@@ -183,8 +183,8 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
   EXPECT_GT(tried, 1000);
 }
 
-// Missing folders, folders without permission, and other things in place of all files. The alarm
-// ends a command that waits for the other end of a pipe.
+// Missing folders, folders without permission, and folders, pipes and links instead of files. The
+// alarm ends a command that waits for the other end of a pipe.
 TEST_F(failing_disk_test, EveryCommandReportsUnusableFiles) {
   const char* const folders[] = {"c", "d/work", "d/out", "d/lists"};
   using action = std::function<void(const fs::path&)>;
@@ -224,20 +224,20 @@ TEST_F(failing_disk_test, EveryCommandReportsUnusableFiles) {
   });
 }
 
-// Allocations fail in turn, of a build and of one entry all, else the later ones by a sample; alone
-// or with all that follow. The command ends with a message.
+// Each allocation fails in turn, alone or with all later ones. Jobs with many allocations test a
+// sample of them. The command ends with a message.
 TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
   for (int number = 0; number < 2 * static_cast<int>(jobs.size()); ++number) {
     const file_job& job = jobs[static_cast<std::size_t>(number / 2)];
     const bool lasting = number % 2 != 0;
     prepare(job);
-    const outcome before = outcome_of([] {});
-    const outcome done = outcome_of(job.job);
-    for (long at = 1;; at += number == 0 || job.doubts ? 1 : 1 + at / 20) {
+    const job_result before = result_of([] {});
+    const job_result done = result_of(job.job);
+    for (long at = 1;; at += number == 0 || job.may_misreport_rename ? 1 : 1 + at / 20) {
       prepare(job);
       SCOPED_TRACE(testing::Message() << number << " " << at);
       bool happened = false;
-      const outcome after = outcome_of([&] {
+      const job_result after = result_of([&] {
         const failing_memory failing(at, lasting);
         job.job();
         happened = failing.happened;
@@ -255,7 +255,7 @@ TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
   }
 }
 
-// In a process of its own, as the limit stays.
+// In a separate process, as the limit cannot be raised again.
 TEST_F(failing_disk_test, FileSizeLimitLeavesNoPartialFile) {
   run_in_process([&] {
     write("D:\\ostrane.dat", "the old one");

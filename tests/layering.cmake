@@ -20,7 +20,7 @@ set(handlers ${archive} archive lists)
 # Of handlers only start_up.h is included, of pictures only the exporter.
 set(desktop files forms_layer handlers pictures)
 set(pictures files data)
-# The program for scripts uses the data side and the pictures.
+# The command-line program uses the data side and the pictures.
 set(command ${pictures} pictures)
 set(version "state/version.h")
 

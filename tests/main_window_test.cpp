@@ -27,7 +27,8 @@ TEST_F(main_window_test, StartsAndEndsWithAndWithoutDriveC) {
   }
 }
 
-// Each axis has a limit of its own; from one twip above it on the controls follow the window.
+// Each axis has a limit of its own; from one twip above it the controls are resized with the
+// window.
 TEST_F(main_window_test, LaysOutItsControlsDownToAMinimumSize) {
   const std::tuple<std::int32_t, std::int32_t, std::string> cases[] = {
       {9330 + 225, 6690 + 705, "7455x6570 1695x5970 7155x5595 "},

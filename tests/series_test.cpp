@@ -68,7 +68,7 @@ TEST_F(series_test, PlacesTheSlots) {
   }
 }
 
-// By the four comparisons of the head, and by the limit of slot sizes.
+// The four comparisons of the head, and the limit of slot sizes.
 TEST_F(series_test, RefusesIcons) {
   const icon_head good[] = {{4, 5, 5, 4, 5, 4},      {4, 5, 6, 0, 9, 0},     {4, 5, 0, 5, 0, 9},
                             {4, 5, 3, 3, 0, 0},      {4, 5, -9, -9, -1, -1}, {2181, 0, 0, 0, 0, 0},
@@ -132,7 +132,7 @@ TEST_F(series_test, IconOutsideTheFileEndsTheSeries) {
   }
 }
 
-// And reads the shown entry, not the one that was clicked after it.
+// The next series is of the shown entry, not of one that was clicked after it.
 TEST_F(series_test, NextSeriesRequiresTheSameArchive) {
   const std::vector<entry> entries = {
       palette_entry(), {"A.TXT", ""}, {"F.SHP", shp_file(plain_icons(3, 30, 30))}};

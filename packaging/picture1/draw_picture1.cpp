@@ -9,7 +9,7 @@ namespace {
 
 constexpr int columns = 210;
 constexpr int rows = 128;
-constexpr int samples_a_side = 3;
+constexpr int samples_per_side = 3;
 
 struct vec {
   double x, y, z;
@@ -49,7 +49,7 @@ double crate(vec p) {
 }
 
 struct card {
-  vec place;
+  vec position;
   double turn, tilt, size;
 };
 
@@ -58,7 +58,7 @@ constexpr std::array<card, 4> cards = {{{{-0.75, 1.35, 0.1}, 0.7, 0.25, 0.34},
                                         {{0.95, 2.25, 0.2}, 0.9, -0.5, 0.32},
                                         {{1.75, 2.75, 0.1}, 0.4, 0.4, 0.28}}};
 
-vec in_card(const card& c, vec p) { return tilted(turned(p - c.place, c.turn), c.tilt); }
+vec in_card(const card& c, vec p) { return tilted(turned(p - c.position, c.turn), c.tilt); }
 
 struct hit {
   double distance;
@@ -124,12 +124,12 @@ double pixel(int column, int row) {
   const vec up = {ahead.y * right.z - ahead.z * right.y, ahead.z * right.x - ahead.x * right.z,
                   ahead.x * right.y - ahead.y * right.x};
   double sum = 0;
-  for (int i = 0; i < samples_a_side * samples_a_side; ++i) {
-    const double x = column + (i % samples_a_side + 0.5) / samples_a_side - columns / 2.0;
-    const double y = rows / 2.0 - row - (i / samples_a_side + 0.5) / samples_a_side;
+  for (int i = 0; i < samples_per_side * samples_per_side; ++i) {
+    const double x = column + (i % samples_per_side + 0.5) / samples_per_side - columns / 2.0;
+    const double y = rows / 2.0 - row - (i / samples_per_side + 0.5) / samples_per_side;
     sum += shade(eye, unit(ahead * 175 + right * x + up * y));
   }
-  return sum / (samples_a_side * samples_a_side);
+  return sum / (samples_per_side * samples_per_side);
 }
 
 }  // namespace

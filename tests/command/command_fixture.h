@@ -10,7 +10,7 @@ namespace ostrane {
 
 // The program in a folder of its own, which is the current one.
 struct command_test : testing::Test {
-  struct outcome {
+  struct result {
     int status;
     std::string output, errors;
   };
@@ -26,7 +26,7 @@ struct command_test : testing::Test {
     std::istringstream words(command_line);
     return {std::istream_iterator<std::string>(words), {}};
   }
-  static outcome run(const std::string& command_line) {
+  static result run(const std::string& command_line) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int status = command::run_command(arguments_of(command_line));

@@ -49,7 +49,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"list a.dat", 0, "Z\xC3\x84.DAT\n"},
   };
   for (const auto& [command_line, status, printed] : cases) {
-    const outcome seen = run(command_line);
+    const result seen = run(command_line);
     SCOPED_TRACE(command_line);
     EXPECT_EQ(seen.status, status);
     const bool fails = printed.starts_with(error);

@@ -95,7 +95,7 @@ TEST_F(pictures_test, ChangesAndCountsInexactColours) {
   write_bytes("p.png",
               png_with(PNG_FORMAT_RGBA,
                        {0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200, 9, 9, 9, 100}, 4, 1));
-  const outcome seen = run("import p.png -o p.shp --palette GAME.PAL");
+  const result seen = run("import p.png -o p.shp --palette GAME.PAL");
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(
       seen.errors,
@@ -121,7 +121,7 @@ TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
   write_bytes("p.png", png_with(PNG_FORMAT_GRAY, {1, 2}, 2, 1));
   write_bytes("deep.json", std::string(100000, '['));
   for (const char* bad : {"cut.png", "huge.png", "in/up.json", "far.json", "deep.json", "no.png"}) {
-    const outcome seen = run("import " + std::string(bad) + " -o new.shp --palette GAME.PAL");
+    const result seen = run("import " + std::string(bad) + " -o new.shp --palette GAME.PAL");
     EXPECT_EQ(seen.status, 2) << bad;
     EXPECT_NE(seen.errors.find("ostrane-dat: "), std::string::npos) << bad;
     EXPECT_FALSE(fs::exists("new.shp")) << bad;

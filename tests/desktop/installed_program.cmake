@@ -1,5 +1,5 @@
-# Installs what BUILD holds into FOLDER and calls the program through the link in bin/, as a shell
-# does. There is no display. It must give VERSION, and look for iconlist.csv beside its real file.
+# Installs the build BUILD into FOLDER and runs the program through the link in bin/, as a shell does.
+# There is no display. The program must print VERSION and use the iconlist.csv in its real folder.
 set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL ANY)
 file(REMOVE_RECURSE ${FOLDER})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${FOLDER} OUTPUT_QUIET)
@@ -14,25 +14,25 @@ get_filename_component(program_folder ${program_folder} DIRECTORY)
 function(expect option wanted)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
                           QT_QPA_PLATFORM=none ${FOLDER}/bin/ostrane-dat-tool ${option}
-                  OUTPUT_VARIABLE told)
-  string(FIND "${told}" "${wanted}" at)
+                  OUTPUT_VARIABLE output)
+  string(FIND "${output}" "${wanted}" at)
   if(at EQUAL -1)
-    message(SEND_ERROR "${option} does not tell \"${wanted}\", but:\n${told}")
+    message(SEND_ERROR "${option} does not print \"${wanted}\", but:\n${output}")
   endif()
 endfunction()
 
-function(expect_complaint argument)
+function(expect_error argument)
   set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL NONE)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY QT_QPA_PLATFORM=none
                           ${FOLDER}/bin/ostrane-dat-tool ${argument}
-                  RESULT_VARIABLE status ERROR_VARIABLE complaint)
-  if(NOT status EQUAL 2 OR NOT complaint MATCHES "^ostrane-dat-tool: [^\n]+\n$")
-    message(SEND_ERROR "${argument}: status ${status}, \"${complaint}\"")
+                  RESULT_VARIABLE status ERROR_VARIABLE error)
+  if(NOT status EQUAL 2 OR NOT error MATCHES "^ostrane-dat-tool: [^\n]+\n$")
+    message(SEND_ERROR "${argument}: status ${status}, \"${error}\"")
   endif()
 endfunction()
 
-expect_complaint(--nonsense)
-expect_complaint(ostrane.dat)
+expect_error(--nonsense)
+expect_error(ostrane.dat)
 expect(--version "Ostrane.dat-tool ${VERSION}\n")
 expect(--help "  ${program_folder}/iconlist.csv\n")
 
@@ -40,7 +40,7 @@ function(expect_in file wanted)
   file(READ ${file} text)
   string(FIND "${text}" "${wanted}" at)
   if(at EQUAL -1)
-    message(SEND_ERROR "${file} does not hold \"${wanted}\"")
+    message(SEND_ERROR "${file} does not contain \"${wanted}\"")
   endif()
 endfunction()
 
@@ -48,7 +48,7 @@ expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "\"${VERSION}\"")
 expect_in(${FOLDER}/share/man/man1/ostrane-dat-tool.1 "${program_folder}/iconlist.csv")
 expect_in(${FOLDER}/share/doc/ostrane-dat-tool/CHANGELOG.md "\n## ${VERSION} (")
 
-# The program for scripts finds the same descriptions.
+# The command-line program finds the same descriptions.
 if(EXISTS ${FOLDER}/bin/ostrane-dat)
   execute_process(COMMAND ${FOLDER}/bin/ostrane-dat list --long
                           ${FOLDER}/share/doc/ostrane-dat-tool/examples/ostrane.dat

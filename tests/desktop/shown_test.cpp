@@ -26,7 +26,8 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) 
     write(change);
     EXPECT_NE(picture_of(window), before) << what;
     write(undo);
-    const bool as_before = what == "hidden" || picture_of(window) == before;  // but for the focus
+    const bool as_before =
+        what == "hidden" || picture_of(window) == before;  // apart from the focus
     EXPECT_TRUE(as_before) << what << " back";
   };
   const auto property = [&](const char* what, auto& written,
@@ -117,7 +118,7 @@ TEST_F(Desktop, ALackOfMemoryDropsOnlyTheEvent) {
   EXPECT_FALSE(QApplication::sendEvent(&receiver, &event));
 }
 
-// What the user does meanwhile runs after the handler.
+// Input during a handler is handled after it.
 TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
   using ostrane::Form3;
   ostrane::reset_forms();

@@ -156,13 +156,13 @@ TEST_F(Input, LettersTypedDuringAHandlerGoOnWithTheWord) {
 TEST_F(Input, KeysReachEveryPictureOnShow) {
   int opened = 0;
   form.pictures.DblClick = [&](int i) { opened = i; };
-  const QPoint places[] = {{0, 0}, {300, 900}, {600, 900}, {900, 900}, {300, 1200}, {840, 1200}};
+  const QPoint positions[] = {{0, 0}, {300, 900}, {600, 900}, {900, 900}, {300, 1200}, {840, 1200}};
   for (int i = 1; i <= 5; ++i) {
-    form.pictures(i).Move(places[i].x(), places[i].y());
+    form.pictures(i).Move(positions[i].x(), positions[i].y());
     form.pictures(i).Visible = i != 2;
   }
   QCoreApplication::processEvents();
-  const auto has_cursor = [&] {  // round the first picture
+  const auto has_cursor = [&] {  // around the first picture
     return picture_of(*canvas).pixelColor(19, 59) == canvas->palette().highlight().color();
   };
   canvas->setFocus();
@@ -182,7 +182,8 @@ TEST_F(Input, KeysReachEveryPictureOnShow) {
   EXPECT_FALSE(has_cursor());
 }
 
-// A menu opens on what is under the mouse, or by key on what is selected. No tick comes meanwhile.
+// A menu opens for the item under the mouse, or by key for the selected one. No timer tick runs
+// while it is open.
 TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   for (int i = 0; i < 3; ++i) form.list.AddItem("row");
   form.list.ContextMenu = form.pictures.ContextMenu = &form.context;
