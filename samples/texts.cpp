@@ -18,7 +18,7 @@ LOST.SHP      the second icon is outside the file
 ODDITY.SHP    a good icon, a blank one, a refused one, a good one
 PLANET.SHP    32 frames of one turn: press "Start motion"
 ROCKET.SHP    16 frames of a rising rocket
-TILES.SHP     blocks of land, each with margins of its own
+TILES.SHP     blocks of land, each with its own margins
 VISTA.SHP     one lake at dawn, noon, dusk and night
 WORLDS.SHP    planets and moons
 

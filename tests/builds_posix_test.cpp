@@ -11,7 +11,7 @@ namespace ostrane {
 
 enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
-// Copies of the tool build in one folder, each in a process of its own.
+// Copies of the tool build in one folder, each in a separate process.
 struct builds_test : tool_test {
   const file_map sources = {{"a.txt", some_bytes(150000)}, {"b.txt", ""}, {"c.txt", "c"}};
   const std::string archive =
@@ -138,8 +138,8 @@ TEST_F(builds_test, LosingTheTemporaryFileKeepsTheOldArchive) {
     };
     build_in();
     EXPECT_EQ(new_messages(),
-              texts{"C:\\work\\OSTRANE.DAT cannot be written: another program has moved what was "
-                    "written. No new archive was made."});
+              texts{"C:\\work\\OSTRANE.DAT cannot be written: another program has moved the new "
+                    "file. No new archive was made."});
     if (fs::exists(disk_path("C:\\moved"))) fs::rename(disk_path("C:\\moved"), work);
     EXPECT_EQ(read("C:\\work\\ostrane.dat"), "the old one");
     EXPECT_EQ(fs::exists(temporary), is_there) << &inject - &faults[0].first;

@@ -63,7 +63,7 @@ void change() { write("C:\\ostrane.dat", read("C:\\ostrane.dat") + " "); }
 void after_change() { change(), on_slot(1); }
 void on_row_after_change() { change(), on_row(); }
 void on_row_during_changes() {
-  write("D:\\out\\note", "old");
+  write("D:\\out\\text", "old");
   failing_calls watched;
   watched.before_call = [](const std::string& call) {
     if (call == "read_some") change();
@@ -104,14 +104,14 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
        "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 5 was "
        "skipped: its box ends outside its picture>"},
       {on_blank, 0, "", 0, ""},
-      {on_row, 0, "note", 0, "+ N.TXT note", "note"},
+      {on_row, 0, "text", 0, "+ N.TXT text", "text"},
       {on_end_record, 0, "", 0, ""},
       {under_text, 0, "", 0, ""},
       {on_swatch, 0, "", 0, ""},
       {after_change, 1, "p.png", 0, "+++ F1-0004.png" + changed + "picture was not saved.>"},
-      {on_row_after_change, 0, "note", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
-      {on_row_during_changes, 0, "note", 0,
-       "+ N.TXT note <The archive was written to during the extraction. Extract it again. The "
+      {on_row_after_change, 0, "text", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
+      {on_row_during_changes, 0, "text", 0,
+       "+ N.TXT text <The archive was written to during the extraction. Extract it again. The "
        "entry was not extracted.>",
        "old"},
       {without_archive, 0, "", 0, "+-- copied 3"},

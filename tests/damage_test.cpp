@@ -29,7 +29,7 @@ struct damage_test : icon_test {
   const std::string icons =
       shp_file({plain_icon(9, 5, 7), refused_icon(4, 4), blank_icon(3, 3), plain_icon(2, 2, 1)});
   const std::string whole =
-      archive_bytes({{"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}});
+      archive_bytes({{"I.SHP", icons}, {"N.TXT", "text"}, {"GAME.PAL", std::string(40, 'p')}});
 };
 
 // A truncated index is not shown, a truncated entry is not extracted and leaves an existing file.
@@ -41,7 +41,7 @@ TEST_F(damage_test, ExtractsOnlyTheCompleteEntriesOfATruncatedArchive) {
     ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
     ASSERT_EQ(Form1.List1.ListCount(), length < 4 + 17 * 4 ? 0 : 4);
     file_map complete_entries = {
-        {"I.SHP", icons}, {"N.TXT", "note"}, {"GAME.PAL", std::string(40, 'p')}};
+        {"I.SHP", icons}, {"N.TXT", "text"}, {"GAME.PAL", std::string(40, 'p')}};
     if (length < whole.size() - 44) complete_entries.erase("I.SHP");
     if (length < whole.size() - 40) complete_entries.erase("N.TXT");
     if (length < whole.size()) complete_entries.erase("GAME.PAL");
@@ -69,7 +69,7 @@ TEST_F(damage_test, LimitsTheMessagesAboutBadIcons) {
   constexpr std::size_t many = 5001;
   shp_icon huge = blank_icon(2, 2);
   huge.head.no_of_rows = 32767;
-  // The icon, what is added to the positions of the icons, and the number of messages.
+  // The icon, the number added to the positions of the icons, and the number of messages.
   const std::tuple<shp_icon, int, std::size_t> cases[] = {
       {plain_icon(1, 1, 1), 0, 1},       {refused_icon(1, 1), 0, 21},          {huge, 0, 2},
       {plain_icon(1, 1, 1), 1 << 30, 2}, {plain_icon(1, 1, 1), -(1 << 30), 2},

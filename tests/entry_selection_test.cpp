@@ -14,7 +14,7 @@ using entry_selection_test = tool_test;
 // The name, what a click and a double click show, and the number of messages about an unknown kind.
 TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
   const std::vector<entry> entries = {
-      {" A.ShP ", dots(2)},      {"b.shp", dots(3)},       palette_entry(),  {"N.TXT", "note"},
+      {" A.ShP ", dots(2)},      {"b.shp", dots(3)},       palette_entry(),  {"N.TXT", "text"},
       {" 000DATUP.000", "data"}, {"000datup.000", "data"}, {"SHP", "no dot"}};
   open_archive(entries);
   const std::tuple<const char*, const char*, std::size_t> cases[] = {

@@ -35,7 +35,7 @@ inline shp_icon refused_icon(int columns, int rows) {
   return icon;
 }
 
-// A palette in which the blue of a colour is its index.
+// A palette in which the blue component of each colour is its index.
 inline entry palette_entry() {
   std::string colours(1024, '\0');
   for (std::size_t i = 0; i < 256; ++i) colours[4 * i] = static_cast<char>(i);
@@ -45,7 +45,7 @@ inline entry palette_entry() {
 struct icon_test : tool_test {
   // Opens an archive with the icon files and shows the first one.
   static void show(const std::vector<std::vector<shp_icon>>& files) {
-    std::vector<entry> entries = {palette_entry(), {"N.TXT", "note"}};
+    std::vector<entry> entries = {palette_entry(), {"N.TXT", "text"}};
     for (const auto& file : files) {
       const std::string number = std::to_string(entries.size() - 1);
       entries.push_back({"F" + number + ".SHP", shp_file(file)});

@@ -70,7 +70,7 @@ TEST_F(index_test, DiscardsADamagedIndex) {
 // The old index does not fit a changed archive.
 TEST_F(index_test, RefusesToReadAChangedArchive) {
   const std::string icons = shp_file(plain_icons(3, 400, 400));
-  open_archive({{"A.SHP", icons}, {"N.TXT", "note"}});
+  open_archive({{"A.SHP", icons}, {"N.TXT", "text"}});
   write("C:\\ostrane.dat", archive_bytes({{"A.SHP", icons}, {"N.TXT", "tone"}}));
   for (const char* name : {"A.SHP", "N.TXT"}) {
     click_row(name);

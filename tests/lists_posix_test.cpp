@@ -64,7 +64,7 @@ TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
   }
 }
 
-// A new file is its owner's alone until it has the permissions of the old one. A group that it
+// Only the owner can open a new file until it has the permissions of the old one. A group that it
 // cannot have gets those of others. Every user can lock.
 TEST_F(lists_test, NewFileIsReadableForNoMoreUsersThanTheOldOne) {
   const auto mode_of = [](const char* name) { return fs::status(disk_path(name)).permissions(); };

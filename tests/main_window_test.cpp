@@ -27,7 +27,7 @@ TEST_F(main_window_test, StartsAndEndsWithAndWithoutDriveC) {
   }
 }
 
-// Each axis has a limit of its own; from one twip above it the controls are resized with the
+// Each axis has its own limit; from one twip above it the controls are resized with the
 // window.
 TEST_F(main_window_test, LaysOutItsControlsDownToAMinimumSize) {
   const std::tuple<std::int32_t, std::int32_t, std::string> cases[] = {

@@ -27,7 +27,7 @@ class recording_screen : public forms_layer::screen {
     if (&shown != &Form3) return;
     log.push_back(visible_windows() + Form3.Caption() + "|" + Form3.message.Caption());
   }
-  // A change of the range alone is no move.
+  // A change of the range only is not a move.
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
     const auto* bar = dynamic_cast<forms_layer::progress_bar*>(&changed);
     if (what != forms_layer::property_id::range || bar->Value() == last_[bar]) return;

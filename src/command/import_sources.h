@@ -9,7 +9,7 @@
 
 namespace ostrane::command {
 
-// An icon to make: from a PNG, or for an icon that is not drawable from a known head alone.
+// An icon to make: from a PNG, or only from a known head if the icon is not drawable.
 struct planned_icon {
   std::optional<files::file_path> png;
   std::optional<known_icon> known;

@@ -11,7 +11,7 @@ namespace files {
 namespace {
 
 constexpr std::size_t buffer_size = 262144;
-// A block of this size costs less in a system call of its own than in a copy through a buffer.
+// For a block of this size a system call costs less than a copy through the buffer.
 constexpr std::size_t min_direct_block = 4096;
 
 }  // namespace

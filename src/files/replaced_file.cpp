@@ -90,7 +90,7 @@ void replaced_file::require_own_file() const {
   if (found.error < 0) file_calls::fail(target_.shown, cannot_write, found.error);
   if (found.is_same) return;
   throw file_error{file_error_number::device_error,
-                   target_.shown + cannot_write + "another program has moved what was written."};
+                   target_.shown + cannot_write + "another program has moved the new file."};
 }
 
 // A network file system can report a failure although it renamed the file, so the result is

@@ -8,7 +8,7 @@
 namespace files {
 
 // A file that is written completely or not at all, for jobs that write many files. A new file is
-// created under its own name and removed if it is not kept. An old file or link is replaced
+// created under its own name and removed unless keep() is called. An old file or link is replaced
 // atomically by the complete new file. Unlike replaced_file it takes no lock and does not flush to
 // the disk.
 class whole_file {

@@ -37,7 +37,7 @@ void type(text_box& field, const std::string& text);
 
 // Moves the focus to a control, or to none if null. The control that had it gets LostFocus.
 void focus(control* to);
-// Nothing has the focus then. For begin_process.
+// Takes the focus from the control that has it, without LostFocus. For begin_process.
 void clear_focus();
 
 // A row that does not exist is ignored.

@@ -8,7 +8,7 @@
 
 namespace ostrane {
 
-// The program in a folder of its own, which is the current one.
+// The program in a temporary folder, which is the current folder.
 struct command_test : testing::Test {
   struct result {
     int status;
