@@ -35,7 +35,7 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
 }
 
 // An entry overwrites a file from its first byte on and does not truncate it.
-TEST_F(extraction_test, WritesOverFilesWithoutEmptyingThem) {
+TEST_F(extraction_test, OverwritesFilesWithoutTruncatingThem) {
   write("D:\\long.txt", "0123456789");
   write("D:\\EMPTY", "kept");
   open_archive({{"LONG.TXT", "abc"}, {"EMPTY", ""}, {"Twice", "first"}, {"TWICE", "2nd"}});

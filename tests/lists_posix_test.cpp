@@ -66,7 +66,7 @@ TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
 
 // Only the owner can open a new file until it has the permissions of the old one. A group that it
 // cannot have gets those of others. Every user can lock.
-TEST_F(lists_test, NewFileIsReadableForNoMoreUsersThanTheOldOne) {
+TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {
   const auto mode_of = [](const char* name) { return fs::status(disk_path(name)).permissions(); };
   const auto mode_after_replacing = [&](mode_t mask) {
     umask(mask);

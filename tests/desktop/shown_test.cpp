@@ -16,7 +16,7 @@
 
 namespace user = forms_layer::user;
 
-TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) {
+TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
   form.field.Text = "10";
   form.bar.Value = 20;
   QWidget& window = show(form);
@@ -75,7 +75,7 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControlUntilItIsWrittenBack) 
   EXPECT_FALSE(window.findChild<QMenuBar*>()->actions()[0]->menu()->actions()[2]->isEnabled());
 }
 
-TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
+TEST_F(Desktop, OnlyTheChangedPartOfAPictureIsPainted) {
   QWidget* canvas = canvas_of(show(form), form);
   paint_watch watch(canvas);
   const std::tuple<const char*, std::function<void()>, QRegion> cases[] = {
@@ -94,7 +94,7 @@ TEST_F(Desktop, WhatChangedOfAPictureIsPaintedAndNoMore) {
   }
 }
 
-TEST_F(Desktop, ATextOfManyLinesIsInFewBlocksAndScrollsByLine) {
+TEST_F(Desktop, ATextOfManyLinesHasFewBlocksAndScrollsByLine) {
   std::string text;
   for (int line = 0; line < 50000; ++line) text += std::to_string(line) + "\r\n";
   form.page.Text = text;
@@ -110,7 +110,7 @@ TEST_F(Desktop, ATextOfManyLinesIsInFewBlocksAndScrollsByLine) {
   }
 }
 
-TEST_F(Desktop, ALackOfMemoryDropsOnlyTheEvent) {
+TEST_F(Desktop, OutOfMemoryDropsOnlyTheEvent) {
   struct failing : QObject {
     bool event(QEvent*) override { throw std::bad_alloc(); }
   } receiver;
@@ -119,7 +119,7 @@ TEST_F(Desktop, ALackOfMemoryDropsOnlyTheEvent) {
 }
 
 // Input during a handler is handled after it.
-TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
+TEST_F(Desktop, AHandlerShowsFramesAndLateWindows) {
   using ostrane::Form3;
   ostrane::reset_forms();
   std::string log;
@@ -160,7 +160,7 @@ TEST_F(Desktop, AHandlerBringsFramesAndLateWindowsToTheScreen) {
   EXPECT_FALSE(screen.window_of(Form3)->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
 }
 
-TEST_F(Desktop, AMessageBoxStandsOverAllThatWasWrittenAndNothingElseRunsMeanwhile) {
+TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
   ostrane::reset_forms();
   QWidget& window = show(form);
   std::string log;
@@ -229,7 +229,7 @@ static void expect_picture(QWidget& window, const QString& name) {
   if (different > 20) seen.save(QStringLiteral("different_") + name);
 }
 
-TEST_F(Desktop, TheToolsWindowsLookAsTheyDid) {
+TEST_F(Desktop, FormsMatchTheGoldenPictures) {
   using namespace ostrane;
   ostrane::picture drawn(40, 30);
   for (int x = 0; x < 30; ++x) drawn.set(x, x, static_cast<std::uint8_t>(8 * x));

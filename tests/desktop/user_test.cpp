@@ -127,7 +127,7 @@ TEST_F(Input, ReachesTheTool) {
 }
 
 // The letters after the first are typed while its handler runs, and are handled late.
-TEST_F(Input, LettersTypedDuringAHandlerGoOnWithTheWord) {
+TEST_F(Input, LettersTypedDuringAHandlerContinueTheWord) {
   constexpr int interval = 30;
   QApplication::setKeyboardInputInterval(interval);
   for (const char* row : {"ba", "a", "bb", "bbc", "ab"}) form.list.AddItem(row);
@@ -153,7 +153,7 @@ TEST_F(Input, LettersTypedDuringAHandlerGoOnWithTheWord) {
   QApplication::setKeyboardInputInterval(-1);
 }
 
-TEST_F(Input, KeysReachEveryPictureOnShow) {
+TEST_F(Input, KeysReachEveryVisiblePicture) {
   int opened = 0;
   form.pictures.DblClick = [&](int i) { opened = i; };
   const QPoint positions[] = {{0, 0}, {300, 900}, {600, 900}, {900, 900}, {300, 1200}, {840, 1200}};
@@ -270,7 +270,7 @@ TEST_F(Input, AWriteRestartsATimer) {
   EXPECT_EQ(log, "tick ");
 }
 
-TEST_F(Input, MenusAreInTheToolsFontAndUnderlineTheirLettersForAlt) {
+TEST_F(Input, MenusUseTheToolsFontAndUnderlineLettersWithAlt) {
   QFont large;
   large.setPixelSize(40);
   QApplication::setFont(large, "QMenu");
