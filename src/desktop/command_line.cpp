@@ -15,8 +15,8 @@ constexpr int usage_error = 2;
 
 QString description() {
   return QStringLiteral(
-             "Lists, shows, extracts, builds and compares what the data archive ostrane.dat\n"
-             "holds. Everything is done in its windows.\n\n"
+             "Lists, shows, extracts, builds and compares the contents of the data archive\n"
+             "ostrane.dat in windows.\n\n"
              "Descriptions of entries, if there are any:\n  ") +
          QString::fromStdString((files::program_folder() / "iconlist.csv").string());
 }
@@ -36,7 +36,7 @@ int answer_command_line(int argc, char** argv) {
   if (!parser.parse(QCoreApplication::arguments())) error = parser.errorText();
   const QStringList files = parser.positionalArguments();
   if (error.isEmpty() && !files.isEmpty()) {
-    error = QStringLiteral("No file can be opened by the command line: ") + files.first();
+    error = QStringLiteral("Files cannot be opened from the command line: ") + files.first();
   }
   if (error.isEmpty() && parser.isSet(version)) parser.showVersion();
   if (error.isEmpty()) parser.showHelp();

@@ -17,7 +17,7 @@ constexpr unsigned content = bit(property_id::caption) | bit(property_id::text) 
 
 // The designed layout puts the lower edge of the list one pixel below the window, where it is
 // invisible.
-QRect with_edge_in_sight(QRect rect, const QWidget& parent) {
+QRect with_visible_edge(QRect rect, const QWidget& parent) {
   if (rect.bottom() == parent.height()) rect.setBottom(parent.height() - 1);
   return rect;
 }
@@ -35,7 +35,7 @@ void control_view::sync() {
   const auto has = [dirty](unsigned bits) { return (dirty & bits) != 0; };
   QWidget& shown = widget();
   if (has(bit(property_id::rect))) {
-    shown.setGeometry(with_edge_in_sight(rect_of(control), *shown.parentWidget()));
+    shown.setGeometry(with_visible_edge(rect_of(control), *shown.parentWidget()));
   }
   if (has(bit(property_id::back_color))) show_colours();
   if (has(bit(property_id::tool_tip))) {

@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 // Displays show some 60 frames per second.
 constexpr auto frame_time = 16ms;
 
-// A message of a job that ends sooner would only flicker.
+// The window of a job that ends sooner would only flicker.
 constexpr auto window_delay = 100ms;
 
 }  // namespace

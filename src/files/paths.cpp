@@ -44,7 +44,7 @@ bool is_drive_text(const std::string& path, char letter) {
 constexpr bool is_windows = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void throw_colon_in_name(const std::string& path) {
-  throw file_error{file_error_number::bad_file_name, path + " holds a name with a colon."};
+  throw file_error{file_error_number::bad_file_name, path + " contains a name with a colon."};
 }
 
 std::vector<std::string> names_of(const std::string& whole_path) {

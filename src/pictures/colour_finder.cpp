@@ -27,7 +27,7 @@ found_colour colour_finder::nearest(std::uint32_t colour) const {
   return {.index = static_cast<std::uint8_t>(best), .is_exact = false};
 }
 
-found_colour colour_finder::look_for(std::uint32_t colour) {
+found_colour colour_finder::search(std::uint32_t colour) {
   remembered_colour& known = remembered_[colour * spread >> 16U];
   known.colour = colour;
   const auto exact = exact_.find(colour);

@@ -20,7 +20,7 @@ class colour_finder {
 
   found_colour find(std::uint32_t colour) {
     const remembered_colour& known = remembered_[colour * spread >> 16U];
-    return known.colour == colour ? known.found : look_for(colour);
+    return known.colour == colour ? known.found : search(colour);
   }
 
   const rgb_palette& palette() const { return palette_; }
@@ -28,7 +28,7 @@ class colour_finder {
  private:
   static constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
 
-  found_colour look_for(std::uint32_t colour);
+  found_colour search(std::uint32_t colour);
   found_colour nearest(std::uint32_t colour) const;
 
   struct remembered_colour {
