@@ -32,9 +32,9 @@ inline fs::path make_temporary_folder() {
 // Makes the folder of the file too.
 inline void write_bytes(const fs::path& file, const std::string& bytes) {
   fs::create_directories(fs::absolute(file).parent_path());
-  std::ofstream written(file, std::ios::binary);
-  written.exceptions(std::ios::failbit | std::ios::badbit);
-  written << bytes << std::flush;
+  std::ofstream stream(file, std::ios::binary);
+  stream.exceptions(std::ios::failbit | std::ios::badbit);
+  stream << bytes << std::flush;
 }
 
 inline std::string bytes_of(const fs::path& file) {

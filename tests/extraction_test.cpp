@@ -22,9 +22,9 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
   }
   std::vector<entry> entries;
   file_map expected;
-  for (const auto& [name, written] : names) {
+  for (const auto& [name, file_name] : names) {
     entries.push_back({name, some_bytes(3001 * entries.size())});
-    expected[written] = entries.back().bytes;
+    expected[file_name] = entries.back().bytes;
   }
   open_archive(entries);
   extract_into("D:\\");

@@ -107,11 +107,11 @@ void replaced_file::commit() {
 }
 
 void replaced_file::copy_to(binary_file& to) {
-  binary_file written;
-  written.open_to_read({temporary_, target_.shown});
+  binary_file new_file;
+  new_file.open_to_read({temporary_, target_.shown});
   require_own_file();
   while (true) {
-    const std::span<const std::byte> block = written.next(SIZE_MAX);
+    const std::span<const std::byte> block = new_file.next(SIZE_MAX);
     if (block.empty()) break;
     to.write(block);
   }

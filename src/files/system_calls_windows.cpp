@@ -105,12 +105,12 @@ int info_of(int file, file_info& info) {
   constexpr std::uint64_t nanoseconds_per_tick = 100;
   BY_HANDLE_FILE_INFORMATION found = {};
   if (GetFileInformationByHandle(handle_of(file), &found) == 0) return last_error();
-  const FILETIME& written = found.ftLastWriteTime;
+  const FILETIME& modified = found.ftLastWriteTime;
   info.stamp.identity = {found.dwVolumeSerialNumber,
                          join(found.nFileIndexHigh, found.nFileIndexLow)};
   info.stamp.size = static_cast<std::int64_t>(join(found.nFileSizeHigh, found.nFileSizeLow));
   info.stamp.modified = static_cast<std::int64_t>(
-      join(written.dwHighDateTime, written.dwLowDateTime) * nanoseconds_per_tick);
+      join(modified.dwHighDateTime, modified.dwLowDateTime) * nanoseconds_per_tick);
   constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   info.is_file = (found.dwFileAttributes & others) == 0;
   return 0;

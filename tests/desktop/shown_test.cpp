@@ -30,11 +30,11 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
         what == "hidden" || picture_of(window) == before;  // apart from the focus
     EXPECT_TRUE(as_before) << what << " back";
   };
-  const auto property = [&](const char* what, auto& written,
-                            const std::decay_t<decltype(written())>& value) {
-    const auto old = written();
+  const auto property = [&](const char* what, auto& tested,
+                            const std::decay_t<decltype(tested())>& value) {
+    const auto old = tested();
     check(
-        what, [&] { written = value; }, [&] { written = old; });
+        what, [&] { tested = value; }, [&] { tested = old; });
   };
   property("label", form.label.Caption, "Other");
   property("a line more", form.label.Caption, "Label\rB");
