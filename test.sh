@@ -59,7 +59,7 @@ step 'Build and tests' 'build test' \
   'cmake --preset release && cmake --build --preset release && ctest --preset release'
 list_skipped_tests build-release
 step 'Benchmarks, once' 'build bench display' \
-  'OSTRANE_BUILD=build-release bench/baselines.sh 1'
+  'OSTRANE_BUILD=build-release bench/peers.sh 1'
 step 'Screenshot' 'build display' \
   'scripts/put_sample.sh build-release/sample build-release/home/ostrane-sample
    HOME=$PWD/build-release/home QT_QPA_PLATFORM=xcb scripts/on_virtual_display.sh \

@@ -1,5 +1,5 @@
 // bench_make_data FOLDER
-// Writes the data of baselines.sh into folders:
+// Writes the data of peers.sh into folders:
 //   names     an index of 32,768 records, empty files of these names, a shiplist, and the names
 //             shuffled and in order, one per line
 //   files     4000 files, 64 MB

@@ -63,7 +63,7 @@ need() {
   need_packages $packages
 }
 
-# For bench/baselines.sh.
+# For bench/peers.sh.
 # shellcheck disable=SC2034
 mapfile -t build_packages < <(packages_for build)
 # shellcheck disable=SC2034

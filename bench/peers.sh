@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# bench/baselines.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
+# bench/peers.sh [ROUNDS]: measures the tool's jobs and other programs on the same data, and prints a
 # table of the medians. Both sides of a row alternate, ROUNDS times each (default 11). The data is
 # in memory if the system has /dev/shm. OSTRANE_BUILD is the build folder.
 set -euo pipefail
@@ -18,7 +18,7 @@ need_packages "${build_packages[@]}" "${bench_packages[@]}" "${virtual_display_p
 } >&2
 bin=$(cd "$build/bin" && pwd)
 
-data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-baselines.XXXXXX")
+data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-peers.XXXXXX")
 trap 'rm -rf "$data"' EXIT
 "$bin/bench_make_data" "$data"
 tar -C "$data/names/empty" -cf "$data/names.tar" .
