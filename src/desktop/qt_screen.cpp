@@ -32,8 +32,12 @@ constexpr auto window_delay = 100ms;
 
 qt_screen::qt_screen() {
   qApp->installEventFilter(&filter_);
-  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &filter_,
-                   [this] { sync_between_handlers(); });
+  // Without GLib a turn handles posted events after `awake` and then waits.
+  for (const auto signal :
+       {&QAbstractEventDispatcher::awake, &QAbstractEventDispatcher::aboutToBlock}) {
+    QObject::connect(QAbstractEventDispatcher::instance(), signal, &filter_,
+                     [this] { sync_between_handlers(); });
+  }
 }
 
 qt_screen::~qt_screen() = default;
@@ -74,6 +78,9 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
+  if (before_box_ == nullptr) {
+    before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
+  }
   show_message(title, text, topmost(nullptr));
   box_had_focus_ = true;
 }
@@ -181,10 +188,14 @@ form_window* qt_screen::topmost(const forms_layer::form* but) const {
 }
 
 // Windows that were shown during a handler and are still visible get the focus at its end. After a
-// message box the window manager may have given it to one that is hidden now, or to none.
+// message box the window manager may have given it to one that is hidden now, to the report, which
+// owns the box while it is shown, or to none.
 void qt_screen::give_focus() {
-  form_window* top = topmost(nullptr);
-  if (std::exchange(box_had_focus_, false) && top != nullptr) top->take_focus();
+  if (std::exchange(box_had_focus_, false)) {
+    form_window* to = std::exchange(before_box_, nullptr);
+    if (to == nullptr || !to->form.Visible() || !to->form.Enabled()) to = topmost(nullptr);
+    if (to != nullptr) to->take_focus();
+  }
   for (form_window* window : on_screen_) {
     if (window->wants_focus()) window->take_focus();
   }

@@ -62,6 +62,7 @@ class qt_screen : public forms_layer::screen {
   std::vector<forms_layer::form*> dirty_forms_;
   forms_layer::form* takes_focus_ = nullptr;
   bool box_had_focus_ = false;
+  form_window* before_box_ = nullptr;  // had the focus before the first box of the handler
 };
 
 }  // namespace desktop
