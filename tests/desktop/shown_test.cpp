@@ -181,6 +181,13 @@ TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
     log += "end";
   });
   EXPECT_EQ(log, "Title|one\ntwo\nthree end");
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
+  write([&] {
+    QTimer::singleShot(20, [] { QApplication::activeModalWidget()->close(); });
+    screen.message_box("Title", "text");
+  });
+  EXPECT_EQ(QApplication::activeWindow(), &window) << "below Form2, but it had the focus";
 }
 
 TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
