@@ -116,6 +116,8 @@ void rewrite_archive(const files::file_path& path, const archive_index& old,
     progress.on_file(i, name_with_blanks(entries[i].name), size);
     copy_entry(job, entries[i], size, to.file());
   }
+  // Another program may have written to the archive or replaced it during the copy.
+  open_unchanged(archive, path, old.stamp);
   archive.close();
   to.commit();
   to.flush_folder();
