@@ -14,7 +14,8 @@ namespace {
 
 bool is_input(const QEvent& event) {
   switch (event.type()) {
-    case QEvent::HoverLeave:  // a button must not stay highlighted
+    case QEvent::Enter:  // a button must not miss the pointer, nor stay highlighted
+    case QEvent::HoverLeave:
       return false;
     case QEvent::Shortcut:
     case QEvent::ToolTip:
