@@ -18,7 +18,7 @@ TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
       {" 000DATUP.000", "data"}, {"000datup.000", "data"}, {"SHP", "no dot"}};
   open_archive(entries);
   const std::tuple<const char*, const char*, std::size_t> cases[] = {
-      {" A.ShP ", "2 1 -  2", 0}, {"N.TXT", "2note", 1},
+      {" A.ShP ", "2 1 -  2", 0}, {"N.TXT", "2text", 1},
       {"b.shp", "3 1 -  3", 0},   {" 000DATUP.000", "3data", 1},
       {"000datup.000", "3", 2},   {"GAME.PAL", "256", 0},
       {"SHP", "256", 2},          {"", "256", 2},
