@@ -82,7 +82,7 @@ TEST_F(files_test, CopiesBlocksOfAnySize) {
   to.open_to_write(files::to_file_path("C:\\to"));
   std::string expected;
   std::size_t at = 0;
-  for (const std::size_t size : {100, 700000, 5000, 4095, 4096, 1, 200000, 0}) {
+  for (const std::size_t size : {100U, 700000U, 5000U, 4095U, 4096U, 1U, 200000U, 0U}) {
     std::size_t left = size;
     while (left > 0) left -= to.write_from(from, left);
     expected += bytes.substr(at, size);
