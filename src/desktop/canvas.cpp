@@ -69,6 +69,13 @@ void canvas::sync_pictures() {
   if (!damage_.isEmpty()) update(std::exchange(damage_, {}));
 }
 
+void canvas::show_all() {
+  dirty_.clear();
+  for (picture& p : pictures_) sync(p);
+  damage_ = {};
+  update();
+}
+
 void canvas::sync(picture& p) {
   p.dirty = false;
   const QRect rect = p.box->Visible() ? rect_of(*p.box) : QRect();

@@ -27,6 +27,7 @@ class canvas : public QWidget {
   bool mark_dirty(forms_layer::picture_box& box);
   // Schedules repaints of the dirty boxes.
   void sync_pictures();
+  void show_all();
 
   // From back to front.
   const std::vector<picture>& pictures() const { return pictures_; }

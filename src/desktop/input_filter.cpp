@@ -18,6 +18,7 @@ bool is_input(const QEvent& event) {
     case QEvent::HoverLeave:
       return false;
     case QEvent::Shortcut:
+    case QEvent::InputMethod:
     case QEvent::ToolTip:
     case QEvent::DragEnter:
     case QEvent::Drop:

@@ -114,7 +114,7 @@ void qt_screen::sync_between_handlers() {
   try {
     sync();
   } catch (const std::bad_alloc&) {
-    // As after a dropped event, these changes may stay invisible. Later changes are shown.
+    // The next sync shows these changes.
   }
 }
 

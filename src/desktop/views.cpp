@@ -40,13 +40,17 @@ void views::mark_dirty(forms_layer::control& changed, forms_layer::property_id w
   }
 }
 
+// A lack of memory loses the lists of the dirty ones, so the next sync shows all.
 void views::sync() {
+  if (std::exchange(failed_, true)) show_all();
   for (control_view* view : std::exchange(dirty_, {})) view->sync();
   for (canvas* dirty : std::exchange(dirty_canvases_, {})) dirty->sync_pictures();
+  failed_ = false;
 }
 
 void views::show_all() {
   for (control_view* view : all_) view->show_all();
+  for (const auto& [shown, on] : canvases_) on->show_all();
 }
 
 std::multimap<int, QWidget*> views::in_tab_order(const forms_layer::form& shown) const {

@@ -20,7 +20,7 @@ class views {
   void mark_dirty(forms_layer::control& changed, forms_layer::property_id what);
   void sync();
 
-  // After a change of the theme.
+  // After a change of the theme or a failed sync.
   void show_all();
 
   // The widgets of a form in tab order.
@@ -32,6 +32,7 @@ class views {
   std::unordered_map<const forms_layer::container*, canvas*> canvases_;
   std::vector<control_view*> dirty_;
   std::vector<canvas*> dirty_canvases_;
+  bool failed_ = false;  // the latest sync
 };
 
 }  // namespace desktop
