@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # check_lint.sh BUILD: fails on a clang-tidy warning in src/, in samples/, or in bench/ if that is
-# configured. BUILD is a configured build folder.
+# configured. BUILD is a configured build folder without precompiled headers, such as build-release.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
