@@ -80,6 +80,18 @@ TEST_F(commands_test, AddsAndReplacesEntriesAndKeepsTheOthers) {
             archive_bytes({{"A.TXT", "newer"}, {"B.TXT", "new"}, entries[1], entries[2]}));
 }
 
+TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
+  bool copies = false;
+  failing_calls watched;
+  watched.before_call = [&copies](const std::string& call) {
+    copies = copies || call == "open_new";
+    if (copies && call == "read_some") std::ofstream("a.dat", std::ios::app) << "x";
+  };
+  EXPECT_EQ(run("remove a.dat A.TXT").status, 2);
+  EXPECT_TRUE(bytes_of("a.dat").starts_with(archive_bytes(entries) + "x"));
+  EXPECT_EQ(files_at(".").size(), 1U);
+}
+
 // Each call fails in turn: the archive is the old or the new one, and no other file remains.
 TEST_F(commands_test, AFailingDiskLeavesTheOldOrTheNewArchive) {
   int changed = 0;
