@@ -21,7 +21,11 @@ template <typename Part>
 
 template <typename Part>
 void ignore_failure(const Part& part) {
-  static_cast<void>(failure_of(part));
+  try {
+    part();
+  } catch (const std::exception&) {
+    // ignored
+  }
 }
 
 }  // namespace files

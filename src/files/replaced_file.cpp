@@ -7,6 +7,7 @@
 
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
+#include "files/failure.h"
 #include "files/file_calls.h"
 #include "files/hidden_name.h"
 #include "files/system_name.h"
@@ -133,6 +134,8 @@ void replaced_file::respell(const fs::path& target) {
   }
 }
 
-void replaced_file::flush_folder() { file_calls::flush_folder(folder_of(target_.system)); }
+void replaced_file::flush_folder() {
+  ignore_failure([this] { file_calls::flush_folder(folder_of(target_.system)); });
+}
 
 }  // namespace files
