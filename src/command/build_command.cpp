@@ -5,6 +5,7 @@
 #include "command/named_files.h"
 #include "command/program.h"
 #include "data/archive_builder.h"
+#include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/file_system.h"
 #include "files/system_name.h"
@@ -20,7 +21,7 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
-  fs::path target_name = {};  // "" if the target is not in the folder
+  fs::path target_name = {};  // of the file to replace; "" if it is not in the folder
   build_list list = {};
   std::vector<make_record> files = {};
   std::vector<dat_record> records = {};
@@ -85,14 +86,13 @@ int build(const build_options& options) {
     job.target = {path, argument_of_path(path) + ":"};
   } else {
     job.target = named_link_target(options.archive);
-    std::error_code failed;
-    const fs::path parent = fs::absolute(job.target.system, failed).parent_path();
-    if (fs::equivalent(parent, job.folder.system, failed)) {
-      job.target_name = job.target.system.filename();
-    }
   }
+  const files::file_path old = {files::existing_spelling(job.target.system), job.target.shown};
+  std::error_code failed;
+  const fs::path parent = fs::absolute(old.system, failed).parent_path();
+  if (fs::equivalent(parent, job.folder.system, failed)) job.target_name = old.system.filename();
   list_files(job);
-  if (options.archive != "-") files::require_replaceable(job.target);
+  if (options.archive != "-") files::require_replaceable(old);
   job.records = measure_files(job.list, job.files);
   write(job);
   return report_skipped_files(job);

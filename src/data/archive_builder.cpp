@@ -79,9 +79,11 @@ void write_archive(const build_list& list, std::span<const make_record> files,
   files::replaced_file archive(target);
   write_archive_to(archive.file(), list, files, records, progress);
   archive.commit();
-  // commit() kept the spelling of the old file, so there are never two archives. A failure to
-  // rename it now is harmless, as names are compared case-insensitively.
-  files::ignore_failure([&] { archive.respell(target.system); });
+  // commit() kept the spelling of the old file, so there are never two archives of the game. A
+  // failure to rename it now is harmless, as names are compared case-insensitively.
+  if (target.system.filename() == archive_name) {
+    files::ignore_failure([&] { archive.respell(target.system); });
+  }
   archive.flush_folder();
 }
 

@@ -37,9 +37,10 @@ void write_archive_to(files::binary_file& archive, const build_list& list,
                       std::span<const make_record> files, std::span<const dat_record> records,
                       const job_progress& progress);
 
-// Writes the archive and replaces the old one atomically. Archives whose names differ from the new
-// one in case only are deleted. `files` and `records` come from measure_files. Throws file_error,
-// and data_error if the size of a file has changed; the old archive is then unchanged.
+// Writes the archive and replaces the old one atomically. If it is named OSTRANE.DAT, archives
+// whose names differ from this in case only are deleted. `files` and `records` come from
+// measure_files. Throws file_error, and data_error if the size of a file has changed; the old
+// archive is then unchanged.
 void write_archive(const build_list& list, std::span<const make_record> files,
                    std::span<const dat_record> records, const files::file_path& target,
                    const job_progress& progress);

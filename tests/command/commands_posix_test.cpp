@@ -25,7 +25,10 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
     write_bytes(name, "other");
   }
   EXPECT_EQ(run("build in -o out/\xD0\xB0.dat").status, 0);
-  EXPECT_EQ(files_at("out").size(), 4U);
+  write_bytes("out/b.dat", "old");
+  EXPECT_EQ(run("build in -o out/b.dat").status, 0);
+  EXPECT_EQ(bytes_of("out/B.DAT"), "other");
+  EXPECT_EQ(files_at("out").size(), 5U);
   write_bytes("a.dat", archive_bytes({{"A.TXT", "a"}}));
   write_bytes("l.txt", "A.TXT\n\n");
   fs::create_symlink("A.dat", "link");
