@@ -4,6 +4,7 @@
 #include <array>
 
 #include "data/chunk_ladder.h"
+#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/new_index.h"
 #include "files/file_system.h"
@@ -33,6 +34,17 @@ std::int64_t size_of(const archive_index& old, const rewritten_entry& entry) {
                      name_with_blanks(entry.name) + ".");
   }
   return size;
+}
+
+// They would be lost.
+void refuse_other_bytes(const files::file_path& path, const archive_index& old) {
+  const std::int64_t before =
+      std::int64_t{old.records.front().offset} - first_entry_offset(old.records.size() - 1);
+  const std::int64_t after = old.stamp.size - old.records.back().offset;
+  const std::int64_t others = std::max<std::int64_t>(before, 0) + std::max<std::int64_t>(after, 0);
+  if (others == 0) return;
+  throw data_error(path.shown + " has " + counted(others, "byte") +
+                   " that belong to no entry and would be lost.");
 }
 
 std::vector<dat_record> new_records(const archive_index& old,
@@ -107,6 +119,7 @@ void rewrite_archive(const files::file_path& path, const archive_index& old,
   files::binary_file archive;
   files::binary_file file;
   open_unchanged(archive, path, old.stamp);
+  refuse_other_bytes(path, old);
   const std::vector<dat_record> records = new_records(old, entries);
   const std::string index = index_bytes(records);
   to.file().write(std::as_bytes(std::span(index)));

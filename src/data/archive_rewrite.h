@@ -26,8 +26,8 @@ std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& 
 
 // Replaces the archive atomically by one with these entries. The content of old entries is copied
 // unchanged. Throws file_error, and data_error if an old entry exceeds the archive, the archive has
-// changed since its index was read, or the new one would be too large. The old archive is then
-// unchanged.
+// bytes that belong to no entry or has changed since its index was read, or the new one would be
+// too large. The old archive is then unchanged.
 void rewrite_archive(const files::file_path& path, const archive_index& old,
                      const std::vector<rewritten_entry>& entries, const job_progress& progress);
 
