@@ -179,11 +179,6 @@ void add_import(CLI::App& app, all_options& all) {
       ->type_name("OLD.SHP");
 }
 
-// Texts of src/data may contain names in the code page.
-std::string utf8_text(const std::string& text) {
-  return files::from_utf8_lossy(text).find('?') == std::string::npos ? text : files::to_utf8(text);
-}
-
 int run_chosen(const all_options& options) {
   set_quiet(options.is_quiet);
   int status = status_failed;
@@ -192,7 +187,8 @@ int run_chosen(const all_options& options) {
     flush_output();
   });
   if (failure.empty()) return status;
-  print_error("", utf8_text(failure));
+  // Texts of src/data may contain names in the code page.
+  print_error("", files::mixed_to_utf8(failure));
   return status_failed;
 }
 

@@ -135,6 +135,19 @@ std::string from_utf8_lossy(std::string_view utf8) {
   return text;
 }
 
+std::string mixed_to_utf8(std::string_view text) {
+  std::string utf8;
+  while (!text.empty()) {
+    const std::string_view before = text;
+    if (take_code_point(text) == not_utf8) {
+      append_utf8(utf8, code_point(static_cast<unsigned char>(before.front())));
+    } else {
+      utf8 += before.substr(0, before.size() - text.size());
+    }
+  }
+  return utf8;
+}
+
 char upper_case(char c) { return cases.upper[static_cast<unsigned char>(c)]; }
 std::string upper_case(std::string_view text) { return mapped(text, cases.upper); }
 std::string lower_case(std::string_view text) { return mapped(text, cases.lower); }

@@ -16,6 +16,10 @@ std::optional<std::string> from_utf8(std::string_view utf8);
 // Like from_utf8, with "?" for each such character and for each byte that is not UTF-8.
 std::string from_utf8_lossy(std::string_view utf8);
 
+// Returns UTF-8: bytes that are not UTF-8 are converted from the code page, for texts with names in
+// either.
+std::string mixed_to_utf8(std::string_view text);
+
 // Letters with accents are converted too.
 char upper_case(char c);
 std::string upper_case(std::string_view text);
