@@ -2,6 +2,7 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <system_error>
 #include <thread>
 
 #include "command/commands.h"
@@ -75,8 +76,13 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
     import_job& job;
     ~stopping() { job.stops = true; }
   } at_end{job};
-  for (std::size_t i = 0; i < std::min(count, job.icons.size()); ++i) {
-    threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
+  try {
+    for (std::size_t i = 0; i < std::min(count, job.icons.size()); ++i) {
+      threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
+    }
+  } catch (const std::system_error&) {
+    // The system allows no more threads.
+    if (threads.empty()) make_icons(job, colours);
   }
   for (std::future<void>& thread : threads) {
     while (thread.wait_for(poll_interval) != std::future_status::ready) {
@@ -94,13 +100,33 @@ int report_inexact_pixels(const import_options& options, const import_job& job) 
   return status_differs;
 }
 
+import_plan make_plan(const import_options& options) {
+  const auto require_other = [&options](const std::string& input) {
+    require_other_file(options.icon_file, input);
+  };
+  require_other(options.palette);
+  std::for_each(options.sources.begin(), options.sources.end(), require_other);
+  import_plan plan =
+      plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
+  for (const planned_icon& icon : plan.icons) {
+    if (icon.png) require_other(argument_of_path(icon.png->system));
+  }
+  if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
+  return plan;
+}
+
+// The options --like and -o may name the same file.
+int report_left_out_icons(const import_options& options, const import_plan& plan) {
+  if (plan.left_out == 0) return status_done;
+  print_note(options.icon_file, counted(plan.left_out, "icon") + " of " + options.like +
+                                    " left out, as there are too few pictures");
+  return status_differs;
+}
+
 }  // namespace
 
 int import_pictures(const import_options& options) {
-  require_other_file(options.icon_file, options.palette);
-  import_plan plan =
-      plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
-  if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
+  const import_plan plan = make_plan(options);
   if (plan.icons.empty()) throw data_error(options.sources.front() + ": contains no pictures.");
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
     throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
@@ -108,7 +134,8 @@ int import_pictures(const import_options& options) {
   import_job job = {.plan = plan, .icons = std::vector<shp_icon>(plan.icons.size())};
   make_all_icons(job, colour_finder(read_palette_argument(options.palette)));
   write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
-  return report_inexact_pixels(options, job);
+  const int inexact = report_inexact_pixels(options, job);
+  return std::max(inexact, report_left_out_icons(options, plan));
 }
 
 }  // namespace ostrane::command

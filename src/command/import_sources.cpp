@@ -119,7 +119,7 @@ import_plan plan_like(const import_plan& plan, const files::file_path& old_file)
     if (icon.png) pngs.push_back(*icon.png);
   }
   const auto stream = std::make_unique<icon_stream>();
-  import_plan like = {.identifier = from.head.identifier, .icons = {}};
+  import_plan like = {.identifier = from.head.identifier};
   auto next = pngs.begin();
   for (const std::int32_t position : from.positions) {
     icon_head head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
@@ -128,7 +128,10 @@ import_plan plan_like(const import_plan& plan, const files::file_path& old_file)
       continue;
     }
     const auto last_column = last_column_of(*stream, file, from, head, position);
-    if (last_column && next == pngs.end()) break;
+    if (last_column && next == pngs.end()) {
+      like.left_out = static_cast<std::int64_t>(from.positions.size() - like.icons.size());
+      break;
+    }
     planned_icon icon = {.png = {}, .known = known_icon{head, last_column.value_or(0)}};
     if (last_column) icon.png = *next++;
     like.icons.push_back(icon);

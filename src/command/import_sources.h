@@ -18,6 +18,7 @@ struct planned_icon {
 struct import_plan {
   shp_identifier identifier = default_identifier;
   std::vector<planned_icon> icons;
+  std::int64_t left_out = 0;  // icons of an old icon file that have no PNG, and those after them
 };
 
 // Plans the icons of the sources: PNGs, folders of PNGs, JSONs of an export, and folders with such
@@ -26,7 +27,8 @@ struct import_plan {
 import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem);
 
 // Takes identifier, heads and order from an old icon file. Its drawable icons get the PNGs of
-// `plan` in order; its other icons keep their positions. Throws file_error and data_error.
+// `plan` in order; its other icons keep their positions. Without a PNG for a drawable icon it and
+// the icons after it are left out. Throws file_error and data_error.
 import_plan plan_like(const import_plan& plan, const files::file_path& old_file);
 
 }  // namespace ostrane::command
