@@ -111,7 +111,8 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
       {after_change, 1, "p.png", 0, "+++ F1-0004.png" + changed + "picture was not saved.>"},
       {on_row_after_change, 0, "text", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
       {on_row_during_changes, 0, "text", 0,
-       "+ N.TXT text <The archive was written to during the extraction. Extract it again. The "
+       "+ N.TXT text <The archive was written to during the extraction. Start the extraction "
+       "again. The "
        "entry was not extracted.>",
        "old"},
       {without_archive, 0, "", 0, "+-- copied 3"},

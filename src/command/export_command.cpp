@@ -24,7 +24,7 @@ constexpr int palette_side = 16;
 struct entries_export {
   const export_options& options;
   files::binary_file archive = {};
-  files::file_identity identity = {};  // of the archive
+  files::file_stamp stamp = {};  // of the archive
   rgb_palette palette = {};
   files::binary_file output = {};
   int status = status_done;
@@ -50,7 +50,8 @@ files::file_path target_of(const entries_export& job, const std::string& name) {
 }
 
 void write_export(entries_export& job, const std::string& name, std::string_view bytes) {
-  write_whole_file(job.output, target_of(job, name), bytes, job.identity);
+  require_unchanged(job.archive, job.stamp, "export");
+  write_whole_file(job.output, target_of(job, name), bytes, job.stamp.identity);
 }
 
 void export_icons(entries_export& job, const exported_entry& entry) {
@@ -150,7 +151,7 @@ int export_entries(const export_options& options) {
   make_folder(options.folder);
   entries_export job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
-  job.identity = index.stamp.identity;
+  job.stamp = index.stamp;
   job.palette = read_game_colours(job.archive, index.records);
   for (std::size_t i = 0; i < chosen.size(); ++i) {
     if (chosen[i]) export_entry(job, index, i);

@@ -54,4 +54,11 @@ void open_unchanged(files::binary_file& file, const files::file_path& path,
   throw data_error(path.shown + " has changed since it was read. Read it again.");
 }
 
+void require_unchanged(files::binary_file& archive, const files::file_stamp& stamp,
+                       const std::string& job) {
+  if (archive.info().stamp == stamp) return;
+  throw data_error("The archive was written to during the " + job + ". Start the " + job +
+                   " again.");
+}
+
 }  // namespace ostrane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "data/archive_format.h"
@@ -19,5 +20,10 @@ archive_index read_archive_index(const files::file_path& path);
 // Opens an archive to read entries. Throws data_error if its stamp has changed, and file_error.
 void open_unchanged(files::binary_file& file, const files::file_path& path,
                     const files::file_stamp& stamp);
+
+// Throws data_error if an open archive was written to after it had this stamp. The message names
+// the job.
+void require_unchanged(files::binary_file& archive, const files::file_stamp& stamp,
+                       const std::string& job);
 
 }  // namespace ostrane

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/archive_index.h"
 #include "data/chunk_ladder.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
@@ -55,11 +56,6 @@ struct extraction {
   extraction_result result = {};
 };
 
-void require_unchanged(extraction& job) {
-  if (job.archive.info().stamp == job.stamp) return;
-  throw data_error("The archive was written to during the extraction. Extract it again.");
-}
-
 // Copies the current entry to an open file. Returns false if the archive ends before it does.
 bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
   job.archive.seek(job.position);
@@ -72,7 +68,7 @@ std::string replace_entry_file(extraction& job, const std::string& name, std::in
   const files::file_path path = job.target(name);
   files::whole_file to(job.file, path, job.stamp.identity);
   if (!copy_entry(job, job.file, size)) return archive_too_short;
-  require_unchanged(job);  // before the old file is replaced
+  require_unchanged(job.archive, job.stamp, "extraction");  // before the old file is replaced
   to.keep();
   job.on_created(name);
   return "";
@@ -142,7 +138,7 @@ extraction_result extract_entries(files::binary_file& archive, std::span<const d
     job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);
-    require_unchanged(job);
+    require_unchanged(job.archive, job.stamp, "extraction");
   });
   return std::move(job.result);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "data/archive_index.h"
 #include "data/counted.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
@@ -22,23 +23,27 @@ constexpr std::int64_t max_scaled_pixels = std::int64_t{1} << 28U;
 struct icon_export_job {
   files::binary_file& archive;
   const icon_export& wanted;
-  files::file_identity identity;  // of the archive
-  rgb_palette distinct;           // the distinct_colours of the palette
+  files::file_stamp stamp;  // of the archive
+  rgb_palette distinct;     // the distinct_colours of the palette
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
   files::binary_file output = {};
 };
 
+std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns()} * drawn.rows(); }
+
 void write_output(icon_export_job& job, const std::string& name, std::string_view bytes) {
-  write_whole_file(job.output, job.wanted.target(name), bytes, job.identity);
+  require_unchanged(job.archive, job.stamp, "export");
+  write_whole_file(job.output, job.wanted.target(name), bytes, job.stamp.identity);
+}
+
+void require_scalable(const icon_export_job& job, std::int64_t cells) {
+  if (cells * job.wanted.scale * job.wanted.scale <= max_scaled_pixels) return;
+  throw data_error("At this scale the pictures would be too large.");
 }
 
 std::string png_at_scale(const icon_export_job& job, const picture& drawn) {
-  const int scale = job.wanted.scale;
-  const std::int64_t pixels = std::int64_t{drawn.columns()} * drawn.rows();
-  if (pixels * scale * scale > max_scaled_pixels) {
-    throw data_error("At this scale a picture would be too large.");
-  }
-  return png_of(drawn, job.wanted.colours, job.distinct, scale);
+  require_scalable(job, cells_of(drawn));
+  return png_of(drawn, job.wanted.colours, job.distinct, job.wanted.scale);
 }
 
 std::int32_t last_set_column(const picture& drawn) {
@@ -119,14 +124,14 @@ void export_series(icon_export_job& job) {
 struct all_pictures {
   std::vector<picture> pictures;
   std::vector<std::string> names;
+  std::int64_t cells = 0;
 };
 
 all_pictures collect_pictures(icon_export_job& job) {
   all_pictures all;
-  std::int64_t cells = 0;
   read_icons(job, [&](std::size_t number, picture drawn, exported_icon&) {
-    cells += std::int64_t{drawn.columns()} * drawn.rows();
-    if (cells > max_picture_cells) throw data_error("Its pictures together are too large.");
+    all.cells += cells_of(drawn);
+    if (all.cells > max_picture_cells) throw data_error("Its pictures together are too large.");
     all.pictures.push_back(std::move(drawn));
     all.names.push_back(png_name(stem_of_entry(job.wanted.entry), number));
   });
@@ -148,6 +153,7 @@ void export_sheet(icon_export_job& job) {
 
 void export_gif(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
+  require_scalable(job, all.cells);
   std::int64_t inexact = 0;
   write_output(
       job, job.wanted.stem + ".gif",
@@ -165,7 +171,7 @@ void export_picture(icon_export_job& job) {
 void export_to_files(files::binary_file& archive, const icon_export& wanted) {
   icon_export_job job = {.archive = archive,
                          .wanted = wanted,
-                         .identity = archive.info().stamp.identity,
+                         .stamp = archive.info().stamp,
                          .distinct = distinct_colours(wanted.colours)};
   switch (wanted.form) {
     case picture_form::png:

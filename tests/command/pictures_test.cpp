@@ -1,10 +1,12 @@
 #include <png.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
 #include "command_fixture.h"
 #include "data/icon_file.h"
+#include "failing_calls.h"
 #include "random_icons.h"
 
 namespace ostrane {
@@ -119,6 +121,7 @@ TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
   write_bytes("in/up.json", json("../p.png", "0"));
   write_bytes("far.json", json("p.png", "-2147483648"));
   write_bytes("p.png", png_with(PNG_FORMAT_GRAY, {1, 2}, 2, 1));
+  write_bytes("two.shp", shp_file(std::vector<picture>(2, picture(1, 1))));
   write_bytes("deep.json", std::string(100000, '['));
   for (const char* bad : {"cut.png", "huge.png", "in/up.json", "far.json", "deep.json", "no.png"}) {
     const result seen = run("import " + std::string(bad) + " -o new.shp --palette GAME.PAL");
@@ -127,6 +130,13 @@ TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
     EXPECT_FALSE(fs::exists("new.shp")) << bad;
   }
   EXPECT_EQ(run("import good.json -o new.shp --palette GAME.PAL").status, 1);
+  for (const std::string read :
+       {"p.png -o p.png", "good.json -o p.png", "good.json -o good.json"}) {
+    EXPECT_EQ(run("import " + read + " --palette GAME.PAL").status, 2) << read;
+  }
+  const result seen = run("import p.png -o new.shp --palette GAME.PAL --like two.shp");
+  EXPECT_EQ(seen.status, 1);
+  EXPECT_NE(seen.errors.find("1 icon of two.shp left out"), std::string::npos);
 }
 
 TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
@@ -149,6 +159,34 @@ TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
   EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
   EXPECT_NE(bytes_of("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
             std::string::npos);
+}
+
+TEST_F(pictures_test, DoesNotExportAnArchiveThatChanges) {
+  write_archive(shp_file(std::vector<picture>(2, picture(9, 9))));
+  failing_calls watched;
+  watched.before_call = [&watched](const std::string& call) {
+    const auto opened = std::count(watched.calls.begin(), watched.calls.end(), "open_to_read");
+    if (opened > 1 && call == "read_some") std::ofstream("a.dat", std::ios::app) << "x";
+  };
+  const std::string changed =
+      "The archive was written to during the export. Start the export again.\n";
+  EXPECT_EQ(run("export a.dat *").errors,
+            "ostrane-dat: F.SHP: " + changed + "ostrane-dat: GAME.PAL: " + changed);
+  EXPECT_EQ(files_at(".").size(), 1U);
+}
+
+// As for a palette that is not there, the built-in colours apply.
+TEST_F(pictures_test, IgnoresAPaletteAtOffset0) {
+  picture drawn(1, 1);
+  drawn.set(0, 0, 7);
+  const archive_entry icons = {"F.SHP", shp_file(std::vector<picture>(1, drawn))};
+  std::string bytes = archive_bytes({{"GAME.PAL", palette()}, icons});
+  bytes.replace(4, 4, std::string(4, '\0'));
+  write_bytes("0.dat", bytes);
+  write_bytes("none.dat", archive_bytes({icons}));
+  run("export 0.dat F.SHP -d 0");
+  run("export none.dat F.SHP -d none");
+  EXPECT_EQ(bytes_of("0/F-0001.png"), bytes_of("none/F-0001.png"));
 }
 
 }  // namespace ostrane
