@@ -39,7 +39,8 @@ const dat_record* find_game_palette(std::span<const dat_record> records) {
 
 rgb_palette read_game_colours(files::binary_file& archive, std::span<const dat_record> records) {
   const dat_record* const found = find_game_palette(records);
-  return found == nullptr ? built_in_colours : read_colours(archive, found->offset);
+  return found == nullptr || found->offset <= 0 ? built_in_colours
+                                                : read_colours(archive, found->offset);
 }
 
 }  // namespace ostrane
