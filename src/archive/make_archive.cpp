@@ -1,6 +1,7 @@
 #include "archive/make_archive.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "archive/index_reader.h"
 #include "archive/skipped_files.h"
@@ -28,6 +29,7 @@ struct build_job {
   build_list list;
   files::case_insensitive_lookup names;
   std::vector<dat_record> records;
+  bool is_made = false;
   std::string skipped;  // a message, or ""
 };
 
@@ -102,9 +104,8 @@ void run(build_job& job) {
   job.records = measure(job);
   refresh_progress();
   write(job);
-  // The archive is complete. A failure to list the folder is shown instead of the skipped files.
-  const std::string failure = files::failure_of([&job] { job.skipped = skipped_message(job); });
-  if (!failure.empty()) job.skipped = failure;
+  job.is_made = true;
+  job.skipped = skipped_message(job);
 }
 
 // A hint for a typed path that is not the folder of the listed files, or "".
@@ -133,12 +134,14 @@ void make_archive() {
   job.list.folder = files::with_separator(Form5.Text1.Text());
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   refresh_progress();
-  const std::string failure = files::failure_of([&] { run(job); });
+  std::string failure = files::failure_of([&] { run(job); });
   hide_progress("Ostrane.dat tool ");
-  if (!failure.empty()) {
+  if (!job.is_made) {
     forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
     return;
   }
+  // A failure to list the skipped files.
+  if (!failure.empty()) job.skipped = std::move(failure);
   use_new_index(job);
   Form1.Visible = true;
   Form5.Visible = false;
