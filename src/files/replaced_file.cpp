@@ -7,7 +7,6 @@
 
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
-#include "files/failure.h"
 #include "files/file_calls.h"
 #include "files/hidden_name.h"
 #include "files/system_name.h"
@@ -35,7 +34,9 @@ std::string upper_case_name(const fs::path::string_type& system_name) {
 }  // namespace
 
 replaced_file::replaced_file(file_path target)
-    : target_(std::move(target)), lock_(target_.system, target_.shown) {
+    : target_(std::move(target)),
+      folder_(folder_of(target_.system)),
+      lock_(target_.system, target_.shown) {
   // Another copy of the tool may have changed the spelling before this one got the lock.
   target_.system = existing_spelling(target_.system);
   remove_leftovers();
@@ -68,11 +69,11 @@ replaced_file::~replaced_file() {
 
 void replaced_file::remove_leftovers() const {
   std::vector<listed_entry> listed;
-  const int status = file_calls::list(folder_of(target_.system), listed);
+  const int status = file_calls::list(folder_, listed);
   if (status < 0) file_calls::fail(target_.shown, cannot_write, status);
   for (const listed_entry& entry : listed) {
     if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
-    const fs::path leftover = folder_of(target_.system) / entry.name;
+    const fs::path leftover = folder_ / entry.name;
     const int file = file_calls::open_to_read(leftover);
     if (file < 0) continue;
     if (file_calls::lock(file) >= 0 && file_calls::match(leftover, file).is_same) {
@@ -125,17 +126,15 @@ void replaced_file::respell(const fs::path& target) {
   const std::string folded = upper_case_name(kept.filename().native());
   if (folded.empty()) return;
   std::vector<listed_entry> listed;
-  file_calls::list(folder_of(kept), listed);
+  file_calls::list(folder_, listed);
   for (const listed_entry& entry : listed) {
     if (entry.is_folder || entry.name == kept.filename().native()) continue;
     if (upper_case_name(entry.name) != folded || !match(kept).is_same) continue;
-    const fs::path other = folder_of(kept) / entry.name;
+    const fs::path other = folder_ / entry.name;
     if (match(other).is_other()) file_calls::remove_file(other);
   }
 }
 
-void replaced_file::flush_folder() {
-  ignore_failure([this] { file_calls::flush_folder(folder_of(target_.system)); });
-}
+void replaced_file::flush_folder() { file_calls::flush_folder(folder_); }
 
 }  // namespace files

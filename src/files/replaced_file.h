@@ -44,6 +44,7 @@ class replaced_file {
   file_calls::path_match match(const std::filesystem::path& path) const;
 
   file_path target_;
+  std::filesystem::path folder_;
   writing_lock lock_;
   std::filesystem::path temporary_;
   binary_file file_;
