@@ -1,3 +1,6 @@
+#include <cstdio>
+#include <new>
+
 #include "command/console.h"
 #include "command/interruption.h"
 #include "command/program.h"
@@ -16,5 +19,8 @@ int main(int argc, char** argv) {
   } catch (const interruption&) {
     hide_progress();
     raise_stored_signal();
+  } catch (const std::bad_alloc&) {
+    std::fputs("ostrane-dat: There is not enough memory for this.\n", stderr);
+    return status_failed;
   }
 }
