@@ -17,7 +17,7 @@ struct planned_icon {
 
 struct import_plan {
   shp_identifier identifier = default_identifier;
-  std::vector<planned_icon> icons;
+  std::vector<planned_icon> icons = {};
   std::int64_t left_out = 0;  // icons of an old icon file that have no PNG, and those after them
 };
 
