@@ -68,7 +68,9 @@ table counted_calls() {
            COUNTED(copy_permissions), COUNTED(lock), COUNTED(flush_to_disk), COUNTED(close_file),
            COUNTED(remove_file), COUNTED(replace), COUNTED(flush_folder), COUNTED(list)>(all);
   all.read_some = [](int file, std::byte* to, std::size_t count) {
-    return record("read_some", [&] { return real.read_some(file, to, half(count)); });
+    return record("read_some", [&] {
+      return real.read_some(file, to, std::min(half(count), current->max_read));
+    });
   };
   all.write_some = [](int file, const std::byte* from, std::size_t count) {
     return record("write_some", [&] { return real.write_some(file, from, half(count)); });

@@ -41,6 +41,7 @@ class failing_calls {
   const call_fault fault;
   const std::string failing_name;
   std::function<void(const std::string& name)> before_call = [](const auto&) {};
+  std::size_t max_read = SIZE_MAX;  // bytes per call
   std::vector<std::string> calls;
 };
 

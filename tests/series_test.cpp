@@ -1,3 +1,6 @@
+#include <set>
+
+#include "failing_calls.h"
 #include "icon_fixture.h"
 #include "recording_screen.h"
 
@@ -130,6 +133,29 @@ TEST_F(series_test, IconOutsideTheFileEndsTheSeries) {
     EXPECT_EQ(new_messages(), seen.front() > '0' ? messages : texts{});  // if icons remain
     EXPECT_EQ(view(), seen == one_of_3 ? "3: 2 -  0:" : seen);
   }
+}
+
+// Each call fails in turn. The next series never shows icons of another file.
+TEST_F(series_test, ForgetsADirectoryThatCannotBeRead) {
+  const std::set<std::string> expected = {"0: 1 -  0:", "3: 1 -  1: 1=50", "3: 2 -  2: 1=51",
+                                          "3: 3 -  3: 1=52"};
+  std::set<std::string> seen;
+  type_max_icons("1");
+  bool happened = true;
+  for (int at = 0; happened; ++at) {
+    show(
+        {plain_icons(9, 1, 1), {plain_icon(1, 1, 50), plain_icon(1, 1, 51), plain_icon(1, 1, 52)}});
+    {
+      failing_calls fault(at, {.kind = call_fault::fails, .reason = EIO});
+      fault.max_read = 16;
+      click_row("F2.SHP");
+      happened = fault.happened();
+    }
+    new_messages();
+    for (int i = 0; i < 3; ++i) user::click(Form1.Command6), seen.insert(view());
+    EXPECT_EQ(new_messages(), texts{}) << at;
+  }
+  EXPECT_EQ(seen, expected);
 }
 
 // The next series is of the shown entry, not of one that was clicked after it.

@@ -53,7 +53,6 @@ void read_directory() {
   const std::int32_t offset = entry_start(index_records(), tool_state.selected_index);
   tool_state.directory_index = tool_state.selected_index;
   tool_state.shp_head = {};
-  tool_state.directory_read = flag_true;
   if (!read_shp_head(tool_state.archive_file, offset, tool_state.shp_head)) {
     report_invalid_address(std::int64_t{offset} + 1);
     return;
@@ -62,6 +61,7 @@ void read_directory() {
   const auto count = static_cast<std::size_t>(std::max(tool_state.shp_head.icon_count, 0));
   read_icon_positions(tool_state.archive_file, offset,
                       std::span(tool_state.icon_positions).subspan(1, count));
+  tool_state.directory_read = flag_true;
 }
 
 void read_current_icon_head() {
