@@ -114,7 +114,7 @@ struct failing_disk_test : tool_test {
   const std::string archive = archive_bytes({{"A.TXT", some_bytes(70000)},
                                              {"B.TXT", ""},
                                              {"C.TXT", some_bytes(9)},
-                                             {"I.SHP", shp_file(plain_icons(3, 40, 40))},
+                                             {"I.SHP", shp_file(plain_icons(14, 40, 40))},
                                              palette_entry()});
   const std::vector<file_job> jobs = {
       // Without an open archive; else the build would also read the new one.
@@ -249,6 +249,7 @@ TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
                       : message.find("not enough memory") != std::string::npos);
       EXPECT_FALSE(after.files == done.files && message.ends_with("No new archive was made."));
       EXPECT_FALSE(Form3.Visible());
+      EXPECT_EQ(tool_state.slots_loaded + 1, Form1.s16_image.loaded());
       const bool dialog = Form4.Visible() || Form5.Visible();
       const bool over = Form2.Visible() || Form6.Visible();
       EXPECT_TRUE(Form1.Visible() != dialog && Form1.Enabled() != over);

@@ -82,9 +82,11 @@ void draw_icon() {
 }
 
 void draw_next_icon() {
-  ++tool_state.current_slot;
+  // The slot exists before it is counted, also if memory runs out.
+  const auto slot = static_cast<std::int16_t>(tool_state.current_slot + 1);
+  load_slot(slot);
+  tool_state.current_slot = slot;
   tool_state.icon_number = tool_state.next_icon;
-  load_slot(tool_state.current_slot);
   read_current_icon_head();
   if (tool_state.series_full == flag_true) return;
   draw_icon();

@@ -48,8 +48,8 @@ void store_icon_data() {
 
 void load_slot(std::int16_t slot) {
   if (tool_state.slots_loaded >= slot) return;
-  ++tool_state.slots_loaded;
   Form1.s16_image.Load(slot);
+  ++tool_state.slots_loaded;
   Form1.s16_image(slot).ScaleMode = scale_in_pixels;
   Form1.s16_image(slot).Visible = false;
 }
