@@ -57,10 +57,10 @@ bool try_to_read_index() {
 }  // namespace
 
 void read_archive(const std::string& folder) {
+  tool_state.archive_is_open = flag_false;
   if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
   tool_state.archive_path = files::with_separator(folder) + "ostrane.dat";
   tool_state.archive_path_copy = tool_state.archive_path;
-  tool_state.archive_is_open = flag_false;
   if (try_to_read_index()) {
     Form1.mnu_ext.Enabled = true;
     Form1.mnu_save.Enabled = true;

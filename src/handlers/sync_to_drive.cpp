@@ -16,6 +16,10 @@ namespace {
 enum class recovery_phase { none, to_drive_c, back };
 recovery_phase phase = recovery_phase::none;
 
+struct phase_guard {
+  ~phase_guard() { phase = recovery_phase::none; }
+};
+
 using step = std::function<void()>;
 
 void report_failing_drive(const std::string& drive) {
@@ -36,13 +40,13 @@ bool succeeds(const step& run) {
 
 void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
   report_failing_drive(Drive1.Drive());
+  const phase_guard at_end;
   phase = recovery_phase::to_drive_c;
   succeeds([&] { Drive1.Drive = "C"; });
   if (!succeeds([&] { Dir1.Path = "C:\\"; })) {
     phase = recovery_phase::back;
     succeeds([&] { Drive1.Drive = Dir1.Path(); });
   }
-  phase = recovery_phase::none;
 }
 
 void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
