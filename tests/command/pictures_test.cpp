@@ -159,6 +159,12 @@ TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
   EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
   EXPECT_NE(bytes_of("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
             std::string::npos);
+  // Offset 0 means no palette, so the built-in colours apply.
+  std::string bytes = bytes_of("a.dat");
+  write_bytes("a.dat", bytes.replace(4 + 2 * 17, 4, std::string(4, '\0')));
+  run("export a.dat f.shp");
+  EXPECT_NE(bytes_of("F-0001.png").find(std::string("PLTE\0\0\0\xF0\xF0\xF0", 10)),
+            std::string::npos);
 }
 
 TEST_F(pictures_test, DoesNotExportAnArchiveThatChanges) {
@@ -173,20 +179,6 @@ TEST_F(pictures_test, DoesNotExportAnArchiveThatChanges) {
   EXPECT_EQ(run("export a.dat *").errors,
             "ostrane-dat: F.SHP: " + changed + "ostrane-dat: GAME.PAL: " + changed);
   EXPECT_EQ(files_at(".").size(), 1U);
-}
-
-// As for a palette that is not there, the built-in colours apply.
-TEST_F(pictures_test, IgnoresAPaletteAtOffset0) {
-  picture drawn(1, 1);
-  drawn.set(0, 0, 7);
-  const archive_entry icons = {"F.SHP", shp_file(std::vector<picture>(1, drawn))};
-  std::string bytes = archive_bytes({{"GAME.PAL", palette()}, icons});
-  bytes.replace(4, 4, std::string(4, '\0'));
-  write_bytes("0.dat", bytes);
-  write_bytes("none.dat", archive_bytes({icons}));
-  run("export 0.dat F.SHP -d 0");
-  run("export none.dat F.SHP -d none");
-  EXPECT_EQ(bytes_of("0/F-0001.png"), bytes_of("none/F-0001.png"));
 }
 
 }  // namespace ostrane
