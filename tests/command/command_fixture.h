@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "command/run_command.h"
 #include "data/archive_bytes.h"
 #include "disk.h"
+#include "failing_calls.h"
 
 namespace ostrane {
 
@@ -32,6 +35,15 @@ struct command_test : testing::Test {
     const int status = command::run_command(arguments_of(command_line));
     std::string output = testing::internal::GetCapturedStdout();
     return {status, std::move(output), testing::internal::GetCapturedStderr()};
+  }
+  // Another program writes to a.dat after its index is read.
+  static result run_beside_a_writer(const std::string& command_line) {
+    failing_calls watched;
+    watched.before_call = [&opened = watched.calls](const std::string& call) {
+      const auto count = std::count(opened.begin(), opened.end(), "open_to_read");
+      if (count > 1 && call == "read_some") std::ofstream("a.dat", std::ios::app) << "x";
+    };
+    return run(command_line);
   }
 
   const fs::path folder = make_temporary_folder();
