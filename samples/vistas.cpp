@@ -89,7 +89,7 @@ ink above_water(const hour& now, double x, double y) {
 }
 
 // The lake mirrors the view above it, darker and with ripples that grow towards the eye.
-ink water(const hour& now, double x, double y) {
+ink water_at(const hour& now, double x, double y) {
   const double depth = y - shore;
   const double ripple = noise({x / 14, depth / (1.2 + depth / 18), 0}, 113) - 0.5;
   const ink mirrored =
@@ -99,7 +99,7 @@ ink water(const hour& now, double x, double y) {
 
 picture vista(const hour& now) {
   return painted(columns, rows, [&](double x, double y) {
-    return y > shore ? water(now, x, y) : above_water(now, x, y);
+    return y > shore ? water_at(now, x, y) : above_water(now, x, y);
   });
 }
 

@@ -7,23 +7,43 @@ cd "$(dirname "$0")/.."
 need lint
 build=$1
 
-# clang does not support all warning options of GCC.
-lint=(clang-tidy-14 -p "$build" --config-file=.clang-tidy --extra-arg=-Wno-unknown-warning-option
-  --quiet)
-
-# Parsing Qt's headers takes ten seconds, so src/desktop/ is checked as one source. The analyzer is
-# off there, as it does not know that a Qt widget owns its children.
-windows=$build/src/desktop/all_windows.cpp
-printf '#include "%s"\n' "$PWD"/src/desktop/*.cpp >"$windows"
-"${lint[@]}" --checks=-clang-analyzer-*,-bugprone-suspicious-include "$windows"
-
-lint_files_in() {
-  local checks=$1
+# lint_together CHECKS FILE...: lints files of a folder as one source, as most of the time goes into
+# their headers. If that fails, lints each file: names of two files may conflict.
+lint_together() {
+  # clang does not support all warning options of GCC.
+  local lint=(clang-tidy-14 -p "$build" --config-file=.clang-tidy --checks="$1" --quiet
+    --extra-arg=-Wno-unknown-warning-option)
   shift
-  find "$@" \( -path src/desktop -o -name '*_windows.cpp' \) -prune -o -name '*.cpp' -print0 |
-    xargs -0 -n 4 -P "$(nproc)" "${lint[@]}" --checks="$checks"
+  local all file status=0
+  mkdir -p "$build/${1%/*}"
+  all=$(mktemp --suffix=.cpp "$build/${1%/*}/lint.XXXXXX")
+  for file in "$@"; do
+    printf '#line 1 "%s"\n' "$PWD/$file"
+    cat "$file"
+  done >"$all"
+  [ $# -gt 1 ] && "${lint[@]}" "$all" >/dev/null 2>&1 || "${lint[@]}" "$@" || status=1
+  rm "$all"
+  return $status
 }
-lint_files_in '' src samples
-# The analyzer also gives false warnings for the loops of the benchmarks.
-! grep -q '/bench/data.cpp' "$build/compile_commands.json" || lint_files_in '-clang-analyzer-*' bench
+export -f lint_together
+export build
+
+# files_in FOLDER: prints the sources in the folder that are compiled on this system.
+files_in() { find "$1" -maxdepth 1 -name '*.cpp' ! -name '*_windows.cpp' ! -name 'no_*' | sort; }
+
+# Prints the arguments of lint_together, one call per line, the longest one first. The analyzer is off
+# for src/desktop, as it does not know that a Qt widget owns its children, and for the benchmarks, as
+# it gives false warnings for their loops. Each benchmark has its own main.
+list_calls() {
+  local folder
+  echo '-clang-analyzer-*' $(files_in src/desktop)
+  for folder in $(find src samples -type d ! -path src/desktop); do
+    files_in "$folder" | xargs -r -n 8 echo 'clang-analyzer-*'
+  done
+  ! grep -q '/bench/data.cpp' "$build/compile_commands.json" ||
+    files_in bench | xargs -n 1 echo '-clang-analyzer-*'
+}
+
+set -f
+list_calls | xargs -L 1 -P "$(nproc)" bash -euo pipefail -fc 'lint_together "$@"' bash
 echo "Lint is good"

@@ -14,7 +14,7 @@ namespace ostrane {
 
 namespace {
 
-constexpr png_uint_32 max_side = 32768;
+constexpr png_uint_32 max_png_side = 32768;
 // The best compression ratio of deflate.
 constexpr std::uint64_t max_inflation = 1032;
 
@@ -92,7 +92,7 @@ void choose_pixels(png_structp png, png_infop info, png_job& job) {
 
 void read_head(png_structp png, png_infop info, png_job& job) {
   png_set_read_fn(png, &job, read_bytes);
-  png_set_user_limits(png, max_side, max_side);
+  png_set_user_limits(png, max_png_side, max_png_side);
   png_set_chunk_malloc_max(png, std::size_t{8} << 20U);
   png_read_info(png, info);
   job.width = png_get_image_width(png, info);
