@@ -36,7 +36,7 @@ struct entry_file {
   ~entry_file() {
     if (is_complete) return;
     const bool created_here =
-        is_new && files::file_calls::may_name(path.system, info.stamp.identity);
+        is_new && files::file_calls::may_be_same_file(path.system, info.stamp.identity);
     file.abandon();
     if (created_here) files::file_calls::remove_file(path.system);
   }

@@ -158,13 +158,13 @@ file_info binary_file::info() {
 void binary_file::truncate() {
   flush();
   const int status = file_calls::set_size(file_, buffer_start_);
-  if (status < 0) fail(status, " cannot be written: ");
+  if (status < 0) fail(status, file_calls::cannot_write);
 }
 
 void binary_file::write_to_system(std::span<const std::byte> from) {
   while (!from.empty()) {
     const std::int64_t moved = file_calls::write_some(file_, from.data(), from.size());
-    if (moved <= 0) fail(moved < 0 ? moved : -EIO, " cannot be written: ");
+    if (moved <= 0) fail(moved < 0 ? moved : -EIO, file_calls::cannot_write);
     from = from.subspan(static_cast<std::size_t>(moved));
     buffer_start_ += moved;
   }
@@ -176,7 +176,7 @@ void binary_file::flush(bool to_disk) {
   if (writes_) write_to_system(std::span(buffer_).first(count));
   if (!to_disk) return;
   const int flushed = file_calls::flush_to_disk(file_);
-  if (flushed < 0) fail(flushed, " cannot be written: ");
+  if (flushed < 0) fail(flushed, file_calls::cannot_write);
 }
 
 void binary_file::close() {
@@ -185,7 +185,7 @@ void binary_file::close() {
   const int file = file_;
   file_ = -1;
   const int closed = file_calls::close_file(file);
-  if (closed < 0 && writes_) fail(closed, " cannot be written: ");
+  if (closed < 0 && writes_) fail(closed, file_calls::cannot_write);
 }
 
 }  // namespace files

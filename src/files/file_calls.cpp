@@ -88,7 +88,7 @@ path_match match(const fs::path& path, int file) {
   return match(path, open.stamp.identity);
 }
 
-bool may_name(const fs::path& path, const file_identity& identity) {
+bool may_be_same_file(const fs::path& path, const file_identity& identity) {
   return identity == file_identity{} || !match(path, identity).is_other();
 }
 

@@ -39,7 +39,7 @@ path_match match(const std::filesystem::path& path, const file_identity& identit
 path_match match(const std::filesystem::path& path, int file);
 
 // True unless `path` is known to name another file or none. A zero identity is unknown.
-bool may_name(const std::filesystem::path& path, const file_identity& identity);
+bool may_be_same_file(const std::filesystem::path& path, const file_identity& identity);
 
 // The errno number of an error of the standard library.
 int errno_number(const std::error_code& reason);
@@ -50,5 +50,6 @@ std::string error_text(int errno_number);
 // Throws file_error for `status`, a negative errno number. `what` is " cannot be read: " or the
 // like; the text becomes "C:\a.txt cannot be read: it is not there."
 [[noreturn]] void fail(const std::string& path, const char* what, std::int64_t status);
+constexpr const char* cannot_write = " cannot be written: ";
 
 }  // namespace files::file_calls

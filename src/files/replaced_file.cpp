@@ -18,7 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int max_tries = 100;  // to find a free name
-constexpr const char* cannot_write = " cannot be written: ";
 
 // A path without a folder lies in the current one.
 fs::path folder_of(const fs::path& path) {
@@ -70,7 +69,7 @@ replaced_file::~replaced_file() {
 void replaced_file::remove_leftovers() const {
   std::vector<listed_entry> listed;
   const int status = file_calls::list(folder_, listed);
-  if (status < 0) file_calls::fail(target_.shown, cannot_write, status);
+  if (status < 0) file_calls::fail(target_.shown, file_calls::cannot_write, status);
   for (const listed_entry& entry : listed) {
     if (!entry.is_file || !is_temporary_of(target_.system, entry.name)) continue;
     const fs::path leftover = folder_ / entry.name;
@@ -89,10 +88,10 @@ file_calls::path_match replaced_file::match(const fs::path& path) const {
 
 void replaced_file::require_own_file() const {
   const file_calls::path_match found = match(temporary_);
-  if (found.error < 0) file_calls::fail(target_.shown, cannot_write, found.error);
+  if (found.error < 0) file_calls::fail(target_.shown, file_calls::cannot_write, found.error);
   if (found.is_same) return;
-  throw file_error{file_error_number::device_error,
-                   target_.shown + cannot_write + "another program has moved the new file."};
+  throw file_error{file_error_number::device_error, target_.shown + file_calls::cannot_write +
+                                                        "another program has moved the new file."};
 }
 
 // A network file system can report a failure although it renamed the file, so the result is
@@ -103,9 +102,9 @@ void replaced_file::commit() {
   const int replaced = file_calls::replace(temporary_, target_.system);
   const file_calls::path_match found = match(target_.system);
   if (found.is_same || (found.error < 0 && replaced >= 0)) return;
-  if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
+  if (replaced < 0) file_calls::fail(target_.shown, file_calls::cannot_write, replaced);
   throw file_error{file_error_number::device_error,
-                   target_.shown + cannot_write + "another program has replaced it."};
+                   target_.shown + file_calls::cannot_write + "another program has replaced it."};
 }
 
 void replaced_file::copy_to(binary_file& to) {

@@ -12,26 +12,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* cannot_write = " cannot be written: ";
-
 }  // namespace
 
 void require_replaceable(const file_path& target, const file_identity& source) {
   std::error_code failed;
   const fs::file_status status = fs::symlink_status(target.system, failed);
   if (!fs::exists(status)) return;
-  if (fs::is_directory(status)) file_calls::fail(target.shown, cannot_write, -EISDIR);
+  if (fs::is_directory(status)) file_calls::fail(target.shown, file_calls::cannot_write, -EISDIR);
   if (!fs::is_regular_file(status) && !fs::is_symlink(status)) {
-    file_calls::fail(target.shown, cannot_write, -EACCES);
+    file_calls::fail(target.shown, file_calls::cannot_write, -EACCES);
   }
   if (!fs::is_regular_file(status)) return;
   file_info info;
   if (file_calls::info_at(target.system, info) >= 0 && info.stamp.identity == source) {
     throw file_error{file_error_number::permission_denied,
-                     target.shown + cannot_write + "it is the archive itself."};
+                     target.shown + file_calls::cannot_write + "it is the archive itself."};
   }
   const int old = file_calls::open_to_write(target.system);  // fails if it is read-only
-  if (old < 0) file_calls::fail(target.shown, cannot_write, old);
+  if (old < 0) file_calls::fail(target.shown, file_calls::cannot_write, old);
   file_calls::close_file(old);
 }
 
@@ -60,7 +58,7 @@ whole_file::whole_file(binary_file& file, file_path target, const file_identity&
 
 whole_file::~whole_file() {
   if (is_kept_) return;
-  const bool drop = file_calls::may_name(written_, identity_);
+  const bool drop = file_calls::may_be_same_file(written_, identity_);
   file_.abandon();
   if (drop) file_calls::remove_file(written_);
 }
@@ -69,7 +67,7 @@ void whole_file::keep() {
   file_.close();
   if (written_ != target_.system) {
     const int replaced = file_calls::replace(written_, target_.system);
-    if (replaced < 0) file_calls::fail(target_.shown, cannot_write, replaced);
+    if (replaced < 0) file_calls::fail(target_.shown, file_calls::cannot_write, replaced);
   }
   is_kept_ = true;
 }

@@ -51,7 +51,7 @@ bool writing_lock::try_lock(const std::string& shown_path) {
   if (file < 0) fail_to_open(path_, shown_path, file);
   // A file system without locks gives another error. Then the copies do not wait for each other.
   const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
-  // The copy that held the lock may have removed the lock file after it was opened here.
+  // Another copy may remove the lock file between our open and our lock.
   if (is_locked || file_calls::match(path_, file).is_other()) {
     file_calls::close_file(file);
     return false;
