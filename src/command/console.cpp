@@ -23,6 +23,7 @@ struct console_state {
   bool is_quiet = false;
   std::string pending;
   bool bar_is_shown = false;
+  std::string bar_name;
   clock::time_point next_bar = clock::now() + first_bar_delay;
 };
 
@@ -37,7 +38,9 @@ void write_out() {
   const int reason = errno;
   console.pending.clear();
   check_interruption();
-  if (!is_written) files::file_calls::fail("standard output:", " cannot be written: ", -reason);
+  if (!is_written) {
+    files::file_calls::fail("standard output:", files::file_calls::cannot_write, -reason);
+  }
 }
 
 }  // namespace
@@ -80,6 +83,7 @@ void print_note(std::string_view file, std::string_view text) {
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
+  if (!name.empty()) console.bar_name = printable(name);
   static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
   console.next_bar = clock::now() + bar_interval;
@@ -87,7 +91,7 @@ void show_progress(std::size_t index, std::size_t count, std::string_view name) 
   const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
   const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');
   const std::string line = "\r[" + bar + "] " + std::to_string(index) + " of " +
-                           std::to_string(count) + " " + printable(name) + "\x1B[K";
+                           std::to_string(count) + " " + console.bar_name + "\x1B[K";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

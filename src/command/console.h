@@ -29,8 +29,8 @@ void print_note(std::string_view file, std::string_view text);
 // Replaces control characters by "?".
 std::string printable(std::string_view text);
 
-// Shows the progress of a long job as a bar on standard error if that is a terminal. Throws
-// interruption after a signal to terminate.
+// Shows the progress of a long job as a bar on standard error if that is a terminal. An empty name
+// keeps the latest one. Throws interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);
 void hide_progress();
 
