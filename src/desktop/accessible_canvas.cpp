@@ -88,10 +88,11 @@ class accessible_canvas : public QAccessibleWidget {
   }
   QAccessibleInterface* childAt(int x, int y) const override {
     const QPoint at = canvas_.mapFromGlobal(QPoint(x, y));
+    if (canvas_.childAt(at) != nullptr) return QAccessibleWidget::childAt(x, y);
     const auto& pictures = canvas_.pictures();
     const auto found = std::find_if(pictures.begin(), pictures.end(),
                                     [&at](const auto& p) { return p.rect.contains(at); });
-    if (found == pictures.end()) return QAccessibleWidget::childAt(x, y);
+    if (found == pictures.end()) return nullptr;
     return picture(static_cast<std::size_t>(found - pictures.begin()));
   }
   QAccessibleInterface* focusChild() const override {

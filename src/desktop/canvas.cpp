@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "desktop/cursor_step.h"
@@ -58,7 +59,12 @@ canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent)
 
 bool canvas::mark_dirty(forms_layer::picture_box& box) {
   const auto [at, is_new] = indices_.try_emplace(&box, pictures_.size());
-  if (is_new) pictures_.push_back({&box, {}, false});
+  try {
+    if (is_new) pictures_.push_back({&box, {}, false});
+  } catch (const std::bad_alloc&) {
+    indices_.erase(at);
+    throw;
+  }
   if (std::exchange(pictures_[at->second].dirty, true)) return false;
   dirty_.push_back(at->second);
   return dirty_.size() == 1;
@@ -110,6 +116,7 @@ void canvas::paintEvent(QPaintEvent* event) {
 }
 
 forms_layer::picture_box* canvas::picture_at(const QPoint& position) const {
+  if (childAt(position) != nullptr) return nullptr;  // which covers the pictures
   const auto found = std::find_if(pictures_.rbegin(), pictures_.rend(),
                                   [&](const picture& p) { return p.rect.contains(position); });
   return found == pictures_.rend() ? nullptr : found->box;
@@ -140,8 +147,7 @@ void canvas::contextMenuEvent(QContextMenuEvent* event) {
   bool opened = false;
   if (event->reason() != QContextMenuEvent::Keyboard) {
     const forms_layer::picture_box* box = picture_at(event->pos());
-    const bool is_open_to_mouse = box != nullptr && childAt(event->pos()) == nullptr;
-    opened = is_open_to_mouse && open_menu(*box, event->globalPos());
+    opened = box != nullptr && open_menu(*box, event->globalPos());
   } else if (hasFocus() && !pictures_[cursor_].rect.isNull()) {
     const picture& p = pictures_[cursor_];
     opened = open_menu(*p.box, mapToGlobal(p.rect.center()));
@@ -178,15 +184,16 @@ void canvas::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// Without a visible picture Tab skips the canvas.
+// Without a picture that can be seen Tab skips the canvas.
 void canvas::focusInEvent(QFocusEvent* event) {
   const bool back = event->reason() == Qt::BacktabFocusReason;
   const bool by_tab = back || event->reason() == Qt::TabFocusReason;
   if (pictures_[cursor_].rect.isNull()) move_cursor(Qt::Key_Home);
-  if (by_tab && pictures_[cursor_].rect.isNull()) {
+  const QRect rect = pictures_[cursor_].rect;
+  if (by_tab && (rect.isNull() || childAt(rect.center()) != nullptr)) {
     focusNextPrevChild(!back);
   } else {
-    update(with_cursor(pictures_[cursor_].rect));
+    update(with_cursor(rect));
   }
 }
 

@@ -19,7 +19,7 @@ class canvas : public QWidget {
 
   struct picture {
     forms_layer::picture_box* box;
-    QRect rect;  // on the screen; null while the box is hidden
+    QRect rect;  // in the canvas; null while the box is hidden
     bool dirty;
   };
 
