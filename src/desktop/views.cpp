@@ -27,7 +27,9 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
   }
 }
 
+// A change that cannot be recorded, as memory ran out, is shown by the next sync.
 void views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
+  const bool failed = std::exchange(failed_, true);
   if (changed.kind == forms_layer::control_kind::picture_box) {
     const auto at = canvases_.find(&changed.parent);
     const bool first = at != canvases_.end() &&
@@ -38,6 +40,7 @@ void views::mark_dirty(forms_layer::control& changed, forms_layer::property_id w
     const bool first = at != by_control_.end() && at->second->mark_dirty(what);
     if (first) dirty_.push_back(at->second);
   }
+  failed_ = failed;
 }
 
 // A lack of memory loses the lists of the dirty ones, so the next sync shows all.
