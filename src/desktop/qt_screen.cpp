@@ -78,30 +78,28 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
-  if (before_box_ == nullptr) {
-    before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
-  }
+  store_focus();
   show_message(title, text, topmost(nullptr));
-  box_had_focus_ = true;
 }
 
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
-  return desktop::pick_item(opened, at, topmost(nullptr));
+  return desktop::pick_item(opened, at, window_of(opened.owner));
 }
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
   sync();
-  return desktop::ask_save_path(question, topmost(nullptr));
+  store_focus();
+  return desktop::ask_save_path(question, before_box_ == nullptr ? topmost(nullptr) : before_box_);
 }
 
 void qt_screen::copy_picture(const forms_layer::picture_box& shown) {
   QGuiApplication::clipboard()->setImage(image_of(shown));
 }
 
-// No file is open and there is nothing to save.
-void qt_screen::end_process() { std::_Exit(EXIT_SUCCESS); }
+// Ends main(), which lets Qt pass on the clipboard.
+void qt_screen::end_process() { QApplication::exit(EXIT_SUCCESS); }
 
 form_window* qt_screen::window_of(const forms_layer::form& shown) const {
   const auto at = windows_.find(&shown);
@@ -137,13 +135,17 @@ void qt_screen::show_frame_if_due() {
 
 // Show new windows before hiding old ones, so that the screen is never empty.
 void qt_screen::sync_forms() {
-  const std::vector<forms_layer::form*> dirty = std::exchange(dirty_forms_, {});
+  const std::vector<forms_layer::form*> dirty = dirty_forms_;
   for (forms_layer::form* form : dirty) {
     if (form->Visible()) show_window(*form);
   }
   for (forms_layer::form* form : dirty) {
     if (!form->Visible()) hide_window(*form);
   }
+  // If memory runs out before, the next sync shows and hides them.
+  std::erase_if(dirty_forms_, [&dirty](const forms_layer::form* form) {
+    return std::find(dirty.begin(), dirty.end(), form) != dirty.end();
+  });
 }
 
 void qt_screen::show_window(forms_layer::form& shown) {
@@ -185,6 +187,14 @@ form_window* qt_screen::topmost(const forms_layer::form* but) const {
   const auto stays = [but](const form_window* w) { return &w->form != but && w->form.Visible(); };
   const auto at = std::find_if(on_screen_.rbegin(), on_screen_.rend(), stays);
   return at == on_screen_.rend() ? nullptr : *at;
+}
+
+// Call before a box or dialog takes the focus.
+void qt_screen::store_focus() {
+  if (before_box_ == nullptr) {
+    before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
+  }
+  box_had_focus_ = true;
 }
 
 // Windows that were shown during a handler and are still visible get the focus at its end. After a

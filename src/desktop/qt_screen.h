@@ -50,6 +50,7 @@ class qt_screen : public forms_layer::screen {
   void hide_window(forms_layer::form& shown);
   form_window& made_window(forms_layer::form& shown);
   form_window* topmost(const forms_layer::form* but) const;
+  void store_focus();
   void give_focus();
 
   std::chrono::steady_clock::time_point last_frame_;
