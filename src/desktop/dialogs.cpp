@@ -35,7 +35,7 @@ QString with_ending(const QString& name, const std::vector<file_kind>& kinds,
   return stem + to_screen(wanted.ending);
 }
 
-void select_kind(QFileDialog& dialog, const file_kind& kind) {
+void set_default_suffix(QFileDialog& dialog, const file_kind& kind) {
   dialog.setDefaultSuffix(QFileInfo(to_screen(kind.ending)).suffix());
 }
 
@@ -51,11 +51,13 @@ forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {
   static QString folder = QDir::homePath();  // of the last saved file
   QFileDialog dialog(owner, to_screen(question.title), folder);
+  // With a dialog of the desktop Qt adds the extension after the question to replace a file.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   QStringList filters;
   for (const file_kind& kind : question.kinds) filters += name_filter(kind);
   dialog.setNameFilters(filters);
-  select_kind(dialog, question.kinds.front());
+  set_default_suffix(dialog, question.kinds.front());
   dialog.selectFile(to_screen(question.stem + question.kinds.front().ending));
   const auto kind_selected = [&] {
     return static_cast<std::size_t>(
@@ -64,7 +66,7 @@ forms_layer::save_answer ask_save_path(const forms_layer::save_question& questio
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&] {
     const file_kind& kind = question.kinds[kind_selected()];
     const QString name = QFileInfo(dialog.selectedFiles().value(0)).fileName();
-    select_kind(dialog, kind);
+    set_default_suffix(dialog, kind);
     dialog.selectFile(with_ending(name, question.kinds, kind));
   });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
