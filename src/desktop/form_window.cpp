@@ -2,7 +2,7 @@
 
 #include <QCloseEvent>
 #include <QContextMenuEvent>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QWindow>
 #include <utility>
@@ -109,7 +109,11 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
   winId();
   windowHandle()->setTransientParent(owner);
   const bool first = !std::exchange(placed_, true);
-  if (first) last_position_ = first_position(*this, form.designed, centre_of);
+  // The screen of its last position may have been unplugged.
+  const QPoint last_centre = QRect(last_position_, size()).center();
+  if (first || QGuiApplication::screenAt(last_centre) == nullptr) {
+    last_position_ = first_position(*this, form.designed, centre_of);
+  }
   if (!isMaximized()) setGeometry(QRect(last_position_, size()));
   // What the user types during a handler must arrive at the control that has the focus.
   setAttribute(Qt::WA_ShowWithoutActivating, in_handler);
