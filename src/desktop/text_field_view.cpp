@@ -1,5 +1,6 @@
 #include "desktop/text_field_view.h"
 
+#include <QSignalBlocker>
 #include <algorithm>
 
 #include "desktop/screen_text.h"
@@ -12,7 +13,8 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
     : view_of(shown, parent) {
   setReadOnly(shown.designed.locked);
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
+  // A screen reader's edit does not emit textEdited.
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& edited) {
     forms_layer::user::type(shown_, from_screen(edited));
     // The tool can reject the edit. If its text is then unchanged, it reports no change.
     if (!forms_layer::handler_running()) show_content();
@@ -20,6 +22,7 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
 }
 
 void text_field_view::show_content() {
+  const QSignalBlocker not_an_edit(this);
   const QString now = to_screen(shown_.Text());
   // The limit applies to the user's input, not to texts of the tool.
   const int limit = shown_.designed.max_length;
