@@ -1,8 +1,8 @@
 // bench_bare_copy extract|build FOLDER
 // Does the same as bench_job with a plain loop of open, read, write and close, and prints the
 // microseconds. extract splits ostrane.dat by its index into the folder "out". build asks for the
-// size of each file in FOLDER, as an index needs it, and writes an index and the files into
-// OSTRANE.DAT.
+// size of each file in FOLDER, as an index needs it, and writes as many bytes as an index and the
+// files into OSTRANE.DAT.
 #include <fcntl.h>
 #include <unistd.h>
 

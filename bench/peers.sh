@@ -20,6 +20,7 @@ bin=$(cd "$build/bin" && pwd)
 
 data=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/ostrane-peers.XXXXXX")
 trap 'rm -rf "$data"' EXIT
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$data}  # else each program with Qt prints a warning
 "$bin/bench_make_data" "$data"
 tar -C "$data/names/empty" -cf "$data/names.tar" .
 tar -C "$data/files" -cf "$data/files.tar" .
