@@ -43,13 +43,13 @@ const std::pair<call_fault, std::string> faults[] = {
     {{.kind = call_fault::writes_nothing}, "Input/output error"}};
 
 struct failing_disk_test : tool_test {
-  // Opens an archive, the dialog of the job and makes the file that it replaces.
+  // Opens an archive and the job's dialog, and creates the file that the job replaces.
   void prepare(const file_job& job) {
     for (const char* drive : {"c", "d"}) fs::remove_all(root / drive);
     write("D:\\work\\a.txt", some_bytes(70000));
     write("D:\\work\\b.txt", "");
     write("D:\\work\\Ostrane.dat", "the old one");
-    write("D:\\out\\B.TXT", "older");  // stays, as its entry is empty
+    write("D:\\out\\B.TXT", "older");  // an empty entry does not overwrite it
     write("D:\\lists\\shplist.txt", "old");
     write("C:\\Shiplist-compare.txt", "old");
     write("D:\\lists\\ships.txt", "X\r\n\r\n");

@@ -27,8 +27,8 @@ struct import_plan {
 import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem);
 
 // Takes identifier, heads and order from an old icon file. Its drawable icons get the PNGs of
-// `plan` in order; its other icons keep their positions. Without a PNG for a drawable icon it and
-// the icons after it are left out. Throws file_error and data_error.
+// `plan` in order; its other icons keep their positions. The first drawable icon without a PNG and
+// all icons after it are left out. Throws file_error and data_error.
 import_plan plan_like(const import_plan& plan, const files::file_path& old_file);
 
 }  // namespace ostrane::command

@@ -22,7 +22,7 @@ class picture_array {
     return *elements_.at(static_cast<std::size_t>(index));
   }
 
-  // Adds element `index`: hidden, else with the initial state of element 0. Does nothing unless
+  // Adds element `index`: hidden, otherwise as element 0 was designed. Does nothing unless
   // `index` is that of the next element.
   void Load(std::int32_t index) {
     if (index != loaded()) return;

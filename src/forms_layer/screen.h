@@ -53,7 +53,7 @@ class screen {
   virtual void menu_changed(form& owner, menu_item& changed) = 0;
   virtual void timer_changed(timer& changed) = 0;
 
-  // Repaint what changed before the call returns, without handling user input.
+  // Let the screen repaint what changed, without handling user input. It may limit the rate.
   virtual void refresh(form& shown) = 0;
   virtual void refresh(control& shown) = 0;
 

@@ -82,7 +82,7 @@ void draw_icon() {
 }
 
 void draw_next_icon() {
-  // The slot exists before it is counted, also if memory runs out.
+  // Load before counting, so that a bad_alloc leaves the count right.
   const auto slot = static_cast<std::int16_t>(tool_state.current_slot + 1);
   load_slot(slot);
   tool_state.current_slot = slot;

@@ -39,16 +39,18 @@ int append_bytes(GifFileType* gif, const GifByteType* bytes, int count) {
 
 // The new index for each index, and the one for unset cells, if there are any.
 struct frame_indices {
-  std::array<std::uint8_t, 256> of = {};
+  std::array<std::uint8_t, 256> new_index = {};
   int unset = NO_TRANSPARENT_COLOR;
 };
 
 frame_indices indices_of(const gif_job& job, const picture& drawn) {
   frame_indices indices;
-  for (std::size_t i = 0; i < indices.of.size(); ++i) indices.of[i] = static_cast<std::uint8_t>(i);
+  for (std::size_t i = 0; i < indices.new_index.size(); ++i)
+    indices.new_index[i] = static_cast<std::uint8_t>(i);
   const pixel_form form = form_of(drawn);
   if (form.unset_index) indices.unset = *form.unset_index;
   if (form.is_indexed) return indices;
+  // All 256 indices are used and unset cells need one, so the rarest one is merged.
   std::array<std::int64_t, 256> uses = {};
   for (int row = 0; row < drawn.rows(); ++row) {
     for (const std::int16_t cell : drawn.row(row)) {
@@ -64,7 +66,7 @@ frame_indices indices_of(const gif_job& job, const picture& drawn) {
       nearest = i;
     }
   }
-  indices.of[rarest] = static_cast<std::uint8_t>(nearest);
+  indices.new_index[rarest] = static_cast<std::uint8_t>(nearest);
   indices.unset = static_cast<int>(rarest);
   job.inexact += uses[rarest];
   return indices;
@@ -87,10 +89,11 @@ void put_frame(const gif_job& job, const picture& drawn) {
     for (int column = 0; column < width; ++column) {
       const std::int16_t cell = drawn.at(column / job.scale, row / job.scale);
       line[static_cast<std::size_t>(column)] = static_cast<GifPixelType>(
-          cell == picture::unset ? indices.unset : indices.of[static_cast<std::size_t>(cell)]);
+          cell == picture::unset ? indices.unset
+                                 : indices.new_index[static_cast<std::size_t>(cell)]);
     }
-    std::vector<GifPixelType> put = line;  // giflib writes into it
-    require(job, EGifPutLine(job.gif, put.data(), width));
+    std::vector<GifPixelType> scratch = line;  // giflib writes into it
+    require(job, EGifPutLine(job.gif, scratch.data(), width));
   }
 }
 

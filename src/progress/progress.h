@@ -14,7 +14,7 @@ void show_bars(bool shown);
 void show_progress(const char* caption);
 void hide_progress(const char* caption);
 
-// Repaint `Form3` before the call returns. The second one also sets its text.
+// Let the screen repaint `Form3`. The second one also sets its text.
 void refresh_progress();
 void show_progress_text(const std::string& text);
 
@@ -27,14 +27,15 @@ void set_file_range(std::int32_t max);
 // `ProgressBar2` there. `tick` counts the calls since the last move; it starts at 0.
 void move_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index);
 
-// Moves `ProgressBar1`.
+// Moves `ProgressBar1` to this number of bytes.
 void move_file_bar(std::int32_t value);
 
-// Writes the working text into `Form3` and repaints it; neither shows nor hides anything.
+// Writes the working text into `Form3` and lets the screen repaint it; neither shows nor hides
+// anything.
 void show_working_message();
 
-// Shows `Form3` around a text that stays until a click on it, which is `close_report`: that hides
-// the form and empties it.
+// Shows a text in `Form3` until the user clicks it. The click calls `close_report`, which hides and
+// clears the form.
 void show_report(const std::string& caption, const std::string& text);
 void close_report();
 

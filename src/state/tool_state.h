@@ -35,7 +35,7 @@ struct tool_state_record {
 
   icon_stream stream;  // of the current icon
 
-  std::int32_t game_pal_offset = 0;  // offset of GAME.PAL in the archive, 0 until one is found
+  std::int32_t game_pal_offset = 0;  // of GAME.PAL in the latest archive that had one; 0 before
   ostrane::stored_palette stored_palette = {};
 
   std::int32_t record_count = 0;  // records of the index, end record included
@@ -67,7 +67,7 @@ struct tool_state_record {
   std::int16_t twips_per_pixel_y = 0;
 
   flag browse_ready = flag_false;  // a motion was started: Command3 and Command4 step
-  std::int16_t shown_slot = 0;     // the slot on top of the stack
+  std::int16_t shown_slot = 0;     // the slot from which Prev and Next step
   std::int16_t loop_counter = 0;   // slot that the motion shows
   std::int16_t motion_last_slot = 0;
 
@@ -83,8 +83,7 @@ struct tool_state_record {
   // Not a count: the last slot of the series drawn last. It shows nothing if its icon did not fit.
   std::int16_t slots_drawn = 0;
   std::int32_t series_first_icon = 0;  // number of the icon in slot 1
-  // Not the next icon, which is next_icon, but the last one of the series: the one before next_icon
-  // when place_icon_slot last ran. 0 if it has not run; refused icons after that do not count.
+  // Number of the last icon placed in the series, despite its name; 0 before.
   std::int32_t series_next_icon = 0;
   flag slot_fits = flag_false;  // false after place_icon_slot if the slot does not fit into Frame1
   // A damaged file may hold thousands of bad icons, so a series reports one size that no slot can
