@@ -45,8 +45,9 @@ struct frame_indices {
 
 frame_indices indices_of(const gif_job& job, const picture& drawn) {
   frame_indices indices;
-  for (std::size_t i = 0; i < indices.new_index.size(); ++i)
+  for (std::size_t i = 0; i < indices.new_index.size(); ++i) {
     indices.new_index[i] = static_cast<std::uint8_t>(i);
+  }
   const pixel_form form = form_of(drawn);
   if (form.unset_index) indices.unset = *form.unset_index;
   if (form.is_indexed) return indices;
