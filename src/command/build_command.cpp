@@ -21,7 +21,8 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
-  fs::path target_name = {};  // of the file to replace; "" if it is not in the folder
+  fs::path old = {};          // the file to replace; "" if it is not in the folder
+  std::string old_name = {};  // in upper case
   build_list list = {};
   std::vector<make_record> files = {};
   std::vector<dat_record> records = {};
@@ -30,7 +31,10 @@ struct build_job {
 // An archive does not contain itself.
 bool is_target(const build_job& job, const std::string& name) {
   if (files::upper_case(name) == archive_name) return true;
-  return !job.target_name.empty() && files::system_name(name) == job.target_name;
+  if (job.old.empty() || files::upper_case(name) != job.old_name) return false;
+  // Windows finds the old file under each spelling; elsewhere this may be another file.
+  std::error_code failed;
+  return fs::equivalent(job.folder.system / files::system_name(name), job.old, failed);
 }
 
 void list_files(build_job& job) {
@@ -90,7 +94,11 @@ int build(const build_options& options) {
   const files::file_path old = {files::existing_spelling(job.target.system), job.target.shown};
   std::error_code failed;
   const fs::path parent = fs::absolute(old.system, failed).parent_path();
-  if (fs::equivalent(parent, job.folder.system, failed)) job.target_name = old.system.filename();
+  if (fs::equivalent(parent, job.folder.system, failed)) {
+    job.old = old.system;
+    job.old_name =
+        files::upper_case(files::name_as_text(old.system.filename().native()).value_or(""));
+  }
   list_files(job);
   if (options.archive != "-") files::require_replaceable(old);
   job.records = measure_files(job.list, job.files);
