@@ -36,7 +36,7 @@ std::int64_t size_of(const archive_index& old, const rewritten_entry& entry) {
   return size;
 }
 
-// They would be lost.
+// Refuses an archive with bytes that belong to no entry, as the copy would lose them.
 void refuse_other_bytes(const files::file_path& path, const archive_index& old) {
   const std::int64_t before =
       std::int64_t{old.records.front().offset} - first_entry_offset(old.records.size() - 1);

@@ -116,7 +116,7 @@ void canvas::paintEvent(QPaintEvent* event) {
 }
 
 forms_layer::picture_box* canvas::picture_at(const QPoint& position) const {
-  if (childAt(position) != nullptr) return nullptr;  // which covers the pictures
+  if (childAt(position) != nullptr) return nullptr;  // a control covers the pictures
   const auto found = std::find_if(pictures_.rbegin(), pictures_.rend(),
                                   [&](const picture& p) { return p.rect.contains(position); });
   return found == pictures_.rend() ? nullptr : found->box;

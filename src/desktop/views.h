@@ -32,7 +32,7 @@ class views {
   std::unordered_map<const forms_layer::container*, canvas*> canvases_;
   std::vector<control_view*> dirty_;
   std::vector<canvas*> dirty_canvases_;
-  bool failed_ = false;  // a change or the latest sync
+  bool failed_ = false;  // memory ran out during a change or a sync
 };
 
 }  // namespace desktop
