@@ -17,7 +17,7 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
       {"\xC3\xA9t\xC3\xA9", "\xC9T\xC9"}};
   // Old archives in any case and leftovers of a build do not become entries, and are replaced.
   file_map named = {{".hidden", "no entry"},
-                    {".OSTRANE.DAT.new", "left"},
+                    {".OSTRANE.DAT.0123456789abcdef.new", "left"},
                     {"oStrane.dat", "old"},
                     {"ostrane.dat", "old"}};
   std::vector<entry> entries;
@@ -54,7 +54,7 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
       {enlarge_b, nothing,
        "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
        "be."},
-      {type_no_drive, nothing, "There is no drive Q."},
+      {type_no_drive, nothing, "Q:\\ cannot be found: there is no such drive."},
       {make_lock_folder, nothing, "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };
   for (const auto& [before_click, between_passes, fault] : cases) {

@@ -153,20 +153,24 @@ TEST_F(builds_test, LosingTheTemporaryFileKeepsTheOldArchive) {
 TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   restart_beside("OSTRANE.DAT");
   write("C:\\elsewhere", "");
-  const texts kept = {".OSTRANE.DAT.2.new", ".OSTRANE.DAT.3.new", ".OSTRANE.DAT.x.new",
-                      ".OTHER.DAT.1.new"};
+  const std::string time = "000000000000000";
+  const texts kept = {".OSTRANE.DAT." + time + "2.new", ".OSTRANE.DAT." + time + "3.new",
+                      ".OSTRANE.DAT.x.new", ".other.dat." + time + "1.new", ".OTHERS.lock"};
   for (const std::string& name : kept) write("C:\\work\\" + name, "");
   const fs::path link = disk_path("C:\\work\\" + kept[1]);
   fs::remove(link);
   fs::create_symlink("../elsewhere", link);
-  write("C:\\work\\.OSTRANE.DAT.1.new", "");
-  write("C:\\work\\.OSTRANE.DAT.new", "");
+  for (const char* name : {".OSTRANE.DAT.", ".F00.DAT."}) {
+    write("C:\\work\\" + (name + time) + "1.new", "");
+    write("C:\\work\\" + std::string(name) + "lock", "");
+  }
   const int held = open(disk_path("C:\\work\\" + kept[0]).c_str(), O_RDONLY);
   EXPECT_EQ(flock(held, LOCK_EX), 0);
   build_in();
   close(held);
   texts names = kept;
   names.insert(names.end(), {"OSTRANE.DAT", "a.txt", "b.txt", "c.txt"});
+  std::sort(names.begin(), names.end());
   EXPECT_EQ(names_in("C:\\work"), names);
   EXPECT_TRUE(fs::is_symlink(link) && fs::exists(link));
 }

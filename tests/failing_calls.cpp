@@ -25,7 +25,9 @@ auto record(std::string_view name, const auto& call) {
   if (fault.kind == call_fault::stops) return call();
 #endif
   using result = decltype(call());
-  if (fault.kind == call_fault::writes_nothing) return name == "write_some" ? result{} : call();
+  if (fault.kind == call_fault::does_nothing) {
+    return name == "write_some" || name == "replace" ? result{} : call();
+  }
   // A failing close or remove still takes effect, and a failing write writes a part.
   const bool fails_late = name == "close_file" || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {
@@ -44,7 +46,8 @@ using table = files::system_call_table;
 
 template <call_name Name, auto Member>
 struct counted;
-template <call_name Name, typename Result, typename... Args, Result (*table::*Member)(Args...)>
+template <call_name Name, typename Result, typename... Args,
+          files::system_call<Result(Args...)> table::*Member>
 struct counted<Name, Member> {
   static Result call(Args... args) {
     return record(Name.text, [&] { return (real.*Member)(args...); });
@@ -67,12 +70,12 @@ table counted_calls() {
            COUNTED(seek_to), COUNTED(set_size), COUNTED(info_of), COUNTED(info_at),
            COUNTED(copy_permissions), COUNTED(lock), COUNTED(flush_to_disk), COUNTED(close_file),
            COUNTED(remove_file), COUNTED(replace), COUNTED(flush_folder), COUNTED(list)>(all);
-  all.read_some = [](int file, std::byte* to, std::size_t count) {
+  all.read_some = +[](int file, std::byte* to, std::size_t count) {
     return record("read_some", [&] {
       return real.read_some(file, to, std::min(half(count), current->max_read));
     });
   };
-  all.write_some = [](int file, const std::byte* from, std::size_t count) {
+  all.write_some = +[](int file, const std::byte* from, std::size_t count) {
     return record("write_some", [&] { return real.write_some(file, from, half(count)); });
   };
   return all;

@@ -15,7 +15,7 @@ struct call_fault {
     fails,           // returns -`reason` without the call; a write writes half first
     lies,            // returns -`reason` after the call
     interrupted,     // returns -EINTR once
-    writes_nothing,  // a write returns 0
+    does_nothing,    // a write returns 0, a rename reports success
     kills,           // kills the process
     stops,           // stops the process until SIGCONT
   } kind = fails;

@@ -4,10 +4,10 @@
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/file_system.h"
-#include "files/hidden_name.h"
+#include "files/file_writer.h"
 #include "files/paths.h"
-#include "files/replaced_file.h"
 #include "files/system_name.h"
+#include "files/work_files.h"
 #include "tool_fixture.h"
 
 // Case-sensitive names, links and pipes.
@@ -39,13 +39,15 @@ TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
   EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
 }
 
-// Hidden names are cut between characters, as some file systems refuse other bytes. A file is not
-// replaced in a folder that cannot be listed, which may hold it under a name in another case.
+// Hidden names are cut between characters, as some file systems refuse other bytes. A file that must
+// be the only one of its spellings needs a listing of its folder.
 TEST_F(files_posix_test, ReplacesLongNamesAndNeedsAFolderListing) {
   const fs::path name = "a" + files::to_utf8(std::string(120, '\xE9'));
   EXPECT_TRUE(files::name_as_text(files::lock_beside(name).native()));
   const failing_calls unlisted("list", EACCES);
-  EXPECT_THROW(files::replaced_file({disk_path("D:\\x.txt"), ""}), files::file_error);
+  files::binary_file file;
+  const files::write_rules rules = {.mode = files::write_mode::durable, .is_only_spelling = true};
+  EXPECT_THROW(files::file_writer(file, {disk_path("D:\\x.txt"), ""}, rules), files::file_error);
 }
 
 TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {

@@ -43,36 +43,62 @@ TEST_F(lists_test, ReplacingAListKeepsPermissionsLinksAndOtherSpellings) {
 TEST_F(lists_test, RefusesToOverwriteTheOpenArchive) {
   restart("D:\\");
   open_archive({{"A", "bytes"}});
-  for (const char* target : {"ostrane.dat", "oSTRANE.dat"}) {
-    fs::remove(disk_path("D:\\shplist.txt"));
-    fs::create_symlink(disk_path("C:\\") / target, disk_path("D:\\shplist.txt"));
-    user::click(Form1.mnu_save);
-    EXPECT_EQ(new_messages(),
-              texts{"The list of files was not saved. shplist.txt cannot be written: "
-                    "it is the open archive."});
-  }
+  fs::create_symlink(disk_path("C:\\ostrane.dat"), disk_path("D:\\shplist.txt"));
+  user::click(Form1.mnu_save);
+  EXPECT_EQ(new_messages(),
+            texts{"The list of files was not saved. shplist.txt cannot be written: "
+                  "it is the open archive."});
   EXPECT_EQ(read("C:\\ostrane.dat"), archive_bytes({{"A", "bytes"}}));
 }
 
-// As in a read-only folder, in a sticky one and for a file that is a mount point.
+// As in a read-only folder, in a sticky one and for a file that is a mount point. A write that is
+// refused for such a reason leaves the old list.
 TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
-  for (const auto& [call, reason] : {std::pair{"open_lock", EACCES}, {"replace", EBUSY}}) {
-    write("D:\\shplist.txt", std::string(1000, 'o'));
-    const failing_calls failing(call, reason);
-    save_list();
-    EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", saved}}));
+  const std::tuple<const char*, std::vector<int>, bool> cases[] = {
+      {"open_lock", {EACCES, EPERM, EROFS}, true},
+      {"open_new", {EACCES, EPERM, EROFS}, false},
+      {"replace", {EACCES, EPERM, EBUSY}, true},
+      {"write_some", {EACCES, EPERM, EROFS, EBUSY}, false},
+      {"flush_to_disk", {EACCES, EPERM, EROFS, EBUSY}, false}};
+  const std::string old(50, 'o');
+  for (const auto& [call, reasons, is_overwritten] : cases) {
+    for (const int reason : reasons) {
+      SCOPED_TRACE(testing::Message() << call << reason);
+      write("D:\\shplist.txt", old);
+      {
+        const failing_calls failing(call, reason);
+        save_list();
+      }
+      EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", is_overwritten ? saved : old}}));
+      EXPECT_EQ(new_messages().back().starts_with("The list of files was not"), !is_overwritten);
+    }
   }
+}
+
+// Its other name may be a private file, whose permissions must stay.
+TEST_F(lists_test, RefusesALockFileWithSeveralNames) {
+  write("D:\\private", "");
+  chmod(disk_path("D:\\private").c_str(), 0600);
+  fs::create_hard_link(disk_path("D:\\private"), disk_path("D:\\.SHPLIST.TXT.lock"));
+  save_list();
+  EXPECT_EQ(new_messages(), texts{"The list of files was not saved. .SHPLIST.TXT.lock cannot be "
+                                  "opened: it has several names."});
+  EXPECT_EQ(fs::status(disk_path("D:\\private")).permissions(), fs::perms{0600});
 }
 
 // Only the owner can open a new file until it has the permissions of the old one. A group that it
 // cannot have gets those of others. Every user can lock.
 TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {
   const auto mode_of = [](const char* name) { return fs::status(disk_path(name)).permissions(); };
-  const auto mode_after_replacing = [&](mode_t mask) {
+  const auto mode_after_replacing = [&](mode_t mask, const char* failing_name) {
     umask(mask);
-    files::text_writer writer(files::to_file_path("D:\\old"));
-    EXPECT_EQ(mode_of("D:\\.OLD.lock"), fs::perms{0666});
-    writer.close();
+    const auto checked_call = [&](const std::string& call) {
+      if (call != "replace") return;
+      EXPECT_EQ(mode_of("D:\\.OLD.lock"), fs::perms{0666});
+    };
+    failing_calls watched(INT32_MAX, {.reason = EPERM}, failing_name);
+    watched.before_call = checked_call;
+    files::write_text(files::to_file_path("D:\\old"), "");
     return mode_of("D:\\old");
   };
   write("D:\\old", "");
@@ -82,11 +108,10 @@ TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {
   for (const char* own : {"", "d"}) fs::permissions(root / own, fs::perms::all);
   run_in_process([&] {
     drop_root();
-    EXPECT_EQ(mode_after_replacing(077), fs::perms{is_root && geteuid() != 0 ? 0644U : 0664U});
+    EXPECT_EQ(mode_after_replacing(077, ""), fs::perms{is_root && geteuid() != 0 ? 0644U : 0664U});
   });
   run_in_process([&] {
-    const failing_calls failing("copy_permissions", EPERM);
-    EXPECT_EQ(mode_after_replacing(022), fs::perms{0600});
+    EXPECT_EQ(mode_after_replacing(022, "copy_permissions"), fs::perms{0600});
   });
 }
 

@@ -40,7 +40,7 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
   for (const char* name : {".HID.TXT", "\xCE\xA9.TXT", "a\\b", "ok", ".SHPLIST.TXT.lock"}) {
     write_bytes(disk_path("C:\\work") / name, "");
   }
-  write("C:\\work\\.SHPLIST.TXT.1f.new", "A");
+  write("C:\\work\\.SHPLIST.TXT.000000000000001f.new", "A");
   open_build_dialog();
   write("C:\\work\\late", "");
   user::click(Form5.Command1);

@@ -7,6 +7,7 @@
 #include "data/extraction.h"
 #include "files/failure.h"
 #include "files/paths.h"
+#include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen_services.h"
@@ -60,6 +61,7 @@ void extract_one_entry() {
   extraction_result result;
   std::string failure = files::failure_of(open_archive_file);
   if (failure.empty()) {
+    files::clear_leftovers(answer.path.parent_path());
     result = extract_to(answer.path);
     failure = result.stopped;
   }

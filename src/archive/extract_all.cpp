@@ -9,6 +9,7 @@
 #include "files/failure.h"
 #include "files/file_system.h"
 #include "files/paths.h"
+#include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms/form4.h"
 #include "forms_layer/message_box.h"
@@ -38,6 +39,7 @@ std::string prepare(extraction_job& job) {
   }
   return files::failure_of([&job] {
     job.system_folder = files::system_path(job.folder, job.names);
+    files::clear_leftovers(job.system_folder);
     open_archive_file();
   });
 }

@@ -9,7 +9,7 @@
 #include "files/code_page.h"
 #include "files/file_system.h"
 #include "files/system_name.h"
-#include "files/whole_file.h"
+#include "files/file_writer.h"
 
 namespace ostrane::command {
 
@@ -91,7 +91,11 @@ int build(const build_options& options) {
   } else {
     job.target = named_link_target(options.archive);
   }
-  const files::file_path old = {files::existing_spelling(job.target.system), job.target.shown};
+  // The game finds its archive under each spelling; another name means itself only.
+  const files::file_path old = {options.archive.empty()
+                                    ? files::existing_spelling(job.target.system)
+                                    : job.target.system,
+                                job.target.shown};
   std::error_code failed;
   const fs::path parent = fs::absolute(old.system, failed).parent_path();
   if (fs::equivalent(parent, job.folder.system, failed)) {
@@ -100,7 +104,7 @@ int build(const build_options& options) {
         files::upper_case(files::name_as_text(old.system.filename().native()).value_or(""));
   }
   list_files(job);
-  if (options.archive != "-") files::require_replaceable(old);
+  if (options.archive != "-") files::require_writable(old);
   job.records = measure_files(job.list, job.files);
   write(job);
   return report_skipped_files(job);

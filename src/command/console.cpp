@@ -7,7 +7,7 @@
 
 #include "command/interruption.h"
 #include "command/program.h"
-#include "files/file_calls.h"
+#include "files/file_error.h"
 
 namespace ostrane::command {
 
@@ -39,7 +39,7 @@ void write_out() {
   console.pending.clear();
   check_interruption();
   if (!is_written) {
-    files::file_calls::fail("standard output:", files::file_calls::cannot_write, -reason);
+    files::fail("standard output:", files::file_action::write, -reason);
   }
 }
 

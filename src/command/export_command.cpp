@@ -11,7 +11,7 @@
 #include "data/palette.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
-#include "files/whole_file.h"
+#include "files/file_writer.h"
 #include "pictures/icon_exporter.h"
 #include "pictures/png_writer.h"
 
@@ -51,7 +51,7 @@ files::file_path target_of(const entries_export& job, const std::string& name) {
 
 void write_export(entries_export& job, const std::string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
-  write_whole_file(job.output, target_of(job, name), bytes, job.stamp.identity);
+  files::write_bytes(job.output, target_of(job, name), bytes, {.source = job.stamp.identity});
 }
 
 void export_icons(entries_export& job, const exported_entry& entry) {

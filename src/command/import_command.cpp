@@ -13,7 +13,6 @@
 #include "data/counted.h"
 #include "data/data_error.h"
 #include "data/palette.h"
-#include "files/whole_file.h"
 #include "pictures/png_reader.h"
 
 namespace ostrane::command {
@@ -42,7 +41,7 @@ struct import_job {
 shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finder& colours,
                       files::binary_file& file) {
   if (!planned.png) return {planned.known->head, ""};
-  const std::string bytes = read_whole_file(file, *planned.png);
+  const std::string bytes = read_bytes(file, *planned.png);
   const png_picture read = read_png(bytes, planned.png->shown, colours);
   job.inexact_pixels += read.inexact;
   if (read.inexact > 0) ++job.inexact_pictures;

@@ -8,9 +8,8 @@
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "files/code_page.h"
-#include "files/file_calls.h"
+#include "files/file_error.h"
 #include "files/text.h"
-#include "files/whole_file.h"
 #include "pictures/icon_json.h"
 
 namespace ostrane::command {
@@ -28,7 +27,7 @@ files::file_path as_file_path(const fs::path& path) { return {path, argument_of_
 void add_export(import_plan& plan, const fs::path& json) {
   files::binary_file file;
   const files::file_path path = as_file_path(json);
-  const exported_icons exported = read_icon_json(read_whole_file(file, path), path.shown);
+  const exported_icons exported = read_icon_json(read_bytes(file, path), path.shown);
   if (exported.scale != 1) {
     throw data_error(path.shown + " was exported at scale " + std::to_string(exported.scale) +
                      "; export at scale 1.");
@@ -64,8 +63,8 @@ std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const
 void add_folder(import_plan& plan, const std::string& folder, const std::string& stem) {
   std::vector<files::listed_entry> listed;
   const fs::path path = path_of_argument(folder);
-  const int failed = files::file_calls::list(path, listed);
-  if (failed < 0) files::file_calls::fail(folder + ":", " cannot be read: ", failed);
+  const int failed = files::system_calls.list(path, listed);
+  if (failed < 0) files::fail(folder + ":", files::file_action::read, failed);
   std::vector<fs::path> files;
   for (const files::listed_entry& entry : listed) {
     if (entry.is_file && !entry.is_hidden) files.push_back(path / entry.name);

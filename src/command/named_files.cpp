@@ -6,10 +6,10 @@
 #include "command/program.h"
 #include "data/data_error.h"
 #include "files/code_page.h"
-#include "files/file_calls.h"
+#include "files/file_error.h"
 #include "files/file_system.h"
-#include "files/replaced_file.h"
-#include "files/whole_file.h"
+#include "files/file_writer.h"
+#include "files/work_files.h"
 #include "files/written_path.h"
 
 namespace ostrane::command {
@@ -38,14 +38,20 @@ void require_folder(const std::string& argument) {
   std::error_code failed;
   const fs::file_status status = fs::status(path_of_argument(argument), failed);
   if (fs::is_directory(status)) return;
-  const int reason = fs::exists(status) ? ENOTDIR : files::file_calls::errno_number(failed);
+  const int reason = fs::exists(status) ? ENOTDIR : files::errno_number(failed);
   if (reason == ENOTDIR) throw data_error(argument + ": is not a folder.");
-  files::file_calls::fail(argument + ":", " cannot be opened: ", reason == 0 ? -ENOENT : -reason);
+  files::fail(argument + ":", files::file_action::open, reason == 0 ? -ENOENT : -reason);
 }
 
 void make_folder(const std::string& argument) {
+  const fs::path folder = path_of_argument(argument);
   std::error_code failed;
-  if (!fs::create_directory(path_of_argument(argument), failed)) require_folder(argument);
+  std::error_code unknown;
+  if (!fs::create_directory(folder, failed) && failed && !fs::exists(folder, unknown)) {
+    files::fail(argument + ":", files::file_action::create, -files::errno_number(failed));
+  }
+  require_folder(argument);
+  files::clear_leftovers(folder);
 }
 
 std::vector<bool> chosen_entries(std::span<const dat_record> records,
@@ -66,7 +72,8 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
 
 void open_output(files::binary_file& file) {
   flush_output();
-  file.adopt(open_standard_output(), "standard output:");
+  file.prepare("standard output:");
+  file.adopt(open_standard_output());
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {
@@ -74,13 +81,9 @@ void write_result(const std::string& argument, std::string_view bytes) {
     print(bytes);
     return;
   }
-  files::file_path path = named_link_target(argument);
-  path.system = files::existing_spelling(path.system);
-  files::require_replaceable(path);
-  files::replaced_file to(path);
-  to.file().write(std::as_bytes(std::span(bytes)));
-  to.commit();
-  to.flush_folder();
+  files::binary_file file;
+  files::write_bytes(file, named_link_target(argument), bytes,
+                     {.mode = files::write_mode::durable});
 }
 
 void require_other_file(const std::string& output, const std::string& input) {
@@ -91,8 +94,8 @@ void require_other_file(const std::string& output, const std::string& input) {
                                    failed)) {
     return;
   }
-  throw files::file_error{files::file_error_number::permission_denied,
-                          path.shown + " cannot be written: it is read by this command."};
+  throw files::file_error(files::file_error_number::permission_denied, files::file_action::write,
+                          path.shown, "it is read by this command");
 }
 
 }  // namespace ostrane::command

@@ -5,9 +5,8 @@
 #include "data/chunk_ladder.h"
 #include "data/data_error.h"
 #include "data/new_index.h"
-#include "files/failure.h"
 #include "files/file_system.h"
-#include "files/replaced_file.h"
+#include "files/file_writer.h"
 
 namespace ostrane {
 
@@ -76,15 +75,15 @@ void write_archive_to(files::binary_file& archive, const build_list& list,
 void write_archive(const build_list& list, std::span<const make_record> files,
                    std::span<const dat_record> records, const files::file_path& target,
                    const job_progress& progress) {
-  files::replaced_file archive(target);
-  write_archive_to(archive.file(), list, files, records, progress);
-  archive.commit();
-  // commit() kept the spelling of the old file, so there are never two archives of the game. A
-  // failure to rename it now is harmless, as names are compared case-insensitively.
-  if (target.system.filename() == archive_name) {
-    files::ignore_failure([&] { archive.respell(target.system); });
-  }
-  archive.flush_folder();
+  files::binary_file archive;
+  // The game has one archive.
+  const bool is_game_archive = target.system.filename() == archive_name;
+  files::file_writer to(archive, target,
+                        {.mode = files::write_mode::durable,
+                         .replaces_read_only = true,
+                         .is_only_spelling = is_game_archive});
+  write_archive_to(archive, list, files, records, progress);
+  to.keep();
 }
 
 }  // namespace ostrane

@@ -8,7 +8,7 @@
 #include "data/data_error.h"
 #include "data/new_index.h"
 #include "files/file_system.h"
-#include "files/replaced_file.h"
+#include "files/file_writer.h"
 #include "files/text.h"
 
 namespace ostrane {
@@ -115,25 +115,26 @@ std::string add_entry(std::vector<rewritten_entry>& entries, const std::string& 
 
 void rewrite_archive(const files::file_path& path, const archive_index& old,
                      const std::vector<rewritten_entry>& entries, const job_progress& progress) {
-  files::replaced_file to(path);
+  files::binary_file output;
+  files::file_writer to(output, path, {.mode = files::write_mode::durable});
   files::binary_file archive;
   files::binary_file file;
   open_unchanged(archive, path, old.stamp);
   refuse_other_bytes(path, old);
   const std::vector<dat_record> records = new_records(old, entries);
   const std::string index = index_bytes(records);
-  to.file().write(std::as_bytes(std::span(index)));
+  output.write(std::as_bytes(std::span(index)));
   const rewriting job{old, archive, file, progress};
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const std::int32_t size = records[i + 1].offset - records[i].offset;
     progress.on_file(i, name_with_blanks(entries[i].name), size);
-    copy_entry(job, entries[i], size, to.file());
+    copy_entry(job, entries[i], size, output);
   }
   // Another program may have written to the archive or replaced it during the copy.
-  open_unchanged(archive, path, old.stamp);
-  archive.close();
-  to.commit();
-  to.flush_folder();
+  to.keep([&] {
+    open_unchanged(archive, path, old.stamp);
+    archive.close();
+  });
 }
 
 }  // namespace ostrane

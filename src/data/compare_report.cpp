@@ -98,10 +98,10 @@ bool write_compare_report(const line_writer& write_line, const name_list& archiv
 
 bool write_compare_report(const files::file_path& path, const name_list& archive,
                           shiplist_comparison& comparison) {
-  files::text_writer report(path, archive.archive);
+  std::string lines;
   const bool differs = write_compare_report(
-      [&report](std::string_view line) { report.write_line(line); }, archive, comparison);
-  report.close();
+      [&lines](std::string_view line) { lines.append(line).append("\r\n"); }, archive, comparison);
+  files::write_text(path, lines, archive.archive);
   return differs;
 }
 

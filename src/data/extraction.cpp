@@ -9,38 +9,13 @@
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/failure.h"
-#include "files/file_calls.h"
-#include "files/whole_file.h"
+#include "files/file_writer.h"
 
 namespace ostrane {
 
 namespace {
 
 constexpr const char* archive_too_short = "the archive ends before it does";
-
-// The file of an entry. The destructor removes a new file that is incomplete.
-struct entry_file {
-  files::binary_file& file;
-  files::file_path path;
-  files::file_info info = {};
-  bool is_new = false;
-  bool is_complete = false;
-
-  entry_file(files::binary_file& opened, files::file_path target)
-      : file(opened), path(std::move(target)) {
-    is_new = file.open_to_write(path);
-    if (is_new) files::file_calls::info_of(file.handle(), info);
-  }
-  entry_file(const entry_file&) = delete;
-  entry_file& operator=(const entry_file&) = delete;
-  ~entry_file() {
-    if (is_complete) return;
-    const bool created_here =
-        is_new && files::file_calls::may_be_same_file(path.system, info.stamp.identity);
-    file.abandon();
-    if (created_here) files::file_calls::remove_file(path.system);
-  }
-};
 
 struct extraction {
   files::binary_file& archive;
@@ -63,29 +38,15 @@ bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
   return chunk_ladder(copy, size, job.small_block_bytes, job.progress) == size;
 }
 
-// Like write_entry, but replaces an existing file atomically.
-std::string replace_entry_file(extraction& job, const std::string& name, std::int32_t size) {
-  const files::file_path path = job.target(name);
-  files::whole_file to(job.file, path, job.stamp.identity);
-  if (!copy_entry(job, job.file, size)) return archive_too_short;
-  require_unchanged(job.archive, job.stamp, "extraction");  // before the old file is replaced
-  to.keep();
-  job.on_created(name);
-  return "";
-}
-
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
-  if (job.choice.replaces_atomically) return replace_entry_file(job, name, size);
-  entry_file to(job.file, job.target(name));
-  if (to.is_new) {
-    job.on_created(name);
-  } else if (to.file.info().stamp.identity == job.stamp.identity) {
-    return "it would be written over the open archive";
-  }
-  if (!copy_entry(job, to.file, size)) return archive_too_short;
-  to.file.close();
-  to.is_complete = true;
+  const auto mode =
+      job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
+  files::file_writer to(job.file, job.target(name),
+                        {.mode = mode, .source = job.stamp.identity});
+  if (to.is_new()) job.on_created(name);
+  if (!copy_entry(job, job.file, size)) return archive_too_short;
+  to.keep([&] { require_unchanged(job.archive, job.stamp, "extraction"); });
   return "";
 }
 
@@ -107,7 +68,7 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
     return write_entry(job, name, size);
   } catch (const files::file_error& error) {
     if (error.number == files::file_error_number::disk_full) throw;
-    return error.text;
+    return "its file " + error.predicate.substr(0, error.predicate.size() - 1);
   }
 }
 

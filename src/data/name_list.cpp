@@ -5,9 +5,9 @@
 namespace ostrane {
 
 void write_name_list(const files::file_path& path, const name_list& archive) {
-  files::text_writer writer(path, archive.archive);
-  for (std::int32_t row = 0; row < archive.count; ++row) writer.write_line(archive.name(row));
-  writer.close();
+  std::string lines;
+  for (std::int32_t row = 0; row < archive.count; ++row) lines.append(archive.name(row) + "\r\n");
+  files::write_text(path, lines, archive.archive);
 }
 
 }  // namespace ostrane

@@ -4,8 +4,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include "files/file_calls.h"
-
 namespace files {
 
 namespace {
@@ -17,29 +15,24 @@ constexpr std::size_t min_direct_block = 4096;
 }  // namespace
 
 void binary_file::abandon() {
-  if (file_ >= 0) file_calls::close_file(file_);
+  if (file_ >= 0) system_calls.close_file(file_);
   file_ = -1;
 }
 
 void binary_file::open_to_read(const file_path& path) {
-  reset(path.shown);
-  set_file(file_calls::open_to_read(path.system), false);
+  prepare(path.shown);
+  set_file(system_calls.open_to_read(path.system), false, file_action::open);
 }
 
 bool binary_file::open_to_write(const file_path& path) {
-  reset(path.shown);
-  const int created = file_calls::open_new(path.system);
-  set_file(created == -EEXIST ? file_calls::open_to_write(path.system) : created, true);
-  return created >= 0;
+  prepare(path.shown);
+  const int created = system_calls.open_new(path.system, false);
+  const bool exists = created == -EEXIST;
+  set_file(exists ? system_calls.open_to_write(path.system) : created, true, file_action::open);
+  return !exists;
 }
 
-void binary_file::adopt(int file, const std::string& shown_path) {
-  reset(shown_path);
-  set_file(file, true);
-}
-
-// Allocates the buffer before a file is created, so that a lack of memory leaves no empty file.
-void binary_file::reset(const std::string& shown_path) {
+void binary_file::prepare(const std::string& shown_path) {
   abandon();
   path_ = shown_path;
   buffer_.resize(buffer_size);
@@ -48,14 +41,23 @@ void binary_file::reset(const std::string& shown_path) {
   buffer_start_ = 0;
 }
 
-void binary_file::set_file(int file, bool writes) {
-  if (file < 0) fail(file, " cannot be opened: ");
+void binary_file::adopt(int file) { set_file(file, true, file_action::create); }
+
+void binary_file::set_file(int file, bool writes, file_action action) {
+  if (file < 0) fail(action, file);
   file_ = file;
   writes_ = writes;
 }
 
-void binary_file::fail(std::int64_t status, const char* what) {
-  file_calls::fail(path_, what, status);
+void binary_file::fail(file_action action, std::int64_t status) const {
+  files::fail(path_, action, status);
+}
+
+// After a failed call the position of the system is unknown. No offset is then in the buffer.
+void binary_file::forget_position() {
+  position_ = 0;
+  fill_ = 0;
+  buffer_start_ = INT64_MAX;
 }
 
 void binary_file::seek(std::int64_t offset) {
@@ -65,16 +67,18 @@ void binary_file::seek(std::int64_t offset) {
     position_ = static_cast<std::size_t>(ahead);
     return;
   }
-  position_ = 0;
-  fill_ = 0;
+  forget_position();
+  const std::int64_t at = system_calls.seek_to(file_, offset);
+  if (at < 0) fail(file_action::read, at);
   buffer_start_ = offset;
-  const std::int64_t at = file_calls::seek_to(file_, offset);
-  if (at < 0) fail(at, " cannot be read: ");
 }
 
 std::size_t binary_file::read_from_system(std::span<std::byte> to) {
-  const std::int64_t moved = file_calls::read_some(file_, to.data(), to.size());
-  if (moved < 0) fail(moved, " cannot be read: ");
+  const std::int64_t moved = system_calls.read_some(file_, to.data(), to.size());
+  if (moved < 0) {
+    forget_position();
+    fail(file_action::read, moved);
+  }
   return static_cast<std::size_t>(moved);
 }
 
@@ -150,21 +154,21 @@ std::size_t binary_file::write_from(binary_file& source, std::size_t max) {
 
 file_info binary_file::info() {
   file_info found;
-  const int status = file_calls::info_of(file_, found);
-  if (status < 0) fail(status, " cannot be read: ");
+  const int status = system_calls.info_of(file_, found);
+  if (status < 0) fail(file_action::read, status);
   return found;
 }
 
 void binary_file::truncate() {
   flush();
-  const int status = file_calls::set_size(file_, buffer_start_);
-  if (status < 0) fail(status, file_calls::cannot_write);
+  const int status = system_calls.set_size(file_, buffer_start_);
+  if (status < 0) fail(file_action::write, status);
 }
 
 void binary_file::write_to_system(std::span<const std::byte> from) {
   while (!from.empty()) {
-    const std::int64_t moved = file_calls::write_some(file_, from.data(), from.size());
-    if (moved <= 0) fail(moved < 0 ? moved : -EIO, file_calls::cannot_write);
+    const std::int64_t moved = system_calls.write_some(file_, from.data(), from.size());
+    if (moved <= 0) fail(file_action::write, moved < 0 ? moved : -EIO);
     from = from.subspan(static_cast<std::size_t>(moved));
     buffer_start_ += moved;
   }
@@ -175,8 +179,8 @@ void binary_file::flush(bool to_disk) {
   position_ = 0;  // so that close() does not retry a failed write
   if (writes_) write_to_system(std::span(buffer_).first(count));
   if (!to_disk) return;
-  const int flushed = file_calls::flush_to_disk(file_);
-  if (flushed < 0) fail(flushed, file_calls::cannot_write);
+  const int flushed = system_calls.flush_to_disk(file_);
+  if (flushed < 0) fail(file_action::write, flushed);
 }
 
 void binary_file::close() {
@@ -184,8 +188,16 @@ void binary_file::close() {
   if (writes_) flush();
   const int file = file_;
   file_ = -1;
-  const int closed = file_calls::close_file(file);
-  if (closed < 0 && writes_) fail(closed, file_calls::cannot_write);
+  const int closed = system_calls.close_file(file);
+  if (closed < 0 && writes_) fail(file_action::write, closed);
+}
+
+std::string read_bytes(binary_file& file, const file_path& path) {
+  file.open_to_read(path);
+  std::string bytes(static_cast<std::size_t>(file.size()), '\0');
+  bytes.resize(file.read(std::as_writable_bytes(std::span(bytes))));
+  file.close();
+  return bytes;
 }
 
 }  // namespace files

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "files/file_error.h"
 #include "files/file_path.h"
 #include "files/system_calls.h"
 
@@ -26,9 +27,12 @@ class binary_file {
   // without truncating it, and returns false.
   bool open_to_write(const file_path& path);
 
-  // Takes ownership of a file that file_calls opened for writing, or throws if `file` is a negative
-  // errno number. `shown_path` is the path for messages.
-  void adopt(int file, const std::string& shown_path);
+  // Closes an open file and allocates the buffer for the next one, so that a lack of memory leaves
+  // no empty file. `shown_path` is the path for messages.
+  void prepare(const std::string& shown_path);
+  // Takes ownership of a file that was created after prepare(). Throws only if `file` is a negative
+  // errno number.
+  void adopt(int file);
 
   // `offset` is in bytes from the start of the file.
   void seek(std::int64_t offset);
@@ -52,13 +56,13 @@ class binary_file {
   // Closes an open file, discards the buffer and ignores failures.
   void abandon();
 
-  // The file descriptor or handle for file_calls; -1 if no file is open.
+  // The file descriptor or handle for system_calls; -1 if no file is open.
   int handle() const { return file_; }
 
  private:
-  void reset(const std::string& shown_path);
-  void set_file(int file, bool writes);
-  [[noreturn]] void fail(std::int64_t status, const char* what);
+  void set_file(int file, bool writes, file_action action);
+  [[noreturn]] void fail(file_action action, std::int64_t status) const;
+  void forget_position();
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
   void write_to_system(std::span<const std::byte> from);
@@ -71,5 +75,9 @@ class binary_file {
   std::size_t fill_ = 0;           // bytes in the buffer while reading
   std::int64_t buffer_start_ = 0;  // file offset of the buffer's first byte
 };
+
+// Returns all bytes of a file, read with `file`, which any number of files can share. Throws
+// file_error.
+std::string read_bytes(binary_file& file, const file_path& path);
 
 }  // namespace files

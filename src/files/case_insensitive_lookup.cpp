@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "files/code_page.h"
-#include "files/file_calls.h"
+#include "files/system_calls.h"
 #include "files/system_name.h"
 
 namespace files {
@@ -28,7 +28,7 @@ bool name_exists(const fs::path& path) {
 void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) {
   if (std::exchange(known.is_read, true)) return;
   std::vector<listed_entry> listed;
-  file_calls::list(folder, listed);
+  system_calls.list(folder, listed);
   for (const listed_entry& found : listed) {
     const std::optional<std::string> text = name_as_text(found.name);
     if (!text) continue;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <exception>
 #include <string>
-#include <utility>
 
 namespace files {
 
@@ -19,14 +19,25 @@ enum class file_error_number {
   path_not_found = 76,
 };
 
+// What failed. `replace` is the rename of a complete new file.
+enum class file_action : std::uint8_t { find, open, read, create, write, replace };
+
 // A failed operation on a file, a folder or a drive.
-struct file_error : std::exception {
-  file_error(file_error_number what_failed, std::string sentence)
-      : number(what_failed), text(std::move(sentence)) {}
+class file_error : public std::exception {
+ public:
+  // `subject` is a path as messages show it, `reason` a sentence fragment.
+  file_error(file_error_number number, file_action action, std::string subject,
+             const std::string& reason);
   const char* what() const noexcept override { return text.c_str(); }
 
   file_error_number number;
-  std::string text;  // a sentence for the user, with the path and the reason
+  file_action action;
+  std::string subject;
+  std::string predicate;  // "cannot be read: it is not there."
+  std::string text;       // subject and predicate
 };
+
+// Throws file_error for `status`, a negative errno number.
+[[noreturn]] void fail(const std::string& subject, file_action action, std::int64_t status);
 
 }  // namespace files

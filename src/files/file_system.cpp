@@ -7,10 +7,10 @@
 #include <unordered_set>
 
 #include "files/code_page.h"
-#include "files/file_calls.h"
-#include "files/hidden_name.h"
+#include "files/file_error.h"
 #include "files/paths.h"
 #include "files/system_name.h"
+#include "files/work_files.h"
 
 namespace files {
 
@@ -38,8 +38,8 @@ void sort_by_upper_case(std::vector<std::string>& names) {
 
 std::vector<listed_entry> listed_in(const file_path& folder) {
   std::vector<listed_entry> listed;
-  const int failed = file_calls::list(folder.system, listed);
-  if (failed < 0) file_calls::fail(folder.shown, " cannot be read: ", failed);
+  const int failed = system_calls.list(folder.system, listed);
+  if (failed < 0) fail(folder.shown, file_action::read, failed);
   return listed;
 }
 
@@ -73,7 +73,7 @@ bool folder_exists(const std::string& path) { return fs::is_directory(status_of(
 std::int64_t file_size(const file_path& path) {
   std::error_code failed;
   const std::uintmax_t bytes = fs::file_size(path.system, failed);
-  if (failed) file_calls::fail(path.shown, " cannot be read: ", -file_calls::errno_number(failed));
+  if (failed) fail(path.shown, file_action::read, -errno_number(failed));
   return static_cast<std::int64_t>(bytes);
 }
 
@@ -82,7 +82,7 @@ void create_folder(const std::string& path) {
   if (!fs::create_directory(system_path(path), failed) && !failed) {
     failed = std::make_error_code(std::errc::file_exists);
   }
-  if (failed) file_calls::fail(path, " cannot be made: ", -file_calls::errno_number(failed));
+  if (failed) fail(path, file_action::create, -errno_number(failed));
 }
 
 std::vector<std::string> folders_in(const std::string& path) {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "files/code_page.h"
-#include "files/file_calls.h"
 #include "files/file_error.h"
+#include "files/system_calls.h"
 #include "files/system_name.h"
 
 namespace files {
@@ -37,14 +37,15 @@ bool is_drive_text(const std::string& path, char letter) {
 }
 
 [[noreturn]] void throw_missing_drive(const std::string& path) {
-  throw file_error{file_error_number::device_unavailable,
-                   "There is no drive " + path.substr(0, 1) + "."};
+  throw file_error(file_error_number::device_unavailable, file_action::find,
+                   path, "there is no such drive");
 }
 
 constexpr bool is_windows = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void throw_colon_in_name(const std::string& path) {
-  throw file_error{file_error_number::bad_file_name, path + " contains a name with a colon."};
+  throw file_error(file_error_number::bad_file_name, file_action::find, path,
+                   "it contains a name with a colon");
 }
 
 std::vector<std::string> names_of(const std::string& whole_path) {
@@ -146,7 +147,7 @@ file_path in_current_folder(const std::string& name) {
   if (!current_folder_override().empty()) return to_file_path(name);
   std::error_code failed;
   const fs::path folder = fs::current_path(failed);
-  if (failed) file_calls::fail(name, " cannot be found: ", -file_calls::errno_number(failed));
+  if (failed) fail(name, file_action::find, -errno_number(failed));
   return {case_insensitive_lookup().find(folder, name), name};
 }
 

@@ -3,7 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <system_error>
 #include <vector>
+
+#include "files/system_call.h"
 
 // The system calls through which all files are read and written.
 namespace files {
@@ -34,52 +37,58 @@ struct file_stamp {
 
 struct file_info {
   file_stamp stamp;
-  bool is_file = false;  // a regular file, not a link to one
+  bool is_file = false;  // a regular file
+  bool is_link = false;  // a symbolic link
 };
 
 // Filled in by system_calls_posix.cpp or system_calls_windows.cpp. Tests put failing calls into it.
 // Each call returns a negative errno number on failure, and 0 or what its comment says on success.
+// A call that a signal interrupts is made again.
 struct system_call_table {
   // Return a file descriptor or handle. Folders, devices and pipes are refused and never block.
-  int (*open_to_read)(const std::filesystem::path& path);
+  system_call<int(const std::filesystem::path& path)> open_to_read;
   // Opens an existing file without truncating it.
-  int (*open_to_write)(const std::filesystem::path& path);
+  system_call<int(const std::filesystem::path& path)> open_to_write;
   // Creates a file; -EEXIST if the path exists. Only its owner can open a private
   // file until copy_permissions.
-  int (*open_new)(const std::filesystem::path& path, bool is_private);
-  // Opens or creates a file that every user may lock; -ELOOP for a link.
-  int (*open_lock)(const std::filesystem::path& path);
+  system_call<int(const std::filesystem::path& path, bool is_private)> open_new;
+  // Creates a file that every user may lock, or opens an existing one without changing it; -ELOOP
+  // for a link, -EMLINK for a file with several names, -EWOULDBLOCK if it was removed meanwhile.
+  system_call<int(const std::filesystem::path& path)> open_lock;
 
   // Return the number of bytes moved, at most `count`; 0 from a read at the end of the file.
-  std::int64_t (*read_some)(int file, std::byte* to, std::size_t count);
-  std::int64_t (*write_some)(int file, const std::byte* from, std::size_t count);
+  system_call<std::int64_t(int file, std::byte* to, std::size_t count)> read_some;
+  system_call<std::int64_t(int file, const std::byte* from, std::size_t count)> write_some;
   // `offset` is in bytes from the start of the file. Returns the new position.
-  std::int64_t (*seek_to)(int file, std::int64_t offset);
-  int (*set_size)(int file, std::int64_t size);
+  system_call<std::int64_t(int file, std::int64_t offset)> seek_to;
+  system_call<int(int file, std::int64_t size)> set_size;
 
-  int (*info_of)(int file, file_info& info);
+  system_call<int(int file, file_info& info)> info_of;
   // Links are not followed.
-  int (*info_at)(const std::filesystem::path& path, file_info& info);
+  system_call<int(const std::filesystem::path& path, file_info& info)> info_at;
   // Copies permissions, owner and group from another file, as far as the system allows it.
-  int (*copy_permissions)(int file, const std::filesystem::path& from);
+  system_call<int(int file, const std::filesystem::path& from)> copy_permissions;
   // Takes an exclusive lock without waiting; -EWOULDBLOCK if another process has it. Closing the
   // file releases it, as the end of the process does.
-  int (*lock)(int file);
+  system_call<int(int file)> lock;
 
-  int (*flush_to_disk)(int file);
-  int (*close_file)(int file);
+  system_call<int(int file)> flush_to_disk;
+  system_call<int(int file)> close_file;
 
   // Removes read-only files too, but no folders.
-  int (*remove_file)(const std::filesystem::path& path);
+  system_call<int(const std::filesystem::path& path)> remove_file;
   // Renames `file` to `target` atomically. `target` is replaced if it exists, even if read-only.
-  int (*replace)(const std::filesystem::path& file, const std::filesystem::path& target);
+  system_call<int(const std::filesystem::path& file, const std::filesystem::path& target)> replace;
   // Makes renames, creations and removals in the folder survive a power loss.
-  int (*flush_folder)(const std::filesystem::path& folder);
-  // Appends the entries of the folder to `found`, unsorted, without "." and "..".
-  int (*list)(const std::filesystem::path& folder, std::vector<listed_entry>& found);
+  system_call<int(const std::filesystem::path& folder)> flush_folder;
+  // Sets `found` to the entries of the folder, unsorted, without "." and "..".
+  system_call<int(const std::filesystem::path& folder, std::vector<listed_entry>& found)> list;
 };
 
 extern system_call_table system_calls;
+
+// The errno number of an error of the standard library.
+int errno_number(const std::error_code& reason);
 
 // Call once at start. A write past the file size limit (ulimit -f) then fails instead of ending the
 // process.

@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <string_view>
 
-#include "files/file_calls.h"
 #include "files/system_calls.h"
 
 namespace files {
@@ -29,8 +28,11 @@ int open_regular(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags | always, 0666);
   if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
-  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode)) return file;
-  const int reason = S_ISDIR(status.st_mode) ? EISDIR : EACCES;
+  const int reason = fstat(file, &status) < 0    ? errno
+                     : S_ISREG(status.st_mode)   ? 0
+                     : S_ISDIR(status.st_mode)   ? EISDIR
+                                                 : EACCES;
+  if (reason == 0) return file;
   close(file);
   return -reason;
 }
@@ -46,14 +48,25 @@ int open_new(const fs::path& path, bool is_private) {
   return result(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | always, permissions));
 }
 
+// A file with several names may be a private file of the user under another name.
+int require_one_name(int file) {
+  struct stat status = {};
+  const int reason = fstat(file, &status) < 0 ? errno : status.st_nlink > 1 ? EMLINK : 0;
+  if (reason == 0) return file;
+  close(file);
+  return -reason;
+}
+
 // Reading is enough to lock the file of another user.
 int open_lock(const fs::path& path) {
-  const int file = open_regular(path, O_WRONLY | O_CREAT | O_NOFOLLOW);
-  // The umask may keep others out. Only the owner can change that, so failures are ignored.
-  if (file >= 0) fchmod(file, 0666);
-  if (file != -EACCES) return file;
-  const int readable = open_regular(path, O_RDONLY | O_NOFOLLOW);
-  return readable >= 0 ? readable : file;
+  const int made = open_new(path, false);
+  // The umask may keep others out, so that they could not lock the file.
+  if (made >= 0) fchmod(made, 0666);
+  if (made != -EEXIST) return made;
+  int file = open_regular(path, O_WRONLY | O_NOFOLLOW);
+  if (file == -EACCES) file = open_regular(path, O_RDONLY | O_NOFOLLOW);
+  if (file == -ENOENT) return -EWOULDBLOCK;
+  return file < 0 ? file : require_one_name(file);
 }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
@@ -83,6 +96,7 @@ void fill(file_info& info, const struct stat& status) {
       static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanoseconds_per_second +
       static_cast<std::uint64_t>(status.st_mtim.tv_nsec));
   info.is_file = S_ISREG(status.st_mode);
+  info.is_link = S_ISLNK(status.st_mode);
 }
 
 int info_of(int file, file_info& info) {
@@ -131,7 +145,11 @@ int lock(int file) { return result(flock(file, LOCK_EX | LOCK_NB)); }
 
 int flush_to_disk(int file) { return result(fsync(file)); }
 
-int close_file(int file) { return result(close(file)); }
+// close() closes the file even if it is interrupted, so it must not be made again.
+int close_file(int file) {
+  const int closed = result(close(file));
+  return closed == -EINTR ? 0 : closed;
+}
 
 int remove_file(const fs::path& path) { return result(unlink(path.c_str())); }
 
@@ -170,6 +188,7 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
     DIR* opened;
     ~closing() { closedir(opened); }
   } guard{opened};
+  found.clear();
   errno = 0;
   while (const dirent* entry = readdir(opened)) {
     const std::string_view name = entry->d_name;
@@ -204,6 +223,6 @@ system_call_table system_calls = {
 
 void ignore_size_limit_signal() { std::signal(SIGXFSZ, SIG_IGN); }
 
-int file_calls::errno_number(const std::error_code& reason) { return reason.value(); }
+int errno_number(const std::error_code& reason) { return reason.value(); }
 
 }  // namespace files

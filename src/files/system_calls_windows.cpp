@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "files/file_calls.h"
 #include "files/system_calls.h"
 
 namespace files {
@@ -16,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 int last_error() {
-  return -file_calls::errno_number({static_cast<int>(GetLastError()), std::system_category()});
+  return -errno_number({static_cast<int>(GetLastError()), std::system_category()});
 }
 
 int result(BOOL done) { return done != 0 ? 0 : last_error(); }
@@ -73,7 +72,12 @@ int open_new(const fs::path& path, bool /*is_private*/) {
 
 int open_lock(const fs::path& path) {
   if (has_attribute(path, FILE_ATTRIBUTE_REPARSE_POINT)) return -ELOOP;
-  return open_regular(path, GENERIC_WRITE, OPEN_ALWAYS);
+  const int file = open_regular(path, GENERIC_WRITE, OPEN_ALWAYS);
+  BY_HANDLE_FILE_INFORMATION found = {};
+  if (file < 0 || GetFileInformationByHandle(handle_of(file), &found) == 0) return file;
+  if (found.nNumberOfLinks <= 1) return file;
+  CloseHandle(handle_of(file));
+  return -EMLINK;
 }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
@@ -113,6 +117,7 @@ int info_of(int file, file_info& info) {
       join(modified.dwHighDateTime, modified.dwLowDateTime) * nanoseconds_per_tick);
   constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   info.is_file = (found.dwFileAttributes & others) == 0;
+  info.is_link = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   return 0;
 }
 
@@ -164,6 +169,7 @@ int replace(const fs::path& file, const fs::path& target) {
 int flush_folder(const fs::path& /*folder*/) { return 0; }
 
 int list(const fs::path& folder, std::vector<listed_entry>& found) {
+  found.clear();
   std::error_code failed;
   for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
     std::error_code unknown;
@@ -174,7 +180,7 @@ int list(const fs::path& folder, std::vector<listed_entry>& found) {
     listed.is_file = at->is_regular_file(unknown);
     found.push_back(std::move(listed));
   }
-  return failed ? -file_calls::errno_number(failed) : 0;
+  return failed ? -errno_number(failed) : 0;
 }
 
 }  // namespace
@@ -202,7 +208,7 @@ system_call_table system_calls = {
 
 void ignore_size_limit_signal() {}
 
-int file_calls::errno_number(const std::error_code& reason) {
+int errno_number(const std::error_code& reason) {
   const std::error_condition known = reason.default_error_condition();
   return known.category() == std::generic_category() ? known.value() : EIO;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "files/file_error.h"
+#include "files/file_writer.h"
 #include "files/written_path.h"
 
 namespace files {
@@ -14,6 +15,12 @@ constexpr std::size_t block_size = 65536;
 bool exists(const file_path& path) {
   std::error_code failed;
   return std::filesystem::exists(std::filesystem::symlink_status(path.system, failed));
+}
+
+// As in a read-only or a sticky folder, and for a file that is a mount point.
+bool refuses_new_file(const file_error& error) {
+  return error.number == file_error_number::permission_denied &&
+         (error.action == file_action::create || error.action == file_action::replace);
 }
 
 }  // namespace
@@ -45,61 +52,21 @@ std::string text_reader::read_line() {
   return line;
 }
 
-text_writer::text_writer(const file_path& path, const file_identity& source)
-    : target_{written_path(path.system), path.shown} {
-  replaces_ = exists(target_);
-  if (replaces_) open_old_file(source);
-  if (succeeds_unless_denied([&] { new_file_.emplace(target_); })) old_file_.abandon();
-}
-
-// Fails if the old file is read-only. Replacing it would succeed.
-void text_writer::open_old_file(const file_identity& source) {
-  old_file_.open_to_write(target_);
-  old_identity_ = old_file_.info().stamp.identity;
-  if (old_identity_ == source) {
-    throw file_error(file_error_number::permission_denied,
-                     target_.shown + " cannot be written: it is the open archive.");
-  }
-}
-
-// Runs a step of replacing the old file. Returns false if the system denies it and there is an old
-// file to overwrite instead.
-bool text_writer::succeeds_unless_denied(const std::function<void()>& step) {
+void write_text(const file_path& path, std::string_view text, const file_identity& source) {
+  const file_path target = {written_path(path.system), path.shown};
+  const write_rules rules = {.mode = write_mode::durable, .source = source};
+  binary_file file;
   try {
-    step();
-    return true;
+    write_bytes(file, target, text, rules);
+    return;
   } catch (const file_error& error) {
-    if (!replaces_ || error.number != file_error_number::permission_denied) throw;
-    return false;
+    if (!refuses_new_file(error) || !exists(target)) throw;
   }
-}
-
-// Opens the old file again: it was closed, as Windows does not replace an open file.
-void text_writer::overwrite_old_file() {
-  old_file_.open_to_write(target_);
-  if (old_file_.info().stamp.identity != old_identity_) {
-    throw file_error(file_error_number::device_error,
-                     target_.shown + " cannot be written: another program has replaced it.");
-  }
-  new_file_->copy_to(old_file_);
-}
-
-void text_writer::write_line(std::string_view line) {
-  file().write(std::as_bytes(std::span(line)));
-  constexpr std::string_view end = "\r\n";
-  file().write(std::as_bytes(std::span(end)));
-}
-
-void text_writer::close() {
-  if (new_file_ && succeeds_unless_denied([&] { new_file_->commit(); })) {
-    new_file_->flush_folder();
-  } else {
-    if (new_file_) overwrite_old_file();
-    old_file_.truncate();
-    old_file_.flush(true);
-    old_file_.close();
-  }
-  new_file_.reset();
+  file_writer to(file, target, {.mode = write_mode::in_place, .source = source});
+  file.write(std::as_bytes(std::span(text)));
+  file.truncate();
+  file.flush(true);
+  to.keep();
 }
 
 }  // namespace files

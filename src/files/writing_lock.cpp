@@ -4,9 +4,10 @@
 #include <chrono>
 #include <thread>
 
-#include "files/file_calls.h"
-#include "files/hidden_name.h"
+#include "files/file_error.h"
+#include "files/path_match.h"
 #include "files/system_name.h"
+#include "files/work_files.h"
 
 namespace files {
 
@@ -16,15 +17,14 @@ constexpr auto max_wait = std::chrono::milliseconds(500);
 constexpr auto pause = std::chrono::milliseconds(5);
 
 // If the lock file exists but cannot be opened, the message names it instead of the target.
-[[noreturn]] void fail_to_open(const std::filesystem::path& lock, const std::string& shown_path,
-                               int status) {
+[[noreturn]] void fail_to_open(const std::filesystem::path& lock, std::string shown, int status) {
   file_info found;
-  std::string shown = shown_path;
-  if (file_calls::info_at(lock, found) >= 0) {
+  const bool exists = system_calls.info_at(lock, found) >= 0;
+  if (exists) {
     shown.erase(shown.find_last_of("\\/") + 1);
     shown += name_as_text_lossy(lock.filename().native());
   }
-  file_calls::fail(shown, " cannot be opened: ", status);
+  fail(shown, exists ? file_action::open : file_action::create, status);
 }
 
 }  // namespace
@@ -34,26 +34,27 @@ writing_lock::writing_lock(const std::filesystem::path& target, const std::strin
   const auto deadline = std::chrono::steady_clock::now() + max_wait;
   while (!try_lock(shown_path)) {
     if (std::chrono::steady_clock::now() >= deadline) {
-      throw file_error{file_error_number::device_unavailable,
-                       shown_path + " cannot be written: another copy of the tool is writing it."};
+      throw file_error(file_error_number::device_unavailable, file_action::write, shown_path,
+                       "another copy of the tool is writing it");
     }
     std::this_thread::sleep_for(pause);
   }
 }
 
 writing_lock::~writing_lock() {
-  if (file_calls::match(path_, file_).is_same) file_calls::remove_file(path_);
-  file_calls::close_file(file_);
+  if (match(path_, file_).is_same) system_calls.remove_file(path_);
+  system_calls.close_file(file_);
 }
 
 bool writing_lock::try_lock(const std::string& shown_path) {
-  const int file = file_calls::open_lock(path_);
+  const int file = system_calls.open_lock(path_);
+  if (file == -EWOULDBLOCK) return false;
   if (file < 0) fail_to_open(path_, shown_path, file);
   // A file system without locks gives another error. Then the copies do not wait for each other.
-  const bool is_locked = file_calls::lock(file) == -EWOULDBLOCK;
+  const bool held_by_another = system_calls.lock(file) == -EWOULDBLOCK;
   // Another copy may remove the lock file between our open and our lock.
-  if (is_locked || file_calls::match(path_, file).is_other()) {
-    file_calls::close_file(file);
+  if (held_by_another || match(path_, file).is_other()) {
+    system_calls.close_file(file);
     return false;
   }
   file_ = file;

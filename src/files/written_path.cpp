@@ -1,7 +1,5 @@
 #include "files/written_path.h"
 
-#include "files/case_insensitive_lookup.h"
-
 namespace files {
 
 // Resolves a limited number of links. The system then rejects a cycle of links.
@@ -14,7 +12,7 @@ std::filesystem::path written_path(const std::filesystem::path& path) {
     if (failed) break;
     target = target.parent_path() / next;
   }
-  return existing_spelling(target);
+  return target;
 }
 
 }  // namespace files

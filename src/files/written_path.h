@@ -4,8 +4,7 @@
 
 namespace files {
 
-// The path of the file that is replaced when `path` is written: links are resolved, and an existing
-// file whose name differs in case only is found. The file need not exist.
+// The path of the file that is written if the links at `path` are resolved. The file need not exist.
 std::filesystem::path written_path(const std::filesystem::path& path);
 
 }  // namespace files

@@ -11,6 +11,7 @@
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/paths.h"
+#include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen_services.h"
@@ -102,6 +103,7 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   wanted.on_skipped = [&skipped](const std::string& reason) {
     skipped.push_back({entry_name(), reason});
   };
+  files::clear_leftovers(answer.path.parent_path());
   const std::string failure = files::failure_of([&wanted] { export_from_archive(wanted); });
   tool_state.archive_file.close();
   if (!failure.empty()) {

@@ -7,7 +7,7 @@
 #include "data/counted.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
-#include "files/whole_file.h"
+#include "files/file_writer.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/pixel_form.h"
@@ -33,7 +33,7 @@ std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns(
 
 void write_output(icon_export_job& job, const std::string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
-  write_whole_file(job.output, job.wanted.target(name), bytes, job.stamp.identity);
+  files::write_bytes(job.output, job.wanted.target(name), bytes, {.source = job.stamp.identity});
 }
 
 void require_scalable(const icon_export_job& job, std::int64_t cells) {

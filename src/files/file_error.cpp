@@ -1,0 +1,100 @@
+#include "files/file_error.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace files {
+
+namespace {
+
+std::string predicate_of(file_action action, const std::string& reason) {
+  constexpr std::array<const char*, 6> verbs = {"found", "opened", "read", "made", "written",
+                                                "written"};
+  return std::string("cannot be ") + verbs[static_cast<std::size_t>(action)] + ": " + reason + ".";
+}
+
+file_error_number number_of(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return file_error_number::file_not_found;
+    case ENOTDIR:
+      return file_error_number::path_not_found;
+    case EEXIST:
+      return file_error_number::file_exists;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBUSY:
+    case ELOOP:
+    case EMLINK:
+      return file_error_number::permission_denied;
+    case EISDIR:
+      return file_error_number::path_access;
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+    case EFBIG:
+      return file_error_number::disk_full;
+    case EINVAL:
+    case ENAMETOOLONG:
+      return file_error_number::bad_file_name;
+    default:
+      return file_error_number::device_error;
+  }
+}
+
+std::string reason_of(int errno_number) {
+  switch (errno_number) {
+    case ENOENT:
+      return "it is not there";
+    case EACCES:
+    case EPERM:
+    case ENOTSUP:  // from std::filesystem::file_size of a folder or a device
+      return "access is not allowed";
+    case EBUSY:
+      return "it is in use";
+    case EISDIR:
+      return "it is a folder";
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+      return "the disk is full";
+    case EROFS:
+      return "the disk cannot be written to";
+    case EEXIST:
+      return "it is there already";
+    case ENOTDIR:
+      return "it is not in a folder";
+    case ELOOP:
+      return "it is a link";
+    case EMLINK:
+      return "it has several names";
+    case ENAMETOOLONG:
+      return "its name is too long";
+    case EFBIG:
+      return "it would be larger than the system allows";
+    default:
+      return std::strerror(errno_number);
+  }
+}
+
+}  // namespace
+
+file_error::file_error(file_error_number what_number, file_action what_failed,
+                       std::string failed_subject, const std::string& reason)
+    : number(what_number),
+      action(what_failed),
+      subject(std::move(failed_subject)),
+      predicate(predicate_of(action, reason)),
+      text(subject + " " + predicate) {}
+
+void fail(const std::string& subject, file_action action, std::int64_t status) {
+  const int reason = static_cast<int>(-status);
+  throw file_error(number_of(reason), action, subject, reason_of(reason));
+}
+
+}  // namespace files
