@@ -1,0 +1,104 @@
+#include <cerrno>
+#include <optional>
+
+#include "command_fixture.h"
+#include "data/icon_packer.h"
+#include "files/code_page.h"
+
+namespace ostrane {
+
+struct failing_commands_test : command_test {
+  static void prepare() {
+    picture drawn(4, 4);
+    drawn.set(1, 2, 3);
+    for (const auto& found : fs::directory_iterator(".")) fs::remove_all(found);
+    write_bytes("a.dat", archive_bytes({{"0.TXT", ""},
+                                        {"A.TXT", std::string(9000, 'a')},
+                                        {"B.TXT", "b"},
+                                        {"I.SHP", shp_file({drawn})}}));
+    write_bytes("in/a.txt", std::string(5000, 'n'));
+    write_bytes("in/ostrane.dat", "old");
+    for (const char* old : {"out/A.TXT", "out/I-0001.png", "list.txt", "b.dat", "i.shp"}) {
+      write_bytes(old, "old");
+    }
+    write_bytes("ships.txt", "A.TXT\nX.TXT\n\n");
+    run("export a.dat I.SHP -d png");
+  }
+  // The files by their paths. No two paths differ in case only.
+  static file_map all_files() {
+    file_map all;
+    for (const auto& found : fs::recursive_directory_iterator(".")) {
+      const std::string name = files::upper_case(found.path().lexically_relative(".").string());
+      if (!found.is_regular_file()) continue;
+      EXPECT_TRUE(all.emplace(name, bytes_of(found.path())).second) << name;
+    }
+    return all;
+  }
+};
+
+// Each file call fails in turn. Each file is then the old one or the complete new one. A status of 0
+// stands for complete results, any other for a message.
+TEST_F(failing_commands_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
+  const char* const jobs[] = {"add a.dat in/a.txt",
+                              "remove a.dat B.TXT",
+                              "build in",
+                              "build in -o b.dat",
+                              "extract a.dat -d out",
+                              "compare a.dat ships.txt -o list.txt",
+                              "export a.dat I.SHP -d out",
+                              "import png -o i.shp --palette a.dat"};
+  const std::pair<call_fault, std::string> faults[] = {
+      {{.reason = EACCES}, "not allowed"},
+      {{.reason = EPERM, .lasting = true}, "not allowed"},
+      {{.reason = EROFS}, "cannot be written to"},
+      {{.reason = EBUSY}, "in use"},
+      {{.reason = EIO}, "Input/output error"},
+      {{.reason = ENOSPC, .lasting = true}, "disk is full"},
+      {{.kind = call_fault::lies, .reason = EIO}, "Input/output error"},
+      {{.kind = call_fault::interrupted}, "Interrupted"},
+      {{.kind = call_fault::does_nothing}, ""}};
+  int tried = 0;
+  for (const char* job : jobs) {
+    prepare();
+    const file_map before = all_files();
+    const int done_status = run(job).status;
+    const file_map done = all_files();
+    for (const auto& [fault, words] : faults) {
+      for (int at = 0;; ++at, ++tried) {
+        prepare();
+        std::optional<failing_calls> failing;
+        failing.emplace(at, fault);
+        const result seen = run(job);
+        const texts calls = failing->calls;
+        const bool happened = failing->happened();
+        failing.reset();
+        if (!happened) break;
+        const std::string& call = calls[static_cast<std::size_t>(at)];
+        SCOPED_TRACE(testing::Message() << job << " " << call << " " << at << " " << words
+                                        << fault.lasting << "\n" << seen.errors);
+        const bool may_leave_hidden =
+            fault.lasting || fault.kind == call_fault::lies || call.starts_with("info");
+        const file_map after = all_files();
+        for (const auto& [name, bytes] : after) {
+          const bool is_old = before.contains(name) && before.at(name) == bytes;
+          const bool is_new = done.contains(name) && done.at(name) == bytes;
+          const bool is_hidden = name.starts_with('.') || name.find("/.") != name.npos;
+          const bool is_empty = bytes.empty() && fault.kind == call_fault::lies;
+          EXPECT_TRUE(is_old || is_new || (may_leave_hidden && (is_hidden || is_empty))) << name;
+        }
+        for (const auto& [name, bytes] : before) EXPECT_TRUE(after.contains(name)) << name;
+        if (seen.status == done_status) {
+          for (const auto& [name, bytes] : done) {
+            EXPECT_TRUE(after.contains(name) && after.at(name) == bytes) << name;
+          }
+        } else {
+          EXPECT_NE(seen.errors.find(words), std::string::npos);
+        }
+      }
+    }
+  }
+  RecordProperty("faults", tried);
+  EXPECT_GT(tried, 2000);
+}
+
+}  // namespace ostrane
