@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <unordered_map>
 
@@ -13,6 +12,7 @@
 #include "files/code_page.h"
 #include "files/program_folder.h"
 #include "files/text.h"
+#include "pictures/json_text.h"
 
 namespace ostrane::command {
 
@@ -90,13 +90,13 @@ std::string long_line(const entry_row& entry) {
   return line;
 }
 
-nlohmann::ordered_json json_of(const entry_row& entry) {
-  return {{"name", entry.name},
-          {"size", entry.size},
-          {"offset", entry.offset},
-          {"kind", text_of(entry.kind)},
-          {"icons", entry.icons ? nlohmann::ordered_json(*entry.icons) : nlohmann::ordered_json()},
-          {"description", entry.description}};
+std::string json_of(const entry_row& entry) {
+  return json_object({{"name", json_string(entry.name)},
+                      {"size", std::to_string(entry.size)},
+                      {"offset", std::to_string(entry.offset)},
+                      {"kind", json_string(text_of(entry.kind))},
+                      {"icons", entry.icons ? std::to_string(*entry.icons) : "null"},
+                      {"description", json_string(entry.description)}});
 }
 
 void print_names(const archive_index& index) {
@@ -125,7 +125,7 @@ int list(const list_options& options) {
       continue;
     }
     print(i == 0 ? "\n  " : ",\n  ");
-    print(json_of(entry).dump());
+    print(json_of(entry));
   }
   if (options.is_json) print("\n]\n");
   return status_done;

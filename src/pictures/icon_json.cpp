@@ -1,7 +1,6 @@
 #include "pictures/icon_json.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 #include "data/data_error.h"
 #include "data/entry_file_name.h"

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <initializer_list>
+#include <nlohmann/json.hpp>
 #include <string>
-#include <string_view>
 
-// Writes JSON as text. A tree of values of nlohmann-json allocates memory when it is destroyed, and
-// ends the program if there is none.
+// Writes JSON. nlohmann-json writes the texts. Objects are joined here: a tree of its values
+// allocates memory when it is destroyed, and ends the program if there is none.
 namespace ostrane {
 
 // A field of an object; the value is JSON.
@@ -14,9 +14,19 @@ struct json_field {
   std::string value;
 };
 
-std::string json_object(std::initializer_list<json_field> fields);
-
 // `text` is UTF-8.
-std::string json_string(std::string_view text);
+inline std::string json_string(const std::string& text) {
+  using json = nlohmann::json;
+  return json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+inline std::string json_object(std::initializer_list<json_field> fields) {
+  std::string text;
+  for (const json_field& field : fields) {
+    text += text.empty() ? '{' : ',';
+    text += json_string(field.name) + ":" + field.value;
+  }
+  return text + "}";
+}
 
 }  // namespace ostrane
