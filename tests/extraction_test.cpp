@@ -120,7 +120,8 @@ TEST_F(extraction_test, SkipsUnsafeAndUnwritableEntries) {
   for (const auto& [reason, names] : refused) {
     for (std::string name : names) {
       entries.push_back({name, some_bytes(1000 + entries.size())});
-      std::replace(name.begin(), name.end(), '\t', '?');
+      for (const char control : {'\t', '\x7F'})
+        std::replace(name.begin(), name.end(), control, '?');
       if (entries.size() <= 20) message += "\n>" + name + "<: " + reason;
     }
   }

@@ -3,6 +3,7 @@
 #include "files/file_error.h"
 #include "files/file_system.h"
 #include "files/paths.h"
+#include "files/text.h"
 #include "files/text_file.h"
 #include "tool_fixture.h"
 

@@ -5,27 +5,20 @@
 #include "archive/skipped_files.h"
 #include "data/entry_file_name.h"
 #include "data/extraction.h"
-#include "files/failure.h"
 #include "files/paths.h"
 #include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen_services.h"
 #include "state/open_archive.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
 
-std::string entry_name() {
-  return name_with_blanks(
-      tool_state.dat_index[static_cast<std::size_t>(tool_state.menu_target)].name);
-}
-
-void report_skipped(const std::string& reason) {
+void report_skipped(const std::string& name, const std::string& reason) {
   forms_layer::message_box("This entry was not extracted:" +
-                           skipped_files_text({{entry_name(), reason}}, ""));
+                           skipped_files_text({{name, reason}}, ""));
 }
 
 extraction_result extract_to(const std::filesystem::path& path) {
@@ -50,26 +43,25 @@ bool prepare_entry_menu(std::int32_t row) {
 }
 
 void extract_one_entry() {
-  const std::string unsafe = unsafe_name_reason(entry_name());
+  const std::string name = entry_name(tool_state.menu_target);
+  const std::string unsafe = unsafe_name_reason(name);
   if (!unsafe.empty()) {
-    report_skipped(unsafe);
+    report_skipped(name, unsafe);
     return;
   }
   const forms_layer::save_answer answer = forms_layer::ask_save_path(
-      {.title = "Extract this entry", .stem = entry_name(), .kinds = {{"All files", ""}}});
+      {.title = "Extract this entry", .stem = name, .kinds = {{"All files", ""}}});
   if (answer.path.empty()) return;
   extraction_result result;
-  std::string failure = files::failure_of(open_archive_file);
-  if (failure.empty()) {
+  std::string failure = read_open_archive([&] {
     files::clear_leftovers(answer.path.parent_path());
     result = extract_to(answer.path);
-    failure = result.stopped;
-  }
-  tool_state.archive_file.close();
+  });
+  if (failure.empty()) failure = result.stopped;
   if (!failure.empty()) {
     forms_layer::message_box(failure + " The entry was not extracted.");
   } else if (!result.skipped.empty()) {
-    report_skipped(result.skipped.front().reason);
+    report_skipped(name, result.skipped.front().reason);
   }
 }
 

@@ -2,29 +2,24 @@
 
 #include <algorithm>
 
+#include "files/text.h"
+
 namespace ostrane {
 
 namespace {
 
 constexpr std::size_t max_named = 20;
 
-// Control characters would break the lines of the message.
-std::string printable(std::string name) {
-  std::replace_if(
-      name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, '?');
-  return name;
-}
-
 }  // namespace
 
-std::string skipped_files_text(const std::vector<skipped_file>& files, const char* heading) {
-  if (files.empty()) return "";
+std::string skipped_files_text(const std::vector<skipped_file>& list, const char* heading) {
+  if (list.empty()) return "";
   std::string text = heading;
-  for (std::size_t i = 0; i < std::min(files.size(), max_named); ++i) {
-    text += "\n>" + printable(files[i].name) + "<: " + files[i].reason;
+  for (std::size_t i = 0; i < std::min(list.size(), max_named); ++i) {
+    text += "\n>" + files::printable(list[i].name) + "<: " + list[i].reason;
   }
-  if (files.size() > max_named) {
-    text += "\nand " + std::to_string(files.size() - max_named) + " more.";
+  if (list.size() > max_named) {
+    text += "\nand " + std::to_string(list.size() - max_named) + " more.";
   }
   return text;
 }

@@ -4,6 +4,7 @@
 #include "data/archive_check.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
+#include "files/text.h"
 
 namespace ostrane::command {
 
@@ -17,7 +18,7 @@ bool check_one(const std::string& archive) {
       [&](const std::string& entry, const std::string& fault) {
         is_valid = false;
         const std::string where = entry.empty() ? archive : archive + ": " + files::to_utf8(entry);
-        print_line(printable(fault.starts_with(where) ? fault : where + ": " + fault));
+        print_line(files::printable(fault.starts_with(where) ? fault : where + ": " + fault));
       },
       [](std::size_t number, std::size_t count, const std::string& name) {
         show_progress(number, count, files::to_utf8(name));

@@ -8,6 +8,7 @@
 #include "command/interruption.h"
 #include "command/program.h"
 #include "files/file_error.h"
+#include "files/text.h"
 
 namespace ostrane::command {
 
@@ -61,19 +62,11 @@ void flush_output() {
   if (!console.pending.empty()) write_out();
 }
 
-std::string printable(std::string_view text) {
-  std::string line(text);
-  std::replace_if(
-      line.begin(), line.end(),
-      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }, '?');
-  return line;
-}
-
 void print_error(std::string_view file, std::string_view text) {
   hide_progress();
   std::string line = "ostrane-dat: ";
   if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
-  line = printable(line.append(text)) + '\n';
+  line = files::printable(line.append(text)) + '\n';
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
@@ -83,7 +76,7 @@ void print_note(std::string_view file, std::string_view text) {
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
-  if (!name.empty()) console.bar_name = printable(name);
+  if (!name.empty()) console.bar_name = files::printable(name);
   static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
   console.next_bar = clock::now() + bar_interval;

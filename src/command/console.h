@@ -26,9 +26,6 @@ void print_error(std::string_view file, std::string_view text);
 // The same for a note, which set_quiet suppresses.
 void print_note(std::string_view file, std::string_view text);
 
-// Replaces control characters by "?".
-std::string printable(std::string_view text);
-
 // Shows the progress of a long job as a bar on standard error if that is a terminal. An empty name
 // keeps the latest one. Throws interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);

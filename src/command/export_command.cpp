@@ -12,6 +12,8 @@
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/file_writer.h"
+#include "files/system_name.h"
+#include "files/text.h"
 #include "pictures/icon_exporter.h"
 #include "pictures/png_writer.h"
 
@@ -45,7 +47,7 @@ void skip(entries_export& job, const exported_entry& entry, const std::string& r
 
 files::file_path target_of(const entries_export& job, const std::string& name) {
   const std::filesystem::path path =
-      path_of_argument(job.options.folder) / std::u8string(name.begin(), name.end());
+      path_of_argument(job.options.folder) / files::path_of_utf8(name);
   return {path, argument_of_path(path) + ":"};
 }
 
@@ -74,7 +76,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
 }
 
 std::string gpl_of(const std::string& name, const rgb_palette& colours) {
-  std::string text = "GIMP Palette\nName: " + printable(name) + "\nColumns: 16\n#\n";
+  std::string text = "GIMP Palette\nName: " + files::printable(name) + "\nColumns: 16\n#\n";
   for (std::size_t i = 0; i < colours.size(); ++i) {
     std::array<char, 48> line = {};
     std::snprintf(line.data(), line.size(), "%3u %3u %3u\tIndex %zu\n", colours[i] >> 16U,

@@ -9,6 +9,7 @@
 #include "data/icon_file.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
+#include "files/system_name.h"
 #include "files/text.h"
 #include "pictures/icon_json.h"
 
@@ -35,10 +36,7 @@ void add_export(import_plan& plan, const fs::path& json) {
   plan.identifier = exported.identifier;
   for (const exported_icon& icon : exported.icons) {
     planned_icon planned = {.png = {}, .known = known_icon{icon.head, icon.last_column}};
-    if (icon.file) {
-      const std::u8string name(icon.file->begin(), icon.file->end());
-      planned.png = as_file_path(json.parent_path() / name);
-    }
+    if (icon.file) planned.png = as_file_path(json.parent_path() / files::path_of_utf8(*icon.file));
     plan.icons.push_back(planned);
   }
 }
@@ -84,7 +82,7 @@ std::optional<std::int32_t> last_column_of(icon_stream& stream, files::binary_fi
                                            const icon_file& from, const icon_head& head,
                                            std::int32_t position) {
   if (classify_icon(head) != icon_kind::drawable || !has_picture(head)) return {};
-  return head_of(read_icon_picture(stream, file, from, head, position)).col_end;
+  return last_set_column(read_icon_picture(stream, file, from, head, position));
 }
 
 }  // namespace
@@ -121,7 +119,7 @@ import_plan plan_like(const import_plan& plan, const files::file_path& old_file)
   import_plan like = {.identifier = from.head.identifier};
   auto next = pngs.begin();
   for (const std::int32_t position : from.positions) {
-    icon_head head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
+    icon_head head = blank_head;
     if (position <= 0 || !read_icon_head(file, position, head)) {
       like.icons.push_back({.png = {}, .known = known_icon{head, 0}});
       continue;

@@ -76,8 +76,8 @@ std::string long_line(const entry_row& entry) {
                      padded(std::to_string(entry.offset), 10) + "  ";
   const std::string kind = text_of(entry.kind);
   line += kind + std::string(8 - kind.size(), ' ');
-  line +=
-      padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  " + printable(entry.name);
+  line += padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  " +
+          files::printable(entry.name);
   if (!entry.description.empty()) {
     const auto starts_character = [](char c) {
       return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
@@ -85,7 +85,7 @@ std::string long_line(const entry_row& entry) {
     const auto width = static_cast<std::size_t>(
         std::count_if(entry.name.begin(), entry.name.end(), starts_character));
     line += std::string(width < name_size ? name_size - width : 0, ' ') + "  " +
-            printable(entry.description);
+            files::printable(entry.description);
   }
   return line;
 }
@@ -101,7 +101,7 @@ std::string json_of(const entry_row& entry) {
 
 void print_names(const archive_index& index) {
   for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
-    print_line(printable(files::to_utf8(name_with_blanks(index.records[i].name))));
+    print_line(files::printable(files::to_utf8(name_with_blanks(index.records[i].name))));
   }
 }
 

@@ -7,8 +7,8 @@
 #include "data/data_error.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
-#include "files/file_system.h"
 #include "files/file_writer.h"
+#include "files/text.h"
 #include "files/work_files.h"
 #include "files/written_path.h"
 

@@ -8,15 +8,13 @@
 #include <shellapi.h>
 
 #include "command/program.h"
+#include "files/system_name.h"
 
 namespace ostrane::command {
 
 namespace fs = std::filesystem;
 
-std::string argument_of_path(const fs::path& path) {
-  const std::u8string utf8 = path.u8string();
-  return {utf8.begin(), utf8.end()};
-}
+std::string argument_of_path(const fs::path& path) { return files::utf8_of(path); }
 
 std::vector<std::string> arguments_of(int /*argc*/, char** /*argv*/) {
   int count = 0;
@@ -27,9 +25,7 @@ std::vector<std::string> arguments_of(int /*argc*/, char** /*argv*/) {
   return arguments;
 }
 
-fs::path path_of_argument(const std::string& argument) {
-  return std::u8string(argument.begin(), argument.end());
-}
+fs::path path_of_argument(const std::string& argument) { return files::path_of_utf8(argument); }
 
 bool stderr_is_terminal() { return _isatty(2) != 0; }
 

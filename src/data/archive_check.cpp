@@ -20,8 +20,6 @@ namespace ostrane {
 namespace {
 
 constexpr std::int64_t palette_size = palette_colours * colour_size;
-// The window shows at most this much of a text.
-constexpr std::int64_t max_text_size = std::int64_t{2} << 20U;
 
 struct archive_check {
   const fault_sink& report;
@@ -40,14 +38,10 @@ std::string name_of(const archive_check& check, std::size_t index) {
   return name_with_blanks(check.records[index].name);
 }
 
-// An entry without a name is reported by its 1-based number. A fault is one line, so control
-// characters of a name become "?".
+// An entry without a name is reported by its 1-based number.
 std::string shown_name(const archive_check& check, std::size_t index) {
-  std::string name = name_of(check, index);
-  if (name.empty()) return "entry " + number(static_cast<std::int64_t>(index) + 1);
-  std::replace_if(
-      name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, '?');
-  return name;
+  const std::string name = files::printable(name_of(check, index));
+  return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
 }
 
 std::int64_t start_of(const archive_check& check, std::size_t index) {
@@ -158,9 +152,9 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
       }
       break;
     case entry_kind::text:
-      if (size > max_text_size) {
-        check.report(
-            name, "of its " + number(size) + " bytes only " + number(max_text_size) + " are shown");
+      if (size > max_shown_text) {
+        check.report(name, "of its " + number(size) + " bytes only " + number(max_shown_text) +
+                               " are shown");
       }
       break;
     case entry_kind::other:

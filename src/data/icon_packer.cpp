@@ -51,25 +51,33 @@ std::size_t offset_of(const std::string& file, const std::string& icon,
 
 }  // namespace
 
+std::int32_t last_set_column(const picture& drawn) {
+  std::int32_t last = -1;
+  for (int row = 0; row < drawn.rows(); ++row) {
+    for (std::int32_t column = drawn.columns() - 1; column > last; --column) {
+      if (drawn.is_set(column, row)) last = column;
+    }
+  }
+  return last;
+}
+
 icon_head head_of(const picture& drawn) {
   icon_head head{static_cast<std::int16_t>(drawn.rows() - 1),
                  static_cast<std::int16_t>(drawn.columns() - 1),
                  drawn.columns(),
                  drawn.rows(),
-                 -1,
+                 last_set_column(drawn),
                  -1};
+  if (head.col_end < 0) head.col_start = head.row_start = head.col_end = head.row_end = 0;
   for (int row = 0; row < drawn.rows(); ++row) {
     const auto cells = drawn.row(row);
     const auto is_set = [](std::int16_t cell) { return cell != picture::unset; };
     const auto first = std::find_if(cells.begin(), cells.end(), is_set);
     if (first == cells.end()) continue;
-    const auto after = std::find_if(cells.rbegin(), cells.rend(), is_set).base();
     head.col_start = std::min(head.col_start, static_cast<std::int32_t>(first - cells.begin()));
-    head.col_end = std::max(head.col_end, static_cast<std::int32_t>(after - cells.begin()) - 1);
     head.row_start = std::min(head.row_start, row);
     head.row_end = row;
   }
-  if (head.row_end < 0) head.col_start = head.row_start = head.col_end = head.row_end = 0;
   return head;
 }
 

@@ -19,6 +19,9 @@ struct shp_icon {
 // cell if no cell is set.
 icon_head head_of(const picture& drawn);
 
+// Returns the last column with a set cell, or -1.
+std::int32_t last_set_column(const picture& drawn);
+
 // Returns the shortest run-length stream that paints the set cells of the picture. No set cell may
 // lie above, below or left of the data box of `head`. The box may begin outside the picture.
 std::string packed(const picture& drawn, const icon_head& head);

@@ -48,6 +48,9 @@ struct icon_head {
   std::int32_t spare = 0;
 };
 
+// The head of an icon that shows nothing. It replaces a head that cannot be read.
+constexpr icon_head blank_head = {.col_start = 1};
+
 // Convert the bytes in the file. Values are not checked.
 shp_head decode_shp_head(std::span<const std::byte, shp_head_size> bytes);
 shp_dir_entry decode_shp_dir_entry(std::span<const std::byte, shp_dir_entry_size> bytes);

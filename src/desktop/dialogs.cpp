@@ -7,6 +7,7 @@
 
 #include "desktop/menu_items.h"
 #include "desktop/screen_text.h"
+#include "files/system_name.h"
 
 namespace desktop {
 
@@ -71,8 +72,8 @@ forms_layer::save_answer ask_save_path(const forms_layer::save_question& questio
   });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   folder = dialog.directory().absolutePath();
-  const std::string path = dialog.selectedFiles().first().toStdString();
-  return {.path = std::u8string(path.begin(), path.end()), .kind = kind_selected()};
+  return {.path = files::path_of_utf8(dialog.selectedFiles().first().toStdString()),
+          .kind = kind_selected()};
 }
 
 }  // namespace desktop

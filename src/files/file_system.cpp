@@ -119,29 +119,4 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
   return unlisted;
 }
 
-bool matches_pattern(const std::string& name, const std::string& pattern) {
-  const std::string text = upper_case(name);
-  const std::string wanted = upper_case(pattern);
-  std::size_t at = 0;
-  std::size_t in_pattern = 0;
-  std::size_t star = std::string::npos;
-  std::size_t star_ends = 0;
-  while (at < text.size()) {
-    const bool more = in_pattern < wanted.size();
-    if (more && wanted[in_pattern] == '*') {
-      star = in_pattern++;
-      star_ends = at;
-    } else if (more && (wanted[in_pattern] == '?' || wanted[in_pattern] == text[at])) {
-      ++at;
-      ++in_pattern;
-    } else if (star != std::string::npos) {
-      in_pattern = star + 1;
-      at = ++star_ends;
-    } else {
-      return false;
-    }
-  }
-  return wanted.find_first_not_of('*', in_pattern) == std::string::npos;
-}
-
 }  // namespace files

@@ -36,7 +36,4 @@ std::vector<unlisted_file> unlisted_files_in(const std::string& path,
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<std::string>& listed);
 
-// Ignores case. "*" matches any number of characters, "?" exactly one.
-bool matches_pattern(const std::string& name, const std::string& pattern);
-
 }  // namespace files

@@ -154,8 +154,7 @@ file_path in_current_folder(const std::string& name) {
 file_path from_system_path(const fs::path& path) {
   const std::string shown = to_tool_path(path);
   if (!shown.empty()) return {path, shown};
-  const std::u8string utf8 = path.u8string();
-  return {path, from_utf8_lossy({reinterpret_cast<const char*>(utf8.data()), utf8.size()})};
+  return {path, from_utf8_lossy(utf8_of(path))};
 }
 
 std::string current_folder() {

@@ -1,5 +1,6 @@
 #include "files/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -15,6 +16,39 @@ std::string_view trimmed(std::string_view text) {
 
 std::string_view last_characters(std::string_view text, std::size_t count) {
   return text.size() <= count ? text : text.substr(text.size() - count);
+}
+
+std::string printable(std::string_view text) {
+  std::string line(text);
+  std::replace_if(
+      line.begin(), line.end(),
+      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }, '?');
+  return line;
+}
+
+bool matches_pattern(const std::string& name, const std::string& pattern) {
+  const std::string text = upper_case(name);
+  const std::string wanted = upper_case(pattern);
+  std::size_t at = 0;
+  std::size_t in_pattern = 0;
+  std::size_t star = std::string::npos;
+  std::size_t star_ends = 0;
+  while (at < text.size()) {
+    const bool more = in_pattern < wanted.size();
+    if (more && wanted[in_pattern] == '*') {
+      star = in_pattern++;
+      star_ends = at;
+    } else if (more && (wanted[in_pattern] == '?' || wanted[in_pattern] == text[at])) {
+      ++at;
+      ++in_pattern;
+    } else if (star != std::string::npos) {
+      in_pattern = star + 1;
+      at = ++star_ends;
+    } else {
+      return false;
+    }
+  }
+  return wanted.find_first_not_of('*', in_pattern) == std::string::npos;
 }
 
 std::string compare_key(std::string_view name) { return upper_case(trimmed(name)); }

@@ -12,6 +12,12 @@ std::string_view trimmed(std::string_view text);
 // The last `count` characters, or all if there are fewer.
 std::string_view last_characters(std::string_view text, std::size_t count);
 
+// Replaces control characters by "?", so that the text is one line.
+std::string printable(std::string_view text);
+
+// Ignores case. "*" matches any number of characters, "?" exactly one.
+bool matches_pattern(const std::string& name, const std::string& pattern);
+
 // Names in lists are equal if these keys are, and sorted by them: trimmed, in upper case. The keys
 // compare by unsigned bytes.
 std::string compare_key(std::string_view name);

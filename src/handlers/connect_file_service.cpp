@@ -3,6 +3,7 @@
 #include "files/drives.h"
 #include "files/file_system.h"
 #include "files/paths.h"
+#include "files/text.h"
 #include "forms_layer/file_service.h"
 
 namespace ostrane {

@@ -9,15 +9,14 @@
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/code_page.h"
-#include "files/failure.h"
 #include "files/paths.h"
+#include "files/system_name.h"
 #include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen_services.h"
 #include "icons/motion.h"
 #include "state/open_archive.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -25,25 +24,15 @@ namespace {
 
 constexpr std::size_t kind_of_pngs = 1;  // index of a file_kind
 
-std::string entry_name() {
-  return name_with_blanks(
-      tool_state.dat_index[static_cast<std::size_t>(tool_state.directory_index)].name);
-}
-
 // The beginning of the proposed file name. It must not lead to another folder.
 std::string proposed_stem() {
-  const std::string name = entry_name();
+  const std::string name = entry_name(tool_state.directory_index);
   return unsafe_name_reason(name).empty() ? stem_of_entry(name) : "picture";
 }
 
 std::size_t icon_number_of(std::int32_t slot) {
   return static_cast<std::size_t>(tool_state.series_first_icon) + static_cast<std::size_t>(slot) -
          1;
-}
-
-std::string as_utf8(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
 }
 
 // "GEMS" for "GEMS-0001"; nullopt for other names.
@@ -56,9 +45,9 @@ std::optional<std::string> without_number(const std::string& stem) {
 // Sets the form and the names of the files. Returns false for an unknown ending.
 bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   const std::filesystem::path path = answer.path;
-  const std::string ending = files::lower_case(as_utf8(path.extension()));
+  const std::string ending = files::lower_case(files::utf8_of(path.extension()));
   const bool is_series = wanted.form != picture_form::picture;
-  wanted.stem = as_utf8(path.stem());
+  wanted.stem = files::utf8_of(path.stem());
   if (is_series && ending == ".gif") {
     wanted.form = picture_form::gif;
   } else if (ending != ".png") {
@@ -73,14 +62,13 @@ bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   const bool is_numbered = wanted.form == picture_form::png;
   wanted.target = [path, is_numbered](const std::string& name) {
     const bool is_other = is_numbered || name.ends_with(".json");
-    return files::from_system_path(
-        is_other ? path.parent_path() / std::u8string(name.begin(), name.end()) : path);
+    return files::from_system_path(is_other ? path.parent_path() / files::path_of_utf8(name)
+                                            : path);
   };
   return true;
 }
 
 void export_from_archive(icon_export& wanted) {
-  open_archive_file();
   wanted.start = entry_start(index_records(), tool_state.directory_index);
   wanted.end = entry_end(index_records(), tool_state.directory_index);
   wanted.colours = read_game_colours(tool_state.archive_file, index_records());
@@ -98,14 +86,12 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
     return;
   }
   std::vector<skipped_file> skipped;
-  wanted.entry = files::to_utf8(entry_name());
+  const std::string entry = entry_name(tool_state.directory_index);
+  wanted.entry = files::to_utf8(entry);
   wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
-  wanted.on_skipped = [&skipped](const std::string& reason) {
-    skipped.push_back({entry_name(), reason});
-  };
+  wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
   files::clear_leftovers(answer.path.parent_path());
-  const std::string failure = files::failure_of([&wanted] { export_from_archive(wanted); });
-  tool_state.archive_file.close();
+  const std::string failure = read_open_archive([&wanted] { export_from_archive(wanted); });
   if (!failure.empty()) {
     forms_layer::message_box(failure + not_saved);
   } else if (!skipped.empty()) {

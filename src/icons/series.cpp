@@ -3,7 +3,6 @@
 #include <string>
 
 #include "data/sign_column_text.h"
-#include "files/failure.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms_layer/message_box.h"
@@ -12,7 +11,6 @@
 #include "icons/slots.h"
 #include "progress/progress.h"
 #include "state/open_archive.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -95,7 +93,6 @@ void draw_next_icon() {
 }
 
 void draw_from_archive() {
-  open_archive_file();
   if (tool_state.directory_read == flag_false) read_directory();
   while (tool_state.series_full == flag_false) {
     if (tool_state.next_icon > tool_state.shp_head.icon_count) break;
@@ -117,12 +114,11 @@ void reset_series(std::int16_t first_icon) {
 
 // If the archive cannot be read, shows a message and the icons drawn so far.
 void draw_shp_series() {
-  const std::string failure = files::failure_of(draw_from_archive);
+  const std::string failure = read_open_archive(draw_from_archive);
   if (!failure.empty()) {
     forms_layer::message_box(failure);
     if (tool_state.directory_read == flag_false) tool_state.shp_head = {};
   }
-  tool_state.archive_file.close();
   Form1.Text2.Text = std::to_string(tool_state.shp_head.icon_count);
   tool_state.slots_drawn = tool_state.current_slot;
   tool_state.shown_slot = 1;

@@ -3,19 +3,16 @@
 #include <algorithm>
 #include <string>
 
+#include "data/entry_kind.h"
 #include "data/entry_range.h"
-#include "files/failure.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "progress/progress.h"
 #include "state/open_archive.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
 namespace {
-
-constexpr std::int64_t max_shown_bytes = std::int64_t{2} << 20U;
 
 // Bytes of the entry that are inside the file.
 std::int64_t available_bytes(std::int32_t offset) {
@@ -35,12 +32,11 @@ std::string read_text(std::int32_t offset, std::int64_t count) {
 
 // Returns a message for the user, or "".
 std::string show_text(std::int32_t offset) {
-  open_archive_file();
   const std::int64_t count = available_bytes(offset);
-  Form1.Text6.Text = read_text(offset, std::min(count, max_shown_bytes));
-  if (count <= max_shown_bytes) return "";
+  Form1.Text6.Text = read_text(offset, std::min(count, max_shown_text));
+  if (count <= max_shown_text) return "";
   return "This text has " + std::to_string(count) + " bytes. Only the first " +
-         std::to_string(max_shown_bytes) + " of them are shown.";
+         std::to_string(max_shown_text) + " of them are shown.";
 }
 
 }  // namespace
@@ -52,8 +48,7 @@ void show_text_entry() {
   Form1.Text6.Text = "";
   show_working_message();
   std::string message;
-  const std::string failure = files::failure_of([&] { message = show_text(offset); });
-  tool_state.archive_file.close();
+  const std::string failure = read_open_archive([&] { message = show_text(offset); });
   if (!failure.empty()) message = failure;
   if (!message.empty()) forms_layer::message_box(message);
 }

@@ -1,11 +1,21 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
-#include "pictures/pixel_form.h"
+#include "data/game_palette.h"
 
 namespace ostrane {
+
+// The palette with a different colour for each index. The lowest of the indices with the same
+// colour keeps it; the others get the nearest unused colour.
+rgb_palette distinct_colours(const rgb_palette& palette);
+
+// The lowest index of the nearest colours, other than `except`.
+std::uint8_t nearest_index(const rgb_palette& palette, std::uint32_t colour,
+                           std::optional<std::size_t> except = {});
 
 struct found_colour {
   std::uint8_t index = 0;
@@ -29,7 +39,6 @@ class colour_finder {
   static constexpr std::uint32_t spread = 2654435761U;  // Knuth's multiplicative hash
 
   found_colour search(std::uint32_t colour);
-  found_colour nearest(std::uint32_t colour) const;
 
   struct remembered_colour {
     std::uint32_t colour = UINT32_MAX;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "data/data_error.h"
+#include "pictures/colour_finder.h"
 #include "pictures/pixel_form.h"
 
 namespace ostrane {
@@ -60,14 +61,7 @@ frame_indices indices_of(const gif_job& job, const picture& drawn) {
   }
   const auto rarest =
       static_cast<std::size_t>(std::min_element(uses.begin(), uses.end()) - uses.begin());
-  std::size_t nearest = rarest == 0 ? 1 : 0;
-  for (std::size_t i = 0; i < job.palette.size(); ++i) {
-    const std::int32_t from_rarest = distance(job.palette[i], job.palette[rarest]);
-    if (i != rarest && from_rarest < distance(job.palette[nearest], job.palette[rarest])) {
-      nearest = i;
-    }
-  }
-  indices.new_index[rarest] = static_cast<std::uint8_t>(nearest);
+  indices.new_index[rarest] = nearest_index(job.palette, job.palette[rarest], rarest);
   indices.unset = static_cast<int>(rarest);
   job.inexact += uses[rarest];
   return indices;

@@ -7,10 +7,12 @@
 #include "data/counted.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
+#include "data/icon_packer.h"
 #include "files/file_writer.h"
+#include "files/system_name.h"
+#include "pictures/colour_finder.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
-#include "pictures/pixel_form.h"
 #include "pictures/png_writer.h"
 #include "pictures/sheet.h"
 
@@ -46,23 +48,9 @@ std::string png_at_scale(const icon_export_job& job, const picture& drawn) {
   return png_of(drawn, job.wanted.colours, job.distinct, job.wanted.scale);
 }
 
-std::int32_t last_set_column(const picture& drawn) {
-  std::int32_t last = -1;
-  for (int row = 0; row < drawn.rows(); ++row) {
-    const auto cells = drawn.row(row);
-    for (std::int32_t column = drawn.columns() - 1; column > last; --column) {
-      if (cells[static_cast<std::size_t>(column)] != picture::unset) last = column;
-    }
-  }
-  return last;
-}
-
 // Called for each drawable icon.
 using drawable_handler =
     std::function<void(std::size_t number, picture drawn, exported_icon& icon)>;
-
-// Replaces a head that cannot be read.
-constexpr icon_head blank_head = {.no_of_rows = 0, .no_of_cols = 0, .col_start = 1};
 
 exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
                         const drawable_handler& on_drawable) {
@@ -145,8 +133,7 @@ void export_sheet(icon_export_job& job) {
   const std::string name = job.wanted.stem + ".png";
   write_output(job, name, png_at_scale(job, made.drawn));
   // The user may have given the file a name in another case.
-  const std::u8string image_name = job.wanted.target(name).system.filename().u8string();
-  const std::string image(image_name.begin(), image_name.end());
+  const std::string image = files::utf8_of(job.wanted.target(name).system.filename());
   write_output(job, job.wanted.stem + ".json",
                json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
 }

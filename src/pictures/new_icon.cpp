@@ -13,11 +13,6 @@ namespace {
 constexpr std::int64_t max_skip = 255;
 constexpr std::int64_t skip_bytes = 2;
 
-bool has_set_cells(const picture& drawn, const icon_head& smallest) {
-  return drawn.is_set(smallest.col_start, smallest.row_start) || smallest.row_end > 0 ||
-         smallest.col_end > 0;
-}
-
 // The smallest box that contains the known one and all set cells.
 void widen(icon_head& head, const icon_head& smallest, std::int32_t last_column) {
   if (head.row_start > head.row_end) {
@@ -51,7 +46,7 @@ shp_icon new_icon(const picture& drawn, const std::optional<known_icon>& known) 
     return {head, packed(drawn, head)};
   }
   icon_head head = known->head;
-  const bool is_set = has_set_cells(drawn, smallest);
+  const bool is_set = last_set_column(drawn) >= 0;
   if (is_set) widen(head, smallest, known->last_column);
   if (bytes_before_cells(head, smallest, is_set) > max_stream_bytes(head)) {
     if (!is_set) return {head, ""};  // a decoder stops before the first cell

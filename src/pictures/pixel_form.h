@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 
-#include "data/game_palette.h"
 #include "data/picture.h"
 
 // How the cells of a picture become pixels of a PNG without loss: indexed with the palette, where
@@ -17,12 +16,5 @@ struct pixel_form {
 };
 
 pixel_form form_of(const picture& drawn);
-
-// The palette with a different colour for each index. The lowest of the indices with the same
-// colour keeps it; the others get the nearest unused colour.
-rgb_palette distinct_colours(const rgb_palette& palette);
-
-// The squared distance of two colours.
-std::int32_t distance(std::uint32_t a, std::uint32_t b);
 
 }  // namespace ostrane

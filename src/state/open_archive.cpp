@@ -23,4 +23,8 @@ std::span<const dat_record> index_records() {
   return std::span(tool_state.dat_index).first(static_cast<std::size_t>(tool_state.record_count));
 }
 
+std::string entry_name(std::int32_t index) {
+  return name_with_blanks(tool_state.dat_index[static_cast<std::size_t>(index)].name);
+}
+
 }  // namespace ostrane
