@@ -5,7 +5,7 @@
 
 #include "archive/skipped_files.h"
 #include "data/extraction.h"
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "files/failure.h"
 #include "files/file_system.h"
 #include "files/paths.h"

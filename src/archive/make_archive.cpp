@@ -6,7 +6,7 @@
 #include "archive/index_reader.h"
 #include "archive/skipped_files.h"
 #include "data/archive_builder.h"
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_error.h"

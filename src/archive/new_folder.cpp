@@ -1,6 +1,6 @@
 #include "archive/new_folder.h"
 
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "files/file_error.h"
 #include "files/file_system.h"
 #include "files/paths.h"

@@ -10,8 +10,8 @@
 #include "command/import_sources.h"
 #include "command/named_files.h"
 #include "command/program.h"
-#include "data/counted.h"
 #include "data/data_error.h"
+#include "data/number_text.h"
 #include "data/palette.h"
 #include "pictures/png_reader.h"
 

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "data/archive_index.h"
-#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_kind.h"
 #include "data/icon_check.h"
+#include "data/number_text.h"
 #include "data/palette.h"
 #include "files/text.h"
 

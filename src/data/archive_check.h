@@ -1,9 +1,14 @@
 #pragma once
 
-#include "data/fault_sink.h"
+#include <functional>
+#include <string>
+
 #include "files/file_path.h"
 
 namespace ostrane {
+
+// Receives the faults that a check finds. `entry` is "" for a fault of the archive itself.
+using fault_sink = std::function<void(const std::string& entry, const std::string& fault)>;
 
 // Reports every fault of an archive: of its index, the names and offsets in it, and of its icon
 // files, palettes and texts. Reported names are in the code page. `on_entry` is called before the

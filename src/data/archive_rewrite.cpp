@@ -4,9 +4,9 @@
 #include <array>
 
 #include "data/chunk_ladder.h"
-#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/new_index.h"
+#include "data/number_text.h"
 #include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/text.h"

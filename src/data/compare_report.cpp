@@ -1,6 +1,6 @@
 #include "data/compare_report.h"
 
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "files/text.h"
 #include "files/text_file.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "data/counted.h"
 #include "data/icon_decoder.h"
 #include "data/icon_file.h"
+#include "data/number_text.h"
 
 namespace ostrane {
 

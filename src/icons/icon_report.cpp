@@ -4,7 +4,7 @@
 
 #include "data/archive_format.h"
 #include "data/entry_kind.h"
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "forms/form1.h"
 #include "progress/progress.h"
 #include "state/tool_state.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "files/text.h"
 #include "forms/form1.h"
 #include "icons/slots.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "forms/form1.h"
 #include "forms/form3.h"
 #include "forms_layer/message_box.h"

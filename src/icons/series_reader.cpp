@@ -4,8 +4,8 @@
 #include <span>
 
 #include "data/entry_range.h"
+#include "data/number_text.h"
 #include "data/shp_reader.h"
-#include "data/sign_column_text.h"
 #include "files/text.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"

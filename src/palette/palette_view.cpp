@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "data/sign_column_text.h"
+#include "data/number_text.h"
 #include "forms/form1.h"
 #include "icons/slots.h"
 #include "state/tool_state.h"

@@ -4,10 +4,10 @@
 #include <memory>
 
 #include "data/archive_index.h"
-#include "data/counted.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "data/icon_packer.h"
+#include "data/number_text.h"
 #include "files/file_writer.h"
 #include "files/system_name.h"
 #include "pictures/colour_finder.h"

@@ -16,7 +16,6 @@
 #include "data/shp_format.h"
 #include "files/binary_file.h"
 #include "forms_layer/colour.h"
-#include "state/icon_data.h"
 
 namespace ostrane {
 
@@ -25,6 +24,16 @@ constexpr flag flag_true = -1;
 constexpr flag flag_false = 0;
 
 constexpr std::int32_t max_slots = 9999;
+
+// The numbers of the icon on a slot, for its report.
+struct icon_data_record {
+  std::int32_t cols;
+  std::int32_t rows;
+  std::int32_t first_col;
+  std::int32_t last_col;
+  std::int32_t first_row;
+  std::int32_t last_row;
+};
 
 // The state of the tool. Every handler and procedure reads and writes it directly. Lengths are
 // twips. Arrays that count from 1 leave element 0 unused. Large arrays have no initialiser: static
