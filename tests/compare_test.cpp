@@ -47,7 +47,7 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
     user::click(Form1.mnu_read_filelist);
     Form6.Dir1.Path = "D:\\";
     screen.log.clear();
-    user::select_file(Form6.File1, 0);
+    user::select_row(Form6.File1, 0);
     user::click(Form6.Command1);
     std::string report = head_of_counts + head;
     for (const std::string& row : rows) report += row + "\r\n";

@@ -57,13 +57,13 @@ TEST_F(dialogs_test, ReloadsItsLists) {
     const std::function<void()> ways[] = {
         [&] { user::reload(form); }, [&] { user::open_folder(form.Dir1, form.Dir1.open_row()); }};
     for (const auto& ask : ways) {
-      const auto folders = form.Dir1.rows().size();
+      const auto folders = form.Dir1.ListCount();
       make_folder("D:\\Sub\\Deep\\Came");
       for (const char* name : {"a.txt", "oStrane.dat", "ostrane.data", "b.txt.x"}) {
         write(std::string("D:\\Sub\\Deep\\") + name, "");
       }
       ask();
-      EXPECT_EQ(form.Dir1.rows().size(), folders + 1);
+      EXPECT_EQ(form.Dir1.ListCount(), folders + 1);
       EXPECT_EQ(form.File1.ListCount(), field != nullptr ? 4 : 1);
       const bool archives = std::is_same_v<decltype(form), form2&>;
       EXPECT_EQ(form.File1.List(0), archives ? "oStrane.dat" : "a.txt");

@@ -19,10 +19,10 @@ drive_view::drive_view(forms_layer::drive_list& shown, QWidget* parent) : view_o
 
 void drive_view::show_content() {
   clear();
-  for (const std::string& drive : shown_.rows()) addItem(to_screen(drive));
+  for (int row = 0; row < shown_.ListCount(); ++row) addItem(to_screen(shown_.List(row)));
 }
 
-void drive_view::show_selection() { setCurrentIndex(shown_.selected_row()); }
+void drive_view::show_selection() { setCurrentIndex(shown_.ListIndex()); }
 
 void drive_view::show_colours() {
   const forms_layer::colour back = shown_.BackColor();

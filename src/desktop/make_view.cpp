@@ -3,12 +3,11 @@
 #include "desktop/button_view.h"
 #include "desktop/dir_list_view.h"
 #include "desktop/drive_view.h"
-#include "desktop/file_list_view.h"
 #include "desktop/frame_view.h"
 #include "desktop/label_view.h"
-#include "desktop/list_box_view.h"
 #include "desktop/multiline_text_view.h"
 #include "desktop/progress_view.h"
+#include "desktop/rows_view.h"
 #include "desktop/text_field_view.h"
 
 namespace desktop {
@@ -36,15 +35,14 @@ control_view* make_view(forms_layer::control& shown, QWidget* parent) {
                  ? make<multiline_text_view, forms_layer::text_box>(shown, parent)
                  : make<text_field_view, forms_layer::text_box>(shown, parent);
     case control_kind::list_box:
-      return make<list_box_view, forms_layer::list_box>(shown, parent);
+    case control_kind::file_list:
+      return make<rows_view, forms_layer::row_list>(shown, parent);
     case control_kind::progress_bar:
       return make<progress_view, forms_layer::progress_bar>(shown, parent);
     case control_kind::drive_list:
       return make<drive_view, forms_layer::drive_list>(shown, parent);
     case control_kind::dir_list:
       return make<dir_list_view, forms_layer::dir_list>(shown, parent);
-    case control_kind::file_list:
-      return make<file_list_view, forms_layer::file_list>(shown, parent);
     case control_kind::picture_box:
       break;
   }

@@ -8,9 +8,11 @@
 #include <array>
 #include <utility>
 
+#include "desktop/dialogs.h"
 #include "desktop/keys.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/events.h"
+#include "forms_layer/user.h"
 
 namespace desktop {
 
@@ -36,9 +38,12 @@ class indenting : public QStyledItemDelegate {
 
 }  // namespace
 
-rows_view::rows_view(forms_layer::control& shown, QWidget* parent)
+rows_view::rows_view(forms_layer::row_list& shown, QWidget* parent)
     : view_of(shown, parent), model_(*this) {
   setBackgroundRole(QPalette::Base);
+  if (shown.kind == forms_layer::control_kind::file_list) {
+    setAccessibleName(QStringLiteral("Files"));
+  }
   setModel(&model_);
   setItemDelegate(new indenting(*this));
   setIconSize(QSize(icon_side, icon_side));
@@ -56,7 +61,7 @@ void rows_view::show_content() {
 }
 
 void rows_view::show_selection() {
-  const int row = selected_row();
+  const int row = shown_.ListIndex();
   if (row < 0 || row >= model_.rowCount({})) {
     clearSelection();
     setCurrentIndex({});
@@ -66,7 +71,7 @@ void rows_view::show_selection() {
 }
 
 void rows_view::choose(int row) {
-  row_chosen(row);
+  forms_layer::user::select_row(shown_, row);
   // While a handler runs the event is queued, and the end of the handler syncs the selection.
   if (!forms_layer::handler_running()) show_selection();
 }
@@ -81,6 +86,8 @@ void rows_view::mousePressEvent(QMouseEvent* event) {
 
 // A drag does not select.
 void rows_view::mouseMoveEvent(QMouseEvent* /*event*/) {}
+
+void rows_view::row_double_clicked(int row) { forms_layer::user::double_click(shown_, row); }
 
 // The first press may have scrolled another row under the mouse.
 void rows_view::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -122,11 +129,12 @@ void rows_view::keyboardSearch(const QString& letters) {
 
 void rows_view::contextMenuEvent(QContextMenuEvent* event) {
   const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
-  const QModelIndex on = by_key ? model_.index(selected_row()) : indexAt(event->pos());
+  const QModelIndex on = by_key ? model_.index(shown_.ListIndex()) : indexAt(event->pos());
   if (!on.isValid()) return;
   if (by_key) scrollTo(on);
   const QPoint middle = viewport()->mapToGlobal(visualRect(on).center());
-  menu_requested(on.row(), by_key ? middle : event->globalPos());
+  forms_layer::user::open_menu(shown_, on.row(),
+                               as_screen_point(by_key ? middle : event->globalPos()));
 }
 
 // Qt would show the tool tips of rows, which have none, instead of that of the list.
@@ -148,19 +156,19 @@ QSize rows_view::needed_size() const {
     widths[c] = fontMetrics().horizontalAdvance(to_screen({text, 1}));
   }
   int widest = 0;
-  for (int row = 0; row < row_count(); ++row) {
+  for (int row = 0; row < shown_.ListCount(); ++row) {
     int width = indent(row);
-    for (const char c : row_text(row)) width += widths[static_cast<unsigned char>(c)];
+    for (const char c : shown_.List(row)) width += widths[static_cast<unsigned char>(c)];
     widest = std::max(widest, width);
   }
   const QSize text(widest + text_margins, fontMetrics().height() + 1);
-  if (row_count() == 0 || row_icon(0).isNull()) return text;
+  if (shown_.ListCount() == 0 || row_icon(0).isNull()) return text;
   return {text.width() + icon_side + text_margins, std::max(text.height(), icon_side)};
 }
 
 void rows_view::rows_model::reload() {
   beginResetModel();
-  count_ = view_.row_count();
+  count_ = view_.list().ListCount();
   endResetModel();
 }
 
@@ -170,10 +178,10 @@ int rows_view::rows_model::rowCount(const QModelIndex& parent) const {
 
 QVariant rows_view::rows_model::data(const QModelIndex& index, int role) const {
   // The control may have fewer rows than the screen knows.
-  if (index.row() >= view_.row_count()) return {};
+  if (index.row() >= view_.list().ListCount()) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return to_screen(view_.row_text(index.row()));
+      return to_screen(view_.list().List(index.row()));
     case Qt::DecorationRole:
       return view_.row_icon(index.row());
     case Qt::SizeHintRole:

@@ -2,34 +2,27 @@
 
 #include <QAbstractListModel>
 #include <QListView>
-#include <string_view>
 
 #include "desktop/control_view.h"
+#include "forms_layer/row_list.h"
 
 namespace desktop {
 
-// A list of rows of text. Subclasses supply the rows and handle selections. A row is read from the
-// control when it is painted, so long lists are cheap.
-class rows_view : public view_of<QListView, forms_layer::control> {
+// A list of rows of text. A row is read from the control when it is painted, so long lists are
+// cheap.
+class rows_view : public view_of<QListView, forms_layer::row_list> {
  public:
-  rows_view(forms_layer::control& shown, QWidget* parent);
+  rows_view(forms_layer::row_list& shown, QWidget* parent);
 
-  // The text in the tool's code page.
-  virtual std::string_view row_text(int row) const = 0;
-  virtual int row_count() const = 0;
+  const forms_layer::row_list& list() const { return shown_; }
   // An icon before the text, and the pixels to the left of both.
   virtual QIcon row_icon(int /*row*/) const { return {}; }
   virtual int indent(int /*row*/) const { return 0; }
   QSize row_size() const { return row_size_; }
 
  protected:
-  virtual int selected_row() const = 0;
-  // Called after a press on a row, also the selected one, or a selection by keyboard.
-  virtual void row_chosen(int /*row*/) {}
-  virtual void row_double_clicked(int /*row*/) {}
+  virtual void row_double_clicked(int row);
   virtual void enter_pressed(int /*row*/) {}
-  // Called after the right button or the menu key, with a point of the screen.
-  virtual void menu_requested(int /*row*/, const QPoint& /*at*/) {}
 
   void show_content() override;
   void show_selection() override;

@@ -18,23 +18,27 @@ void dir_list::set_path(const std::string& path) {
 void dir_list::Refresh() { show(system_files.folders_in(Path())); }
 
 void dir_list::show(const std::vector<std::string>& folders_inside) {
-  rows_.clear();
   const std::string& path = Path();
-  const std::string root = path.substr(0, 3);  // "C:\"
-  rows_.push_back({root, 0, true, root});
-  std::size_t begin = root.size();
-  while (begin < path.size()) {
+  rows_ = {path.substr(0, 3)};  // "C:\"
+  for (std::size_t begin = rows_.front().size(); begin < path.size();) {
     const std::size_t end = std::min(path.find('\\', begin), path.size());
-    const auto depth = static_cast<std::int32_t>(rows_.size());
-    rows_.push_back({path.substr(begin, end - begin), depth, true, path.substr(0, end)});
+    rows_.push_back(path.substr(begin, end - begin));
     begin = end + 1;
   }
-  open_row_ = static_cast<std::int32_t>(rows_.size()) - 1;
-  const std::string prefix = path.back() == '\\' ? path : path + '\\';
-  for (const std::string& folder : folders_inside) {
-    rows_.push_back({folder, open_row_ + 1, false, prefix + folder});
-  }
+  open_row_ = ListCount() - 1;
+  rows_.insert(rows_.end(), folders_inside.begin(), folders_inside.end());
+  ListIndex = open_row_;
   notify_screen(property_id::items);
+}
+
+std::string dir_list::path_of(std::int32_t row) const {
+  std::string path = List(0);
+  for (std::int32_t i = 1; i <= row; ++i) {
+    if (i > open_row_ && i < row) continue;
+    if (path.back() != '\\') path += '\\';
+    path += List(i);
+  }
+  return path;
 }
 
 }  // namespace forms_layer

@@ -8,16 +8,10 @@
 
 namespace forms_layer {
 
-// A tree of folders: the ancestors of `Path`, that folder itself, and the folders in it.
+// A tree of folders: the ancestors of `Path`, that folder itself, which is selected when it is
+// read, and the folders in it.
 class dir_list : public path_control {
  public:
-  struct row {
-    std::string name;
-    std::int32_t depth;
-    bool open;  // `Path` or one of its ancestors
-    std::string path;
-  };
-
   dir_list(container& parent_container, const design& as_designed)
       : path_control(parent_container, control_kind::dir_list, as_designed) {}
 
@@ -27,15 +21,14 @@ class dir_list : public path_control {
 
   event Change;
 
-  const std::vector<row>& rows() const { return rows_; }
-  // Index of the row of `Path`.
+  // The row of `Path`. The rows before it are its ancestors.
   std::int32_t open_row() const { return open_row_; }
+  std::string path_of(std::int32_t row) const;
 
  private:
   void show_empty() override { show({}); }
   void show(const std::vector<std::string>& folders_inside);
 
-  std::vector<row> rows_;
   std::int32_t open_row_ = 0;
 };
 

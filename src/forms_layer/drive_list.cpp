@@ -10,7 +10,7 @@ void drive_list::set_drive(const std::string& text) {
   const std::string wanted = system_files.drive_named_by(text);
   if (wanted == Drive()) return;
   Drive.value_ = wanted;
-  notify_screen(property_id::selection);
+  select_row_of_drive();
   if (Change) Change();
 }
 
@@ -24,12 +24,13 @@ void drive_list::about_to_show() {
     const auto found = std::find_if(rows_.begin(), rows_.end(), is_current);
     if (found != rows_.end()) Drive.value_ = *found;
   }
+  select_row_of_drive();
   notify_screen(property_id::items);
 }
 
-std::int32_t drive_list::selected_row() const {
+void drive_list::select_row_of_drive() {
   const auto at = std::find(rows_.begin(), rows_.end(), Drive());
-  return at == rows_.end() ? -1 : static_cast<std::int32_t>(at - rows_.begin());
+  ListIndex = at == rows_.end() ? -1 : static_cast<std::int32_t>(at - rows_.begin());
 }
 
 }  // namespace forms_layer

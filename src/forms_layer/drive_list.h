@@ -1,18 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
-#include "forms_layer/control.h"
+#include "forms_layer/row_list.h"
 
 namespace forms_layer {
 
 // A drop-down list of the drives.
-class drive_list : public control {
+class drive_list : public row_list {
  public:
   drive_list(container& parent_container, const design& as_designed)
-      : control(parent_container, control_kind::drive_list, as_designed) {}
+      : row_list(parent_container, control_kind::drive_list, as_designed) {}
 
   // Selects the drive of the first letter of `text` and raises Change if it is another one. Throws
   // file_error if the drive does not exist.
@@ -25,12 +23,9 @@ class drive_list : public control {
   // Reloads the drives. If none is selected, selects that of the current folder of the process.
   void about_to_show() override;
   void reload() override { about_to_show(); }
-  const std::vector<std::string>& rows() const { return rows_; }
-  // -1 for none.
-  std::int32_t selected_row() const;
 
  private:
-  std::vector<std::string> rows_;
+  void select_row_of_drive();
 };
 
 }  // namespace forms_layer

@@ -14,7 +14,7 @@ void file_list::set_pattern(const std::string& pattern) {
 void file_list::Refresh() { load(Path()); }
 
 void file_list::load(const std::string& path) {
-  names_ = system_files.files_in(path, Pattern());
+  rows_ = system_files.files_in(path, Pattern());
   store_path(path);
   ListIndex = -1;
   notify_screen(property_id::items);

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
 #include "forms_layer/path_control.h"
-#include "forms_layer/row_text.h"
 
 namespace forms_layer {
 
@@ -21,13 +18,7 @@ class file_list : public path_control {
   // Throws file_error if the folder cannot be read.
   void set_pattern(const std::string& pattern);
   checked_property<std::string, file_list, &file_list::set_pattern> Pattern;
-  // The selected row, -1 for none.
-  property<std::int32_t, property_id::selection, control> ListIndex{*this, -1};
 
-  event Click;
-
-  std::int32_t ListCount() const { return static_cast<std::int32_t>(names_.size()); }
-  const std::string& List(std::int32_t row) const { return row_text(names_, row); }
   // The selected name, or "".
   const std::string& FileName() const { return List(ListIndex()); }
 
@@ -36,8 +27,6 @@ class file_list : public path_control {
 
  private:
   void load(const std::string& path);
-
-  std::vector<std::string> names_;
 };
 
 }  // namespace forms_layer

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "forms_layer/control.h"
+#include "forms_layer/row_list.h"
 
 namespace forms_layer {
 
 // A list of what the folder `Path` holds.
-class path_control : public control {
+class path_control : public row_list {
  public:
   // Takes a path, or the text of a drive, which means the current folder of that drive. Throws
   // file_error if the folder cannot be read; then `Path` is unchanged.
@@ -22,7 +22,7 @@ class path_control : public control {
   void about_to_show() override;
 
  protected:
-  using control::control;
+  using row_list::row_list;
   void store_path(const std::string& path) { Path.value_ = path; }
   // Called if the current folder of the process cannot be read.
   virtual void show_empty() {}

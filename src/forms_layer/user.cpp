@@ -45,6 +45,10 @@ void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
   if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
+bool takes_row(row_list& list, std::int32_t row) {
+  return list.takes_input() && row >= 0 && row < list.ListCount();
+}
+
 void reload_lists(form& window) {
   for (control* c : window.controls()) c->reload();
 }
@@ -92,25 +96,24 @@ void double_click(picture_array& array, std::int32_t index) {
   });
 }
 
-void select_row(list_box& list, std::int32_t row) {
+void select_row(row_list& list, std::int32_t row) {
   run_event([&list, row] {
-    if (!list.takes_input() || row < 0 || row >= list.ListCount()) return;
+    if (!takes_row(list, row)) return;
     move_focus(&list);
     list.ListIndex = row;
     raise(list.Click);
   });
 }
 
-void double_click(list_box& list, std::int32_t row) {
+void double_click(row_list& list, std::int32_t row) {
   run_event([&list, row] {
-    if (list.takes_input() && row >= 0 && row == list.ListIndex()) raise(list.DblClick);
+    if (takes_row(list, row) && row == list.ListIndex()) raise(list.DblClick);
   });
 }
 
-void open_menu(list_box& list, std::int32_t row, screen_point at) {
+void open_menu(row_list& list, std::int32_t row, screen_point at) {
   run_event([&list, row, at] {
-    const bool is_there = row >= 0 && row < list.ListCount();
-    if (list.takes_input() && is_there) pick_and_click(list.ContextMenu, row, at);
+    if (takes_row(list, row)) pick_and_click(list.ContextMenu, row, at);
   });
 }
 
@@ -131,33 +134,21 @@ void type(text_box& field, const std::string& text) {
 
 void choose(drive_list& drives, std::int32_t row) {
   run_event([&drives, row] {
-    const auto count = static_cast<std::int32_t>(drives.rows().size());
-    if (!drives.takes_input() || row < 0 || row >= count) return;
+    if (!takes_row(drives, row)) return;
     move_focus(&drives);
-    drives.Drive = drives.rows()[static_cast<std::size_t>(row)];
+    drives.Drive = drives.List(row);
   });
 }
 
 void open_folder(dir_list& folders, std::int32_t row) {
   run_event([&folders, row] {
-    const auto count = static_cast<std::int32_t>(folders.rows().size());
-    if (!folders.takes_input() || row < 0 || row >= count) return;
+    if (!takes_row(folders, row)) return;
     move_focus(&folders);
-    const std::string path = folders.rows()[static_cast<std::size_t>(row)].path;
     if (row == folders.open_row()) {
       reload_lists(folders.owner_form());
     } else {
-      folders.Path = path;
+      folders.Path = folders.path_of(row);
     }
-  });
-}
-
-void select_file(file_list& files, std::int32_t row) {
-  run_event([&files, row] {
-    if (!files.takes_input() || row < 0 || row >= files.ListCount()) return;
-    move_focus(&files);
-    files.ListIndex = row;
-    raise(files.Click);
   });
 }
 

@@ -22,13 +22,13 @@ void cancel(form& window);
 void double_click(picture_array& array, std::int32_t index);
 
 // A click on a row, even if it is selected, or its selection by keyboard.
-void select_row(list_box& list, std::int32_t row);
+void select_row(row_list& list, std::int32_t row);
 // The second click of a double click; call `select_row` for the first one.
-void double_click(list_box& list, std::int32_t row);
+void double_click(row_list& list, std::int32_t row);
 
 // The right button or the menu key on a row or an element, which need not be selected: opens the
 // menu at a point of the screen, and clicks the item that the user picks.
-void open_menu(list_box& list, std::int32_t row, screen_point at = {});
+void open_menu(row_list& list, std::int32_t row, screen_point at = {});
 void open_menu(picture_array& array, std::int32_t index, screen_point at = {});
 
 // `text` is the whole content after the edit. What the user added beyond `max_length` is cut; a
@@ -43,7 +43,6 @@ void clear_focus();
 // A row that does not exist is ignored.
 void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
-void select_file(file_list& files, std::int32_t row);
 
 // Reloads the lists of drives, folders and files of a form, as `open_folder` of the open folder
 // does.

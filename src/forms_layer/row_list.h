@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "forms_layer/control.h"
+#include "forms_layer/menu.h"
+
+namespace forms_layer {
+
+// A list of rows of text.
+class row_list : public control {
+ public:
+  // The selected row, -1 for none.
+  property<std::int32_t, property_id::selection, control> ListIndex{*this, -1};
+
+  event Click;
+  event DblClick;
+  context_menu* ContextMenu = nullptr;  // of its rows
+
+  std::int32_t ListCount() const { return static_cast<std::int32_t>(rows_.size()); }
+
+  // The text of a row, or "" if there is no row of that number.
+  const std::string& List(std::int32_t row) const {
+    static const std::string none;
+    return row >= 0 && row < ListCount() ? rows_[static_cast<std::size_t>(row)] : none;
+  }
+
+ protected:
+  using control::control;
+
+  // The caller notifies the screen of a change.
+  std::vector<std::string> rows_;
+};
+
+}  // namespace forms_layer
