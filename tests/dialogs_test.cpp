@@ -12,6 +12,7 @@ static void with_each(const auto& check) {
     user::click(menu);
     check(form, field, menu, cancel);
   };
+  make_folder("D:\\Sub\\Also");
   make_folder("D:\\Sub\\Deep");
   open(Form2, nullptr, Form1.mnu_open, Form2.Command2);
   open(Form4, &Form4.Text1, Form1.mnu_ext, Form4.Command3);
@@ -39,7 +40,10 @@ TEST_F(dialogs_test, SyncsToTheDriveAndReturnsOnCancel) {
     user::choose(form.Drive1, 0);
     expect_position(form, field, "c: [test]", "C:\\", "C:\\");
     user::choose(form.Drive1, 1);
-    user::open_folder(form.Dir1, 1);
+    for (const std::int32_t row : {1, 3, 1}) {  // Sub, Deep, and back
+      user::open_folder(form.Dir1, row);
+      EXPECT_EQ(form.Dir1.Path(), row == 1 ? "D:\\Sub" : "D:\\Sub\\Deep");
+    }
     for (int time = 0; time < 2; ++time) {
       expect_position(form, field, "d: [other]", "D:\\Sub", "D:\\Sub");
       EXPECT_TRUE(form.Visible() && !(Form1.Visible() && Form1.Enabled()));
