@@ -9,7 +9,7 @@
 #include "command/console.h"
 #include "files/code_page.h"
 #include "files/failure.h"
-#include "state/version.h"
+#include "version/version.h"
 
 namespace ostrane::command {
 

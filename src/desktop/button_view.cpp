@@ -1,6 +1,6 @@
 #include "desktop/button_view.h"
 
-#include "desktop/keys.h"
+#include "desktop/keyboard.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
 

@@ -14,10 +14,9 @@
 #include <new>
 #include <utility>
 
-#include "desktop/cursor_step.h"
 #include "desktop/designed_look.h"
 #include "desktop/dialogs.h"
-#include "desktop/keys.h"
+#include "desktop/keyboard.h"
 #include "desktop/picture_painter.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/picture_array.h"

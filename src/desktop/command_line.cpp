@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "files/program_folder.h"
-#include "state/version.h"
+#include "version/version.h"
 
 namespace desktop {
 

@@ -2,17 +2,19 @@
 
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QThread>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/canvas.h"
 #include "desktop/designed_look.h"
 #include "desktop/menu_bar.h"
 #include "desktop/screen_text.h"
-#include "desktop/window_position.h"
-#include "desktop/window_system.h"
 #include "forms_layer/application.h"
 #include "forms_layer/user.h"
 
@@ -25,7 +27,41 @@ Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
   return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
 }
 
+// The initial position of the client area of a form's window: centred on the screen or on `owner`
+// (may be null), as designed, and completely on the screen. The window frame is assumed to be as
+// thick as the owner's.
+QPoint first_position(const QWidget& window, const forms_layer::form_design& designed,
+                      const QWidget* owner) {
+  const bool has_owner = owner != nullptr && owner != &window;
+  const bool over_owner = has_owner && designed.opens == forms_layer::start_position::owner_centre;
+  const QScreen* screen = over_owner ? owner->screen() : window.screen();
+  const QRect free = screen->availableGeometry();
+  const QMargins margins = has_owner ? owner->windowHandle()->frameMargins() : QMargins();
+  QRect frame = QRect({}, window.size()).marginsAdded(margins);
+  frame.moveCenter(over_owner ? owner->windowHandle()->frameGeometry().center() : free.center());
+  const int max_left = std::max(free.left(), free.right() + 1 - frame.width());
+  const int max_top = std::max(free.top(), free.bottom() + 1 - frame.height());
+  return {std::clamp(frame.left(), free.left(), max_left) + margins.left(),
+          std::clamp(frame.top(), free.top(), max_top) + margins.top()};
+}
+
+// Long enough for a busy machine. A window manager that does not map the window must not stop a
+// job.
+constexpr int max_wait_in_milliseconds = 500;
+
+// Processes events until a new window is exposed, for a short time at most. Qt learns of the
+// exposure only through the event loop, to which a handler does not return.
+void wait_until_exposed(const QWindow& shown) {
+  const QDeadlineTimer end(max_wait_in_milliseconds);
+  while (!shown.isExposed() && !end.hasExpired()) {
+    pump_window_system();
+    if (!shown.isExposed()) QThread::usleep(500);
+  }
+}
+
 }  // namespace
+
+void pump_window_system() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 form_window::form_window(forms_layer::form& shown, views& all_views)
     : QMainWindow(nullptr, flags_for(shown.designed)), form(shown), views_(all_views) {
@@ -40,6 +76,7 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   views_.make_all(form, *client);
   set_tab_order();
   show_caption();
+  for (forms_layer::timer* timer : form.timers) restart(*timer);
 }
 
 int form_window::menu_height() const {
@@ -142,6 +179,17 @@ void form_window::take_focus() {
   windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, false);
   raise();
   activateWindow();
+}
+
+void form_window::restart(forms_layer::timer& changed) {
+  const auto [at, is_new] = timers_.try_emplace(&changed);
+  QTimer& timer = at->second;
+  if (is_new) {
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.callOnTimeout([&changed] { forms_layer::user::tick(changed); });
+  }
+  const bool runs = changed.Enabled() && changed.Interval() > 0;
+  runs ? timer.start(changed.Interval()) : timer.stop();
 }
 
 void form_window::show_caption() {

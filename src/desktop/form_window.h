@@ -2,13 +2,21 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
+#include <map>
 
 #include "desktop/views.h"
 #include "forms_layer/form.h"
+#include "forms_layer/timer.h"
 
 namespace desktop {
 
-// The window of one form: the menu bar if it has menus, and the client area below.
+// Processes events of the window system during a handler. Keys and the mouse wait for the end of
+// the handler; the tool queues other events.
+void pump_window_system();
+
+// The window of one form: the menu bar if it has menus, and the client area below. It runs the
+// form's timers, also while it is hidden.
 class form_window : public QMainWindow {
  public:
   form_window(forms_layer::form& shown, views& all_views);
@@ -22,6 +30,8 @@ class form_window : public QMainWindow {
   void hide_window();
   void take_focus();
   void show_caption();
+  // Each write restarts a timer, even if the value is the same.
+  void restart(forms_layer::timer& changed);
 
   // True if it was shown during a handler and has no focus yet.
   bool wants_focus() const { return wants_focus_; }
@@ -39,6 +49,7 @@ class form_window : public QMainWindow {
   void open_focused_menu();
 
   views& views_;
+  std::map<const forms_layer::timer*, QTimer> timers_;
   bool placed_ = false;
   QPoint last_position_;       // of the client area
   QPointer<QWidget> focused_;  // when the window was last hidden

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "desktop/keys.h"
+#include "desktop/keyboard.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
 

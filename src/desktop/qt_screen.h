@@ -1,18 +1,11 @@
 #pragma once
 
-#include <QTimer>
 #include <chrono>
-#include <map>
-#include <memory>
-#include <unordered_map>
-#include <vector>
 
-#include "desktop/form_window.h"
 #include "desktop/input_filter.h"
 #include "desktop/views.h"
-#include "forms_layer/form.h"
+#include "desktop/window_stack.h"
 #include "forms_layer/screen.h"
-#include "forms_layer/timer.h"
 
 namespace desktop {
 
@@ -23,7 +16,6 @@ namespace desktop {
 class qt_screen : public forms_layer::screen {
  public:
   qt_screen();
-  ~qt_screen() override;
 
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override;
   void form_changed(forms_layer::form& changed, forms_layer::property_id what) override;
@@ -39,31 +31,17 @@ class qt_screen : public forms_layer::screen {
   void end_process() override;
 
   // The window of a form; null until it is shown the first time.
-  form_window* window_of(const forms_layer::form& shown) const;
+  form_window* window_of(const forms_layer::form& shown) const { return windows_.window_of(shown); }
 
  private:
   void sync_between_handlers();
   void sync();
-  void sync_forms();
   void show_frame_if_due();
-  void show_window(forms_layer::form& shown);
-  void hide_window(forms_layer::form& shown);
-  form_window& made_window(forms_layer::form& shown);
-  form_window* topmost(const forms_layer::form* but) const;
-  void store_focus();
-  void give_focus();
 
   std::chrono::steady_clock::time_point last_frame_;
   input_filter filter_;
-  std::map<const forms_layer::timer*, QTimer> timers_;
   views views_;
-  std::unordered_map<const forms_layer::form*, std::unique_ptr<form_window>> windows_;
-  form_window* main_ = nullptr;          // the first one shown
-  std::vector<form_window*> on_screen_;  // the latest one shown comes last
-  std::vector<forms_layer::form*> dirty_forms_;
-  forms_layer::form* takes_focus_ = nullptr;
-  bool box_had_focus_ = false;
-  form_window* before_box_ = nullptr;  // had the focus before the first box of the handler
+  window_stack windows_{views_};
 };
 
 }  // namespace desktop

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "desktop/dialogs.h"
-#include "desktop/keys.h"
+#include "desktop/keyboard.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/events.h"
 #include "forms_layer/user.h"

@@ -1,7 +1,10 @@
 #include "forms_layer/application.h"
 
+#include "forms_layer/events.h"
 #include "forms_layer/file_service.h"
-#include "forms_layer/screen.h"
+#include "forms_layer/message_box.h"
+#include "forms_layer/screen_services.h"
+#include "forms_layer/user.h"
 
 namespace forms_layer {
 
@@ -26,6 +29,12 @@ void end_process() {
 
 bool process_ended() { return ended; }
 
-void reset_end_of_process() { ended = false; }
+void begin_process() {
+  ended = false;
+  clear_events();
+  clear_messages();
+  answers = {};
+  user::clear_focus();
+}
 
 }  // namespace forms_layer

@@ -21,10 +21,9 @@ struct application_info {
 extern application_info application;
 
 // Ends the process. Without a screen it only sets `process_ended`, and no event runs until
-// `reset_end_of_process`.
+// `begin_process`.
 void end_process();
 bool process_ended();
-void reset_end_of_process();
 
 // Resets this folder's global state to that of a new process: no event, focus or recorded message.
 void begin_process();

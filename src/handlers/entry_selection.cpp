@@ -6,9 +6,9 @@
 #include "data/entry_kind.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
+#include "handlers/text_view.h"
 #include "icons/series.h"
 #include "icons/slots.h"
-#include "lists/text_view.h"
 #include "palette/palette_view.h"
 #include "state/tool_state.h"
 

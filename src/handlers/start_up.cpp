@@ -5,7 +5,7 @@
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
 #include "handlers/connect_file_service.h"
-#include "handlers/out_of_memory.h"
+#include "handlers/window_switching.h"
 #include "handlers/wiring.h"
 #include "state/tool_state.h"
 
@@ -17,7 +17,7 @@ void start_tool(const std::filesystem::path& program_folder, icon_exporter expor
   connect_file_service();
   forms_layer::application.Title = "Ostrane.dat-tool";
   forms_layer::application.Path = program_folder;
-  forms_layer::application.OutOfMemory = recover_from_out_of_memory;
+  forms_layer::application.OutOfMemory = restore_windows;
   reset_state();
   tool_state.export_icons = exporter;
   reset_forms();

@@ -3,6 +3,8 @@
 #include "archive/index_reader.h"
 #include "files/paths.h"
 #include "forms/forms.h"
+#include "progress/progress.h"
+#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -36,6 +38,14 @@ void cancel_overlay(forms_layer::form& dialog) {
 void cancel_replacement(forms_layer::form& dialog) {
   dialog.Visible = false;
   Form1.Visible = true;
+}
+
+void restore_windows() {
+  tool_state.archive_file.abandon();
+  Form3.Visible = false;
+  show_bars(false);
+  if (!Form4.Visible() && !Form5.Visible()) Form1.Visible = true;
+  if (!Form2.Visible() && !Form6.Visible()) Form1.Enabled = true;
 }
 
 void read_archive_of_form2() {

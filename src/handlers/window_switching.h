@@ -16,6 +16,10 @@ void open_form6();
 void cancel_overlay(forms_layer::form& dialog);
 void cancel_replacement(forms_layer::form& dialog);
 
+// Call after a handler threw bad_alloc. Closes `archive_file`, hides `Form3`, and shows and enables
+// `Form1` unless a dialog is open.
+void restore_windows();
+
 // Reads the archive in the folder that `Form2` shows, then hides `Form2` and enables `Form1`, also
 // if there is no archive.
 void read_archive_of_form2();

@@ -1,13 +1,12 @@
 #include "handlers/wiring.h"
 
-#include "archive/entry_menu.h"
 #include "archive/extract_all.h"
 #include "archive/make_archive.h"
 #include "archive/new_folder.h"
 #include "forms/forms.h"
 #include "forms_layer/application.h"
+#include "handlers/entry_menu.h"
 #include "handlers/entry_selection.h"
-#include "handlers/load_form1.h"
 #include "handlers/main_window.h"
 #include "handlers/picture_menu.h"
 #include "handlers/sync_to_drive.h"
@@ -15,8 +14,7 @@
 #include "icons/icon_report.h"
 #include "icons/motion.h"
 #include "icons/series.h"
-#include "lists/compare.h"
-#include "lists/save_file_list.h"
+#include "lists/reports.h"
 #include "progress/progress.h"
 #include "state/tool_state.h"
 
@@ -67,8 +65,7 @@ void wire_form2() {
 
 void wire_form3() { Form3.message.Click = close_report; }
 
-// Change of `Dir1` of `Form4` and `Form5`. It needs no Refresh: `Dir1` was read before its Change,
-// and the assignment reads `File1`.
+// Change of `Dir1` of `Form4` and `Form5`. Assigning Path reads the folder.
 template <typename Form>
 void sync_to_folder(Form& dialog) {
   dialog.File1.Path = dialog.Dir1.Path();

@@ -6,7 +6,7 @@
 #include "data/icon_file.h"
 #include "pictures/json_text.h"
 #include "pictures/pixel_form.h"
-#include "state/version.h"
+#include "version/version.h"
 
 namespace ostrane {
 

@@ -1,4 +1,4 @@
-#include "lists/text_view.h"
+#include "handlers/text_view.h"
 
 #include <algorithm>
 #include <string>

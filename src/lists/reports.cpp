@@ -1,4 +1,4 @@
-#include "lists/compare.h"
+#include "lists/reports.h"
 
 #include "data/compare_report.h"
 #include "files/failure.h"
@@ -7,7 +7,6 @@
 #include "forms/form1.h"
 #include "forms/form6.h"
 #include "forms_layer/message_box.h"
-#include "lists/listed_names.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
@@ -16,7 +15,25 @@ namespace {
 
 constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
 
+// The rows of `List1`.
+name_list listed_names() {
+  return {Form1.List1.ListCount(),
+          [](std::int32_t row) -> const std::string& { return Form1.List1.List(row); },
+          tool_state.archive_stamp.identity};
+}
+
 }  // namespace
+
+void save_file_list() {
+  std::string failure;
+  if (Form1.List1.ListCount() > 0) {
+    failure = files::failure_of(
+        [] { write_name_list(files::in_current_folder("shplist.txt"), listed_names()); });
+  }
+  forms_layer::message_box(failure.empty()
+                               ? "A list of all files in ostrane.dat are saved in shplist.txt"
+                               : "The list of files was not saved. " + failure);
+}
 
 void compare_with_shiplist() {
   const std::string name(files::trimmed(Form6.Text1.Text()));

@@ -1,4 +1,4 @@
-#include "archive/entry_menu.h"
+#include "handlers/entry_menu.h"
 
 #include <string>
 

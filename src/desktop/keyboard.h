@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QRect>
 #include <cstddef>
 #include <vector>
 
 namespace desktop {
+
+// True for Return and Enter.
+bool is_enter(const QKeyEvent& event);
 
 // True for the keys that move a cursor: arrows, Home and End.
 bool is_cursor_key(int key);

@@ -1,4 +1,4 @@
-#include "desktop/cursor_step.h"
+#include "desktop/keyboard.h"
 
 #include <cstdlib>
 #include <limits>
@@ -32,6 +32,10 @@ std::pair<int, int> distance(const std::vector<QRect>& rects, std::size_t from, 
 }
 
 }  // namespace
+
+bool is_enter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
 
 bool is_cursor_key(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down ||

@@ -1,0 +1,89 @@
+#include "desktop/window_stack.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <utility>
+
+#include "forms_layer/events.h"
+
+namespace desktop {
+
+form_window* window_stack::window_of(const forms_layer::form& shown) const {
+  const auto at = windows_.find(&shown);
+  return at == windows_.end() ? nullptr : at->second.get();
+}
+
+form_window* window_stack::topmost(const forms_layer::form* except) const {
+  const auto stays = [except](const form_window* w) {
+    return &w->form != except && w->form.Visible();
+  };
+  const auto at = std::find_if(on_screen_.rbegin(), on_screen_.rend(), stays);
+  return at == on_screen_.rend() ? nullptr : *at;
+}
+
+// Show new windows before hiding old ones, so that the screen is never empty.
+void window_stack::sync() {
+  const std::vector<forms_layer::form*> dirty = dirty_;
+  for (forms_layer::form* form : dirty) {
+    if (form->Visible()) show_window(*form);
+  }
+  for (forms_layer::form* form : dirty) {
+    if (!form->Visible()) hide_window(*form);
+  }
+  // If memory runs out before, the next sync shows and hides them.
+  std::erase_if(dirty_, [&dirty](const forms_layer::form* form) {
+    return std::find(dirty.begin(), dirty.end(), form) != dirty.end();
+  });
+}
+
+void window_stack::show_window(forms_layer::form& shown) {
+  std::unique_ptr<form_window>& made = windows_[&shown];
+  if (made == nullptr) made = std::make_unique<form_window>(shown, views_);
+  form_window& window = *made;
+  if (window.isVisible()) return;
+  form_window* owner = topmost(&shown);
+  if (main_ == nullptr) main_ = &window;
+  on_screen_.push_back(&window);
+  window.show_over(owner == nullptr ? nullptr : owner->windowHandle(), main_,
+                   forms_layer::handler_running());
+}
+
+void window_stack::hide_window(forms_layer::form& shown) {
+  form_window* window = window_of(shown);
+  if (window == nullptr || !window->isVisible()) return;
+  const bool was_active = window->isActiveWindow();
+  std::erase(on_screen_, window);
+  for (form_window* other : on_screen_) {
+    QWindow* handle = other->windowHandle();
+    if (handle->transientParent() == window->windowHandle()) handle->setTransientParent(nullptr);
+  }
+  window->hide_window();
+  // Not all window managers pass on the focus.
+  form_window* next = topmost();
+  if (was_active && next != nullptr) next->take_focus();
+}
+
+void window_stack::store_focus() {
+  if (before_box_ == nullptr) {
+    before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
+  }
+  box_had_focus_ = true;
+}
+
+// Windows that were shown during a handler and are still visible get the focus at its end. After a
+// message box the window manager may have given it to one that is hidden now, to the report, which
+// owns the box while it is shown, or to none.
+void window_stack::give_focus() {
+  if (std::exchange(box_had_focus_, false)) {
+    form_window* to = std::exchange(before_box_, nullptr);
+    if (to == nullptr || !to->form.Visible() || !to->form.Enabled()) to = topmost();
+    if (to != nullptr) to->take_focus();
+  }
+  for (form_window* window : on_screen_) {
+    if (window->wants_focus()) window->take_focus();
+  }
+  if (takes_focus_ == nullptr) return;
+  if (form_window* window = window_of(*std::exchange(takes_focus_, nullptr))) window->take_focus();
+}
+
+}  // namespace desktop

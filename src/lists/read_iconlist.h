@@ -1,8 +1,0 @@
-#pragma once
-
-namespace ostrane {
-
-// Reads iconlist.csv in `app_path` into `icon_names`.
-void read_iconlist();
-
-}  // namespace ostrane
