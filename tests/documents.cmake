@@ -32,7 +32,7 @@ endfunction()
 set(checked 0)
 foreach(page IN LISTS pages)
   file(READ ${page} text)
-  string(REGEX REPLACE "[][;]" " " text "${text}")
+  string(REGEX REPLACE "`<[^`]*>`|[][;]" " " text "${text}")  # other headers are not in ROOT
   string(REGEX MATCHALL "[A-Za-z0-9_.*/~:\\-]+" words "${text}")
   list(REMOVE_DUPLICATES words)
   foreach(word IN LISTS words)
