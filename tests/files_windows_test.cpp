@@ -29,7 +29,7 @@ TEST_F(files_windows_test, ReplacesAListByRenaming) {
     const failing_calls failing(at, {.reason = EIO});
     user::click(Form1.mnu_save);
     const std::string list = read("D:\\shplist.txt");
-    EXPECT_TRUE((list == "old" && failing.happened()) || list == saved) << at << list;
+    EXPECT_TRUE((list == "old" && failing.happened()) || list == saved_list) << at << list;
     if (!failing.happened()) break;
   }
 }

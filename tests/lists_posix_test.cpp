@@ -21,7 +21,7 @@ TEST_F(lists_test, ReplacingAListKeepsPermissionsLinksAndOtherSpellings) {
   EXPECT_EQ(stat(list.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
   EXPECT_TRUE(!owner_changed || (status.st_uid == 12345 && status.st_gid == 54321));
-  EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", saved}, {"SHPLIST.TXT", "another"}}));
+  EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", saved_list}, {"SHPLIST.TXT", "another"}}));
   for (const file_map& linked : {file_map{{"list", std::string(1000, 'o')}}, file_map{}}) {
     fs::remove(list);
     fs::remove_all(disk_path("D:\\far"));
@@ -35,7 +35,7 @@ TEST_F(lists_test, ReplacingAListKeepsPermissionsLinksAndOtherSpellings) {
     EXPECT_EQ(files_in("D:\\far"), linked);
     save_list();
     EXPECT_TRUE(fs::is_symlink(list));
-    EXPECT_EQ(files_in("D:\\far"), (file_map{{"list", saved}}));
+    EXPECT_EQ(files_in("D:\\far"), (file_map{{"list", saved_list}}));
   }
 }
 
@@ -69,7 +69,7 @@ TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
         const failing_calls failing(call, reason);
         save_list();
       }
-      EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", is_overwritten ? saved : old}}));
+      EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", is_overwritten ? saved_list : old}}));
       EXPECT_EQ(new_messages().back().starts_with("The list of files was not"), !is_overwritten);
     }
   }

@@ -48,7 +48,8 @@ inline void restart_with(const file_map& files) {
   restart();
 }
 
-const std::string saved = "A\r\n\r\n";
+// The list of an archive with one entry, A.
+const std::string saved_list = "A\r\n\r\n";
 
 // Saves that list as D:\shplist.txt.
 inline void save_list() {

@@ -13,7 +13,7 @@ using line_writer = std::function<void(std::string_view line)>;
 
 // Steps through the names of an archive and a sorted shiplist and writes names that only one side
 // has. After each line both sides advance, even if their names differ, so some of these names are
-// left out. The report has always done this. Returns true if it wrote a name, or if the sides have
+// left out. Returns true if it wrote a name, or if the sides have
 // different numbers of lines.
 bool write_compare_report(const line_writer& write_line, const name_list& archive,
                           shiplist_comparison& comparison);

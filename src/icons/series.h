@@ -9,8 +9,8 @@ namespace ostrane {
 // Shows the first series of the entry `selected_index`, under the working message.
 void show_shp_series();
 
-// Shows the series after the current one, unless the file has no more icons or its archive is no
-// longer the open one.
+// Shows the series after the current one, unless the file has no more icons or another archive is
+// open.
 void show_next_series();
 
 }  // namespace ostrane
