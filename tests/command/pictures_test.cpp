@@ -5,6 +5,7 @@
 
 #include "command_fixture.h"
 #include "data/icon_file.h"
+#include "pictures/colour_finder.h"
 #include "random_icons.h"
 
 namespace ostrane {
@@ -91,16 +92,18 @@ static std::string png_with(png_uint_32 format, const std::vector<png_byte>& row
 
 TEST_F(pictures_test, ChangesAndCountsInexactColours) {
   write_bytes("GAME.PAL", palette());
-  // Colour 4 itself, a step beside it, half transparent and hardly set.
+  // Hardly set, colour 4 itself, a step beside it, and half transparent.
   write_bytes("p.png",
               png_with(PNG_FORMAT_RGBA,
-                       {0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200, 9, 9, 9, 100}, 4, 1));
+                       {9, 9, 9, 100, 0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200}, 4, 1));
   const result seen = run("import p.png -o p.shp --palette GAME.PAL");
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(
       seen.errors,
       "ostrane-dat: p.shp: 3 pixels of 1 picture changed to the nearest colour or transparency\n");
-  EXPECT_EQ(icons_of("p.shp"), texts{"0 3 0 0 0 2 0 4,4,4,-1,"});
+  EXPECT_EQ(icons_of("p.shp"), texts{"0 3 0 1 0 3 0 -1,4,4,4,"});
+  EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
+  EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
 }
 
 TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
