@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "data/built_in_colours.h"
 #include "data/palette.h"
 #include "files/code_page.h"
 #include "files/text.h"

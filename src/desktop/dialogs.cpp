@@ -3,8 +3,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QMessageBox>
 #include <algorithm>
 
+#include "desktop/designed_look.h"
 #include "desktop/menu_items.h"
 #include "desktop/screen_text.h"
 #include "files/system_name.h"
@@ -40,7 +43,26 @@ void set_default_suffix(QFileDialog& dialog, const file_kind& kind) {
   dialog.setDefaultSuffix(QFileInfo(to_screen(kind.ending)).suffix());
 }
 
+// Leaves room for the title, whose font the window manager chooses.
+constexpr int min_text_width = 260;
+
 }  // namespace
+
+void show_message(const std::string& title, const std::string& text, QWidget* owner) {
+  QMessageBox box(owner);
+  box.setWindowModality(Qt::ApplicationModal);
+  // Some desktops set another font for message boxes.
+  box.setFont(font_for({}));
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowTitle(to_screen(title));
+  box.setText(normalize_newlines(to_screen(text), true));
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (rows != nullptr) rows->setColumnMinimumWidth(rows->columnCount() - 1, min_text_width);
+  box.show();
+  box.raise();
+  box.activateWindow();
+  box.exec();
+}
 
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
                                   forms_layer::screen_point at, QWidget* owner) {

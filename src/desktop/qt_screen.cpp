@@ -9,7 +9,6 @@
 #include <new>
 
 #include "desktop/dialogs.h"
-#include "desktop/message.h"
 #include "desktop/picture_painter.h"
 #include "forms_layer/events.h"
 #include "forms_layer/user.h"

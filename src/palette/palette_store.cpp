@@ -1,6 +1,6 @@
 #include "palette/palette_store.h"
 
-#include "data/built_in_colours.h"
+#include "data/game_palette.h"
 #include "data/palette.h"
 #include "files/failure.h"
 #include "state/open_archive.h"
