@@ -39,7 +39,7 @@ void write_files(const texts& parts) {
 contents source_files() {
   contents found;
   for (const auto& [utf8, bytes] : files_in("C:\\work")) {
-    const auto name = files::from_utf8(utf8);
+    const auto name = files::from_utf8(files::as_utf8(utf8));
     if (!name || name->front() == '.' || name->find('\\') != name->npos) continue;
     if (files::upper_case(*name) != "OSTRANE.DAT") found.insert(bytes);
   }

@@ -39,13 +39,13 @@ rgb_palette colours(std::uint32_t step) {
 
 void import_png(const std::string& bytes) {
   static colour_finder finder(colours(0x010101));
-  const png_picture read = read_png(bytes, "p:", finder);
+  const png_picture read = read_png(bytes, u8"p", finder);
   if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
     check_icon(read.drawn, {});
 }
 
 void import_json(const std::string& text) {
-  for (const auto& icon : read_icon_json(text, "j:").icons) {
+  for (const auto& icon : read_icon_json(text, u8"j").icons) {
     if (!has_picture(icon.head) || columns_of(icon.head) * rows_of(icon.head) > max_cells) continue;
     picture drawn(static_cast<int>(columns_of(icon.head)), static_cast<int>(rows_of(icon.head)));
     drawn.set(drawn.columns() - 1, drawn.rows() / 2, 3);
@@ -67,7 +67,7 @@ void import_generated(fuzz::fields& from) {
   }
   colour_finder finder(palette);
   const png_picture read =
-      read_png(png_of(drawn, palette, distinct_colours(palette)), "p:", finder);
+      read_png(png_of(drawn, palette, distinct_colours(palette)), u8"p", finder);
   fuzz::check(read.inexact == 0 && read.drawn == drawn, "a PNG loses nothing");
   icon_head head = head_of(drawn);
   head.col_start -= fuzz::number(from, {300}) & 0x3FF;
@@ -88,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       import_png({reinterpret_cast<const char*>(data), size});
     }
   } catch (const data_error& error) {
-    fuzz::check(!error.text.empty(), "an error has a text");
+    fuzz::check(!error.told.reason.empty(), "an error has a text");
   }
   return 0;
 }

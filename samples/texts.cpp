@@ -72,7 +72,7 @@ WORLDS;Planets and moons
 
 std::string as_file(std::string_view utf8) {
   std::string bytes;
-  for (const char c : files::from_utf8_lossy(utf8)) {
+  for (const char c : files::from_utf8_lossy(files::as_utf8(utf8))) {
     if (c == '\n') bytes += '\r';
     bytes += c;
   }

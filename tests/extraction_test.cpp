@@ -142,9 +142,10 @@ TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
   const std::string bytes = archive_bytes(entries);
   EXPECT_EQ(files_in("C:\\"),
             (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
-  EXPECT_EQ(new_messages(), texts{"2 of 4" + extracted + "C:\\" + skipped +
-                                  "\n>OSTRANE.DAT<: its file cannot be written: it is the open archive"
-                                  "\n>LINKED<: its file cannot be written: it is the open archive"});
+  EXPECT_EQ(new_messages(),
+            texts{"2 of 4" + extracted + "C:\\" + skipped +
+                  "\n>OSTRANE.DAT<: its file cannot be written: it is the open archive"
+                  "\n>LINKED<: its file cannot be written: it is the open archive"});
 }
 
 }  // namespace ostrane

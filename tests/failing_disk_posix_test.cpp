@@ -180,10 +180,10 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
           return (may_leave_hidden && is_hidden) || (may_leave_empty && is_empty);
         });
         expect_complete_files(after, before, done);
-        const bool is_success = fault.kind == call_fault::interrupted ||
-                                (lies && call == "replace" && !job.may_misreport_rename) ||
-                                (fault.kind == call_fault::does_nothing && call != "write_some" &&
-                                 call != "replace");
+        const bool is_success =
+            fault.kind == call_fault::interrupted ||
+            (lies && call == "replace" && !job.may_misreport_rename) ||
+            (fault.kind == call_fault::does_nothing && call != "write_some" && call != "replace");
         check(job, call, words, is_success, after, done);
       }
     }

@@ -39,15 +39,15 @@ TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
   EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
 }
 
-// Hidden names are cut between characters, as some file systems refuse other bytes. A file that must
-// be the only one of its spellings needs a listing of its folder.
+// Hidden names are cut between characters, as some file systems refuse other bytes. A file that
+// must be the only one of its spellings needs a listing of its folder.
 TEST_F(files_posix_test, ReplacesLongNamesAndNeedsAFolderListing) {
-  const fs::path name = "a" + files::to_utf8(std::string(120, '\xE9'));
+  const fs::path name = u8"a" + files::to_utf8(std::string(120, '\xE9'));
   EXPECT_TRUE(files::name_as_text(files::lock_beside(name).native()));
   const failing_calls unlisted("list", EACCES);
   files::binary_file file;
   const files::write_rules rules = {.mode = files::write_mode::durable, .is_only_spelling = true};
-  EXPECT_THROW(files::file_writer(file, {disk_path("D:\\x.txt"), ""}, rules), files::file_error);
+  EXPECT_THROW(files::file_writer(file, {disk_path("D:\\x.txt"), u8""}, rules), files::file_error);
 }
 
 TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {

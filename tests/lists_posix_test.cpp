@@ -45,9 +45,8 @@ TEST_F(lists_test, RefusesToOverwriteTheOpenArchive) {
   open_archive({{"A", "bytes"}});
   fs::create_symlink(disk_path("C:\\ostrane.dat"), disk_path("D:\\shplist.txt"));
   user::click(Form1.mnu_save);
-  EXPECT_EQ(new_messages(),
-            texts{"The list of files was not saved. shplist.txt cannot be written: "
-                  "it is the open archive."});
+  EXPECT_EQ(new_messages(), texts{"The list of files was not saved. shplist.txt cannot be written: "
+                                  "it is the open archive."});
   EXPECT_EQ(read("C:\\ostrane.dat"), archive_bytes({{"A", "bytes"}}));
 }
 
@@ -110,9 +109,8 @@ TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {
     drop_root();
     EXPECT_EQ(mode_after_replacing(077, ""), fs::perms{is_root && geteuid() != 0 ? 0644U : 0664U});
   });
-  run_in_process([&] {
-    EXPECT_EQ(mode_after_replacing(022, "copy_permissions"), fs::perms{0600});
-  });
+  run_in_process(
+      [&] { EXPECT_EQ(mode_after_replacing(022, "copy_permissions"), fs::perms{0600}); });
 }
 
 // The code page lacks Greek letters.

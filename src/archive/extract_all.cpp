@@ -6,6 +6,7 @@
 #include "archive/skipped_files.h"
 #include "data/extraction.h"
 #include "data/number_text.h"
+#include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_system.h"
 #include "files/paths.h"
@@ -57,7 +58,8 @@ extraction_result extract(extraction_job& job) {
   return extract_entries(
       tool_state.archive_file, index_records(),
       [&](const std::string& name) {
-        return files::file_path{job.names.find(job.system_folder, name), job.folder + name};
+        return files::file_path{job.names.find(job.system_folder, name),
+                                files::to_utf8(job.folder + name)};
       },
       [&](const std::string& name) { job.names.add(job.system_folder, name); },
       {.on_file =
@@ -71,10 +73,12 @@ extraction_result extract(extraction_job& job) {
 std::string result_message(const extraction_result& result, const std::string& target_folder) {
   const std::string count =
       std::to_string(result.written) + " of " + std::to_string(tool_state.record_count - 1);
-  const bool is_all = result.stopped.empty() && result.skipped.empty();
+  const bool is_all = !result.stopped && result.skipped.empty();
   std::string text = (is_all ? "All" : count) +
                      " files from Ostrane.dat has been extracted into: " + target_folder;
-  if (!result.stopped.empty()) text += "\nThe extraction was stopped. " + result.stopped;
+  if (result.stopped) {
+    text += "\nThe extraction was stopped. " + files::sentence_of(result.stopped);
+  }
   return text + skipped_files_text(result.skipped, "\nThese entries were not extracted:") +
          skipped_files_text(result.hidden, "\nThese files are hidden on this system:");
 }
@@ -95,7 +99,7 @@ void extract_all_entries() {
   hide_progress("Ostrane.dat tool - ");
   forms_layer::message_box(result_message(result, job.folder));
   const bool none_written = !result.skipped.empty() && result.written == 0;
-  if (!result.stopped.empty() || none_written) return;
+  if (result.stopped || none_written) return;
   Form4.Visible = false;
   Form1.Visible = true;
 }

@@ -26,6 +26,7 @@ namespace {
 constexpr std::int16_t files_per_bar_step = 97;
 
 struct build_job {
+  std::string folder;  // tool path, ends in "\\"
   build_list list;
   files::case_insensitive_lookup names;
   std::vector<dat_record> records;
@@ -44,12 +45,12 @@ std::vector<std::string> listed_files() {
 }
 
 void set_paths(build_job& job, bool in_any_case) {
-  const std::filesystem::path folder = files::system_path(job.list.folder, job.names);
+  const std::filesystem::path folder = files::system_path(job.folder, job.names);
   job.list.paths.clear();
   for (const std::string& name : job.list.names) {
     const std::filesystem::path path =
         in_any_case ? job.names.find(folder, name) : folder / files::system_name(name);
-    job.list.paths.push_back({path, job.list.folder + name});
+    job.list.paths.push_back({path, files::to_utf8(job.folder + name)});
   }
 }
 
@@ -67,7 +68,7 @@ std::vector<dat_record> measure(build_job& job) {
 
 void show_current_file(const build_job& job, std::size_t index, const std::string& name) {
   const auto count = static_cast<std::int64_t>(job.list.names.size());
-  show_progress_text("Current File : " + job.list.folder + name + "\r\nCurrent File Number: " +
+  show_progress_text("Current File : " + job.folder + name + "\r\nCurrent File Number: " +
                      sign_column_text(static_cast<std::int64_t>(index)) +
                      "\r\nTotal Number of Files: " + sign_column_text(count));
 }
@@ -77,8 +78,8 @@ void write(build_job& job) {
   set_total_range(static_cast<std::int64_t>(job.records.size()));
   // Always in upper case, whatever the old archive is called: respell() renames it so.
   const files::file_path target = {
-      files::system_path(job.list.folder, job.names) / files::system_name(archive_name),
-      job.list.folder + archive_name};
+      files::system_path(job.folder, job.names) / files::system_name(archive_name),
+      files::to_utf8(job.folder + archive_name)};
   write_archive(job.list, tool_state.make_index, job.records, target,
                 {.on_file =
                      [&](std::size_t index, const std::string& name, std::int32_t size) {
@@ -91,8 +92,7 @@ void write(build_job& job) {
 
 std::string skipped_message(const build_job& job) {
   std::vector<skipped_file> skipped;
-  for (const files::unlisted_file& file :
-       files::unlisted_files_in(job.list.folder, job.list.names)) {
+  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
     if (files::upper_case(file.name) != archive_name) skipped.push_back({file.name, file.reason});
   }
   return skipped_files_text(skipped, "These files are not in the new Ostrane.dat:");
@@ -111,7 +111,7 @@ void run(build_job& job) {
 // A hint for a typed path that is not the folder of the listed files, or "".
 std::string folder_hint(const build_job& job) {
   const std::string listed = Form5.File1.Path();
-  const std::string target = files::full_path(job.list.folder);
+  const std::string target = files::full_path(job.folder);
   if (files::lower_case(listed) == files::lower_case(target)) return "";
   return " The list shows the files of " + listed + ". Double click on the folder to build from.";
 }
@@ -120,7 +120,7 @@ std::string folder_hint(const build_job& job) {
 // If none is open, none is opened; only the index is stored.
 void use_new_index(const build_job& job) {
   if (tool_state.archive_is_open == flag_true) {
-    read_archive(job.list.folder);
+    read_archive(job.folder);
     return;
   }
   tool_state.record_count = static_cast<std::int32_t>(job.records.size());
@@ -131,7 +131,8 @@ void use_new_index(const build_job& job) {
 
 void make_archive() {
   build_job job;
-  job.list.folder = files::with_separator(Form5.Text1.Text());
+  job.folder = files::with_separator(Form5.Text1.Text());
+  job.list.folder = files::to_utf8(job.folder);
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   refresh_progress();
   std::string failure = files::failure_of([&] { run(job); });
@@ -146,7 +147,7 @@ void make_archive() {
   Form1.Visible = true;
   Form5.Visible = false;
   if (!job.skipped.empty()) forms_layer::message_box(job.skipped);
-  forms_layer::message_box("Your new Ostrane.dat has been created and saved in:" + job.list.folder +
+  forms_layer::message_box("Your new Ostrane.dat has been created and saved in:" + job.folder +
                            "ostrane.dat");
 }
 

@@ -8,8 +8,8 @@
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/file_system.h"
-#include "files/system_name.h"
 #include "files/file_writer.h"
+#include "files/system_name.h"
 
 namespace ostrane::command {
 
@@ -38,12 +38,12 @@ bool is_target(const build_job& job, const std::string& name) {
 }
 
 void list_files(build_job& job) {
-  job.list.folder = argument_of_path(job.folder.system / "");
+  job.list.folder = (job.folder.system / "").u8string();
   for (const std::string& name : files::files_in(job.folder)) {
     if (is_target(job, name)) continue;
     const fs::path path = job.folder.system / files::system_name(name);
     job.list.names.push_back(name);
-    job.list.paths.push_back({path, argument_of_path(path) + ":"});
+    job.list.paths.push_back(shown_as_named(path));
   }
   job.files.resize(job.list.names.size());
 }
@@ -51,7 +51,7 @@ void list_files(build_job& job) {
 void write(build_job& job) {
   std::size_t current = 0;
   const auto show = [&](const std::string& name) {
-    show_progress(current, job.files.size(), files::to_utf8(name));
+    show_progress(current, job.files.size(), name);
   };
   const job_progress progress = {
       .on_file =
@@ -74,7 +74,7 @@ int report_skipped_files(const build_job& job) {
   int status = status_done;
   for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
     if (is_target(job, file.name)) continue;
-    print_error(files::to_utf8(file.name), std::string("skipped: ") + file.reason);
+    print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
     status = status_differs;
   }
   return status;
@@ -86,16 +86,14 @@ int build(const build_options& options) {
   require_folder(options.folder);
   build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
   if (options.archive.empty()) {
-    const fs::path path = job.folder.system / archive_name;
-    job.target = {path, argument_of_path(path) + ":"};
+    job.target = shown_as_named(job.folder.system / archive_name);
   } else {
     job.target = named_link_target(options.archive);
   }
   // The game finds its archive under each spelling; another name means itself only.
-  const files::file_path old = {options.archive.empty()
-                                    ? files::existing_spelling(job.target.system)
-                                    : job.target.system,
-                                job.target.shown};
+  const files::file_path old = {
+      options.archive.empty() ? files::existing_spelling(job.target.system) : job.target.system,
+      job.target.shown};
   std::error_code failed;
   const fs::path parent = fs::absolute(old.system, failed).parent_path();
   if (fs::equivalent(parent, job.folder.system, failed)) {

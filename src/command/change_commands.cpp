@@ -21,7 +21,7 @@ void rewrite(const files::file_path& archive, const archive_index& index,
                   {.on_file =
                        [&](std::size_t number, const std::string& name, std::int32_t) {
                          current = number;
-                         show_progress(number, entries.size(), files::to_utf8(name));
+                         show_progress(number, entries.size(), name);
                        },
                    .on_bytes = [&](std::int32_t) { show_progress(current, entries.size(), ""); }});
 }
@@ -31,16 +31,16 @@ void add_file(std::vector<rewritten_entry>& entries, const files::file_path& arc
   const files::file_path file = named_file(argument);
   const std::filesystem::path base = file.system.filename();
   const std::optional<std::string> name = files::name_as_text(base.native());
-  if (!name) throw data_error(argument + ": its name has characters that the code page lacks.");
+  if (!name) throw data_error(file.shown, "has characters in its name that the code page lacks.");
   const std::string unsafe = unsafe_name_reason(std::string(files::trimmed(*name)));
-  if (!unsafe.empty()) throw data_error(argument + ": cannot become an entry: " + unsafe + ".");
+  if (!unsafe.empty()) throw data_error(file.shown, "cannot become an entry: " + unsafe + ".");
   std::error_code failed;
   if (std::filesystem::equivalent(file.system, archive.system, failed)) {
-    throw data_error(argument + ": is the archive itself.");
+    throw data_error(file.shown, "is the archive itself.");
   }
   const std::string entry = add_entry(entries, *name, file);
   if (entry != files::upper_case(files::trimmed(*name))) {
-    print_note(argument, "its name is too long; the entry is " + files::to_utf8(entry));
+    print_note({file.shown, "its name is too long; the entry is " + entry});
   }
 }
 

@@ -13,15 +13,17 @@ namespace {
 // Returns true if the archive has no fault.
 bool check_one(const std::string& archive) {
   bool is_valid = true;
+  const std::u8string subject = files::as_utf8(archive);
   check_archive(
       named_file(archive),
       [&](const std::string& entry, const std::string& fault) {
         is_valid = false;
-        const std::string where = entry.empty() ? archive : archive + ": " + files::to_utf8(entry);
-        print_line(files::printable(fault.starts_with(where) ? fault : where + ": " + fault));
+        const std::u8string where =
+            entry.empty() ? subject : subject + u8": " + files::to_utf8(entry);
+        print_line(files::printable(where + u8": " + files::to_utf8(fault)));
       },
       [](std::size_t number, std::size_t count, const std::string& name) {
-        show_progress(number, count, files::to_utf8(name));
+        show_progress(number, count, name);
       });
   return is_valid;
 }
@@ -35,7 +37,7 @@ int check(const check_options& options) {
     try {
       all_valid = check_one(archive) && all_valid;
     } catch (const files::file_error& error) {
-      print_error(archive, error.text);
+      print_error(error.told);
       ++unreadable;
     }
   }

@@ -7,6 +7,7 @@
 
 #include "command/interruption.h"
 #include "command/program.h"
+#include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/text.h"
 
@@ -24,7 +25,7 @@ struct console_state {
   bool is_quiet = false;
   std::string pending;
   bool bar_is_shown = false;
-  std::string bar_name;
+  std::u8string bar_name;
   clock::time_point next_bar = clock::now() + first_bar_delay;
 };
 
@@ -40,7 +41,7 @@ void write_out() {
   console.pending.clear();
   check_interruption();
   if (!is_written) {
-    files::fail("standard output:", files::file_action::write, -reason);
+    files::fail(u8"standard output", files::file_action::write, -reason);
   }
 }
 
@@ -48,35 +49,32 @@ void write_out() {
 
 void set_quiet(bool quiet) { console.is_quiet = quiet; }
 
-void print(std::string_view text) {
-  console.pending += text;
+void print(std::string_view bytes) {
+  console.pending += bytes;
   if (console.pending.size() >= print_buffer_size) write_out();
 }
 
-void print_line(std::string_view text) {
-  print(text);
-  print("\n");
-}
+void print_line(std::u8string_view text) { print(files::as_bytes(text) + "\n"); }
 
 void flush_output() {
   if (!console.pending.empty()) write_out();
 }
 
-void print_error(std::string_view file, std::string_view text) {
+void print_error(const files::failure& failed) {
   hide_progress();
-  std::string line = "ostrane-dat: ";
-  if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
-  line = files::printable(line.append(text)) + '\n';
+  std::u8string line = u8"ostrane-dat: ";
+  if (!failed.subject.empty()) line += failed.subject + u8": ";
+  line = files::printable(line + files::to_utf8(failed.reason)) + u8'\n';
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-void print_note(std::string_view file, std::string_view text) {
-  if (!console.is_quiet) print_error(file, text);
+void print_note(const files::failure& failed) {
+  if (!console.is_quiet) print_error(failed);
 }
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
-  if (!name.empty()) console.bar_name = files::printable(name);
+  if (!name.empty()) console.bar_name = files::printable(files::to_utf8(name));
   static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
   console.next_bar = clock::now() + bar_interval;
@@ -84,7 +82,8 @@ void show_progress(std::size_t index, std::size_t count, std::string_view name) 
   const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
   const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');
   const std::string line = "\r[" + bar + "] " + std::to_string(index) + " of " +
-                           std::to_string(count) + " " + console.bar_name + "\x1B[K";
+                           std::to_string(count) + " " + files::as_bytes(console.bar_name) +
+                           "\x1B[K";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "files/failure.h"
+
 // Output of the program: results go to standard output, everything else to standard error.
 namespace ostrane::command {
 
@@ -14,20 +16,19 @@ constexpr int status_failed = 2;
 // Suppresses notes and progress. Errors are still printed.
 void set_quiet(bool quiet);
 
-// Prints a result, buffered. Throws file_error if the output fails, and interruption.
-void print(std::string_view text);
-void print_line(std::string_view text);
+// Prints the bytes of a result, buffered. Throws file_error if the output fails, and interruption.
+void print(std::string_view bytes);
+void print_line(std::u8string_view text);
 // Flushes the buffer of print. Throws the same.
 void flush_output();
 
-// Prints the line "ostrane-dat: FILE: TEXT" to standard error. "FILE: " is omitted if `file` is
-// empty or `text` begins with it.
-void print_error(std::string_view file, std::string_view text);
+// Prints the line "ostrane-dat: SUBJECT: REASON" to standard error, without an empty subject.
+void print_error(const files::failure& failed);
 // The same for a note, which set_quiet suppresses.
-void print_note(std::string_view file, std::string_view text);
+void print_note(const files::failure& failed);
 
-// Shows the progress of a long job as a bar on standard error if that is a terminal. An empty name
-// keeps the latest one. Throws interruption after a signal to terminate.
+// Shows the progress of a long job as a bar on standard error if that is a terminal. `name` is in
+// the code page; an empty one keeps the latest. Throws interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);
 void hide_progress();
 

@@ -32,26 +32,23 @@ struct entries_export {
   int status = status_done;
 };
 
-// An entry, with all texts in UTF-8.
 struct exported_entry {
   std::string name;
-  std::string stem;  // prefix of its file names
+  std::u8string stem;  // prefix of its file names
   std::int32_t start = 0;
   std::int32_t end = 0;
 };
 
 void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
-  print_error(entry.name, reason);
+  print_error({files::to_utf8(entry.name), reason});
   job.status = status_differs;
 }
 
-files::file_path target_of(const entries_export& job, const std::string& name) {
-  const std::filesystem::path path =
-      path_of_argument(job.options.folder) / files::path_of_utf8(name);
-  return {path, argument_of_path(path) + ":"};
+files::file_path target_of(const entries_export& job, const std::u8string& name) {
+  return shown_as_named(path_of_argument(job.options.folder) / name);
 }
 
-void write_export(entries_export& job, const std::string& name, std::string_view bytes) {
+void write_export(entries_export& job, const std::u8string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
   files::write_bytes(job.output, target_of(job, name), bytes, {.source = job.stamp.identity});
 }
@@ -66,17 +63,19 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .end = entry.end,
        .colours = job.palette,
        .form = options.form,
-       .stem = is_sheet ? entry.stem + "-sheet" : entry.stem,
+       .stem = is_sheet ? entry.stem + u8"-sheet" : entry.stem,
        .pace = options.pace,
        .scale = options.scale,
-       .target = [&](const std::string& name) { return target_of(job, name); },
+       .target = [&](const std::u8string& name) { return target_of(job, name); },
        .on_skipped = [&](const std::string& reason) { skip(job, entry, reason); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }
 
 std::string gpl_of(const std::string& name, const rgb_palette& colours) {
-  std::string text = "GIMP Palette\nName: " + files::printable(name) + "\nColumns: 16\n#\n";
+  std::string text =
+      "GIMP Palette\nName: " + files::as_bytes(files::to_utf8(files::printable(name))) +
+      "\nColumns: 16\n#\n";
   for (std::size_t i = 0; i < colours.size(); ++i) {
     std::array<char, 48> line = {};
     std::snprintf(line.data(), line.size(), "%3u %3u %3u\tIndex %zu\n", colours[i] >> 16U,
@@ -97,8 +96,8 @@ void export_palette(entries_export& job, const exported_entry& entry) {
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
   }
-  write_export(job, entry.stem + ".png", png_of(drawn, colours, colours, job.options.scale));
-  write_export(job, entry.stem + ".gpl", gpl_of(entry.name, colours));
+  write_export(job, entry.stem + u8".png", png_of(drawn, colours, colours, job.options.scale));
+  write_export(job, entry.stem + u8".gpl", gpl_of(entry.name, colours));
 }
 
 void export_text(entries_export& job, const exported_entry& entry) {
@@ -111,7 +110,7 @@ void export_text(entries_export& job, const exported_entry& entry) {
   job.archive.seek(entry.start);
   job.archive.read(std::as_writable_bytes(std::span(text)));
   std::replace(text.begin(), text.end(), '\0', ' ');
-  write_export(job, entry.stem + ".txt", files::to_utf8(text));
+  write_export(job, entry.stem + u8".txt", files::as_bytes(files::to_utf8(text)));
 }
 
 void export_one(entries_export& job, const exported_entry& entry, entry_kind kind) {
@@ -128,7 +127,7 @@ void export_one(entries_export& job, const exported_entry& entry, entry_kind kin
 
 void export_entry(entries_export& job, const archive_index& index, std::size_t i) {
   const std::string name = name_with_blanks(index.records[i].name);
-  const exported_entry entry = {.name = files::to_utf8(name),
+  const exported_entry entry = {.name = name,
                                 .stem = files::to_utf8(stem_of_entry(name)),
                                 .start = index.records[i].offset,
                                 .end = index.records[i + 1].offset};
@@ -140,7 +139,7 @@ void export_entry(entries_export& job, const archive_index& index, std::size_t i
   try {
     export_one(job, entry, kind_of_entry(name_without_nuls(index.records[i].name)));
   } catch (const data_error& error) {
-    skip(job, entry, error.text);
+    skip(job, entry, error.told.reason);
   }
 }
 

@@ -11,14 +11,12 @@ namespace {
 
 int report_skipped_entries(const extraction_result& result) {
   for (const skipped_file& entry : result.skipped) {
-    const std::string name = files::to_utf8(entry.name);
-    // The text of a file_error already names the file.
-    const bool names_file = entry.reason.find(": cannot be ") != std::string::npos;
-    print_error(names_file ? "" : name,
-                names_file ? entry.reason : "not extracted: " + entry.reason);
+    print_error({files::to_utf8(entry.name), "not extracted: " + entry.reason});
   }
-  if (!result.stopped.empty()) print_error("", result.stopped);
-  if (!result.stopped.empty()) return status_failed;
+  if (result.stopped) {
+    print_error(result.stopped);
+    return status_failed;
+  }
   return result.skipped.empty() ? status_done : status_differs;
 }
 
@@ -34,7 +32,7 @@ int extract(const extract_options& options) {
   files::case_insensitive_lookup names;
   std::size_t current = 0;
   const auto show = [&](const std::string& name) {
-    show_progress(current, index.records.size(), files::to_utf8(name));
+    show_progress(current, index.records.size(), name);
   };
   const extraction_result result = extract_entries(
       file, index.records,

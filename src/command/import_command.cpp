@@ -13,6 +13,7 @@
 #include "data/data_error.h"
 #include "data/number_text.h"
 #include "data/palette.h"
+#include "files/code_page.h"
 #include "pictures/png_reader.h"
 
 namespace ostrane::command {
@@ -48,7 +49,7 @@ shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finde
   try {
     return new_icon(read.drawn, planned.known);
   } catch (const data_error& error) {
-    throw data_error(planned.png->shown + " cannot become an icon: " + error.text + ".");
+    throw data_error(planned.png->shown, "cannot become an icon: " + error.told.reason + ".");
   }
 }
 
@@ -93,9 +94,10 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
 
 int report_inexact_pixels(const import_options& options, const import_job& job) {
   if (job.inexact_pixels == 0) return status_done;
-  print_note(options.icon_file, counted(job.inexact_pixels, "pixel") + " of " +
-                                    counted(job.inexact_pictures, "picture") +
-                                    " changed to the nearest colour or transparency");
+  print_note(
+      {files::as_utf8(options.icon_file), counted(job.inexact_pixels, "pixel") + " of " +
+                                              counted(job.inexact_pictures, "picture") +
+                                              " changed to the nearest colour or transparency"});
   return status_differs;
 }
 
@@ -105,10 +107,10 @@ import_plan make_plan(const import_options& options) {
   };
   require_other(options.palette);
   std::for_each(options.sources.begin(), options.sources.end(), require_other);
-  import_plan plan =
-      plan_of(options.sources, argument_of_path(path_of_argument(options.icon_file).stem()));
+  import_plan plan = plan_of(
+      options.sources, files::as_bytes(path_of_argument(options.icon_file).stem().u8string()));
   for (const planned_icon& icon : plan.icons) {
-    if (icon.png) require_other(argument_of_path(icon.png->system));
+    if (icon.png) require_other(files::as_bytes(icon.png->shown));
   }
   if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
   return plan;
@@ -117,8 +119,9 @@ import_plan make_plan(const import_options& options) {
 // The options --like and -o may name the same file.
 int report_left_out_icons(const import_options& options, const import_plan& plan) {
   if (plan.left_out == 0) return status_done;
-  print_note(options.icon_file, counted(plan.left_out, "icon") + " of " + options.like +
-                                    " left out, as there are too few pictures");
+  print_note({files::as_utf8(options.icon_file),
+              counted(plan.left_out, "icon") +
+                  " of the old icon file left out, as there are too few pictures"});
   return status_differs;
 }
 
@@ -126,7 +129,8 @@ int report_left_out_icons(const import_options& options, const import_plan& plan
 
 int import_pictures(const import_options& options) {
   const import_plan plan = make_plan(options);
-  if (plan.icons.empty()) throw data_error(options.sources.front() + ": contains no pictures.");
+  if (plan.icons.empty())
+    throw data_error(files::as_utf8(options.sources.front()), "contains no pictures.");
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
     throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
   }

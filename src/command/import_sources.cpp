@@ -20,23 +20,21 @@ namespace {
 namespace fs = std::filesystem;
 
 bool has_ending(const fs::path& path, const char* ending) {
-  return files::lower_case(argument_of_path(path.extension())) == ending;
+  return files::lower_case(files::as_bytes(path.extension().u8string())) == ending;
 }
-
-files::file_path as_file_path(const fs::path& path) { return {path, argument_of_path(path) + ":"}; }
 
 void add_export(import_plan& plan, const fs::path& json) {
   files::binary_file file;
-  const files::file_path path = as_file_path(json);
+  const files::file_path path = shown_as_named(json);
   const exported_icons exported = read_icon_json(read_bytes(file, path), path.shown);
   if (exported.scale != 1) {
-    throw data_error(path.shown + " was exported at scale " + std::to_string(exported.scale) +
-                     "; export at scale 1.");
+    throw data_error(path.shown, "was exported at scale " + std::to_string(exported.scale) +
+                                     "; export at scale 1.");
   }
   plan.identifier = exported.identifier;
   for (const exported_icon& icon : exported.icons) {
     planned_icon planned = {.png = {}, .known = known_icon{icon.head, icon.last_column}};
-    if (icon.file) planned.png = as_file_path(json.parent_path() / files::path_of_utf8(*icon.file));
+    if (icon.file) planned.png = shown_as_named(json.parent_path() / *icon.file);
     plan.icons.push_back(planned);
   }
 }
@@ -46,23 +44,24 @@ std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const
                                        const std::string& folder) {
   std::vector<fs::path> found;
   for (const fs::path& file : files) {
-    const bool is_sheet = argument_of_path(file.stem()).ends_with("-sheet");
+    const bool is_sheet = file.stem().u8string().ends_with(u8"-sheet");
     if (has_ending(file, ".json") && !is_sheet) found.push_back(file);
   }
   if (found.empty()) return {};
   if (found.size() == 1) return found.front();
   for (const fs::path& file : found) {
-    if (files::upper_case(argument_of_path(file.stem())) == files::upper_case(stem)) return file;
+    if (files::upper_case(files::as_bytes(file.stem().u8string())) == files::upper_case(stem))
+      return file;
   }
-  throw data_error(folder +
-                   ": contains the JSON of several exports. Give the name of one of them.");
+  throw data_error(files::as_utf8(folder),
+                   "contains the JSON of several exports. Give the name of one of them.");
 }
 
 void add_folder(import_plan& plan, const std::string& folder, const std::string& stem) {
   std::vector<files::listed_entry> listed;
   const fs::path path = path_of_argument(folder);
   const int failed = files::system_calls.list(path, listed);
-  if (failed < 0) files::fail(folder + ":", files::file_action::read, failed);
+  if (failed < 0) files::fail(files::as_utf8(folder), files::file_action::read, failed);
   std::vector<fs::path> files;
   for (const files::listed_entry& entry : listed) {
     if (entry.is_file && !entry.is_hidden) files.push_back(path / entry.name);
@@ -73,7 +72,7 @@ void add_folder(import_plan& plan, const std::string& folder, const std::string&
     return;
   }
   for (const fs::path& file : files) {
-    if (has_ending(file, ".png")) plan.icons.push_back({.png = as_file_path(file), .known = {}});
+    if (has_ending(file, ".png")) plan.icons.push_back({.png = shown_as_named(file), .known = {}});
   }
 }
 
@@ -109,7 +108,7 @@ import_plan plan_like(const import_plan& plan, const files::file_path& old_file)
   const icon_file from = read_icon_file(
       file, 0, static_cast<std::int32_t>(std::min<std::int64_t>(file.size(), INT32_MAX)));
   if (file.size() < std::int64_t{shp_head_size}) {
-    throw data_error(old_file.shown + " is too short for an icon file.");
+    throw data_error(old_file.shown, "is too short for an icon file.");
   }
   std::vector<files::file_path> pngs;
   for (const planned_icon& icon : plan.icons) {

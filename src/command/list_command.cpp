@@ -19,20 +19,20 @@ namespace ostrane::command {
 namespace {
 
 struct entry_row {
-  std::string name;  // UTF-8, like all texts of this record
+  std::u8string name;
   std::int64_t size = 0;
   std::int32_t offset = 0;
   entry_kind kind = entry_kind::other;
   std::optional<std::int32_t> icons;  // of an icon file that has a head
-  std::string description;
+  std::u8string description;
 };
 
-using descriptions = std::unordered_map<std::string, std::string>;
+using descriptions = std::unordered_map<std::string, std::u8string>;
 
 // The first row of a name wins.
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
-  const files::file_path installed = {files::program_folder() / "iconlist.csv", "iconlist.csv"};
+  const files::file_path installed = {files::program_folder() / "iconlist.csv", u8"iconlist.csv"};
   const files::file_path chosen = named_file(options.icon_names);
   if (!options.icon_names.empty()) files::binary_file().open_to_read(chosen);
   const auto rows = read_icon_names(options.icon_names.empty() ? installed : chosen);
@@ -71,20 +71,18 @@ std::string padded(const std::string& text, std::size_t width) {
 }
 
 // The name comes after the columns without blanks, as it may contain some.
-std::string long_line(const entry_row& entry) {
-  std::string line = padded(std::to_string(entry.size), 10) + " " +
-                     padded(std::to_string(entry.offset), 10) + "  ";
+std::u8string long_line(const entry_row& entry) {
+  std::string columns = padded(std::to_string(entry.size), 10) + " " +
+                        padded(std::to_string(entry.offset), 10) + "  ";
   const std::string kind = text_of(entry.kind);
-  line += kind + std::string(8 - kind.size(), ' ');
-  line += padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  " +
-          files::printable(entry.name);
+  columns += kind + std::string(8 - kind.size(), ' ') +
+             padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  ";
+  std::u8string line = files::as_utf8(columns) + files::printable(entry.name);
   if (!entry.description.empty()) {
-    const auto starts_character = [](char c) {
-      return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
-    };
+    const auto starts_character = [](char8_t c) { return (c & 0xC0U) != 0x80; };
     const auto width = static_cast<std::size_t>(
         std::count_if(entry.name.begin(), entry.name.end(), starts_character));
-    line += std::string(width < name_size ? name_size - width : 0, ' ') + "  " +
+    line += std::u8string(width < name_size ? name_size - width : 0, u8' ') + u8"  " +
             files::printable(entry.description);
   }
   return line;

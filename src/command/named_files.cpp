@@ -17,8 +17,10 @@ namespace ostrane::command {
 namespace fs = std::filesystem;
 
 files::file_path named_file(const std::string& argument) {
-  return {path_of_argument(argument), argument + ":"};
+  return {path_of_argument(argument), files::as_utf8(argument)};
 }
+
+files::file_path shown_as_named(const fs::path& path) { return {path, path.u8string()}; }
 
 files::file_path named_link_target(const std::string& argument) {
   files::file_path path = named_file(argument);
@@ -30,8 +32,7 @@ files::file_path named_link_target(const std::string& argument) {
 
 files::file_path file_in(const std::string& folder, const std::string& name,
                          files::case_insensitive_lookup& names) {
-  const fs::path path = names.find(path_of_argument(folder), name);
-  return {path, argument_of_path(path) + ":"};
+  return shown_as_named(names.find(path_of_argument(folder), name));
 }
 
 void require_folder(const std::string& argument) {
@@ -39,8 +40,8 @@ void require_folder(const std::string& argument) {
   const fs::file_status status = fs::status(path_of_argument(argument), failed);
   if (fs::is_directory(status)) return;
   const int reason = fs::exists(status) ? ENOTDIR : files::errno_number(failed);
-  if (reason == ENOTDIR) throw data_error(argument + ": is not a folder.");
-  files::fail(argument + ":", files::file_action::open, reason == 0 ? -ENOENT : -reason);
+  if (reason == ENOTDIR) throw data_error(files::as_utf8(argument), "is not a folder.");
+  files::fail(files::as_utf8(argument), files::file_action::open, reason == 0 ? -ENOENT : -reason);
 }
 
 void make_folder(const std::string& argument) {
@@ -48,7 +49,7 @@ void make_folder(const std::string& argument) {
   std::error_code failed;
   std::error_code unknown;
   if (!fs::create_directory(folder, failed) && failed && !fs::exists(folder, unknown)) {
-    files::fail(argument + ":", files::file_action::create, -files::errno_number(failed));
+    files::fail(files::as_utf8(argument), files::file_action::create, -files::errno_number(failed));
   }
   require_folder(argument);
   files::clear_leftovers(folder);
@@ -60,19 +61,19 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
   std::vector<bool> chosen(count, arguments.empty());
   for (const std::string& argument : arguments) {
     bool matches_any = false;
-    const std::optional<std::string> pattern = files::from_utf8(argument);
+    const std::optional<std::string> pattern = files::from_utf8(files::as_utf8(argument));
     for (std::size_t i = 0; pattern && i < count; ++i) {
       if (!files::matches_pattern(name_with_blanks(records[i].name), *pattern)) continue;
       chosen[i] = matches_any = true;
     }
-    if (!matches_any) throw data_error(argument + ": no entry has this name.");
+    if (!matches_any) throw data_error(files::as_utf8(argument), "no entry has this name.");
   }
   return chosen;
 }
 
 void open_output(files::binary_file& file) {
   flush_output();
-  file.prepare("standard output:");
+  file.prepare(u8"standard output");
   file.adopt(open_standard_output());
 }
 

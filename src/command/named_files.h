@@ -10,10 +10,14 @@
 
 namespace ostrane::command {
 
-// Returns the file that an argument names. Messages show the argument with a colon.
+// Returns the file that an argument names. Messages show the argument.
 files::file_path named_file(const std::string& argument);
 
-// The same with symbolic links resolved, so that the link survives when the file is replaced.
+// Returns a file that messages show by its path.
+files::file_path shown_as_named(const std::filesystem::path& path);
+
+// The same as named_file with symbolic links resolved, so that the link survives when the file is
+// replaced.
 files::file_path named_link_target(const std::string& argument);
 
 // Returns the path of a file in a folder; the name is in the code page. Prefers an existing file

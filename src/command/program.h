@@ -13,7 +13,6 @@ namespace ostrane::command {
 std::vector<std::string> arguments_of(int argc, char** argv);
 
 std::filesystem::path path_of_argument(const std::string& argument);
-std::string argument_of_path(const std::filesystem::path& path);
 
 bool stderr_is_terminal();
 

@@ -15,8 +15,6 @@ std::vector<std::string> arguments_of(int argc, char** argv) {
 
 fs::path path_of_argument(const std::string& argument) { return argument; }
 
-std::string argument_of_path(const fs::path& path) { return path.native(); }
-
 bool stderr_is_terminal() { return isatty(STDERR_FILENO) == 1; }
 
 void set_binary_output() {}

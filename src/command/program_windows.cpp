@@ -8,24 +8,23 @@
 #include <shellapi.h>
 
 #include "command/program.h"
-#include "files/system_name.h"
+#include "files/code_page.h"
 
 namespace ostrane::command {
 
 namespace fs = std::filesystem;
 
-std::string argument_of_path(const fs::path& path) { return files::utf8_of(path); }
-
 std::vector<std::string> arguments_of(int /*argc*/, char** /*argv*/) {
   int count = 0;
   wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> arguments;
-  for (int i = 1; i < count; ++i) arguments.push_back(argument_of_path(wide[i]));
+  for (int i = 1; i < count; ++i)
+    arguments.push_back(files::as_bytes(fs::path(wide[i]).u8string()));
   LocalFree(wide);
   return arguments;
 }
 
-fs::path path_of_argument(const std::string& argument) { return files::path_of_utf8(argument); }
+fs::path path_of_argument(const std::string& argument) { return files::as_utf8(argument); }
 
 bool stderr_is_terminal() { return _isatty(2) != 0; }
 

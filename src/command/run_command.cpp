@@ -182,13 +182,12 @@ void add_import(CLI::App& app, all_options& all) {
 int run_chosen(const all_options& options) {
   set_quiet(options.is_quiet);
   int status = status_failed;
-  const std::string failure = files::failure_of([&] {
+  const files::failure failed = files::failure_in([&] {
     status = options.chosen();
     flush_output();
   });
-  if (failure.empty()) return status;
-  // Texts of src/data may contain names in the code page.
-  print_error("", files::mixed_to_utf8(failure));
+  if (!failed) return status;
+  print_error(failed);
   return status_failed;
 }
 
@@ -213,7 +212,7 @@ int run_command(std::vector<std::string> arguments) {
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    print_error("", std::string(error.what()) + " (see --help)");
+    print_error({files::as_utf8(error.what()), "see --help"});
     return status_failed;
   }
   return run_chosen(options);

@@ -23,7 +23,7 @@ void copy_file(const build_list& list, std::size_t index, std::int32_t size,
   const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || source.read(one_more) > 0) {
-    throw data_error(list.folder + name + " has changed its size during the copy.");
+    throw data_error(list.paths[index].shown, "has changed its size during the copy.");
   }
   source.close();
 }
@@ -43,15 +43,17 @@ std::vector<dat_record> index_of(std::span<const make_record> files, std::int32_
 
 std::vector<dat_record> measure_files(const build_list& list, std::span<make_record> files) {
   if (list.names.size() > max_files) {
-    throw data_error("There are " + std::to_string(list.names.size()) + " files in " + list.folder +
-                     ". An archive holds at most " + std::to_string(max_files) + ".");
+    throw data_error(list.folder, "has " + std::to_string(list.names.size()) +
+                                      " files. An archive holds at most " +
+                                      std::to_string(max_files) + ".");
   }
   std::int32_t next_offset = first_entry_offset(list.names.size());
   for (std::size_t i = 0; i < list.names.size(); ++i) {
     const std::int64_t size = files::file_size(list.paths[i]);
     if (next_offset + size > INT32_MAX) {
-      throw data_error("With " + list.folder + list.names[i] +
-                       " the archive would be larger than 2 GB, which is the most that it can be.");
+      throw data_error(
+          list.paths[i].shown,
+          "would make the archive larger than 2 GB, which is the most that it can be.");
     }
     files[i] = {.size = static_cast<std::int32_t>(size),
                 .name = padded_name(list.names[i]),

@@ -14,7 +14,7 @@ constexpr const char* archive_name = "OSTRANE.DAT";
 
 // The files of a new archive, in their order.
 struct build_list {
-  std::string folder;  // prefix of a name in messages
+  std::u8string folder;  // as messages show it
   std::vector<std::string> names;
   std::vector<files::file_path> paths;  // of the names
 };

@@ -173,7 +173,7 @@ void check_archive(
     index = read_archive_index(path);
     open_unchanged(file, path, index.stamp);
   } catch (const data_error& error) {
-    report("", error.text);
+    report("", error.told.reason);
     return;
   }
   archive_check check{report, std::move(index.records), index.stamp.size, {}};

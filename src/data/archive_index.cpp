@@ -11,7 +11,7 @@ namespace ostrane {
 namespace {
 
 [[noreturn]] void refuse(const files::file_path& path, const std::string& what) {
-  throw data_error(path.shown + " cannot be read as an archive: " + what);
+  throw data_error(path.shown, "cannot be read as an archive: " + what);
 }
 
 std::int32_t read_count(files::binary_file& file, const files::file_path& path) {
@@ -51,7 +51,7 @@ void open_unchanged(files::binary_file& file, const files::file_path& path,
   file.open_to_read(path);
   if (file.info().stamp == stamp) return;
   file.close();
-  throw data_error(path.shown + " has changed since it was read. Read it again.");
+  throw data_error(path.shown, "has changed since it was read. Read it again.");
 }
 
 void require_unchanged(files::binary_file& archive, const files::file_stamp& stamp,

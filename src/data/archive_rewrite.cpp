@@ -7,6 +7,7 @@
 #include "data/data_error.h"
 #include "data/new_index.h"
 #include "data/number_text.h"
+#include "files/code_page.h"
 #include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/text.h"
@@ -30,8 +31,8 @@ std::int64_t size_of(const archive_index& old, const rewritten_entry& entry) {
   const std::int64_t start = old.records[i].offset;
   const std::int64_t size = old.records[i + 1].offset - start;
   if (start < 0 || size < 0 || start + size > old.stamp.size) {
-    throw data_error("The archive does not contain all bytes of the entry " +
-                     name_with_blanks(entry.name) + ".");
+    throw data_error(files::to_utf8(name_with_blanks(entry.name)),
+                     "is not contained in the archive with all its bytes.");
   }
   return size;
 }
@@ -43,8 +44,8 @@ void refuse_other_bytes(const files::file_path& path, const archive_index& old) 
   const std::int64_t after = old.stamp.size - old.records.back().offset;
   const std::int64_t others = std::max<std::int64_t>(before, 0) + std::max<std::int64_t>(after, 0);
   if (others == 0) return;
-  throw data_error(path.shown + " has " + counted(others, "byte") +
-                   " that belong to no entry and would be lost.");
+  throw data_error(
+      path.shown, "has " + counted(others, "byte") + " that belong to no entry and would be lost.");
 }
 
 std::vector<dat_record> new_records(const archive_index& old,
@@ -81,7 +82,7 @@ void copy_entry(const rewriting& job, const rewritten_entry& entry, std::int32_t
   const std::int32_t copied = chunk_ladder(copy, size, small_block_bytes, job.progress);
   std::array<std::byte, 1> one_more;
   if (copied < size || job.file.read(one_more) > 0) {
-    throw data_error(entry.file.shown + " has changed its size during the copy.");
+    throw data_error(entry.file.shown, "has changed its size during the copy.");
   }
   job.file.close();
 }

@@ -1,17 +1,19 @@
 #pragma once
 
-#include <exception>
 #include <string>
 #include <utility>
+
+#include "files/failure.h"
 
 namespace ostrane {
 
 // Invalid data: a damaged archive, a list that is too long, a file that changed during a job.
-struct data_error : std::exception {
-  explicit data_error(std::string sentence) : text(std::move(sentence)) {}
-  const char* what() const noexcept override { return text.c_str(); }
-
-  std::string text;  // a sentence for the user
+struct data_error : files::error {
+  // `reason` is a sentence.
+  explicit data_error(std::string reason) : error({u8"", std::move(reason)}) {}
+  // Subject and reason together are one.
+  data_error(std::u8string subject, std::string reason)
+      : error({std::move(subject), std::move(reason)}) {}
 };
 
 }  // namespace ostrane

@@ -42,8 +42,7 @@ bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
   const auto mode =
       job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
-  files::file_writer to(job.file, job.target(name),
-                        {.mode = mode, .source = job.stamp.identity});
+  files::file_writer to(job.file, job.target(name), {.mode = mode, .source = job.stamp.identity});
   if (to.is_new()) job.on_created(name);
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   to.keep([&] { require_unchanged(job.archive, job.stamp, "extraction"); });
@@ -68,7 +67,8 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
     return write_entry(job, name, size);
   } catch (const files::file_error& error) {
     if (error.number == files::file_error_number::disk_full) throw;
-    return "its file " + error.predicate.substr(0, error.predicate.size() - 1);
+    const std::string& sentence = error.told.reason;
+    return "its file " + sentence.substr(0, sentence.size() - 1);
   }
 }
 
@@ -95,7 +95,7 @@ extraction_result extract_entries(files::binary_file& archive, std::span<const d
                                   const entry_target& target, const entry_file_created& on_created,
                                   const job_progress& progress, const extraction_choice& choice) {
   extraction job{archive, records, target, on_created, progress, choice};
-  job.result.stopped = files::failure_of([&] {
+  job.result.stopped = files::failure_in([&] {
     job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;
     for (std::size_t index = 0; index + 1 < records.size(); ++index) extract_entry(job, index);

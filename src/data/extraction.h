@@ -9,6 +9,7 @@
 #include "data/job_progress.h"
 #include "data/skipped_file.h"
 #include "files/binary_file.h"
+#include "files/failure.h"
 
 namespace ostrane {
 
@@ -16,7 +17,7 @@ struct extraction_result {
   std::int32_t written = 0;           // entries
   std::vector<skipped_file> skipped;  // entries that were not written
   std::vector<skipped_file> hidden;   // written files that the system hides by default
-  std::string stopped;                // why the job was aborted, or ""
+  files::failure stopped;             // why the job was aborted
 };
 
 // Returns the path of the file for an entry.

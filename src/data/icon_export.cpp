@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdio>
 
+#include "files/code_page.h"
+
 namespace ostrane {
 
 std::string stem_of_entry(const std::string& name) {
@@ -10,10 +12,10 @@ std::string stem_of_entry(const std::string& name) {
   return name.size() > extension ? name.substr(0, name.size() - extension) : name;
 }
 
-std::string png_name(const std::string& stem, std::size_t number) {
+std::u8string png_name(const std::u8string& stem, std::size_t number) {
   std::array<char, 16> digits = {};
   std::snprintf(digits.data(), digits.size(), "-%04zu.png", number);
-  return stem + digits.data();
+  return stem + files::as_utf8(digits.data());
 }
 
 }  // namespace ostrane

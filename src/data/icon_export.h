@@ -9,7 +9,7 @@
 #include "data/shp_format.h"
 #include "files/binary_file.h"
 
-// Export of the icons of an icon file to the formats of other programs. Names are in UTF-8.
+// Export of the icons of an icon file to the formats of other programs.
 namespace ostrane {
 
 enum class picture_form {
@@ -26,14 +26,14 @@ struct icon_export {
   rgb_palette colours = {};
 
   picture_form form = picture_form::png;
-  std::string stem = {};  // prefix of the file names
-  int pace = 10;          // hundredths of a second per picture
-  int scale = 1;          // pixels per cell
+  std::u8string stem = {};  // prefix of the file names
+  int pace = 10;            // hundredths of a second per picture
+  int scale = 1;            // pixels per cell
   // The range of icons, 1-based and inclusive.
   std::size_t first = 1;
   std::size_t last = max_icons_per_file;
 
-  std::function<files::file_path(const std::string& name)> target = {};
+  std::function<files::file_path(const std::u8string& name)> target = {};
   // Called with the reason for each icon that is skipped or not exact.
   std::function<void(const std::string& reason)> on_skipped = {};
   // Called before each icon; may be null.
@@ -49,6 +49,6 @@ using icon_exporter = void (*)(files::binary_file& archive, const icon_export& w
 std::string stem_of_entry(const std::string& name);
 
 // Returns "GEMS-0001.png" for the stem "GEMS" and 1.
-std::string png_name(const std::string& stem, std::size_t number);
+std::u8string png_name(const std::u8string& stem, std::size_t number);
 
 }  // namespace ostrane

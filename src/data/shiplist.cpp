@@ -48,7 +48,7 @@ void read_shiplist(const files::file_path& path, shiplist_comparison& comparison
   lines.reserve(max_lines);
   while (!reader.at_end()) {
     if (lines.size() == max_lines) {
-      throw data_error(path.shown + " has more than " + std::to_string(max_lines) + " lines.");
+      throw data_error(path.shown, "has more than " + std::to_string(max_lines) + " lines.");
     }
     lines.push_back(reader.read_line());
   }

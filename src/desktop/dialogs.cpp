@@ -10,7 +10,7 @@
 #include "desktop/designed_look.h"
 #include "desktop/menu_items.h"
 #include "desktop/screen_text.h"
-#include "files/system_name.h"
+#include "files/code_page.h"
 
 namespace desktop {
 
@@ -94,7 +94,7 @@ forms_layer::save_answer ask_save_path(const forms_layer::save_question& questio
   });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   folder = dialog.directory().absolutePath();
-  return {.path = files::path_of_utf8(dialog.selectedFiles().first().toStdString()),
+  return {.path = files::as_utf8(dialog.selectedFiles().first().toStdString()),
           .kind = kind_selected()};
 }
 

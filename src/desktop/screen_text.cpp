@@ -13,9 +13,14 @@ constexpr qsizetype longest_plain_tool_tip = 90;
 
 }  // namespace
 
-QString to_screen(std::string_view text) { return QString::fromStdString(files::to_utf8(text)); }
+QString to_screen(std::string_view text) {
+  const std::u8string utf8 = files::to_utf8(text);
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
 
-std::string from_screen(const QString& text) { return files::from_utf8_lossy(text.toStdString()); }
+std::string from_screen(const QString& text) {
+  return files::from_utf8_lossy(files::as_utf8(text.toStdString()));
+}
 
 QString normalize_newlines(QString text, bool pairs_turned) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

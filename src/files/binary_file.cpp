@@ -32,7 +32,7 @@ bool binary_file::open_to_write(const file_path& path) {
   return !exists;
 }
 
-void binary_file::prepare(const std::string& shown_path) {
+void binary_file::prepare(const std::u8string& shown_path) {
   abandon();
   path_ = shown_path;
   buffer_.resize(buffer_size);

@@ -29,7 +29,7 @@ class binary_file {
 
   // Closes an open file and allocates the buffer for the next one, so that a lack of memory leaves
   // no empty file. `shown_path` is the path for messages.
-  void prepare(const std::string& shown_path);
+  void prepare(const std::u8string& shown_path);
   // Takes ownership of a file that was created after prepare(). Throws only if `file` is a negative
   // errno number.
   void adopt(int file);
@@ -69,7 +69,7 @@ class binary_file {
 
   int file_ = -1;
   bool writes_ = false;
-  std::string path_;
+  std::u8string path_;
   std::vector<std::byte> buffer_;
   std::size_t position_ = 0;       // index of the next byte in the buffer
   std::size_t fill_ = 0;           // bytes in the buffer while reading

@@ -29,7 +29,7 @@ constexpr char32_t not_utf8 = 0xFFFFFFFF;
 
 // Removes one code point from the front of `rest` and returns it. If the bytes are not UTF-8,
 // removes one byte and returns not_utf8.
-char32_t take_code_point(std::string_view& rest) {
+char32_t take_code_point(std::u8string_view& rest) {
   const auto lead = static_cast<unsigned char>(rest.front());
   const std::size_t length = lead < 0x80   ? 1
                              : lead < 0xC2 ? 0
@@ -56,16 +56,16 @@ char32_t take_code_point(std::string_view& rest) {
   return point;
 }
 
-void append_utf8(std::string& to, char32_t point) {
+void append_utf8(std::u8string& to, char32_t point) {
   if (point < 0x80) {
-    to.push_back(static_cast<char>(point));
+    to.push_back(static_cast<char8_t>(point));
   } else if (point < 0x800) {
-    to.push_back(static_cast<char>(0xC0U | point >> 6U));
-    to.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+    to.push_back(static_cast<char8_t>(0xC0U | point >> 6U));
+    to.push_back(static_cast<char8_t>(0x80U | (point & 0x3FU)));
   } else {
-    to.push_back(static_cast<char>(0xE0U | point >> 12U));
-    to.push_back(static_cast<char>(0x80U | (point >> 6U & 0x3FU)));
-    to.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+    to.push_back(static_cast<char8_t>(0xE0U | point >> 12U));
+    to.push_back(static_cast<char8_t>(0x80U | (point >> 6U & 0x3FU)));
+    to.push_back(static_cast<char8_t>(0x80U | (point & 0x3FU)));
   }
 }
 
@@ -109,16 +109,15 @@ std::string mapped(std::string_view text, const std::array<char, 256>& table) {
 
 }  // namespace
 
-std::string to_utf8(std::string_view text) {
-  if (is_ascii(text)) return std::string(text);
-  std::string utf8;
+std::u8string to_utf8(std::string_view text) {
+  if (is_ascii(text)) return as_utf8(text);
+  std::u8string utf8;
   utf8.reserve(text.size());
   for (const char c : text) append_utf8(utf8, code_point(static_cast<unsigned char>(c)));
   return utf8;
 }
 
-std::optional<std::string> from_utf8(std::string_view utf8) {
-  if (is_ascii(utf8)) return std::string(utf8);
+std::optional<std::string> from_utf8(std::u8string_view utf8) {
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) {
@@ -129,23 +128,10 @@ std::optional<std::string> from_utf8(std::string_view utf8) {
   return text;
 }
 
-std::string from_utf8_lossy(std::string_view utf8) {
+std::string from_utf8_lossy(std::u8string_view utf8) {
   std::string text;
   while (!utf8.empty()) text.push_back(byte_of(take_code_point(utf8)).value_or('?'));
   return text;
-}
-
-std::string mixed_to_utf8(std::string_view text) {
-  std::string utf8;
-  while (!text.empty()) {
-    const std::string_view before = text;
-    if (take_code_point(text) == not_utf8) {
-      append_utf8(utf8, code_point(static_cast<unsigned char>(before.front())));
-    } else {
-      utf8 += before.substr(0, before.size() - text.size());
-    }
-  }
-  return utf8;
 }
 
 char upper_case(char c) { return cases.upper[static_cast<unsigned char>(c)]; }

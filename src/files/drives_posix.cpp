@@ -51,7 +51,7 @@ std::vector<drive> system_drives() {
   for (const fs::path& folder : mount_folders) {
     for (const fs::path& medium : folders_in(folder)) {
       if (letter == 'Z') break;
-      found.push_back({letter++, from_utf8_lossy(medium.filename().string()), medium});
+      found.push_back({letter++, from_utf8_lossy(medium.filename().u8string()), medium});
     }
   }
   found.push_back({'Z', "root", "/"});

@@ -9,10 +9,10 @@ namespace files {
 
 namespace {
 
-std::string utf8_of(const wchar_t* text) {
+std::u8string utf8_of(const wchar_t* text) {
   std::array<char, 3 * (MAX_PATH + 1)> utf8 = {};
   WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), utf8.size(), nullptr, nullptr);
-  return utf8.data();
+  return as_utf8(utf8.data());
 }
 
 // Only fixed disks have a label: other drives can take seconds to answer.

@@ -3,20 +3,49 @@
 #include <exception>
 #include <new>
 #include <string>
+#include <utility>
 
 namespace files {
 
-// Runs `part` and catches its exceptions. Returns why it failed, as a sentence for the user, or "".
+// What a user is told. The window shows the sentence "SUBJECT REASON", the command line the line
+// "SUBJECT: REASON".
+struct failure {
+  std::u8string subject;  // a file, folder or entry; "" if the reason is a whole sentence
+  std::string reason;     // "cannot be read: it is not there."; "" if nothing failed
+
+  explicit operator bool() const { return !reason.empty(); }
+};
+
+// In the code page, with "?" for the characters that it lacks. "" if nothing failed.
+std::string sentence_of(const failure& failed);
+
+// An exception that carries a failure.
+struct error : std::exception {
+  explicit error(failure failed) : told(std::move(failed)) {}
+  const char* what() const noexcept override { return told.reason.c_str(); }
+
+  failure told;
+};
+
+// Runs `part` and catches its exceptions. Returns why it failed.
 template <typename Part>
-[[nodiscard]] std::string failure_of(const Part& part) {
+[[nodiscard]] failure failure_in(const Part& part) {
   try {
     part();
   } catch (const std::bad_alloc&) {
-    return "There is not enough memory for this.";
-  } catch (const std::exception& error) {
-    return error.what();
+    return {u8"", "There is not enough memory for this."};
+  } catch (const error& caught) {
+    return caught.told;
+  } catch (const std::exception& caught) {
+    return {u8"", caught.what()};
   }
-  return "";
+  return {};
+}
+
+// The same as a sentence, or "".
+template <typename Part>
+[[nodiscard]] std::string failure_of(const Part& part) {
+  return sentence_of(failure_in(part));
 }
 
 template <typename Part>

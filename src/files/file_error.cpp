@@ -10,8 +10,8 @@ namespace files {
 namespace {
 
 std::string predicate_of(file_action action, const std::string& reason) {
-  constexpr std::array<const char*, 6> verbs = {"found", "opened", "read", "made", "written",
-                                                "written"};
+  constexpr std::array<const char*, 6> verbs = {"found", "opened",  "read",
+                                                "made",  "written", "written"};
   return std::string("cannot be ") + verbs[static_cast<std::size_t>(action)] + ": " + reason + ".";
 }
 
@@ -85,14 +85,12 @@ std::string reason_of(int errno_number) {
 }  // namespace
 
 file_error::file_error(file_error_number what_number, file_action what_failed,
-                       std::string failed_subject, const std::string& reason)
-    : number(what_number),
-      action(what_failed),
-      subject(std::move(failed_subject)),
-      predicate(predicate_of(action, reason)),
-      text(subject + " " + predicate) {}
+                       std::u8string subject, const std::string& reason)
+    : error({std::move(subject), predicate_of(what_failed, reason)}),
+      number(what_number),
+      action(what_failed) {}
 
-void fail(const std::string& subject, file_action action, std::int64_t status) {
+void fail(const std::u8string& subject, file_action action, std::int64_t status) {
   const int reason = static_cast<int>(-status);
   throw file_error(number_of(reason), action, subject, reason_of(reason));
 }

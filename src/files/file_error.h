@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <exception>
 #include <string>
+
+#include "files/failure.h"
 
 namespace files {
 
@@ -23,21 +24,16 @@ enum class file_error_number {
 enum class file_action : std::uint8_t { find, open, read, create, write, replace };
 
 // A failed operation on a file, a folder or a drive.
-class file_error : public std::exception {
- public:
-  // `subject` is a path as messages show it, `reason` a sentence fragment.
-  file_error(file_error_number number, file_action action, std::string subject,
+struct file_error : error {
+  // `subject` is a path as messages show it, `reason` a fragment such as "it is not there".
+  file_error(file_error_number what_number, file_action what_failed, std::u8string subject,
              const std::string& reason);
-  const char* what() const noexcept override { return text.c_str(); }
 
   file_error_number number;
   file_action action;
-  std::string subject;
-  std::string predicate;  // "cannot be read: it is not there."
-  std::string text;       // subject and predicate
 };
 
 // Throws file_error for `status`, a negative errno number.
-[[noreturn]] void fail(const std::string& subject, file_action action, std::int64_t status);
+[[noreturn]] void fail(const std::u8string& subject, file_action action, std::int64_t status);
 
 }  // namespace files

@@ -8,7 +8,7 @@ namespace files {
 // The system path of a file, and the path that messages show.
 struct file_path {
   std::filesystem::path system;
-  std::string shown;
+  std::u8string shown;
 };
 
 }  // namespace files

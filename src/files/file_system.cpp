@@ -82,16 +82,14 @@ void create_folder(const std::string& path) {
   if (!fs::create_directory(system_path(path), failed) && !failed) {
     failed = std::make_error_code(std::errc::file_exists);
   }
-  if (failed) fail(path, file_action::create, -errno_number(failed));
+  if (failed) fail(to_utf8(path), file_action::create, -errno_number(failed));
 }
 
 std::vector<std::string> folders_in(const std::string& path) {
-  return sorted_names({system_path(path), path}, &listed_entry::is_folder);
+  return sorted_names(to_file_path(path), &listed_entry::is_folder);
 }
 
-std::vector<std::string> files_in(const std::string& path) {
-  return files_in(file_path{system_path(path), path});
-}
+std::vector<std::string> files_in(const std::string& path) { return files_in(to_file_path(path)); }
 
 std::vector<std::string> files_in(const file_path& folder) {
   return sorted_names(folder, &listed_entry::is_file);
@@ -99,7 +97,7 @@ std::vector<std::string> files_in(const file_path& folder) {
 
 std::vector<unlisted_file> unlisted_files_in(const std::string& path,
                                              const std::vector<std::string>& listed) {
-  return unlisted_files_in(file_path{system_path(path), path}, listed);
+  return unlisted_files_in(to_file_path(path), listed);
 }
 
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,

@@ -162,8 +162,7 @@ void file_writer::rename() {
 // now, as the names are compared case-insensitively.
 void file_writer::remove_other_spellings() {
   if (spelling_ != target_.system) system_calls.replace(target_.system, spelling_);
-  const fs::path& kept =
-      match(spelling_, new_file_.identity).is_same ? spelling_ : target_.system;
+  const fs::path& kept = match(spelling_, new_file_.identity).is_same ? spelling_ : target_.system;
   const std::string folded = upper_case_name(kept);
   std::vector<listed_entry> listed;
   system_calls.list(folder_, listed);

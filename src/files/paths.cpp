@@ -37,14 +37,14 @@ bool is_drive_text(const std::string& path, char letter) {
 }
 
 [[noreturn]] void throw_missing_drive(const std::string& path) {
-  throw file_error(file_error_number::device_unavailable, file_action::find,
-                   path, "there is no such drive");
+  throw file_error(file_error_number::device_unavailable, file_action::find, to_utf8(path),
+                   "there is no such drive");
 }
 
 constexpr bool is_windows = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void throw_colon_in_name(const std::string& path) {
-  throw file_error(file_error_number::bad_file_name, file_action::find, path,
+  throw file_error(file_error_number::bad_file_name, file_action::find, to_utf8(path),
                    "it contains a name with a colon");
 }
 
@@ -138,23 +138,22 @@ fs::path system_path(const std::string& path) {
 }
 
 file_path to_file_path(const std::string& path, case_insensitive_lookup& names) {
-  return {system_path(path, names), path};
+  return {system_path(path, names), to_utf8(path)};
 }
 
-file_path to_file_path(const std::string& path) { return {system_path(path), path}; }
+file_path to_file_path(const std::string& path) { return {system_path(path), to_utf8(path)}; }
 
 file_path in_current_folder(const std::string& name) {
   if (!current_folder_override().empty()) return to_file_path(name);
   std::error_code failed;
   const fs::path folder = fs::current_path(failed);
-  if (failed) fail(name, file_action::find, -errno_number(failed));
-  return {case_insensitive_lookup().find(folder, name), name};
+  if (failed) fail(to_utf8(name), file_action::find, -errno_number(failed));
+  return {case_insensitive_lookup().find(folder, name), to_utf8(name)};
 }
 
 file_path from_system_path(const fs::path& path) {
   const std::string shown = to_tool_path(path);
-  if (!shown.empty()) return {path, shown};
-  return {path, from_utf8_lossy(utf8_of(path))};
+  return {path, shown.empty() ? path.u8string() : to_utf8(shown)};
 }
 
 std::string current_folder() {

@@ -28,10 +28,10 @@ int open_regular(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags | always, 0666);
   if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
-  const int reason = fstat(file, &status) < 0    ? errno
-                     : S_ISREG(status.st_mode)   ? 0
-                     : S_ISDIR(status.st_mode)   ? EISDIR
-                                                 : EACCES;
+  const int reason = fstat(file, &status) < 0  ? errno
+                     : S_ISREG(status.st_mode) ? 0
+                     : S_ISDIR(status.st_mode) ? EISDIR
+                                               : EACCES;
   if (reason == 0) return file;
   close(file);
   return -reason;

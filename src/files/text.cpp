@@ -18,14 +18,6 @@ std::string_view last_characters(std::string_view text, std::size_t count) {
   return text.size() <= count ? text : text.substr(text.size() - count);
 }
 
-std::string printable(std::string_view text) {
-  std::string line(text);
-  std::replace_if(
-      line.begin(), line.end(),
-      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }, '?');
-  return line;
-}
-
 bool matches_pattern(const std::string& name, const std::string& pattern) {
   const std::string text = upper_case(name);
   const std::string wanted = upper_case(pattern);

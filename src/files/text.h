@@ -13,7 +13,13 @@ std::string_view trimmed(std::string_view text);
 std::string_view last_characters(std::string_view text, std::size_t count);
 
 // Replaces control characters by "?", so that the text is one line.
-std::string printable(std::string_view text);
+template <typename Char>
+std::basic_string<Char> printable(std::basic_string<Char> text) {
+  for (Char& c : text) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
+  }
+  return text;
+}
 
 // Ignores case. "*" matches any number of characters, "?" exactly one.
 bool matches_pattern(const std::string& name, const std::string& pattern);

@@ -6,7 +6,6 @@
 
 #include "files/file_error.h"
 #include "files/path_match.h"
-#include "files/system_name.h"
 #include "files/work_files.h"
 
 namespace files {
@@ -17,19 +16,19 @@ constexpr auto max_wait = std::chrono::milliseconds(500);
 constexpr auto pause = std::chrono::milliseconds(5);
 
 // If the lock file exists but cannot be opened, the message names it instead of the target.
-[[noreturn]] void fail_to_open(const std::filesystem::path& lock, std::string shown, int status) {
+[[noreturn]] void fail_to_open(const std::filesystem::path& lock, std::u8string shown, int status) {
   file_info found;
   const bool exists = system_calls.info_at(lock, found) >= 0;
   if (exists) {
-    shown.erase(shown.find_last_of("\\/") + 1);
-    shown += name_as_text_lossy(lock.filename().native());
+    shown.erase(shown.find_last_of(u8"\\/") + 1);
+    shown += lock.filename().u8string();
   }
   fail(shown, exists ? file_action::open : file_action::create, status);
 }
 
 }  // namespace
 
-writing_lock::writing_lock(const std::filesystem::path& target, const std::string& shown_path)
+writing_lock::writing_lock(const std::filesystem::path& target, const std::u8string& shown_path)
     : path_(lock_beside(target)) {
   const auto deadline = std::chrono::steady_clock::now() + max_wait;
   while (!try_lock(shown_path)) {
@@ -46,7 +45,7 @@ writing_lock::~writing_lock() {
   system_calls.close_file(file_);
 }
 
-bool writing_lock::try_lock(const std::string& shown_path) {
+bool writing_lock::try_lock(const std::u8string& shown_path) {
   const int file = system_calls.open_lock(path_);
   if (file == -EWOULDBLOCK) return false;
   if (file < 0) fail_to_open(path_, shown_path, file);

@@ -57,7 +57,7 @@ void extract_one_entry() {
     files::clear_leftovers(answer.path.parent_path());
     result = extract_to(answer.path);
   });
-  if (failure.empty()) failure = result.stopped;
+  if (failure.empty()) failure = files::sentence_of(result.stopped);
   if (!failure.empty()) {
     forms_layer::message_box(failure + " The entry was not extracted.");
   } else if (!result.skipped.empty()) {

@@ -66,8 +66,9 @@ void load_form1() {
   set_form2_to_drive_c();
   Form1.Text4.Text = default_interval_text;
   set_default_palette();
-  tool_state.icon_names = read_icon_names(
-      {files::case_insensitive_lookup().find(tool_state.app_path, "iconlist.csv"), "iconlist.csv"});
+  tool_state.icon_names =
+      read_icon_names({files::case_insensitive_lookup().find(tool_state.app_path, "iconlist.csv"),
+                       u8"iconlist.csv"});
   load_first_slots();
   tool_state.twips_per_pixel_x = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelX);
   tool_state.twips_per_pixel_y = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelY);

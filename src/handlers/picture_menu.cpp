@@ -36,34 +36,33 @@ std::size_t icon_number_of(std::int32_t slot) {
 }
 
 // "GEMS" for "GEMS-0001"; nullopt for other names.
-std::optional<std::string> without_number(const std::string& stem) {
-  const std::size_t digits_at = stem.find_last_not_of("0123456789") + 1;
-  if (digits_at < 2 || stem[digits_at - 1] != '-' || stem.size() - digits_at < 4) return {};
+std::optional<std::u8string> without_number(const std::u8string& stem) {
+  const std::size_t digits_at = stem.find_last_not_of(u8"0123456789") + 1;
+  if (digits_at < 2 || stem[digits_at - 1] != u8'-' || stem.size() - digits_at < 4) return {};
   return stem.substr(0, digits_at - 1);
 }
 
 // Sets the form and the names of the files. Returns false for an unknown ending.
 bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   const std::filesystem::path path = answer.path;
-  const std::string ending = files::lower_case(files::utf8_of(path.extension()));
+  const std::string ending = files::lower_case(files::as_bytes(path.extension().u8string()));
   const bool is_series = wanted.form != picture_form::picture;
-  wanted.stem = files::utf8_of(path.stem());
+  wanted.stem = path.stem().u8string();
   if (is_series && ending == ".gif") {
     wanted.form = picture_form::gif;
   } else if (ending != ".png") {
     return false;
   } else if (is_series) {
-    const std::optional<std::string> stem = without_number(wanted.stem);
+    const std::optional<std::u8string> stem = without_number(wanted.stem);
     const bool are_pngs = stem || answer.kind == kind_of_pngs;
     wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
     if (stem) wanted.stem = *stem;
   }
   // Only the file of that name is replaced, whatever the case of its ending.
   const bool is_numbered = wanted.form == picture_form::png;
-  wanted.target = [path, is_numbered](const std::string& name) {
-    const bool is_other = is_numbered || name.ends_with(".json");
-    return files::from_system_path(is_other ? path.parent_path() / files::path_of_utf8(name)
-                                            : path);
+  wanted.target = [path, is_numbered](const std::u8string& name) {
+    const bool is_other = is_numbered || name.ends_with(u8".json");
+    return files::from_system_path(is_other ? path.parent_path() / name : path);
   };
   return true;
 }
@@ -87,7 +86,7 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   }
   std::vector<skipped_file> skipped;
   const std::string entry = entry_name(tool_state.directory_index);
-  wanted.entry = files::to_utf8(entry);
+  wanted.entry = entry;
   wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
   wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
   files::clear_leftovers(answer.path.parent_path());
@@ -115,7 +114,8 @@ void copy_picture() { forms_layer::copy_picture(Form1.s16_image(tool_state.menu_
 
 void save_picture() {
   const std::size_t number = icon_number_of(tool_state.menu_target);
-  const std::string name = png_name(proposed_stem(), number);
+  const std::string name =
+      files::from_utf8_lossy(png_name(files::to_utf8(proposed_stem()), number));
   const forms_layer::save_answer answer =
       forms_layer::ask_save_path({.title = "Save picture",
                                   .stem = name.substr(0, name.rfind('.')),
@@ -125,12 +125,12 @@ void save_picture() {
 
 void save_series() {
   const std::size_t first = icon_number_of(1);
-  const forms_layer::save_answer answer =
-      forms_layer::ask_save_path({.title = "Save series",
-                                  .stem = proposed_stem(),
-                                  .kinds = {{"One PNG with all icons", "-sheet.png"},
-                                            {"One PNG per icon", png_name("", first)},
-                                            {"Motion", ".gif"}}});
+  const forms_layer::save_answer answer = forms_layer::ask_save_path(
+      {.title = "Save series",
+       .stem = proposed_stem(),
+       .kinds = {{"One PNG with all icons", "-sheet.png"},
+                 {"One PNG per icon", files::as_bytes(png_name(u8"", first))},
+                 {"Motion", ".gif"}}});
   save({.first = first, .last = static_cast<std::size_t>(tool_state.series_next_icon)}, answer,
        "series");
 }

@@ -8,6 +8,7 @@
 #include "data/icon_file.h"
 #include "data/icon_packer.h"
 #include "data/number_text.h"
+#include "files/code_page.h"
 #include "files/file_writer.h"
 #include "files/system_name.h"
 #include "pictures/colour_finder.h"
@@ -33,7 +34,7 @@ struct icon_export_job {
 
 std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns()} * drawn.rows(); }
 
-void write_output(icon_export_job& job, const std::string& name, std::string_view bytes) {
+void write_output(icon_export_job& job, const std::u8string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
   files::write_bytes(job.output, job.wanted.target(name), bytes, {.source = job.stamp.identity});
 }
@@ -84,7 +85,7 @@ void report_unread_icons(const icon_export& wanted, const icon_file& from) {
 exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawable) {
   const icon_export& wanted = job.wanted;
   const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
-  exported_icons exported = {.name = wanted.entry,
+  exported_icons exported = {.name = files::to_utf8(wanted.entry),
                              .identifier = from.head.identifier,
                              .scale = wanted.scale,
                              .first = wanted.first,
@@ -105,13 +106,13 @@ void export_series(icon_export_job& job) {
         icon.last_column = last_set_column(drawn);
         write_output(job, *icon.file, png_at_scale(job, drawn));
       });
-  write_output(job, job.wanted.stem + ".json", json_of(exported));
+  write_output(job, job.wanted.stem + u8".json", json_of(exported));
 }
 
 // Blank icons are omitted from a GIF and a sheet.
 struct all_pictures {
   std::vector<picture> pictures;
-  std::vector<std::string> names;
+  std::vector<std::u8string> names;
   std::int64_t cells = 0;
 };
 
@@ -121,7 +122,7 @@ all_pictures collect_pictures(icon_export_job& job) {
     all.cells += cells_of(drawn);
     if (all.cells > max_picture_cells) throw data_error("Its pictures together are too large.");
     all.pictures.push_back(std::move(drawn));
-    all.names.push_back(png_name(stem_of_entry(job.wanted.entry), number));
+    all.names.push_back(png_name(files::to_utf8(stem_of_entry(job.wanted.entry)), number));
   });
   if (all.pictures.empty()) throw data_error("It has no drawable icon.");
   return all;
@@ -130,11 +131,11 @@ all_pictures collect_pictures(icon_export_job& job) {
 void export_sheet(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
   const sheet made = sheet_of(all.pictures);
-  const std::string name = job.wanted.stem + ".png";
+  const std::u8string name = job.wanted.stem + u8".png";
   write_output(job, name, png_at_scale(job, made.drawn));
   // The user may have given the file a name in another case.
-  const std::string image = files::utf8_of(job.wanted.target(name).system.filename());
-  write_output(job, job.wanted.stem + ".json",
+  const std::u8string image = job.wanted.target(name).system.filename().u8string();
+  write_output(job, job.wanted.stem + u8".json",
                json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
 }
 
@@ -143,7 +144,7 @@ void export_gif(icon_export_job& job) {
   require_scalable(job, all.cells);
   std::int64_t inexact = 0;
   write_output(
-      job, job.wanted.stem + ".gif",
+      job, job.wanted.stem + u8".gif",
       gif_of(all.pictures, job.wanted.colours, job.wanted.pace, job.wanted.scale, inexact));
   if (inexact > 0) {
     job.wanted.on_skipped(counted(inexact, "pixel") + " of the GIF changed to the nearest colour");
@@ -152,7 +153,7 @@ void export_gif(icon_export_job& job) {
 
 void export_picture(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
-  write_output(job, job.wanted.stem + ".png", png_at_scale(job, all.pictures.front()));
+  write_output(job, job.wanted.stem + u8".png", png_at_scale(job, all.pictures.front()));
 }
 
 void export_to_files(files::binary_file& archive, const icon_export& wanted) {

@@ -62,8 +62,8 @@ icon_head head_in(const json& object) {
 }
 
 // Refuses a name that would select a file outside the folder of the JSON.
-std::string file_name_in(const json& file) {
-  auto name = file.get<std::string>();
+std::u8string file_name_in(const json& file) {
+  std::u8string name = files::as_utf8(file.get<std::string>());
   const std::optional<std::string> text = files::from_utf8(name);
   const std::string unsafe =
       text ? unsafe_name_reason(*text) : "its name has characters that the code page lacks";
@@ -85,7 +85,7 @@ exported_icons read(const std::string& text) {
   if (all.value("format", "") != form) throw data_error("it is not the JSON of an icon file");
   exported_icons found;
   const std::optional<std::string> identifier =
-      files::from_utf8(all.at("identifier").get<std::string>());
+      files::from_utf8(files::as_utf8(all.at("identifier").get<std::string>()));
   if (!identifier || identifier->size() != found.identifier.size()) {
     throw data_error("its identifier does not have four characters");
   }
@@ -116,14 +116,15 @@ std::string json_of(const exported_icons& exported) {
   return text + "\n]}\n";
 }
 
-exported_icons read_icon_json(const std::string& text, const std::string& shown) {
-  const std::string cannot_read = shown + " cannot be read as the JSON of an export: ";
+exported_icons read_icon_json(const std::string& text, const std::u8string& shown) {
+  const std::string cannot_read = "cannot be read as the JSON of an export: ";
   try {
     return read(text);
   } catch (const data_error& error) {
-    throw data_error(cannot_read + error.text + ".");
+    throw data_error(shown, cannot_read + error.told.reason + ".");
   } catch (const json::exception& error) {
-    throw data_error(cannot_read + error.what() + ".");
+    throw data_error(shown,
+                     cannot_read + files::from_utf8_lossy(files::as_utf8(error.what())) + ".");
   }
 }
 

@@ -11,14 +11,14 @@
 namespace ostrane {
 
 struct exported_icon {
-  std::optional<std::string> file;  // the PNG, in UTF-8; nullopt if the icon cannot be drawn
+  std::optional<std::u8string> file;  // the PNG; nullopt if the icon cannot be drawn
   icon_head head;
   std::int32_t offset = 0;       // in the icon file; not read
   std::int32_t last_column = 0;  // the last column with a set cell, if the box ends before it
 };
 
 struct exported_icons {
-  std::string name;  // of the entry, in UTF-8
+  std::u8string name;  // of the entry
   shp_identifier identifier = {};
   int scale = 1;
   std::size_t first = 1;  // number of the first icon; not read
@@ -28,6 +28,6 @@ struct exported_icons {
 std::string json_of(const exported_icons& exported);
 
 // Throws data_error, which names `shown`, if it is another JSON or if a file in it has a folder.
-exported_icons read_icon_json(const std::string& text, const std::string& shown);
+exported_icons read_icon_json(const std::string& text, const std::u8string& shown);
 
 }  // namespace ostrane

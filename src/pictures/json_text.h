@@ -4,6 +4,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "files/code_page.h"
+
 // Writes JSON. nlohmann-json writes the texts. Objects are joined here: a tree of its values
 // allocates memory when it is destroyed, and ends the program if there is none.
 namespace ostrane {
@@ -14,11 +16,11 @@ struct json_field {
   std::string value;
 };
 
-// `text` is UTF-8.
-inline std::string json_string(const std::string& text) {
+inline std::string json_string(const std::u8string& text) {
   using json = nlohmann::json;
-  return json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+  return json(files::as_bytes(text)).dump(-1, ' ', false, json::error_handler_t::replace);
 }
+inline std::string json_string(const char* ascii) { return json_string(files::as_utf8(ascii)); }
 
 inline std::string json_object(std::initializer_list<json_field> fields) {
   std::string text;

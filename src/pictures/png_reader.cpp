@@ -172,7 +172,7 @@ void read(png_structp png, png_infop info, png_job& job) {
 
 }  // namespace
 
-png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours) {
+png_picture read_png(std::string_view bytes, const std::u8string& shown, colour_finder& colours) {
   png_job job = {.bytes = bytes, .colours = colours};
   png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &job, fail, ignore_warning);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
@@ -184,7 +184,7 @@ png_picture read_png(std::string_view bytes, const std::string& shown, colour_fi
   } at_end{&png, &info};
   read(png, info, job);
   if (!job.failure.empty()) {
-    throw data_error(shown + " cannot be read as a PNG: " + job.failure + ".");
+    throw data_error(shown, "cannot be read as a PNG: " + job.failure + ".");
   }
   return std::move(job.result);
 }

@@ -17,6 +17,6 @@ struct png_picture {
 // indexed PNG is kept if both palettes have the same colour there; otherwise `colours` finds the
 // index. Throws data_error, which names `shown`, if the PNG is incomplete or larger than
 // max_picture_cells.
-png_picture read_png(std::string_view bytes, const std::string& shown, colour_finder& colours);
+png_picture read_png(std::string_view bytes, const std::u8string& shown, colour_finder& colours);
 
 }  // namespace ostrane

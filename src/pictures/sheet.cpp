@@ -61,7 +61,7 @@ sheet sheet_of(const std::vector<picture>& pictures) {
 }
 
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
-                    const std::vector<std::string>& names, const std::string& image, int pace,
+                    const std::vector<std::u8string>& names, const std::u8string& image, int pace,
                     int scale) {
   std::string text = "{\"frames\":[";
   for (std::size_t i = 0; i < pictures.size(); ++i) {

@@ -19,9 +19,9 @@ struct sheet {
 sheet sheet_of(const std::vector<picture>& pictures);
 
 // The JSON of a sheet for sprite editors: an array of frames, and meta. `names` are the names of
-// the frames, `image` is the name of the PNG, in UTF-8; `pace` is in hundredths of a second.
+// the frames, `image` is the name of the PNG; `pace` is in hundredths of a second.
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
-                    const std::vector<std::string>& names, const std::string& image, int pace,
+                    const std::vector<std::u8string>& names, const std::u8string& image, int pace,
                     int scale);
 
 }  // namespace ostrane

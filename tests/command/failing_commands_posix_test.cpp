@@ -36,8 +36,8 @@ struct failing_commands_test : command_test {
   }
 };
 
-// Each file call fails in turn. Each file is then the old one or the complete new one. A status of 0
-// stands for complete results, any other for a message.
+// Each file call fails in turn. Each file is then the old one or the complete new one. A status of
+// 0 stands for complete results, any other for a message.
 TEST_F(failing_commands_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
   const char* const jobs[] = {"add a.dat in/a.txt",
                               "remove a.dat B.TXT",
@@ -74,8 +74,9 @@ TEST_F(failing_commands_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
         failing.reset();
         if (!happened) break;
         const std::string& call = calls[static_cast<std::size_t>(at)];
-        SCOPED_TRACE(testing::Message() << job << " " << call << " " << at << " " << words
-                                        << fault.lasting << "\n" << seen.errors);
+        SCOPED_TRACE(testing::Message()
+                     << job << " " << call << " " << at << " " << words << fault.lasting << "\n"
+                     << seen.errors);
         const bool may_leave_hidden =
             fault.lasting || fault.kind == call_fault::lies || call.starts_with("info");
         const file_map after = all_files();

@@ -28,7 +28,7 @@ struct pictures_test : command_test {
   static texts icons_of(const std::string& path) {
     texts all;
     files::binary_file file;
-    file.open_to_read({path, path});
+    file.open_to_read({path, u8""});
     const icon_file icons = read_icon_file(file, 0, static_cast<std::int32_t>(file.size()));
     const auto stream = std::make_unique<icon_stream>();
     for (const std::int32_t position : icons.positions) {
@@ -137,7 +137,7 @@ TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
   }
   const result seen = run("import p.png -o new.shp --palette GAME.PAL --like two.shp");
   EXPECT_EQ(seen.status, 1);
-  EXPECT_NE(seen.errors.find("1 icon of two.shp left out"), std::string::npos);
+  EXPECT_NE(seen.errors.find("1 icon of the old icon file left out"), std::string::npos);
 }
 
 TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
