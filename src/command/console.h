@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "data/job_progress.h"
+
 // Output of the program: results go to standard output, everything else to standard error.
 namespace ostrane::command {
 
@@ -33,5 +35,7 @@ std::string printable(std::string_view text);
 // keeps the latest one. Throws interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);
 void hide_progress();
+// The progress of a job on `count` files, for show_progress.
+job_progress shown_progress(std::size_t count);
 
 }  // namespace ostrane::command
