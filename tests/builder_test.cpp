@@ -52,8 +52,8 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
       {nothing, append_to_b, "C:\\work\\b.txt has changed its size during the copy."},
       {enlarge_b, nothing,
-       "With C:\\work\\b.txt the archive would be larger than 2 GB, which is the most that it can "
-       "be."},
+       "C:\\work\\b.txt does not fit: the archive would be larger than 2 GB, which is the most "
+       "that it can be."},
       {type_no_drive, nothing, "There is no drive Q."},
       {make_lock_folder, nothing, "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };

@@ -4,7 +4,7 @@
 #include "command/console.h"
 #include "command/named_files.h"
 #include "command/program.h"
-#include "data/archive_builder.h"
+#include "data/archive_writer.h"
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/file_system.h"
@@ -23,9 +23,7 @@ struct build_job {
   files::file_path target;
   fs::path old = {};          // the file to replace; "" if it is not in the folder
   std::string old_name = {};  // in upper case
-  build_list list = {};
-  std::vector<make_record> files = {};
-  std::vector<dat_record> records = {};
+  new_archive archive = {};
 };
 
 // An archive does not contain itself.
@@ -38,41 +36,31 @@ bool is_target(const build_job& job, const std::string& name) {
 }
 
 void list_files(build_job& job) {
-  job.list.folder = argument_of_path(job.folder.system / "");
   for (const std::string& name : files::files_in(job.folder)) {
     if (is_target(job, name)) continue;
     const fs::path path = job.folder.system / files::system_name(name);
-    job.list.names.push_back(name);
-    job.list.paths.push_back({path, argument_of_path(path) + ":"});
+    job.archive.entries.push_back(source_of_file(name, {path, argument_of_path(path) + ":"}));
   }
-  job.files.resize(job.list.names.size());
 }
 
 void write(build_job& job) {
-  std::size_t current = 0;
-  const auto show = [&](const std::string& name) {
-    show_progress(current, job.files.size(), files::to_utf8(name));
-  };
-  const job_progress progress = {
-      .on_file =
-          [&](std::size_t number, const std::string& name, std::int32_t) {
-            current = number;
-            show(name);
-          },
-      .on_bytes = [&](std::int32_t) { show(""); }};
+  const std::size_t count = job.archive.entries.size();
+  make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
   if (job.options.archive != "-") {
-    write_archive(job.list, job.files, job.records, job.target, progress);
+    replace_archive(job.target, job.archive, shown_progress(count));
     return;
   }
   files::binary_file output;
   open_output(output);
-  write_archive_to(output, job.list, job.files, job.records, progress);
+  write_archive_to(output, job.archive, shown_progress(count));
   output.close();
 }
 
 int report_skipped_files(const build_job& job) {
   int status = status_done;
-  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
+  std::vector<std::string> names;
+  for (const entry_source& entry : job.archive.entries) names.push_back(entry.shown_name);
+  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, names)) {
     if (is_target(job, file.name)) continue;
     print_error(files::to_utf8(file.name), std::string("skipped: ") + file.reason);
     status = status_differs;
@@ -101,7 +89,6 @@ int build(const build_options& options) {
   }
   list_files(job);
   if (options.archive != "-") files::require_replaceable(old);
-  job.records = measure_files(job.list, job.files);
   write(job);
   return report_skipped_files(job);
 }

@@ -59,8 +59,7 @@ struct extraction {
 // Copies the current entry to an open file. Returns false if the archive ends before it does.
 bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
   job.archive.seek(job.position);
-  const auto copy = [&](std::size_t max) { return to.write_from(job.archive, max); };
-  return chunk_ladder(copy, size, job.small_block_bytes, job.progress) == size;
+  return chunk_ladder(job.archive, to, size, job.small_block_bytes, job.progress) == size;
 }
 
 // Like write_entry, but replaces an existing file atomically.

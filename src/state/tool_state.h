@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "data/archive_builder.h"
 #include "data/archive_format.h"
 #include "data/icon_export.h"
 #include "data/icon_names.h"
@@ -25,6 +24,13 @@ constexpr flag flag_true = -1;
 constexpr flag flag_false = 0;
 
 constexpr std::int32_t max_slots = 9999;
+
+// A file of the archive built last.
+struct make_record {
+  std::int32_t size;    // bytes
+  record_name name;     // as padded_name returns it
+  std::int32_t offset;  // of the entry in the archive
+};
 
 // The state of the tool. Every handler and procedure reads and writes it directly. Lengths are
 // twips. Arrays that count from 1 leave element 0 unused. Large arrays have no initialiser: static

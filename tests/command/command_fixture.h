@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
+#include "archive_bytes.h"
 #include "command/run_command.h"
-#include "data/archive_bytes.h"
 #include "disk.h"
 #include "failing_calls.h"
 
