@@ -170,12 +170,11 @@ void replace_archive(const files::file_path& target, const new_archive& archive,
                      const job_progress& progress) {
   files::replaced_file to(target);
   write_archive_to(to.file(), archive, progress);
-  // Another program may have written to the old archive or replaced it during the copy.
-  if (archive.old) {
+  to.commit([&archive] {
+    // Another program may have written to the old archive or replaced it meanwhile.
     files::binary_file old;
-    open_unchanged(old, archive.old->path, archive.old->index.stamp);
-  }
-  to.commit();
+    if (archive.old) open_unchanged(old, archive.old->path, archive.old->index.stamp);
+  });
   // commit() kept the spelling of the old file, so there are never two archives of the game. A
   // failure to rename it now is harmless, as names are compared case-insensitively.
   if (!archive.old && target.system.filename() == archive_name) {

@@ -96,9 +96,10 @@ void replaced_file::require_own_file() const {
 
 // A network file system can report a failure although it renamed the file, so the result is
 // checked.
-void replaced_file::commit() {
+void replaced_file::commit(const std::function<void()>& before_rename) {
   file_.flush(true);
   require_own_file();
+  before_rename();
   const int replaced = file_calls::replace(temporary_, target_.system);
   const file_calls::path_match found = match(target_.system);
   if (found.is_same || (found.error < 0 && replaced >= 0)) return;

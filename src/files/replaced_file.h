@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "files/binary_file.h"
 #include "files/file_calls.h"
 #include "files/writing_lock.h"
@@ -25,8 +27,9 @@ class replaced_file {
 
   binary_file& file() { return file_; }
 
-  // Flushes the new file to the disk and renames it to the target.
-  void commit();
+  // Flushes the new file to the disk and renames it to the target. `before_rename` runs between the
+  // two; if it throws, the old file stays.
+  void commit(const std::function<void()>& before_rename = [] {});
   // For a target that cannot be replaced: writes the new content to `to` instead.
   void copy_to(binary_file& to);
 
