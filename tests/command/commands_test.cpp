@@ -84,6 +84,30 @@ TEST_F(commands_test, AddsAndReplacesEntriesAndKeepsTheOthers) {
   EXPECT_EQ(run("add a.dat b.txt sub/a.txt").status, 0);
   EXPECT_EQ(bytes_of("a.dat"),
             archive_bytes({{"A.TXT", "newer"}, {"B.TXT", "new"}, entries[1], entries[2]}));
+  write_bytes("none.dat", std::string(4, '\0'));
+  EXPECT_EQ(run("add none.dat b.txt").status, 0);
+  EXPECT_EQ(bytes_of("none.dat"), archive_bytes({{"B.TXT", "new"}}));
+  const auto with_end_name = [](std::string archive) { return archive.replace(25, 3, "END"); };
+  write_bytes("none.dat", with_end_name(archive_bytes({{"A.TXT", "1"}})));
+  EXPECT_EQ(run("add none.dat sub/a.txt").status, 0);
+  EXPECT_EQ(bytes_of("none.dat"), with_end_name(archive_bytes({{"A.TXT", "newer"}})));
+}
+
+// Also if the entries are not in order.
+TEST_F(commands_test, AddsManyFilesLikeOneAfterTheOther) {
+  const std::string unsorted =
+      archive_bytes({{"M", ""}, {"C", "1"}, {"C", "2"}, {"Z", ""}, {"k", ""}});
+  write_bytes("all.dat", unsorted);
+  write_bytes("each.dat", unsorted);
+  std::string all = "add all.dat";
+  for (const char name : std::string("xaNkzBLcydM0")) {
+    const std::string file = std::string("in/") + name;
+    write_bytes(file, file);
+    EXPECT_EQ(run("add each.dat " + file).status, 0);
+    all += " " + file;
+  }
+  EXPECT_EQ(run(all).status, 0);
+  EXPECT_EQ(bytes_of("all.dat"), bytes_of("each.dat"));
 }
 
 TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
