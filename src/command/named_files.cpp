@@ -1,8 +1,10 @@
 #include "command/named_files.h"
 
 #include <cerrno>
+#include <unordered_map>
 
 #include "command/console.h"
+#include "command/interruption.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "files/code_page.h"
@@ -52,12 +54,23 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments) {
   const std::size_t count = records.empty() ? 0 : records.size() - 1;
   std::vector<bool> chosen(count, arguments.empty());
+  const std::string no_name(name_size + 1, '/');  // is longer than that of any entry
+  std::unordered_multimap<std::string, std::size_t> by_name;
+  for (std::size_t i = 0; i < count && !arguments.empty(); ++i) {
+    by_name.emplace(files::upper_case(name_with_blanks(records[i].name)), i);
+  }
   for (const std::string& argument : arguments) {
+    show_progress(static_cast<std::size_t>(&argument - arguments.data()), arguments.size(),
+                  argument);
+    const std::string pattern = files::from_utf8(argument).value_or(no_name);
+    const bool is_name = pattern.find_first_of("*?") == std::string::npos;
+    auto [at, end] = is_name ? by_name.equal_range(files::upper_case(pattern))
+                             : std::pair(by_name.begin(), by_name.end());
     bool matches_any = false;
-    const std::optional<std::string> pattern = files::from_utf8(argument);
-    for (std::size_t i = 0; pattern && i < count; ++i) {
-      if (!files::matches_pattern(name_with_blanks(records[i].name), *pattern)) continue;
-      chosen[i] = matches_any = true;
+    for (; at != end; ++at) {
+      check_interruption();
+      if (!is_name && !files::matches_pattern(at->first, pattern)) continue;
+      chosen[at->second] = matches_any = true;
     }
     if (!matches_any) throw data_error(argument + ": no entry has this name.");
   }

@@ -44,9 +44,13 @@ TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNoFile) {
   run_in_process([&] {
     command::catch_signals();
     std::raise(SIGTERM);
-    for (const char* job : {"add a.dat b.txt", "extract a.dat", "list a.dat"}) {
+    for (const char* job : {"add a.dat b.txt", "extract a.dat", "extract a.dat * -d out",
+                            "list a.dat", "remove a.dat A.TXT"}) {
+      const failing_calls watched;
       EXPECT_THROW(command::run_command(arguments_of(job)), command::interruption) << job;
       EXPECT_EQ(files_at("."), before) << job;
+      const auto made = std::count(watched.calls.begin(), watched.calls.end(), "open_lock");
+      EXPECT_TRUE(made == 0 && !fs::exists("out")) << job;
     }
   });
 }
