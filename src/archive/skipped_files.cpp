@@ -8,11 +8,11 @@ namespace {
 
 constexpr std::size_t max_named = 20;
 
-// Control characters would break the lines of the message.
-std::string printable(std::string name) {
+// Control characters would break the line.
+std::string printable(std::string line) {
   std::replace_if(
-      name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, '?');
-  return name;
+      line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, '?');
+  return line;
 }
 
 }  // namespace
@@ -21,7 +21,7 @@ std::string skipped_files_text(const std::vector<skipped_file>& files, const cha
   if (files.empty()) return "";
   std::string text = heading;
   for (std::size_t i = 0; i < std::min(files.size(), max_named); ++i) {
-    text += "\n>" + printable(files[i].name) + "<: " + files[i].reason;
+    text += "\n" + printable(">" + files[i].name + "<: " + files[i].reason);
   }
   if (files.size() > max_named) {
     text += "\nand " + std::to_string(files.size() - max_named) + " more.";

@@ -1,6 +1,7 @@
 #include "data/extraction.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "data/archive_index.h"
@@ -51,10 +52,27 @@ struct extraction {
   const extraction_choice& choice;
   files::binary_file file = {};
   files::file_stamp stamp = {};
+  std::size_t index = 0;      // of the current entry
   std::int64_t position = 0;  // of the current entry in the archive
   std::int16_t small_block_bytes = 0;
+  std::map<std::pair<std::uint64_t, std::uint64_t>, std::size_t> written = {};  // entry by identity
   extraction_result result = {};
 };
+
+// Call when the current entry replaces the content of a file. If that is an entry of this job, it
+// is reported.
+void report_overwritten(extraction& job, const files::file_identity& old) {
+  const auto found = job.written.find({old.device, old.number});
+  if (found == job.written.end()) return;
+  job.result.skipped.push_back({name_with_blanks(job.records[found->second].name),
+                                "entry " + std::to_string(job.index + 1) + " was written over it"});
+  --job.result.written;
+  job.written.erase(found);
+}
+
+void remember_written(extraction& job, const files::file_identity& file) {
+  if (file != files::file_identity{}) job.written[{file.device, file.number}] = job.index;
+}
 
 // Copies the current entry to an open file. Returns false if the archive ends before it does.
 bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
@@ -68,7 +86,12 @@ std::string replace_entry_file(extraction& job, const std::string& name, std::in
   files::whole_file to(job.file, path, job.stamp.identity);
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   require_unchanged(job.archive, job.stamp, "extraction");  // before the old file is replaced
+  files::file_info old;
+  files::file_calls::info_at(path.system, old);
+  const files::file_identity identity = job.file.info().stamp.identity;
   to.keep();
+  if (old.stamp.identity != identity) report_overwritten(job, old.stamp.identity);
+  remember_written(job, identity);
   job.on_created(name);
   return "";
 }
@@ -79,12 +102,17 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   entry_file to(job.file, job.target(name));
   if (to.is_new) {
     job.on_created(name);
-  } else if (to.file.info().stamp.identity == job.stamp.identity) {
-    return "it would be written over the open archive";
+  } else {
+    to.info = to.file.info();
+    if (to.info.stamp.identity == job.stamp.identity) {
+      return "it would be written over the open archive";
+    }
+    report_overwritten(job, to.info.stamp.identity);
   }
   if (!copy_entry(job, to.file, size)) return archive_too_short;
   to.file.close();
   to.is_complete = true;
+  remember_written(job, to.info.stamp.identity);
   return "";
 }
 
@@ -116,6 +144,7 @@ void extract_entry(extraction& job, std::size_t index) {
   const std::int32_t size =
       clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);
+  job.index = index;
   job.progress.on_file(index, name, size);
   const std::string reason = try_to_write_entry(job, name, size);
   job.position += std::max(size, 0);
