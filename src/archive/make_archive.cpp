@@ -31,7 +31,7 @@ struct build_job {
   files::case_insensitive_lookup names = {};
   new_archive archive = {};
   bool is_made = false;
-  std::string skipped = {};  // a message, or ""
+  std::string report = {};  // lines about files, each after a line end, or ""
 };
 
 // Takes the rows of `File1` without the archive itself.
@@ -98,14 +98,37 @@ void write(build_job& job) {
                    .on_bytes = move_file_bar});
 }
 
-std::string skipped_message(const build_job& job) {
-  std::vector<skipped_file> skipped;
-  std::vector<std::string> names;
-  for (const entry_source& entry : job.archive.entries) names.push_back(entry.shown_name);
-  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, names)) {
-    if (files::upper_case(file.name) != archive_name) skipped.push_back({file.name, file.reason});
+bool list_is_of_other_folder(const build_job& job) {
+  return files::lower_case(Form5.File1.Path()) != files::lower_case(files::full_path(job.folder));
+}
+
+std::string left_out_text(build_job& job) {
+  std::vector<skipped_file> left_out;
+  const char* unknown = list_is_of_other_folder(job) ? "the list is that of another folder"
+                                                     : "it came after the files were listed";
+  for (const files::unlisted_file& file : files::unlisted_files_in(
+           files::to_file_path(job.folder, job.names), file_paths(job.archive), unknown)) {
+    if (files::upper_case(file.name) != archive_name) left_out.push_back({file.name, file.reason});
   }
-  return skipped_files_text(skipped, "These files are not in the new Ostrane.dat:");
+  return skipped_files_text(left_out, "\nThese files are not in the new Ostrane.dat:");
+}
+
+std::string equal_names_text(const new_archive& archive) {
+  std::vector<skipped_file> equal;
+  for (const auto& [index, earlier] : equal_names(archive.entries)) {
+    equal.push_back({archive.entries[index].shown_name, "its entry has the same name as that of " +
+                                                            archive.entries[earlier].shown_name});
+  }
+  return skipped_files_text(equal,
+                            "\nThese entries of the new Ostrane.dat have the name of another:");
+}
+
+void report_files(build_job& job) {
+  const std::string failure = files::failure_of([&job] { job.report = left_out_text(job); });
+  if (!failure.empty()) {
+    job.report = "\nThe files that are not in the new Ostrane.dat could not be listed: " + failure;
+  }
+  job.report += equal_names_text(job.archive);
 }
 
 void run(build_job& job) {
@@ -116,15 +139,14 @@ void run(build_job& job) {
   refresh_progress();
   write(job);
   job.is_made = true;
-  job.skipped = skipped_message(job);
+  report_files(job);
 }
 
 // A hint for a typed path that is not the folder of the listed files, or "".
 std::string folder_hint(const build_job& job) {
-  const std::string listed = Form5.File1.Path();
-  const std::string target = files::full_path(job.folder);
-  if (files::lower_case(listed) == files::lower_case(target)) return "";
-  return " The list shows the files of " + listed + ". Double click on the folder to build from.";
+  if (!list_is_of_other_folder(job)) return "";
+  return " The list shows the files of " + Form5.File1.Path() +
+         ". Double click on the folder to build from.";
 }
 
 // An open archive is replaced by the new one, as dat_index and List1 must describe the same file.
@@ -145,18 +167,16 @@ void make_archive() {
   build_job job = {.folder = files::with_separator(Form5.Text1.Text())};
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   refresh_progress();
-  std::string failure = files::failure_of([&] { run(job); });
+  const std::string failure = files::failure_of([&] { run(job); });
   hide_progress("Ostrane.dat tool ");
   if (!job.is_made) {
     forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
     return;
   }
-  // A failure to list the skipped files.
-  if (!failure.empty()) job.skipped = std::move(failure);
   use_new_index(job);
   Form1.Visible = true;
   Form5.Visible = false;
-  if (!job.skipped.empty()) forms_layer::message_box(job.skipped);
+  if (!job.report.empty()) forms_layer::message_box(job.report.substr(1));
   forms_layer::message_box("Your new Ostrane.dat has been created and saved in:" + job.folder +
                            "ostrane.dat");
 }

@@ -7,6 +7,7 @@
 #include "data/archive_writer.h"
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
+#include "files/failure.h"
 #include "files/file_system.h"
 #include "files/system_name.h"
 #include "files/whole_file.h"
@@ -56,13 +57,27 @@ void write(build_job& job) {
   output.close();
 }
 
-int report_skipped_files(const build_job& job) {
-  int status = status_done;
-  std::vector<std::string> names;
-  for (const entry_source& entry : job.archive.entries) names.push_back(entry.shown_name);
-  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, names)) {
+void report_skipped_files(const build_job& job, int& status) {
+  for (const files::unlisted_file& file :
+       files::unlisted_files_in(job.folder, file_paths(job.archive))) {
     if (is_target(job, file.name)) continue;
     print_error(files::to_utf8(file.name), std::string("skipped: ") + file.reason);
+    status = status_differs;
+  }
+}
+
+int report_files(const build_job& job) {
+  int status = status_done;
+  const std::string failure = files::failure_of([&] { report_skipped_files(job, status); });
+  if (!failure.empty()) {
+    print_error("", "The archive was made, but the files that are not in it could not be listed: " +
+                        files::mixed_to_utf8(failure));
+    status = status_differs;
+  }
+  for (const auto& [index, earlier] : equal_names(job.archive.entries)) {
+    print_error(files::to_utf8(job.archive.entries[index].shown_name),
+                "its entry has the same name as that of " +
+                    files::to_utf8(job.archive.entries[earlier].shown_name));
     status = status_differs;
   }
   return status;
@@ -90,7 +105,7 @@ int build(const build_options& options) {
   list_files(job);
   if (options.archive != "-") files::require_replaceable(old);
   write(job);
-  return report_skipped_files(job);
+  return report_files(job);
 }
 
 }  // namespace ostrane::command

@@ -49,7 +49,12 @@ int add(const add_options& options) {
   }
   add_files(archive, files);
   write(archive);
-  return status_done;
+  const auto equal = equal_names(files);
+  for (const auto& [later, earlier] : equal) {
+    print_error(options.files[earlier],
+                "not added: " + options.files[later] + " becomes the same entry");
+  }
+  return equal.empty() ? status_done : status_differs;
 }
 
 int remove(const remove_options& options) {

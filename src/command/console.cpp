@@ -74,7 +74,7 @@ std::string printable(std::string_view text) {
 void print_error(std::string_view file, std::string_view text) {
   hide_progress();
   std::string line = "ostrane-dat: ";
-  if (!file.empty() && !text.starts_with(file)) line.append(file).append(": ");
+  if (!file.empty() && !text.starts_with(std::string(file) + ":")) line.append(file).append(": ");
   line = printable(line.append(text)) + '\n';
   std::fwrite(line.data(), 1, line.size(), stderr);
 }

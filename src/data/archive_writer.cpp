@@ -131,6 +131,12 @@ std::vector<std::pair<std::size_t, std::size_t>> equal_names(
   return equal;
 }
 
+std::vector<std::filesystem::path> file_paths(const new_archive& archive) {
+  std::vector<std::filesystem::path> paths;
+  for (const entry_source& entry : archive.entries) paths.push_back(entry.file.system);
+  return paths;
+}
+
 void make_index(new_archive& archive, const std::function<void(std::size_t)>& on_entry) {
   const std::size_t count = archive.entries.size();
   if (count > max_files) {

@@ -36,6 +36,19 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
   EXPECT_EQ(bytes_of("a.dat"), archive_bytes({{"A.TXT", "a"}}));
 }
 
+TEST_F(commands_posix_test, ReportsWhatIsNoFile) {
+  write_bytes("in/A.TXT", "a");
+  fs::create_directory("in/folder");
+  fs::create_symlink("nothing", "in/link");
+  fs::create_symlink("folder", "in/other");
+  ASSERT_EQ(mkfifo("in/pipe", 0600), 0);
+  const result seen = run("build in");
+  EXPECT_EQ(seen.status, 1);
+  EXPECT_EQ(seen.errors,
+            "ostrane-dat: link: skipped: it is a link that leads nowhere\n"
+            "ostrane-dat: pipe: skipped: it is not a regular file\n");
+}
+
 // The signal is raised first, so each job ends at its first check.
 TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNoFile) {
   write_bytes("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));

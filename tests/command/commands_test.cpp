@@ -110,6 +110,47 @@ TEST_F(commands_test, AddsManyFilesLikeOneAfterTheOther) {
   EXPECT_EQ(bytes_of("all.dat"), bytes_of("each.dat"));
 }
 
+TEST_F(commands_test, ReportsEqualNames) {
+  const std::string error = "ostrane-dat: ";
+  const texts files = {"in/ABCDEFGHI.TXT1", "in/ABCDEFGHI.TXT2", "sub/abcdefghi.txt3"};
+  for (const std::string& name : files) write_bytes(name, name);
+  // The second entry of the archive after the command.
+  const std::tuple<std::string, std::string, std::string> cases[] = {
+      {"build in -o b.dat",
+       error + "ABCDEFGHI.TXT2: its entry has the same name as that of ABCDEFGHI.TXT1\n", files[1]},
+      {"add -q b.dat " + files[0] + " " + files[2],
+       error + files[0] + ": not added: " + files[2] + " becomes the same entry\n", files[2]},
+      {"extract b.dat", error + "ABCDEFGHI.TXT: not extracted: entry 2 was written over it\n",
+       files[2]}};
+  for (const auto& [command_line, printed, second] : cases) {
+    const result seen = run(command_line);
+    EXPECT_EQ(seen.status, 1) << command_line;
+    EXPECT_EQ(seen.errors, printed);
+    EXPECT_EQ(bytes_of("b.dat"),
+              archive_bytes({{"ABCDEFGHI.TXT", files[0]}, {"ABCDEFGHI.TXT", second}}));
+  }
+  EXPECT_EQ(bytes_of("ABCDEFGHI.TXT"), files[2]);
+}
+
+// The new archive is in place if the last listing of the folder fails.
+TEST_F(commands_test, ReportsThatSkippedFilesCannotBeListed) {
+  write_bytes("in/A.TXT", entries[0].bytes);
+  int last_list = INT32_MAX;
+  for (const bool fails : {false, true}) {
+    const failing_calls watched(last_list, {.reason = EIO});
+    const result seen = run("build in");
+    EXPECT_EQ(seen.status, fails ? 1 : 0);
+    EXPECT_TRUE(seen.errors.starts_with(
+        fails ? "ostrane-dat: The archive was made, but the files that are not in it could not be "
+                "listed: in: cannot be read: "
+              : ""));
+    EXPECT_EQ(bytes_of("in/OSTRANE.DAT"), archive_bytes({entries[0]}));
+    const auto last = std::find(watched.calls.rbegin(), watched.calls.rend(), "list");
+    last_list = static_cast<int>(watched.calls.rend() - last) - 1;
+    fs::remove("in/OSTRANE.DAT");
+  }
+}
+
 TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
   for (const char* call : {"read_some", "flush_to_disk"}) {
     write_bytes("a.dat", archive_bytes(entries));
