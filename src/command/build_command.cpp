@@ -48,7 +48,9 @@ void write(build_job& job) {
   const std::size_t count = job.archive.entries.size();
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
   if (job.options.archive != "-") {
+    const bool is_linked = has_other_names(files::existing_spelling(job.target.system));
     replace_archive(job.target, job.archive, shown_progress(count));
+    if (is_linked) note_other_names(job.target);
     return;
   }
   files::binary_file output;

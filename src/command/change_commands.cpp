@@ -16,7 +16,9 @@ namespace {
 
 void write(new_archive& archive) {
   make_index(archive, [&](std::size_t index) { show_progress(index, archive.entries.size(), ""); });
+  const bool is_linked = has_other_names(archive.old->path.system);
   replace_archive(archive.old->path, archive, shown_progress(archive.entries.size()));
+  if (is_linked) note_other_names(archive.old->path);
 }
 
 entry_source source_of(const std::string& argument, const files::file_path& archive) {

@@ -30,6 +30,16 @@ files::file_path named_link_target(const std::string& argument) {
   return path;
 }
 
+bool has_other_names(const fs::path& file) {
+  std::error_code failed;
+  const bool is_file = fs::is_regular_file(fs::symlink_status(file, failed));
+  return is_file && fs::hard_link_count(file, failed) > 1 && !failed;
+}
+
+void note_other_names(const files::file_path& archive) {
+  print_note("", archive.shown + " its other names (hard links) keep the old archive");
+}
+
 files::file_path file_in(const std::string& folder, const std::string& name,
                          files::case_insensitive_lookup& names) {
   const fs::path path = names.find(path_of_argument(folder), name);

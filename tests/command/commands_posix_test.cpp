@@ -49,6 +49,23 @@ TEST_F(commands_posix_test, ReportsWhatIsNoFile) {
             "ostrane-dat: pipe: skipped: it is not a regular file\n");
 }
 
+TEST_F(commands_posix_test, NotesThatOtherNamesKeepTheOldArchive) {
+  write_bytes("in/A.TXT", "a");
+  write_bytes("in/B.TXT", "b");
+  EXPECT_EQ(run("build in -o a.dat").errors, "");
+  for (const char* job : {"remove a.dat B.TXT", "add a.dat in/B.TXT", "build in -o a.dat"}) {
+    const std::string old = bytes_of("a.dat");
+    fs::remove("other");
+    fs::create_hard_link("a.dat", "other");
+    const result seen = run(job);
+    EXPECT_EQ(seen.status, 0) << job;
+    EXPECT_EQ(seen.errors,
+              "ostrane-dat: a.dat: its other names (hard links) keep the old archive\n");
+    EXPECT_EQ(bytes_of("other"), old);
+    EXPECT_EQ(fs::hard_link_count("a.dat"), 1U);
+  }
+}
+
 // The signal is raised first, so each job ends at its first check.
 TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNoFile) {
   write_bytes("a.dat", archive_bytes({{"A.TXT", std::string(9000, 'a')}}));
