@@ -90,7 +90,7 @@ std::string replace_entry_file(extraction& job, const std::string& name, std::in
   files::file_calls::info_at(path.system, old);
   const files::file_identity identity = job.file.info().stamp.identity;
   to.keep();
-  if (old.stamp.identity != identity) report_overwritten(job, old.stamp.identity);
+  report_overwritten(job, old.stamp.identity);
   remember_written(job, identity);
   job.on_created(name);
   return "";

@@ -29,6 +29,10 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
   EXPECT_EQ(run("build in -o out/b.dat").status, 0);
   EXPECT_EQ(bytes_of("out/B.DAT"), "other");
   EXPECT_EQ(files_at("out").size(), 5U);
+  fs::rename("out/b.dat", "out/OSTRANE.DAT");
+  write_bytes("out/ostrane.dat", "other");
+  EXPECT_EQ(run("remove out/OSTRANE.DAT A.TXT").status, 0);
+  EXPECT_EQ(bytes_of("out/ostrane.dat"), "other");
   write_bytes("a.dat", archive_bytes({{"A.TXT", "a"}}));
   write_bytes("l.txt", "A.TXT\n\n");
   fs::create_symlink("A.dat", "link");
@@ -74,8 +78,8 @@ TEST_F(commands_posix_test, ASignalEndsAJobAndLeavesNoFile) {
   run_in_process([&] {
     command::catch_signals();
     std::raise(SIGTERM);
-    for (const char* job : {"add a.dat b.txt", "extract a.dat", "extract a.dat * -d out",
-                            "list a.dat", "remove a.dat A.TXT"}) {
+    for (const char* job : {"add a.dat nul", "build . -o c.dat", "extract a.dat",
+                            "extract a.dat * -d out", "list a.dat", "remove a.dat A.TXT"}) {
       const failing_calls watched;
       EXPECT_THROW(command::run_command(arguments_of(job)), command::interruption) << job;
       EXPECT_EQ(files_at("."), before) << job;
