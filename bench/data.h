@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "data/archive_bytes.h"
+#include "archive_bytes.h"
 #include "data/picture.h"
 #include "write_file.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "data/archive_bytes.h"
+#include "archive_bytes.h"
 #include "data/archive_format.h"
 #include "data/icon_packer.h"
 #include "files/little_endian.h"

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "data/archive_bytes.h"
+#include "archive_bytes.h"
 
 namespace ostrane::samples {
 

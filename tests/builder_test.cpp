@@ -52,8 +52,8 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
       {nothing, append_to_b, "C:\\work\\b.txt has changed its size during the copy."},
       {enlarge_b, nothing,
-       "C:\\work\\b.txt would make the archive larger than 2 GB, which is the most that it can "
-       "be."},
+       "C:\\work\\b.txt does not fit: the archive would be larger than 2 GB, which is the most "
+       "that it can be."},
       {type_no_drive, nothing, "Q:\\ cannot be found: there is no such drive."},
       {make_lock_folder, nothing, "C:\\work\\.OSTRANE.DAT.lock cannot be opened: it is a folder."},
   };
@@ -86,11 +86,35 @@ TEST_F(builder_test, FindsTheListedFilesInATypedFolderInAnyCase) {
   restart_with({{"a.txt", "listed"}, {"b.txt", "listed"}});
   write("C:\\typed\\A.TXT", "typed a");
   write("C:\\typed\\b.txt", "typed b");
+  write("C:\\typed\\c.txt", "typed c");
   open_build_dialog();
   user::type(Form5.Text1, "C:\\typed");
   user::click(Form5.Command1);
   EXPECT_EQ(read("C:\\typed\\OSTRANE.DAT"),
             archive_bytes({{"A.TXT", "typed a"}, {"B.TXT", "typed b"}}));
+  EXPECT_EQ(new_messages(),
+            (texts{"These files are not in the new Ostrane.dat:\n>c.txt<: the list is "
+                   "that of another folder",
+                   success + "C:\\typed\\ostrane.dat"}));
+}
+
+// The new archive is in place if the last listing of the folder fails.
+TEST_F(builder_test, ReportsThatSkippedFilesCannotBeListed) {
+  int last_list = INT32_MAX;
+  for (const bool fails : {false, true}) {
+    restart_with({{"A.TXT", "a"}});
+    open_build_dialog();
+    const failing_calls watched(last_list, {.reason = EIO});
+    user::click(Form5.Command1);
+    const auto last = std::find(watched.calls.rbegin(), watched.calls.rend(), "list");
+    last_list = static_cast<int>(watched.calls.rend() - last) - 1;
+    const texts messages = new_messages();
+    EXPECT_EQ(messages.back(), success + "C:\\work\\ostrane.dat");
+    EXPECT_EQ(
+        messages.front().starts_with("The files that are not in the new Ostrane.dat could not "
+                                     "be listed: C:\\work\\ cannot be read: "),
+        fails);
+  }
 }
 
 // The list, the views and extraction must not mix the previous archive with the new one.

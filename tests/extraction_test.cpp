@@ -42,6 +42,8 @@ TEST_F(extraction_test, OverwritesFilesWithoutTruncatingThem) {
   extract_into("D:\\");
   EXPECT_EQ(files_in("D:\\"),
             (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"Twice", "2ndst"}}));
+  EXPECT_EQ(new_messages(), texts{"3 of 4" + extracted + "D:\\" + skipped +
+                                  "\n>Twice<: entry 4 was written over it"});
 }
 
 // Only the first offset is a seek; a negative size skips the entry.

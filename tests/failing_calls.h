@@ -12,12 +12,12 @@ namespace ostrane {
 
 struct call_fault {
   enum fault_kind {
-    fails,           // returns -`reason` without the call; a write writes half first
-    lies,            // returns -`reason` after the call
-    interrupted,     // returns -EINTR once
-    does_nothing,    // a write returns 0, a rename reports success
-    kills,           // kills the process
-    stops,           // stops the process until SIGCONT
+    fails,         // returns -`reason` without the call; a write writes half first
+    lies,          // returns -`reason` after the call
+    interrupted,   // returns -EINTR once
+    does_nothing,  // a write returns 0, a rename reports success
+    kills,         // kills the process
+    stops,         // stops the process until SIGCONT
   } kind = fails;
   int reason = 0;        // an errno
   bool lasting = false;  // all later calls fail too

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/archive_bytes.h"
+#include "archive_bytes.h"
 #include "disk.h"
 #include "files/drives.h"
 #include "forms/forms.h"

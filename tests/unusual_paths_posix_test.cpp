@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstring>
@@ -33,6 +34,10 @@ TEST_F(unusual_paths_test, AcceptsTheLongestNamesAndNamesThatDifferInCase) {
   build_in(folder);
   EXPECT_EQ(read(folder + "\\OSTRANE.DAT"),
             archive_bytes({{"A.TXT", "2"}, {"A.TXT", "1"}, {"NNNNNNNNNNNNN", "3"}}));
+  EXPECT_EQ(
+      new_messages().front(),
+      "These entries of the new Ostrane.dat have the name of another:\n>a.txt<: its entry has "
+      "the same name as that of A.TXT");
 }
 
 // Hidden files of a list that another copy is writing are not reported.
@@ -41,16 +46,22 @@ TEST_F(unusual_paths_test, ReportsSkippedFiles) {
     write_bytes(disk_path("C:\\work") / name, "");
   }
   write("C:\\work\\.SHPLIST.TXT.000000000000001f.new", "A");
+  write("C:\\work\\renamed", "r");
+  fs::create_symlink("nothing", disk_path("C:\\work\\link"));
+  ASSERT_EQ(mkfifo(disk_path("C:\\work\\pipe").c_str(), 0600), 0);
   open_build_dialog();
-  write("C:\\work\\late", "");
+  write("C:\\work\\OK", "late");
+  fs::rename(disk_path("C:\\work\\renamed"), disk_path("C:\\work\\Renamed"));
   user::click(Form5.Command1);
   EXPECT_EQ(new_messages(),
             (texts{"These files are not in the new Ostrane.dat:\n>.HID.TXT<: it is hidden"
                    "\n>?.TXT<: its name has characters that the code page lacks"
+                   "\n>OK<: it came after the files were listed"
                    "\n>a\\b<: its name contains a path separator"
-                   "\n>late<: it came after the files were listed",
+                   "\n>link<: it is a link that leads nowhere"
+                   "\n>pipe<: it is not a regular file",
                    "Your new Ostrane.dat has been created and saved in:C:\\work\\ostrane.dat"}));
-  EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}}));
+  EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"OK", ""}, {"RENAMED", "r"}}));
 }
 
 TEST_F(unusual_paths_test, RefusesTooManyFiles) {
@@ -61,8 +72,8 @@ TEST_F(unusual_paths_test, RefusesTooManyFiles) {
     while (count > left) fs::remove(name(--count));
     restart();
     build_in();
-    const std::string refusal = "C:\\work\\ has " + std::to_string(left) +
-                                " files. An archive holds at most 32766. No new archive was made.";
+    const std::string refusal = "The archive would have " + std::to_string(left) +
+                                " entries. It can have at most 32766. No new archive was made.";
     EXPECT_EQ(new_messages().front() == refusal, left > max_files) << left;
   }
 }

@@ -4,9 +4,10 @@
 #include "command/console.h"
 #include "command/named_files.h"
 #include "command/program.h"
-#include "data/archive_builder.h"
+#include "data/archive_writer.h"
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
+#include "files/failure.h"
 #include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/system_name.h"
@@ -21,11 +22,10 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
+  files::file_path replaced;  // the target, or the same name in another case
   fs::path old = {};          // the file to replace; "" if it is not in the folder
   std::string old_name = {};  // in upper case
-  build_list list = {};
-  std::vector<make_record> files = {};
-  std::vector<dat_record> records = {};
+  new_archive archive = {};
 };
 
 // An archive does not contain itself.
@@ -38,43 +38,50 @@ bool is_target(const build_job& job, const std::string& name) {
 }
 
 void list_files(build_job& job) {
-  job.list.folder = (job.folder.system / "").u8string();
   for (const std::string& name : files::files_in(job.folder)) {
     if (is_target(job, name)) continue;
     const fs::path path = job.folder.system / files::system_name(name);
-    job.list.names.push_back(name);
-    job.list.paths.push_back(shown_as_named(path));
+    job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
   }
-  job.files.resize(job.list.names.size());
 }
 
 void write(build_job& job) {
-  std::size_t current = 0;
-  const auto show = [&](const std::string& name) {
-    show_progress(current, job.files.size(), name);
-  };
-  const job_progress progress = {
-      .on_file =
-          [&](std::size_t number, const std::string& name, std::int32_t) {
-            current = number;
-            show(name);
-          },
-      .on_bytes = [&](std::int32_t) { show(""); }};
+  const std::size_t count = job.archive.entries.size();
+  make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
   if (job.options.archive != "-") {
-    write_archive(job.list, job.files, job.records, job.target, progress);
+    const bool is_linked = has_other_names(job.replaced.system);
+    replace_archive(job.target, job.archive, shown_progress(count));
+    if (is_linked) note_other_names(job.target);
     return;
   }
   files::binary_file output;
   open_output(output);
-  write_archive_to(output, job.list, job.files, job.records, progress);
+  write_archive_to(output, job.archive, shown_progress(count));
   output.close();
 }
 
-int report_skipped_files(const build_job& job) {
-  int status = status_done;
-  for (const files::unlisted_file& file : files::unlisted_files_in(job.folder, job.list.names)) {
+void report_skipped_files(const build_job& job, int& status) {
+  for (const files::unlisted_file& file :
+       files::unlisted_files_in(job.folder, file_paths(job.archive))) {
     if (is_target(job, file.name)) continue;
     print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
+    status = status_differs;
+  }
+}
+
+int report_files(const build_job& job) {
+  int status = status_done;
+  const files::failure failed = files::failure_in([&] { report_skipped_files(job, status); });
+  if (failed) {
+    print_error({failed.subject, failed.reason +
+                                     " The archive was made, but the files that are not "
+                                     "in it could not be listed."});
+    status = status_differs;
+  }
+  for (const auto& [index, earlier] : equal_names(job.archive.entries)) {
+    print_error(
+        {files::to_utf8(job.archive.entries[index].shown_name),
+         "its entry has the same name as that of " + job.archive.entries[earlier].shown_name});
     status = status_differs;
   }
   return status;
@@ -84,28 +91,26 @@ int report_skipped_files(const build_job& job) {
 
 int build(const build_options& options) {
   require_folder(options.folder);
-  build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
+  build_job job = {
+      .options = options, .folder = named_file(options.folder), .target = {}, .replaced = {}};
   if (options.archive.empty()) {
     job.target = shown_as_named(job.folder.system / archive_name);
   } else {
     job.target = named_link_target(options.archive);
   }
-  // The game finds its archive under each spelling; another name means itself only.
-  const files::file_path old = {
-      options.archive.empty() ? files::existing_spelling(job.target.system) : job.target.system,
-      job.target.shown};
+  job.replaced = job.target;
+  // The game finds its archive under each spelling. Another name means itself only.
+  if (options.archive.empty()) job.replaced.system = files::existing_spelling(job.target.system);
   std::error_code failed;
-  const fs::path parent = fs::absolute(old.system, failed).parent_path();
+  const fs::path parent = fs::absolute(job.replaced.system, failed).parent_path();
   if (fs::equivalent(parent, job.folder.system, failed)) {
-    job.old = old.system;
-    job.old_name =
-        files::upper_case(files::name_as_text(old.system.filename().native()).value_or(""));
+    job.old = job.replaced.system;
+    job.old_name = files::upper_case(files::name_as_text(job.old.filename().native()).value_or(""));
   }
   list_files(job);
-  if (options.archive != "-") files::require_writable(old);
-  job.records = measure_files(job.list, job.files);
+  if (options.archive != "-") files::require_writable(job.replaced);
   write(job);
-  return report_skipped_files(job);
+  return report_files(job);
 }
 
 }  // namespace ostrane::command

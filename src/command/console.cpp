@@ -25,6 +25,7 @@ struct console_state {
   bool is_quiet = false;
   std::string pending;
   bool bar_is_shown = false;
+  std::size_t bar_index = 0;
   std::u8string bar_name;
   clock::time_point next_bar = clock::now() + first_bar_delay;
 };
@@ -74,6 +75,7 @@ void print_note(const files::failure& failed) {
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
   check_interruption();
+  console.bar_index = index;
   if (!name.empty()) console.bar_name = files::printable(files::to_utf8(name));
   static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
@@ -91,6 +93,12 @@ void hide_progress() {
   if (!console.bar_is_shown) return;
   console.bar_is_shown = false;
   std::fputs("\r\x1B[K", stderr);
+}
+
+job_progress shown_progress(std::size_t count) {
+  return {.on_file = [count](std::size_t index, const std::string& name,
+                             std::int32_t) { show_progress(index, count, name); },
+          .on_bytes = [count](std::int32_t) { show_progress(console.bar_index, count, ""); }};
 }
 
 }  // namespace ostrane::command

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "data/job_progress.h"
 #include "files/failure.h"
 
 // Output of the program: results go to standard output, everything else to standard error.
@@ -31,5 +32,7 @@ void print_note(const files::failure& failed);
 // the code page; an empty one keeps the latest. Throws interruption after a signal to terminate.
 void show_progress(std::size_t index, std::size_t count, std::string_view name);
 void hide_progress();
+// The progress of a job on `count` files, for show_progress.
+job_progress shown_progress(std::size_t count);
 
 }  // namespace ostrane::command

@@ -8,6 +8,7 @@
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_kind.h"
+#include "data/icon_file.h"
 #include "data/palette.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
@@ -22,6 +23,7 @@ namespace ostrane::command {
 namespace {
 
 constexpr int palette_side = 16;
+constexpr std::int64_t max_exported_cells = std::int64_t{1} << 30U;
 
 struct entries_export {
   const export_options& options;
@@ -54,6 +56,7 @@ void write_export(entries_export& job, const std::u8string& name, std::string_vi
 }
 
 void export_icons(entries_export& job, const exported_entry& entry) {
+  require_unchanged(job.archive, job.stamp, "export");  // the exporter checks only from now on
   const export_options& options = job.options;
   const bool is_sheet = options.form == picture_form::sheet;
   make_icon_exporter()(
@@ -143,15 +146,33 @@ void export_entry(entries_export& job, const archive_index& index, std::size_t i
   }
 }
 
+// An icon of a few bytes can have a picture of many megabytes.
+void require_reasonable_size(entries_export& job, const archive_index& index,
+                             const std::vector<bool>& chosen) {
+  std::int64_t cells = 0;
+  for (std::size_t i = 0; i < chosen.size(); ++i) {
+    const std::string name = name_without_nuls(index.records[i].name);
+    if (!chosen[i] || kind_of_entry(name) != entry_kind::icons) continue;
+    show_progress(i, chosen.size(), name);
+    cells += count_picture_cells(job.archive, read_icon_file(job.archive, index.records[i].offset,
+                                                             index.records[i + 1].offset));
+    if (cells <= max_exported_cells) continue;
+    throw data_error("The pictures of these entries have more than " +
+                     std::to_string(max_exported_cells) +
+                     " cells together, which is the most for one export.");
+  }
+}
+
 }  // namespace
 
 int export_entries(const export_options& options) {
   const files::file_path archive = named_file(options.archive);
   const archive_index index = read_archive_index(archive);
   const std::vector<bool> chosen = chosen_entries(index.records, options.names);
-  make_folder(options.folder);
   entries_export job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
+  require_reasonable_size(job, index, chosen);
+  make_folder(options.folder);
   job.stamp = index.stamp;
   job.palette = read_game_colours(job.archive, index.records);
   for (std::size_t i = 0; i < chosen.size(); ++i) {

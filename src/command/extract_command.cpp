@@ -30,20 +30,11 @@ int extract(const extract_options& options) {
   files::binary_file file;
   open_unchanged(file, archive, index.stamp);
   files::case_insensitive_lookup names;
-  std::size_t current = 0;
-  const auto show = [&](const std::string& name) {
-    show_progress(current, index.records.size(), name);
-  };
   const extraction_result result = extract_entries(
       file, index.records,
       [&](const std::string& name) { return file_in(options.folder, name, names); },
       [&](const std::string& name) { names.add(path_of_argument(options.folder), name); },
-      {.on_file =
-           [&](std::size_t number, const std::string& name, std::int32_t) {
-             current = number;
-             show(name);
-           },
-       .on_bytes = [&](std::int32_t) { show(""); }},
+      shown_progress(index.records.size()),
       {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
        .entries_are_adjacent = false,
        .replaces_atomically = true});

@@ -1,8 +1,10 @@
 #include "command/named_files.h"
 
 #include <cerrno>
+#include <unordered_map>
 
 #include "command/console.h"
+#include "command/interruption.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "files/code_page.h"
@@ -28,6 +30,16 @@ files::file_path named_link_target(const std::string& argument) {
   const fs::path target = fs::canonical(path.system, failed);
   if (!failed) path.system = target;
   return path;
+}
+
+bool has_other_names(const fs::path& file) {
+  std::error_code failed;
+  const bool is_file = fs::is_regular_file(fs::symlink_status(file, failed));
+  return is_file && fs::hard_link_count(file, failed) > 1 && !failed;
+}
+
+void note_other_names(const files::file_path& archive) {
+  print_note({archive.shown, "its other names (hard links) keep the old archive"});
 }
 
 files::file_path file_in(const std::string& folder, const std::string& name,
@@ -59,14 +71,25 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments) {
   const std::size_t count = records.empty() ? 0 : records.size() - 1;
   std::vector<bool> chosen(count, arguments.empty());
+  const std::string no_name(name_size + 1, '/');  // is longer than that of any entry
+  std::unordered_multimap<std::string, std::size_t> by_name;
+  for (std::size_t i = 0; i < count && !arguments.empty(); ++i) {
+    by_name.emplace(files::upper_case(name_with_blanks(records[i].name)), i);
+  }
   for (const std::string& argument : arguments) {
+    show_progress(static_cast<std::size_t>(&argument - arguments.data()), arguments.size(), "");
+    const std::u8string subject = files::as_utf8(argument);
+    const std::string pattern = files::from_utf8(subject).value_or(no_name);
+    const bool is_name = pattern.find_first_of("*?") == std::string::npos;
+    auto [at, end] = is_name ? by_name.equal_range(files::upper_case(pattern))
+                             : std::pair(by_name.begin(), by_name.end());
     bool matches_any = false;
-    const std::optional<std::string> pattern = files::from_utf8(files::as_utf8(argument));
-    for (std::size_t i = 0; pattern && i < count; ++i) {
-      if (!files::matches_pattern(name_with_blanks(records[i].name), *pattern)) continue;
-      chosen[i] = matches_any = true;
+    for (; at != end; ++at) {
+      check_interruption();
+      if (!is_name && !files::matches_pattern(at->first, pattern)) continue;
+      chosen[at->second] = matches_any = true;
     }
-    if (!matches_any) throw data_error(files::as_utf8(argument), "no entry has this name.");
+    if (!matches_any) throw data_error(subject, "no entry has this name.");
   }
   return chosen;
 }

@@ -20,6 +20,10 @@ files::file_path shown_as_named(const std::filesystem::path& path);
 // replaced.
 files::file_path named_link_target(const std::string& argument);
 
+// True if a file that is about to be replaced has other names (hard links), which keep its content.
+bool has_other_names(const std::filesystem::path& file);
+void note_other_names(const files::file_path& archive);
+
 // Returns the path of a file in a folder; the name is in the code page. Prefers an existing file
 // whose name differs in case only.
 files::file_path file_in(const std::string& folder, const std::string& name,

@@ -17,7 +17,8 @@ constexpr std::array<rung, 4> rungs = {
     {{largest_block, true}, {1024, true}, {128, false}, {8, false}}};
 
 struct running_copy {
-  const copy_step& copy;
+  files::binary_file& from;
+  files::binary_file& to;
   std::int32_t amount;
   std::int16_t& small_block_bytes;
   const job_progress& progress;
@@ -29,7 +30,8 @@ struct running_copy {
 void copy_block(running_copy& job, std::int32_t size) {
   job.wanted += size;
   while (job.copied < job.wanted && !job.source_ended) {
-    const std::size_t count = job.copy(static_cast<std::size_t>(job.amount - job.copied));
+    const std::size_t count =
+        job.to.write_from(job.from, static_cast<std::size_t>(job.amount - job.copied));
     job.copied += static_cast<std::int32_t>(count);
     job.source_ended = count == 0;
   }
@@ -55,9 +57,9 @@ void copy_blocks(running_copy& job, const rung& step, std::int32_t blocks) {
 
 }  // namespace
 
-std::int32_t chunk_ladder(const copy_step& copy, std::int32_t amount,
+std::int32_t chunk_ladder(files::binary_file& from, files::binary_file& to, std::int32_t amount,
                           std::int16_t& small_block_bytes, const job_progress& progress) {
-  running_copy job{copy, amount, small_block_bytes, progress};
+  running_copy job{from, to, amount, small_block_bytes, progress};
   std::int32_t remaining = amount;
   for (const rung& step : rungs) {
     if (remaining <= step.block) continue;

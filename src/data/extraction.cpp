@@ -1,6 +1,7 @@
 #include "data/extraction.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "data/archive_index.h"
@@ -26,16 +27,32 @@ struct extraction {
   const extraction_choice& choice;
   files::binary_file file = {};
   files::file_stamp stamp = {};
+  std::size_t index = 0;      // of the current entry
   std::int64_t position = 0;  // of the current entry in the archive
   std::int16_t small_block_bytes = 0;
+  std::map<std::pair<std::uint64_t, std::uint64_t>, std::size_t> written = {};  // entry by identity
   extraction_result result = {};
 };
+
+// Call when the current entry replaces the content of a file. If that is an entry of this job, it
+// is reported.
+void report_overwritten(extraction& job, const files::file_identity& old) {
+  const auto found = job.written.find({old.device, old.number});
+  if (found == job.written.end()) return;
+  job.result.skipped.push_back({name_with_blanks(job.records[found->second].name),
+                                "entry " + std::to_string(job.index + 1) + " was written over it"});
+  --job.result.written;
+  job.written.erase(found);
+}
+
+void remember_written(extraction& job, const files::file_identity& file) {
+  if (file != files::file_identity{}) job.written[{file.device, file.number}] = job.index;
+}
 
 // Copies the current entry to an open file. Returns false if the archive ends before it does.
 bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
   job.archive.seek(job.position);
-  const auto copy = [&](std::size_t max) { return to.write_from(job.archive, max); };
-  return chunk_ladder(copy, size, job.small_block_bytes, job.progress) == size;
+  return chunk_ladder(job.archive, to, size, job.small_block_bytes, job.progress) == size;
 }
 
 // Returns why the entry was not written, or "". Throws file_error.
@@ -43,9 +60,15 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   const auto mode =
       job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
   files::file_writer to(job.file, job.target(name), {.mode = mode, .source = job.stamp.identity});
-  if (to.is_new()) job.on_created(name);
+  if (to.is_new()) {
+    job.on_created(name);
+  } else {
+    report_overwritten(job, to.old_file());
+  }
   if (!copy_entry(job, job.file, size)) return archive_too_short;
-  to.keep([&] { require_unchanged(job.archive, job.stamp, "extraction"); });
+  to.keep([&job] { require_unchanged(job.archive, job.stamp, "extraction"); });
+  if (to.is_new()) report_overwritten(job, to.old_file());
+  remember_written(job, to.written_file());
   return "";
 }
 
@@ -78,6 +101,7 @@ void extract_entry(extraction& job, std::size_t index) {
   const std::int32_t size =
       clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
   const std::string name = name_with_blanks(job.records[index].name);
+  job.index = index;
   job.progress.on_file(index, name, size);
   const std::string reason = try_to_write_entry(job, name, size);
   job.position += std::max(size, 0);

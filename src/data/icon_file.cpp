@@ -61,6 +61,17 @@ bool has_picture(const icon_head& head) {
          columns_of(head) * rows_of(head) <= max_picture_cells;
 }
 
+std::int64_t count_picture_cells(files::binary_file& file, const icon_file& from) {
+  std::int64_t cells = 0;
+  for (const std::int32_t position : from.positions) {
+    icon_head head;
+    const bool is_read = position <= from.end && read_icon_head(file, position, head);
+    if (!is_read || classify_icon(head) != icon_kind::drawable || !has_picture(head)) continue;
+    cells += columns_of(head) * rows_of(head);
+  }
+  return cells;
+}
+
 picture read_icon_picture(icon_stream& stream, files::binary_file& file, const icon_file& from,
                           const icon_head& head, std::int32_t position) {
   picture drawn(static_cast<int>(columns_of(head)), static_cast<int>(rows_of(head)));

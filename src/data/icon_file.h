@@ -28,6 +28,9 @@ constexpr std::int64_t max_picture_cells = std::int64_t{1} << 26U;
 // False if that size is not positive or above max_picture_cells.
 bool has_picture(const icon_head& head);
 
+// Returns the cells that all pictures of drawable icons have together. Throws file_error.
+std::int64_t count_picture_cells(files::binary_file& file, const icon_file& from);
+
 // Draws a drawable icon with a picture. `position` is that of its head; the file's current position
 // must be after the head. Throws file_error.
 picture read_icon_picture(icon_stream& stream, files::binary_file& file, const icon_file& from,

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
-#include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "files/code_page.h"
 #include "files/file_error.h"
@@ -48,6 +47,24 @@ const char* unlisted_reason(const listed_entry& entry, const std::optional<std::
   if (!name) return "its name has characters that the code page lacks";
   if (name->find('\\') != name->npos) return "its name contains a path separator";
   return entry.is_hidden ? "it is hidden" : "";
+}
+
+const char* irregular_reason(const fs::path& path) {
+  std::error_code failed;
+  const bool is_link = fs::is_symlink(fs::symlink_status(path, failed));
+  return is_link && !fs::exists(fs::status(path, failed)) ? "it is a link that leads nowhere"
+                                                          : "it is not a regular file";
+}
+
+using paths_by_name = std::unordered_multimap<std::string, fs::path>;  // in upper case
+
+// A file system can find a file under another case than the listed one.
+bool is_listed(const paths_by_name& listed, const std::string& name, const fs::path& path) {
+  const auto [first, last] = listed.equal_range(upper_case(name));
+  return std::any_of(first, last, [&path](const auto& other) {
+    std::error_code failed;
+    return other.second.filename() == path.filename() || fs::equivalent(other.second, path, failed);
+  });
 }
 
 std::vector<std::string> sorted_names(const file_path& folder, bool listed_entry::*is_wanted) {
@@ -95,20 +112,21 @@ std::vector<std::string> files_in(const file_path& folder) {
   return sorted_names(folder, &listed_entry::is_file);
 }
 
-std::vector<unlisted_file> unlisted_files_in(const std::string& path,
-                                             const std::vector<std::string>& listed) {
-  return unlisted_files_in(to_file_path(path), listed);
-}
-
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
-                                             const std::vector<std::string>& listed) {
-  const std::unordered_set<std::string_view> known(listed.begin(), listed.end());
+                                             const std::vector<fs::path>& listed,
+                                             const char* unknown) {
+  paths_by_name known;
+  for (const fs::path& path : listed) {
+    known.emplace(upper_case(name_as_text_lossy(path.filename().native())), path);
+  }
   std::vector<unlisted_file> unlisted;
   for (const listed_entry& entry : listed_in(folder)) {
-    if (!entry.is_file || is_work_file(entry.name)) continue;
+    if (entry.is_folder || is_work_file(entry.name)) continue;
+    const fs::path path = folder.system / entry.name;
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
-    if (*reason == '\0' && !known.contains(*name)) reason = "it came after the files were listed";
+    if (*reason == '\0' && !entry.is_file) reason = irregular_reason(path);
+    if (*reason == '\0' && !is_listed(known, *name, path)) reason = unknown;
     if (*reason == '\0') continue;
     unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
   }

@@ -29,11 +29,11 @@ struct unlisted_file {
   const char* reason;  // a sentence fragment
 };
 
-// The regular files in a folder that `listed` does not contain, sorted by name, without the hidden
-// files of copies of the tool that write there. Throws file_error.
-std::vector<unlisted_file> unlisted_files_in(const std::string& path,
-                                             const std::vector<std::string>& listed);
-std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
-                                             const std::vector<std::string>& listed);
+// What a folder contains besides folders and the files `listed` in it, sorted by name, without the
+// hidden files of copies of the tool that write there. `unknown` is the reason for a file that
+// could be listed. Throws file_error.
+std::vector<unlisted_file> unlisted_files_in(
+    const file_path& folder, const std::vector<std::filesystem::path>& listed,
+    const char* unknown = "it came after the files were listed");
 
 }  // namespace files

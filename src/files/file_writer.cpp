@@ -110,7 +110,9 @@ void file_writer::own(int created) {
 // The lock keeps other copies of the tool from removing the file as a leftover. One that has just
 // begun to do so has locked or removed it.
 void file_writer::create_beside() {
-  const bool replaces = require_writable(target_, rules_).is_file;
+  const file_info old = require_writable(target_, rules_);
+  const bool replaces = old.is_file;
+  old_file_ = old.stamp.identity;
   for (int tries = 1;; ++tries) {
     const int created = create(temporary_beside(target_.system), replaces);
     if (created == -EEXIST && tries < max_tries) continue;
@@ -126,7 +128,10 @@ void file_writer::overwrite() {
   const int opened = system_calls.open_to_write(target_.system);
   if (opened < 0) fail(target_.shown, file_action::open, opened);
   file_.adopt(opened);
-  require_other(target_, file_.info().stamp.identity, rules_);
+  is_new_ = false;
+  old_file_ = file_.info().stamp.identity;
+  new_file_.identity = old_file_;
+  require_other(target_, old_file_, rules_);
 }
 
 void file_writer::keep(const std::function<void()>& before_rename) {

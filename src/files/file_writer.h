@@ -41,7 +41,10 @@ class file_writer {
   ~file_writer();
 
   // False if an existing file is overwritten in place.
-  bool is_new() const { return new_file_.is_owned; }
+  bool is_new() const { return is_new_; }
+  // The file at the target before, zero if there was none, and the one that is written.
+  const file_identity& old_file() const { return old_file_; }
+  const file_identity& written_file() const { return new_file_.identity; }
 
   // Closes the file and gives it the name of the target. `before_rename` is called when only the
   // rename is missing. If it throws, the old file stays.
@@ -69,6 +72,8 @@ class file_writer {
   write_rules rules_;
   std::optional<writing_lock> lock_;
   owned_file new_file_;
+  file_identity old_file_;
+  bool is_new_ = true;
 };
 
 // Throws file_error if the file at `target` exists and must not be written: if it is neither a

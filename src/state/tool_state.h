@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "data/archive_builder.h"
 #include "data/archive_format.h"
 #include "data/icon_export.h"
 #include "data/icon_names.h"
@@ -24,6 +23,13 @@ constexpr flag flag_true = -1;
 constexpr flag flag_false = 0;
 
 constexpr std::int32_t max_slots = 9999;
+
+// A file of the archive built last.
+struct make_record {
+  std::int32_t size;    // bytes
+  record_name name;     // as padded_name returns it
+  std::int32_t offset;  // of the entry in the archive
+};
 
 // The numbers of the icon on a slot, for its report.
 struct icon_data_record {

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
+#include "archive_bytes.h"
 #include "command/run_command.h"
-#include "data/archive_bytes.h"
 #include "disk.h"
 #include "failing_calls.h"
 
@@ -36,12 +36,13 @@ struct command_test : testing::Test {
     std::string output = testing::internal::GetCapturedStdout();
     return {status, std::move(output), testing::internal::GetCapturedStderr()};
   }
-  // Another program writes to a.dat after its index is read.
-  static result run_beside_a_writer(const std::string& command_line) {
+  // Another program writes to a.dat after its index is read, before each of these calls.
+  static result run_beside_a_writer(const std::string& command_line,
+                                    const std::string& writes_before = "read_some") {
     failing_calls watched;
-    watched.before_call = [&opened = watched.calls](const std::string& call) {
-      const auto count = std::count(opened.begin(), opened.end(), "open_to_read");
-      if (count > 1 && call == "read_some") std::ofstream("a.dat", std::ios::app) << "x";
+    watched.before_call = [&](const std::string& call) {
+      const auto count = std::count(watched.calls.begin(), watched.calls.end(), "open_to_read");
+      if (count > 1 && call == writes_before) std::ofstream("a.dat", std::ios::app) << "x";
     };
     return run(command_line);
   }

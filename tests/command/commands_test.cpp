@@ -84,12 +84,79 @@ TEST_F(commands_test, AddsAndReplacesEntriesAndKeepsTheOthers) {
   EXPECT_EQ(run("add a.dat b.txt sub/a.txt").status, 0);
   EXPECT_EQ(bytes_of("a.dat"),
             archive_bytes({{"A.TXT", "newer"}, {"B.TXT", "new"}, entries[1], entries[2]}));
+  write_bytes("none.dat", std::string(4, '\0'));
+  EXPECT_EQ(run("add none.dat b.txt").status, 0);
+  EXPECT_EQ(bytes_of("none.dat"), archive_bytes({{"B.TXT", "new"}}));
+  const auto with_end_name = [](std::string archive) { return archive.replace(25, 3, "END"); };
+  write_bytes("none.dat", with_end_name(archive_bytes({{"A.TXT", "1"}})));
+  EXPECT_EQ(run("add none.dat sub/a.txt").status, 0);
+  EXPECT_EQ(bytes_of("none.dat"), with_end_name(archive_bytes({{"A.TXT", "newer"}})));
+}
+
+// Also if the entries are not in order. Two of the files become the same entry.
+TEST_F(commands_test, AddsManyFilesLikeOneAfterTheOther) {
+  const std::string unsorted =
+      archive_bytes({{"M", ""}, {"C", "1"}, {"C", "2"}, {"Z", ""}, {"k", ""}});
+  write_bytes("all.dat", unsorted);
+  write_bytes("each.dat", unsorted);
+  std::string all = "add all.dat";
+  int folder_number = 0;
+  for (const char name : std::string("xaNkzBLcydM0A")) {
+    const std::string file = std::to_string(folder_number++) + "/" + name;
+    write_bytes(file, file);
+    EXPECT_EQ(run("add each.dat " + file).status, 0);
+    all += " " + file;
+  }
+  EXPECT_EQ(run(all).status, 1);
+  EXPECT_EQ(bytes_of("all.dat"), bytes_of("each.dat"));
+}
+
+TEST_F(commands_test, ReportsEqualNames) {
+  const std::string error = "ostrane-dat: ";
+  const texts files = {"in/ABCDEFGHI.TXT1", "in/ABCDEFGHI.TXT2", "sub/abcdefghi.txt3"};
+  for (const std::string& name : files) write_bytes(name, name);
+  // The second entry of the archive after the command.
+  const std::tuple<std::string, std::string, std::string> cases[] = {
+      {"build in -o b.dat",
+       error + "ABCDEFGHI.TXT2: its entry has the same name as that of ABCDEFGHI.TXT1\n", files[1]},
+      {"add -q b.dat " + files[0] + " " + files[2],
+       error + files[0] + ": not added: " + files[2] + " becomes the same entry\n", files[2]},
+      {"extract b.dat", error + "ABCDEFGHI.TXT: not extracted: entry 2 was written over it\n",
+       files[2]}};
+  for (const auto& [command_line, printed, second] : cases) {
+    const result seen = run(command_line);
+    EXPECT_EQ(seen.status, 1) << command_line;
+    EXPECT_EQ(seen.errors, printed);
+    EXPECT_EQ(bytes_of("b.dat"),
+              archive_bytes({{"ABCDEFGHI.TXT", files[0]}, {"ABCDEFGHI.TXT", second}}));
+  }
+  EXPECT_EQ(bytes_of("ABCDEFGHI.TXT"), files[2]);
+}
+
+// The new archive is in place if the last listing of the folder fails.
+TEST_F(commands_test, ReportsThatSkippedFilesCannotBeListed) {
+  write_bytes("in/A.TXT", entries[0].bytes);
+  int last_list = INT32_MAX;
+  for (const bool fails : {false, true}) {
+    const failing_calls watched(last_list, {.reason = EIO});
+    const result seen = run("build in");
+    EXPECT_EQ(seen.status, fails ? 1 : 0);
+    EXPECT_TRUE(seen.errors.starts_with(fails ? "ostrane-dat: in: cannot be read: " : ""));
+    EXPECT_EQ(seen.errors.find("The archive was made, but") != std::string::npos, fails);
+    EXPECT_EQ(bytes_of("in/OSTRANE.DAT"), archive_bytes({entries[0]}));
+    const auto last = std::find(watched.calls.rbegin(), watched.calls.rend(), "list");
+    last_list = static_cast<int>(watched.calls.rend() - last) - 1;
+    fs::remove("in/OSTRANE.DAT");
+  }
 }
 
 TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
-  EXPECT_EQ(run_beside_a_writer("remove a.dat A.TXT").status, 2);
-  EXPECT_TRUE(bytes_of("a.dat").starts_with(archive_bytes(entries) + "x"));
-  EXPECT_EQ(files_at(".").size(), 1U);
+  for (const char* call : {"read_some", "flush_to_disk"}) {
+    write_bytes("a.dat", archive_bytes(entries));
+    EXPECT_EQ(run_beside_a_writer("remove a.dat A.TXT", call).status, 2) << call;
+    EXPECT_TRUE(bytes_of("a.dat").starts_with(archive_bytes(entries) + "x")) << call;
+    EXPECT_EQ(files_at(".").size(), 1U);
+  }
 }
 
 // Each call fails in turn: the archive is the old or the new one, and no other file remains.

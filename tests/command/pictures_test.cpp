@@ -168,6 +168,19 @@ TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
             std::string::npos);
 }
 
+// Icons of a few bytes can have pictures of any size.
+TEST_F(pictures_test, RefusesPicturesThatAreTooLargeTogether) {
+  const shp_icon large = {{.no_of_rows = 8191, .no_of_cols = 8191}, std::string(1, '\0')};
+  const std::string file = shp_file(std::vector<shp_icon>(9, large), default_identifier, true);
+  write_bytes("a.dat", archive_bytes({{"F.SHP", file}, {"G.SHP", file}}));
+  const result seen = run("export a.dat *.SHP -d out");
+  EXPECT_EQ(seen.status, 2);
+  EXPECT_EQ(seen.errors,
+            "ostrane-dat: The pictures of these entries have more than 1073741824 cells together, "
+            "which is the most for one export.\n");
+  EXPECT_FALSE(fs::exists("out"));
+}
+
 TEST_F(pictures_test, DoesNotExportAnArchiveThatChanges) {
   write_archive(shp_file(std::vector<picture>(2, picture(9, 9))));
   const std::string changed =

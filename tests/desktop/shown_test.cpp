@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "data/archive_bytes.h"
+#include "archive_bytes.h"
 #include "data/icon_packer.h"
 #include "desktop/designed_look.h"
 #include "desktop_fixture.h"

@@ -1,0 +1,191 @@
+#include "data/archive_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <unordered_map>
+
+#include "data/chunk_ladder.h"
+#include "data/data_error.h"
+#include "data/new_index.h"
+#include "data/number_text.h"
+#include "files/code_page.h"
+#include "files/file_system.h"
+#include "files/file_writer.h"
+#include "files/text.h"
+
+namespace ostrane {
+
+namespace {
+
+std::string key_of(const entry_source& entry) {
+  return files::compare_key(name_with_blanks(entry.name));
+}
+
+std::u8string shown(const entry_source& entry) {
+  return entry.old_index ? files::to_utf8("The entry " + entry.shown_name) : entry.file.shown;
+}
+
+std::int64_t size_of(const new_archive& archive, const entry_source& entry) {
+  if (!entry.old_index) return files::file_size(entry.file);
+  const archive_index& old = archive.old->index;
+  const std::int64_t start = old.records[*entry.old_index].offset;
+  const std::int64_t size = old.records[*entry.old_index + 1].offset - start;
+  if (start < 0 || size < 0 || start + size > old.stamp.size) {
+    throw data_error(shown(entry), "is not contained in the archive with all its bytes.");
+  }
+  return size;
+}
+
+// An archive of 0 records has no end record.
+void refuse_other_bytes(const old_archive& old) {
+  const auto& records = old.index.records;
+  const std::int64_t first = first_entry_offset(records.size()) - record_size;
+  const std::int64_t before = records.empty() ? 0 : records.front().offset - first;
+  const std::int64_t after =
+      old.index.stamp.size - (records.empty() ? first : records.back().offset);
+  const std::int64_t others = std::max<std::int64_t>(before, 0) + std::max<std::int64_t>(after, 0);
+  if (others == 0) return;
+  throw data_error(old.path.shown, "has " + counted(others, "byte") +
+                                       " that belong to no entry and would be lost.");
+}
+
+struct writing {
+  const new_archive& archive;
+  files::binary_file& to;
+  const job_progress& progress;
+  files::binary_file old = {};
+  files::binary_file file = {};
+};
+
+void copy_entry(writing& job, std::size_t i) {
+  const entry_source& entry = job.archive.entries[i];
+  const std::int32_t size = job.archive.records[i + 1].offset - job.archive.records[i].offset;
+  files::binary_file& from = entry.old_index ? job.old : job.file;
+  if (entry.old_index) {
+    from.seek(job.archive.old->index.records[*entry.old_index].offset);
+  } else {
+    from.open_to_read(entry.file);
+  }
+  job.progress.on_file(i, entry.shown_name, size);
+  std::int16_t small_block_bytes = 0;
+  const std::int32_t copied = chunk_ladder(from, job.to, size, small_block_bytes, job.progress);
+  std::array<std::byte, 1> one_more;
+  if (copied < size || (!entry.old_index && from.read(one_more) > 0)) {
+    throw data_error(shown(entry), "has changed its size during the copy.");
+  }
+  if (!entry.old_index) from.close();
+}
+
+}  // namespace
+
+entry_source source_of_file(const std::string& file_name, files::file_path file) {
+  return {stored_name(padded_name(file_name)), file_name, std::move(file)};
+}
+
+new_archive copy_of_archive(const files::file_path& path) {
+  new_archive archive = {.old = old_archive{path, read_archive_index(path)}};
+  const std::vector<dat_record>& records = archive.old->index.records;
+  for (std::size_t i = 0; i + 1 < records.size(); ++i) {
+    archive.entries.push_back({records[i].name, name_with_blanks(records[i].name), {}, i});
+  }
+  return archive;
+}
+
+void add_files(new_archive& archive, const std::vector<entry_source>& files) {
+  std::vector<std::string> keys;
+  std::unordered_map<std::string, std::size_t> last_of_name;
+  for (const entry_source& entry : archive.entries) {
+    last_of_name.insert_or_assign(key_of(entry), keys.size());
+    keys.push_back(key_of(entry));
+  }
+  std::map<std::string, entry_source> added;
+  for (const entry_source& file : files) {
+    const auto replaced = last_of_name.find(key_of(file));
+    if (replaced == last_of_name.end()) {
+      added.insert_or_assign(key_of(file), file);
+    } else {
+      entry_source& entry = archive.entries[replaced->second];
+      entry = {entry.name, file.shown_name, file.file};
+    }
+  }
+  std::vector<entry_source> merged;
+  auto next = added.begin();
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    for (; next != added.end() && next->first < keys[i]; ++next) merged.push_back(next->second);
+    merged.push_back(std::move(archive.entries[i]));
+  }
+  for (; next != added.end(); ++next) merged.push_back(next->second);
+  archive.entries = std::move(merged);
+}
+
+std::vector<std::pair<std::size_t, std::size_t>> equal_names(
+    const std::vector<entry_source>& entries) {
+  std::vector<std::pair<std::size_t, std::size_t>> equal;
+  std::unordered_map<std::string, std::size_t> known;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const auto [found, is_new] = known.emplace(key_of(entries[i]), i);
+    if (!is_new) equal.emplace_back(i, std::exchange(found->second, i));
+  }
+  return equal;
+}
+
+std::vector<std::filesystem::path> file_paths(const new_archive& archive) {
+  std::vector<std::filesystem::path> paths;
+  for (const entry_source& entry : archive.entries) paths.push_back(entry.file.system);
+  return paths;
+}
+
+void make_index(new_archive& archive, const std::function<void(std::size_t)>& on_entry) {
+  const std::size_t count = archive.entries.size();
+  if (count > max_files) {
+    throw data_error("The archive would have " + std::to_string(count) +
+                     " entries. It can have at most " + std::to_string(max_files) + ".");
+  }
+  if (archive.old) refuse_other_bytes(*archive.old);
+  std::int64_t offset = first_entry_offset(count);
+  archive.records.clear();
+  archive.records.reserve(count + 1);
+  for (std::size_t i = 0; i < count; ++i) {
+    const entry_source& entry = archive.entries[i];
+    if (on_entry) on_entry(i);
+    archive.records.push_back({static_cast<std::int32_t>(offset), entry.name});
+    offset += size_of(archive, entry);
+    if (offset > INT32_MAX) {
+      throw data_error(shown(entry),
+                       "does not fit: the archive would be larger than 2 GB, which is the most "
+                       "that it can be.");
+    }
+  }
+  const bool has_old_end = archive.old && !archive.old->index.records.empty();
+  archive.records.push_back({static_cast<std::int32_t>(offset),
+                             has_old_end ? archive.old->index.records.back().name : record_name{}});
+}
+
+void write_archive_to(files::binary_file& to, const new_archive& archive,
+                      const job_progress& progress) {
+  writing job = {archive, to, progress};
+  if (archive.old) open_unchanged(job.old, archive.old->path, archive.old->index.stamp);
+  const std::string index = index_bytes(archive.records);
+  to.write(std::as_bytes(std::span(index)));
+  for (std::size_t i = 0; i < archive.entries.size(); ++i) copy_entry(job, i);
+}
+
+void replace_archive(const files::file_path& target, const new_archive& archive,
+                     const job_progress& progress) {
+  // The game has one archive, in any case of its name.
+  const bool is_game_archive = !archive.old && target.system.filename() == archive_name;
+  files::binary_file output;
+  files::file_writer to(output, target,
+                        {.mode = files::write_mode::durable,
+                         .replaces_read_only = is_game_archive,
+                         .is_only_spelling = is_game_archive});
+  write_archive_to(output, archive, progress);
+  to.keep([&archive] {
+    // Another program may have written to the old archive or replaced it meanwhile.
+    files::binary_file old;
+    if (archive.old) open_unchanged(old, archive.old->path, archive.old->index.stamp);
+  });
+}
+
+}  // namespace ostrane

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "data/archive_index.h"
+#include "data/job_progress.h"
+
+namespace ostrane {
+
+constexpr const char* archive_name = "OSTRANE.DAT";
+
+// What becomes an entry of a new archive: a file, or an entry of the old archive.
+struct entry_source {
+  record_name name;        // of the new entry
+  std::string shown_name;  // of the file or the entry, for messages
+  files::file_path file = {};
+  std::optional<std::size_t> old_index = {};  // null for a file
+};
+
+struct old_archive {
+  files::file_path path;
+  archive_index index;
+};
+
+struct new_archive {
+  std::vector<entry_source> entries = {};
+  std::optional<old_archive> old = {};   // the archive that it replaces and takes entries from
+  std::vector<dat_record> records = {};  // set by make_index
+};
+
+// Returns the source for a file. The name of its entry is cut at 13 characters.
+entry_source source_of_file(const std::string& file_name, files::file_path file);
+
+// Reads an old archive and returns a new one with the same entries. Throws like read_archive_index.
+new_archive copy_of_archive(const files::file_path& path);
+
+// Adds files as if one after the other: each replaces the last entry of its name. If there is none,
+// it is inserted before the first entry whose name sorts after it.
+void add_files(new_archive& archive, const std::vector<entry_source>& files);
+
+// Returns the index of each entry whose name, without case, is that of an earlier entry, and the
+// index of the latest such entry.
+std::vector<std::pair<std::size_t, std::size_t>> equal_names(
+    const std::vector<entry_source>& entries);
+
+// Returns the paths of the files that become entries.
+std::vector<std::filesystem::path> file_paths(const new_archive& archive);
+
+// Measures the sources and sets `records`. `on_entry` is called before each of them and may be
+// null. Throws file_error, and data_error if there are too many entries or bytes, if an old entry
+// exceeds the old archive, or if that has bytes that belong to no entry and would be lost.
+void make_index(new_archive& archive, const std::function<void(std::size_t index)>& on_entry = {});
+
+// Writes an archive with an index to an open file. Throws file_error, and data_error if the size of
+// a file or the old archive has changed.
+void write_archive_to(files::binary_file& to, const new_archive& archive,
+                      const job_progress& progress);
+
+// The same, but replaces `target` atomically, which is the old archive if there is one. After any
+// failure the target is unchanged. Without an old archive a file that is named OSTRANE.DAT replaces
+// all files whose names differ from this in case only.
+void replace_archive(const files::file_path& target, const new_archive& archive,
+                     const job_progress& progress);
+
+}  // namespace ostrane
