@@ -8,6 +8,7 @@ install(CODE "
     set(folder vendor-completions)
   endif()
   set(installed_folders ${CMAKE_INSTALL_DATADIR}/zsh/\${folder})
-  include(\"${PROJECT_SOURCE_DIR}/packaging/make_folders.cmake\")
-  file(INSTALL \"${PROJECT_SOURCE_DIR}/packaging/completion/_ostrane-dat\"
+  set(packaging [==[${PROJECT_SOURCE_DIR}/packaging]==])
+  include(\"\${packaging}/make_folders.cmake\")
+  file(INSTALL \"\${packaging}/completion/_ostrane-dat\"
        DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/zsh/\${folder}\")")
