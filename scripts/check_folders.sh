@@ -1,0 +1,112 @@
+#!/usr/bin/env bash
+# check_folders.sh BUILD: builds, packages, installs and uninstalls in folders with unusual names, each
+# beside neighbours whose names are beginnings of its name. BUILD is a finished build of the preset
+# release. The first folder compiles all of the tool, and its package must equal that of BUILD. The
+# others build without windows, from the objects of BUILD.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+need build package package-check
+build=$(cd "$1" && pwd)
+cmake --build "$build"
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export HOME=$work/home
+mkdir "$HOME"
+
+fail() {
+  echo "$*" >&2
+  exit 1
+}
+
+files=("$HOME/file")
+# The neighbours of the folder $1: all folders whose names are beginnings of its name.
+add_neighbours() {
+  local length name=${1##*/}
+  for ((length = 1; length < ${#name}; ++length)); do
+    mkdir -p "${1%/*}/${name:0:length}"
+    files+=("${1%/*}/${name:0:length}/file")
+  done
+}
+make_files() {
+  local file
+  for file in "${files[@]}"; do echo mine >"$file"; done
+}
+check_files() {
+  local file
+  for file in "${files[@]}"; do
+    [ "$(cat "$file")" = mine ] || fail "Not there after $1: $file"
+  done
+}
+
+copy_tree() { mkdir -p "$1" && tar -c --exclude='./build*' --exclude=./.git . | tar -x -C "$1"; }
+
+uninstall() { cmake -D BUILD="$1/build" -P "$1/packaging/uninstall.cmake" >"$work/log" 2>&1; }
+
+# in_folder TREE PREFIX OPTION...: TREE is a copy of the sources.
+in_folder() {
+  local tree=$1 prefix=$2 installed
+  shift 2
+  mkdir -p "$tree/build/sample"
+  touch "$tree/build/sample/notes"
+  cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_TESTS=OFF \
+    -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "$@" >"$work/log" 2>&1 || fail "$(cat "$work/log")"
+  cmake --build "$tree/build" >"$work/log" || fail "$(cat "$work/log")"
+  [ -e "$tree/build/sample/notes" ] || fail "The build removed a file in $tree/build"
+  check_files "the build in $tree"
+
+  cmake --install "$tree/build" --prefix "$prefix" >/dev/null
+  (cd "$tree/build" && cpack >/dev/null 2>&1) || fail "No package in $tree"
+  "$prefix/bin/ostrane-dat" list "$prefix"/share/doc/*/examples/ostrane.dat >/dev/null
+
+  # Neither a path outside the prefix nor a file that cannot be removed goes unnoticed.
+  installed=$(find "$prefix" ! -type d | wc -l)
+  cp "$tree/build/packaging/installed.txt" "$work/record"
+  echo "${files[-1]}" >>"$tree/build/packaging/installed.txt"
+  ! uninstall "$tree" || fail "A foreign path in the record is not an error"
+  [ "$(find "$prefix" ! -type d | wc -l)" -eq "$installed" ] || fail "Removed from $prefix: something"
+  cp "$work/record" "$tree/build/packaging/installed.txt"
+  mkdir "$prefix/new"
+  mv "$prefix/bin/ostrane-dat" "$prefix/new"
+  mkdir "$prefix/bin/ostrane-dat"
+  ! uninstall "$tree" || fail "A path that is still there is not an error"
+  rm -r "$prefix/new"
+  rmdir "$prefix/bin/ostrane-dat"
+
+  uninstall "$tree" || fail "$(cat "$work/log")"
+  [ ! -e "$prefix" ] || fail "Left: $(find "$prefix")"
+  check_files "uninstalling from $prefix"
+}
+
+names=('A&B' 'tool (1)' 'Große Änderung' "it's \$HOME; x")
+for name in "${names[@]}"; do
+  add_neighbours "$work/trees/$name"
+  add_neighbours "$work/prefixes/$name"
+done
+make_files
+
+copy_tree "$work/trees/A&B"
+in_folder "$work/trees/A&B" "$work/prefixes/A&B"
+(cd "$build" && cpack -B "$work/package" >/dev/null 2>&1)
+cmp "$work"/package/*.deb "$work"/trees/A\&B/build/*.deb
+
+export OSTRANE_OBJECTS=$build CMAKE_CXX_COMPILER_LAUNCHER=$PWD/scripts/object_from_build.sh
+for name in 'tool (1)' 'Große Änderung'; do
+  copy_tree "$work/trees/$name"
+  in_folder "$work/trees/$name" "$work/prefixes/$name" -DOSTRANE_DESKTOP=OFF
+done
+
+# CMake cannot build in a path with a semicolon. A link has another path.
+name=${names[3]}
+copy_tree "$work/trees/$name"
+! cmake -S "$work/trees/$name" -B "$work/trees/$name/build" >"$work/log" 2>&1 ||
+  fail "Configured in $name"
+grep -q 'semicolon' "$work/log" || fail "$(cat "$work/log")"
+check_files "the refusal"
+rm -r "$work/trees/$name/build"
+ln -s "$name" "$work/trees/it's \$HOME, x"
+in_folder "$work/trees/it's \$HOME, x" "$work/prefixes/$name" -DOSTRANE_DESKTOP=OFF
+
+lintian --allow-root --fail-on error,warning "$work/trees/$name"/build/*.deb
+echo "Folders are good"
