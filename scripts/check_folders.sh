@@ -40,7 +40,8 @@ check_files() {
   done
 }
 
-copy_tree() { mkdir -p "$1" && tar -c --exclude='./build*' --exclude=./.git . | tar -x -C "$1"; }
+# The files have the time of the copy, as in a clone.
+copy_tree() { mkdir -p "$1" && tar -c --exclude='./build*' --exclude=./.git . | tar -xm -C "$1"; }
 
 uninstall() { cmake -D BUILD="$1/build" -P "$1/packaging/uninstall.cmake" >"$work/log" 2>&1; }
 
