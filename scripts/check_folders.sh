@@ -60,6 +60,8 @@ in_folder() {
   cmake --install "$tree/build" --prefix "$prefix" >/dev/null
   (cd "$tree/build" && cpack >/dev/null 2>&1) || fail "No package in $tree"
   "$prefix/bin/ostrane-dat" list "$prefix"/share/doc/*/examples/ostrane.dat >/dev/null
+  grep -q '^Files: CLI' "$prefix"/share/doc/*/copyright
+  ls "$prefix"/share/{man/man1/ostrane-dat.1,bash-completion/completions/ostrane-dat} >/dev/null
 
   # Neither a path outside the prefix nor a file that cannot be removed goes unnoticed.
   installed=$(find "$prefix" ! -type d | wc -l)
