@@ -43,38 +43,43 @@ check_files() {
 # The files have the time of the copy, as in a clone.
 copy_tree() { mkdir -p "$1" && tar -c --exclude='./build*' --exclude=./.git . | tar -xm -C "$1"; }
 
-uninstall() { cmake -D BUILD="$1/build" -P "$1/packaging/uninstall.cmake" >"$work/log" 2>&1; }
-
-# in_folder TREE PREFIX OPTION...: TREE is a copy of the sources.
-in_folder() {
-  local tree=$1 prefix=$2 installed
-  shift 2
+# build_in TREE OPTION...: builds the copy of the sources, and a package of it.
+build_in() {
+  local tree=$1
+  shift
   mkdir -p "$tree/build/sample"
   touch "$tree/build/sample/notes"
   cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_TESTS=OFF \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "$@" >"$work/log" 2>&1 || fail "$(cat "$work/log")"
   cmake --build "$tree/build" >"$work/log" || fail "$(cat "$work/log")"
+  (cd "$tree/build" && cpack >"$work/log" 2>&1) || fail "$(cat "$work/log")"
   [ -e "$tree/build/sample/notes" ] || fail "The build removed a file in $tree/build"
   check_files "the build in $tree"
+}
 
+uninstall() { cmake -D BUILD="$1/build" -P "$1/packaging/uninstall.cmake" >"$work/log" 2>&1; }
+count_installed() { find "$1" ! -type d | wc -l; }
+
+# install_below PREFIX TREE: installs the build there and uninstalls it.
+install_below() {
+  local prefix=$1 tree=$2 record=$2/build/packaging/installed.txt count
   cmake --install "$tree/build" --prefix "$prefix" >/dev/null
-  (cd "$tree/build" && cpack >/dev/null 2>&1) || fail "No package in $tree"
   "$prefix/bin/ostrane-dat" list "$prefix"/share/doc/*/examples/ostrane.dat >/dev/null
   grep -q '^Files: CLI' "$prefix"/share/doc/*/copyright
   ls "$prefix"/share/{man/man1/ostrane-dat.1,bash-completion/completions/ostrane-dat} >/dev/null
 
-  # Neither a path outside the prefix nor a file that cannot be removed goes unnoticed.
-  installed=$(find "$prefix" ! -type d | wc -l)
-  cp "$tree/build/packaging/installed.txt" "$work/record"
-  echo "${files[-1]}" >>"$tree/build/packaging/installed.txt"
-  ! uninstall "$tree" || fail "A foreign path in the record is not an error"
-  [ "$(find "$prefix" ! -type d | wc -l)" -eq "$installed" ] || fail "Removed from $prefix: something"
-  cp "$work/record" "$tree/build/packaging/installed.txt"
-  mkdir "$prefix/new"
-  mv "$prefix/bin/ostrane-dat" "$prefix/new"
+  # A path outside the prefix stops it before it removes anything.
+  count=$(count_installed "$prefix")
+  cp "$record" "$work/record"
+  echo "${files[-1]}" >>"$record"
+  ! uninstall "$tree" || fail "A foreign path in $record is not an error"
+  [ "$(count_installed "$prefix")" -eq "$count" ] || fail "A foreign path in $record is found too late"
+  cp "$work/record" "$record"
+
+  # A path that it cannot remove is an error.
+  rm "$prefix/bin/ostrane-dat"
   mkdir "$prefix/bin/ostrane-dat"
-  ! uninstall "$tree" || fail "A path that is still there is not an error"
-  rm -r "$prefix/new"
+  ! uninstall "$tree" || fail "A path that is left is not an error"
   rmdir "$prefix/bin/ostrane-dat"
 
   uninstall "$tree" || fail "$(cat "$work/log")"
@@ -90,14 +95,16 @@ done
 make_files
 
 copy_tree "$work/trees/A&B"
-in_folder "$work/trees/A&B" "$work/prefixes/A&B"
+build_in "$work/trees/A&B"
+install_below "$work/prefixes/A&B" "$work/trees/A&B"
 (cd "$build" && cpack -B "$work/package" >/dev/null 2>&1)
 cmp "$work"/package/*.deb "$work"/trees/A\&B/build/*.deb
 
 export OSTRANE_OBJECTS=$build CMAKE_CXX_COMPILER_LAUNCHER=$PWD/scripts/object_from_build.sh
 for name in 'tool (1)' 'Große Änderung'; do
   copy_tree "$work/trees/$name"
-  in_folder "$work/trees/$name" "$work/prefixes/$name" -DOSTRANE_DESKTOP=OFF
+  build_in "$work/trees/$name" -DOSTRANE_DESKTOP=OFF
+  install_below "$work/prefixes/$name" "$work/trees/$name"
 done
 
 # CMake cannot build in a path with a semicolon. A link has another path.
@@ -108,8 +115,10 @@ copy_tree "$work/trees/$name"
 grep -q 'semicolon' "$work/log" || fail "$(cat "$work/log")"
 check_files "the refusal"
 rm -r "$work/trees/$name/build"
-ln -s "$name" "$work/trees/it's \$HOME, x"
-in_folder "$work/trees/it's \$HOME, x" "$work/prefixes/$name" -DOSTRANE_DESKTOP=OFF
+link="$work/trees/it's \$HOME, x"
+ln -s "$name" "$link"
+build_in "$link" -DOSTRANE_DESKTOP=OFF
+install_below "$work/prefixes/$name" "$link"
 
 lintian --allow-root --fail-on error,warning "$work/trees/$name"/build/*.deb
 echo "Folders are good"
