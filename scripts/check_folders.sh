@@ -52,7 +52,7 @@ build_in() {
   cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DOSTRANE_TESTS=OFF \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "$@" >"$work/log" 2>&1 || fail "$(cat "$work/log")"
   cmake --build "$tree/build" >"$work/log" || fail "$(cat "$work/log")"
-  (cd "$tree/build" && cpack >"$work/log" 2>&1) || fail "$(cat "$work/log")"
+  (cd "$tree/build" && LC_ALL=C.UTF-8 cpack >"$work/log" 2>&1) || fail "$(cat "$work/log")"
   [ -e "$tree/build/sample/notes" ] || fail "The build removed a file in $tree/build"
   check_files "the build in $tree"
 }

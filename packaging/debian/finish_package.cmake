@@ -3,6 +3,18 @@
 # Without dpkg-shlibdeps CPack would only print a notice and omit the library dependencies.
 find_program(shlibdeps dpkg-shlibdeps REQUIRED)
 
+# cpack reads the paths of the files in the locale.
+set(locale "$ENV{LANG}")
+foreach(name LC_CTYPE LC_ALL)
+  if(NOT "$ENV{${name}}" STREQUAL "")
+    set(locale "$ENV{${name}}")
+  endif()
+endforeach()
+if("${CPACK_TEMPORARY_INSTALL_DIRECTORY}" MATCHES "[^ -~]" AND
+   NOT "${locale}" MATCHES "[Uu][Tt][Ff]-?8")
+  message(FATAL_ERROR "The folder's path needs a locale with UTF-8: LC_ALL=C.UTF-8 cpack")
+endif()
+
 set(share "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share")
 set(doc "${share}/doc/${CPACK_PACKAGE_NAME}")
 
