@@ -22,7 +22,8 @@ print_summary() {
   exit $status
 }
 
-# step NAME PURPOSES COMMAND: runs the command if the packages for the purposes are installed.
+# step NAME PURPOSES COMMAND [BUILD]: runs the command if the packages for the purposes are installed,
+# and lists the skipped tests of BUILD.
 step() {
   local name=$1 command=$3 start=$SECONDS purposes packages missing
   read -ra purposes <<<"$2"
@@ -36,6 +37,7 @@ step() {
     printf '\n== %s\n' "$name"
     bash -euo pipefail -c "$command"
     summary+=("passed   $name, $((SECONDS - start)) s")
+    [ -z "${4:-}" ] || list_skipped_tests "$4"
   fi
   current=
 }
@@ -56,8 +58,7 @@ trap print_summary EXIT
 step 'Layout' layout \
   'scripts/check_layout.sh'
 step 'Build and tests' 'build test' \
-  'cmake --preset release && cmake --build --preset release && ctest --preset release'
-list_skipped_tests build-release
+  'cmake --preset release && cmake --build --preset release && ctest --preset release' build-release
 step 'Benchmarks, once' 'build bench display' \
   'OSTRANE_BUILD=build-release bench/peers.sh 1'
 step 'Screenshot' 'build display' \
@@ -66,14 +67,14 @@ step 'Screenshot' 'build display' \
      scripts/take_screenshot.sh build-release/bin/ostrane-dat-tool "$PWD/build-release/screenshot.png"'
 step 'Packaging' 'build package package-check' \
   'scripts/check_packaging.sh build-release'
+step 'Folders with unusual names' 'build package package-check' \
+  'scripts/check_folders.sh build-release'
 step 'Lint' 'build lint' \
   'scripts/check_lint.sh build-release'
 step 'Sanitizers' 'build test' \
-  'cmake --preset asan && cmake --build --preset asan && ctest --preset asan'
-list_skipped_tests build-asan
+  'cmake --preset asan && cmake --build --preset asan && ctest --preset asan' build-asan
 step 'Clang, unoptimised' 'build test clang' \
-  'cmake --preset clang && cmake --build --preset clang && ctest --preset clang'
-list_skipped_tests build-clang
+  'cmake --preset clang && cmake --build --preset clang && ctest --preset clang' build-clang
 step 'Fuzz targets, some thousand inputs' fuzz \
   'fuzz/run.sh short'
 step 'Windows, under Wine' windows \
@@ -81,7 +82,7 @@ step 'Windows, under Wine' windows \
 
 if [ -n "${CI:-}" ]; then
   step 'Documents' 'build test display package icons' \
-    'scripts/check_documents.sh'
+    'scripts/check_documents.sh build-release'
 else
   summary+=("skipped  Documents: CI=1 ./test.sh runs the commands that README.md shows")
 fi

@@ -1,13 +1,15 @@
 # Shell completion of the arguments of ostrane-dat.
+install_folders(${data_dir}/bash-completion/completions)
 install(FILES packaging/completion/ostrane-dat.bash
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ostrane-dat)
+        DESTINATION ${data_dir}/bash-completion/completions RENAME ostrane-dat)
+
 # Debian's zsh uses different folders in /usr and /usr/local.
 install(CODE "
-  set(folder site-functions)
+  set(zsh_folder ${data_dir}/zsh/site-functions)
   if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
-    set(folder vendor-completions)
-  endif()
-  set(installed_folders ${CMAKE_INSTALL_DATADIR}/zsh/\${folder})
-  include(\"${PROJECT_SOURCE_DIR}/packaging/make_folders.cmake\")
-  file(INSTALL \"${PROJECT_SOURCE_DIR}/packaging/completion/_ostrane-dat\"
-       DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/zsh/\${folder}\")")
+    set(zsh_folder ${data_dir}/zsh/vendor-completions)
+  endif()")
+install_folders("\${zsh_folder}")
+install(CODE "
+  file(INSTALL [==[${PROJECT_SOURCE_DIR}/packaging/completion/_ostrane-dat]==]
+       DESTINATION \"\${CMAKE_INSTALL_PREFIX}/\${zsh_folder}\")")

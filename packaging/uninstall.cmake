@@ -1,17 +1,60 @@
-# Removes the files of the last `cmake --install` of BUILD, and the program's own folders if they are
-# empty afterwards.
-file(STRINGS ${BUILD}/install_manifest.txt files)
-foreach(file IN LISTS files)
-  message(STATUS "Removing $ENV{DESTDIR}${file}")
-  file(REMOVE $ENV{DESTDIR}${file})
-  get_filename_component(folder ${file} DIRECTORY)
-  if(folder MATCHES "/ostrane-dat-tool(/examples)?$")
-    list(APPEND own_folders $ENV{DESTDIR}${folder})
-  endif()
-endforeach()
+# Removes what `cmake --install` of BUILD has made under the last prefix: the files, and the folders
+# that are empty afterwards. Removes nothing if its record has a line that is not an absolute path
+# there.
+cmake_minimum_required(VERSION 3.22)
+set(record "${BUILD}/packaging/installed.txt")
+if(NOT EXISTS "${record}")
+  message(FATAL_ERROR "Nothing is installed from \"${BUILD}\"")
+endif()
+file(READ "${record}" text)
+if(NOT "${text}" MATCHES "\n$")
+  string(APPEND text "\n")
+endif()
 
-list(SORT own_folders ORDER DESCENDING)  # the inner ones first
-list(REMOVE_DUPLICATES own_folders)
-foreach(folder IN LISTS own_folders)
-  execute_process(COMMAND rmdir ${folder} ERROR_QUIET)
-endforeach()
+# Moves the first line of `text` to `line`. A list would split lines at semicolons and join them at
+# brackets.
+macro(take_line)
+  string(FIND "${text}" "\n" end)
+  string(SUBSTRING "${text}" 0 ${end} line)
+  math(EXPR end "${end} + 1")
+  string(SUBSTRING "${text}" ${end} -1 text)
+endmacro()
+
+take_line()
+set(root "${line}/")
+string(LENGTH "${root}" root_length)
+set(newest_first)
+while(NOT "${text}" STREQUAL "")
+  take_line()
+  string(FIND "${line}" "${root}" below)
+  string(FIND "${root}" "${line}" above)  # a folder that leads to the prefix
+  set(name)
+  if(below EQUAL 0)
+    string(SUBSTRING "${line}" ${root_length} -1 name)
+  endif()
+  if(NOT "${root}" MATCHES "^/" OR "/${name}/" MATCHES "/\\.\\.?/"
+     OR NOT (below EQUAL 0 OR (above EQUAL 0 AND "${line}" MATCHES "/$")))
+    message(FATAL_ERROR "Nothing is removed: ${record} has a line that is not a path under "
+                        "\"${root}\": \"${line}\"")
+  endif()
+  set(newest_first "${line}\n${newest_first}")
+endwhile()
+
+set(text "${newest_first}")
+set(left)
+while(NOT "${text}" STREQUAL "")
+  take_line()
+  if("${line}" MATCHES "/$")
+    execute_process(COMMAND rmdir -- "${line}" ERROR_QUIET)
+    continue()
+  endif()
+  message(STATUS "Removing ${line}")
+  file(REMOVE "${line}")
+  if(EXISTS "${line}" OR IS_SYMLINK "${line}")
+    string(APPEND left "\n  ${line}")
+  endif()
+endwhile()
+if(NOT "${left}" STREQUAL "")
+  message(FATAL_ERROR "Not removed:${left}")
+endif()
+file(REMOVE "${record}")

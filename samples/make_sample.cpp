@@ -20,10 +20,14 @@ namespace {
 namespace fs = std::filesystem;
 using namespace ostrane;
 
-// Any other file in the folder would become an entry.
+// Replaces the files of an earlier run. Any other file in the folder would become an entry.
 void write_files(const fs::path& folder) {
   fs::create_directories(folder);
-  if (!fs::is_empty(folder)) throw std::runtime_error(folder.string() + " is not empty");
+  fs::remove(folder / "OSTRANE.DAT");
+  for (const auto& file : samples::sample_files()) fs::remove(folder / file.name);
+  if (const fs::directory_iterator foreign(folder); foreign != fs::directory_iterator()) {
+    throw std::runtime_error(foreign->path().string() + " is not part of the sample");
+  }
   for (const auto& file : samples::sample_files()) write_file(folder / file.name, file.bytes);
 }
 

@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
-# Runs the commands in README.md and CONTRIBUTING.md, except for the steps of test.sh. They run in a
-# copy of the tree, with a separate home and installation folder. Package installations are simulated.
+# check_documents.sh BUILD: runs the commands in README.md and CONTRIBUTING.md, except for the steps of
+# test.sh. They run in a copy of the tree, with a separate home and installation folder. Package
+# installations are simulated. Objects come from BUILD, a finished build of the preset release.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+OSTRANE_OBJECTS=$(cd "$1" && pwd)
+export OSTRANE_OBJECTS CMAKE_CXX_COMPILER_LAUNCHER=$PWD/scripts/object_from_build.sh
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -23,6 +26,8 @@ steps=$(<test.sh)
 cat >"$work/replacements" <<'EOS'
 sudo() { "$@"; }
 ./test.sh() { :; }
+# The tests have been run before.
+ctest() { [ -x build/bin/ostrane_tests ]; }
 # The tool runs until timeout ends it.
 build/bin/ostrane-dat-tool() {
   local status=0
@@ -58,7 +63,7 @@ run_commands_in CONTRIBUTING.md
   exit 1
 }
 
-left=$(find "$work/installed" ! -type d)
+left=$(find "$work/installed" -mindepth 1)
 [ -z "$left" ] || {
   echo "Left after uninstalling: $left" >&2
   exit 1

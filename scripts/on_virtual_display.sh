@@ -4,6 +4,7 @@
 set -euo pipefail
 
 work=$(mktemp -d)
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$work}  # else each program with Qt prints a warning
 started=()
 end_all() {
   [ ${#started[@]} -eq 0 ] || kill "${started[@]}" 2>/dev/null || true

@@ -35,10 +35,11 @@ as_root() {
   fi
 }
 
+can_install() {
+  command -v apt-get >/dev/null && { [ "$(id -u)" -eq 0 ] || { command -v sudo >/dev/null && sudo true; }; }
+}
+
 apt_install() {
-  command -v apt-get >/dev/null || return
-  [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null || return
-  echo "Installing $*"
   as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update &&
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -qy -o Dpkg::Use-Pty=0 \
       install --no-install-recommends "$@"
@@ -48,10 +49,16 @@ need_packages() {
   local missing
   mapfile -t missing < <(missing_packages "$@")
   [ ${#missing[@]} -gt 0 ] || return 0
-  apt_install "${missing[@]}" || {
+  can_install || {
     echo "Not installed: ${missing[*]}" >&2
     echo "Without the rights to install packages, ask an administrator for:" >&2
     echo "  apt-get install ${missing[*]}" >&2
+    return 1
+  }
+  echo "Installing ${missing[*]}"
+  apt_install "${missing[@]}" || {
+    echo "apt-get failed; its messages are above. Without a network it cannot load packages." >&2
+    echo "Still missing: $(missing_packages "$@" | xargs)" >&2
     return 1
   }
 }

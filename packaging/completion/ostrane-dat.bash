@@ -1,7 +1,25 @@
 # Completion of ostrane-dat for bash.
+
+# Prints a word of the command line without quotes and backslashes, and ~/ as the home folder. Nothing
+# else is expanded.
+_ostrane_dat_unquoted() {
+  local word=$1
+  [[ $word != '~/'* ]] || word=$HOME/${word#'~/'}
+  xargs printf %s <<<"$word" 2>/dev/null
+}
+
+# Completes names of entries of the archive $1. They may contain anything, so compgen -W, which expands
+# its words, is not for them.
+_ostrane_dat_names() {
+  local name start=${2#[\"\']}
+  while IFS= read -r name; do
+    [[ $name != "${start^^}"* ]] || COMPREPLY+=("$name")
+  done < <(ostrane-dat list "$(_ostrane_dat_unquoted "$1")" 2>/dev/null)
+}
+
 _ostrane_dat() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local command=${COMP_WORDS[1]} options= position=1 word i
+  local command=${COMP_WORDS[1]} options= archive= i
   COMPREPLY=()
   if [ "$COMP_CWORD" -eq 1 ]; then
     mapfile -t COMPREPLY < <(compgen -W 'list extract build add remove compare check export import
@@ -22,7 +40,11 @@ _ostrane_dat() {
       ;;
     --pace | --scale) return ;;
     -d)
-      mapfile -t COMPREPLY < <(compgen -d -- "$current")
+      compopt -o dirnames
+      return
+      ;;
+    -o | --icon-names | --palette | --like)
+      compopt -o default
       return
       ;;
   esac
@@ -30,20 +52,22 @@ _ostrane_dat() {
     mapfile -t COMPREPLY < <(compgen -W "$options --quiet --help" -- "$current")
     return
   fi
-  for ((i = 2; i < COMP_CWORD; ++i)); do
-    word=${COMP_WORDS[i]}
-    [[ $word == -* || ${COMP_WORDS[i - 1]} == -[do] ]] || position=$((position + 1))
-  done
   case $command in
     extract | remove | export)
-      if [ "$position" -gt 1 ]; then
-        local IFS=$'\n'
-        mapfile -t COMPREPLY < <(compgen -W "$(ostrane-dat list "${COMP_WORDS[2]}" 2>/dev/null)" \
-          -- "${current^^}")
+      # The first word that is neither an option nor the value of one.
+      for ((i = 2; i < COMP_CWORD && ${#archive} == 0; ++i)); do
+        case ${COMP_WORDS[i]} in
+          -d | --as | --pace | --scale) [ "${COMP_WORDS[++i]}" != = ] || ((++i)) ;;
+          -*) ;;
+          *) archive=${COMP_WORDS[i]} ;;
+        esac
+      done
+      [ -z "$archive" ] || {
+        _ostrane_dat_names "$archive" "$current"
         return
-      fi
+      }
       ;;
   esac
-  mapfile -t COMPREPLY < <(compgen -f -- "$current")
+  compopt -o default  # readline knows quotes and ~
 }
 complete -o filenames -F _ostrane_dat ostrane-dat
