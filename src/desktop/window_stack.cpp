@@ -1,6 +1,7 @@
 #include "desktop/window_stack.h"
 
 #include <QApplication>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
