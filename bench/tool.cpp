@@ -9,6 +9,7 @@
 #include "forms_layer/message_box.h"
 #include "forms_layer/user.h"
 #include "handlers/start_up.h"
+#include "state/tool_state.h"
 
 namespace ostrane::bench {
 
@@ -23,6 +24,7 @@ void open_archive(const std::string& folder) {
   user::click(Form1.mnu_open);
   forms_layer::run_event([&] { Form2.Dir1.Path = folder; });
   user::click(Form2.Command1);
+  if (tool_state.archive_is_open == flag_false) throw std::runtime_error("no archive was read");
 }
 
 void extract_into(const std::string& folder) {
@@ -53,11 +55,11 @@ void resize_window(int width, int height, int max_icons) {
   user::focus(&Form1.List1);
 }
 
+bool dialog_is_open() { return Form4.Visible() || Form5.Visible() || Form6.Visible(); }
+
 void expect_success() {
-  for (const std::string& message : forms_layer::messages_shown()) {
-    const bool done = message.find("has been") != std::string::npos;
-    if (!done) throw std::runtime_error(message);
-  }
+  const auto& shown = forms_layer::messages_shown();
+  if (dialog_is_open() || shown.size() > 1) throw std::runtime_error(shown.back());
 }
 
 }  // namespace ostrane::bench

@@ -16,7 +16,9 @@ void compare_with(const std::string& folder, const std::string& file_name);
 // Sizes are in pixels. `max_icons` limits a series.
 void resize_window(int width, int height, int max_icons);
 
-// Throws if the tool has shown any message other than one of success.
+// A dialog stays open if its job failed.
+bool dialog_is_open();
+// Without a screen: throws if the job failed or showed more than its message of success.
 void expect_success();
 
 }  // namespace ostrane::bench
