@@ -18,7 +18,8 @@ inline std::string archive_bytes(const std::vector<archive_entry>& entries) {
   std::string bodies;
   std::vector<dat_record> records;
   const auto add = [&](const std::string& name) {
-    const std::size_t offset = first_entry_offset(entries.size()) + bodies.size();
+    const std::size_t offset =
+        static_cast<std::size_t>(first_entry_offset(entries.size())) + bodies.size();
     records.push_back({.offset = static_cast<std::int32_t>(offset), .name = {}});
     std::copy_n(name.begin(), std::min(name.size(), name_size), records.back().name.begin());
   };

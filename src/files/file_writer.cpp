@@ -81,7 +81,8 @@ file_writer::file_writer(binary_file& file, file_path target, const write_rules&
     return;
   }
   const int created = create(target_.system, false);
-  if (created != -EEXIST) {
+  // Windows tells at once that the name is that of a folder.
+  if (created != -EEXIST && created != -EISDIR) {
     own(created);
   } else if (rules_.mode == write_mode::in_place) {
     overwrite();
