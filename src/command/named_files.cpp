@@ -25,11 +25,7 @@ files::file_path named_file(const std::string& argument) {
 files::file_path shown_as_named(const fs::path& path) { return {path, path.u8string()}; }
 
 files::file_path named_link_target(const std::string& argument) {
-  files::file_path path = named_file(argument);
-  std::error_code failed;
-  const fs::path target = fs::canonical(path.system, failed);
-  if (!failed) path.system = target;
-  return path;
+  return {files::written_path(path_of_argument(argument)), files::as_utf8(argument)};
 }
 
 bool has_other_names(const fs::path& file) {
@@ -112,12 +108,9 @@ void write_result(const std::string& argument, std::string_view bytes) {
 
 void require_other_file(const std::string& output, const std::string& input) {
   if (output == "-") return;
-  const files::file_path path = named_file(output);
+  const files::file_path path = named_link_target(output);
   std::error_code failed;
-  if (!std::filesystem::equivalent(files::written_path(path.system), path_of_argument(input),
-                                   failed)) {
-    return;
-  }
+  if (!fs::equivalent(path.system, path_of_argument(input), failed)) return;
   throw files::file_error(files::file_error_number::permission_denied, files::file_action::write,
                           path.shown, "it is read by this command");
 }
