@@ -72,8 +72,8 @@ void append_utf8(std::u8string& to, char32_t point) {
 constexpr bool is_latin_small(unsigned char c) { return c >= 0xE0 && c != 0xF7 && c != 0xFF; }
 constexpr bool is_c1_small(unsigned char c) { return c == 0x9A || c == 0x9C || c == 0x9E; }
 
-bool is_ascii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+bool is_ascii(const auto& text) {
+  return std::all_of(text.begin(), text.end(), [](auto c) { return (c & 0x80) == 0; });
 }
 
 constexpr char upper_form(unsigned char byte) {
@@ -118,6 +118,7 @@ std::u8string to_utf8(std::string_view text) {
 }
 
 std::optional<std::string> from_utf8(std::u8string_view utf8) {
+  if (is_ascii(utf8)) return as_bytes(utf8);
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "files/code_page.h"
 #include "files/file_error.h"
@@ -58,12 +59,17 @@ const char* irregular_reason(const fs::path& path) {
 
 using paths_by_name = std::unordered_multimap<std::string, fs::path>;  // in upper case
 
-// A file system can find a file under another case than the listed one.
-bool is_listed(const paths_by_name& listed, const std::string& name, const fs::path& path) {
-  const auto [first, last] = listed.equal_range(upper_case(name));
+// A file system can find a file under another case than the listed one. Fills `by_name` at the
+// first call, as most folders need none.
+bool is_listed_in_other_case(paths_by_name& by_name, const std::vector<fs::path>& listed,
+                             const std::string& name, const fs::path& path) {
+  for (auto at = listed.begin(); by_name.size() < listed.size(); ++at) {
+    by_name.emplace(upper_case(name_as_text_lossy(at->filename().native())), *at);
+  }
+  const auto [first, last] = by_name.equal_range(upper_case(name));
   return std::any_of(first, last, [&path](const auto& other) {
     std::error_code failed;
-    return other.second.filename() == path.filename() || fs::equivalent(other.second, path, failed);
+    return fs::equivalent(other.second, path, failed);
   });
 }
 
@@ -115,18 +121,17 @@ std::vector<std::string> files_in(const file_path& folder) {
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<fs::path>& listed,
                                              const char* unknown) {
-  paths_by_name known;
-  for (const fs::path& path : listed) {
-    known.emplace(upper_case(name_as_text_lossy(path.filename().native())), path);
-  }
+  paths_by_name by_name;
+  std::unordered_set<fs::path::string_type> exact;
+  for (const fs::path& path : listed) exact.insert(path.filename().native());
   std::vector<unlisted_file> unlisted;
   for (const listed_entry& entry : listed_in(folder)) {
-    if (entry.is_folder || is_work_file(entry.name)) continue;
+    if (entry.is_folder || exact.contains(entry.name) || is_work_file(entry.name)) continue;
     const fs::path path = folder.system / entry.name;
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
     if (*reason == '\0' && !entry.is_file) reason = irregular_reason(path);
-    if (*reason == '\0' && !is_listed(known, *name, path)) reason = unknown;
+    if (*reason == '\0' && !is_listed_in_other_case(by_name, listed, *name, path)) reason = unknown;
     if (*reason == '\0') continue;
     unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
   }

@@ -25,8 +25,8 @@ fs::path folder_of(const fs::path& path) {
   return folder.empty() ? fs::path(".") : folder;
 }
 
-std::string upper_case_name(const fs::path& path) {
-  const std::optional<std::string> name = name_as_text(path.filename().native());
+std::string upper_case_name(const fs::path::string_type& system_name) {
+  const std::optional<std::string> name = name_as_text(system_name);
   return name ? upper_case(*name) : std::string();
 }
 
@@ -169,13 +169,15 @@ void file_writer::rename() {
 void file_writer::remove_other_spellings() {
   if (spelling_ != target_.system) system_calls.replace(target_.system, spelling_);
   const fs::path& kept = match(spelling_, new_file_.identity).is_same ? spelling_ : target_.system;
-  const std::string folded = upper_case_name(kept);
+  const fs::path::string_type name = kept.filename().native();
+  const std::string folded = upper_case_name(name);
+  if (folded.empty()) return;  // a name that the code page lacks has no other spelling
   std::vector<listed_entry> listed;
   system_calls.list(folder_, listed);
   for (const listed_entry& entry : listed) {
+    if (entry.is_folder || entry.name == name || upper_case_name(entry.name) != folded) continue;
+    if (!match(kept, new_file_.identity).is_same) continue;
     const fs::path other = folder_ / entry.name;
-    if (entry.is_folder || other.filename() == kept.filename()) continue;
-    if (upper_case_name(other) != folded || !match(kept, new_file_.identity).is_same) continue;
     if (match(other, new_file_.identity).is_other()) system_calls.remove_file(other);
   }
 }
