@@ -129,8 +129,9 @@ int report_left_out_icons(const import_options& options, const import_plan& plan
 
 int import_pictures(const import_options& options) {
   const import_plan plan = make_plan(options);
-  if (plan.icons.empty())
+  if (plan.icons.empty()) {
     throw data_error(files::as_utf8(options.sources.front()), "contains no pictures.");
+  }
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
     throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
   }

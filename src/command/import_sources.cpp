@@ -50,8 +50,9 @@ std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const
   if (found.empty()) return {};
   if (found.size() == 1) return found.front();
   for (const fs::path& file : found) {
-    if (files::upper_case(files::as_bytes(file.stem().u8string())) == files::upper_case(stem))
+    if (files::upper_case(files::as_bytes(file.stem().u8string())) == files::upper_case(stem)) {
       return file;
+    }
   }
   throw data_error(files::as_utf8(folder),
                    "contains the JSON of several exports. Give the name of one of them.");
