@@ -91,8 +91,8 @@ void run(const std::string& job, const std::string& folder, const std::string& c
   std::_Exit(0);
 }
 
-[[noreturn]] void measure(screen& shown, const std::string& job,
-                          const std::string& folder, const std::string& count) {
+[[noreturn]] void measure(screen& shown, const std::string& job, const std::string& folder,
+                          const std::string& count) {
   bench::show_and_wait(*shown.window_of(Form1));
   prepare(job, folder);
   if (job == "keys") press_keys(*shown.window_of(Form1));

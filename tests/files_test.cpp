@@ -2,6 +2,7 @@
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/file_system.h"
+#include "files/file_writer.h"
 #include "files/paths.h"
 #include "files/text.h"
 #include "files/text_file.h"
@@ -80,7 +81,7 @@ TEST_F(files_test, CopiesBlocksOfAnySize) {
   files::binary_file from;
   files::binary_file to;
   from.open_to_read(files::to_file_path("C:\\from"));
-  to.open_to_write(files::to_file_path("C:\\to"));
+  files::file_writer writer(to, files::to_file_path("C:\\to"));
   std::string expected;
   std::size_t at = 0;
   for (const std::size_t size : {100U, 700000U, 5000U, 4095U, 4096U, 1U, 200000U, 0U}) {
@@ -94,7 +95,7 @@ TEST_F(files_test, CopiesBlocksOfAnySize) {
     expected += bytes.substr(back, 9);
     from.seek(static_cast<std::int64_t>(at));
   }
-  to.close();
+  writer.keep();
   EXPECT_EQ(read("C:\\to"), expected);
 }
 

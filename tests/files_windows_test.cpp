@@ -2,6 +2,7 @@
 #include "failing_calls.h"
 #include "files/binary_file.h"
 #include "files/file_error.h"
+#include "files/file_writer.h"
 #include "files/paths.h"
 #include "tool_fixture.h"
 
@@ -16,7 +17,8 @@ TEST_F(files_windows_test, OpensNormalFilesOnly) {
     const std::string path = std::string("C:\\") + name;
     files::binary_file file;
     EXPECT_THROW(file.open_to_read(files::to_file_path(path)), files::file_error) << path;
-    EXPECT_THROW(file.open_to_write(files::to_file_path(path)), files::file_error) << path;
+    EXPECT_THROW(files::file_writer(file, files::to_file_path(path), {}), files::file_error)
+        << path;
   }
   EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
 }

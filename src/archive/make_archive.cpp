@@ -1,7 +1,6 @@
 #include "archive/make_archive.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "archive/index_reader.h"
 #include "archive/skipped_files.h"
@@ -95,7 +94,8 @@ void write(build_job& job) {
                          set_file_range(size);
                          show_current_file(job, index, name);
                        },
-                   .on_bytes = move_file_bar});
+                   .on_bytes = move_file_bar},
+                  {.replaces_read_only = true, .is_only_spelling = true});
 }
 
 bool list_is_of_other_folder(const build_job& job) {

@@ -1,15 +1,11 @@
-#include <algorithm>
-
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
-#include "command/program.h"
 #include "data/archive_writer.h"
 #include "files/case_insensitive_lookup.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_system.h"
-#include "files/file_writer.h"
 #include "files/system_name.h"
 
 namespace ostrane::command {
@@ -22,25 +18,25 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
-  files::file_path replaced;  // the target, or the same name in another case
-  fs::path old = {};          // the file to replace; "" if it is not in the folder
-  std::string old_name = {};  // in upper case
+  fs::path replaced = {};  // the target, or the same name in another case
   new_archive archive = {};
 };
 
-// An archive does not contain itself.
-bool is_target(const build_job& job, const std::string& name) {
-  if (files::upper_case(name) == archive_name) return true;
-  if (job.old.empty() || files::upper_case(name) != job.old_name) return false;
-  // Windows finds the old file under each spelling; elsewhere this may be another file.
+// An archive does not contain itself. Windows finds the old file under each spelling; elsewhere a
+// name in another case is another file.
+bool is_target(const build_job& job, const fs::path& path) {
+  const auto folded = [](const fs::path& file) {
+    return files::upper_case(files::name_as_text_lossy(file.filename().native()));
+  };
+  if (folded(path) == archive_name) return true;
   std::error_code failed;
-  return fs::equivalent(job.folder.system / files::system_name(name), job.old, failed);
+  return folded(path) == folded(job.replaced) && fs::equivalent(path, job.replaced, failed);
 }
 
 void list_files(build_job& job) {
   for (const std::string& name : files::files_in(job.folder)) {
-    if (is_target(job, name)) continue;
     const fs::path path = job.folder.system / files::system_name(name);
+    if (is_target(job, path)) continue;
     job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
   }
 }
@@ -49,8 +45,9 @@ void write(build_job& job) {
   const std::size_t count = job.archive.entries.size();
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
   if (job.options.archive != "-") {
-    const bool is_linked = has_other_names(job.replaced.system);
-    replace_archive(job.target, job.archive, shown_progress(count));
+    const bool is_linked = has_other_names(job.replaced);
+    replace_archive(job.target, job.archive, shown_progress(count),
+                    {.is_only_spelling = job.options.archive.empty()});
     if (is_linked) note_other_names(job.target);
     return;
   }
@@ -63,7 +60,7 @@ void write(build_job& job) {
 void report_skipped_files(const build_job& job, int& status) {
   for (const files::unlisted_file& file :
        files::unlisted_files_in(job.folder, file_paths(job.archive))) {
-    if (is_target(job, file.name)) continue;
+    if (is_target(job, file.path)) continue;
     print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
     status = status_differs;
   }
@@ -91,24 +88,16 @@ int report_files(const build_job& job) {
 
 int build(const build_options& options) {
   require_folder(options.folder);
-  build_job job = {
-      .options = options, .folder = named_file(options.folder), .target = {}, .replaced = {}};
+  build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
+  // The game finds its archive under each spelling. Another name means itself only.
   if (options.archive.empty()) {
     job.target = shown_as_named(job.folder.system / archive_name);
+    job.replaced = files::existing_spelling(job.target.system);
   } else {
     job.target = named_link_target(options.archive);
-  }
-  job.replaced = job.target;
-  // The game finds its archive under each spelling. Another name means itself only.
-  if (options.archive.empty()) job.replaced.system = files::existing_spelling(job.target.system);
-  std::error_code failed;
-  const fs::path parent = fs::absolute(job.replaced.system, failed).parent_path();
-  if (fs::equivalent(parent, job.folder.system, failed)) {
-    job.old = job.replaced.system;
-    job.old_name = files::upper_case(files::name_as_text(job.old.filename().native()).value_or(""));
+    job.replaced = job.target.system;
   }
   list_files(job);
-  if (options.archive != "-") files::require_writable(job.replaced);
   write(job);
   return report_files(job);
 }

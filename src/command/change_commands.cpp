@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
@@ -26,14 +24,14 @@ entry_source source_of(const std::string& argument, const files::file_path& arch
   const std::filesystem::path base = file.system.filename();
   const std::optional<std::string> name = files::name_as_text(base.native());
   if (!name) throw data_error(file.shown, "has characters in its name that the code page lacks.");
-  const std::string unsafe = unsafe_name_reason(std::string(files::trimmed(*name)));
+  entry_source source = source_of_file(*name, file);
+  const std::string entry = name_with_blanks(source.name);
+  const std::string unsafe = unsafe_name_reason(entry);
   if (!unsafe.empty()) throw data_error(file.shown, "cannot become an entry: " + unsafe + ".");
   std::error_code failed;
   if (std::filesystem::equivalent(file.system, archive.system, failed)) {
     throw data_error(file.shown, "is the archive itself.");
   }
-  entry_source source = source_of_file(*name, file);
-  const std::string entry = name_with_blanks(source.name);
   if (entry != files::upper_case(files::trimmed(*name))) {
     print_note({source.file.shown, "its name is too long; the entry is " + entry});
   }

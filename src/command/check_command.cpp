@@ -22,9 +22,7 @@ bool check_one(const std::string& archive) {
             entry.empty() ? subject : subject + u8": " + files::to_utf8(entry);
         print_line(files::printable(where + u8": " + files::to_utf8(fault)));
       },
-      [](std::size_t number, std::size_t count, const std::string& name) {
-        show_progress(number, count, name);
-      });
+      show_progress);
   return is_valid;
 }
 

@@ -142,6 +142,7 @@ void export_entry(entries_export& job, const archive_index& index, std::size_t i
   try {
     export_one(job, entry, kind_of_entry(name_without_nuls(index.records[i].name)));
   } catch (const data_error& error) {
+    require_unchanged(job.archive, job.stamp, "export");
     skip(job, entry, error.told.reason);
   }
 }

@@ -34,8 +34,11 @@ void set_binary_output() {
 }
 
 int open_standard_output() {
-  const int copy = _dup(1);
-  return copy < 0 ? -errno : copy;
+  const HANDLE self = GetCurrentProcess();
+  HANDLE copy = nullptr;
+  const BOOL done = DuplicateHandle(self, GetStdHandle(STD_OUTPUT_HANDLE), self, &copy, 0, FALSE,
+                                    DUPLICATE_SAME_ACCESS);
+  return done == 0 ? -EBADF : static_cast<int>(reinterpret_cast<std::intptr_t>(copy));
 }
 
 }  // namespace ostrane::command

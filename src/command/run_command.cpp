@@ -7,6 +7,7 @@
 
 #include "command/commands.h"
 #include "command/console.h"
+#include "command/interruption.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "version/version.h"
@@ -187,6 +188,7 @@ int run_chosen(const all_options& options) {
     flush_output();
   });
   if (!failed) return status;
+  check_interruption();  // a closed pipe is also a failure to write
   print_error(failed);
   return status_failed;
 }

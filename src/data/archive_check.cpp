@@ -28,8 +28,6 @@ struct archive_check {
   std::vector<bool> overlaps;  // for each entry
 };
 
-std::string number(std::int64_t value) { return std::to_string(value); }
-
 std::size_t entry_count(const archive_check& check) {
   return check.records.empty() ? 0 : check.records.size() - 1;
 }
@@ -41,7 +39,7 @@ std::string name_of(const archive_check& check, std::size_t index) {
 // An entry without a name is reported by its 1-based number.
 std::string shown_name(const archive_check& check, std::size_t index) {
   const std::string name = files::printable(name_of(check, index));
-  return name.empty() ? "entry " + number(static_cast<std::int64_t>(index) + 1) : name;
+  return name.empty() ? "entry " + std::to_string(index + 1) : name;
 }
 
 std::int64_t start_of(const archive_check& check, std::size_t index) {
@@ -83,9 +81,8 @@ void check_names(const archive_check& check) {
     if (!unsafe.empty()) check.report(shown_name(check, i), "cannot become a file: " + unsafe);
     const auto [first, is_new] = known.emplace(files::compare_key(name), i);
     if (!is_new) {
-      check.report(
-          shown_name(check, i),
-          "entry " + number(static_cast<std::int64_t>(first->second) + 1) + " has its name too");
+      check.report(shown_name(check, i),
+                   "entry " + std::to_string(first->second + 1) + " has its name too");
     }
   }
 }
@@ -96,13 +93,13 @@ void check_offsets(const archive_check& check) {
   for (std::size_t i = 0; i < entry_count(check); ++i) {
     const std::string name = shown_name(check, i);
     const std::int64_t start = start_of(check, i);
-    const std::string offset = "its offset " + number(start);
+    const std::string offset = "its offset " + std::to_string(start);
     if (start < 0) check.report(name, offset + " is below 0");
     if (start >= 0 && start < after_index) check.report(name, offset + " is in the index");
     if (start > check.file_size) check.report(name, offset + " is after the end of the archive");
     if (size_of(check, i) < 0) {
-      check.report(name,
-                   offset + " is out of order: the next one is " + number(start_of(check, i + 1)));
+      check.report(name, offset + " is out of order: the next one is " +
+                             std::to_string(start_of(check, i + 1)));
     } else if (start >= 0 && start <= check.file_size &&
                start + size_of(check, i) > check.file_size) {
       const std::int64_t excess = start + size_of(check, i) - check.file_size;
@@ -147,14 +144,14 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
       break;
     case entry_kind::palette:
       if (size != palette_size) {
-        check.report(
-            name, "a palette has " + number(palette_size) + " bytes, this one has " + number(size));
+        check.report(name, "a palette has " + std::to_string(palette_size) +
+                               " bytes, this one has " + std::to_string(size));
       }
       break;
     case entry_kind::text:
       if (size > max_shown_text) {
-        check.report(name, "of its " + number(size) + " bytes only " + number(max_shown_text) +
-                               " are shown");
+        check.report(name, "of its " + std::to_string(size) + " bytes only " +
+                               std::to_string(max_shown_text) + " are shown");
       }
       break;
     case entry_kind::other:

@@ -11,7 +11,6 @@
 #include "data/number_text.h"
 #include "files/code_page.h"
 #include "files/file_system.h"
-#include "files/file_writer.h"
 #include "files/text.h"
 
 namespace ostrane {
@@ -172,14 +171,10 @@ void write_archive_to(files::binary_file& to, const new_archive& archive,
 }
 
 void replace_archive(const files::file_path& target, const new_archive& archive,
-                     const job_progress& progress) {
-  // The game has one archive, in any case of its name.
-  const bool is_game_archive = !archive.old && target.system.filename() == archive_name;
+                     const job_progress& progress, files::write_rules rules) {
+  rules.mode = files::write_mode::durable;
   files::binary_file output;
-  files::file_writer to(output, target,
-                        {.mode = files::write_mode::durable,
-                         .replaces_read_only = is_game_archive,
-                         .is_only_spelling = is_game_archive});
+  files::file_writer to(output, target, rules);
   write_archive_to(output, archive, progress);
   to.keep([&archive] {
     // Another program may have written to the old archive or replaced it meanwhile.

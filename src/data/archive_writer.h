@@ -8,6 +8,7 @@
 
 #include "data/archive_index.h"
 #include "data/job_progress.h"
+#include "files/file_writer.h"
 
 namespace ostrane {
 
@@ -60,10 +61,9 @@ void make_index(new_archive& archive, const std::function<void(std::size_t index
 void write_archive_to(files::binary_file& to, const new_archive& archive,
                       const job_progress& progress);
 
-// The same, but replaces `target` atomically, which is the old archive if there is one. After any
-// failure the target is unchanged. Without an old archive a file that is named OSTRANE.DAT replaces
-// all files whose names differ from this in case only.
+// The same, but replaces `target` durably, which is the old archive if there is one. The mode of
+// the rules is ignored.
 void replace_archive(const files::file_path& target, const new_archive& archive,
-                     const job_progress& progress);
+                     const job_progress& progress, files::write_rules rules = {});
 
 }  // namespace ostrane

@@ -90,8 +90,10 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
     return write_entry(job, name, size);
   } catch (const files::file_error& error) {
     if (error.number == files::file_error_number::disk_full) throw;
+    // A read error is one of the archive.
+    const bool is_of_archive = error.action == files::file_action::read;
     const std::string& sentence = error.told.reason;
-    return "its file " + sentence.substr(0, sentence.size() - 1);
+    return (is_of_archive ? "the archive " : "its file ") + sentence.substr(0, sentence.size() - 1);
   }
 }
 

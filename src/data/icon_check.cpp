@@ -16,8 +16,6 @@ constexpr std::int64_t max_reads_per_byte = 64;
 
 using report_fault = std::function<void(const std::string&)>;
 
-std::string number(std::int64_t value) { return std::to_string(value); }
-
 // Checks whether anything is painted outside the picture.
 struct bounds_canvas {
   const icon_head& head;
@@ -51,20 +49,20 @@ void check_head(const icon_file_check& check) {
   if (std::int64_t{icons.end} - icons.start < std::int64_t{shp_head_size}) {
     check.report("it is too short for the head of an icon file");
   } else if (count < 0) {
-    check.report("it gives " + number(count) + " as the number of its icons");
+    check.report("it gives " + std::to_string(count) + " as the number of its icons");
   } else if (count > max_icons_per_file) {
-    check.report("it gives " + number(count) + " as the number of its icons; at most " +
-                 number(max_icons_per_file) + " are read");
+    check.report("it gives " + std::to_string(count) + " as the number of its icons; at most " +
+                 std::to_string(max_icons_per_file) + " are read");
   } else if (icons.positions.size() < static_cast<std::size_t>(count)) {
-    check.report("it gives " + number(count) +
+    check.report("it gives " + std::to_string(count) +
                  " as the number of its icons; its directory has room for " +
-                 number(static_cast<std::int64_t>(icons.positions.size())));
+                 std::to_string(icons.positions.size()));
   }
 }
 
 std::string range_text(const char* what, std::int32_t from, std::int32_t to, std::int32_t highest) {
-  return std::string(what) + " " + number(from) + " to " + number(to) + " of 0 to " +
-         number(highest);
+  return std::string(what) + " " + std::to_string(from) + " to " + std::to_string(to) +
+         " of 0 to " + std::to_string(highest);
 }
 
 // Returns the fault of an icon head, or "".
@@ -99,7 +97,7 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   check.bytes_left_to_read -= used;
   if (canvas.paints_outside) check.report(icon + "its stream paints outside the picture");
   if (check.stream.stream_ended) {
-    check.report(icon + "its stream ends before row " + number(head.row_end));
+    check.report(icon + "its stream ends before row " + std::to_string(head.row_end));
     return;
   }
   const auto next = std::upper_bound(check.starts.begin(), check.starts.end(), at - 1);
@@ -111,10 +109,11 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
 }
 
 void check_icon(icon_file_check& check, std::size_t index) {
-  const std::string icon = "icon " + number(static_cast<std::int64_t>(index) + 1) + ": ";
+  const std::string icon = "icon " + std::to_string(index + 1) + ": ";
   const std::int64_t at = std::int64_t{check.icons.positions[index]} - 1;
   if (at < check.icons.start || at + std::int64_t{icon_head_size} > check.icons.end) {
-    check.report(icon + "its offset " + number(at - check.icons.start) + " is outside the entry");
+    check.report(icon + "its offset " + std::to_string(at - check.icons.start) +
+                 " is outside the entry");
     return;
   }
   icon_head head;
@@ -159,8 +158,8 @@ void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t 
       is_known[known] = true;
     }
     if (check.bytes_left_to_read < 0) {
-      report("its streams share too many bytes; from icon " +
-             number(static_cast<std::int64_t>(i) + 1) + " on they were not checked");
+      report("its streams share too many bytes; from icon " + std::to_string(i + 1) +
+             " on they were not checked");
       return;
     }
     check_icon(check, i);

@@ -24,14 +24,6 @@ void binary_file::open_to_read(const file_path& path) {
   set_file(system_calls.open_to_read(path.system), false, file_action::open);
 }
 
-bool binary_file::open_to_write(const file_path& path) {
-  prepare(path.shown);
-  const int created = system_calls.open_new(path.system, false);
-  const bool exists = created == -EEXIST;
-  set_file(exists ? system_calls.open_to_write(path.system) : created, true, file_action::open);
-  return !exists;
-}
-
 void binary_file::prepare(const std::u8string& shown_path) {
   abandon();
   path_ = shown_path;

@@ -23,10 +23,6 @@ class binary_file {
   ~binary_file() { abandon(); }
 
   void open_to_read(const file_path& path);
-  // Creates a missing file and returns true. Overwrites an existing file from its first byte,
-  // without truncating it, and returns false.
-  bool open_to_write(const file_path& path);
-
   // Closes an open file and allocates the buffer for the next one, so that a lack of memory leaves
   // no empty file. `shown_path` is the path for messages.
   void prepare(const std::u8string& shown_path);

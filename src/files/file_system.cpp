@@ -133,7 +133,7 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
     if (*reason == '\0' && !entry.is_file) reason = irregular_reason(path);
     if (*reason == '\0' && !is_listed_in_other_case(by_name, listed, *name, path)) reason = unknown;
     if (*reason == '\0') continue;
-    unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), reason});
+    unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), path, reason});
   }
   std::sort(unlisted.begin(), unlisted.end(),
             [](const auto& a, const auto& b) { return a.name < b.name; });

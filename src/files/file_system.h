@@ -25,7 +25,8 @@ std::vector<std::string> files_in(const std::string& path);
 std::vector<std::string> files_in(const file_path& folder);
 
 struct unlisted_file {
-  std::string name;    // "?" replaces a character that the code page lacks
+  std::string name;  // "?" replaces a character that the code page lacks
+  std::filesystem::path path;
   const char* reason;  // a sentence fragment
 };
 

@@ -135,19 +135,14 @@ void file_writer::overwrite() {
   require_other(target_, old_file_, rules_);
 }
 
-void file_writer::keep(const std::function<void()>& before_rename) {
+void file_writer::keep(const std::function<void()>& last_check) {
   if (is_durable()) {
     file_.flush(true);
   } else {
     file_.close();
   }
-  if (new_file_.is_owned && new_file_.path != target_.system) {
-    const path_match found = match(new_file_.path, new_file_.identity);
-    if (found.error < 0) fail(target_.shown, file_action::write, found.error);
-    if (!found.is_same) fail_to_write(target_, "another program has moved the new file");
-    if (before_rename) before_rename();
-    rename();
-  }
+  if (last_check && is_new_) last_check();
+  if (is_new_ && new_file_.path != target_.system) rename();
   new_file_.is_owned = false;
   file_.abandon();
   if (rules_.is_only_spelling) ignore_failure([this] { remove_other_spellings(); });
@@ -157,6 +152,9 @@ void file_writer::keep(const std::function<void()>& before_rename) {
 // A network file system can report a failure although it renamed the file, or a success although it
 // did not.
 void file_writer::rename() {
+  const path_match written = match(new_file_.path, new_file_.identity);
+  if (written.error < 0) fail(target_.shown, file_action::write, written.error);
+  if (!written.is_same) fail_to_write(target_, "another program has moved the new file");
   const int renamed = system_calls.replace(new_file_.path, target_.system);
   const path_match found = match(target_.system, new_file_.identity);
   if (found.is_same || (found.error < 0 && renamed >= 0)) return;

@@ -46,9 +46,9 @@ class file_writer {
   const file_identity& old_file() const { return old_file_; }
   const file_identity& written_file() const { return new_file_.identity; }
 
-  // Closes the file and gives it the name of the target. `before_rename` is called when only the
-  // rename is missing. If it throws, the old file stays.
-  void keep(const std::function<void()>& before_rename = nullptr);
+  // Closes the file and gives it the name of the target. `last_check` is called directly before the
+  // new file is kept. If it throws, the old file stays.
+  void keep(const std::function<void()>& last_check = nullptr);
 
  private:
   struct owned_file {

@@ -25,6 +25,11 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
     write_bytes(name, "other");
   }
   EXPECT_EQ(run("build in -o out/\xD0\xB0.dat").status, 0);
+  EXPECT_EQ(run("build in -o in/\xD0\xB0.dat").errors, "");
+  fs::remove("in/\xD0\xB0.dat");
+  write_bytes("game/ostrane.dat", "other");
+  EXPECT_EQ(run("build in -o game/OSTRANE.DAT").status, 0);
+  EXPECT_EQ(bytes_of("game/ostrane.dat"), "other");
   EXPECT_EQ(run("build in -o out/b.dat").status, 0);
   EXPECT_EQ(bytes_of("out/B.DAT"), "other");
   EXPECT_EQ(files_at("out").size(), 5U);

@@ -157,6 +157,9 @@ TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
     EXPECT_TRUE(bytes_of("a.dat").starts_with(archive_bytes(entries) + "x")) << call;
     EXPECT_EQ(files_at(".").size(), 1U);
   }
+  write_bytes("a.dat", archive_bytes(entries));
+  EXPECT_EQ(run_beside_a_writer("extract a.dat A.TXT -d out", "read_some").status, 2);
+  EXPECT_TRUE(files_at("out").empty());
 }
 
 // Each call fails in turn: the archive is the old or the new one, and no other file remains.

@@ -185,8 +185,9 @@ TEST_F(pictures_test, DoesNotExportAnArchiveThatChanges) {
   write_archive(shp_file(std::vector<picture>(2, picture(9, 9))));
   const std::string changed =
       "The archive was written to during the export. Start the export again.\n";
-  EXPECT_EQ(run_beside_a_writer("export a.dat *").errors,
-            "ostrane-dat: F.SHP: " + changed + "ostrane-dat: GAME.PAL: " + changed);
+  const result seen = run_beside_a_writer("export a.dat *");
+  EXPECT_EQ(seen.status, 2);
+  EXPECT_EQ(seen.errors, "ostrane-dat: " + changed);
   EXPECT_EQ(files_at(".").size(), 1U);
 }
 
