@@ -44,11 +44,10 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
 // Opens a binary file that writes to standard output.
 void open_output(files::binary_file& file);
 
-// Replaces a file atomically, or writes to standard output for "-".
+// Replaces a file durably, or writes to standard output for "-".
 void write_result(const std::string& argument, std::string_view bytes);
 
-// Throws file_error if the argument `output` names the same file as `input`, also through a link or
-// in another case.
+// Throws file_error if the argument `output` names the same file as `input`, also through a link.
 void require_other_file(const std::string& output, const std::string& input);
 
 }  // namespace ostrane::command
