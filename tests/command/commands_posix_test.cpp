@@ -45,6 +45,26 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
   EXPECT_EQ(bytes_of("a.dat"), archive_bytes({{"A.TXT", "a"}}));
 }
 
+// One rule for all commands that write. Root may write to all files.
+TEST_F(commands_posix_test, RefusesAReadOnlyArchive) {
+  write_bytes("in/A.TXT", "a");
+  write_bytes("a.dat", archive_bytes({{"A.TXT", "b"}}));
+  const auto before = files_at(".");
+  fs::permissions(".", fs::perms::all);
+  fs::permissions("in", fs::perms(0555));
+  fs::permissions("a.dat", fs::perms(0444));
+  run_in_process([&] {
+    drop_root();
+    for (const char* job : {"add a.dat in/A.TXT", "remove a.dat A.TXT", "build in -o a.dat"}) {
+      EXPECT_EQ(run(job).errors, "ostrane-dat: a.dat: cannot be written: access is not allowed.\n");
+    }
+    EXPECT_EQ(run("extract a.dat -d in/new").errors,
+              "ostrane-dat: in/new: cannot be made: access is not allowed.\n");
+    EXPECT_EQ(files_at("."), before);
+  });
+  fs::permissions("in", fs::perms::all);
+}
+
 TEST_F(commands_posix_test, ReportsWhatIsNoFile) {
   write_bytes("in/A.TXT", "a");
   fs::create_directory("in/folder");

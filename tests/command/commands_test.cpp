@@ -20,9 +20,14 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
   write_bytes("same.txt", "A.TXT\r\nMYFILE.TXT\r\nZ\xC4.DAT\r\n\r\n");
   write_bytes("other.txt", "A.TXT\nB.TXT\nMYFILE.TXT\n\n");
   write_bytes(u8"\u00E4\u20AC.txt", "new");
+  // Its name looks like UTF-8.
+  write_bytes("u.dat", archive_bytes({{"\xC3\xA9/", "1"}}));
   const std::string error = "ostrane-dat: ";
   const std::tuple<std::string, int, std::string> cases[] = {
       {"list a.dat", 0, "A.TXT\nMY FILE.TXT\nZ\xC3\x84.DAT\n"},
+      {"list u.dat", 0, "\u00C3\u00A9/\n"},
+      {"extract u.dat", 1,
+       error + "\u00C3\u00A9/: not extracted: its name contains a path separator\n"},
       {"list \xD0\x96.dat", 2, error + "\xD0\x96.dat: cannot be opened: it is not there.\n"},
       {"list none", 2, error + "none: cannot be opened: it is not there.\n"},
       {"list a.dat --nothing", 2,
@@ -62,6 +67,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
 
 TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
   write_bytes("out/A.TXT", std::string(100, 'o'));
+  write_bytes("out/.A.TXT.000000000000000a.new", "left by a killed run");
   EXPECT_EQ(run("extract a.dat -d out").status, 0);
   EXPECT_EQ(bytes_of("out/A.TXT"), entries[0].bytes);
   EXPECT_EQ(run("build out -o b.dat").status, 0);
