@@ -70,6 +70,7 @@ TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
   write_bytes("out/.A.TXT.000000000000000a.new", "left by a killed run");
   EXPECT_EQ(run("extract a.dat -d out").status, 0);
   EXPECT_EQ(bytes_of("out/A.TXT"), entries[0].bytes);
+  EXPECT_EQ(files_at("out").size(), entries.size());
   EXPECT_EQ(run("build out -o b.dat").status, 0);
   EXPECT_EQ(bytes_of("b.dat"), bytes_of("a.dat"));
   write_bytes("self/SELF.DAT", archive_bytes({{"SELF.DAT", "1"}}));
