@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   write_bytes(file, archive);
   std::size_t faults = 0;
   check_archive(
-      {file, "checked.dat:"},
+      {file, u8"checked.dat"},
       [&faults](const std::string&, const std::string& fault) {
         fuzz::check(!fault.empty() && fault.find('\n') == fault.npos, "a fault is a line");
         ++faults;

@@ -21,7 +21,7 @@ void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   const std::string bytes = shp_file({new_icon(drawn, known)});
   write_bytes(path, bytes);
   files::binary_file file;
-  file.open_to_read({path, "made.shp"});
+  file.open_to_read({path, u8"made.shp"});
   const icon_file icons = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
   icon_head head;
   fuzz::check(read_icon_head(file, icons.positions.at(0), head), "an icon is made");
