@@ -129,9 +129,10 @@ std::vector<std::pair<std::size_t, std::size_t>> equal_names(
   return equal;
 }
 
-std::vector<std::filesystem::path> file_paths(const new_archive& archive) {
-  std::vector<std::filesystem::path> paths;
-  for (const entry_source& entry : archive.entries) paths.push_back(entry.file.system);
+std::vector<std::filesystem::path::string_type> file_paths(const new_archive& archive) {
+  std::vector<std::filesystem::path::string_type> paths;
+  paths.reserve(archive.entries.size());
+  for (const entry_source& entry : archive.entries) paths.push_back(entry.file.system.native());
   return paths;
 }
 

@@ -48,8 +48,8 @@ void add_files(new_archive& archive, const std::vector<entry_source>& files);
 std::vector<std::pair<std::size_t, std::size_t>> equal_names(
     const std::vector<entry_source>& entries);
 
-// Returns the paths of the files that become entries.
-std::vector<std::filesystem::path> file_paths(const new_archive& archive);
+// Returns the native paths of the files that become entries.
+std::vector<std::filesystem::path::string_type> file_paths(const new_archive& archive);
 
 // Measures the sources and sets `records`. `on_entry` is called before each of them and may be
 // null. Throws file_error, and data_error if there are too many entries or bytes, if an old entry

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -61,10 +62,11 @@ using paths_by_name = std::unordered_multimap<std::string, fs::path>;  // in upp
 
 // A file system can find a file under another case than the listed one. Fills `by_name` at the
 // first call, as most folders need none.
-bool is_listed_in_other_case(paths_by_name& by_name, const std::vector<fs::path>& listed,
+bool is_listed_in_other_case(paths_by_name& by_name,
+                             const std::vector<fs::path::string_type>& listed,
                              const std::string& name, const fs::path& path) {
   for (auto at = listed.begin(); by_name.size() < listed.size(); ++at) {
-    by_name.emplace(upper_case(name_as_text_lossy(at->filename().native())), *at);
+    by_name.emplace(upper_case(name_as_text_lossy(fs::path(*at).filename().native())), *at);
   }
   const auto [first, last] = by_name.equal_range(upper_case(name));
   return std::any_of(first, last, [&path](const auto& other) {
@@ -119,11 +121,16 @@ std::vector<std::string> files_in(const file_path& folder) {
 }
 
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
-                                             const std::vector<fs::path>& listed,
+                                             const std::vector<fs::path::string_type>& listed,
                                              const char* unknown) {
   paths_by_name by_name;
-  std::unordered_set<fs::path::string_type> exact;
-  for (const fs::path& path : listed) exact.insert(path.filename().native());
+  // The last names of the paths.
+  using native_view = std::basic_string_view<fs::path::value_type>;
+  std::unordered_set<native_view> exact;
+  exact.reserve(listed.size());
+  for (const native_view path : listed) {
+    exact.insert(path.substr(path.rfind(fs::path::preferred_separator) + 1));
+  }
   std::vector<unlisted_file> unlisted;
   for (const listed_entry& entry : listed_in(folder)) {
     if (entry.is_folder || exact.contains(entry.name) || is_work_file(entry.name)) continue;

@@ -30,11 +30,11 @@ struct unlisted_file {
   const char* reason;  // a sentence fragment
 };
 
-// What a folder contains besides folders and the files `listed` in it, sorted by name, without the
-// hidden files of copies of the tool that write there. `unknown` is the reason for a file that
-// could be listed. Throws file_error.
+// What a folder contains besides folders and the files with the paths `listed`, sorted by name,
+// without the hidden files of copies of the tool that write there. `unknown` is the reason for a
+// file that could be listed. Throws file_error.
 std::vector<unlisted_file> unlisted_files_in(
-    const file_path& folder, const std::vector<std::filesystem::path>& listed,
+    const file_path& folder, const std::vector<std::filesystem::path::string_type>& listed,
     const char* unknown = "it came after the files were listed");
 
 }  // namespace files
