@@ -147,7 +147,7 @@ std::size_t binary_file::write_from(binary_file& source, std::size_t max) {
 file_info binary_file::info() {
   file_info found;
   const int status = system_calls.info_of(file_, found);
-  if (status < 0) fail(file_action::read, status);
+  if (status < 0) fail(writes_ ? file_action::write : file_action::read, status);
   return found;
 }
 
