@@ -1,12 +1,10 @@
+#include "answering_screen.h"
 #include "failing_calls.h"
-#include "forms_layer/screen_services.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 
 namespace ostrane {
 namespace {
-
-using forms_layer::answers;
 
 struct context_menu_test : icon_test {
   // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, refused and blank.
@@ -30,11 +28,12 @@ struct context_menu_test : icon_test {
   static std::string pick(const std::function<void()>& open, std::size_t item, const char* typed,
                           std::size_t kind) {
     std::string seen;
-    answers.pick_item = [&](const forms_layer::context_menu& opened) {
+    answering_screen answers;
+    answers.pick = [&](const forms_layer::context_menu& opened) {
       for (const auto* offered : opened.items) seen += offered->Enabled() ? "+" : "-";
       return opened.items.at(item);
     };
-    answers.save_path = [&](const forms_layer::save_question& question) {
+    answers.save = [&](const forms_layer::save_question& question) {
       seen += " " + question.stem + question.kinds.at(kind).ending;
       const fs::path path = *typed == '\0' ? fs::path() : root / "d" / "out" / typed;
       return forms_layer::save_answer{path, kind};

@@ -3,11 +3,11 @@
 
 #include <set>
 
+#include "answering_screen.h"
 #include "child_process.h"
 #include "failing_calls.h"
 #include "failing_memory.h"
 #include "files/code_page.h"
-#include "forms_layer/screen_services.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 
@@ -106,12 +106,13 @@ struct failing_disk_test : tool_test {
     EXPECT_TRUE(Form1.Enabled() || Form6.Visible());
   }
 
+  answering_screen answers;
   // Shows icons, and answers with this menu item and this file to save.
-  static std::function<void()> answering(forms_layer::menu_item& item, const char* name) {
-    return [&item, name] {
+  std::function<void()> answering(forms_layer::menu_item& item, const char* name) {
+    return [this, &item, name] {
       click_row("I.SHP");
-      forms_layer::answers.pick_item = [&item](const auto&) { return &item; };
-      forms_layer::answers.save_path = [name](const auto&) {
+      answers.pick = [&item](const auto&) { return &item; };
+      answers.save = [name](const auto&) {
         return forms_layer::save_answer{root / "d" / "work" / name};
       };
     };

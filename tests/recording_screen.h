@@ -42,16 +42,6 @@ class recording_screen : public forms_layer::screen {
   void form_changed(forms_layer::form& changed, forms_layer::property_id what) override {
     if (what == forms_layer::property_id::focus) log.push_back(changed.designed.name);
   }
-  void menu_changed(forms_layer::form&, forms_layer::menu_item&) override {}
-  void timer_changed(forms_layer::timer&) override {}
-  void refresh(forms_layer::control&) override {}
-  forms_layer::menu_item* pick_item(forms_layer::context_menu&,
-                                    forms_layer::screen_point) override {
-    return nullptr;
-  }
-  forms_layer::save_answer ask_save_path(const forms_layer::save_question&) override { return {}; }
-  void copy_picture(const forms_layer::picture_box&) override {}
-  void end_process() override {}
 
  private:
   static std::string visible_windows() {

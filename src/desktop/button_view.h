@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "desktop/control_view.h"
-#include "forms_layer/button.h"
+#include "forms_layer/captioned.h"
 
 namespace desktop {
 

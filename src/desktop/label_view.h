@@ -3,7 +3,7 @@
 #include <QLabel>
 
 #include "desktop/control_view.h"
-#include "forms_layer/label.h"
+#include "forms_layer/captioned.h"
 
 namespace desktop {
 

@@ -1,30 +1,29 @@
 #include "forms_layer/application.h"
 
 #include "forms_layer/events.h"
-#include "forms_layer/file_service.h"
 #include "forms_layer/message_box.h"
-#include "forms_layer/screen_services.h"
+#include "forms_layer/screen.h"
 #include "forms_layer/user.h"
 
 namespace forms_layer {
 
 namespace {
 
-screen* attached = nullptr;
+screen none;
+screen* attached = &none;
 bool ended = false;
 
 }  // namespace
 
 application_info application;
-file_service system_files;
 
-screen* attached_screen() { return attached; }
+screen& the_screen() { return *attached; }
 
-void attach_screen(screen* shown) { attached = shown; }
+void attach_screen(screen* shown) { attached = shown != nullptr ? shown : &none; }
 
 void end_process() {
   ended = true;
-  if (attached != nullptr) attached->end_process();
+  attached->end_process();
 }
 
 bool process_ended() { return ended; }
@@ -33,7 +32,6 @@ void begin_process() {
   ended = false;
   clear_events();
   clear_messages();
-  answers = {};
   user::clear_focus();
 }
 

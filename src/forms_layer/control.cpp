@@ -33,9 +33,7 @@ void control::Move(std::int32_t left, std::int32_t top) {
   Top = top;
 }
 
-void control::Refresh() {
-  if (screen* on = attached_screen()) on->refresh(*this);
-}
+void control::Refresh() { the_screen().refresh(*this); }
 
 form& control::owner_form() { return parent.containing_form(); }
 
@@ -51,8 +49,6 @@ void control::on_changed(property_id what, bool differs) {
   if (differs) notify_screen(what);
 }
 
-void control::notify_screen(property_id what) {
-  if (screen* on = attached_screen()) on->control_changed(*this, what);
-}
+void control::notify_screen(property_id what) { the_screen().control_changed(*this, what); }
 
 }  // namespace forms_layer

@@ -2,20 +2,21 @@
 
 #include <algorithm>
 
-#include "forms_layer/file_service.h"
+#include "files/file_system.h"
+#include "files/paths.h"
 
 namespace forms_layer {
 
 void dir_list::set_path(const std::string& path) {
-  const std::string whole = system_files.full_path(path);
-  const std::vector<std::string> folders = system_files.folders_in(whole);
+  const std::string whole = files::full_path(path);
+  const std::vector<std::string> folders = files::folders_in(whole);
   const bool changed = whole != Path();
   store_path(whole);
   show(folders);
   if (changed && Change) Change();
 }
 
-void dir_list::Refresh() { show(system_files.folders_in(Path())); }
+void dir_list::Refresh() { show(files::folders_in(Path())); }
 
 void dir_list::show(const std::vector<std::string>& folders_inside) {
   const std::string& path = Path();

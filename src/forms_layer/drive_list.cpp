@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
-#include "forms_layer/file_service.h"
+#include "files/drives.h"
+#include "files/paths.h"
 
 namespace forms_layer {
 
 void drive_list::set_drive(const std::string& text) {
-  const std::string wanted = system_files.drive_named_by(text);
+  const std::string wanted = files::drive_text(files::drive_of(text));
   if (wanted == Drive()) return;
   Drive.value_ = wanted;
   select_row_of_drive();
@@ -15,10 +16,12 @@ void drive_list::set_drive(const std::string& text) {
 }
 
 void drive_list::about_to_show() {
-  rows_ = system_files.drives();
+  files::refresh_drives();
+  rows_.clear();
+  for (const files::drive& found : files::drives()) rows_.push_back(files::drive_text(found));
   if (Drive().empty()) {
     // A folder begins with "C:", a row with "c:".
-    const char letter = system_files.current_folder()[0];
+    const char letter = files::current_folder()[0];
     const std::string prefix = {static_cast<char>(letter - 'A' + 'a'), ':'};
     const auto is_current = [&prefix](const std::string& row) { return row.starts_with(prefix); };
     const auto found = std::find_if(rows_.begin(), rows_.end(), is_current);

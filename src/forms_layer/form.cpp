@@ -20,16 +20,12 @@ void form::on_changed(property_id what, bool differs) {
     for (control* c : controls()) c->about_to_show();
     if (!std::exchange(resized_once_, true) && Resize) Resize();
   }
-  if (screen* on = attached_screen()) on->form_changed(*this, what);
+  the_screen().form_changed(*this, what);
 }
 
-void form::Refresh() {
-  if (screen* on = attached_screen()) on->refresh(*this);
-}
+void form::Refresh() { the_screen().refresh(*this); }
 
-void form::SetFocus() {
-  if (screen* on = attached_screen()) on->form_changed(*this, property_id::focus);
-}
+void form::SetFocus() { the_screen().form_changed(*this, property_id::focus); }
 
 void form::set_client_size(std::int32_t width, std::int32_t height) {
   client_width_ = width;

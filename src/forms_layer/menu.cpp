@@ -13,8 +13,7 @@ menu_item::menu_item(menu& parent, const char* item_name, std::string caption)
 }
 
 void menu_item::on_changed(property_id /*what*/, bool differs) {
-  screen* on = attached_screen();
-  if (differs && on != nullptr) on->menu_changed(owner, *this);
+  if (differs) the_screen().menu_changed(owner, *this);
 }
 
 menu::menu(form& shown_on, const char* menu_name, std::string caption)

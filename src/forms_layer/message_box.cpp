@@ -12,11 +12,9 @@ std::function<void(const std::string&)> on_shown;
 
 }  // namespace
 
-void message_box(const std::string& text) {
-  if (screen* on = attached_screen()) {
-    on->message_box(application.Title, text);
-    return;
-  }
+void message_box(const std::string& text) { the_screen().message_box(application.Title, text); }
+
+void screen::message_box(const std::string& /*title*/, const std::string& text) {
   recorded.push_back(text);
   if (on_shown) on_shown(text);
 }

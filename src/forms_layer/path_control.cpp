@@ -2,13 +2,13 @@
 
 #include <exception>
 
-#include "forms_layer/file_service.h"
+#include "files/paths.h"
 
 namespace forms_layer {
 
 void path_control::about_to_show() {
   if (!Path().empty()) return;
-  Path.value_ = system_files.current_folder();
+  Path.value_ = files::current_folder();
   try {
     Refresh();
   } catch (const std::exception&) {

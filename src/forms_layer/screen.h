@@ -40,7 +40,8 @@ struct save_answer {
   std::size_t kind = 0;        // the selected one; the name may have another ending
 };
 
-// Shows the forms to a user. The forms also work without one.
+// Shows the forms to a user. This one shows nothing: it records the messages, picks nothing and
+// gives no path.
 class screen {
  public:
   screen() = default;
@@ -48,33 +49,33 @@ class screen {
   screen& operator=(const screen&) = delete;
   virtual ~screen() = default;
 
-  virtual void control_changed(control& changed, property_id what) = 0;
-  virtual void form_changed(form& changed, property_id what) = 0;
-  virtual void menu_changed(form& owner, menu_item& changed) = 0;
-  virtual void timer_changed(timer& changed) = 0;
+  virtual void control_changed(control&, property_id) {}
+  virtual void form_changed(form&, property_id) {}
+  virtual void menu_changed(form& /*owner*/, menu_item&) {}
+  virtual void timer_changed(timer&) {}
 
   // Let the screen repaint what changed, without handling user input. It may limit the rate.
-  virtual void refresh(form& shown) = 0;
-  virtual void refresh(control& shown) = 0;
+  virtual void refresh(form&) {}
+  virtual void refresh(control&) {}
 
   // Shows a modal box with an OK button and returns when the user closes it.
-  virtual void message_box(const std::string& title, const std::string& text) = 0;
+  virtual void message_box(const std::string& title, const std::string& text);
 
   // Opens a menu and returns the item that the user picks, or null.
-  virtual menu_item* pick_item(context_menu& opened, screen_point at) = 0;
+  virtual menu_item* pick_item(context_menu&, screen_point) { return nullptr; }
 
   // Shows the system's dialog for a file to save to. It asks before it returns an existing file.
-  virtual save_answer ask_save_path(const save_question& question) = 0;
+  virtual save_answer ask_save_path(const save_question&) { return {}; }
 
   // Puts the pixels of a picture on the clipboard; unset ones are transparent.
-  virtual void copy_picture(const picture_box& shown) = 0;
+  virtual void copy_picture(const picture_box&) {}
 
-  virtual void end_process() = 0;
+  virtual void end_process() {}
 };
 
-// The attached screen, or null. It is not owned and must live until another one, or null, is
-// attached.
-screen* attached_screen();
+// The attached screen, else one that shows nothing. A screen is not owned and must live until
+// another one, or null, is attached.
+screen& the_screen();
 void attach_screen(screen* shown);
 
 }  // namespace forms_layer

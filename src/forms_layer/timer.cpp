@@ -12,7 +12,7 @@ timer::timer(form& owner_form, const char* timer_name, std::int32_t interval, bo
 
 // Setting a property to its old value restarts the timer, too.
 void timer::on_changed(property_id /*what*/, bool /*differs*/) {
-  if (screen* on = attached_screen()) on->timer_changed(*this);
+  the_screen().timer_changed(*this);
 }
 
 }  // namespace forms_layer

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "forms_layer/events.h"
-#include "forms_layer/screen_services.h"
+#include "forms_layer/screen.h"
 
 namespace forms_layer::user {
 
@@ -41,7 +41,7 @@ std::string limited(const std::string& before, const std::string& after, std::si
 // The menu and its item are one event, so that the target of the menu does not change meanwhile.
 void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
   if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
-  const menu_item* picked = pick_item(*opened, at);
+  const menu_item* picked = the_screen().pick_item(*opened, at);
   if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
@@ -61,17 +61,11 @@ void focus(control* to) {
   run_event([to] { move_focus(to); });
 }
 
-void click(button& pressed) {
+void click(captioned& pressed) {
   run_event([&pressed] {
     if (!pressed.takes_input()) return;
-    move_focus(&pressed);
+    if (pressed.kind == control_kind::button) move_focus(&pressed);
     raise(pressed.Click);
-  });
-}
-
-void click(label& pressed) {
-  run_event([&pressed] {
-    if (pressed.takes_input()) raise(pressed.Click);
   });
 }
 
@@ -83,10 +77,7 @@ void click(menu_item& picked) {
 
 void cancel(form& window) {
   for (control* c : window.controls()) {
-    if (!c->designed.cancel) continue;
-    c->kind == control_kind::button ? click(static_cast<button&>(*c))
-                                    : click(static_cast<label&>(*c));
-    return;
+    if (c->designed.cancel) return click(static_cast<captioned&>(*c));
   }
 }
 

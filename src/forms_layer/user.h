@@ -11,8 +11,7 @@
 namespace forms_layer::user {
 
 // A mouse click or its keyboard equivalent.
-void click(button& pressed);
-void click(label& pressed);
+void click(captioned& pressed);
 void click(menu_item& picked);
 
 // Escape: clicks the control of the form whose design says `cancel`, if there is one.

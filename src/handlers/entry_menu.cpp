@@ -9,7 +9,7 @@
 #include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
-#include "forms_layer/screen_services.h"
+#include "forms_layer/screen.h"
 #include "state/open_archive.h"
 
 namespace ostrane {
@@ -49,7 +49,7 @@ void extract_one_entry() {
     report_skipped(name, unsafe);
     return;
   }
-  const forms_layer::save_answer answer = forms_layer::ask_save_path(
+  const forms_layer::save_answer answer = forms_layer::the_screen().ask_save_path(
       {.title = "Extract this entry", .stem = name, .kinds = {{"All files", ""}}});
   if (answer.path.empty()) return;
   extraction_result result;

@@ -14,7 +14,7 @@
 #include "files/work_files.h"
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
-#include "forms_layer/screen_services.h"
+#include "forms_layer/screen.h"
 #include "icons/motion.h"
 #include "state/open_archive.h"
 
@@ -110,22 +110,24 @@ bool prepare_picture_menu(std::int32_t slot) {
   return !Form1.Text6.Visible() && Form1.s16_image(slot).pixels() != nullptr;
 }
 
-void copy_picture() { forms_layer::copy_picture(Form1.s16_image(tool_state.menu_target)); }
+void copy_picture() {
+  forms_layer::the_screen().copy_picture(Form1.s16_image(tool_state.menu_target));
+}
 
 void save_picture() {
   const std::size_t number = icon_number_of(tool_state.menu_target);
   const std::string name =
       files::from_utf8_lossy(png_name(files::to_utf8(proposed_stem()), number));
   const forms_layer::save_answer answer =
-      forms_layer::ask_save_path({.title = "Save picture",
-                                  .stem = name.substr(0, name.rfind('.')),
-                                  .kinds = {{"PNG", ".png"}}});
+      forms_layer::the_screen().ask_save_path({.title = "Save picture",
+                                               .stem = name.substr(0, name.rfind('.')),
+                                               .kinds = {{"PNG", ".png"}}});
   save({.form = picture_form::picture, .first = number, .last = number}, answer, "picture");
 }
 
 void save_series() {
   const std::size_t first = icon_number_of(1);
-  const forms_layer::save_answer answer = forms_layer::ask_save_path(
+  const forms_layer::save_answer answer = forms_layer::the_screen().ask_save_path(
       {.title = "Save series",
        .stem = proposed_stem(),
        .kinds = {{"One PNG with all icons", "-sheet.png"},

@@ -4,7 +4,6 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
-#include "handlers/connect_file_service.h"
 #include "handlers/window_switching.h"
 #include "handlers/wiring.h"
 #include "state/tool_state.h"
@@ -14,7 +13,6 @@ namespace ostrane {
 void start_tool(const std::filesystem::path& program_folder, icon_exporter exporter) {
   files::ignore_size_limit_signal();
   forms_layer::begin_process();
-  connect_file_service();
   forms_layer::application.Title = "Ostrane.dat-tool";
   forms_layer::application.Path = program_folder;
   forms_layer::application.OutOfMemory = restore_windows;

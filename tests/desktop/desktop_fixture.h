@@ -13,7 +13,6 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
-#include "handlers/connect_file_service.h"
 
 namespace fs = std::filesystem;
 
@@ -51,7 +50,6 @@ struct Desktop : testing::Test {
     create_directories(folder / "sub");
     forms_layer::begin_process();
     files::set_drives({{'C', "one", folder}, {'D', "two", folder / "sub"}}, "C:\\");
-    ostrane::connect_file_service();
     forms_layer::attach_screen(&screen);
     for (int i = 1; i <= 5; ++i) form.pictures.Load(i);
     form.label.BackColor = ostrane::pale_cyan;
