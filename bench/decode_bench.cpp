@@ -6,7 +6,6 @@
 #include <numeric>
 
 #include "data.h"
-#include "data/entry_range.h"
 #include "data/icon_packer.h"
 #include "forms/forms.h"
 #include "forms_layer/user.h"

@@ -55,9 +55,9 @@ std::string build() {
 contents entries_of(const std::string& archive) {
   contents found;
   for (std::int32_t i = 0; i + 1 < Form1.List1.ListCount(); ++i) {
-    const auto from = static_cast<std::size_t>(entry_start(index_records(), i));
-    found.insert(
-        archive.substr(from, static_cast<std::size_t>(entry_end(index_records(), i)) - from));
+    const entry_range entry = range_of(index_records(), i);
+    found.insert(archive.substr(static_cast<std::size_t>(entry.start),
+                                static_cast<std::size_t>(size_of(entry))));
   }
   return found;
 }

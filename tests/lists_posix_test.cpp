@@ -97,7 +97,7 @@ TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {
     };
     failing_calls watched(INT32_MAX, {.reason = EPERM}, failing_name);
     watched.before_call = checked_call;
-    files::write_text(files::to_file_path("D:\\old"), "");
+    files::write_lines(files::to_file_path("D:\\old"), {});
     return mode_of("D:\\old");
   };
   write("D:\\old", "");

@@ -55,19 +55,17 @@ void show_current_entry(const std::string& path, std::size_t index, std::int32_t
 extraction_result extract(extraction_job& job) {
   std::int16_t total_bar_tick = 0;
   set_total_range(std::max(tool_state.record_count - 2, 0));
-  return extract_entries(
-      tool_state.archive_file, index_records(),
-      [&](const std::string& name) {
-        return files::file_path{job.names.find(job.system_folder, name),
-                                files::to_utf8(job.folder + name)};
-      },
-      [&](const std::string& name) { job.names.add(job.system_folder, name); },
-      {.on_file =
-           [&](std::size_t index, const std::string& name, std::int32_t size) {
-             move_total_bar(total_bar_tick, entries_per_bar_step, index);
-             show_current_entry(job.folder + name, index, size);
-           },
-       .on_bytes = move_file_bar});
+  return extract_entries(tool_state.archive_file, index_records(),
+                         [&](const std::string& name) {
+                           return files::file_path{job.names.find(job.system_folder, name),
+                                                   files::to_utf8(job.folder + name)};
+                         },
+                         {.on_file =
+                              [&](std::size_t index, const std::string& name, std::int32_t size) {
+                                move_total_bar(total_bar_tick, entries_per_bar_step, index);
+                                show_current_entry(job.folder + name, index, size);
+                              },
+                          .on_bytes = move_file_bar});
 }
 
 std::string result_message(const extraction_result& result, const std::string& target_folder) {

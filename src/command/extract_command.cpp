@@ -30,14 +30,13 @@ int extract(const extract_options& options) {
   files::binary_file file;
   open_unchanged(file, archive, index.stamp);
   files::case_insensitive_lookup names;
-  const extraction_result result = extract_entries(
-      file, index.records,
-      [&](const std::string& name) { return file_in(options.folder, name, names); },
-      [&](const std::string& name) { names.add(path_of_argument(options.folder), name); },
-      shown_progress(index.records.size()),
-      {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
-       .entries_are_adjacent = false,
-       .replaces_atomically = true});
+  const extraction_result result =
+      extract_entries(file, index.records,
+                      [&](const std::string& name) { return file_in(options.folder, name, names); },
+                      shown_progress(index.records.size()),
+                      {.is_wanted = [&chosen](std::size_t number) { return chosen[number]; },
+                       .entries_are_adjacent = false,
+                       .replaces_atomically = true});
   return report_skipped_entries(result);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 
@@ -7,14 +8,26 @@
 
 namespace ostrane {
 
-// Returns the file offset of entry `index` (0-based) as the archive's index gives it. The offset
-// may be negative or past the end of the file.
-std::int32_t entry_start(std::span<const dat_record> records, std::int32_t index);
+// The file offsets of an entry and after it, as the index gives them: they may be negative, in
+// disorder or past the end of the file.
+struct entry_range {
+  std::int32_t start;
+  std::int32_t end;
+};
 
-// Returns the offset after that entry, also unchecked. For the end record returns its own offset.
-std::int32_t entry_end(std::span<const dat_record> records, std::int32_t index);
+// The range of the entry of a 0-based index. That of the end record is empty.
+inline entry_range range_of(std::span<const dat_record> records, std::int32_t index) {
+  const auto at = static_cast<std::size_t>(index);
+  return {records[at].offset, records[std::min(at + 1, records.size() - 1)].offset};
+}
 
-// Sums of the offsets in an index can exceed 32 bits.
-std::int32_t clamp_to_int32(std::int64_t number);
+// Sums and differences of the offsets in an index can exceed 32 bits.
+inline std::int32_t clamp_to_int32(std::int64_t number) {
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, INT32_MIN, INT32_MAX));
+}
+
+inline std::int32_t size_of(const entry_range& range) {
+  return clamp_to_int32(std::int64_t{range.end} - range.start);
+}
 
 }  // namespace ostrane

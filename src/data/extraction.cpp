@@ -22,7 +22,6 @@ struct extraction {
   files::binary_file& archive;
   std::span<const dat_record> records;
   const entry_target& target;
-  const entry_file_created& on_created;
   const job_progress& progress;
   const extraction_choice& choice;
   files::binary_file file = {};
@@ -60,11 +59,7 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   const auto mode =
       job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
   files::file_writer to(job.file, job.target(name), {.mode = mode, .source = job.stamp.identity});
-  if (to.is_new()) {
-    job.on_created(name);
-  } else {
-    report_overwritten(job, to.old_file());
-  }
+  if (!to.is_new()) report_overwritten(job, to.old_file());
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   to.keep([&job] { require_unchanged(job.archive, job.stamp, "extraction"); });
   if (to.is_new()) report_overwritten(job, to.old_file());
@@ -100,8 +95,7 @@ std::string try_to_write_entry(extraction& job, const std::string& name, std::in
 void extract_entry(extraction& job, std::size_t index) {
   if (job.choice.is_wanted && !job.choice.is_wanted(index)) return;
   if (!job.choice.entries_are_adjacent) job.position = job.records[index].offset;
-  const std::int32_t size =
-      clamp_to_int32(std::int64_t{job.records[index + 1].offset} - job.records[index].offset);
+  const std::int32_t size = size_of(range_of(job.records, static_cast<std::int32_t>(index)));
   const std::string name = name_with_blanks(job.records[index].name);
   job.index = index;
   job.progress.on_file(index, name, size);
@@ -118,9 +112,9 @@ void extract_entry(extraction& job, std::size_t index) {
 }  // namespace
 
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
-                                  const entry_target& target, const entry_file_created& on_created,
-                                  const job_progress& progress, const extraction_choice& choice) {
-  extraction job{archive, records, target, on_created, progress, choice};
+                                  const entry_target& target, const job_progress& progress,
+                                  const extraction_choice& choice) {
+  extraction job{archive, records, target, progress, choice};
   job.result.stopped = files::failure_in([&] {
     job.stamp = archive.info().stamp;
     if (!records.empty()) job.position = records[0].offset;

@@ -20,11 +20,9 @@ struct extraction_result {
   files::failure stopped;             // why the job was aborted
 };
 
-// Returns the path of the file for an entry.
+// Returns the path of the file for an entry. Entries whose names differ in case only may get the
+// same file.
 using entry_target = std::function<files::file_path(const std::string& name)>;
-// Called with the name of an entry after its file was created, so that the caller's look-up of
-// names knows it: a later entry whose name differs in case only must be written to the same file.
-using entry_file_created = std::function<void(const std::string& name)>;
 
 struct extraction_choice {
   std::function<bool(std::size_t index)> is_wanted;  // null for all
@@ -39,8 +37,7 @@ struct extraction_choice {
 // and an archive that changes meanwhile abort the job; any other failure skips the entry. An
 // incomplete new file is removed. The archive is never overwritten.
 extraction_result extract_entries(files::binary_file& archive, std::span<const dat_record> records,
-                                  const entry_target& target, const entry_file_created& on_created,
-                                  const job_progress& progress,
+                                  const entry_target& target, const job_progress& progress,
                                   const extraction_choice& choice = {});
 
 }  // namespace ostrane

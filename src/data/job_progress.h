@@ -7,13 +7,14 @@
 
 namespace ostrane {
 
-// Progress callbacks of a job on many files.
+// Progress callbacks of a job on many files. Those not given do nothing.
 struct job_progress {
   // Called before each file with its 0-based index and its size in bytes.
-  std::function<void(std::size_t index, const std::string& name, std::int32_t size)> on_file;
+  std::function<void(std::size_t index, const std::string& name, std::int32_t size)> on_file =
+      [](auto&&...) {};
   // Called with the bytes copied in blocks of the current size. With each smaller size the count
   // starts again, so the bar moves back.
-  std::function<void(std::int32_t value)> on_bytes;
+  std::function<void(std::int32_t value)> on_bytes = [](auto&&...) {};
 };
 
 }  // namespace ostrane

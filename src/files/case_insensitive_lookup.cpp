@@ -45,23 +45,15 @@ fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string
   const bool is_single = !known.is_read && ++known.lookups <= max_single_lookups;
   if (is_single && name_exists(exact)) return exact;
   read(known, folder);
-  const auto found = known.names.find(upper_case(name));
-  if (found == known.names.end() || found->second == as_given.native() || name_exists(exact)) {
-    return exact;
-  }
+  // If no name is found, the caller may create this one.
+  const auto [found, is_new] = known.names.emplace(upper_case(name), as_given.native());
+  if (is_new || found->second == as_given.native() || name_exists(exact)) return exact;
   fs::path other_case = folder / found->second;
   if (name_exists(other_case)) return other_case;
   // The file was deleted after the folder was read. Another spelling may exist.
   known = {};
   read(known, folder);
-  const auto left = known.names.find(upper_case(name));
-  return left == known.names.end() ? exact : folder / left->second;
-}
-
-void case_insensitive_lookup::add(const fs::path& folder, const std::string& name) {
-  const auto known = folders_.find(folder.native());
-  if (known == folders_.end() || !known->second.is_read) return;
-  known->second.names.emplace(upper_case(name), system_name(name).native());
+  return folder / known.names.emplace(upper_case(name), as_given.native()).first->second;
 }
 
 fs::path existing_spelling(const fs::path& path) {

@@ -11,11 +11,9 @@ namespace files {
 class case_insensitive_lookup {
  public:
   // Returns the path of `name` in `folder`: the exact name if it exists, else one that differs in
-  // case only, else the name as given.
+  // case only, else the name as given. The caller may create that file: a later look-up of a name
+  // that differs in case only finds it.
   std::filesystem::path find(const std::filesystem::path& folder, const std::string& name);
-
-  // Adds a file `name` that was created in `folder` to the cache.
-  void add(const std::filesystem::path& folder, const std::string& name);
 
   // Cache of system_path: system paths of folders by their full tool paths, which end in "\".
   std::unordered_map<std::string, std::filesystem::path> known_folders;

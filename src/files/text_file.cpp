@@ -52,7 +52,10 @@ std::string text_reader::read_line() {
   return line;
 }
 
-void write_text(const file_path& path, std::string_view text, const file_identity& source) {
+void write_lines(const file_path& path, std::span<const std::string> lines,
+                 const file_identity& source) {
+  std::string text;
+  for (const std::string& line : lines) text.append(line).append("\r\n");
   const file_path target = {written_path(path.system), path.shown};
   const write_rules rules = {.mode = write_mode::durable, .source = source};
   binary_file file;

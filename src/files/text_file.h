@@ -1,7 +1,7 @@
 #pragma once
 
+#include <span>
 #include <string>
-#include <string_view>
 
 #include "files/binary_file.h"
 
@@ -25,10 +25,11 @@ class text_reader {
   std::size_t position_ = 0;
 };
 
-// Replaces a file durably by this text. If the path is a link, its target is replaced. `source` is
-// the file that the text comes from; it is never written to. If the system refuses a new file in
-// the folder or its rename, the old file is overwritten in place; a failure then leaves a part of
-// the text. Throws file_error.
-void write_text(const file_path& path, std::string_view text, const file_identity& source = {});
+// Replaces a file durably by these lines, which end in CR LF. If the path is a link, its target is
+// replaced. `source` is the file that the text comes from; it is never written to. If the system
+// refuses a new file in the folder or its rename, the old file is overwritten in place; a failure
+// then leaves a part of the text. Throws file_error.
+void write_lines(const file_path& path, std::span<const std::string> lines,
+                 const file_identity& source = {});
 
 }  // namespace files

@@ -21,6 +21,7 @@ class row_list : public control {
 
   std::int32_t ListCount() const { return static_cast<std::int32_t>(rows_.size()); }
 
+  const std::vector<std::string>& rows() const { return rows_; }
   // The text of a row, or "" if there is no row of that number.
   const std::string& List(std::int32_t row) const {
     static const std::string none;

@@ -23,15 +23,11 @@ void report_skipped(const std::string& name, const std::string& reason) {
 
 extraction_result extract_to(const std::filesystem::path& path) {
   const auto wanted = static_cast<std::size_t>(tool_state.menu_target);
-  return extract_entries(
-      tool_state.archive_file, index_records(),
-      [&path](const std::string&) { return files::from_system_path(path); },
-      [](const std::string&) {},
-      {.on_file = [](std::size_t, const std::string&, std::int32_t) {},
-       .on_bytes = [](std::int32_t) {}},
-      {.is_wanted = [wanted](std::size_t index) { return index == wanted; },
-       .entries_are_adjacent = false,
-       .replaces_atomically = true});
+  return extract_entries(tool_state.archive_file, index_records(),
+                         [&path](const std::string&) { return files::from_system_path(path); }, {},
+                         {.is_wanted = [wanted](std::size_t index) { return index == wanted; },
+                          .entries_are_adjacent = false,
+                          .replaces_atomically = true});
 }
 
 }  // namespace

@@ -68,8 +68,9 @@ bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
 }
 
 void export_from_archive(icon_export& wanted) {
-  wanted.start = entry_start(index_records(), tool_state.directory_index);
-  wanted.end = entry_end(index_records(), tool_state.directory_index);
+  const entry_range entry = range_of(index_records(), tool_state.directory_index);
+  wanted.start = entry.start;
+  wanted.end = entry.end;
   wanted.colours = read_game_colours(tool_state.archive_file, index_records());
   tool_state.export_icons(tool_state.archive_file, wanted);
 }

@@ -49,8 +49,10 @@ void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
   }
 }
 
-void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
-          forms_layer::file_list* File1) {
+}  // namespace
+
+void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
+                   forms_layer::file_list* File1) {
   if (phase == recovery_phase::back) return;
   bool recovered = phase != recovery_phase::none;
   const auto run_step = [&](const step& run) {
@@ -60,17 +62,6 @@ void sync(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
   run_step([&] { Dir1.Path = Drive1.Drive(); });
   // The assignment reads `Dir1`. For another folder its Change reads `File1`.
   if (File1 != nullptr && Dir1.Path() == old_folder) run_step([&] { File1->Refresh(); });
-}
-
-}  // namespace
-
-void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
-  sync(Drive1, Dir1, nullptr);
-}
-
-void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
-                   forms_layer::file_list& File1) {
-  sync(Drive1, Dir1, &File1);
 }
 
 }  // namespace ostrane

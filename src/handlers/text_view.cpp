@@ -42,13 +42,12 @@ std::string show_text(std::int32_t offset) {
 }  // namespace
 
 void show_text_entry() {
-  const std::int32_t offset = entry_start(index_records(), tool_state.selected_index);
-  tool_state.stream.entry_bytes_left =
-      clamp_to_int32(std::int64_t{entry_end(index_records(), tool_state.selected_index)} - offset);
+  const entry_range entry = range_of(index_records(), tool_state.selected_index);
+  tool_state.stream.entry_bytes_left = size_of(entry);
   Form1.Text6.Text = "";
   show_working_message();
   std::string message;
-  const std::string failure = read_open_archive([&] { message = show_text(offset); });
+  const std::string failure = read_open_archive([&] { message = show_text(entry.start); });
   if (!failure.empty()) message = failure;
   if (!message.empty()) forms_layer::message_box(message);
 }

@@ -73,7 +73,7 @@ void sync_to_folder(Form& dialog) {
 }
 
 void wire_form4() {
-  Form4.Drive1.Change = [] { sync_to_drive(Form4.Drive1, Form4.Dir1, Form4.File1); };
+  Form4.Drive1.Change = [] { sync_to_drive(Form4.Drive1, Form4.Dir1, &Form4.File1); };
   Form4.Dir1.Change = [] { sync_to_folder(Form4); };
   Form4.Command1.Click = make_new_folder;
   Form4.Command2.Click = extract_all_entries;
@@ -81,7 +81,7 @@ void wire_form4() {
 }
 
 void wire_form5() {
-  Form5.Drive1.Change = [] { sync_to_drive(Form5.Drive1, Form5.Dir1, Form5.File1); };
+  Form5.Drive1.Change = [] { sync_to_drive(Form5.Drive1, Form5.Dir1, &Form5.File1); };
   Form5.Dir1.Change = [] { sync_to_folder(Form5); };
   Form5.Command1.Click = make_archive;
   Form5.Command2.Click = [] { cancel_replacement(Form5); };

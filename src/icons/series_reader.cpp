@@ -50,7 +50,7 @@ void report_refused_icon(bool is_last) {
 }
 
 void read_directory() {
-  const std::int32_t offset = entry_start(index_records(), tool_state.selected_index);
+  const std::int32_t offset = range_of(index_records(), tool_state.selected_index).start;
   tool_state.directory_index = tool_state.selected_index;
   tool_state.shp_head = {};
   if (!read_shp_head(tool_state.archive_file, offset, tool_state.shp_head)) {
@@ -73,7 +73,7 @@ void read_current_icon_head() {
     return;
   }
   begin_stream(tool_state.stream, tool_state.icon_header, position,
-               entry_end(index_records(), tool_state.directory_index));
+               range_of(index_records(), tool_state.directory_index).end);
 }
 
 }  // namespace ostrane

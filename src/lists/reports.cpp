@@ -4,6 +4,7 @@
 #include "files/failure.h"
 #include "files/paths.h"
 #include "files/text.h"
+#include "files/text_file.h"
 #include "forms/form1.h"
 #include "forms/form6.h"
 #include "forms_layer/message_box.h"
@@ -15,11 +16,8 @@ namespace {
 
 constexpr const char* compare_report_path = "C:\\Shiplist-compare.txt";
 
-// The rows of `List1`.
-name_list listed_names() {
-  return {Form1.List1.ListCount(),
-          [](std::int32_t row) -> const std::string& { return Form1.List1.List(row); },
-          tool_state.archive_stamp.identity};
+void write_list(const files::file_path& path, std::span<const std::string> lines) {
+  files::write_lines(path, lines, tool_state.archive_stamp.identity);
 }
 
 }  // namespace
@@ -28,7 +26,7 @@ void save_file_list() {
   std::string failure;
   if (Form1.List1.ListCount() > 0) {
     failure = files::failure_of(
-        [] { write_name_list(files::in_current_folder("shplist.txt"), listed_names()); });
+        [] { write_list(files::in_current_folder("shplist.txt"), Form1.List1.rows()); });
   }
   forms_layer::message_box(failure.empty()
                                ? "A list of all files in ostrane.dat are saved in shplist.txt"
@@ -48,8 +46,8 @@ void compare_with_shiplist() {
               const std::string path = files::with_separator(Form6.File1.Path()) + name;
               read_shiplist(files::to_file_path(path), tool_state.comparison);
               sort_shiplist(tool_state.comparison);
-              write_compare_report(files::to_file_path(compare_report_path), listed_names(),
-                                   tool_state.comparison);
+              write_list(files::to_file_path(compare_report_path),
+                         compare_with(tool_state.comparison, Form1.List1.rows()).lines);
             });
   if (!failure.empty()) {
     forms_layer::message_box(failure + " Nothing was compared.");
