@@ -58,7 +58,12 @@ const char* irregular_reason(const fs::path& path) {
                                                           : "it is not a regular file";
 }
 
-using paths_by_name = std::unordered_multimap<std::string, fs::path>;  // in upper case
+using native_view = std::basic_string_view<fs::path::value_type>;
+using paths_by_name = std::unordered_multimap<std::string, native_view>;  // in upper case
+
+native_view last_name(native_view path) {
+  return path.substr(path.rfind(fs::path::preferred_separator) + 1);
+}
 
 // A file system can find a file under another case than the listed one. Fills `by_name` at the
 // first call, as most folders need none.
@@ -66,12 +71,12 @@ bool is_listed_in_other_case(paths_by_name& by_name,
                              const std::vector<fs::path::string_type>& listed,
                              const std::string& name, const fs::path& path) {
   for (auto at = listed.begin(); by_name.size() < listed.size(); ++at) {
-    by_name.emplace(upper_case(name_as_text_lossy(fs::path(*at).filename().native())), *at);
+    by_name.emplace(upper_case(name_as_text_lossy(fs::path::string_type(last_name(*at)))), *at);
   }
   const auto [first, last] = by_name.equal_range(upper_case(name));
   return std::any_of(first, last, [&path](const auto& other) {
     std::error_code failed;
-    return fs::equivalent(other.second, path, failed);
+    return fs::equivalent(fs::path(other.second), path, failed);
   });
 }
 
@@ -124,13 +129,9 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<fs::path::string_type>& listed,
                                              const char* unknown) {
   paths_by_name by_name;
-  // The last names of the paths.
-  using native_view = std::basic_string_view<fs::path::value_type>;
   std::unordered_set<native_view> exact;
   exact.reserve(listed.size());
-  for (const native_view path : listed) {
-    exact.insert(path.substr(path.rfind(fs::path::preferred_separator) + 1));
-  }
+  for (const native_view path : listed) exact.insert(last_name(path));
   std::vector<unlisted_file> unlisted;
   for (const listed_entry& entry : listed_in(folder)) {
     if (entry.is_folder || exact.contains(entry.name) || is_work_file(entry.name)) continue;

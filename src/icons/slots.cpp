@@ -1,5 +1,7 @@
 #include "icons/slots.h"
 
+#include <algorithm>
+
 #include "forms/form1.h"
 #include "state/tool_state.h"
 
@@ -31,6 +33,20 @@ bool fits_on_current_row(const forms_layer::picture_box& slot) {
 bool new_row_fits(const forms_layer::picture_box& slot) {
   return tool_state.row_height + tool_state.next_slot_top + tool_state.slot_gap + slot.Height() <
          Form1.Frame1.Height();
+}
+
+void place_in_grid(forms_layer::picture_box& slot) {
+  if (fits_on_current_row(slot)) {
+    show_on_current_row(slot);
+    if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
+  } else if (new_row_fits(slot)) {
+    begin_new_row();
+    show_on_current_row(slot);
+    tool_state.row_height = slot.Height();
+  } else {
+    tool_state.series_full = flag_true;
+    tool_state.slot_fits = flag_false;
+  }
 }
 
 void store_icon_data() {
@@ -69,22 +85,11 @@ void clear_slots_for_icons() {
 }
 
 void place_icon_slot() {
-  forms_layer::picture_box& slot = Form1.s16_image(tool_state.current_slot);
-  if (fits_on_current_row(slot)) {
-    show_on_current_row(slot);
-    if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
-  } else if (new_row_fits(slot)) {
-    begin_new_row();
-    show_on_current_row(slot);
-    tool_state.row_height = slot.Height();
-  } else {
-    tool_state.series_full = flag_true;
-    tool_state.slot_fits = flag_false;
-  }
-  if (tool_state.icon_number == tool_state.shp_head.icon_count) tool_state.series_full = flag_true;
+  place_in_grid(Form1.s16_image(tool_state.current_slot));
   store_icon_data();
-  const bool table_is_full = tool_state.current_slot >= max_slots;
-  if (tool_state.current_slot >= tool_state.max_icons || table_is_full) {
+  const bool is_last = tool_state.icon_number == tool_state.shp_head.icon_count;
+  if (is_last ||
+      tool_state.current_slot >= std::min<std::int32_t>(tool_state.max_icons, max_slots)) {
     tool_state.series_full = flag_true;
   }
   tool_state.series_next_icon = tool_state.next_icon - 1;
