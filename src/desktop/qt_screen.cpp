@@ -107,12 +107,12 @@ void qt_screen::sync() {
 // The start of a handler counts as a frame, as the end of the previous one synced everything.
 void qt_screen::show_frame_if_due() {
   const auto began = forms_layer::handler_began();
-  const auto now = std::chrono::steady_clock::now();
-  if (now - std::max(last_frame_, began) < frame_time) return;
+  const auto shown_at = now();
+  if (shown_at - std::max(last_frame_, began) < frame_time) return;
   views_.sync();
-  if (now - began >= window_delay) windows_.sync();
+  if (shown_at - began >= window_delay) windows_.sync();
   pump_window_system();
-  last_frame_ = std::chrono::steady_clock::now();
+  last_frame_ = now();
 }
 
 }  // namespace desktop

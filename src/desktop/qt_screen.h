@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 
 #include "desktop/input_filter.h"
 #include "desktop/views.h"
@@ -32,6 +33,9 @@ class qt_screen : public forms_layer::screen {
 
   // The window of a form; null until it is shown the first time.
   form_window* window_of(const forms_layer::form& shown) const { return windows_.window_of(shown); }
+
+  // The clock of the frames. A test stops it.
+  std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
 
  private:
   void sync_between_handlers();

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPaintEvent>
 #include <QTest>
+#include <QTimer>
 
 #include "desktop/control_view.h"
 #include "desktop/qt_screen.h"
@@ -88,6 +89,21 @@ struct Desktop : testing::Test {
   desktop::qt_screen screen;
   all_kinds form;
 };
+
+// Runs `act` on the message box, dialog or menu of this kind as soon as it is open.
+template <typename Widget, typename Act>
+void when_open(Act act) {
+  auto* look = new QTimer(qApp);
+  look->callOnTimeout([look, act] {
+    auto* opened = qobject_cast<Widget*>(QApplication::activeModalWidget());
+    if (opened == nullptr) opened = qobject_cast<Widget*>(QApplication::activePopupWidget());
+    if (opened == nullptr || !opened->isVisible()) return;
+    look->stop();
+    look->deleteLater();
+    act(*opened);
+  });
+  look->start(1);
+}
 
 // Adds up what a widget is asked to paint.
 class paint_watch : public QObject {

@@ -4,7 +4,6 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTimer>
 #include <QWindow>
 
 #include "archive_bytes.h"
@@ -121,36 +120,42 @@ TEST_F(Desktop, OutOfMemoryDropsOnlyTheEvent) {
 // Input during a handler is handled after it.
 TEST_F(Desktop, AHandlerShowsFramesAndLateWindows) {
   using ostrane::Form3;
+  using namespace std::chrono_literals;
   ostrane::reset_forms();
   std::string log;
   QWidget& window = show(form);
+  auto passed = 0ms;  // since the start of the handler
+  screen.now = [&passed] { return forms_layer::handler_began() + passed; };
   form.Unload = [&] { log += "close "; };
   write([&] {
     Form3.Visible = true;
-    QTest::qSleep(20);
+    passed = 99ms;
     Form3.Refresh();
     Form3.Visible = false;
   });
   EXPECT_EQ(screen.window_of(Form3), nullptr) << "of a short handler";
+  QTest::qSleep(99);
+  passed = 0ms;
   paint_watch watch(widget_of(window, form.label));
   forms_layer::run_event([&] {
     QMetaObject::invokeMethod(
         &window, [&] { window.close(); }, Qt::QueuedConnection);
     form.label.Caption = "Other";
     Form3.Visible = true;
+    passed = 15ms;
     form.Refresh();
     EXPECT_TRUE(watch.painted.isEmpty()) << "before the frame is due";
-    QTest::qSleep(20);
+    passed = 16ms;
     form.Refresh();
     EXPECT_FALSE(watch.painted.isEmpty());
-    QTest::qSleep(100);
+    passed = 100ms;
     Form3.ProgressBar1.Value = 1;
     QWidget* late = screen.window_of(Form3);
     ASSERT_TRUE(late != nullptr && late->windowHandle()->isExposed());
     EXPECT_TRUE(late->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
     EXPECT_EQ(late->windowHandle()->transientParent(), window.windowHandle());
     paint_watch bar(widget_of(*late, Form3.ProgressBar1));
-    QTest::qSleep(20);
+    passed = 116ms;
     Form3.ProgressBar1.Value = 90;
     EXPECT_FALSE(bar.painted.isEmpty());
     log += "end ";
@@ -169,12 +174,12 @@ TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
     form.timer.Interval = 1, form.timer.Enabled = true;
     form.label.Caption = "Other";
     ostrane::Form2.Visible = true;
-    QTimer::singleShot(50, [&] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      log += (box->windowTitle() + "|" + box->text() + " ").toStdString();
+    when_open<QMessageBox>([&](QMessageBox& box) {
+      QTest::qWait(20);
+      log += (box.windowTitle() + "|" + box.text() + " ").toStdString();
       EXPECT_TRUE(screen.window_of(ostrane::Form2)->isVisible());
       EXPECT_EQ(widget_of(window, form.label)->property("text"), "Other");
-      box->accept();
+      box.accept();
     });
     screen.message_box("Title", "one\n\rtwo\rthree");
     form.timer.Enabled = false;
@@ -184,10 +189,11 @@ TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
   window.activateWindow();
   EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
   write([&] {
-    QTimer::singleShot(20, [] { QApplication::activeModalWidget()->close(); });
+    when_open<QMessageBox>([](QMessageBox& box) { box.close(); });
     screen.message_box("Title", "text");
   });
-  EXPECT_EQ(QApplication::activeWindow(), &window) << "below Form2, but it had the focus";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }))
+      << "below Form2, but it had the focus";
 }
 
 TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {

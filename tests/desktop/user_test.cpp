@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -221,15 +222,18 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   };
   for (const auto& [open, expected] : cases) {
     log.clear();
-    QTimer::singleShot(20, [&] {
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      if (menu == nullptr) return;
-      form.timer.Enabled = true;
-      QTest::qWait(20);
-      QTest::keyClick(menu, Qt::Key_P);
-    });
+    if (*expected != '\0') {
+      when_open<QMenu>([&](QMenu& menu) {
+        form.timer.Enabled = true;
+        QTest::qWait(20);
+        QTest::keyClick(&menu, Qt::Key_P);
+      });
+    }
     open();
-    QTest::qWait(50);
+    handle_events();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&, length = std::string(expected).size()] { return log.size() >= length; }));
     EXPECT_EQ(log, expected) << &open - &cases[0].first;
   }
 }
@@ -242,8 +246,8 @@ TEST_F(Input, SaveDialogsAndTheClipboard) {
   EXPECT_EQ(copied.size(), QSize(2, picture().rows()));
   EXPECT_EQ(copied.pixel(0, 0), qRgb(1, 2, 3));
   EXPECT_EQ(qAlpha(copied.pixel(1, 0)), 0);
-  QTimer::singleShot(20, [&] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+  when_open<QFileDialog>([&](QFileDialog& opened) {
+    QFileDialog* dialog = &opened;
     dialog->setDirectory(QString::fromStdString(folder.string()));
     EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), "A\u00C9-sheet.png");
     auto* kinds = dialog->findChild<QComboBox*>("fileTypeCombo");
@@ -260,14 +264,17 @@ TEST_F(Input, SaveDialogsAndTheClipboard) {
 }
 
 TEST_F(Input, AWriteRestartsATimer) {
-  form.timer.Timer = [&] { log += "tick "; };
-  for (int i = 0; i < 2; ++i) {
+  constexpr int interval = 700;  // in ms; also under load far longer than the time between writes
+  form.timer.Timer = [&] { log += "tick ", form.timer.Enabled = false; };
+  form.timer.Interval = interval;
+  QElapsedTimer running;
+  running.start();
+  while (!running.hasExpired(interval + 100)) {
     write([&] { form.timer.Enabled = true; });
-    QTest::qWait(250);
+    QTest::qWait(10);
   }
   EXPECT_EQ(log, "");
-  QTest::qWait(300);
-  EXPECT_EQ(log, "tick ");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return log == "tick "; }, 60'000));
 }
 
 TEST_F(Input, MenusUseTheToolsFontAndUnderlineLettersWithAlt) {
