@@ -53,6 +53,10 @@ void on_first() { on_slot(1); }
 void on_second() { on_slot(2); }
 void on_row() { user::open_menu(Form1.List1, 1); }
 void on_end_record() { user::open_menu(Form1.List1, 4); }
+void in_other_colours() {
+  tool_state.colour_table[4] = forms_layer::rgb('R', 'G', 'B');
+  on_second();
+}
 void show_odd_icons() { click_row("F2.SHP"), user::click(Form1.Command6), new_messages(); }
 void on_refused() { show_odd_icons(), on_slot(1); }
 void on_blank() { show_odd_icons(), on_slot(3); }
@@ -86,6 +90,7 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
       {on_second, 0, "", 0, "+++ copied 4"},
       {on_second, 1, "", 0, "+++ F1-0005.png"},
       {on_second, 1, "p.PNG", 0, "+++ F1-0005.png p.PNG", "\x89PNG"},
+      {in_other_colours, 1, "p.png", 0, "+++ F1-0005.png p.png", "RGB"},
       {on_second, 2, "all.png", 0, "+++ F1-sheet.png all.json all.png", "\"duration\":70"},
       {on_second, 2, "all.PNG", 0, "+++ F1-sheet.png all.PNG all.json", "\"image\":\"all.PNG\""},
       {on_first, 2, "a-0001.png", 0, "+++ F1-sheet.png a-0004.png a-0005.png a-0006.png a.json",

@@ -75,6 +75,12 @@ TEST_F(dialogs_test, ReloadsItsLists) {
       ask();
       EXPECT_EQ(form.File1.ListCount(), 0);
     }
+    fs::remove_all(disk_path("D:\\Sub\\Deep"));
+    for (const auto& ask : ways) {
+      ask();
+      EXPECT_EQ(new_messages(), texts{"D:\\Sub\\Deep cannot be read: it is not there."});
+    }
+    make_folder("D:\\Sub\\Deep");
   });
 }
 

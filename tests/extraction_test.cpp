@@ -38,12 +38,22 @@ TEST_F(extraction_test, WritesEachEntryUnderItsNameWithBlanksForNuls) {
 TEST_F(extraction_test, OverwritesFilesWithoutTruncatingThem) {
   write("D:\\long.txt", "0123456789");
   write("D:\\EMPTY", "kept");
-  open_archive({{"LONG.TXT", "abc"}, {"EMPTY", ""}, {"Twice", "first"}, {"TWICE", "2nd"}});
+  open_archive({{"LONG.TXT", "abc"},
+                {"EMPTY", ""},
+                {"Twice", "first"},
+                {"TWICE", "2nd"},
+                {"tWICE", ""},
+                {".Dot", "1"},
+                {".DOT", "2"}});
   extract_into("D:\\");
-  EXPECT_EQ(files_in("D:\\"),
-            (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"Twice", "2ndst"}}));
-  EXPECT_EQ(new_messages(), texts{"3 of 4" + extracted + "D:\\" + skipped +
-                                  "\n>Twice<: entry 4 was written over it"});
+  EXPECT_EQ(
+      files_in("D:\\"),
+      (file_map{{"long.txt", "abc3456789"}, {"EMPTY", "kept"}, {"Twice", "2ndst"}, {".Dot", "2"}}));
+  EXPECT_EQ(new_messages(), texts{"5 of 7" + extracted + "D:\\" + skipped +
+                                  "\n>Twice<: entry 4 was written over it"
+                                  "\n>.Dot<: entry 7 was written over it"
+                                  "\nThese files are hidden on this system:"
+                                  "\n>.Dot<: its name begins with a dot"});
 }
 
 // Only the first offset is a seek; a negative size skips the entry.

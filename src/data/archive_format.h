@@ -15,16 +15,17 @@
 //   8 + 17 * i      13    record i: name of entry i, padded with NUL bytes, without a terminator
 //   4 + 17 * N            the entries, in the order of their records, nothing between them
 //
-// Record N - 1 is the end record: no name, and the offset after the last entry. So the size of
-// every entry is the offset of the next record minus its own.
+// Record N - 1 is the end record: the offset after the last entry, and normally no name. So the
+// size of every entry is the offset of the next record minus its own.
 namespace ostrane {
 
 constexpr std::size_t name_size = 13;
 constexpr std::int32_t count_size = 4;
 constexpr std::int32_t record_size = 17;
+// A list of records holds this many. A new archive has one less: its number of records is counted
+// in 16 bits, signed.
 constexpr std::int32_t max_records = 32768;
-// Plus the end record, that is INT16_MAX records.
-constexpr std::size_t max_files = 32766;
+constexpr std::size_t max_files = 32766;  // and the end record
 static_assert(record_size == 4 + name_size);
 
 using record_name = std::array<char, name_size>;

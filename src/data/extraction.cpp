@@ -6,7 +6,6 @@
 
 #include "data/archive_index.h"
 #include "data/chunk_ladder.h"
-#include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/failure.h"
@@ -26,8 +25,9 @@ struct extraction {
   const extraction_choice& choice;
   files::binary_file file = {};
   files::file_stamp stamp = {};
-  std::size_t index = 0;      // of the current entry
-  std::int64_t position = 0;  // of the current entry in the archive
+  std::size_t index = 0;        // of the current entry
+  bool is_overwriting = false;  // the current entry was written over another one
+  std::int64_t position = 0;    // of the current entry in the archive
   std::int16_t small_block_bytes = 0;
   std::map<std::pair<std::uint64_t, std::uint64_t>, std::size_t> written = {};  // entry by identity
   extraction_result result = {};
@@ -40,6 +40,7 @@ void report_overwritten(extraction& job, const files::file_identity& old) {
   if (found == job.written.end()) return;
   job.result.skipped.push_back({name_with_blanks(job.records[found->second].name),
                                 "entry " + std::to_string(job.index + 1) + " was written over it"});
+  job.is_overwriting = true;
   --job.result.written;
   job.written.erase(found);
 }
@@ -59,11 +60,13 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   const auto mode =
       job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
   files::file_writer to(job.file, job.target(name), {.mode = mode, .source = job.stamp.identity});
-  if (!to.is_new()) report_overwritten(job, to.old_file());
+  // In place an empty entry leaves the file as it is.
+  const bool changes_file = to.is_new() || size > 0;
+  if (!to.is_new() && changes_file) report_overwritten(job, to.old_file());
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   to.keep([&job] { require_unchanged(job.archive, job.stamp, "extraction"); });
   if (to.is_new()) report_overwritten(job, to.old_file());
-  remember_written(job, to.written_file());
+  if (changes_file) remember_written(job, to.written_file());
   return "";
 }
 
@@ -98,6 +101,7 @@ void extract_entry(extraction& job, std::size_t index) {
   const std::int32_t size = size_of(range_of(job.records, static_cast<std::int32_t>(index)));
   const std::string name = name_with_blanks(job.records[index].name);
   job.index = index;
+  job.is_overwriting = false;
   job.progress.on_file(index, name, size);
   const std::string reason = try_to_write_entry(job, name, size);
   job.position += std::max(size, 0);
@@ -106,7 +110,9 @@ void extract_entry(extraction& job, std::size_t index) {
     return;
   }
   ++job.result.written;
-  if (name.front() == '.') job.result.hidden.push_back({name, "its name begins with a dot"});
+  // A file has the name of the first entry that was written to it.
+  if (name.front() == '.' && !job.is_overwriting)
+    job.result.hidden.push_back({name, "its name begins with a dot"});
 }
 
 }  // namespace

@@ -10,22 +10,22 @@ namespace ostrane {
 
 constexpr std::int32_t read_buffer_size = 32768;
 
-// The read and draw state of an icon's run-length stream. The large buffer has no initialiser:
-// static storage is already zero.
+// The read and draw state of an icon's run-length stream. The large buffer has no initialiser.
 struct icon_stream {
   std::array<std::byte, read_buffer_size> read_buffer;
   std::int32_t read_buffer_fill = 0;  // valid bytes in it
   std::int32_t read_buffer_pos = 0;   // index of the next byte
-  std::int32_t entry_bytes_left = 0;  // bytes of the open entry not yet read from the file
-  std::uint8_t stream_byte = 0;       // the current one
-  bool stream_ended = false;          // take_stream_byte found no byte
-  std::int32_t cur_row = 0;           // of the pixel being drawn
+  // Bytes of the open entry not yet read from the file, or of its stream (see begin_stream).
+  std::int32_t entry_bytes_left = 0;
+  std::uint8_t stream_byte = 0;  // the current one
+  bool stream_ended = false;     // take_stream_byte found no byte
+  std::int32_t cur_row = 0;      // of the pixel being drawn
   std::int32_t cur_col = 0;
   std::int16_t run_length = 0;  // of the current operation
 };
 
-// Reads min(32768, entry_bytes_left) bytes from the open archive. At the end of the file sets
-// entry_bytes_left to 0. Throws file_error.
+// Reads min(read_buffer_size, entry_bytes_left) bytes from the open archive. At the end of the file
+// sets entry_bytes_left to 0. Throws file_error.
 void refill_read_buffer(icon_stream& stream, files::binary_file& file);
 
 // Returns the number of unread bytes in the buffer. Refills an empty buffer first.

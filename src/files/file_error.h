@@ -9,18 +9,18 @@ namespace files {
 
 // Error numbers that messages show.
 enum class file_error_number {
+  bad_file_name = 52,
   file_not_found = 53,
   device_error = 57,
   file_exists = 58,
   disk_full = 61,
-  bad_file_name = 52,
   device_unavailable = 68,
   permission_denied = 70,
   path_access = 75,
   path_not_found = 76,
 };
 
-// What failed. `replace` is the rename of a complete new file.
+// The action that failed. `replace` is the rename of a complete new file.
 enum class file_action : std::uint8_t { find, open, read, create, write, replace };
 
 // A failed operation on a file, a folder or a drive.

@@ -33,7 +33,8 @@ struct write_rules {
 // other programs can move files meanwhile. All operations throw file_error.
 class file_writer {
  public:
-  // Opens `file` to write `target`, as require_writable allows it.
+  // Opens `file` to write `target`. In place the system refuses a file that may not be written,
+  // otherwise require_writable does.
   file_writer(binary_file& file, file_path target, const write_rules& rules = {});
   file_writer(const file_writer&) = delete;
   file_writer& operator=(const file_writer&) = delete;

@@ -23,6 +23,15 @@ bool refuses_new_file(const file_error& error) {
          (error.action == file_action::create || error.action == file_action::replace);
 }
 
+void overwrite_in_place(binary_file& file, const file_path& target, std::string_view text,
+                        const file_identity& source) {
+  file_writer to(file, target, {.mode = write_mode::in_place, .source = source});
+  file.write(std::as_bytes(std::span(text)));
+  file.truncate();
+  file.flush(true);
+  to.keep();
+}
+
 }  // namespace
 
 text_reader::text_reader(const file_path& path) { file_.open_to_read(path); }
@@ -65,11 +74,7 @@ void write_lines(const file_path& path, std::span<const std::string> lines,
   } catch (const file_error& error) {
     if (!refuses_new_file(error) || !exists(target)) throw;
   }
-  file_writer to(file, target, {.mode = write_mode::in_place, .source = source});
-  file.write(std::as_bytes(std::span(text)));
-  file.truncate();
-  file.flush(true);
-  to.keep();
+  overwrite_in_place(file, target, text, source);
 }
 
 }  // namespace files

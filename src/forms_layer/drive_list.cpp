@@ -20,12 +20,8 @@ void drive_list::about_to_show() {
   rows_.clear();
   for (const files::drive& found : files::drives()) rows_.push_back(files::drive_text(found));
   if (Drive().empty()) {
-    // A folder begins with "C:", a row with "c:".
-    const char letter = files::current_folder()[0];
-    const std::string prefix = {static_cast<char>(letter - 'A' + 'a'), ':'};
-    const auto is_current = [&prefix](const std::string& row) { return row.starts_with(prefix); };
-    const auto found = std::find_if(rows_.begin(), rows_.end(), is_current);
-    if (found != rows_.end()) Drive.value_ = *found;
+    const files::drive* const current = files::find_drive(files::current_folder()[0]);
+    if (current != nullptr) Drive.value_ = files::drive_text(*current);
   }
   select_row_of_drive();
   notify_screen(property_id::items);

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "files/failure.h"
 #include "forms_layer/application.h"
 #include "forms_layer/message_box.h"
 
@@ -51,8 +52,10 @@ void run_one(const std::function<void()>& handler) {
       handler();
     } catch (const std::bad_alloc&) {
       report_out_of_memory();
-    } catch (const std::exception& error) {
-      message_box(error.what());
+    } catch (const files::error& failed) {
+      message_box(files::sentence_of(failed.told));
+    } catch (const std::exception& failed) {
+      message_box(failed.what());
     }
   } catch (const std::bad_alloc&) {
     // Not even the message can be shown. The windows stay as they are.

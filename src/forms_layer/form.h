@@ -49,7 +49,7 @@ class form : public container {
   event Unload;
   event Resize;
 
-  // The same for the form and its controls.
+  // Lets the screen repaint what changed in the form and its controls.
   void Refresh();
   // Gives the window the focus after the running handler.
   void SetFocus();

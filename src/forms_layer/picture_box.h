@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -70,7 +71,7 @@ class picture_box : public control {
   // The colour of a pixel, or `unset`, also outside the drawing area.
   colour pixel(std::int32_t x, std::int32_t y) const;
 
-  // All pixels, row by row; null if no pixel was set since the last Cls.
+  // All pixels, row by row; null if none is set.
   const colour* pixels() const { return pixels_.empty() ? nullptr : pixels_.data(); }
 
   // Returns the bounding box of all changes since the last call.
@@ -112,7 +113,8 @@ class picture_box : public control {
     const std::size_t count = row.size();
     colour* to = row.data();
     if (count == 0) return;
-    if (count > short_run || to + short_run > pixels_.data() + pixels_.size()) {
+    const colour* const end = pixels_.data() + pixels_.size();
+    if (count > short_run || end - to < static_cast<std::ptrdiff_t>(short_run)) {
       for (std::size_t i = 0; i < count; ++i) to[i] = colour_of(i);
       return;
     }

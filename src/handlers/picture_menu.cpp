@@ -71,7 +71,11 @@ void export_from_archive(icon_export& wanted) {
   const entry_range entry = range_of(index_records(), tool_state.directory_index);
   wanted.start = entry.start;
   wanted.end = entry.end;
-  wanted.colours = read_game_colours(tool_state.archive_file, index_records());
+  for (std::size_t i = 0; i < wanted.colours.size(); ++i) {
+    const forms_layer::colour shown = tool_state.colour_table[i];
+    wanted.colours[i] = forms_layer::red_of(shown) << 16U | forms_layer::green_of(shown) << 8U |
+                        forms_layer::blue_of(shown);
+  }
   tool_state.export_icons(tool_state.archive_file, wanted);
 }
 

@@ -2,9 +2,7 @@
 
 #include "data/game_palette.h"
 #include "data/palette.h"
-#include "files/failure.h"
 #include "state/open_archive.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
@@ -18,12 +16,10 @@ void set_default_palette() {
 void read_game_palette() {
   if (tool_state.game_pal_offset <= 0) return;
   std::size_t count = 0;
-  files::ignore_failure([&] {
-    open_archive_file();
+  static_cast<void>(read_open_archive([&count] {
     count = read_palette(tool_state.archive_file, tool_state.game_pal_offset,
                          tool_state.stored_palette);
-  });
-  tool_state.archive_file.close();
+  }));
   for (std::size_t i = 0; i < count; ++i) {
     const stored_colour& stored = tool_state.stored_palette[i];
     tool_state.colour_table[i] = forms_layer::rgb(stored[2], stored[1], stored[0]);

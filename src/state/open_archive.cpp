@@ -3,7 +3,6 @@
 #include "data/archive_index.h"
 #include "data/data_error.h"
 #include "files/paths.h"
-#include "state/tool_state.h"
 
 namespace ostrane {
 
