@@ -2,18 +2,12 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "files/little_endian.h"
 #include "files/text.h"
 
 namespace ostrane {
-
-dat_record decode_record(std::span<const std::byte, record_size> bytes) {
-  dat_record record = {};
-  record.offset = files::int32_at(bytes, 0);
-  std::memcpy(record.name.data(), bytes.data() + 4, name_size);
-  return record;
-}
 
 void encode_record(const dat_record& record, record_bytes bytes) {
   files::put_int32(bytes, 0, record.offset);
@@ -21,8 +15,10 @@ void encode_record(const dat_record& record, record_bytes bytes) {
 }
 
 std::string name_without_nuls(const record_name& name) {
-  std::string text(name.begin(), name.end());
-  std::erase(text, '\0');
+  // Most names have NUL characters at the end only.
+  const auto* const first = std::find(name.begin(), name.end(), '\0');
+  std::string text(name.begin(), first);
+  std::remove_copy(first, name.end(), std::back_inserter(text), '\0');
   return text;
 }
 

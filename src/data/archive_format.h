@@ -3,8 +3,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string>
+
+#include "files/little_endian.h"
 
 // The archive `ostrane.dat`. All numbers are little-endian, all offsets count from the start of
 // the file.
@@ -37,8 +40,12 @@ struct dat_record {
 
 using record_bytes = std::span<std::byte, record_size>;
 
-// Converts a record from and to its bytes in the file. Offsets are not checked.
-dat_record decode_record(std::span<const std::byte, record_size> bytes);
+// Converts a record from and to its bytes in the file. Offsets are not checked. Decodes in place: a
+// copy of a record that was just written waits for the processor's store buffer.
+inline void decode_record(std::span<const std::byte, record_size> bytes, dat_record& record) {
+  record.offset = files::int32_at(bytes, 0);
+  std::memcpy(record.name.data(), bytes.data() + 4, name_size);
+}
 void encode_record(const dat_record& record, record_bytes bytes);
 
 // Returns the name without NUL characters, as `List1` shows it.

@@ -36,11 +36,13 @@ archive_index read_archive_index(const files::file_path& path) {
   file.open_to_read(path);
   archive_index index = {.records = {}, .stamp = file.info().stamp};
   const std::int32_t count = read_count(file, path);
-  index.records.reserve(static_cast<std::size_t>(count));
-  std::array<std::byte, record_size> bytes;
-  for (std::int32_t i = 0; i < count; ++i) {
-    if (file.read(bytes) < bytes.size()) refuse(path, "it was truncated during the read.");
-    index.records.push_back(decode_record(bytes));
+  index.records.resize(static_cast<std::size_t>(count));
+  std::vector<std::byte> bytes(record_size * index.records.size());
+  if (file.read(bytes) < bytes.size()) refuse(path, "it was truncated during the read.");
+  std::span<const std::byte> rest = bytes;
+  for (dat_record& record : index.records) {
+    decode_record(rest.first<record_size>(), record);
+    rest = rest.subspan(record_size);
   }
   if (file.info().stamp != index.stamp) refuse(path, "it was written to during the read.");
   return index;

@@ -14,10 +14,11 @@ inline std::int16_t int16_at(std::span<const std::byte> bytes, std::size_t at) {
 }
 
 inline std::int32_t int32_at(std::span<const std::byte> bytes, std::size_t at) {
-  return static_cast<std::int32_t>(std::to_integer<std::uint32_t>(bytes[at]) |
-                                   std::to_integer<std::uint32_t>(bytes[at + 1]) << 8U |
-                                   std::to_integer<std::uint32_t>(bytes[at + 2]) << 16U |
-                                   std::to_integer<std::uint32_t>(bytes[at + 3]) << 24U);
+  const auto four = bytes.subspan(at).first<4>();  // one check of the bounds
+  return static_cast<std::int32_t>(std::to_integer<std::uint32_t>(four[0]) |
+                                   std::to_integer<std::uint32_t>(four[1]) << 8U |
+                                   std::to_integer<std::uint32_t>(four[2]) << 16U |
+                                   std::to_integer<std::uint32_t>(four[3]) << 24U);
 }
 
 inline void put_int32(std::span<std::byte> bytes, std::size_t at, std::int32_t value) {
