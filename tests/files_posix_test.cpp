@@ -50,6 +50,29 @@ TEST_F(files_posix_test, ReplacesLongNamesAndNeedsAFolderListing) {
   EXPECT_THROW(files::file_writer(file, {disk_path("D:\\x.txt"), u8""}, rules), files::file_error);
 }
 
+// The system copies a half, then a half of the rest, and then refuses.
+TEST_F(files_posix_test, ReadsAndWritesWhatTheSystemDoesNotCopy) {
+  static int calls = 0;
+  static const files::system_call_table real = files::system_calls;
+  const std::string bytes = some_bytes(600000);
+  write("D:\\from", bytes);
+  files::system_calls.copy_some = +[](int from, int to, std::size_t count) {
+    return ++calls == 3 ? -EXDEV : real.copy_some(from, to, count / 2);
+  };
+  files::binary_file from;
+  files::binary_file to;
+  from.open_to_read(files::to_file_path("D:\\from"));
+  files::file_writer kept(to, files::to_file_path("D:\\to"));
+  to.write(std::as_bytes(std::span("before", 6)));
+  while (to.write_from(from, SIZE_MAX) > 0) continue;
+  kept.keep();
+  files::system_calls = real;
+  from.seek(0);
+  EXPECT_EQ(from.next(1).size(), 1U);
+  EXPECT_EQ(calls, 3);
+  EXPECT_TRUE(read("D:\\to") == "before" + bytes);
+}
+
 TEST_F(files_posix_test, TheLastDriveIsTheFileSystemRoot) {
   files::set_drives({}, "C:\\");
   user::click(Form1.mnu_make);

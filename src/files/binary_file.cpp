@@ -65,6 +65,12 @@ void binary_file::seek(std::int64_t offset) {
   buffer_start_ = offset;
 }
 
+void binary_file::skip_buffer(std::int64_t beyond) {
+  buffer_start_ += static_cast<std::int64_t>(fill_) + beyond;
+  position_ = 0;
+  fill_ = 0;
+}
+
 std::size_t binary_file::read_from_system(std::span<std::byte> to) {
   const std::int64_t moved = system_calls.read_some(file_, to.data(), to.size());
   if (moved < 0) {
@@ -75,9 +81,7 @@ std::size_t binary_file::read_from_system(std::span<std::byte> to) {
 }
 
 void binary_file::fill_buffer() {
-  buffer_start_ += static_cast<std::int64_t>(fill_);
-  position_ = 0;
-  fill_ = 0;
+  skip_buffer(0);
   fill_ = read_from_system(buffer_);
 }
 
@@ -96,9 +100,7 @@ std::size_t binary_file::read(std::span<std::byte> to) {
       if (to.size() - got >= buffer_size) {
         const std::size_t moved = read_from_system(to.subspan(got));
         if (moved == 0) break;
-        buffer_start_ += static_cast<std::int64_t>(fill_ + moved);
-        position_ = 0;
-        fill_ = 0;
+        skip_buffer(static_cast<std::int64_t>(moved));
         got += moved;
         continue;
       }
@@ -127,19 +129,31 @@ void binary_file::write(std::span<const std::byte> from) {
   }
 }
 
+// Returns 0 if the system does not copy, or at the end: a read then tells which, and why.
+std::size_t binary_file::copy_in_system(binary_file& source, std::size_t max) {
+  if (!copies_in_system_) return 0;
+  flush();
+  const std::int64_t moved =
+      system_calls.copy_some(source.file_, file_, std::min(max, buffer_size));
+  copies_in_system_ = moved >= 0;
+  if (moved <= 0) return 0;
+  buffer_start_ += moved;
+  source.skip_buffer(moved);
+  return static_cast<std::size_t>(moved);
+}
+
 std::size_t binary_file::write_from(binary_file& source, std::size_t max) {
   if (source.position_ < source.fill_ || max < min_direct_block) {
     const std::span<const std::byte> part = source.next(max);
     write(part);
     return part.size();
   }
+  if (const std::size_t copied = copy_in_system(source, max); copied > 0) return copied;
   // Reads straight into the buffer of this file.
   if (position_ == buffer_size) flush();
   const std::size_t space = std::min(buffer_size - position_, max);
   const std::size_t moved = source.read_from_system(std::span(buffer_).subspan(position_, space));
-  source.buffer_start_ += static_cast<std::int64_t>(source.fill_ + moved);
-  source.position_ = 0;
-  source.fill_ = 0;
+  source.skip_buffer(static_cast<std::int64_t>(moved));
   position_ += moved;
   return moved;
 }

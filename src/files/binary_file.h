@@ -59,12 +59,16 @@ class binary_file {
   void set_file(int file, bool writes, file_action action);
   [[noreturn]] void fail(file_action action, std::int64_t status) const;
   void forget_position();
+  // Continues that many bytes after the buffer, which the system has already moved.
+  void skip_buffer(std::int64_t beyond);
   std::size_t read_from_system(std::span<std::byte> to);
   void fill_buffer();
   void write_to_system(std::span<const std::byte> from);
+  std::size_t copy_in_system(binary_file& source, std::size_t max);
 
   int file_ = -1;
   bool writes_ = false;
+  bool copies_in_system_ = true;  // until it fails once
   std::u8string path_;
   std::vector<std::byte> buffer_;
   std::size_t position_ = 0;       // index of the next byte in the buffer

@@ -59,6 +59,10 @@ struct system_call_table {
   // Return the number of bytes moved, at most `count`; 0 from a read at the end of the file.
   system_call<std::int64_t(int file, std::byte* to, std::size_t count)> read_some;
   system_call<std::int64_t(int file, const std::byte* from, std::size_t count)> write_some;
+  // Moves at most `count` bytes from one file to the other inside the system, each from its
+  // position on. Returns their number, 0 at the end. Fails where the system cannot do it; then read
+  // and write.
+  system_call<std::int64_t(int from, int to, std::size_t count)> copy_some;
   // `offset` is in bytes from the start of the file. Returns the new position.
   system_call<std::int64_t(int file, std::int64_t offset)> seek_to;
   system_call<int(int file, std::int64_t size)> set_size;

@@ -79,6 +79,11 @@ std::int64_t write_some(int file, const std::byte* from, std::size_t count) {
   return moved < 0 ? -errno : moved;
 }
 
+std::int64_t copy_some(int from, int to, std::size_t count) {
+  const ssize_t moved = copy_file_range(from, nullptr, to, nullptr, count, 0);
+  return moved < 0 ? -errno : moved;
+}
+
 std::int64_t seek_to(int file, std::int64_t offset) {
   const off_t at = lseek(file, offset, SEEK_SET);
   return at < 0 ? -errno : at;
@@ -207,6 +212,7 @@ system_call_table system_calls = {
     .open_lock = open_lock,
     .read_some = read_some,
     .write_some = write_some,
+    .copy_some = copy_some,
     .seek_to = seek_to,
     .set_size = set_size,
     .info_of = info_of,

@@ -192,6 +192,7 @@ system_call_table system_calls = {
     .open_lock = open_lock,
     .read_some = read_some,
     .write_some = write_some,
+    .copy_some = +[](int, int, std::size_t) -> std::int64_t { return -ENOSYS; },
     .seek_to = seek_to,
     .set_size = set_size,
     .info_of = info_of,
