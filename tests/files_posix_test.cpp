@@ -67,7 +67,7 @@ TEST_F(files_posix_test, ReadsAndWritesWhatTheSystemDoesNotCopy) {
   while (to.write_from(from, SIZE_MAX) > 0) continue;
   kept.keep();
   files::system_calls = real;
-  from.seek(0);
+  from.seek(600000 - 262144);  // as many bytes as were read
   EXPECT_EQ(from.next(1).size(), 1U);
   EXPECT_EQ(calls, 3);
   EXPECT_TRUE(read("D:\\to") == "before" + bytes);
