@@ -148,17 +148,20 @@ QItemSelectionModel::SelectionFlags rows_view::selectionCommand(const QModelInde
   return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-// The width of the widest row. Qt would lay out the text of every row.
+// The width of the widest row. Qt would lay out the text of every row. Each character that occurs
+// is measured once.
 QSize rows_view::needed_size() const {
-  std::array<int, 256> widths{};
-  for (std::size_t c = 0; c < widths.size(); ++c) {
-    const char text[] = {static_cast<char>(c)};
-    widths[c] = fontMetrics().horizontalAdvance(to_screen({text, 1}));
-  }
+  std::array<int, 256> widths;
+  widths.fill(-1);
+  const auto width_of = [&](char c) {
+    int& width = widths[static_cast<unsigned char>(c)];
+    if (width < 0) width = fontMetrics().horizontalAdvance(to_screen({&c, 1}));
+    return width;
+  };
   int widest = 0;
   for (int row = 0; row < shown_.ListCount(); ++row) {
     int width = indent(row);
-    for (const char c : shown_.List(row)) width += widths[static_cast<unsigned char>(c)];
+    for (const char c : shown_.List(row)) width += width_of(c);
     widest = std::max(widest, width);
   }
   const QSize text(widest + text_margins, fontMetrics().height() + 1);
