@@ -93,6 +93,8 @@ void write(png_structp png, png_infop info, png_job& job) {
                job.form.is_indexed ? PNG_COLOR_TYPE_PALETTE : PNG_COLOR_TYPE_RGB_ALPHA,
                PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
   if (job.form.is_indexed) set_palette(png, info, job);
+  // Drawn pictures have few colours: differences of neighbours repeat less often than the pixels.
+  png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
   png_write_info(png, info);
   write_rows(png, job);
   png_write_end(png, info);
