@@ -1,4 +1,4 @@
-#include "recording_screen.h"
+#include "test_screen.h"
 
 namespace ostrane {
 
@@ -43,7 +43,7 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
   for (const auto& [names, shiplist, head_of_counts, rows] : cases) {
     open_names(names);
     write("D:\\list.txt", shiplist);
-    recording_screen screen;
+    test_screen screen;
     user::click(Form1.mnu_read_filelist);
     Form6.Dir1.Path = "D:\\";
     screen.log.clear();

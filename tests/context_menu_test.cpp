@@ -1,7 +1,7 @@
-#include "answering_screen.h"
 #include "failing_calls.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
+#include "test_screen.h"
 
 namespace ostrane {
 namespace {
@@ -28,7 +28,7 @@ struct context_menu_test : icon_test {
   static std::string pick(const std::function<void()>& open, std::size_t item, const char* typed,
                           std::size_t kind) {
     std::string seen;
-    answering_screen answers;
+    test_screen answers;
     answers.pick = [&](const forms_layer::context_menu& opened) {
       for (const auto* offered : opened.items) seen += offered->Enabled() ? "+" : "-";
       return opened.items.at(item);

@@ -3,13 +3,13 @@
 
 #include <set>
 
-#include "answering_screen.h"
 #include "child_process.h"
 #include "failing_calls.h"
 #include "failing_memory.h"
 #include "files/code_page.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
+#include "test_screen.h"
 
 namespace ostrane {
 
@@ -106,7 +106,7 @@ struct failing_disk_test : tool_test {
     EXPECT_TRUE(Form1.Enabled() || Form6.Visible());
   }
 
-  answering_screen answers;
+  test_screen answers;
   // Shows icons, and answers with this menu item and this file to save.
   std::function<void()> answering(forms_layer::menu_item& item, const char* name) {
     return [this, &item, name] {

@@ -1,4 +1,4 @@
-#include "recording_screen.h"
+#include "test_screen.h"
 
 namespace ostrane {
 
@@ -7,7 +7,7 @@ using progress_test = tool_test;
 // The progress window hides before the final message. The main window is shown before the message
 // of a build and after that of an extraction.
 TEST_F(progress_test, ShowsEachFileThenTheMainWindow) {
-  recording_screen screen;
+  test_screen screen;
   for (const char* folder : {"C:\\", "C:\\program\\"}) write(folder + std::string("A b.txt"), "a");
   restart("C:\\program");
   const std::string building = "dialog progress bars Ostrane.dat tool - Make new Ostrane.dat|";
@@ -44,7 +44,7 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
       {1, 20000, "2 20000 1:8192 1:16384 1:1024 1:2048 1:3072",
        "0 20000 1:8192 1:16384 1:1024 1:2048 1:3072"},
   };
-  recording_screen screen;
+  test_screen screen;
   const auto bars = [&screen] {
     std::ostringstream all;
     all << Form3.ProgressBar2.Max() << ' ' << Form3.ProgressBar1.Max() << screen.moves;

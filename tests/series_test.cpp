@@ -2,7 +2,7 @@
 
 #include "failing_calls.h"
 #include "icon_fixture.h"
-#include "recording_screen.h"
+#include "test_screen.h"
 
 namespace ostrane {
 
@@ -35,7 +35,7 @@ TEST_F(series_test, ShowsSeriesAfterSeries) {
 }
 
 TEST_F(series_test, ShowsTheWorkingMessageAndCountsIcons) {
-  recording_screen screen;
+  test_screen screen;
   type_max_icons("2");
   show({plain_icons(3, 1, 1)});
   user::click(Form1.Command6);

@@ -5,11 +5,16 @@
 
 namespace ostrane {
 
-// A screen that paints nothing and records what a job shows.
-class recording_screen : public forms_layer::screen {
+// A screen that paints nothing and records what a job shows. Its user picks an item of each menu
+// and gives a path for each file to save.
+class test_screen : public forms_layer::screen {
  public:
-  recording_screen() { forms_layer::attach_screen(this); }
-  ~recording_screen() override { forms_layer::attach_screen(nullptr); }
+  test_screen() { forms_layer::attach_screen(this); }
+  ~test_screen() override { forms_layer::attach_screen(nullptr); }
+
+  std::function<forms_layer::menu_item*(const forms_layer::context_menu& opened)> pick;
+  std::function<forms_layer::save_answer(const forms_layer::save_question& question)> save;
+  std::function<void(const forms_layer::picture_box& shown)> copied;
 
   // Per Refresh of Form3 and per message box: the visible windows and the text. Per Refresh of
   // Form1: Text2 and Text3. Per focus change: the name of the form.
@@ -35,13 +40,23 @@ class recording_screen : public forms_layer::screen {
     moves += bar == &Form3.ProgressBar1 ? " 1:" : " 2:";
     moves += std::to_string(std::lround(bar->Value()));
   }
-  void message_box(const std::string&, const std::string& text) override {
+  void message_box(const std::string& title, const std::string& text) override {
     log.push_back(visible_windows() + text);
+    screen::message_box(title, text);
   }
 
   void form_changed(forms_layer::form& changed, forms_layer::property_id what) override {
     if (what == forms_layer::property_id::focus) log.push_back(changed.designed.name);
   }
+
+  forms_layer::menu_item* pick_item(forms_layer::context_menu& opened,
+                                    forms_layer::screen_point) override {
+    return pick(opened);
+  }
+  forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override {
+    return save(question);
+  }
+  void copy_picture(const forms_layer::picture_box& shown) override { copied(shown); }
 
  private:
   static std::string visible_windows() {
