@@ -13,19 +13,6 @@ struct decoder_test : icon_test {
   }
 };
 
-TEST_F(decoder_test, ResizingKeepsThePixels) {
-  forms_layer::picture_box& box = slot(1);
-  box.Width = 15 * 6;
-  box.Height = 15 * 5;
-  for (int x = 0; x < 4; ++x) box.PSet(x, x, forms_layer::rgb(0, 0, 7));
-  EXPECT_EQ(cells(), "7 . . . | . 7 . . | . . 7 . | ");
-  box.Width = 15 * 7;
-  box.Height = 15 * 4;
-  EXPECT_EQ(cells(), "7 . . . . | . 7 . . . | ");
-  box.Width = 15 * 3;
-  EXPECT_EQ(cells(), "7 | . | ");
-}
-
 TEST_F(decoder_test, PaintsThePixelsOfTheStream) {
   const icon_head row_of_4 = plain_icon(4, 1, 0).head;
   const icon_head margins{2, 3, 1, 1, 2, 1};

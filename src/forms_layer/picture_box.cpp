@@ -51,20 +51,10 @@ void picture_box::apply_size() {
   const std::int32_t columns = std::max(0, Width() / application.TwipsPerPixelX - 2 * border);
   const std::int32_t rows = std::max(0, Height() / application.TwipsPerPixelY - 2 * border);
   if (columns == columns_ && rows == rows_) return;
-  const std::vector<colour> old = std::move(pixels_);
-  const std::int32_t old_columns = columns_;
-  const std::int32_t kept_columns = std::min(columns, columns_);
-  const std::int32_t kept_rows = std::min(rows, rows_);
   columns_ = columns;
   rows_ = rows;
   damaged_ = {};
   pixels_.clear();
-  if (old.empty() || columns == 0 || rows == 0) return;
-  allocate();
-  for (std::int32_t y = 0; y < kept_rows; ++y) {
-    const auto from = old.begin() + static_cast<std::ptrdiff_t>(y) * old_columns;
-    std::copy_n(from, kept_columns, pixels_.begin() + static_cast<std::ptrdiff_t>(index_of(0, y)));
-  }
 }
 
 }  // namespace forms_layer

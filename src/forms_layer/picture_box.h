@@ -25,7 +25,7 @@ struct pixel_area {
 // A bitmap that the box keeps while it is hidden, moved or covered. The drawing area is the box
 // without its border of one pixel on each side. Coordinates are pixels of the drawing area
 // (ScaleMode 3). An unset pixel shows BackColor. The bitmap is allocated when the first pixel is
-// set. Assigning BackColor clears it; a new size keeps the pixels that fit.
+// set. Assigning BackColor or another size clears it.
 class picture_box : public control {
  public:
   picture_box(container& parent_container, const design& as_designed, std::int32_t array_index);
