@@ -42,12 +42,20 @@ TEST_F(decoder_test, PaintsThePixelsOfTheStream) {
       {row_of_4, stream({0, 2, 9, 0}), ". . . . | "},
       {plain_icon(2, 2, 0).head, stream({0, 0}), ". . | . . | "},
       {plain_icon(1, 1, 0).head, stream({2, 3, 0}), "3 | "},
+      // The file ends within the stream: the pixels painted so far stay, without a message.
+      {row_of_4, "", ". . . . | "},
+      {row_of_4, stream({6}), ". . . . | "},
+      {row_of_4, stream({6, 1}), "1 1 1 . | "},
+      {row_of_4, stream({7, 2}), "2 . . . | "},
+      {row_of_4, stream({7, 2, 3}), "2 3 . . | "},
+      {row_of_4, stream({6, 1, 1}), "1 1 1 . | "},
       // Skips must not take time without limit.
       {row_of_4, stream({2, 5}) + many_skips + stream({2, 9, 0}), "5 . . . | "},
   };
   for (const auto& [head, bytes, painted] : cases) {
     show({{{head, bytes}}});
     EXPECT_EQ(cells(), painted);
+    EXPECT_EQ(new_messages(), texts{});
   }
 }
 
@@ -66,22 +74,6 @@ TEST_F(decoder_test, ReadsStreamsLongerThanTheBuffer) {
   ASSERT_EQ(icon.stream.size(), 400 * 131U);
   show({{icon}});
   EXPECT_TRUE(cells() == expected);
-}
-
-// The pixels painted so far stay, without a message.
-TEST_F(decoder_test, TruncatedStreamEndsTheIcon) {
-  const std::string bytes = stream({6, 1, 0, 7, 2, 3, 4, 0, 1, 2, 2, 5, 0});
-  const std::string file = shp_file(std::vector<shp_icon>{{plain_icon(3, 3, 0).head, bytes}});
-  const char* const stages[] = {". . . | . . . | . . . | ", "1 1 1 | . . . | . . . | ",
-                                "1 1 1 | 2 . . | . . . | ", "1 1 1 | 2 3 . | . . . | ",
-                                "1 1 1 | 2 3 4 | . . . | ", "1 1 1 | 2 3 4 | . . 5 | "};
-  const std::size_t stage_of[] = {0, 0, 1, 1, 1, 2, 3, 4, 4, 4, 4, 4, 5, 5};
-  for (std::size_t kept = 0; kept <= bytes.size(); ++kept) {
-    open_archive({palette_entry(), {"F1.SHP", file.substr(0, file.size() - bytes.size() + kept)}});
-    click_row("F1.SHP");
-    EXPECT_EQ(new_messages(), texts{});
-    EXPECT_EQ(cells(), stages[stage_of[kept]]) << kept;
-  }
 }
 
 // An icon reads up to 23 bytes past its entry and no more. Some streams fill the buffer exactly or
