@@ -15,6 +15,8 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       "      Present in    Present in   \r\nIcon# Ostrane.dat   Shiplist     \r\n";
   const auto ship = [](const std::string& name) { return std::string(20, ' ') + name; };
   const std::string long_name = "ABCDEFGHIJKLMNOP";
+  const std::string to_block_end(65532, 'X');
+  const std::string two_blocks(70000, 'Y');
   const std::tuple<texts, std::string, std::string, texts> cases[] = {
       {{"A.SHP", "B.SHP"}, "A.SHP\r\nB.SHP\r\n\r\n", "", {}},
       {{"AAA.SHP", "BBB.SHP", "CCC.SHP"},
@@ -26,6 +28,12 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
       {{"A", "B", "C"}, "c\r\nb\r\n a\r\nA\r\nC\r\n\r\n", "", {}},
       {{" b "}, "c\r\n\r\n", "", {"    0 B", "    1 "}},
       {{"Z"}, "\tx\r\n y \r\n\r\n", counts("2", "3"), {ship("\tX"), ship("Y")}},
+      // Any line end, also on both sides of the end of a block of 65536 bytes.
+      {{"A"}, "A\n\nB\rC\r\n\r\n", counts("2", "5"), {ship(""), ship("B"), ship("C")}},
+      {{"A"},
+       "A\r\n" + to_block_end + "\r\n" + two_blocks + "\r\n\r\n",
+       counts("2", "4"),
+       {ship(to_block_end), ship(two_blocks)}},
       {{"A", "B", "C"}, "", counts("4", "1"), {"    1 B", "    2 C"}},
       {{"A", "C", "D"}, "B", counts("4", "1"), {"    0 A", "    2 D"}},
       {{}, "A\r\nB\r\n\r\n", counts("1", "3"), {"    0 ", ship("B")}},
