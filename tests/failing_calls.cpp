@@ -17,8 +17,11 @@ auto record(std::string_view name, const auto& call) {
   current->calls.emplace_back(name);
   current->before_call(current->calls.back());
   const call_fault& fault = current->fault;
-  const bool fails = number == current->at || (number > current->at && fault.lasting);
-  if (!fails && name != current->failing_name) return call();
+  const bool is_named = name == current->failing_name;
+  const bool is_first =
+      number == current->at || (is_named && std::ranges::count(current->calls, name) == 1);
+  const bool is_later = fault.lasting && (is_named || number > current->at);
+  if (!is_first && !is_later) return call();
 #ifdef SIGKILL  // where processes have signals
   if (fault.kind == call_fault::kills) std::raise(SIGKILL);
   if (fault.kind == call_fault::stops) std::raise(SIGSTOP);
@@ -42,6 +45,10 @@ struct call_name {
   constexpr call_name(const char* name) { std::copy_n(name, std::string_view(name).size(), text); }
 };
 
+// Reads and writes move a part of the bytes asked for.
+auto& passed(auto& argument) { return argument; }
+std::size_t passed(std::size_t& count) { return std::min((count + 1) / 2, current->max_bytes); }
+
 using table = files::system_call_table;
 
 template <call_name Name, auto Member>
@@ -50,45 +57,35 @@ template <call_name Name, typename Result, typename... Args,
           files::system_call<Result(Args...)> table::*Member>
 struct counted<Name, Member> {
   static Result call(Args... args) {
-    return record(Name.text, [&] { return (real.*Member)(args...); });
+    return record(Name.text, [&] { return (real.*Member)(passed(args)...); });
   }
   static void put_into(table& all) { all.*Member = call; }
 };
 
 template <typename... Calls>
-void put_into(table& all) {
+table table_of() {
+  table all = real;
+  // Else no read or write would be left to fail.
+  all.copy_some = +[](int, int, std::size_t) -> std::int64_t { return -ENOSYS; };
   (Calls::put_into(all), ...);
+  return all;
 }
 
 #define COUNTED(name) counted<#name, &table::name>
 
-std::size_t half(std::size_t count) { return (count + 1) / 2; }
-
-table counted_calls() {
-  table all = real;
-  put_into<COUNTED(open_to_read), COUNTED(open_to_write), COUNTED(open_new), COUNTED(open_lock),
-           COUNTED(seek_to), COUNTED(set_size), COUNTED(info_of), COUNTED(info_at),
-           COUNTED(copy_permissions), COUNTED(lock), COUNTED(flush_to_disk), COUNTED(close_file),
-           COUNTED(remove_file), COUNTED(replace), COUNTED(flush_folder), COUNTED(list)>(all);
-  all.read_some = +[](int file, std::byte* to, std::size_t count) {
-    return record("read_some", [&] {
-      return real.read_some(file, to, std::min(half(count), current->max_read));
-    });
-  };
-  // Else no read or write would be left to fail.
-  all.copy_some = +[](int, int, std::size_t) -> std::int64_t { return -ENOSYS; };
-  all.write_some = +[](int file, const std::byte* from, std::size_t count) {
-    return record("write_some", [&] { return real.write_some(file, from, half(count)); });
-  };
-  return all;
-}
+const table counted_calls =
+    table_of<COUNTED(open_to_read), COUNTED(open_to_write), COUNTED(open_new), COUNTED(open_lock),
+             COUNTED(read_some), COUNTED(write_some), COUNTED(seek_to), COUNTED(set_size),
+             COUNTED(info_of), COUNTED(info_at), COUNTED(copy_permissions), COUNTED(lock),
+             COUNTED(flush_to_disk), COUNTED(close_file), COUNTED(remove_file), COUNTED(replace),
+             COUNTED(flush_folder), COUNTED(list)>();
 
 }  // namespace
 
 failing_calls::failing_calls(int number, call_fault with, std::string name)
     : at(number), fault(with), failing_name(std::move(name)) {
   current = this;
-  files::system_calls = counted_calls();
+  files::system_calls = counted_calls;
 }
 
 failing_calls::~failing_calls() {

@@ -23,14 +23,14 @@ struct call_fault {
   bool lasting = false;  // all later calls fail too
 };
 
-// During its lifetime the tool's file calls are recorded, and call `at`, or all of one name, fail.
-// Reads and writes move half of the bytes asked for.
+// During its lifetime the tool's file calls are recorded, and call `at`, or the first or all of one
+// name, fail. Reads and writes move half of the bytes asked for.
 class failing_calls {
  public:
   explicit failing_calls(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills},
                          std::string name = "");
   failing_calls(std::string name, int reason)
-      : failing_calls(INT32_MAX, {.reason = reason}, std::move(name)) {}
+      : failing_calls(INT32_MAX, {.reason = reason, .lasting = true}, std::move(name)) {}
   failing_calls(const failing_calls&) = delete;
   failing_calls& operator=(const failing_calls&) = delete;
   ~failing_calls();
@@ -41,7 +41,7 @@ class failing_calls {
   const call_fault fault;
   const std::string failing_name;
   std::function<void(const std::string& name)> before_call = [](const auto&) {};
-  std::size_t max_read = SIZE_MAX;  // bytes per call
+  std::size_t max_bytes = SIZE_MAX;  // per read or write
   std::vector<std::string> calls;
 };
 

@@ -147,7 +147,7 @@ TEST_F(series_test, ForgetsADirectoryThatCannotBeRead) {
         {plain_icons(9, 1, 1), {plain_icon(1, 1, 50), plain_icon(1, 1, 51), plain_icon(1, 1, 52)}});
     {
       failing_calls fault(at, {.kind = call_fault::fails, .reason = EIO});
-      fault.max_read = 16;
+      fault.max_bytes = 16;
       click_row("F2.SHP");
       happened = fault.happened();
     }
