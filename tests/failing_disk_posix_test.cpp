@@ -5,7 +5,7 @@
 
 #include "child_process.h"
 #include "failing_calls.h"
-#include "failing_memory.h"
+#include "failing_memory_posix.h"
 #include "files/code_page.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
@@ -268,26 +268,23 @@ TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
   }
 }
 
-// In a separate process, as the limit cannot be raised again.
+// A build and an extraction of a file that is larger than the limit.
 TEST_F(failing_disk_test, FileSizeLimitLeavesNoPartialFile) {
-  run_in_process([&] {
-    write("D:\\ostrane.dat", "the old one");
-    write("D:\\big.txt", some_bytes(180000));
-    open_archive({{"LONG.TXT", some_bytes(180000)}});
-    const file_map before = files_in("D:\\");
-    const rlimit limit = {100000, 100000};
+  rlimit old = {};
+  EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+  const rlimit limit = {50000, old.rlim_max};
+  for (const file_job* job : {&jobs[0], &jobs[1]}) {
+    prepare(*job);
+    const job_result before = result_of([] {});
     EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    extract_into("D:\\");
-    const std::string reason = " cannot be written: it would be larger than the system allows.";
-    EXPECT_EQ(new_messages(),
-              texts{"0 of 1 files from Ostrane.dat has been extracted into: D:\\\nThe extraction "
-                    "was stopped. D:\\LONG.TXT" +
-                    reason});
-    restart();
-    build_in("D:\\");
-    EXPECT_EQ(new_messages(), texts{"D:\\OSTRANE.DAT" + reason + " No new archive was made."});
-    EXPECT_TRUE(files_in("D:\\") == before);
-  });
+    const job_result after = result_of(job->job);
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &old), 0);
+    check(*job, "write_some", "it would be larger than the system allows", false, after, before);
+    expect_complete_files(after, before, {{{"D/OUT/0.TXT", ""}}, {}});
+    const bool is_stopped =
+        after.messages.at(0).find("The extraction was stopped.") != std::string::npos;
+    EXPECT_EQ(is_stopped, job == &jobs[1]);
+  }
 }
 
 }  // namespace ostrane
