@@ -4,29 +4,14 @@
 
 #include "data/entry_range.h"
 #include "files/code_page.h"
-#include "generated_input.h"
 #include "state/open_archive.h"
+#include "target.h"
 
 using namespace ostrane;
 
 namespace {
 
 using contents = std::multiset<std::string>;
-
-// Some names differ only in case, are hidden, are too long or are outside the code page.
-std::string generate_files(fuzz::fields& from) {
-  const texts names = {
-      "GEMS.SHP",    "Gems.shp",       "a b .txt",        ".hidden",  "c\\d",
-      "Ostrane.dat", "\xC3\xA4.txt",   "\xC3\x84.TXT",    "\xE4.txt", "\xE2\x82\xAC",
-      "NUL.TXT",     "ABCDEFGHI.TEXT", "ABCDEFGHI.TEXTS", " ",        ".OSTRANE.DAT.new"};
-  std::string files;
-  for (int left = from.ConsumeIntegralInRange(0, 12); left > 0; --left) {
-    files += fuzz::text(from, names) + '\x1E';
-    files += std::string(fuzz::size(from, {8, 16, 128, 1024, 8192, 16384}), '1');
-    files += from.ConsumeRandomLengthString(8) + '\x1E';
-  }
-  return files;
-}
 
 void write_files(const texts& parts) {
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
@@ -67,7 +52,7 @@ contents entries_of(const std::string& archive) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::restart_on_empty_drives();
   make_folder("C:\\work");
-  write_files(fuzz::parts_of(fuzz::raw_or_generated(data, size, generate_files)));
+  write_files(fuzz::parts_of({reinterpret_cast<const char*>(data), size}));
   const contents before = source_files();
   const std::string archive = build();
   open_archive("C:\\work");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <fuzzer/FuzzedDataProvider.h>
+
 #include <algorithm>
 
 #include "archive_bytes.h"
@@ -110,6 +112,14 @@ inline std::string archive(fields& from) {
   }
   if (one_in(from, 8)) bytes.resize(std::min(bytes.size(), size(from, {end})));
   return bytes;
+}
+
+// Calls `maker` if the first byte is odd. Otherwise the rest is the input.
+std::string raw_or_generated(const std::uint8_t* data, std::size_t size, const auto& maker) {
+  if (size == 0) return "";
+  if (data[0] % 2 == 0) return {reinterpret_cast<const char*>(data) + 1, size - 1};
+  FuzzedDataProvider from(data + 1, size - 1);
+  return maker(from);
 }
 
 }  // namespace ostrane::fuzz

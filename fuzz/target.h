@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fuzzer/FuzzedDataProvider.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -29,14 +27,6 @@ inline void restart_on_empty_drives() {
   root = top_folder() / "1" / "2" / "3";
   reset_drives();
   restart();
-}
-
-// Calls `maker` if the first byte is odd. Otherwise the rest is the input.
-std::string raw_or_generated(const std::uint8_t* data, std::size_t size, const auto& maker) {
-  if (size == 0) return "";
-  if (data[0] % 2 == 0) return {reinterpret_cast<const char*>(data) + 1, size - 1};
-  FuzzedDataProvider from(data + 1, size - 1);
-  return maker(from);
 }
 
 // Splits a text at byte 1E.
