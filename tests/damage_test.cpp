@@ -40,11 +40,10 @@ TEST_F(damage_test, ExtractsOnlyTheCompleteEntriesOfATruncatedArchive) {
     write("D:\\old\\I.SHP", "older than the icons");
     ASSERT_NO_FATAL_FAILURE(use(whole.substr(0, length)));
     ASSERT_EQ(Form1.List1.ListCount(), length < 4 + 17 * 4 ? 0 : 4);
-    file_map complete_entries = {
-        {"I.SHP", icons}, {"N.TXT", "text"}, {"GAME.PAL", std::string(40, 'p')}};
-    if (length < whole.size() - 44) complete_entries.erase("I.SHP");
-    if (length < whole.size() - 40) complete_entries.erase("N.TXT");
-    if (length < whole.size()) complete_entries.erase("GAME.PAL");
+    file_map complete_entries;
+    if (length >= whole.size() - 44) complete_entries["I.SHP"] = icons;
+    if (length >= whole.size() - 40) complete_entries["N.TXT"] = "text";
+    if (length == whole.size()) complete_entries["GAME.PAL"] = std::string(40, 'p');
     ASSERT_EQ(files_in("D:\\new"), complete_entries);
     complete_entries.try_emplace("I.SHP", "older than the icons");
     ASSERT_EQ(files_in("D:\\old"), complete_entries);

@@ -82,11 +82,9 @@ TEST_F(motion_test, EndsWithItsSeries) {
 using report_test = icon_test;
 
 TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
-  std::vector<shp_icon> icons = {plain_icon(1, 1, 1), blank_icon(2, 2), plain_icon(1, 1, 1),
-                                 refused_icon(1, 1)};
-  icons[2].head = {9, 63, -2, 3, 40, 8};
+  const shp_icon reported = {{9, 63, -2, 3, 40, 8}, plain_icon(1, 1, 1).stream};
   user::type(Form1.Text5, "1");
-  show({icons});
+  show({{plain_icon(1, 1, 1), blank_icon(2, 2), reported, refused_icon(1, 1)}});
   user::type(Form1.Text5, "9");
   user::click(Form1.Command6);
   const auto reports = [] {
