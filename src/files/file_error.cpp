@@ -10,8 +10,8 @@ namespace files {
 namespace {
 
 std::string predicate_of(file_action action, const std::string& reason) {
-  constexpr std::array<const char*, 6> verbs = {"found", "opened",  "read",
-                                                "made",  "written", "written"};
+  constexpr std::array<const char*, 7> verbs = {"found",   "opened",  "read",      "made",
+                                                "written", "written", "written to"};
   return std::string("cannot be ") + verbs[static_cast<std::size_t>(action)] + ": " + reason + ".";
 }
 
@@ -29,6 +29,9 @@ file_error_number number_of(int errno_number) {
     case EBUSY:
     case ELOOP:
     case EMLINK:
+    case ESPIPE:
+    case ENOTSOCK:
+    case ENODEV:
       return file_error_number::permission_denied;
     case EISDIR:
       return file_error_number::path_access;
@@ -52,7 +55,6 @@ std::string reason_of(int errno_number) {
       return "it is not there";
     case EACCES:
     case EPERM:
-    case ENOTSUP:  // from std::filesystem::file_size of a folder or a device
       return "access is not allowed";
     case EBUSY:
       return "it is in use";
@@ -73,6 +75,13 @@ std::string reason_of(int errno_number) {
       return "it is a link";
     case EMLINK:
       return "it has several names";
+    // The kinds that system_calls refuses to open.
+    case ESPIPE:
+      return "it is a pipe";
+    case ENOTSOCK:
+      return "it is a socket";
+    case ENODEV:
+      return "it is a device";
     case ENAMETOOLONG:
       return "its name is too long";
     case EFBIG:

@@ -20,8 +20,9 @@ enum class file_error_number {
   path_not_found = 76,
 };
 
-// The action that failed. `replace` is the rename of a complete new file.
-enum class file_action : std::uint8_t { find, open, read, create, write, replace };
+// The action that failed. `replace` is the rename of a complete new file, `create_in` the creation
+// of any file in a folder.
+enum class file_action : std::uint8_t { find, open, read, create, write, replace, create_in };
 
 // A failed operation on a file, a folder or a drive.
 struct file_error : error {

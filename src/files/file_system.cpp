@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "files/binary_file.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/paths.h"
@@ -103,6 +104,7 @@ bool folder_exists(const std::string& path) { return fs::is_directory(status_of(
 std::int64_t file_size(const file_path& path) {
   std::error_code failed;
   const std::uintmax_t bytes = fs::file_size(path.system, failed);
+  if (failed) binary_file().open_to_read(path);  // throws the reason if it is no file
   if (failed) fail(path.shown, file_action::read, -errno_number(failed));
   return static_cast<std::int64_t>(bytes);
 }

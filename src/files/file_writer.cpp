@@ -35,6 +35,18 @@ std::string upper_case_name(const fs::path::string_type& system_name) {
   throw file_error(number, file_action::write, target.shown, reason);
 }
 
+// A file that nobody may write to, other than one that only this user must not.
+[[noreturn]] void fail_to_open(const file_path& target, file_action action, int status) {
+  std::error_code failed;
+  const fs::perms allowed = fs::status(target.system, failed).permissions();
+  const fs::perms writing =
+      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if (status == -EACCES && !failed && (allowed & writing) == fs::perms::none) {
+    throw file_error(file_error_number::permission_denied, action, target.shown, "it is read-only");
+  }
+  fail(target.shown, action, status);
+}
+
 void require_other(const file_path& target, const file_identity& identity,
                    const write_rules& rules) {
   if (identity != rules.source || identity == file_identity{}) return;
@@ -49,7 +61,7 @@ file_info require_writable(const file_path& target, const write_rules& rules) {
   require_other(target, old.stamp.identity, rules);
   if (old.is_link || (old.is_file && rules.replaces_read_only)) return old;
   const int opened = system_calls.open_to_write(target.system);
-  if (opened < 0) fail(target.shown, file_action::write, opened);
+  if (opened < 0) fail_to_open(target, file_action::write, opened);
   system_calls.close_file(opened);
   return old;
 }
@@ -127,7 +139,7 @@ void file_writer::create_beside() {
 
 void file_writer::overwrite() {
   const int opened = system_calls.open_to_write(target_.system);
-  if (opened < 0) fail(target_.shown, file_action::open, opened);
+  if (opened < 0) fail_to_open(target_, file_action::open, opened);
   file_.adopt(opened);
   is_new_ = false;
   old_file_ = file_.info().stamp.identity;

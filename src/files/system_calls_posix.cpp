@@ -24,17 +24,26 @@ int result(int returned) { return returned < 0 ? -errno : returned; }
 // Without O_NONBLOCK, open() of a pipe waits for its other end.
 constexpr int always = O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
 
+// The number that stands for a kind of file, see file_error.cpp.
+int refusal_of(mode_t mode) {
+  if (S_ISREG(mode)) return 0;
+  if (S_ISDIR(mode)) return -EISDIR;
+  if (S_ISFIFO(mode)) return -ESPIPE;
+  return S_ISSOCK(mode) ? -ENOTSOCK : -ENODEV;
+}
+
 int open_regular(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags | always, 0666);
-  if (file < 0) return errno == ENXIO ? -EACCES : -errno;
   struct stat status = {};
-  const int reason = fstat(file, &status) < 0  ? errno
-                     : S_ISREG(status.st_mode) ? 0
-                     : S_ISDIR(status.st_mode) ? EISDIR
-                                               : EACCES;
+  if (file < 0) {
+    // A socket, or a pipe without its other end.
+    const bool is_other = errno == ENXIO;
+    return is_other && stat(path.c_str(), &status) == 0 ? refusal_of(status.st_mode) : -errno;
+  }
+  const int reason = fstat(file, &status) < 0 ? -errno : refusal_of(status.st_mode);
   if (reason == 0) return file;
   close(file);
-  return -reason;
+  return reason;
 }
 
 int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }

@@ -20,7 +20,8 @@ bool exists(const file_path& path) {
 // As in a read-only or a sticky folder, and for a file that is a mount point.
 bool refuses_new_file(const file_error& error) {
   return error.number == file_error_number::permission_denied &&
-         (error.action == file_action::create || error.action == file_action::replace);
+         (error.action == file_action::create || error.action == file_action::create_in ||
+          error.action == file_action::replace);
 }
 
 void overwrite_in_place(binary_file& file, const file_path& target, std::string_view text,

@@ -15,15 +15,18 @@ namespace {
 constexpr auto max_wait = std::chrono::milliseconds(500);
 constexpr auto pause = std::chrono::milliseconds(5);
 
-// If the lock file exists but cannot be opened, the message names it instead of the target.
+// The message names what refuses: the lock file if it exists, else the folder if that is the
+// reason.
 [[noreturn]] void fail_to_open(const std::filesystem::path& lock, std::u8string shown, int status) {
   file_info found;
-  const bool exists = system_calls.info_at(lock, found) >= 0;
-  if (exists) {
-    shown.erase(shown.find_last_of(u8"\\/") + 1);
-    shown += lock.filename().u8string();
+  const std::size_t folder_size = shown.find_last_of(u8"\\/") + 1;
+  if (system_calls.info_at(lock, found) >= 0) {
+    shown.replace(folder_size, shown.npos, lock.filename().u8string());
+    fail(shown, file_action::open, status);
   }
-  fail(shown, exists ? file_action::open : file_action::create, status);
+  if (status != -EACCES && status != -EPERM) fail(shown, file_action::create, status);
+  shown.erase(folder_size);
+  fail(shown.empty() ? u8"." : shown, file_action::create_in, status);
 }
 
 }  // namespace
