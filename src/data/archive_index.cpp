@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "data/data_error.h"
 #include "files/little_endian.h"
 
 namespace ostrane {
@@ -34,6 +33,10 @@ std::int32_t read_count(files::binary_file& file, const files::file_path& path) 
 archive_index read_archive_index(const files::file_path& path) {
   files::binary_file file;
   file.open_to_read(path);
+  return read_archive_index(file, path);
+}
+
+archive_index read_archive_index(files::binary_file& file, const files::file_path& path) {
   archive_index index = {.records = {}, .stamp = file.info().stamp};
   const std::int32_t count = read_count(file, path);
   index.records.resize(static_cast<std::size_t>(count));
@@ -44,8 +47,21 @@ archive_index read_archive_index(const files::file_path& path) {
     decode_record(rest.first<record_size>(), record);
     rest = rest.subspan(record_size);
   }
-  if (file.info().stamp != index.stamp) refuse(path, "it was written to during the read.");
+  if (file.info().stamp != index.stamp) {
+    throw archive_changed(path.shown,
+                          "cannot be read as an archive: it was written to during the read.");
+  }
   return index;
+}
+
+bool is_sound(const archive_index& index) {
+  std::int64_t least =
+      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(index.records.size());
+  for (const dat_record& record : index.records) {
+    if (record.offset < least) return false;
+    least = record.offset;
+  }
+  return !index.records.empty() && least <= index.stamp.size;
 }
 
 void open_unchanged(files::binary_file& file, const files::file_path& path,
@@ -53,14 +69,14 @@ void open_unchanged(files::binary_file& file, const files::file_path& path,
   file.open_to_read(path);
   if (file.info().stamp == stamp) return;
   file.close();
-  throw data_error(path.shown, "has changed since it was read. Read it again.");
+  throw archive_changed(path.shown, "has changed since it was read. Read it again.");
 }
 
 void require_unchanged(files::binary_file& archive, const files::file_stamp& stamp,
                        const std::string& job) {
   if (archive.info().stamp == stamp) return;
-  throw data_error("The archive was written to during the " + job + ". Start the " + job +
-                   " again.");
+  throw archive_changed("The archive was written to during the " + job + ". Start the " + job +
+                        " again.");
 }
 
 }  // namespace ostrane

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "data/archive_format.h"
+#include "data/data_error.h"
 #include "files/binary_file.h"
 
 namespace ostrane {
@@ -13,11 +14,24 @@ struct archive_index {
   files::file_stamp stamp;          // of the archive file
 };
 
+// Another program has written to an archive between two steps of a job.
+struct archive_changed : data_error {
+  using data_error::data_error;
+};
+
 // Reads the index of an archive. Offsets are not checked. Throws data_error if the file is not an
 // archive or changes during the read, and file_error.
 archive_index read_archive_index(const files::file_path& path);
 
-// Opens an archive to read entries. Throws data_error if its stamp has changed, and file_error.
+// The same for a file that is open at its start; `path` is for messages.
+archive_index read_archive_index(files::binary_file& file, const files::file_path& path);
+
+// True if each entry ends where or before the next one begins, behind the index and in the file. A
+// file of another format practically never has such an index.
+bool is_sound(const archive_index& index);
+
+// Opens an archive to read entries. Throws archive_changed if its stamp has changed, and
+// file_error.
 void open_unchanged(files::binary_file& file, const files::file_path& path,
                     const files::file_stamp& stamp);
 

@@ -26,6 +26,7 @@ std::u8string shown(const entry_source& entry) {
 }
 
 std::int64_t size_of(const new_archive& archive, const entry_source& entry) {
+  if (entry.content) return static_cast<std::int64_t>(entry.content->size());
   if (!entry.old_index) return files::file_size(entry.file);
   const archive_index& old = archive.old->index;
   const std::int64_t start = old.records[*entry.old_index].offset;
@@ -60,6 +61,10 @@ struct writing {
 void copy_entry(writing& job, std::size_t i) {
   const entry_source& entry = job.archive.entries[i];
   const std::int32_t size = job.archive.records[i + 1].offset - job.archive.records[i].offset;
+  if (entry.content) {
+    job.to.write(std::as_bytes(std::span(*entry.content)));
+    return;
+  }
   files::binary_file& from = entry.old_index ? job.old : job.file;
   if (entry.old_index) {
     from.seek(job.archive.old->index.records[*entry.old_index].offset);

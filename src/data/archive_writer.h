@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -14,12 +15,13 @@ namespace ostrane {
 
 constexpr const char* archive_name = "OSTRANE.DAT";
 
-// What becomes an entry of a new archive: a file, or an entry of the old archive.
+// What becomes an entry of a new archive: a file, an entry of the old archive, or other content.
 struct entry_source {
   record_name name;        // of the new entry
   std::string shown_name;  // of the file or the entry, for messages
   files::file_path file = {};
-  std::optional<std::size_t> old_index = {};  // null for a file
+  std::optional<std::size_t> old_index = {};        // null for a file
+  std::shared_ptr<const std::string> content = {};  // of an old entry that changes
 };
 
 struct old_archive {

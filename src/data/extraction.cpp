@@ -64,6 +64,7 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   const bool changes_file = to.is_new() || size > 0;
   if (!to.is_new() && changes_file) report_overwritten(job, to.old_file());
   if (!copy_entry(job, job.file, size)) return archive_too_short;
+  if (job.choice.truncates && !to.is_new()) job.file.truncate();
   to.keep([&job] { require_unchanged(job.archive, job.stamp, "extraction"); });
   if (to.is_new()) report_overwritten(job, to.old_file());
   if (changes_file) remember_written(job, to.written_file());

@@ -31,6 +31,7 @@ struct extraction_choice {
   bool entries_are_adjacent = true;
   // Otherwise an existing file is overwritten from its first byte and not truncated.
   bool replaces_atomically = false;
+  bool truncates = false;  // an existing file that is overwritten
 };
 
 // Writes the wanted entries of an open archive, each to its own file. A full disk, a lack of memory

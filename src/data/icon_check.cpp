@@ -95,6 +95,10 @@ void check_stream(icon_file_check& check, const std::string& icon, const icon_he
   const std::int64_t used = size - check.stream.entry_bytes_left -
                             (check.stream.read_buffer_fill - check.stream.read_buffer_pos);
   check.bytes_left_to_read -= used;
+  if (used > max_stream_bytes(head)) {
+    check.report(icon + "only the first " + std::to_string(max_stream_bytes(head)) +
+                 " bytes of its stream are read");
+  }
   if (canvas.paints_outside) check.report(icon + "its stream paints outside the picture");
   if (check.stream.stream_ended) {
     check.report(icon + "its stream ends before row " + std::to_string(head.row_end));

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "data/game_palette.h"
 #include "data/shp_format.h"
@@ -36,6 +37,8 @@ struct icon_export {
   std::function<files::file_path(const std::u8string& name)> target = {};
   // Called with the reason for each icon that is skipped or not exact.
   std::function<void(const std::string& reason)> on_skipped = {};
+  // Called before each file is written; if it returns false the file is left out. May be null.
+  std::function<bool(const files::file_path& target)> on_file = {};
   // Called before each icon; may be null.
   std::function<void(std::size_t number, std::size_t count)> on_icon = {};
 };
@@ -43,6 +46,10 @@ struct icon_export {
 // Reads the icons from an open archive and writes each file atomically. Throws data_error if no
 // icon can be exported, and file_error.
 using icon_exporter = void (*)(files::binary_file& archive, const icon_export& wanted);
+
+// Returns the names of the files that an export of an icon file with `last` icons can write.
+std::vector<std::u8string> exported_files(picture_form form, const std::u8string& stem,
+                                          std::size_t first, std::size_t last);
 
 // Returns the name of an entry without its last four characters, the extension. Names of at most
 // four characters are returned unchanged.

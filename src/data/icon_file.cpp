@@ -81,4 +81,19 @@ picture read_icon_picture(icon_stream& stream, files::binary_file& file, const i
   return drawn;
 }
 
+stored_icon read_stored_icon(icon_stream& stream, files::binary_file& file, const icon_file& from,
+                             std::size_t index) {
+  stored_icon icon;
+  const std::int32_t position = from.positions[index];
+  const bool is_inside = position > 0 && position <= from.end;
+  icon.is_there = is_inside && read_icon_head(file, position, icon.head);
+  if (!icon.is_there || classify_icon(icon.head) != icon_kind::drawable ||
+      !has_picture(icon.head)) {
+    return icon;
+  }
+  icon.drawn = read_icon_picture(stream, file, from, icon.head, position);
+  icon.is_cut = stream.stream_ended && from.end - position > max_stream_bytes(icon.head);
+  return icon;
+}
+
 }  // namespace ostrane

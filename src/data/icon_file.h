@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "data/picture.h"
@@ -28,6 +29,10 @@ constexpr std::int64_t max_picture_cells = std::int64_t{1} << 26U;
 // False if that size is not positive or above max_picture_cells.
 bool has_picture(const icon_head& head);
 
+// One export or comparison reads at most this many cells, as icons of a few bytes can have large
+// pictures.
+constexpr std::int64_t max_job_cells = std::int64_t{1} << 30U;
+
 // Returns the cells that all pictures of drawable icons have together. Throws file_error.
 std::int64_t count_picture_cells(files::binary_file& file, const icon_file& from);
 
@@ -35,5 +40,18 @@ std::int64_t count_picture_cells(files::binary_file& file, const icon_file& from
 // must be after the head. Throws file_error.
 picture read_icon_picture(icon_stream& stream, files::binary_file& file, const icon_file& from,
                           const icon_head& head, std::int32_t position);
+
+struct stored_icon {
+  bool is_there = false;  // its head is in the icon file
+  icon_head head = blank_head;
+  std::optional<picture> drawn;  // of a drawable icon with a picture
+  bool is_cut = false;           // its stream exceeds max_stream_bytes
+
+  friend bool operator==(const stored_icon&, const stored_icon&) = default;
+};
+
+// Reads the icon at a 0-based index. Throws file_error.
+stored_icon read_stored_icon(icon_stream& stream, files::binary_file& file, const icon_file& from,
+                             std::size_t index);
 
 }  // namespace ostrane

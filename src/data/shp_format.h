@@ -46,6 +46,8 @@ struct icon_head {
   std::int32_t col_end = 0;
   std::int32_t row_end = 0;
   std::int32_t spare = 0;
+
+  friend bool operator==(const icon_head&, const icon_head&) = default;
 };
 
 // The head of an icon that shows nothing. It replaces a head that cannot be read.
