@@ -1,8 +1,9 @@
+#include "command/archive_change.h"
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
-#include "data/archive_writer.h"
-#include "files/case_insensitive_lookup.h"
+#include "command/outputs.h"
+#include "data/data_error.h"
 #include "files/code_page.h"
 #include "files/failure.h"
 #include "files/file_system.h"
@@ -18,41 +19,47 @@ struct build_job {
   const build_options& options;
   files::file_path folder;
   files::file_path target;
-  fs::path replaced = {};  // the target, or the same name in another case
   new_archive archive = {};
 };
 
-// An archive does not contain itself. Windows finds the old file under each spelling; elsewhere a
-// name in another case is another file.
-bool is_target(const build_job& job, const fs::path& path) {
-  const auto folded = [](const fs::path& file) {
-    return files::upper_case(files::name_as_text_lossy(file.filename().native()));
-  };
-  if (folded(path) == archive_name) return true;
-  std::error_code failed;
-  return folded(path) == folded(job.replaced) && fs::equivalent(path, job.replaced, failed);
+// An archive does not contain itself. The game finds its archive under each spelling; another name
+// means the file that it leads to.
+bool is_target(const build_job& job, const std::string& name, const fs::path& path) {
+  const std::string& named = job.options.archive;
+  return files::upper_case(name) == archive_name || (!named.empty() && is_same_file(named, path));
+}
+
+// Only an old archive may be both in the folder and the target.
+void require_archive(const build_job& job, const fs::path& path) {
+  archive_index index;
+  try {
+    index = read_archive_index(shown_as_named(path));
+  } catch (const data_error&) {
+    // It has no records.
+  }
+  if (!is_sound(index)) require_other_file(job.options.archive, path);
 }
 
 void list_files(build_job& job) {
   for (const std::string& name : files::files_in(job.folder)) {
     const fs::path path = job.folder.system / files::system_name(name);
-    if (is_target(job, path)) continue;
-    job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
+    if (!is_target(job, name, path)) {
+      job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
+    } else if (files::upper_case(name) != archive_name) {
+      require_archive(job, path);
+    }
   }
 }
 
 void write(build_job& job) {
-  const std::size_t count = job.archive.entries.size();
-  make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
-  if (job.options.archive != "-") {
-    const bool is_linked = has_other_names(job.replaced);
-    replace_archive(job.target, job.archive, shown_progress(count),
-                    {.is_only_spelling = job.options.archive.empty()});
-    if (is_linked) note_other_names(job.target);
+  files::binary_file output;
+  if (!open_stream(job.options.archive, output)) {
+    write_changed(job.archive, job.target, {.is_only_spelling = job.options.archive.empty()});
     return;
   }
-  files::binary_file output;
-  open_output(output);
+  const std::size_t count = job.archive.entries.size();
+  make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
+  if (!begin_write(job.target.shown)) return;
   write_archive_to(output, job.archive, shown_progress(count));
   output.close();
 }
@@ -60,7 +67,7 @@ void write(build_job& job) {
 void report_skipped_files(const build_job& job, int& status) {
   for (const files::unlisted_file& file :
        files::unlisted_files_in(job.folder, file_paths(job.archive))) {
-    if (is_target(job, file.path)) continue;
+    if (is_target(job, file.name, file.path)) continue;
     print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
     status = status_differs;
   }
@@ -89,14 +96,8 @@ int report_files(const build_job& job) {
 int build(const build_options& options) {
   require_folder(options.folder);
   build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
-  // The game finds its archive under each spelling. Another name means itself only.
-  if (options.archive.empty()) {
-    job.target = shown_as_named(job.folder.system / archive_name);
-    job.replaced = files::existing_spelling(job.target.system);
-  } else {
-    job.target = named_link_target(options.archive);
-    job.replaced = job.target.system;
-  }
+  job.target = options.archive.empty() ? shown_as_named(job.folder.system / archive_name)
+                                       : named_link_target(options.archive);
   list_files(job);
   write(job);
   return report_files(job);

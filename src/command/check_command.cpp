@@ -15,7 +15,7 @@ bool check_one(const std::string& archive) {
   bool is_valid = true;
   const std::u8string subject = files::as_utf8(archive);
   check_archive(
-      named_file(archive),
+      named_input(archive),
       [&](const std::string& entry, const std::string& fault) {
         is_valid = false;
         const std::u8string where =

@@ -10,7 +10,8 @@
 namespace ostrane::command {
 
 struct list_options {
-  std::string archive;
+  std::vector<std::string> archives;
+  std::string order;  // name, size, offset or kind; "" for that of the index
   bool is_long = false;
   bool is_json = false;
   std::string icon_names;  // "" for iconlist.csv in the program's folder
@@ -21,6 +22,8 @@ struct extract_options {
   std::string archive;
   std::vector<std::string> names;
   std::string folder = ".";
+  std::string output;  // of one entry; "" for files in the folder
+  bool overwrites = false;
 };
 int extract(const extract_options& options);
 
@@ -33,6 +36,7 @@ int build(const build_options& options);
 struct add_options {
   std::string archive;
   std::vector<std::string> files;
+  bool is_forced = false;
 };
 int add(const add_options& options);
 
@@ -41,6 +45,27 @@ struct remove_options {
   std::vector<std::string> names;
 };
 int remove(const remove_options& options);
+
+struct rename_options {
+  std::string archive;
+  std::string old_name;
+  std::string new_name;
+  bool keeps_order = false;
+};
+int rename(const rename_options& options);
+
+struct pack_options {
+  std::string archive;
+  std::vector<std::string> names;
+};
+int pack(const pack_options& options);
+
+struct diff_options {
+  std::string old_archive;
+  std::string new_archive;
+  bool is_json = false;
+};
+int diff(const diff_options& options);
 
 struct compare_options {
   std::string archive;
@@ -69,6 +94,7 @@ struct import_options {
   std::string icon_file;
   std::string palette;
   std::string like;  // "" for none
+  std::string grid;  // "COLSxROWS"; "" for none
 };
 int import_pictures(const import_options& options);
 

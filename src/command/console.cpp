@@ -22,7 +22,8 @@ constexpr auto bar_interval = std::chrono::milliseconds(100);
 constexpr std::size_t bar_width = 30;
 
 struct console_state {
-  bool is_quiet = false;
+  talk wanted = talk::normal;
+  bool is_dry_run = false;
   std::string pending;
   bool bar_is_shown = false;
   std::size_t bar_index = 0;
@@ -48,7 +49,21 @@ void write_out() {
 
 }  // namespace
 
-void set_quiet(bool quiet) { console.is_quiet = quiet; }
+void set_talk(talk wanted, bool is_dry_run) {
+  console.wanted = wanted;
+  console.is_dry_run = is_dry_run;
+}
+
+bool is_dry_run() { return console.is_dry_run; }
+
+bool begin_write(const std::u8string& target) {
+  print_step({target, console.is_dry_run ? "would be written" : "is written"});
+  return !console.is_dry_run;
+}
+
+void print_step(const files::failure& step) {
+  if (console.wanted == talk::verbose || console.is_dry_run) print_error(step);
+}
 
 void print(std::string_view bytes) {
   console.pending += bytes;
@@ -70,7 +85,7 @@ void print_error(const files::failure& failed) {
 }
 
 void print_note(const files::failure& failed) {
-  if (!console.is_quiet) print_error(failed);
+  if (console.wanted != talk::quiet) print_error(failed);
 }
 
 void show_progress(std::size_t index, std::size_t count, std::string_view name) {
@@ -78,7 +93,7 @@ void show_progress(std::size_t index, std::size_t count, std::string_view name) 
   console.bar_index = index;
   if (!name.empty()) console.bar_name = files::printable(files::to_utf8(name));
   static const bool has_terminal = stderr_is_terminal();
-  if (!has_terminal || console.is_quiet || clock::now() < console.next_bar) return;
+  if (!has_terminal || console.wanted == talk::quiet || clock::now() < console.next_bar) return;
   console.next_bar = clock::now() + bar_interval;
   console.bar_is_shown = true;
   const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,19 @@ constexpr int status_done = 0;
 constexpr int status_differs = 1;
 constexpr int status_failed = 2;
 
-// Suppresses notes and progress. Errors are still printed.
-void set_quiet(bool quiet);
+enum class talk : std::uint8_t {
+  quiet,   // no notes and no progress. Errors are still printed
+  normal,  // as described below
+  verbose  // also what is written
+};
+void set_talk(talk wanted, bool is_dry_run);
+
+// Nothing must be written.
+bool is_dry_run();
+// Reports a file that is about to be written, if the user wants that. Returns false in a dry run.
+bool begin_write(const std::u8string& target);
+// Reports a step of a change under --verbose and --dry-run.
+void print_step(const files::failure& step);
 
 // Prints the bytes of a result, buffered. Throws file_error if the output fails, and interruption.
 void print(std::string_view bytes);
@@ -25,7 +37,7 @@ void flush_output();
 
 // Prints the line "ostrane-dat: SUBJECT: REASON" to standard error, without an empty subject.
 void print_error(const files::failure& failed);
-// The same for a note, which set_quiet suppresses.
+// The same for a note, which is not printed if quiet.
 void print_note(const files::failure& failed);
 
 // Shows the progress of a long job as a bar on standard error if that is a terminal. `name` is in

@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cstdio>
+#include <unordered_map>
 
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
+#include "command/outputs.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
@@ -23,7 +25,6 @@ namespace ostrane::command {
 namespace {
 
 constexpr int palette_side = 16;
-constexpr std::int64_t max_exported_cells = std::int64_t{1} << 30U;
 
 struct entries_export {
   const export_options& options;
@@ -31,19 +32,26 @@ struct entries_export {
   files::file_stamp stamp = {};  // of the archive
   rgb_palette palette = {};
   files::binary_file output = {};
+  std::size_t skipped = 0;  // entries without any file
   int status = status_done;
 };
 
 struct exported_entry {
   std::string name;
   std::u8string stem;  // prefix of its file names
+  entry_kind kind = entry_kind::other;
   std::int32_t start = 0;
   std::int32_t end = 0;
 };
 
-void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
+void note(entries_export& job, const exported_entry& entry, const std::string& reason) {
   print_error({files::to_utf8(entry.name), reason});
   job.status = status_differs;
+}
+
+void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
+  note(job, entry, reason);
+  ++job.skipped;
 }
 
 files::file_path target_of(const entries_export& job, const std::u8string& name) {
@@ -52,13 +60,15 @@ files::file_path target_of(const entries_export& job, const std::u8string& name)
 
 void write_export(entries_export& job, const std::u8string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
-  files::write_bytes(job.output, target_of(job, name), bytes, {.source = job.stamp.identity});
+  const files::file_path target = target_of(job, name);
+  if (begin_write(target.shown)) {
+    files::write_bytes(job.output, target, bytes, {.source = job.stamp.identity});
+  }
 }
 
 void export_icons(entries_export& job, const exported_entry& entry) {
   require_unchanged(job.archive, job.stamp, "export");  // the exporter checks only from now on
   const export_options& options = job.options;
-  const bool is_sheet = options.form == picture_form::sheet;
   make_icon_exporter()(
       job.archive,
       {.entry = entry.name,
@@ -66,11 +76,12 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .end = entry.end,
        .colours = job.palette,
        .form = options.form,
-       .stem = is_sheet ? entry.stem + u8"-sheet" : entry.stem,
+       .stem = entry.stem,
        .pace = options.pace,
        .scale = options.scale,
        .target = [&](const std::u8string& name) { return target_of(job, name); },
-       .on_skipped = [&](const std::string& reason) { skip(job, entry, reason); },
+       .on_skipped = [&](const std::string& reason) { note(job, entry, reason); },
+       .on_file = [](const files::file_path& target) { return begin_write(target.shown); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }
@@ -116,70 +127,106 @@ void export_text(entries_export& job, const exported_entry& entry) {
   write_export(job, entry.stem + u8".txt", files::as_bytes(files::to_utf8(text)));
 }
 
-void export_one(entries_export& job, const exported_entry& entry, entry_kind kind) {
-  if (kind == entry_kind::palette) {
+void export_one(entries_export& job, const exported_entry& entry) {
+  const std::string unsafe = unsafe_name_reason(entry.name);
+  if (!unsafe.empty()) {
+    skip(job, entry, "skipped: " + unsafe);
+  } else if (entry.kind == entry_kind::palette) {
     export_palette(job, entry);
-  } else if (kind == entry_kind::text) {
+  } else if (entry.kind == entry_kind::text) {
     export_text(job, entry);
-  } else if (kind == entry_kind::other) {
+  } else if (entry.kind == entry_kind::other) {
     skip(job, entry, "skipped: it is not an icon file, palette or text");
   } else {
     export_icons(job, entry);
   }
 }
 
-void export_entry(entries_export& job, const archive_index& index, std::size_t i) {
-  const std::string name = name_with_blanks(index.records[i].name);
-  const exported_entry entry = {.name = name,
-                                .stem = files::to_utf8(stem_of_entry(name)),
-                                .start = index.records[i].offset,
-                                .end = index.records[i + 1].offset};
-  const std::string unsafe = unsafe_name_reason(name);
-  if (!unsafe.empty()) {
-    skip(job, entry, "skipped: " + unsafe);
-    return;
-  }
+void export_entry(entries_export& job, const exported_entry& entry) {
   try {
-    export_one(job, entry, kind_of_entry(name_without_nuls(index.records[i].name)));
+    export_one(job, entry);
   } catch (const data_error& error) {
     require_unchanged(job.archive, job.stamp, "export");
     skip(job, entry, error.told.reason);
   }
 }
 
-// An icon of a few bytes can have a picture of many megabytes.
-void require_reasonable_size(entries_export& job, const archive_index& index,
-                             const std::vector<bool>& chosen) {
-  std::int64_t cells = 0;
+std::vector<exported_entry> chosen_exports(const archive_index& index,
+                                           const export_options& options) {
+  const std::vector<bool> chosen = chosen_entries(index.records, options.names);
+  std::vector<exported_entry> entries;
   for (std::size_t i = 0; i < chosen.size(); ++i) {
-    const std::string name = name_without_nuls(index.records[i].name);
-    if (!chosen[i] || kind_of_entry(name) != entry_kind::icons) continue;
-    show_progress(i, chosen.size(), name);
-    cells += count_picture_cells(job.archive, read_icon_file(job.archive, index.records[i].offset,
-                                                             index.records[i + 1].offset));
-    if (cells <= max_exported_cells) continue;
-    throw data_error("The pictures of these entries have more than " +
-                     std::to_string(max_exported_cells) +
-                     " cells together, which is the most for one export.");
+    if (!chosen[i]) continue;
+    const std::string name = name_with_blanks(index.records[i].name);
+    const entry_kind kind = kind_of_entry(name_without_nuls(index.records[i].name));
+    const bool is_sheet = kind == entry_kind::icons && options.form == picture_form::sheet;
+    entries.push_back({.name = name,
+                       .stem = files::to_utf8(stem_of_entry(name)) + (is_sheet ? u8"-sheet" : u8""),
+                       .kind = kind,
+                       .start = index.records[i].offset,
+                       .end = index.records[i + 1].offset});
+  }
+  return entries;
+}
+
+std::int64_t count_cells(entries_export& job, const std::vector<exported_entry>& entries) {
+  std::int64_t cells = 0;
+  for (std::size_t i = 0; i < entries.size() && cells <= max_job_cells; ++i) {
+    if (entries[i].kind != entry_kind::icons) continue;
+    show_progress(i, entries.size(), entries[i].name);
+    cells += count_picture_cells(job.archive,
+                                 read_icon_file(job.archive, entries[i].start, entries[i].end));
+  }
+  return cells;
+}
+
+void require_reasonable_size(std::int64_t cells) {
+  if (cells <= max_job_cells) return;
+  throw data_error("The pictures of these entries have more than " + std::to_string(max_job_cells) +
+                   " cells together, which is the most for one export.");
+}
+
+std::vector<std::u8string> files_of(entries_export& job, const exported_entry& entry) {
+  if (entry.kind == entry_kind::palette) return {entry.stem + u8".png", entry.stem + u8".gpl"};
+  if (entry.kind == entry_kind::text) return {entry.stem + u8".txt"};
+  if (entry.kind == entry_kind::other) return {};
+  const icon_file from = read_icon_file(job.archive, entry.start, entry.end);
+  return exported_files(job.options.form, entry.stem, 1, from.positions.size());
+}
+
+// No file may be the archive or that of another entry. Checked before any file is written.
+void require_separate_files(entries_export& job, const std::vector<exported_entry>& entries) {
+  std::unordered_map<std::string, const exported_entry*> owners;  // by names in upper case
+  for (const exported_entry& entry : entries) {
+    if (!unsafe_name_reason(entry.name).empty()) continue;
+    for (const std::u8string& name : files_of(job, entry)) {
+      const auto [found, is_new] =
+          owners.emplace(files::upper_case(files::from_utf8_lossy(name)), &entry);
+      if (!is_new) {
+        throw data_error(name, "cannot be written: it would be a file of both " +
+                                   found->second->name + " and " + entry.name + ".");
+      }
+      require_other_file(files::as_bytes(target_of(job, name).shown),
+                         path_of_argument(job.options.archive));
+    }
   }
 }
 
 }  // namespace
 
 int export_entries(const export_options& options) {
-  const files::file_path archive = named_file(options.archive);
+  const files::file_path archive = named_input(options.archive);
   const archive_index index = read_archive_index(archive);
-  const std::vector<bool> chosen = chosen_entries(index.records, options.names);
+  const std::vector<exported_entry> entries = chosen_exports(index, options);
   entries_export job = {.options = options};
   open_unchanged(job.archive, archive, index.stamp);
-  require_reasonable_size(job, index, chosen);
+  require_reasonable_size(count_cells(job, entries));
+  require_separate_files(job, entries);
   make_folder(options.folder);
   job.stamp = index.stamp;
   job.palette = read_game_colours(job.archive, index.records);
-  for (std::size_t i = 0; i < chosen.size(); ++i) {
-    if (chosen[i]) export_entry(job, index, i);
-  }
-  return job.status;
+  for (const exported_entry& entry : entries) export_entry(job, entry);
+  return job.skipped > 0 && job.skipped == entries.size() ? status_failed : job.status;
 }
 
 }  // namespace ostrane::command

@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cstdio>
 #include <future>
+#include <memory>
+#include <mutex>
 #include <system_error>
 #include <thread>
 
@@ -9,47 +12,117 @@
 #include "command/console.h"
 #include "command/import_sources.h"
 #include "command/named_files.h"
+#include "command/outputs.h"
 #include "command/program.h"
 #include "data/data_error.h"
 #include "data/number_text.h"
 #include "data/palette.h"
 #include "files/code_page.h"
+#include "files/text.h"
 #include "pictures/png_reader.h"
 
 namespace ostrane::command {
 
 namespace {
 
-rgb_palette read_palette_argument(const std::string& argument) {
-  const files::file_path path = named_file(argument);
-  files::binary_file file;
-  file.open_to_read(path);
-  if (file.size() == std::int64_t{palette_colours * colour_size}) return read_colours(file, 0);
-  const archive_index index = read_archive_index(path);
-  return read_game_colours(file, index.records);
+// The file of --palette.
+struct game_file {
+  files::binary_file file = {};
+  archive_index index = {};  // without records if it is no archive
+  rgb_palette colours = {};
+};
+
+// A palette has no mark of its own, so an archive is told by its index.
+void read_game_file(game_file& game, const std::string& argument) {
+  const files::file_path path = named_input(argument);
+  game.file.open_to_read(path);
+  try {
+    game.index = read_archive_index(game.file, path);
+  } catch (const data_error&) {
+    game.index = {};
+  }
+  if (is_sound(game.index) || find_game_palette(game.index.records) != nullptr) {
+    game.colours = read_game_colours(game.file, game.index.records);
+    return;
+  }
+  game.index = {};
+  if (game.file.size() < std::int64_t{palette_colours * colour_size}) {
+    throw data_error(path.shown, "is neither an archive nor a palette, which has 1024 bytes.");
+  }
+  game.colours = read_colours(game.file, 0);
 }
+
+// The icon file with the old cells, in a file that is open.
+class old_icons {
+ public:
+  old_icons(files::binary_file& file, icon_file from) : file_(file), from_(std::move(from)) {}
+
+  const icon_file& icons() const { return from_; }
+  files::binary_file& file() { return file_; }
+
+  // Threads may call it.
+  std::optional<picture> picture_at(std::size_t index) {
+    if (index >= from_.positions.size()) return {};
+    const std::lock_guard<std::mutex> one_at_a_time(mutex_);
+    return read_stored_icon(*stream_, file_, from_, index).drawn;
+  }
+
+ private:
+  files::binary_file& file_;
+  icon_file from_;
+  std::mutex mutex_;
+  std::unique_ptr<icon_stream> stream_ = std::make_unique<icon_stream>();
+};
 
 // What the threads of an import share.
 struct import_job {
   const import_plan& plan;
+  old_icons* old;  // may be null
   std::vector<shp_icon> icons;
   std::atomic<std::size_t> next = 0;  // index of the next icon to make
   std::atomic<bool> stops = false;
-  std::atomic<std::int64_t> inexact_pixels = 0;
-  std::atomic<std::int64_t> inexact_pictures = 0;
+  std::atomic<std::int64_t> changed_pixels = 0;
+  std::atomic<std::int64_t> changed_pictures = 0;
+  std::atomic<std::int64_t> shared_pixels = 0;
 };
+
+// A cell of a grid is as large as the largest icon. Returns the picture in the size of `head` if no
+// set cell is lost.
+picture fitted(picture drawn, const icon_head& head) {
+  if (!has_picture(head)) return drawn;
+  picture small(static_cast<int>(columns_of(head)), static_cast<int>(rows_of(head)));
+  for (int row = 0; row < drawn.rows(); ++row) {
+    for (int column = 0; column < drawn.columns(); ++column) {
+      if (!drawn.is_set(column, row)) continue;
+      if (column >= small.columns() || row >= small.rows()) return drawn;
+      small.row(row)[static_cast<std::size_t>(column)] = drawn.at(column, row);
+    }
+  }
+  return small;
+}
+
+picture marked_picture_of(const planned_icon& planned, colour_finder& colours,
+                          files::binary_file& file) {
+  if (planned.png) return read_png(read_bytes(file, *planned.png), planned.png->shown, colours);
+  return planned.is_in_grid && planned.known ? fitted(*planned.marked, planned.known->head)
+                                             : *planned.marked;
+}
 
 shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finder& colours,
                       files::binary_file& file) {
-  if (!planned.png) return {planned.known->head, ""};
-  const std::string bytes = read_bytes(file, *planned.png);
-  const png_picture read = read_png(bytes, planned.png->shown, colours);
-  job.inexact_pixels += read.inexact;
-  if (read.inexact > 0) ++job.inexact_pictures;
+  if (!planned.has_picture()) return {planned.known->head, ""};
+  picture marked = marked_picture_of(planned, colours, file);
+  std::optional<picture> old;
+  if (job.old != nullptr && planned.old_index) old = job.old->picture_at(*planned.old_index);
+  const settled_picture read = settled(std::move(marked), colours.palette(), old ? &*old : nullptr);
+  job.changed_pixels += read.changed;
+  job.shared_pixels += read.shared;
+  if (read.changed > 0) ++job.changed_pictures;
   try {
     return new_icon(read.drawn, planned.known);
   } catch (const data_error& error) {
-    throw data_error(planned.png->shown, "cannot become an icon: " + error.told.reason + ".");
+    throw data_error(planned.png ? planned.png->shown : u8"A picture",
+                     "cannot become an icon: " + error.told.reason + ".");
   }
 }
 
@@ -92,54 +165,98 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
   }
 }
 
-int report_inexact_pixels(const import_options& options, const import_job& job) {
-  if (job.inexact_pixels == 0) return status_done;
-  print_note(
-      {files::as_utf8(options.icon_file), counted(job.inexact_pixels, "pixel") + " of " +
-                                              counted(job.inexact_pictures, "picture") +
-                                              " changed to the nearest colour or transparency"});
-  return status_differs;
+grid_size grid_in(const std::string& text) {
+  grid_size grid;
+  char end = 0;
+  const bool is_grid = std::sscanf(text.c_str(), "%5dx%5d%c", &grid.columns, &grid.rows, &end) == 2;
+  if (!text.empty() && (!is_grid || grid.columns < 1 || grid.rows < 1 ||
+                        std::int64_t{grid.columns} * grid.rows > max_icons_per_file)) {
+    throw data_error(files::as_utf8(text), "is not a grid such as 8x4 of at most 5000 icons.");
+  }
+  return grid;
 }
 
-import_plan make_plan(const import_options& options) {
-  const auto require_other = [&options](const std::string& input) {
-    require_other_file(options.icon_file, input);
-  };
-  require_other(options.palette);
-  std::for_each(options.sources.begin(), options.sources.end(), require_other);
-  import_plan plan = plan_of(
-      options.sources, files::as_bytes(path_of_argument(options.icon_file).stem().u8string()));
-  for (const planned_icon& icon : plan.icons) {
-    if (icon.png) require_other(files::as_bytes(icon.png->shown));
+import_plan make_plan(const import_options& options, colour_finder& colours) {
+  require_other_file(options.icon_file, path_of_argument(options.palette));
+  const std::string stem = files::as_bytes(path_of_argument(options.icon_file).stem().u8string());
+  import_plan plan = plan_of(options.sources, stem, grid_in(options.grid), colours);
+  for (const files::file_path& input : plan.inputs) {
+    require_other_file(options.icon_file, input.system);
   }
-  if (!options.like.empty()) plan = plan_like(plan, named_file(options.like));
   return plan;
 }
 
-// The options --like and -o may name the same file.
-int report_left_out_icons(const import_options& options, const import_plan& plan) {
-  if (plan.left_out == 0) return status_done;
-  print_note({files::as_utf8(options.icon_file),
-              counted(plan.left_out, "icon") +
-                  " of the old icon file left out, as there are too few pictures"});
-  return status_differs;
+// The old cells are those of --like, or of the entry that the JSON names in the archive of
+// --palette. The options --like and -o may name the same file.
+std::unique_ptr<old_icons> find_old_icons(const import_options& options, const import_plan& plan,
+                                          game_file& game, files::binary_file& like) {
+  if (!options.like.empty()) {
+    const files::file_path path = named_input(options.like);
+    like.open_to_read(path);
+    if (like.size() < std::int64_t{shp_head_size}) {
+      throw data_error(path.shown, "is too short for an icon file.");
+    }
+    const auto size = static_cast<std::int32_t>(std::min<std::int64_t>(like.size(), INT32_MAX));
+    return std::make_unique<old_icons>(like, read_icon_file(like, 0, size));
+  }
+  const auto& records = game.index.records;
+  const std::string wanted = files::compare_key(files::from_utf8_lossy(plan.entry));
+  for (std::size_t i = 0; !wanted.empty() && i + 1 < records.size(); ++i) {
+    if (files::compare_key(name_with_blanks(records[i].name)) != wanted) continue;
+    return std::make_unique<old_icons>(
+        game.file, read_icon_file(game.file, records[i].offset, records[i + 1].offset));
+  }
+  return nullptr;
+}
+
+// A JSON or an old icon file was given, so its icons and cells are expected to come back.
+int report(const import_options& options, const import_job& job) {
+  const std::u8string subject = files::as_utf8(options.icon_file);
+  int status = status_done;
+  for (const files::failure& fault : job.plan.faults) {
+    print_error(fault);
+    status = status_differs;
+  }
+  if (job.changed_pixels > 0) {
+    print_note({subject, counted(job.changed_pixels, "pixel") + " of " +
+                             counted(job.changed_pictures, "picture") +
+                             " changed to the nearest colour or transparency"});
+    status = status_differs;
+  }
+  if (job.shared_pixels > 0) {
+    print_note({subject, counted(job.shared_pixels, "pixel") +
+                             " got the lowest of several indices with their colour"});
+  }
+  if (job.plan.left_out > 0) {
+    print_note({subject, counted(job.plan.left_out, "icon") +
+                             " of the old icon file left out, as there are too few pictures"});
+    status = status_differs;
+  }
+  return status;
 }
 
 }  // namespace
 
 int import_pictures(const import_options& options) {
-  const import_plan plan = make_plan(options);
+  game_file game;
+  read_game_file(game, options.palette);
+  colour_finder colours(game.colours);
+  import_plan plan = make_plan(options, colours);
+  files::binary_file like;
+  const std::unique_ptr<old_icons> old = find_old_icons(options, plan, game, like);
+  if (!options.like.empty()) plan = plan_like(std::move(plan), old->file(), old->icons());
+  remove_empty_end(plan);
   if (plan.icons.empty()) {
     throw data_error(files::as_utf8(options.sources.front()), "contains no pictures.");
   }
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
     throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
   }
-  import_job job = {.plan = plan, .icons = std::vector<shp_icon>(plan.icons.size())};
-  make_all_icons(job, colour_finder(read_palette_argument(options.palette)));
+  import_job job = {
+      .plan = plan, .old = old.get(), .icons = std::vector<shp_icon>(plan.icons.size())};
+  make_all_icons(job, colours);
   write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
-  const int inexact = report_inexact_pixels(options, job);
-  return std::max(inexact, report_left_out_icons(options, plan));
+  return report(options, job);
 }
 
 }  // namespace ostrane::command

@@ -2,16 +2,18 @@
 
 #include <algorithm>
 #include <memory>
+#include <unordered_set>
 
 #include "command/named_files.h"
 #include "command/program.h"
 #include "data/data_error.h"
-#include "data/icon_file.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
-#include "files/system_name.h"
+#include "files/natural_order.h"
 #include "files/text.h"
-#include "pictures/icon_json.h"
+#include "pictures/gif_reader.h"
+#include "pictures/png_reader.h"
+#include "pictures/sheet_json.h"
 
 namespace ostrane::command {
 
@@ -19,46 +21,187 @@ namespace {
 
 namespace fs = std::filesystem;
 
+struct planning {
+  const std::string& stem;  // of the icon file to make
+  const grid_size& grid;
+  colour_finder& colours;
+  import_plan plan = {};
+  files::binary_file file = {};
+};
+
+std::string name_of(const fs::path& path) { return files::as_bytes(path.filename().u8string()); }
+std::string stem_of(const fs::path& path) { return files::as_bytes(path.stem().u8string()); }
+
 bool has_ending(const fs::path& path, const char* ending) {
   return files::lower_case(files::as_bytes(path.extension().u8string())) == ending;
 }
 
-void add_export(import_plan& plan, const fs::path& json) {
-  files::binary_file file;
-  const files::file_path path = shown_as_named(json);
-  const exported_icons exported = read_icon_json(read_bytes(file, path), path.shown);
+std::string read_input(planning& job, const files::file_path& path) {
+  job.plan.inputs.push_back(path);
+  return read_bytes(job.file, path);
+}
+
+// The JSONs of several exports together do not tell the old icons.
+void use_identifier(import_plan& plan, const exported_icons& exported,
+                    const files::file_path& json) {
   if (exported.scale != 1) {
-    throw data_error(path.shown, "was exported at scale " + std::to_string(exported.scale) +
+    throw data_error(json.shown, "was exported at scale " + std::to_string(exported.scale) +
                                      "; export at scale 1.");
   }
   plan.identifier = exported.identifier;
+  plan.entry = plan.icons.empty() ? exported.name : u8"";
+}
+
+planned_icon known_from(const exported_icon& icon) {
+  planned_icon planned = {.known = known_icon{icon.head, icon.last_column}};
+  if (icon.number > 0) planned.old_index = static_cast<std::size_t>(icon.number) - 1;
+  return planned;
+}
+
+void add_icons(planning& job, const exported_icons& exported, const files::file_path& json) {
+  use_identifier(job.plan, exported, json);
   for (const exported_icon& icon : exported.icons) {
-    planned_icon planned = {.png = {}, .known = known_icon{icon.head, icon.last_column}};
-    if (icon.file) planned.png = shown_as_named(json.parent_path() / *icon.file);
-    plan.icons.push_back(planned);
+    planned_icon planned = known_from(icon);
+    if (icon.file) {
+      planned.png = shown_as_named(json.system.parent_path() / *icon.file);
+      job.plan.inputs.push_back(*planned.png);
+    }
+    job.plan.icons.push_back(std::move(planned));
   }
 }
 
-// Returns the JSON of the export in a folder. The JSONs of sheets are ignored.
+// The frames that the JSON of the icon file does not name come last.
+void add_known_frames(planning& job, const sheet_layout& layout, const picture& sheet,
+                      const files::file_path& json) {
+  use_identifier(job.plan, *layout.exported, json);
+  std::vector<const sheet_frame*> left;
+  for (const sheet_frame& frame : layout.frames) left.push_back(&frame);
+  for (const exported_icon& icon : layout.exported->icons) {
+    planned_icon planned = known_from(icon);
+    if (icon.file) {
+      const auto found = std::find_if(left.begin(), left.end(),
+                                      [&](const auto* frame) { return frame->name == *icon.file; });
+      if (found == left.end()) {
+        throw data_error("it has no frame " + files::from_utf8_lossy(*icon.file));
+      }
+      planned.marked = picture_of(sheet, **found);
+      left.erase(found);
+    }
+    job.plan.icons.push_back(std::move(planned));
+  }
+  for (const sheet_frame* frame : left) {
+    job.plan.icons.push_back({.marked = picture_of(sheet, *frame)});
+  }
+}
+
+void add_sheet(planning& job, const sheet_layout& layout, const files::file_path& json) {
+  fs::path image = json.system;
+  image.replace_extension(".png");
+  if (!layout.image.empty()) image.replace_filename(layout.image);
+  const files::file_path png = shown_as_named(image);
+  const picture sheet = read_png(read_input(job, png), png.shown, job.colours);
+  try {
+    if (layout.exported) return add_known_frames(job, layout, sheet, json);
+    for (const sheet_frame& frame : layout.frames) {
+      job.plan.icons.push_back({.marked = picture_of(sheet, frame)});
+    }
+  } catch (const data_error& error) {
+    if (!error.told.subject.empty()) throw;
+    throw data_error(json.shown, "does not fit its sheet: " + error.told.reason + ".");
+  }
+}
+
+void add_json(planning& job, const files::file_path& json) {
+  exported_icons exported;
+  const auto layout = read_sheet_json(read_input(job, json), json.shown, exported);
+  if (layout) {
+    add_sheet(job, *layout, json);
+  } else {
+    add_icons(job, exported, json);
+  }
+}
+
+void add_grid(planning& job, const files::file_path& png) {
+  const picture sheet = read_png(read_input(job, png), png.shown, job.colours);
+  try {
+    for (const sheet_frame& frame : frames_of_grid(sheet, job.grid.columns, job.grid.rows)) {
+      job.plan.icons.push_back({.marked = picture_of(sheet, frame), .is_in_grid = true});
+    }
+  } catch (const data_error& error) {
+    throw data_error(png.shown, "cannot be cut: " + error.told.reason + ".");
+  }
+}
+
+void add_gif(planning& job, const files::file_path& gif) {
+  for (picture& shown : read_gif(read_input(job, gif), gif.shown, job.colours)) {
+    job.plan.icons.push_back({.marked = std::move(shown), .is_in_grid = true});
+  }
+}
+
+// A PNG with the JSON of a sheet beside it is that sheet.
+void add_png(planning& job, const files::file_path& png) {
+  if (job.grid.columns > 0) return add_grid(job, png);
+  fs::path json = png.system;
+  json.replace_extension(".json");
+  std::optional<sheet_layout> layout;
+  files::ignore_failure([&] {
+    exported_icons exported;
+    layout = read_sheet_json(read_bytes(job.file, shown_as_named(json)), u8"", exported);
+  });
+  if (layout) return add_json(job, shown_as_named(json));
+  if (stem_of(png.system).ends_with("-sheet")) {
+    throw data_error(png.shown, "is a sheet without its JSON: give --grid COLSxROWS.");
+  }
+  job.plan.icons.push_back({.png = png});
+  job.plan.inputs.push_back(png);
+}
+
+// Returns the JSON of the export in a folder. Those of sheets are used if there are no others.
 std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const std::string& stem,
                                        const std::string& folder) {
-  std::vector<fs::path> found;
-  for (const fs::path& file : files) {
-    const bool is_sheet = file.stem().u8string().ends_with(u8"-sheet");
-    if (has_ending(file, ".json") && !is_sheet) found.push_back(file);
-  }
-  if (found.empty()) return {};
-  if (found.size() == 1) return found.front();
-  for (const fs::path& file : found) {
-    if (files::upper_case(files::as_bytes(file.stem().u8string())) == files::upper_case(stem)) {
-      return file;
+  const std::string wanted = files::upper_case(stem);
+  for (const bool is_sheet : {false, true}) {
+    std::vector<fs::path> found;
+    for (const fs::path& file : files) {
+      const bool is_found = stem_of(file).ends_with("-sheet") == is_sheet;
+      if (has_ending(file, ".json") && is_found) found.push_back(file);
     }
+    if (found.size() == 1) return found.front();
+    for (const fs::path& file : found) {
+      const std::string name = files::upper_case(stem_of(file));
+      if (name == (is_sheet ? wanted + "-SHEET" : wanted)) return file;
+    }
+    if (found.empty()) continue;
+    throw data_error(files::as_utf8(folder),
+                     "contains the JSON of several exports. Give the name of one of them.");
   }
-  throw data_error(files::as_utf8(folder),
-                   "contains the JSON of several exports. Give the name of one of them.");
+  return {};
 }
 
-void add_folder(import_plan& plan, const std::string& folder, const std::string& stem) {
+// PNGs of the export that its JSON does not list. With several exports in the folder the name tells
+// which one a PNG belongs to. Sheets and palettes have files of their own.
+void report_unlisted(planning& job, const std::vector<fs::path>& files, const fs::path& json) {
+  std::unordered_set<std::string> known;
+  for (const files::file_path& input : job.plan.inputs) {
+    known.insert(files::upper_case(name_of(input.system)));
+  }
+  std::int64_t jsons = 0;
+  for (const fs::path& file : files) {
+    jsons += has_ending(file, ".json") ? 1 : 0;
+    if (has_ending(file, ".gpl")) known.insert(files::upper_case(stem_of(file) + ".png"));
+  }
+  const std::string prefix = files::upper_case(stem_of(json)) + "-";
+  for (const fs::path& file : files) {
+    const std::string name = files::upper_case(name_of(file));
+    if (!has_ending(file, ".png") || known.contains(name)) continue;
+    if (stem_of(file).ends_with("-sheet") || (jsons > 1 && !name.starts_with(prefix))) continue;
+    job.plan.faults.push_back(
+        {file.u8string(), "not imported: " + files::from_utf8_lossy(json.filename().u8string()) +
+                              " does not list it"});
+  }
+}
+
+void add_folder(planning& job, const std::string& folder) {
   std::vector<files::listed_entry> listed;
   const fs::path path = path_of_argument(folder);
   const int failed = files::system_calls.list(path, listed);
@@ -67,74 +210,89 @@ void add_folder(import_plan& plan, const std::string& folder, const std::string&
   for (const files::listed_entry& entry : listed) {
     if (entry.is_file && !entry.is_hidden) files.push_back(path / entry.name);
   }
-  std::sort(files.begin(), files.end());
-  if (const auto json = json_of_export(files, stem, folder)) {
-    add_export(plan, *json);
+  std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
+    return files::natural_less(name_of(a), name_of(b));
+  });
+  if (const auto json = json_of_export(files, job.stem, folder)) {
+    add_json(job, shown_as_named(*json));
+    report_unlisted(job, files, *json);
     return;
   }
   for (const fs::path& file : files) {
-    if (has_ending(file, ".png")) plan.icons.push_back({.png = shown_as_named(file), .known = {}});
+    if (has_ending(file, ".png")) add_png(job, shown_as_named(file));
   }
 }
 
-// Returns nothing for an icon that is not drawable.
-std::optional<std::int32_t> last_column_of(icon_stream& stream, files::binary_file& file,
-                                           const icon_file& from, const icon_head& head,
-                                           std::int32_t position) {
-  if (classify_icon(head) != icon_kind::drawable || !has_picture(head)) return {};
-  return last_set_column(read_icon_picture(stream, file, from, head, position));
+// Standard input has no name that tells its format.
+void add_input(planning& job) {
+  const files::file_path input = named_input("-");
+  const std::string bytes = read_bytes(job.file, input);
+  if (bytes.starts_with("GIF8")) return add_gif(job, input);
+  if (bytes.starts_with('{')) return add_json(job, input);
+  add_png(job, input);
+}
+
+void add_source(planning& job, const std::string& source) {
+  std::error_code failed;
+  const fs::path path = path_of_argument(source);
+  if (source == "-") {
+    add_input(job);
+  } else if (fs::is_directory(path, failed)) {
+    add_folder(job, source);
+  } else if (has_ending(path, ".json")) {
+    add_json(job, shown_as_named(path));
+  } else if (has_ending(path, ".gif")) {
+    add_gif(job, shown_as_named(path));
+  } else {
+    add_png(job, named_file(source));
+  }
+}
+
+bool is_empty(const planned_icon& icon) {
+  return icon.is_in_grid && icon.marked && last_set_column(*icon.marked) < 0;
 }
 
 }  // namespace
 
-import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem) {
-  import_plan plan;
-  for (const std::string& source : sources) {
-    std::error_code failed;
-    const fs::path path = path_of_argument(source);
-    if (fs::is_directory(path, failed)) {
-      add_folder(plan, source, stem);
-    } else if (has_ending(path, ".json")) {
-      add_export(plan, path);
-    } else {
-      plan.icons.push_back({.png = named_file(source), .known = {}});
+import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem,
+                    const grid_size& grid, colour_finder& colours) {
+  planning job = {.stem = stem, .grid = grid, .colours = colours};
+  for (const std::string& source : sources) add_source(job, source);
+  return std::move(job.plan);
+}
+
+import_plan plan_like(import_plan plan, files::binary_file& file, const icon_file& from) {
+  std::vector<planned_icon> drawn;
+  for (planned_icon& icon : plan.icons) {
+    if (icon.has_picture()) drawn.push_back(std::move(icon));
+  }
+  plan.icons.clear();
+  plan.identifier = from.head.identifier;
+  const auto stream = std::make_unique<icon_stream>();
+  auto next = drawn.begin();
+  for (std::size_t i = 0; i < from.positions.size(); ++i) {
+    const stored_icon old = read_stored_icon(*stream, file, from, i);
+    if (old.drawn && next == drawn.end()) {
+      plan.left_out = static_cast<std::int64_t>(from.positions.size() - i);
+      break;
     }
+    planned_icon icon = old.drawn ? std::move(*next++) : planned_icon();
+    icon.known = known_icon{old.head, old.drawn ? last_set_column(*old.drawn) : 0};
+    icon.old_index = i;
+    plan.icons.push_back(std::move(icon));
+  }
+  for (; next != drawn.end(); ++next) {
+    plan.icons.push_back(std::move(*next));
+    plan.icons.back().known.reset();
+    plan.icons.back().old_index.reset();
   }
   return plan;
 }
 
-import_plan plan_like(const import_plan& plan, const files::file_path& old_file) {
-  files::binary_file file;
-  file.open_to_read(old_file);
-  const icon_file from = read_icon_file(
-      file, 0, static_cast<std::int32_t>(std::min<std::int64_t>(file.size(), INT32_MAX)));
-  if (file.size() < std::int64_t{shp_head_size}) {
-    throw data_error(old_file.shown, "is too short for an icon file.");
+void remove_empty_end(import_plan& plan) {
+  while (!plan.icons.empty() && !plan.icons.back().known && is_empty(plan.icons.back())) {
+    plan.icons.pop_back();
   }
-  std::vector<files::file_path> pngs;
-  for (const planned_icon& icon : plan.icons) {
-    if (icon.png) pngs.push_back(*icon.png);
-  }
-  const auto stream = std::make_unique<icon_stream>();
-  import_plan like = {.identifier = from.head.identifier};
-  auto next = pngs.begin();
-  for (const std::int32_t position : from.positions) {
-    icon_head head = blank_head;
-    if (position <= 0 || !read_icon_head(file, position, head)) {
-      like.icons.push_back({.png = {}, .known = known_icon{head, 0}});
-      continue;
-    }
-    const auto last_column = last_column_of(*stream, file, from, head, position);
-    if (last_column && next == pngs.end()) {
-      like.left_out = static_cast<std::int64_t>(from.positions.size() - like.icons.size());
-      break;
-    }
-    planned_icon icon = {.png = {}, .known = known_icon{head, last_column.value_or(0)}};
-    if (last_column) icon.png = *next++;
-    like.icons.push_back(icon);
-  }
-  for (; next != pngs.end(); ++next) like.icons.push_back({.png = *next, .known = {}});
-  return like;
 }
 
 }  // namespace ostrane::command

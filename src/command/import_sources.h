@@ -4,31 +4,52 @@
 #include <string>
 #include <vector>
 
-#include "files/binary_file.h"
+#include "data/icon_file.h"
+#include "files/failure.h"
+#include "pictures/colour_finder.h"
 #include "pictures/new_icon.h"
 
 namespace ostrane::command {
 
-// An icon to make: from a PNG, or only from a known head if the icon is not drawable.
+// An icon to make: from a picture, or only from a known head if the icon is not drawable.
 struct planned_icon {
-  std::optional<files::file_path> png;
-  std::optional<known_icon> known;
+  std::optional<files::file_path> png = {};  // read when the icon is made
+  std::optional<picture> marked = {};        // or else a part of a picture that is read already
+  // The grid of the marked picture may be larger than the icon: it may be cut to the known size.
+  bool is_in_grid = false;
+  std::optional<known_icon> known = {};
+  std::optional<std::size_t> old_index = {};  // in the icon file with the old cells
+
+  bool has_picture() const { return png || marked; }
 };
 
 struct import_plan {
   shp_identifier identifier = default_identifier;
   std::vector<planned_icon> icons = {};
-  std::int64_t left_out = 0;  // icons of an old icon file that have no PNG, and those after them
+  std::int64_t left_out =
+      0;                     // icons of an old icon file that have no picture, and those after them
+  std::u8string entry = {};  // the icon file of a single JSON
+  std::vector<files::file_path> inputs = {};
+  std::vector<files::failure> faults = {};  // to report
 };
 
-// Plans the icons of the sources: PNGs, folders of PNGs, JSONs of an export, and folders with such
-// a JSON. If a folder has several, the one named `stem` is used (case-insensitive). Throws
-// file_error and data_error.
-import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem);
+struct grid_size {
+  int columns = 0;  // 0 for no grid
+  int rows = 0;
+};
 
-// Takes identifier, heads and order from an old icon file. Its drawable icons get the PNGs of
-// `plan` in order; its other icons keep their positions. The first drawable icon without a PNG and
-// all icons after it are left out. Throws file_error and data_error.
-import_plan plan_like(const import_plan& plan, const files::file_path& old_file);
+// Plans the icons of the sources: PNGs, sheets, GIFs, folders of PNGs, JSONs of an export or a
+// sheet, and folders with such a JSON. If a folder has several, the one named `stem` is used
+// (case-insensitive). Each PNG is cut into a grid. Throws file_error and data_error.
+import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem,
+                    const grid_size& grid, colour_finder& colours);
+
+// Takes identifier, heads and order from an old icon file, which is open. Its drawable icons get
+// the pictures of `plan` in order; its other icons keep their positions. The first drawable icon
+// without a picture and all icons after it are left out. Throws file_error.
+import_plan plan_like(import_plan plan, files::binary_file& file, const icon_file& from);
+
+// Removes the unset pictures at the end of a grid.
+void remove_empty_end(import_plan& plan);
 
 }  // namespace ostrane::command

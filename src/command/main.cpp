@@ -21,6 +21,8 @@ int main(int argc, char** argv) {
     raise_stored_signal();
   } catch (const std::bad_alloc&) {
     std::fputs("ostrane-dat: There is not enough memory for this.\n", stderr);
-    return status_failed;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "ostrane-dat: %s\n", error.what());
   }
+  return status_failed;
 }

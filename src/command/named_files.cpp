@@ -6,10 +6,10 @@
 #include "command/console.h"
 #include "command/interruption.h"
 #include "command/program.h"
+#include "command/scratch_file.h"
 #include "data/data_error.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
-#include "files/file_writer.h"
 #include "files/text.h"
 #include "files/work_files.h"
 #include "files/written_path.h"
@@ -18,8 +18,31 @@ namespace ostrane::command {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr std::size_t input_block_size = 262144;
+
+}  // namespace
+
 files::file_path named_file(const std::string& argument) {
   return {path_of_argument(argument), files::as_utf8(argument)};
+}
+
+files::file_path named_input(const std::string& argument) {
+  if (argument != "-") return named_file(argument);
+  scratch_file copy(u8"standard input");
+  std::vector<std::byte> block(input_block_size);
+  std::int64_t size = 0;
+  for (int count = 1; count > 0;) {
+    check_interruption();
+    count = read_input(block);
+    if (count == -EINTR) continue;
+    if (count < 0) files::fail(copy.path().shown, files::file_action::read, count);
+    size += count;
+    if (size > INT32_MAX) throw data_error(copy.path().shown, "has more than 2 GB.");
+    copy.write(std::span(block).first(static_cast<std::size_t>(count)));
+  }
+  return copy.path();
 }
 
 files::file_path shown_as_named(const fs::path& path) { return {path, path.u8string()}; }
@@ -56,7 +79,8 @@ void make_folder(const std::string& argument) {
   const fs::path folder = path_of_argument(argument);
   std::error_code failed;
   std::error_code unknown;
-  if (!fs::create_directory(folder, failed) && failed && !fs::exists(folder, unknown)) {
+  if (is_dry_run() && !fs::exists(folder, unknown)) return;
+  if (!fs::create_directories(folder, failed) && failed && !fs::exists(folder, unknown)) {
     files::fail(files::as_utf8(argument), files::file_action::create, -files::errno_number(failed));
   }
   require_folder(argument);
@@ -88,31 +112,6 @@ std::vector<bool> chosen_entries(std::span<const dat_record> records,
     if (!matches_any) throw data_error(subject, "no entry has this name.");
   }
   return chosen;
-}
-
-void open_output(files::binary_file& file) {
-  flush_output();
-  file.prepare(u8"standard output");
-  file.adopt(open_standard_output());
-}
-
-void write_result(const std::string& argument, std::string_view bytes) {
-  if (argument == "-") {
-    print(bytes);
-    return;
-  }
-  files::binary_file file;
-  files::write_bytes(file, named_link_target(argument), bytes,
-                     {.mode = files::write_mode::durable});
-}
-
-void require_other_file(const std::string& output, const std::string& input) {
-  if (output == "-") return;
-  const files::file_path path = named_link_target(output);
-  std::error_code failed;
-  if (!fs::equivalent(path.system, path_of_argument(input), failed)) return;
-  throw files::file_error(files::file_error_number::permission_denied, files::file_action::write,
-                          path.shown, "it is read by this command");
 }
 
 }  // namespace ostrane::command

@@ -13,6 +13,10 @@ namespace ostrane::command {
 // Returns the file that an argument names. Messages show the argument.
 files::file_path named_file(const std::string& argument);
 
+// The same for a file that is only read; "-" is standard input, which is copied to a temporary
+// file. Throws file_error, data_error and interruption.
+files::file_path named_input(const std::string& argument);
+
 // Returns a file that messages show by its path.
 files::file_path shown_as_named(const std::filesystem::path& path);
 
@@ -32,7 +36,7 @@ files::file_path file_in(const std::string& folder, const std::string& name,
 // Throws file_error or data_error if the folder does not exist or is not a folder.
 void require_folder(const std::string& argument);
 
-// Creates the folder if it does not exist, but not its parents. Throws like require_folder.
+// Creates the folder and its parents if they do not exist. Throws like require_folder.
 void make_folder(const std::string& argument);
 
 // Returns true for each entry whose name matches one of the arguments (patterns with "*" and "?",
@@ -40,14 +44,5 @@ void make_folder(const std::string& argument);
 // matches no entry.
 std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments);
-
-// Opens a binary file that writes to standard output.
-void open_output(files::binary_file& file);
-
-// Replaces a file durably, or writes to standard output for "-".
-void write_result(const std::string& argument, std::string_view bytes);
-
-// Throws file_error if the argument `output` names the same file as `input`, also through a link.
-void require_other_file(const std::string& output, const std::string& input);
 
 }  // namespace ostrane::command

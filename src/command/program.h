@@ -1,10 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <vector>
-
-#include "files/file_path.h"
 
 // System-dependent parts of the program.
 namespace ostrane::command {
@@ -21,5 +21,19 @@ void set_binary_output();
 
 // Duplicates the descriptor of standard output. Returns -errno on failure.
 int open_standard_output();
+
+// True if the path leads to the file, pipe or device that is standard output.
+bool is_standard_output(const std::filesystem::path& path);
+
+// Opens a pipe or a device to write. A pipe waits for its reader. Returns -errno on failure; throws
+// interruption.
+int open_pipe(const std::filesystem::path& path);
+
+// Reads from standard input. Returns the number of bytes, 0 at its end, or -errno on failure.
+int read_input(std::span<std::byte> to);
+
+// Creates an empty file that vanishes with the process. Sets `path` to a path that opens it
+// meanwhile. Returns -errno on failure.
+int open_scratch(std::filesystem::path& path);
 
 }  // namespace ostrane::command

@@ -3,7 +3,8 @@
 #include <windows.h>
 
 #include <cerrno>
-#include <cstdio>
+#include <cstdio>  // _fileno
+#include <string>
 
 #include <shellapi.h>
 
@@ -30,6 +31,7 @@ bool stderr_is_terminal() { return _isatty(2) != 0; }
 
 void set_binary_output() {
   _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stdin), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);
 }
 
@@ -39,6 +41,34 @@ int open_standard_output() {
   const BOOL done = DuplicateHandle(self, GetStdHandle(STD_OUTPUT_HANDLE), self, &copy, 0, FALSE,
                                     DUPLICATE_SAME_ACCESS);
   return done == 0 ? -EBADF : static_cast<int>(reinterpret_cast<std::intptr_t>(copy));
+}
+
+// No path leads to it.
+bool is_standard_output(const fs::path& /*path*/) { return false; }
+
+int open_pipe(const fs::path& path) {
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  return file == INVALID_HANDLE_VALUE ? -EACCES
+                                      : static_cast<int>(reinterpret_cast<std::intptr_t>(file));
+}
+
+int read_input(std::span<std::byte> to) {
+  const int count = _read(0, to.data(), static_cast<unsigned>(to.size()));
+  return count < 0 ? -errno : count;
+}
+
+// The handle stays open, so that the system removes the file at the end of the process.
+int open_scratch(fs::path& path) {
+  static int number = 0;
+  std::error_code failed;
+  path = fs::temp_directory_path(failed) / ("ostrane-dat-" + std::to_string(GetCurrentProcessId()) +
+                                            "-" + std::to_string(++number) + ".tmp");
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  return file == INVALID_HANDLE_VALUE ? -EACCES
+                                      : static_cast<int>(reinterpret_cast<std::intptr_t>(file));
 }
 
 }  // namespace ostrane::command

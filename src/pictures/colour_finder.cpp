@@ -71,21 +71,23 @@ std::uint8_t nearest_index(const rgb_palette& palette, std::uint32_t colour,
 
 colour_finder::colour_finder(const rgb_palette& palette)
     : palette_(palette), remembered_(max_remembered) {
-  const auto add = [this](const rgb_palette& colours) {
-    for (std::size_t i = 0; i < colours.size(); ++i) {
-      exact_.emplace(colours[i], static_cast<std::uint8_t>(i));
-    }
-  };
-  add(palette_);
-  add(distinct_colours(palette_));
+  const rgb_palette distinct = distinct_colours(palette_);
+  for (std::size_t i = 0; i < palette_.size(); ++i) {
+    const found_colour found = {static_cast<std::uint8_t>(i), true};
+    const auto [known, is_new] = exact_.emplace(palette_[i], found);
+    if (!is_new) known->second.is_shared = true;
+  }
+  for (std::size_t i = 0; i < distinct.size(); ++i) {
+    exact_.emplace(distinct[i], found_colour{static_cast<std::uint8_t>(i), true});
+  }
 }
 
 found_colour colour_finder::search(std::uint32_t colour) {
   remembered_colour& known = remembered_[colour * spread >> 16U];
   known.colour = colour;
   const auto exact = exact_.find(colour);
-  known.found = exact == exact_.end() ? found_colour{nearest_index(palette_, colour), false}
-                                      : found_colour{exact->second, true};
+  known.found =
+      exact == exact_.end() ? found_colour{nearest_index(palette_, colour), false} : exact->second;
   return known.found;
 }
 

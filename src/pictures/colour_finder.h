@@ -20,6 +20,7 @@ std::uint8_t nearest_index(const rgb_palette& palette, std::uint32_t colour,
 struct found_colour {
   std::uint8_t index = 0;
   bool is_exact = false;
+  bool is_shared = false;  // several indices have exactly this colour
 };
 
 // Finds the palette index of a colour: one with this colour, or with this colour in
@@ -45,7 +46,7 @@ class colour_finder {
     found_colour found;
   };
   rgb_palette palette_;
-  std::unordered_map<std::uint32_t, std::uint8_t> exact_;
+  std::unordered_map<std::uint32_t, found_colour> exact_;
   std::vector<remembered_colour> remembered_;  // the latest colour per hash value
 };
 

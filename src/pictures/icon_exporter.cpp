@@ -36,7 +36,19 @@ std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns(
 
 void write_output(icon_export_job& job, const std::u8string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
-  files::write_bytes(job.output, job.wanted.target(name), bytes, {.source = job.stamp.identity});
+  const files::file_path target = job.wanted.target(name);
+  if (job.wanted.on_file && !job.wanted.on_file(target)) return;
+  files::write_bytes(job.output, target, bytes, {.source = job.stamp.identity});
+}
+
+// No file may be the archive or one that must not be replaced. Checked before any is written.
+void require_writable_files(const icon_export_job& job) {
+  const icon_export& wanted = job.wanted;
+  const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
+  const std::size_t last = std::min(wanted.last, from.positions.size());
+  for (const std::u8string& name : exported_files(wanted.form, wanted.stem, wanted.first, last)) {
+    require_writable(wanted.target(name), {.source = job.stamp.identity});
+  }
 }
 
 void require_scalable(const icon_export_job& job, std::int64_t cells) {
@@ -55,19 +67,25 @@ using drawable_handler =
 
 exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
                         const drawable_handler& on_drawable) {
-  const std::int32_t position = from.positions[number - 1];
-  exported_icon icon = {.file = {}, .head = blank_head, .offset = position - 1 - from.start};
-  const std::string which = "icon " + std::to_string(number) + " was skipped: ";
-  const bool is_there = position > 0 && position <= from.end;
-  if (!is_there || !read_icon_head(job.archive, position, icon.head)) {
-    job.wanted.on_skipped(which + "its offset is outside the entry");
+  stored_icon stored = read_stored_icon(*job.stream, job.archive, from, number - 1);
+  exported_icon icon = {.file = {},
+                        .head = stored.head,
+                        .offset = from.positions[number - 1] - 1 - from.start,
+                        .number = static_cast<std::int32_t>(number)};
+  const std::string which = "icon " + std::to_string(number);
+  if (!stored.is_there) {
+    job.wanted.on_skipped(which + " was skipped: its offset is outside the entry");
   } else if (classify_icon(icon.head) == icon_kind::refused) {
-    job.wanted.on_skipped(which + "its box ends outside its picture");
-  } else if (classify_icon(icon.head) == icon_kind::drawable && !has_picture(icon.head)) {
-    job.wanted.on_skipped(which + "its size is below 1 or too large");
-  } else if (classify_icon(icon.head) == icon_kind::drawable) {
-    on_drawable(number, read_icon_picture(*job.stream, job.archive, from, icon.head, position),
-                icon);
+    job.wanted.on_skipped(which + " was skipped: its box ends outside its picture");
+  } else if (classify_icon(icon.head) == icon_kind::drawable && !stored.drawn) {
+    job.wanted.on_skipped(which + " was skipped: its size is below 1 or too large");
+  } else if (stored.drawn) {
+    if (stored.is_cut) {
+      job.wanted.on_skipped(which + " is cut: only the first " +
+                            std::to_string(max_stream_bytes(icon.head)) +
+                            " bytes of its stream are read");
+    }
+    on_drawable(number, std::move(*stored.drawn), icon);
   }
   return icon;
 }
@@ -88,7 +106,6 @@ exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawa
   exported_icons exported = {.name = files::to_utf8(wanted.entry),
                              .identifier = from.head.identifier,
                              .scale = wanted.scale,
-                             .first = wanted.first,
                              .icons = {}};
   const std::size_t last = std::min(wanted.last, from.positions.size());
   for (std::size_t number = wanted.first; number <= last; ++number) {
@@ -113,16 +130,19 @@ void export_series(icon_export_job& job) {
 struct all_pictures {
   std::vector<picture> pictures;
   std::vector<std::u8string> names;
+  exported_icons exported;  // the file of an icon is the name of its frame
   std::int64_t cells = 0;
 };
 
 all_pictures collect_pictures(icon_export_job& job) {
   all_pictures all;
-  read_icons(job, [&](std::size_t number, picture drawn, exported_icon&) {
+  all.exported = read_icons(job, [&](std::size_t number, picture drawn, exported_icon& icon) {
     all.cells += cells_of(drawn);
     if (all.cells > max_picture_cells) throw data_error("Its pictures together are too large.");
+    icon.file = png_name(files::to_utf8(stem_of_entry(job.wanted.entry)), number);
+    icon.last_column = last_set_column(drawn);
+    all.names.push_back(*icon.file);
     all.pictures.push_back(std::move(drawn));
-    all.names.push_back(png_name(files::to_utf8(stem_of_entry(job.wanted.entry)), number));
   });
   if (all.pictures.empty()) throw data_error("It has no drawable icon.");
   return all;
@@ -136,7 +156,8 @@ void export_sheet(icon_export_job& job) {
   // The user may have given the file a name in another case.
   const std::u8string image = job.wanted.target(name).system.filename().u8string();
   write_output(job, job.wanted.stem + u8".json",
-               json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale));
+               json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale,
+                       json_of(all.exported)));
 }
 
 void export_gif(icon_export_job& job) {
@@ -161,6 +182,7 @@ void export_to_files(files::binary_file& archive, const icon_export& wanted) {
                          .wanted = wanted,
                          .stamp = archive.info().stamp,
                          .distinct = distinct_colours(wanted.colours)};
+  require_writable_files(job);
   switch (wanted.form) {
     case picture_form::png:
       export_series(job);

@@ -14,6 +14,7 @@ struct exported_icon {
   std::optional<std::u8string> file;  // the PNG; nullopt if the icon cannot be drawn
   icon_head head;
   std::int32_t offset = 0;       // in the icon file; not read
+  std::int32_t number = 0;       // from 1; 0 if unknown
   std::int32_t last_column = 0;  // the last column with a set cell, if the box ends before it
 };
 
@@ -21,13 +22,9 @@ struct exported_icons {
   std::u8string name;  // of the entry
   shp_identifier identifier = {};
   int scale = 1;
-  std::size_t first = 1;  // number of the first icon; not read
   std::vector<exported_icon> icons;
 };
 
 std::string json_of(const exported_icons& exported);
-
-// Throws data_error, which names `shown`, if it is another JSON or if a file in it has a folder.
-exported_icons read_icon_json(const std::string& text, const std::u8string& shown);
 
 }  // namespace ostrane

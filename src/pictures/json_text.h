@@ -17,8 +17,8 @@ struct json_field {
 };
 
 inline std::string json_string(const std::u8string& text) {
-  using json = nlohmann::json;
-  return json(files::as_bytes(text)).dump(-1, ' ', false, json::error_handler_t::replace);
+  using value = nlohmann::json;
+  return value(files::as_bytes(text)).dump(-1, ' ', false, value::error_handler_t::replace);
 }
 inline std::string json_string(const char* ascii) { return json_string(files::as_utf8(ascii)); }
 

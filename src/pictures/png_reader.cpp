@@ -2,8 +2,8 @@
 
 #include <png.h>
 
-#include <algorithm>
 #include <csetjmp>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -18,12 +18,6 @@ constexpr png_uint_32 max_png_side = 32768;
 // The best compression ratio of deflate.
 constexpr std::uint64_t max_inflation = 1032;
 
-// The meaning of an index of an indexed PNG.
-struct mapped_index {
-  std::int16_t cell = picture::unset;
-  bool is_exact = true;
-};
-
 // All state of reading is here, as libpng leaves a failed call by longjmp.
 struct png_job {
   std::string_view bytes;
@@ -36,9 +30,9 @@ struct png_job {
   bool has_alpha = false;
   int passes = 1;
   std::size_t row_bytes = 0;
-  std::array<mapped_index, 256> map = {};
+  std::array<std::int16_t, 256> map = {};
   std::vector<png_byte> rows = {};  // all of an interlaced picture, else one
-  png_picture result = {picture(0, 0)};
+  picture marked{0, 0};
 };
 
 void read_bytes(png_structp png, png_bytep to, size_t count) {
@@ -62,18 +56,14 @@ void map_indices(png_structp png, png_infop info, png_job& job) {
   int alpha_count = 0;
   png_get_PLTE(png, info, &entries, &count);
   png_get_tRNS(png, info, &alphas, &alpha_count, nullptr);
-  for (int i = 0; i < static_cast<int>(job.map.size()); ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    const png_color entry = i < count ? entries[i] : png_color{};
-    const int alpha = i < alpha_count ? alphas[i] : 0xFF;
-    const auto colour = static_cast<std::uint32_t>(entry.red << 16 | entry.green << 8 | entry.blue);
-    const bool stays = i < count && job.colours.palette()[at] == colour;
-    const found_colour found =
-        stays ? found_colour{static_cast<std::uint8_t>(i), true} : job.colours.find(colour);
-    const bool is_set = alpha >= 0x80;
-    job.map[at] = {.cell = is_set ? std::int16_t{found.index} : picture::unset,
-                   .is_exact = is_set ? alpha == 0xFF && found.is_exact && i < count : alpha == 0};
+  std::array<palette_entry, 256> all = {};
+  for (int i = 0; i < count; ++i) {
+    const png_color& entry = entries[i];
+    all[static_cast<std::size_t>(i)] = {
+        static_cast<std::uint32_t>(entry.red << 16 | entry.green << 8 | entry.blue),
+        i < alpha_count ? alphas[i] : 0xFF};
   }
+  job.map = marked_indices(std::span(all).first(static_cast<std::size_t>(count)), job.colours);
 }
 
 // Pixels that are not indexed become red, green, blue and alpha, a byte each.
@@ -90,14 +80,26 @@ void choose_pixels(png_structp png, png_infop info, png_job& job) {
   job.passes = png_set_interlace_handling(png);
 }
 
+// A long jump passes the destructors of texts, so this one is in an array.
+void require_size(png_structp png, const png_job& job) {
+  const bool is_small = job.width <= max_png_side && job.height <= max_png_side;
+  if (is_small && std::int64_t{job.width} * job.height <= max_picture_cells) return;
+  std::array<char, 160> text = {};
+  std::snprintf(text.data(), text.size(),
+                "it has %u by %u pixels, which may be at most %u by %u and %lld together",
+                job.width, job.height, max_png_side, max_png_side,
+                static_cast<long long>(max_picture_cells));
+  png_error(png, text.data());
+}
+
 void read_head(png_structp png, png_infop info, png_job& job) {
   png_set_read_fn(png, &job, read_bytes);
-  png_set_user_limits(png, max_png_side, max_png_side);
+  png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
   png_set_chunk_malloc_max(png, std::size_t{8} << 20U);
   png_read_info(png, info);
   job.width = png_get_image_width(png, info);
   job.height = png_get_image_height(png, info);
-  if (std::int64_t{job.width} * job.height > max_picture_cells) png_error(png, "it is too large");
+  require_size(png, job);
   if (png_get_rowbytes(png, info) * std::uint64_t{job.height} > max_inflation * job.bytes.size()) {
     png_error(png, "it ends too early");
   }
@@ -107,39 +109,16 @@ void read_head(png_structp png, png_infop info, png_job& job) {
   job.row_bytes = png_get_rowbytes(png, info);
 }
 
-void convert_indices(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
-  std::int64_t inexact = 0;
-  for (std::int16_t& cell : cells) {
-    const mapped_index& mapped = job.map[*pixels++];
-    cell = mapped.cell;
-    inexact += mapped.is_exact ? 0 : 1;
-  }
-  job.result.inexact += inexact;
-}
-
-void convert_colours(png_job& job, const png_byte* pixels, std::span<std::int16_t> cells) {
-  std::int64_t inexact = 0;
-  for (std::int16_t& cell : cells) {
-    const int alpha = pixels[3];
-    if (alpha < 0x80) {
-      inexact += alpha == 0 ? 0 : 1;
-    } else {
-      const found_colour found = job.colours.find(
-          static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]));
-      cell = found.index;
-      inexact += alpha == 0xFF && found.is_exact ? 0 : 1;
-    }
-    pixels += 4;
-  }
-  job.result.inexact += inexact;
-}
-
 void convert_row(png_job& job, const png_byte* pixels, int row) {
-  const auto cells = job.result.drawn.row(row);
-  if (job.is_indexed) {
-    convert_indices(job, pixels, cells);
-  } else {
-    convert_colours(job, pixels, cells);
+  for (std::int16_t& cell : job.marked.row(row)) {
+    if (job.is_indexed) {
+      cell = job.map[*pixels++];
+      continue;
+    }
+    const auto colour = static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]);
+    cell = pixels[3] < 0x80 ? marked_cell({}, pixels[3])
+                            : marked_cell(job.colours.find(colour), pixels[3]);
+    pixels += 4;
   }
 }
 
@@ -165,14 +144,24 @@ bool run(png_structp png, const Part& part) {
 
 void read(png_structp png, png_infop info, png_job& job) {
   if (!run(png, [&] { read_head(png, info, job); })) return;
-  job.result.drawn = picture(static_cast<int>(job.width), static_cast<int>(job.height));
+  job.marked = picture(static_cast<int>(job.width), static_cast<int>(job.height));
   job.rows.resize(job.row_bytes * (job.passes > 1 ? job.height : 1));
   run(png, [&] { read_rows(png, job); });
 }
 
+// The format of a picture that is often named .png, or null.
+const char* other_format(std::string_view bytes) {
+  if (bytes.starts_with("\xFF\xD8\xFF")) return "JPEG";
+  if (bytes.starts_with("GIF8")) return "GIF";
+  if (bytes.starts_with("BM")) return "BMP";
+  return bytes.starts_with("RIFF") && bytes.substr(0, 12).ends_with("WEBP") ? "WebP" : nullptr;
+}
+
 }  // namespace
 
-png_picture read_png(std::string_view bytes, const std::u8string& shown, colour_finder& colours) {
+picture read_png(std::string_view bytes, const std::u8string& shown, colour_finder& colours) {
+  const char* other = other_format(bytes);
+  if (other != nullptr) throw data_error(shown, std::string("is a ") + other + ", not a PNG.");
   png_job job = {.bytes = bytes, .colours = colours};
   png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &job, fail, ignore_warning);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
@@ -186,7 +175,7 @@ png_picture read_png(std::string_view bytes, const std::u8string& shown, colour_
   if (!job.failure.empty()) {
     throw data_error(shown, "cannot be read as a PNG: " + job.failure + ".");
   }
-  return std::move(job.result);
+  return std::move(job.marked);
 }
 
 }  // namespace ostrane

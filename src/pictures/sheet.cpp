@@ -62,7 +62,7 @@ sheet sheet_of(const std::vector<picture>& pictures) {
 
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     const std::vector<std::u8string>& names, const std::u8string& image, int pace,
-                    int scale) {
+                    int scale, const std::string& icons) {
   std::string text = "{\"frames\":[";
   for (std::size_t i = 0; i < pictures.size(); ++i) {
     const frame_offset at = offset_of_frame(all, i);
@@ -85,7 +85,7 @@ std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                    {"format", json_string(pixels)},
                    {"size", size_json(all.drawn.columns() * scale, all.drawn.rows() * scale)},
                    {"scale", json_string("1")}});
-  return text + "\n],\"meta\":" + meta + "}\n";
+  return text + "\n],\"meta\":" + meta + ",\"ostrane\":" + icons + "}\n";
 }
 
 }  // namespace ostrane

@@ -1,8 +1,11 @@
 #include <sys/stat.h>
 
 #include <csignal>
+#include <cstdio>
+#include <future>
 
 #include "child_process.h"
+#include "command/commands.h"
 #include "command/interruption.h"
 #include "command_fixture.h"
 
@@ -10,12 +13,65 @@ namespace ostrane {
 
 using commands_posix_test = command_test;
 
-TEST_F(commands_posix_test, DoesNotReplaceAPipe) {
+// Links to pipes and devices stay too. A pipe waits for its reader.
+TEST_F(commands_posix_test, WritesToPipesAndDevicesAndReplacesNone) {
   write_bytes("in/A.TXT", "a");
+  const std::string archive = archive_bytes({{"A.TXT", "a"}});
+  write_bytes("a.dat", archive);
   ASSERT_EQ(mkfifo("pipe", 0600), 0);
-  EXPECT_EQ(run("build in -o pipe").errors,
-            "ostrane-dat: pipe: cannot be written: access is not allowed.\n");
-  EXPECT_TRUE(fs::is_fifo("pipe"));
+  fs::create_symlink("pipe", "link");
+  fs::create_symlink("/proc/self/fd/1", "output");
+  for (const char* target : {"pipe", "link"}) {
+    std::future<std::string> read = std::async([] { return bytes_of("pipe"); });
+    EXPECT_EQ(run(std::string("build in -o ") + target).status, 0);
+    EXPECT_EQ(read.get(), archive) << target;
+  }
+  EXPECT_EQ(run("build in -o output").output, archive);
+  EXPECT_EQ(run("build in -o /dev/null").status, 0);
+  const std::pair<std::string, std::string> cases[] = {
+      {"build in -o /dev/full", "/dev/full: cannot be written: the disk is full.\n"},
+      {"list pipe", "pipe: cannot be opened: it is a pipe.\n"},
+      {"list /dev/null", "/dev/null: cannot be opened: it is a device.\n"},
+      {"add a.dat pipe", "pipe: cannot be opened: it is a pipe.\n"},
+      {"build in -o in", "in: cannot be written: it is a folder.\n"}};
+  for (const auto& [job, error] : cases) EXPECT_EQ(run(job).errors, "ostrane-dat: " + error) << job;
+  EXPECT_TRUE(fs::is_fifo("pipe") && fs::is_symlink("link") && fs::is_symlink("output"));
+}
+
+// The standard input is that of the process.
+TEST_F(commands_posix_test, ReadsStandardInput) {
+  const std::string archive = archive_bytes({{"A.TXT", "text"}, {"B.TXT", ""}});
+  write_bytes("a.dat", archive);
+  write_bytes("l.txt", "A.TXT\nB.TXT\n\n");
+  const std::tuple<const char*, const char*, std::string> cases[] = {
+      {"a.dat", "list -", "A.TXT\nB.TXT\n"},
+      {"a.dat", "extract - A.TXT -o -", "text"},
+      {"a.dat", "check -", ""},
+      {"a.dat", "diff - a.dat", ""},
+      {"l.txt", "compare a.dat - -o r", ""}};
+  run_in_process([&] {
+    for (const auto& [input, job, output] : cases) {
+      ASSERT_NE(std::freopen(input, "r", stdin), nullptr);
+      const result seen = run(job);
+      EXPECT_EQ(seen.output + seen.errors, output) << job;
+      EXPECT_EQ(seen.status, 0) << job;
+    }
+  });
+}
+
+// Each tries again until the other is done.
+TEST_F(commands_posix_test, ChangesAtOnceLoseNothing) {
+  write_bytes("a.dat", archive_bytes({}));
+  std::vector<std::future<int>> adds;
+  for (int i = 0; i < 4; ++i) {
+    const std::string name = "F" + std::to_string(i);
+    write_bytes(name, name);
+    adds.push_back(std::async(std::launch::async, [name] {
+      return command::add({.archive = "a.dat", .files = {name}});
+    }));
+  }
+  for (auto& add : adds) EXPECT_EQ(add.get(), 0);
+  EXPECT_EQ(run("list a.dat").output, "F0\nF1\nF2\nF3\n");
 }
 
 // The code page lacks Cyrillic letters. A name in another case is another file.
@@ -56,10 +112,12 @@ TEST_F(commands_posix_test, RefusesAReadOnlyArchive) {
   run_in_process([&] {
     drop_root();
     for (const char* job : {"add a.dat in/A.TXT", "remove a.dat A.TXT", "build in -o a.dat"}) {
-      EXPECT_EQ(run(job).errors, "ostrane-dat: a.dat: cannot be written: access is not allowed.\n");
+      EXPECT_EQ(run(job).errors, "ostrane-dat: a.dat: cannot be written: it is read-only.\n");
     }
     EXPECT_EQ(run("extract a.dat -d in/new").errors,
               "ostrane-dat: in/new: cannot be made: access is not allowed.\n");
+    EXPECT_EQ(run("build . -o in/b.dat").errors,
+              "ostrane-dat: in/: cannot be written to: access is not allowed.\n");
     EXPECT_EQ(files_at("."), before);
   });
   fs::permissions("in", fs::perms::all);

@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "command_fixture.h"
+#include "version/version.h"
 
 namespace ostrane {
 
@@ -22,20 +23,42 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
   write_bytes(u8"\u00E4\u20AC.txt", "new");
   // Its name looks like UTF-8.
   write_bytes("u.dat", archive_bytes({{"\xC3\xA9/", "1"}}));
+  // Both entries exceed the archive.
+  write_bytes("names.dat", archive_bytes({{"S", "1"}, {"NO", "2"}}).substr(0, 55));
   const std::string error = "ostrane-dat: ";
   const std::tuple<std::string, int, std::string> cases[] = {
       {"list a.dat", 0, "A.TXT\nMY FILE.TXT\nZ\xC3\x84.DAT\n"},
       {"list u.dat", 0, "\u00C3\u00A9/\n"},
-      {"extract u.dat", 1,
+      {"extract u.dat", 2,
        error + "\u00C3\u00A9/: not extracted: its name contains a path separator\n"},
       {"list \xD0\x96.dat", 2, error + "\xD0\x96.dat: cannot be opened: it is not there.\n"},
       {"list none", 2, error + "none: cannot be opened: it is not there.\n"},
-      {"list a.dat --nothing", 2,
-       error + "The following argument was not expected: --nothing: see --help\n"},
+      {"list a.dat --nothing", 2, error + "--nothing: is not an option of list.\n"},
+      {"list a.dat --lnog", 2, error + "--lnog: is not an option of list. Did you mean --long?\n"},
+      {"lst a.dat", 2, error + "lst: is not a command. Did you mean list?\n"},
+      {"-V", 0, std::string("ostrane-dat ") + version + "\n"},
+      {"list --version", 0, std::string("ostrane-dat ") + version + "\n"},
+      {"list a.dat --sort size", 0, "MY FILE.TXT\nA.TXT\nZ\xC3\x84.DAT\n"},
+      {"list u.dat a.dat", 0,
+       "u.dat: \u00C3\u00A9/\na.dat: A.TXT\na.dat: MY FILE.TXT\na.dat: Z\xC3\x84.DAT\n"},
+      {"diff a.dat u.dat", 1,
+       "Only in a.dat: A.TXT, 6 bytes\nOnly in a.dat: MY FILE.TXT, 1 byte\n"
+       "Only in a.dat: Z\xC3\x84.DAT, 9000 bytes\nOnly in u.dat: \u00C3\u00A9/, 1 byte\n"},
+      {"diff a.dat a.dat --json", 0, "[\n]\n"},
+      {"diff a.dat none", 2, error + "none: cannot be opened: it is not there.\n"},
+      {"extract a.dat A.TXT -o -", 0, "text \xE4"},
+      {"extract a.dat *.TXT -o -", 2, error + "-o takes one entry.\n"},
+      {"extract a.dat A.TXT -o a.dat", 2,
+       error + "a.dat: cannot be written: it is read by this command.\n"},
       {"export a.dat * --as bmp", 2, error + "--as: bmp not in {gif,png,sheet}: see --help\n"},
       {"extract a.dat B*", 2, error + "B*: no entry has this name.\n"},
-      {"extract a.dat -d none/in", 2, error + "none/in: cannot be made: it is not there.\n"},
-      {"extract bad.dat ..", 1, error + "..: not extracted: its name means a folder\n"},
+      {"extract a.dat -d a.dat/in", 2,
+       error + "a.dat/in: cannot be made: it is not in a folder.\n"},
+      {"extract a.dat -d new/in", 0, ""},
+      {"extract names.dat S NO", 2,
+       error + "S: not extracted: the archive ends before it does\n" + error +
+           "NO: not extracted: the archive ends before it does\n"},
+      {"extract bad.dat ..", 2, error + "..: not extracted: its name means a folder\n"},
       {"compare a.dat same.txt -o r", 0, ""},
       {"compare a.dat other.txt -o r", 1, ""},
       {"compare a.dat same.txt -o a.dat", 2,
@@ -50,7 +73,16 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"remove bad.dat A", 2,
        error + "bad.dat: has 4 bytes that belong to no entry and would be lost.\n"},
       {"add a.dat nul", 2, error + "nul: cannot become an entry: its name means a device.\n"},
-      {"add a.dat a.dat", 2, error + "a.dat: is the archive itself.\n"},
+      {"add a.dat a.dat", 2, error + "a.dat: cannot be written: it is read by this command.\n"},
+      {"rename a.dat A.TXT z\xC3\xA4.dat", 2,
+       error + "z\xC3\xA4.dat: is the name of another entry.\n"},
+      {"rename a.dat ? B.TXT", 2, error + "?: no entry has this name.\n"},
+      {"rename a.dat * B.TXT", 2, error + "*: is the name of several entries.\n"},
+      {"rename a.dat A.TXT ABCDEFGHIJKLMN", 2,
+       error + "ABCDEFGHIJKLMN: is longer than 13 characters.\n"},
+      {"remove -n a.dat A.TXT", 0,
+       error + "A.TXT: is removed\n" + error + "a.dat: would be written\n"},
+      {"extract -n a.dat A.TXT -d dry", 0, error + "dry/A.TXT: would be written\n"},
       {"add a.dat \xC3\xA4\xE2\x82\xAC.txt", 0, ""},
       {"remove a.dat *.txt", 0, ""},
       {"list a.dat", 0, "Z\xC3\x84.DAT\n"},
@@ -75,7 +107,7 @@ TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
   EXPECT_EQ(bytes_of("b.dat"), bytes_of("a.dat"));
   write_bytes("self/SELF.DAT", archive_bytes({{"SELF.DAT", "1"}}));
   const std::string self = bytes_of("self/SELF.DAT");
-  EXPECT_EQ(run("extract self/SELF.DAT -d self").status, 1);
+  EXPECT_EQ(run("extract self/SELF.DAT -d self").status, 2);
   EXPECT_EQ(bytes_of("self/SELF.DAT"), self);
   EXPECT_EQ(run("build out").status, 0);
   EXPECT_EQ(bytes_of("out/OSTRANE.DAT"), bytes_of("a.dat"));
@@ -83,6 +115,35 @@ TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
     EXPECT_EQ(run("build out -o out/New.dat").status, 0);
     EXPECT_EQ(bytes_of("out/New.dat"), bytes_of("a.dat"));
   }
+}
+
+// Only an old archive may be in the folder of a build and its target.
+TEST_F(commands_test, NeverWritesToAnInput) {
+  write_bytes("in/ALPHA.TXT", "alpha");
+  write_bytes("in/B.TXT", "b");
+  fs::create_hard_link("in/ALPHA.TXT", "other");
+  for (const std::string target : {"in/ALPHA.TXT", "other"}) {
+    const result seen = run("build in -o " + target);
+    EXPECT_EQ(seen.errors,
+              "ostrane-dat: " + target + ": cannot be written: it is read by this command.\n");
+    EXPECT_EQ(seen.status, 2);
+    EXPECT_EQ(bytes_of(target), "alpha");
+  }
+}
+
+TEST_F(commands_test, RenamesAnEntryInTheOrderOfNamesOrInItsPlace) {
+  EXPECT_EQ(run("rename a.dat a.txt zz").status, 0);
+  EXPECT_EQ(bytes_of("a.dat"), archive_bytes({entries[1], {"ZZ", entries[0].bytes}, entries[2]}));
+  EXPECT_EQ(run("rename --keep-order a.dat zz B.TXT").status, 0);
+  EXPECT_EQ(bytes_of("a.dat"),
+            archive_bytes({entries[1], {"B.TXT", entries[0].bytes}, entries[2]}));
+}
+
+TEST_F(commands_test, OverwritesExtractedFilesInPlace) {
+  write_bytes("A.TXT", std::string(100, 'o'));
+  fs::create_hard_link("A.TXT", "other");
+  EXPECT_EQ(run("extract --overwrite a.dat A.TXT").status, 0);
+  EXPECT_EQ(bytes_of("other"), entries[0].bytes);
 }
 
 TEST_F(commands_test, AddsAndReplacesEntriesAndKeepsTheOthers) {
@@ -106,7 +167,7 @@ TEST_F(commands_test, AddsManyFilesLikeOneAfterTheOther) {
       archive_bytes({{"M", ""}, {"C", "1"}, {"C", "2"}, {"Z", ""}, {"k", ""}});
   write_bytes("all.dat", unsorted);
   write_bytes("each.dat", unsorted);
-  std::string all = "add all.dat";
+  std::string all = "add --force all.dat";
   int folder_number = 0;
   for (const char name : std::string("xaNkzBLcydM0A")) {
     const std::string file = std::to_string(folder_number++) + "/" + name;
@@ -122,12 +183,17 @@ TEST_F(commands_test, ReportsEqualNames) {
   const std::string error = "ostrane-dat: ";
   const texts files = {"in/ABCDEFGHI.TXT1", "in/ABCDEFGHI.TXT2", "sub/abcdefghi.txt3"};
   for (const std::string& name : files) write_bytes(name, name);
+  const auto too_long = [&error](const std::string& file) {
+    return error + file + ": its name is too long; the entry is ABCDEFGHI.TXT, which is replaced\n";
+  };
   // The second entry of the archive after the command.
   const std::tuple<std::string, std::string, std::string> cases[] = {
       {"build in -o b.dat",
        error + "ABCDEFGHI.TXT2: its entry has the same name as that of ABCDEFGHI.TXT1\n", files[1]},
-      {"add -q b.dat " + files[0] + " " + files[2],
-       error + files[0] + ": not added: " + files[2] + " becomes the same entry\n", files[2]},
+      {"add --force b.dat " + files[0] + " " + files[2],
+       error + files[0] + ": not added: " + files[2] + " becomes the same entry\n" +
+           too_long(files[0]) + too_long(files[2]),
+       files[2]},
       {"extract b.dat", error + "ABCDEFGHI.TXT: not extracted: entry 2 was written over it\n",
        files[2]}};
   for (const auto& [command_line, printed, second] : cases) {
@@ -136,6 +202,12 @@ TEST_F(commands_test, ReportsEqualNames) {
     EXPECT_EQ(seen.errors, printed);
     EXPECT_EQ(bytes_of("b.dat"),
               archive_bytes({{"ABCDEFGHI.TXT", files[0]}, {"ABCDEFGHI.TXT", second}}));
+  }
+  for (const std::string& refused : {"b.dat " + files[0], std::string("b.dat 1/A.TXT 2/a.txt")}) {
+    for (const char* file : {"1/A.TXT", "2/a.txt"}) write_bytes(file, file);
+    const std::string before = bytes_of("b.dat");
+    EXPECT_EQ(run("add " + refused).status, 2);
+    EXPECT_EQ(bytes_of("b.dat"), before);
   }
   EXPECT_EQ(bytes_of("ABCDEFGHI.TXT"), files[2]);
 }

@@ -1,0 +1,52 @@
+#include "command/outputs.h"
+
+#include "command/console.h"
+#include "command/named_files.h"
+#include "command/program.h"
+#include "files/code_page.h"
+#include "files/file_error.h"
+#include "files/file_writer.h"
+
+namespace ostrane::command {
+
+namespace fs = std::filesystem;
+
+bool open_stream(const std::string& argument, files::binary_file& file) {
+  const fs::path path = path_of_argument(argument);
+  std::error_code failed;
+  const fs::file_type type = fs::status(path, failed).type();
+  const bool is_output = argument == "-" || is_standard_output(path);
+  if (!is_output && type != fs::file_type::fifo && type != fs::file_type::character) return false;
+  flush_output();
+  file.prepare(argument == "-" ? u8"standard output" : files::as_utf8(argument));
+  const int opened = is_output ? open_standard_output() : open_pipe(path);
+  if (opened < 0) files::fail(files::as_utf8(argument), files::file_action::write, opened);
+  file.adopt(opened);
+  return true;
+}
+
+void write_result(const std::string& argument, std::string_view bytes) {
+  if (!begin_write(files::as_utf8(argument))) return;
+  files::binary_file file;
+  if (open_stream(argument, file)) {
+    file.write(std::as_bytes(std::span(bytes)));
+    file.close();
+  } else {
+    files::write_bytes(file, named_link_target(argument), bytes,
+                       {.mode = files::write_mode::durable});
+  }
+}
+
+bool is_same_file(const std::string& output, const fs::path& input) {
+  std::error_code failed;
+  if (output == "-") return fs::is_regular_file(input, failed) && is_standard_output(input);
+  return fs::equivalent(path_of_argument(output), input, failed);
+}
+
+void require_other_file(const std::string& output, const fs::path& input) {
+  if (!is_same_file(output, input)) return;
+  throw files::file_error(files::file_error_number::permission_denied, files::file_action::write,
+                          files::as_utf8(output), "it is read by this command");
+}
+
+}  // namespace ostrane::command

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "files/binary_file.h"
+
+// The files that a command writes, as arguments name them. "-" is standard output.
+namespace ostrane::command {
+
+// Opens an output that cannot be replaced: standard output under any name, a pipe or a character
+// device. A pipe waits for its reader. Returns false for any other output. Throws file_error, and
+// interruption.
+bool open_stream(const std::string& argument, files::binary_file& file);
+
+// Writes to a stream, or replaces a file durably. Throws the same.
+void write_result(const std::string& argument, std::string_view bytes);
+
+// True if both lead to the same file.
+bool is_same_file(const std::string& output, const std::filesystem::path& input);
+
+// Throws file_error if `output` leads to the file `input`.
+void require_other_file(const std::string& output, const std::filesystem::path& input);
+
+}  // namespace ostrane::command
