@@ -1,14 +1,16 @@
-// The input is a PNG, the JSON of an export, or a picture. A picture must be unchanged after a
-// round trip through a PNG and through an icon.
+// The input is a PNG, a GIF, the JSON of an export or of a sheet, or a picture. A picture must be
+// unchanged after a round trip through a PNG, through a GIF and through an icon.
 #include <memory>
 
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "generated_input.h"
-#include "pictures/icon_json.h"
+#include "pictures/gif_reader.h"
+#include "pictures/gif_writer.h"
 #include "pictures/new_icon.h"
 #include "pictures/png_reader.h"
 #include "pictures/png_writer.h"
+#include "pictures/sheet_json.h"
 
 using namespace ostrane;
 
@@ -37,15 +39,38 @@ rgb_palette colours(std::uint32_t step) {
   return made;
 }
 
-void import_png(const std::string& bytes) {
-  static colour_finder finder(colours(0x010101));
-  const png_picture read = read_png(bytes, u8"p", finder);
-  if (std::int64_t{read.drawn.columns()} * read.drawn.rows() <= max_cells)
-    check_icon(read.drawn, {});
+colour_finder& finder() {
+  static colour_finder made(colours(0x010101));
+  return made;
+}
+
+void check_marked(picture marked) {
+  if (std::int64_t{marked.columns()} * marked.rows() > max_cells) return;
+  check_icon(settled(std::move(marked), finder().palette(), nullptr).drawn, {});
+}
+
+// The screen of a GIF may be far larger than its frames.
+void import_gif(const std::string& bytes) {
+  const auto side = [&bytes](std::size_t at) {
+    return at + 1 < bytes.size() ? std::int64_t{static_cast<unsigned char>(bytes[at])} +
+                                       256 * static_cast<unsigned char>(bytes[at + 1])
+                                 : 0;
+  };
+  if (side(6) * side(8) > max_cells) return;
+  for (picture& shown : read_gif(bytes, u8"g", finder())) check_marked(std::move(shown));
 }
 
 void import_json(const std::string& text) {
-  for (const auto& icon : read_icon_json(text, u8"j").icons) {
+  exported_icons exported;
+  const auto layout = read_sheet_json(text, u8"j", exported);
+  const picture sheet(64, 64);
+  if (layout) {
+    for (const sheet_frame& frame : layout->frames) {
+      if (std::int64_t{frame.columns} * frame.rows <= max_cells) picture_of(sheet, frame);
+    }
+    if (layout->exported) exported = *layout->exported;
+  }
+  for (const auto& icon : exported.icons) {
     if (!has_picture(icon.head) || columns_of(icon.head) * rows_of(icon.head) > max_cells) continue;
     picture drawn(static_cast<int>(columns_of(icon.head)), static_cast<int>(rows_of(icon.head)));
     drawn.set(drawn.columns() - 1, drawn.rows() / 2, 3);
@@ -65,10 +90,15 @@ void import_generated(fuzz::fields& from) {
               from.ConsumeIntegralInRange(0, drawn.rows() - 1),
               from.ConsumeIntegral<std::uint8_t>());
   }
-  colour_finder finder(palette);
-  const png_picture read =
-      read_png(png_of(drawn, palette, distinct_colours(palette)), u8"p", finder);
-  fuzz::check(read.inexact == 0 && read.drawn == drawn, "a PNG loses nothing");
+  colour_finder made(palette);
+  const auto check_same = [&](picture marked) {
+    const settled_picture read = settled(std::move(marked), palette, nullptr);
+    fuzz::check(read.changed == 0 && read.drawn == drawn, "a round loses nothing");
+  };
+  check_same(read_png(png_of(drawn, palette, distinct_colours(palette)), u8"p", made));
+  std::int64_t inexact = 0;
+  const std::string gif = gif_of({drawn}, palette, 1, 1, inexact);
+  if (inexact == 0) check_same(read_gif(gif, u8"g", made).at(0));
   icon_head head = head_of(drawn);
   head.col_start -= fuzz::number(from, {300}) & 0x3FF;
   check_icon(drawn, known_icon{head, 0});
@@ -84,8 +114,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       import_generated(from);
     } else if (data[0] == '{') {
       import_json({reinterpret_cast<const char*>(data), size});
+    } else if (data[0] == 'G') {
+      import_gif({reinterpret_cast<const char*>(data), size});
     } else {
-      import_png({reinterpret_cast<const char*>(data), size});
+      check_marked(read_png({reinterpret_cast<const char*>(data), size}, u8"p", finder()));
     }
   } catch (const data_error& error) {
     fuzz::check(!error.told.reason.empty(), "an error has a text");

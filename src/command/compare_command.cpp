@@ -19,7 +19,10 @@ void write_report(const std::string& target, const std::vector<std::string>& lin
   if (!begin_write(files::as_utf8(target))) return;
   files::binary_file stream;
   if (!open_stream(target, stream)) return files::write_lines(named_file(target), lines);
-  for (const std::string& line : lines) stream.write(std::as_bytes(std::span(line + "\r\n")));
+  for (const std::string& line : lines) {
+    const std::string ended = line + "\r\n";
+    stream.write(std::as_bytes(std::span(ended)));
+  }
   stream.close();
 }
 
