@@ -7,7 +7,7 @@
 #include "generated_input.h"
 #include "pictures/gif_reader.h"
 #include "pictures/gif_writer.h"
-#include "pictures/new_icon.h"
+#include "data/new_icon.h"
 #include "pictures/png_reader.h"
 #include "pictures/png_writer.h"
 #include "pictures/sheet_json.h"

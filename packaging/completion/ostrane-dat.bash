@@ -22,23 +22,35 @@ _ostrane_dat() {
   local command=${COMP_WORDS[1]} options= archive= i
   COMPREPLY=()
   if [ "$COMP_CWORD" -eq 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W 'list extract build add remove compare check export import
-      --help --version' -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W 'list extract build add remove rename pack diff compare check
+      export import help --help --version' -- "$current")
     return
   fi
   case $command in
-    list) options='--long --json --icon-names' ;;
-    extract) options=-d ;;
+    list) options='--long --json --sort --icon-names' ;;
+    extract) options='-d -o --overwrite' ;;
     build | compare) options=-o ;;
+    add) options=--force ;;
+    rename) options=--keep-order ;;
+    diff) options=--json ;;
     export) options='-d --as --pace --scale' ;;
-    import) options='-o --palette --like' ;;
+    import) options='-o --palette --like --grid' ;;
+  esac
+  case $command in
+    extract | build | add | remove | rename | pack | compare | export | import)
+      options+=' --verbose --dry-run'
+      ;;
   esac
   case $previous in
     --as)
       mapfile -t COMPREPLY < <(compgen -W 'png sheet gif' -- "$current")
       return
       ;;
-    --pace | --scale) return ;;
+    --sort)
+      mapfile -t COMPREPLY < <(compgen -W 'name size offset kind' -- "$current")
+      return
+      ;;
+    --pace | --scale | --grid) return ;;
     -d)
       compopt -o dirnames
       return
@@ -53,11 +65,16 @@ _ostrane_dat() {
     return
   fi
   case $command in
-    extract | remove | export)
+    help)
+      mapfile -t COMPREPLY < <(compgen -W 'list extract build add remove rename pack diff compare check
+        export import' -- "$current")
+      return
+      ;;
+    extract | remove | rename | pack | export)
       # The first word that is neither an option nor the value of one.
       for ((i = 2; i < COMP_CWORD && ${#archive} == 0; ++i)); do
         case ${COMP_WORDS[i]} in
-          -d | --as | --pace | --scale) [ "${COMP_WORDS[++i]}" != = ] || ((++i)) ;;
+          -d | -o | --as | --pace | --scale) [ "${COMP_WORDS[++i]}" != = ] || ((++i)) ;;
           -*) ;;
           *) archive=${COMP_WORDS[i]} ;;
         esac

@@ -3,8 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "data/icon_export.h"
-
 // The commands of the program. Each returns the exit status and throws file_error, data_error and
 // interruption.
 namespace ostrane::command {
@@ -83,8 +81,8 @@ struct export_options {
   std::string archive;
   std::vector<std::string> names;
   std::string folder = ".";
-  picture_form form = picture_form::png;
-  int pace = 10;  // hundredths of a second per picture
+  std::string form = "png";  // or sheet or gif
+  int pace = 10;             // hundredths of a second per picture
   int scale = 1;
 };
 int export_entries(const export_options& options);

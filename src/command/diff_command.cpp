@@ -1,12 +1,7 @@
-#include <algorithm>
-#include <memory>
-#include <unordered_map>
-
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
-#include "data/entry_kind.h"
-#include "data/icon_file.h"
+#include "data/archive_diff.h"
 #include "data/number_text.h"
 #include "files/code_page.h"
 #include "files/text.h"
@@ -16,129 +11,6 @@ namespace ostrane::command {
 
 namespace {
 
-struct side {
-  std::u8string shown;
-  archive_index index;
-  files::binary_file file;
-};
-
-// A part of an archive.
-struct entry_bytes {
-  std::int32_t start = 0;
-  std::int32_t end = 0;
-
-  std::int64_t size() const { return std::int64_t{end} - start; }
-};
-
-struct difference {
-  std::u8string name;
-  std::optional<std::int64_t> old_size;  // in bytes; null if the archive lacks the entry
-  std::optional<std::int64_t> new_size;
-  std::optional<std::vector<std::size_t>> icons;  // the numbers of those that differ
-};
-
-struct comparison_job {
-  side old_side;
-  side new_side;
-  std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
-};
-
-void open(side& opened, const std::string& argument) {
-  const files::file_path path = named_input(argument);
-  opened.shown = path.shown;
-  opened.index = read_archive_index(path);
-  open_unchanged(opened.file, path, opened.index.stamp);
-}
-
-entry_bytes bytes_at(const side& from, std::size_t i) {
-  return {from.index.records[i].offset, from.index.records[i + 1].offset};
-}
-
-// Bytes outside the archive are those of no file, so they are equal.
-bool has_same_bytes(comparison_job& job, const entry_bytes& a, const entry_bytes& b) {
-  if (a.size() != b.size()) return false;
-  if (a.size() <= 0 || a.start < 0 || b.start < 0) return a.start == b.start || a.size() == 0;
-  job.old_side.file.seek(a.start);
-  job.new_side.file.seek(b.start);
-  for (std::int64_t left = a.size(); left > 0;) {
-    show_progress(0, 0, "");
-    const auto block = static_cast<std::size_t>(std::min<std::int64_t>(left, read_buffer_size));
-    std::string seen(block, '\0');
-    std::string other(block, '\0');
-    job.old_side.file.read(std::as_writable_bytes(std::span(seen)));
-    job.new_side.file.read(std::as_writable_bytes(std::span(other)));
-    if (seen != other) return false;
-    left -= static_cast<std::int64_t>(block);
-  }
-  return true;
-}
-
-// Returns null if the pictures are too large together.
-std::optional<std::vector<std::size_t>> icons_that_differ(comparison_job& job, const entry_bytes& a,
-                                                          const entry_bytes& b) {
-  const icon_file old_file = read_icon_file(job.old_side.file, a.start, a.end);
-  const icon_file new_file = read_icon_file(job.new_side.file, b.start, b.end);
-  if (count_picture_cells(job.old_side.file, old_file) +
-          count_picture_cells(job.new_side.file, new_file) >
-      max_job_cells) {
-    return {};
-  }
-  const auto [fewer, more] = std::minmax(old_file.positions.size(), new_file.positions.size());
-  std::vector<std::size_t> numbers;
-  for (std::size_t i = 0; i < more; ++i) {
-    show_progress(i, more, "");
-    const bool is_same =
-        i < fewer && read_stored_icon(*job.stream, job.old_side.file, old_file, i) ==
-                         read_stored_icon(*job.stream, job.new_side.file, new_file, i);
-    if (!is_same) numbers.push_back(i + 1);
-  }
-  return numbers;
-}
-
-void compare_entries(comparison_job& job, std::size_t old_index, std::size_t new_index,
-                     std::vector<difference>& found) {
-  const entry_bytes a = bytes_at(job.old_side, old_index);
-  const entry_bytes b = bytes_at(job.new_side, new_index);
-  if (has_same_bytes(job, a, b)) return;
-  const record_name& name = job.new_side.index.records[new_index].name;
-  difference one = {files::to_utf8(name_with_blanks(name)), a.size(), b.size(), {}};
-  if (kind_of_entry(name_without_nuls(name)) == entry_kind::icons) {
-    one.icons = icons_that_differ(job, a, b);
-  }
-  found.push_back(one);
-}
-
-// Entries of one name are compared in their order.
-std::vector<difference> differences(comparison_job& job) {
-  const auto& old_records = job.old_side.index.records;
-  const auto& new_records = job.new_side.index.records;
-  const auto key_of = [](const dat_record& record) {
-    return files::compare_key(name_with_blanks(record.name));
-  };
-  std::unordered_map<std::string, std::vector<std::size_t>> in_new;  // the last one first
-  for (std::size_t i = new_records.size(); i-- > 1;) {
-    in_new[key_of(new_records[i - 1])].push_back(i - 1);
-  }
-  std::vector<difference> found;
-  for (std::size_t i = 0; i + 1 < old_records.size(); ++i) {
-    std::vector<std::size_t>& same = in_new[key_of(old_records[i])];
-    if (same.empty()) {
-      const std::u8string name = files::to_utf8(name_with_blanks(old_records[i].name));
-      found.push_back({name, bytes_at(job.old_side, i).size(), {}, {}});
-    } else {
-      compare_entries(job, i, same.back(), found);
-      same.pop_back();
-    }
-  }
-  for (std::size_t i = 0; i + 1 < new_records.size(); ++i) {
-    const std::vector<std::size_t>& left = in_new[key_of(new_records[i])];
-    if (std::find(left.begin(), left.end(), i) == left.end()) continue;
-    const std::u8string name = files::to_utf8(name_with_blanks(new_records[i].name));
-    found.push_back({name, {}, bytes_at(job.new_side, i).size(), {}});
-  }
-  return found;
-}
-
 std::string text_of(const std::vector<std::size_t>& numbers) {
   std::string text;
   for (const std::size_t number : numbers) {
@@ -147,11 +19,11 @@ std::string text_of(const std::vector<std::size_t>& numbers) {
   return text;
 }
 
-void print_text(const comparison_job& job, const difference& one) {
+void print_text(const diff_options& options, const entry_difference& one) {
   if (!one.old_size || !one.new_size) {
-    const std::u8string& shown = one.old_size ? job.old_side.shown : job.new_side.shown;
+    const std::string& archive = one.old_size ? options.old_archive : options.new_archive;
     print_line(files::printable(
-        u8"Only in " + shown + u8": " + one.name + u8", " +
+        u8"Only in " + files::as_utf8(archive) + u8": " + one.name + u8", " +
         files::as_utf8(counted(one.old_size ? *one.old_size : *one.new_size, "byte"))));
     return;
   }
@@ -161,7 +33,7 @@ void print_text(const comparison_job& job, const difference& one) {
   print_line(files::printable(one.name + files::as_utf8(text)));
 }
 
-std::string json_of(const difference& one) {
+std::string json_of(const entry_difference& one) {
   const auto number = [](const auto& size) { return size ? std::to_string(*size) : "null"; };
   return json_object({{"name", json_string(one.name)},
                       {"old_size", number(one.old_size)},
@@ -172,14 +44,13 @@ std::string json_of(const difference& one) {
 }  // namespace
 
 int diff(const diff_options& options) {
-  comparison_job job;
-  open(job.old_side, options.old_archive);
-  open(job.new_side, options.new_archive);
-  const std::vector<difference> found = differences(job);
+  const std::vector<entry_difference> found =
+      diff_archives(named_input(options.old_archive), named_input(options.new_archive),
+                    [] { show_progress(0, 0, ""); });
   if (options.is_json) print("[");
-  for (const difference& one : found) {
+  for (const entry_difference& one : found) {
     if (!options.is_json) {
-      print_text(job, one);
+      print_text(options, one);
       continue;
     }
     print(&one == found.data() ? "\n  " : ",\n  ");

@@ -44,6 +44,11 @@ struct exported_entry {
   std::int32_t end = 0;
 };
 
+picture_form form_named(const std::string& name) {
+  if (name == "sheet") return picture_form::sheet;
+  return name == "gif" ? picture_form::gif : picture_form::png;
+}
+
 void note(entries_export& job, const exported_entry& entry, const std::string& reason) {
   print_error({files::to_utf8(entry.name), reason});
   job.status = status_differs;
@@ -75,7 +80,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .start = entry.start,
        .end = entry.end,
        .colours = job.palette,
-       .form = options.form,
+       .form = form_named(options.form),
        .stem = entry.stem,
        .pace = options.pace,
        .scale = options.scale,
@@ -159,7 +164,7 @@ std::vector<exported_entry> chosen_exports(const archive_index& index,
     if (!chosen[i]) continue;
     const std::string name = name_with_blanks(index.records[i].name);
     const entry_kind kind = kind_of_entry(name_without_nuls(index.records[i].name));
-    const bool is_sheet = kind == entry_kind::icons && options.form == picture_form::sheet;
+    const bool is_sheet = kind == entry_kind::icons && options.form == "sheet";
     entries.push_back({.name = name,
                        .stem = files::to_utf8(stem_of_entry(name)) + (is_sheet ? u8"-sheet" : u8""),
                        .kind = kind,
@@ -191,7 +196,7 @@ std::vector<std::u8string> files_of(entries_export& job, const exported_entry& e
   if (entry.kind == entry_kind::text) return {entry.stem + u8".txt"};
   if (entry.kind == entry_kind::other) return {};
   const icon_file from = read_icon_file(job.archive, entry.start, entry.end);
-  return exported_files(job.options.form, entry.stem, 1, from.positions.size());
+  return exported_files(form_named(job.options.form), entry.stem, 1, from.positions.size());
 }
 
 // No file may be the archive or that of another entry. Checked before any file is written.

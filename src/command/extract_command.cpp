@@ -35,34 +35,28 @@ int report_skipped_entries(const extraction_result& result) {
   return result.written == 0 ? status_failed : status_differs;
 }
 
-// A dry run only names the files.
-void name_files(const extraction_job& job, files::case_insensitive_lookup& names) {
-  for (std::size_t i = 0; i < job.chosen.size(); ++i) {
-    const std::string name = name_with_blanks(job.index.records[i].name);
-    if (!job.chosen[i] || !unsafe_name_reason(name).empty()) continue;
-    begin_write(file_in(job.options.folder, name, names).shown);
-  }
+// A dry run only names the files, except those that are skipped.
+bool is_wanted(const extraction_job& job, files::case_insensitive_lookup& names, std::size_t i) {
+  const std::string name = name_with_blanks(job.index.records[i].name);
+  if (!job.chosen[i] || !is_dry_run() || !unsafe_name_reason(name).empty()) return job.chosen[i];
+  return begin_write(file_in(job.options.folder, name, names).shown);
 }
 
 int extract_to_folder(extraction_job& job) {
   make_folder(job.options.folder);
   files::case_insensitive_lookup names;
-  if (is_dry_run()) {
-    name_files(job, names);
-    return status_done;
-  }
-  const extraction_result result =
-      extract_entries(job.archive, job.index.records,
-                      [&](const std::string& name) {
-                        files::file_path target = file_in(job.options.folder, name, names);
-                        begin_write(target.shown);
-                        return target;
-                      },
-                      shown_progress(job.index.records.size()),
-                      {.is_wanted = [&job](std::size_t number) { return job.chosen[number]; },
-                       .entries_are_adjacent = false,
-                       .replaces_atomically = !job.options.overwrites,
-                       .truncates = true});
+  const extraction_result result = extract_entries(
+      job.archive, job.index.records,
+      [&](const std::string& name) {
+        files::file_path target = file_in(job.options.folder, name, names);
+        begin_write(target.shown);
+        return target;
+      },
+      shown_progress(job.index.records.size()),
+      {.is_wanted = [&](std::size_t number) { return is_wanted(job, names, number); },
+       .entries_are_adjacent = false,
+       .replaces_atomically = !job.options.overwrites,
+       .truncates = true});
   return report_skipped_entries(result);
 }
 

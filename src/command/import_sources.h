@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "data/colour_finder.h"
 #include "data/icon_file.h"
+#include "data/new_icon.h"
 #include "files/failure.h"
-#include "pictures/colour_finder.h"
-#include "pictures/new_icon.h"
 
 namespace ostrane::command {
 

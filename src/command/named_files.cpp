@@ -6,10 +6,10 @@
 #include "command/console.h"
 #include "command/interruption.h"
 #include "command/program.h"
-#include "command/scratch_file.h"
 #include "data/data_error.h"
 #include "files/code_page.h"
 #include "files/file_error.h"
+#include "files/scratch_file.h"
 #include "files/text.h"
 #include "files/work_files.h"
 #include "files/written_path.h"
@@ -30,7 +30,7 @@ files::file_path named_file(const std::string& argument) {
 
 files::file_path named_input(const std::string& argument) {
   if (argument != "-") return named_file(argument);
-  scratch_file copy(u8"standard input");
+  files::scratch_file copy(u8"standard input");
   std::vector<std::byte> block(input_block_size);
   std::int64_t size = 0;
   for (int count = 1; count > 0;) {

@@ -32,8 +32,4 @@ int open_pipe(const std::filesystem::path& path);
 // Reads from standard input. Returns the number of bytes, 0 at its end, or -errno on failure.
 int read_input(std::span<std::byte> to);
 
-// Creates an empty file that vanishes with the process. Sets `path` to a path that opens it
-// meanwhile. Returns -errno on failure.
-int open_scratch(std::filesystem::path& path);
-
 }  // namespace ostrane::command

@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <thread>
 
 #include "command/interruption.h"
@@ -56,16 +55,6 @@ int read_input(std::span<std::byte> to) {
   if (poll(&input, 1, -1) < 0) return -errno;
   const ssize_t count = read(STDIN_FILENO, to.data(), to.size());
   return count < 0 ? -errno : static_cast<int>(count);
-}
-
-int open_scratch(fs::path& path) {
-  std::error_code failed;
-  std::string name = (fs::temp_directory_path(failed) / "ostrane-dat-XXXXXX").string();
-  const int file = mkostemp(name.data(), O_CLOEXEC);
-  if (file < 0) return -errno;
-  unlink(name.c_str());
-  path = "/dev/fd/" + std::to_string(file);
-  return file;
 }
 
 }  // namespace ostrane::command

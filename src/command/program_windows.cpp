@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>  // _fileno
-#include <string>
 
 #include <shellapi.h>
 
@@ -56,19 +55,6 @@ int open_pipe(const fs::path& path) {
 int read_input(std::span<std::byte> to) {
   const int count = _read(0, to.data(), static_cast<unsigned>(to.size()));
   return count < 0 ? -errno : count;
-}
-
-// The handle stays open, so that the system removes the file at the end of the process.
-int open_scratch(fs::path& path) {
-  static int number = 0;
-  std::error_code failed;
-  path = fs::temp_directory_path(failed) / ("ostrane-dat-" + std::to_string(GetCurrentProcessId()) +
-                                            "-" + std::to_string(++number) + ".tmp");
-  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE,
-                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                  CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-  return file == INVALID_HANDLE_VALUE ? -EACCES
-                                      : static_cast<int>(reinterpret_cast<std::intptr_t>(file));
 }
 
 }  // namespace ostrane::command

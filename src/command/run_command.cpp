@@ -3,257 +3,221 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <functional>
-#include <map>
+#include <memory>
 
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/interruption.h"
-#include "command/nearest_word.h"
 #include "data/archive_index.h"
 #include "files/code_page.h"
 #include "files/failure.h"
+#include "files/nearest_word.h"
 #include "version/version.h"
 
 namespace ostrane::command {
 
 namespace {
 
-struct all_options {
+constexpr const char* names_help = "Names of entries; * and ? are wildcards, case is ignored";
+
+// What the parser finds besides the options of the chosen command.
+struct parsed_line {
   bool is_quiet = false;
   bool is_verbose = false;
   bool is_dry_run = false;
-  list_options list;
-  extract_options extract;
-  build_options build;
-  add_options add;
-  remove_options remove;
-  rename_options rename;
-  pack_options pack;
-  diff_options diff;
-  compare_options compare;
-  check_options check;
-  export_options exported;
-  import_options imported;
   std::function<int()> chosen;
 };
 
 std::string version_text() { return std::string("ostrane-dat ") + ostrane::version; }
 
-// Adds a command with its help and an example.
-CLI::App* add_command(CLI::App& app, all_options& options, const char* name, const char* help,
-                      const char* example, std::function<int()> job) {
-  CLI::App* command = app.add_subcommand(name, help)->group("Commands");
-  command->footer(std::string("Example:\n  ostrane-dat ") + example);
-  command->add_flag("-q,--quiet", options.is_quiet, "Suppress notes and progress");
-  command->set_version_flag("-V,--version", version_text());
-  command->callback([&options, job = std::move(job)] { options.chosen = job; });
-  return command;
-}
+// A command with its options, which its callback keeps alive.
+template <typename Options>
+struct command_form {
+  command_form(CLI::App& app, parsed_line& line, int (*job)(const Options&), const char* name,
+               const char* help, const std::string& example)
+      : command(app.add_subcommand(name, help)->group("Commands")) {
+    command->footer("Example:\n  ostrane-dat " + example);
+    command->add_flag("-q,--quiet", line.is_quiet, "Suppress notes and progress");
+    command->set_version_flag("-V,--version", version_text());
+    command->callback(
+        [&line, job, values = options] { line.chosen = [job, values] { return job(*values); }; });
+  }
+  // For a command that writes files.
+  void writes(parsed_line& line) {
+    command->add_flag("-v,--verbose", line.is_verbose, "Report each file that is written")
+        ->excludes("--quiet");
+    command->add_flag("-n,--dry-run", line.is_dry_run,
+                      "Report what would be written, and write nothing");
+  }
+  // Help shows the name of an argument, but no type.
+  template <typename Value>
+  CLI::Option* argument(const char* name, Value Options::*value, const std::string& help) {
+    return command->add_option(name, (*options).*value, help)->type_name("");
+  }
+  template <typename Value>
+  CLI::Option* option(const char* name, Value Options::*value, const char* type, const char* help) {
+    return command->add_option(name, (*options).*value, help)->type_name(type);
+  }
+  void flag(const char* name, bool Options::*value, const char* help) {
+    command->add_flag(name, (*options).*value, help);
+  }
 
-// The same for a command that writes files.
-CLI::App* add_writer(CLI::App& app, all_options& options, const char* name, const char* help,
-                     const char* example, std::function<int()> job) {
-  CLI::App* command = add_command(app, options, name, help, example, std::move(job));
-  command->add_flag("-v,--verbose", options.is_verbose, "Report each file that is written")
-      ->excludes("--quiet");
-  command->add_flag("-n,--dry-run", options.is_dry_run,
-                    "Report what would be written, and write nothing");
-  return command;
-}
+  CLI::App* command;
+  std::shared_ptr<Options> options = std::make_shared<Options>();
+};
 
-// Adds a positional argument. Its help shows no type.
-template <typename Value>
-CLI::Option* add_argument(CLI::App* command, const char* name, Value& value,
-                          const std::string& help) {
-  return command->add_option(name, value, help)->type_name("");
-}
-
-void add_archive(CLI::App* command, std::string& archive) {
-  add_argument(command, "ARCHIVE", archive, "The archive")->required();
-}
-
-void add_folder(CLI::App* command, std::string& folder) {
-  command->add_option("-d", folder, "The folder to write to (default: the current one)")
-      ->type_name("FOLDER");
-}
-
-constexpr const char* names_help = "Names of entries; * and ? are wildcards, case is ignored";
-
-void add_list(CLI::App& app, all_options& all) {
-  list_options& options = all.list;
-  CLI::App* command = add_command(app, all, "list", "Print the names of the entries",
-                                  "list ostrane.dat --long", [&options] { return list(options); });
-  add_argument(command, "ARCHIVE", options.archives, "The archives")->required();
-  command->add_option("--sort", options.order, "The order (default: that of the index)")
+void add_list(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, list, "list", "Print the names of the entries",
+                    "list ostrane.dat --long");
+  form.argument("ARCHIVE", &list_options::archives, "The archives")->required();
+  form.option("--sort", &list_options::order, "name|size|offset|kind",
+              "The order (default: that of the index)")
       ->check(CLI::IsMember({"name", "size", "offset", "kind"}))
       ->option_text("name|size|offset|kind");
-  command->add_flag("-l,--long", options.is_long,
-                    "Also print size, offset, kind, number of icons and description");
-  command->add_flag("--json", options.is_json, "Print the same as a JSON array of objects");
-  command
-      ->add_option("--icon-names", options.icon_names,
-                   "The descriptions (default: iconlist.csv in the program's folder)")
-      ->type_name("FILE");
+  form.flag("-l,--long", &list_options::is_long,
+            "Also print size, offset, kind, number of icons and description");
+  form.flag("--json", &list_options::is_json, "Print the same as a JSON array of objects");
+  form.option("--icon-names", &list_options::icon_names, "FILE",
+              "The descriptions (default: iconlist.csv in the program's folder)");
 }
 
-void add_extract(CLI::App& app, all_options& all) {
-  extract_options& options = all.extract;
-  CLI::App* command =
-      add_writer(app, all, "extract", "Write entries to files",
-                 "extract ostrane.dat '*.SHP' -d work", [&options] { return extract(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "NAME", options.names, std::string(names_help) + " (default: all entries)");
-  add_folder(command, options.folder);
-  command->add_option("-o", options.output, "Write the only entry to this file instead")
-      ->type_name("FILE")
+void add_extract(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, extract, "extract", "Write entries to files",
+                    "extract ostrane.dat '*.SHP' -d work");
+  form.argument("ARCHIVE", &extract_options::archive, "The archive")->required();
+  form.argument("NAME", &extract_options::names,
+                std::string(names_help) + " (default: all entries)");
+  form.option("-d", &extract_options::folder, "FOLDER",
+              "The folder to write to (default: the current one)");
+  form.option("-o", &extract_options::output, "FILE", "Write the only entry to this file instead")
       ->excludes("-d");
-  command->add_flag("--overwrite", options.overwrites,
-                    "Write into existing files instead of replacing them, which is faster");
+  form.flag("--overwrite", &extract_options::overwrites,
+            "Write into existing files instead of replacing them, which is faster");
+  form.writes(line);
 }
 
-void add_build(CLI::App& app, all_options& all) {
-  build_options& options = all.build;
-  CLI::App* command =
-      add_writer(app, all, "build", "Make an archive from the files in a folder",
-                 "build work -o ostrane.dat", [&options] { return build(options); });
-  add_argument(command, "FOLDER", options.folder, "The folder")->required();
-  command
-      ->add_option("-o", options.archive, "The archive to write (default: OSTRANE.DAT in FOLDER)")
-      ->type_name("ARCHIVE");
+void add_build(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, build, "build", "Make an archive from the files in a folder",
+                    "build work -o ostrane.dat");
+  form.argument("FOLDER", &build_options::folder, "The folder")->required();
+  form.option("-o", &build_options::archive, "ARCHIVE",
+              "The archive to write (default: OSTRANE.DAT in the folder)");
+  form.writes(line);
 }
 
-void add_add(CLI::App& app, all_options& all) {
-  add_options& options = all.add;
-  CLI::App* command =
-      add_writer(app, all, "add", "Add files to an archive; entries with their names are replaced",
-                 "add ostrane.dat GEMS.SHP", [&options] { return add(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "FILE", options.files, "The files")->required();
-  command->add_flag("--force", options.is_forced,
-                    "Also add files that become the same entry as another one");
+void add_add(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, add, "add",
+                    "Add files to an archive; entries with their names are replaced",
+                    "add ostrane.dat GEMS.SHP");
+  form.argument("ARCHIVE", &add_options::archive, "The archive")->required();
+  form.argument("FILE", &add_options::files, "The files")->required();
+  form.flag("--force", &add_options::is_forced,
+            "Also add files that become the same entry as another one");
+  form.writes(line);
 }
 
-void add_remove(CLI::App& app, all_options& all) {
-  remove_options& options = all.remove;
-  CLI::App* command =
-      add_writer(app, all, "remove", "Remove entries from an archive",
-                 "remove ostrane.dat CHIME.WAV", [&options] { return remove(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "NAME", options.names, names_help)->required();
+void add_remove(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, remove, "remove", "Remove entries from an archive",
+                    "remove ostrane.dat CHIME.WAV");
+  form.argument("ARCHIVE", &remove_options::archive, "The archive")->required();
+  form.argument("NAME", &remove_options::names, names_help)->required();
+  form.writes(line);
 }
 
-void add_rename(CLI::App& app, all_options& all) {
-  rename_options& options = all.rename;
-  CLI::App* command =
-      add_writer(app, all, "rename", "Rename an entry of an archive",
-                 "rename ostrane.dat GEMS.SHP JEWELS.SHP", [&options] { return rename(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "OLD", options.old_name, "The entry")->required();
-  add_argument(command, "NEW", options.new_name, "Its new name")->required();
-  command->add_flag("--keep-order", options.keeps_order,
-                    "Keep its position instead of the order of names");
+void add_rename(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, rename, "rename", "Rename an entry of an archive",
+                    "rename ostrane.dat GEMS.SHP JEWELS.SHP");
+  form.argument("ARCHIVE", &rename_options::archive, "The archive")->required();
+  form.argument("OLD", &rename_options::old_name, "The entry")->required();
+  form.argument("NEW", &rename_options::new_name, "Its new name")->required();
+  form.flag("--keep-order", &rename_options::keeps_order,
+            "Keep its position instead of the order of names");
+  form.writes(line);
 }
 
-void add_pack(CLI::App& app, all_options& all) {
-  pack_options& options = all.pack;
-  CLI::App* command =
-      add_writer(app, all, "pack", "Pack icon files into the shortest streams; no pixel changes",
-                 "pack ostrane.dat", [&options] { return pack(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "NAME", options.names,
-               std::string(names_help) + " (default: all icon files)");
+void add_pack(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, pack, "pack",
+                    "Pack icon files into the shortest streams; no pixel changes",
+                    "pack ostrane.dat");
+  form.argument("ARCHIVE", &pack_options::archive, "The archive")->required();
+  form.argument("NAME", &pack_options::names,
+                std::string(names_help) + " (default: all icon files)");
+  form.writes(line);
 }
 
-void add_diff(CLI::App& app, all_options& all) {
-  diff_options& options = all.diff;
-  CLI::App* command = add_command(app, all, "diff", "Report the entries that differ",
-                                  "diff old.dat ostrane.dat", [&options] { return diff(options); });
-  add_argument(command, "OLD", options.old_archive, "An archive")->required();
-  add_argument(command, "NEW", options.new_archive, "Another one")->required();
-  command->add_flag("--json", options.is_json, "Print a JSON array of objects");
+void add_diff(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, diff, "diff", "Report the entries that differ",
+                    "diff old.dat ostrane.dat");
+  form.argument("OLD", &diff_options::old_archive, "An archive")->required();
+  form.argument("NEW", &diff_options::new_archive, "Another one")->required();
+  form.flag("--json", &diff_options::is_json, "Print a JSON array of objects");
 }
 
-void add_compare(CLI::App& app, all_options& all) {
-  compare_options& options = all.compare;
-  CLI::App* command =
-      add_writer(app, all, "compare", "Report names that only an archive or only a list has",
-                 "compare ostrane.dat shplist.txt", [&options] { return compare(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "SHIPLIST", options.shiplist, "The list, one name per line")->required();
-  command->add_option("-o", options.report, "The report to write (default: standard output)")
-      ->type_name("REPORT");
+void add_compare(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, compare, "compare",
+                    "Report names that only an archive or only a list has",
+                    "compare ostrane.dat shplist.txt");
+  form.argument("ARCHIVE", &compare_options::archive, "The archive")->required();
+  form.argument("SHIPLIST", &compare_options::shiplist, "The list, one name per line")->required();
+  form.option("-o", &compare_options::report, "REPORT",
+              "The report to write (default: standard output)");
+  form.writes(line);
 }
 
-void add_check(CLI::App& app, all_options& all) {
-  check_options& options = all.check;
-  CLI::App* command = add_command(app, all, "check", "Report the faults of archives, one per line",
-                                  "check ostrane.dat", [&options] { return check(options); });
-  add_argument(command, "ARCHIVE", options.archives, "The archives")->required();
+void add_check(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, check, "check", "Report the faults of archives, one per line",
+                    "check ostrane.dat");
+  form.argument("ARCHIVE", &check_options::archives, "The archives")->required();
 }
 
-void add_form(CLI::App* command, picture_form& form) {
-  const std::map<std::string, picture_form> forms = {
-      {"png", picture_form::png}, {"sheet", picture_form::sheet}, {"gif", picture_form::gif}};
-  command
-      ->add_option_function<std::string>(
-          "--as", [&form, forms](const std::string& name) { form = forms.at(name); },
-          "One PNG per icon (default), one PNG with all icons, or an animation")
-      ->check(CLI::IsMember(forms))
-      ->type_name("png|sheet|gif")
+void add_export(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, export_entries, "export",
+                    "Write icons as PNG or GIF, palettes as PNG and GPL, texts in UTF-8",
+                    "export ostrane.dat GEMS.SHP -d gems");
+  form.argument("ARCHIVE", &export_options::archive, "The archive")->required();
+  form.argument("NAME", &export_options::names, names_help)->required();
+  form.option("-d", &export_options::folder, "FOLDER",
+              "The folder to write to (default: the current one)");
+  form.option("--as", &export_options::form, "png|sheet|gif",
+              "One PNG per icon (default), one PNG with all icons, or an animation")
+      ->check(CLI::IsMember({"gif", "png", "sheet"}))
       ->option_text("png|sheet|gif");
-}
-
-void add_export(CLI::App& app, all_options& all) {
-  export_options& options = all.exported;
-  CLI::App* command = add_writer(
-      app, all, "export", "Write icons as PNG or GIF, palettes as PNG and GPL, texts in UTF-8",
-      "export ostrane.dat GEMS.SHP -d gems", [&options] { return export_entries(options); });
-  add_archive(command, options.archive);
-  add_argument(command, "NAME", options.names, names_help)->required();
-  add_folder(command, options.folder);
-  add_form(command, options.form);
-  command
-      ->add_option("--pace", options.pace,
-                   "Hundredths of a second per icon of a GIF or sheet (default: 10)")
+  form.option("--pace", &export_options::pace, "N",
+              "Hundredths of a second per icon of a GIF or sheet (default: 10)")
       ->check(CLI::Range(1, 65535))
       ->option_text("N");
-  command
-      ->add_option("--scale", options.scale, "Enlarge the pictures N times (1 to 64, default: 1)")
+  form.option("--scale", &export_options::scale, "N",
+              "Enlarge the pictures N times (1 to 64, default: 1)")
       ->check(CLI::Range(1, 64))
       ->option_text("N");
+  form.writes(line);
 }
 
-void add_import(CLI::App& app, all_options& all) {
-  import_options& options = all.imported;
-  CLI::App* command = add_writer(app, all, "import", "Make an icon file from PNGs",
-                                 "import gems -o GEMS.SHP --palette ostrane.dat",
-                                 [&options] { return import_pictures(options); });
-  add_argument(command, "SOURCE", options.sources,
-               "PNGs, sheets, a GIF, or the folder or JSON of an export")
+void add_import(CLI::App& app, parsed_line& line) {
+  command_form form(app, line, import_pictures, "import", "Make an icon file from pictures",
+                    "import gems -o GEMS.SHP --palette ostrane.dat");
+  form.argument("SOURCE", &import_options::sources,
+                "PNGs, sheets, a GIF, or the folder or JSON of an export")
       ->required();
-  command->add_option("-o", options.icon_file, "The icon file to write")
-      ->required()
-      ->type_name("FILE.SHP");
-  command
-      ->add_option("--palette", options.palette,
-                   "The archive or palette with the colours of the game")
-      ->required()
-      ->type_name("ARCHIVE|GAME.PAL");
-  command->add_option("--like", options.like, "Keep identifier, boxes and order of this icon file")
-      ->type_name("OLD.SHP");
-  command->add_option("--grid", options.grid, "Cut each PNG into a grid of icons")
-      ->type_name("COLSxROWS");
+  form.option("-o", &import_options::icon_file, "FILE.SHP", "The icon file to write")->required();
+  form.option("--palette", &import_options::palette, "ARCHIVE|GAME.PAL",
+              "The archive or palette with the colours of the game")
+      ->required();
+  form.option("--like", &import_options::like, "OLD.SHP",
+              "Keep identifier, boxes and order of this icon file");
+  form.option("--grid", &import_options::grid, "COLSxROWS", "Cut each PNG into a grid of icons");
+  form.writes(line);
 }
 
-int run_chosen(const all_options& options) {
-  set_talk(options.is_quiet     ? talk::quiet
-           : options.is_verbose ? talk::verbose
-                                : talk::normal,
-           options.is_dry_run);
+int run_chosen(const parsed_line& line) {
+  set_talk(line.is_quiet     ? talk::quiet
+           : line.is_verbose ? talk::verbose
+                             : talk::normal,
+           line.is_dry_run);
   int status = status_failed;
   const files::failure failed = files::failure_in([&] {
     try {
-      status = options.chosen();
+      status = line.chosen();
       flush_output();
     } catch (const archive_changed& error) {
       if (error.told.subject.empty()) throw;
@@ -267,10 +231,10 @@ int run_chosen(const all_options& options) {
   return status_failed;
 }
 
-void add_commands(CLI::App& app, all_options& options) {
+void add_commands(CLI::App& app, parsed_line& line) {
   for (const auto add_one : {add_list, add_extract, add_build, add_add, add_remove, add_rename,
                              add_pack, add_diff, add_compare, add_check, add_export, add_import}) {
-    add_one(app, options);
+    add_one(app, line);
   }
 }
 
@@ -294,7 +258,7 @@ files::failure reason_of(const CLI::App& app, const CLI::ParseError& error,
   const std::string& first = arguments.empty() ? "" : arguments.front();
   if (!first.empty() && !first.starts_with('-') &&
       std::find(names.begin(), names.end(), first) == names.end()) {
-    return {files::as_utf8(first), "is not a command." + did_you_mean(first, names)};
+    return {files::as_utf8(first), "is not a command." + files::did_you_mean(first, names)};
   }
   const auto commands = app.get_subcommands();
   const auto extra = commands.empty() ? std::vector<std::string>() : commands.front()->remaining();
@@ -308,7 +272,7 @@ files::failure reason_of(const CLI::App& app, const CLI::ParseError& error,
     for (const std::string& name : known->get_snames()) options.push_back("-" + name);
   }
   return {files::as_utf8(option),
-          "is not an option of " + first + "." + did_you_mean(option, options)};
+          "is not an option of " + first + "." + files::did_you_mean(option, options)};
 }
 
 }  // namespace
@@ -319,11 +283,11 @@ int run_command(std::vector<std::string> arguments) {
   app.get_formatter()->label("REQUIRED", "(required)");
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   app.get_formatter()->label("Positionals", "Arguments");
-  all_options options;
+  parsed_line line;
   app.require_subcommand(1);
   app.set_version_flag("-V,--version", version_text());
   app.footer("ostrane-dat COMMAND --help describes a command.");
-  add_commands(app, options);
+  add_commands(app, line);
   replace_help(arguments);
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
@@ -332,7 +296,7 @@ int run_command(std::vector<std::string> arguments) {
     print_error(reason_of(app, error, arguments));
     return status_failed;
   }
-  return run_chosen(options);
+  return run_chosen(line);
 }
 
 }  // namespace ostrane::command

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "pictures/marked_picture.h"
+#include "data/marked_picture.h"
 
 namespace ostrane {
 

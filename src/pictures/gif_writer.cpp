@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "data/data_error.h"
-#include "pictures/colour_finder.h"
+#include "data/colour_finder.h"
 #include "pictures/pixel_form.h"
 
 namespace ostrane {

@@ -11,7 +11,7 @@
 #include "files/code_page.h"
 #include "files/file_writer.h"
 #include "files/system_name.h"
-#include "pictures/colour_finder.h"
+#include "data/colour_finder.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/png_writer.h"

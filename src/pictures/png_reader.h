@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "pictures/marked_picture.h"
+#include "data/marked_picture.h"
 
 namespace ostrane {
 

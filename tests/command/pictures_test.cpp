@@ -5,7 +5,7 @@
 
 #include "command_fixture.h"
 #include "data/icon_file.h"
-#include "pictures/colour_finder.h"
+#include "data/colour_finder.h"
 #include "random_icons.h"
 
 namespace ostrane {

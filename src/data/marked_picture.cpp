@@ -1,4 +1,4 @@
-#include "pictures/marked_picture.h"
+#include "data/marked_picture.h"
 
 namespace ostrane {
 

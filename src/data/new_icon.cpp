@@ -1,4 +1,4 @@
-#include "pictures/new_icon.h"
+#include "data/new_icon.h"
 
 #include <algorithm>
 

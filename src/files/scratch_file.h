@@ -2,7 +2,11 @@
 
 #include "files/binary_file.h"
 
-namespace ostrane::command {
+namespace files {
+
+// Creates an empty file that vanishes with the process. Sets `path` to a path that opens it
+// meanwhile. Returns -errno on failure.
+int open_scratch(std::filesystem::path& path);
 
 // A temporary file. It stays until the process ends, as its path is passed on.
 class scratch_file {
@@ -14,11 +18,11 @@ class scratch_file {
   void clear();
   // The bytes are in the file at once. Throws file_error.
   void write(std::span<const std::byte> bytes);
-  const files::file_path& path() const { return path_; }
+  const file_path& path() const { return path_; }
 
  private:
-  files::file_path path_;
+  file_path path_;
   int file_;
 };
 
-}  // namespace ostrane::command
+}  // namespace files

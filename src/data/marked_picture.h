@@ -3,8 +3,8 @@
 #include <array>
 #include <span>
 
+#include "data/colour_finder.h"
 #include "data/picture.h"
-#include "pictures/colour_finder.h"
 
 // The readers of pictures mark the cells whose index is not certain, so that a part of a picture
 // can be cut out before its cells are counted. A marked cell is an index plus marks, or unset.

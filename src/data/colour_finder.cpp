@@ -1,4 +1,4 @@
-#include "pictures/colour_finder.h"
+#include "data/colour_finder.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,10 +1,10 @@
-#include "command/nearest_word.h"
+#include "files/nearest_word.h"
 
 #include <algorithm>
 #include <numeric>
 #include <utility>
 
-namespace ostrane::command {
+namespace files {
 
 namespace {
 
@@ -37,4 +37,4 @@ std::string did_you_mean(const std::string& word, const std::vector<std::string>
   return best.empty() ? "" : " Did you mean " + best + "?";
 }
 
-}  // namespace ostrane::command
+}  // namespace files

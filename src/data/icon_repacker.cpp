@@ -1,0 +1,57 @@
+#include "data/icon_repacker.h"
+
+#include <memory>
+
+#include "data/data_error.h"
+#include "data/new_icon.h"
+
+namespace ostrane {
+
+namespace {
+
+struct repacking {
+  files::binary_file& file;
+  files::scratch_file& scratch;
+  std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
+};
+
+shp_icon packed_icon(const stored_icon& icon, std::size_t number) {
+  const std::string which = "its icon " + std::to_string(number);
+  if (!icon.is_there) throw data_error(which + " is outside the entry");
+  if (icon.is_cut) throw data_error(which + " is longer than what is read of it");
+  if (!icon.drawn) return {icon.head, ""};
+  return new_icon(*icon.drawn, known_icon{icon.head, last_set_column(*icon.drawn)});
+}
+
+// Decodes the packed icon file and the old one again.
+void require_same_icons(repacking& job, const icon_file& old, const std::string& bytes) {
+  job.scratch.clear();
+  job.scratch.write(std::as_bytes(std::span(bytes)));
+  files::binary_file file;
+  file.open_to_read(job.scratch.path());
+  const icon_file packed = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
+  bool is_same = packed.positions.size() == old.positions.size();
+  for (std::size_t i = 0; is_same && i < old.positions.size(); ++i) {
+    is_same = read_stored_icon(*job.stream, file, packed, i) ==
+              read_stored_icon(*job.stream, job.file, old, i);
+  }
+  if (!is_same) throw data_error("its packed icons would differ");
+}
+
+}  // namespace
+
+std::string repacked(files::binary_file& file, const icon_file& old, files::scratch_file& scratch) {
+  repacking job = {file, scratch};
+  if (static_cast<std::size_t>(old.head.icon_count) != old.positions.size()) {
+    throw data_error("it does not have the number of icons that its head gives");
+  }
+  std::vector<shp_icon> icons;
+  for (std::size_t i = 0; i < old.positions.size(); ++i) {
+    icons.push_back(packed_icon(read_stored_icon(*job.stream, job.file, old, i), i + 1));
+  }
+  std::string bytes = shp_file(icons, old.head.identifier, true);
+  require_same_icons(job, old, bytes);
+  return bytes;
+}
+
+}  // namespace ostrane

@@ -1,0 +1,24 @@
+#include "files/scratch_file.h"
+
+namespace files {
+
+scratch_file::scratch_file(const std::u8string& shown)
+    : path_{{}, shown}, file_(open_scratch(path_.system)) {
+  if (file_ < 0) fail(u8"a temporary file", file_action::create, file_);
+}
+
+void scratch_file::clear() {
+  const std::int64_t at = system_calls.seek_to(file_, 0);
+  const std::int64_t status = at < 0 ? at : system_calls.set_size(file_, 0);
+  if (status < 0) fail(u8"a temporary file", file_action::write, status);
+}
+
+void scratch_file::write(std::span<const std::byte> bytes) {
+  while (!bytes.empty()) {
+    const std::int64_t moved = system_calls.write_some(file_, bytes.data(), bytes.size());
+    if (moved <= 0) fail(u8"a temporary file", file_action::write, moved);
+    bytes = bytes.subspan(static_cast<std::size_t>(moved));
+  }
+}
+
+}  // namespace files
