@@ -7,7 +7,6 @@
 #include "command/console.h"
 #include "command/named_files.h"
 #include "command/outputs.h"
-#include "command/program.h"
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "files/code_page.h"
@@ -26,17 +25,12 @@ std::u8string shown_entry(const entry_source& entry) {
   return files::to_utf8(name_with_blanks(entry.name));
 }
 
-void require_safe_name(const std::u8string& subject, const entry_source& entry) {
-  const std::string unsafe = unsafe_name_reason(name_with_blanks(entry.name));
-  if (unsafe.empty()) return;
-  throw data_error(subject, "cannot become an entry: " + unsafe + ".");
-}
-
 // The source for a name in the code page or, if it has another character, data_error.
 entry_source source_named(const std::optional<std::string>& name, const files::file_path& file) {
   if (!name) throw data_error(file.shown, "has characters in its name that the code page lacks.");
   entry_source source = source_of_file(*name, file);
-  require_safe_name(file.shown, source);
+  const std::string unsafe = unsafe_name_reason(name_with_blanks(source.name));
+  if (!unsafe.empty()) throw data_error(file.shown, "cannot become an entry: " + unsafe + ".");
   return source;
 }
 

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <future>
 #include <memory>
-#include <mutex>
 #include <system_error>
 #include <thread>
 
@@ -15,8 +14,10 @@
 #include "command/outputs.h"
 #include "command/program.h"
 #include "data/data_error.h"
+#include "data/game_file.h"
 #include "data/number_text.h"
-#include "data/palette.h"
+#include "data/old_icons.h"
+#include "data/sheet_frame.h"
 #include "files/code_page.h"
 #include "files/text.h"
 #include "pictures/png_reader.h"
@@ -24,55 +25,6 @@
 namespace ostrane::command {
 
 namespace {
-
-// The file of --palette.
-struct game_file {
-  files::binary_file file = {};
-  archive_index index = {};  // without records if it is no archive
-  rgb_palette colours = {};
-};
-
-// A palette has no mark of its own, so an archive is told by its index.
-void read_game_file(game_file& game, const std::string& argument) {
-  const files::file_path path = named_input(argument);
-  game.file.open_to_read(path);
-  try {
-    game.index = read_archive_index(game.file, path);
-  } catch (const data_error&) {
-    game.index = {};
-  }
-  if (is_sound(game.index) || find_game_palette(game.index.records) != nullptr) {
-    game.colours = read_game_colours(game.file, game.index.records);
-    return;
-  }
-  game.index = {};
-  if (game.file.size() < std::int64_t{palette_colours * colour_size}) {
-    throw data_error(path.shown, "is neither an archive nor a palette, which has 1024 bytes.");
-  }
-  game.colours = read_colours(game.file, 0);
-}
-
-// The icon file with the old cells, in a file that is open.
-class old_icons {
- public:
-  old_icons(files::binary_file& file, icon_file from) : file_(file), from_(std::move(from)) {}
-
-  const icon_file& icons() const { return from_; }
-  files::binary_file& file() { return file_; }
-
-  // Threads may call it.
-  std::optional<picture> picture_at(std::size_t index) {
-    if (index >= from_.positions.size()) return {};
-    const std::lock_guard<std::mutex> one_at_a_time(mutex_);
-    return read_stored_icon(*stream_, file_, from_, index).drawn;
-  }
-
- private:
-  files::binary_file& file_;
-  icon_file from_;
-  std::mutex mutex_;
-  std::unique_ptr<icon_stream> stream_ = std::make_unique<icon_stream>();
-};
 
 // What the threads of an import share.
 struct import_job {
@@ -85,21 +37,6 @@ struct import_job {
   std::atomic<std::int64_t> changed_pictures = 0;
   std::atomic<std::int64_t> shared_pixels = 0;
 };
-
-// A cell of a grid is as large as the largest icon. Returns the picture in the size of `head` if no
-// set cell is lost.
-picture fitted(picture drawn, const icon_head& head) {
-  if (!has_picture(head)) return drawn;
-  picture small(static_cast<int>(columns_of(head)), static_cast<int>(rows_of(head)));
-  for (int row = 0; row < drawn.rows(); ++row) {
-    for (int column = 0; column < drawn.columns(); ++column) {
-      if (!drawn.is_set(column, row)) continue;
-      if (column >= small.columns() || row >= small.rows()) return drawn;
-      small.row(row)[static_cast<std::size_t>(column)] = drawn.at(column, row);
-    }
-  }
-  return small;
-}
 
 picture marked_picture_of(const planned_icon& planned, colour_finder& colours,
                           files::binary_file& file) {
@@ -239,7 +176,7 @@ int report(const import_options& options, const import_job& job) {
 
 int import_pictures(const import_options& options) {
   game_file game;
-  read_game_file(game, options.palette);
+  read_game_file(game, named_input(options.palette));
   colour_finder colours(game.colours);
   import_plan plan = make_plan(options, colours);
   files::binary_file like;

@@ -10,7 +10,6 @@
 #include "files/code_page.h"
 #include "files/file_error.h"
 #include "files/natural_order.h"
-#include "files/text.h"
 #include "pictures/gif_reader.h"
 #include "pictures/png_reader.h"
 #include "pictures/sheet_json.h"

@@ -5,7 +5,6 @@
 #include "command/commands.h"
 #include "command/console.h"
 #include "command/named_files.h"
-#include "command/program.h"
 #include "data/entry_kind.h"
 #include "data/icon_names.h"
 #include "data/shp_reader.h"

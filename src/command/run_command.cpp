@@ -244,13 +244,6 @@ std::vector<std::string> names_of_commands(const CLI::App& app) {
   return names;
 }
 
-// "help COMMAND" means "COMMAND --help".
-void replace_help(std::vector<std::string>& arguments) {
-  if (arguments.empty() || arguments.front() != "help") return;
-  arguments.erase(arguments.begin());
-  arguments.emplace_back("--help");
-}
-
 // Why CLI11 refuses the arguments. It does not say which command or option is meant.
 files::failure reason_of(const CLI::App& app, const CLI::ParseError& error,
                          const std::vector<std::string>& arguments) {
@@ -288,7 +281,10 @@ int run_command(std::vector<std::string> arguments) {
   app.set_version_flag("-V,--version", version_text());
   app.footer("ostrane-dat COMMAND --help describes a command.");
   add_commands(app, line);
-  replace_help(arguments);
+  if (!arguments.empty() && arguments.front() == "help") {
+    std::rotate(arguments.begin(), arguments.begin() + 1, arguments.end());
+    arguments.back() = "--help";
+  }
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {

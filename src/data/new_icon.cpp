@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "data/data_error.h"
-#include "data/icon_file.h"
 #include "data/shp_reader.h"
 
 namespace ostrane {

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "data/data_error.h"
 #include "data/colour_finder.h"
-#include "pictures/pixel_form.h"
+#include "data/data_error.h"
+#include "data/pixel_form.h"
 
 namespace ostrane {
 

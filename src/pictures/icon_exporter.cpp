@@ -4,14 +4,13 @@
 #include <memory>
 
 #include "data/archive_index.h"
+#include "data/colour_finder.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
 #include "data/icon_packer.h"
 #include "data/number_text.h"
 #include "files/code_page.h"
 #include "files/file_writer.h"
-#include "files/system_name.h"
-#include "data/colour_finder.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/png_writer.h"

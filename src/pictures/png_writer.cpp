@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "data/data_error.h"
-#include "pictures/pixel_form.h"
+#include "data/pixel_form.h"
 
 namespace ostrane {
 

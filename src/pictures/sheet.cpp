@@ -1,11 +1,7 @@
 #include "pictures/sheet.h"
 
-#include <algorithm>
-
-#include "data/data_error.h"
-#include "data/icon_file.h"
+#include "data/pixel_form.h"
 #include "pictures/json_text.h"
-#include "pictures/pixel_form.h"
 #include "version/version.h"
 
 namespace ostrane {
@@ -13,16 +9,6 @@ namespace ostrane {
 namespace {
 
 constexpr int milliseconds_per_hundredth = 10;
-
-struct frame_offset {
-  int left;
-  int top;
-};
-
-frame_offset offset_of_frame(const sheet& all, std::size_t number) {
-  const int n = static_cast<int>(number);
-  return {n % all.columns * all.cell_width, n / all.columns * all.cell_height};
-}
 
 std::string size_json(int width, int height) {
   return json_object({{"w", std::to_string(width)}, {"h", std::to_string(height)}});
@@ -36,29 +22,6 @@ std::string rectangle(int x, int y, int width, int height) {
 }
 
 }  // namespace
-
-sheet sheet_of(const std::vector<picture>& pictures) {
-  sheet all;
-  for (const picture& drawn : pictures) {
-    all.cell_width = std::max(all.cell_width, drawn.columns());
-    all.cell_height = std::max(all.cell_height, drawn.rows());
-  }
-  const auto count = static_cast<std::int64_t>(pictures.size());
-  while (std::int64_t{all.columns} * all.columns < count) ++all.columns;
-  const std::int64_t rows = all.columns == 0 ? 0 : (count + all.columns - 1) / all.columns;
-  const std::int64_t width = std::int64_t{all.columns} * all.cell_width;
-  const std::int64_t height = rows * all.cell_height;
-  if (width * height > max_picture_cells) throw data_error("The sheet would be too large.");
-  all.drawn = picture(static_cast<int>(width), static_cast<int>(height));
-  for (std::size_t i = 0; i < pictures.size(); ++i) {
-    const frame_offset to = offset_of_frame(all, i);
-    for (int row = 0; row < pictures[i].rows(); ++row) {
-      const auto cells = pictures[i].row(row);
-      std::copy(cells.begin(), cells.end(), all.drawn.row(to.top + row).begin() + to.left);
-    }
-  }
-  return all;
-}
 
 std::string json_of(const sheet& all, const std::vector<picture>& pictures,
                     const std::vector<std::u8string>& names, const std::u8string& image, int pace,

@@ -88,40 +88,4 @@ std::optional<sheet_layout> read_sheet_json(const std::string& text, const std::
   });
 }
 
-picture picture_of(const picture& sheet, const sheet_frame& frame) {
-  if (frame.x + frame.width > sheet.columns() || frame.y + frame.height > sheet.rows() ||
-      frame.left + frame.width > frame.columns || frame.top + frame.height > frame.rows ||
-      frame.columns < 1 || frame.rows < 1) {
-    throw data_error("its frame " + files::from_utf8_lossy(frame.name) + " is outside the picture");
-  }
-  picture drawn(frame.columns, frame.rows);
-  for (int row = 0; row < frame.height; ++row) {
-    const auto from =
-        sheet.row(frame.y + row)
-            .subspan(static_cast<std::size_t>(frame.x), static_cast<std::size_t>(frame.width));
-    std::copy(from.begin(), from.end(), drawn.row(frame.top + row).begin() + frame.left);
-  }
-  return drawn;
-}
-
-std::vector<sheet_frame> frames_of_grid(const picture& sheet, int columns, int rows) {
-  if (sheet.columns() % columns != 0 || sheet.rows() % rows != 0) {
-    throw data_error("its " + std::to_string(sheet.columns()) + " by " +
-                     std::to_string(sheet.rows()) + " pixels are no multiples of the grid");
-  }
-  const int width = sheet.columns() / columns;
-  const int height = sheet.rows() / rows;
-  std::vector<sheet_frame> frames;
-  for (int i = 0; i < columns * rows; ++i) {
-    frames.push_back({.name = {},
-                      .x = i % columns * width,
-                      .y = i / columns * height,
-                      .width = width,
-                      .height = height,
-                      .columns = width,
-                      .rows = height});
-  }
-  return frames;
-}
-
 }  // namespace ostrane

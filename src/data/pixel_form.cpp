@@ -1,4 +1,4 @@
-#include "pictures/pixel_form.h"
+#include "data/pixel_form.h"
 
 #include <algorithm>
 #include <array>
