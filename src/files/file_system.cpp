@@ -104,7 +104,7 @@ bool folder_exists(const std::string& path) { return fs::is_directory(status_of(
 std::int64_t file_size(const file_path& path) {
   std::error_code failed;
   const std::uintmax_t bytes = fs::file_size(path.system, failed);
-  if (failed) binary_file().open_to_read(path);  // throws the reason if it is no file
+  if (failed == std::errc::not_supported) binary_file().open_to_read(path);  // throws its kind
   if (failed) fail(path.shown, file_action::read, -errno_number(failed));
   return static_cast<std::int64_t>(bytes);
 }
