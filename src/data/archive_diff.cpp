@@ -72,7 +72,8 @@ std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const e
       max_job_cells) {
     return {};
   }
-  const auto [fewer, more] = std::minmax(old_file.positions.size(), new_file.positions.size());
+  const std::size_t fewer = std::min(old_file.positions.size(), new_file.positions.size());
+  const std::size_t more = std::max(old_file.positions.size(), new_file.positions.size());
   std::vector<std::size_t> numbers;
   for (std::size_t i = 0; i < more; ++i) {
     job.on_step();

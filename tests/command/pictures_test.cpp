@@ -260,6 +260,19 @@ TEST_F(pictures_test, NeverWritesOneFileTwiceOrAnInput) {
   EXPECT_EQ(run("import in -o in/A.json --palette F-0001.png").status, 2);
 }
 
+TEST_F(pictures_test, DiffersByTheIconsOfAnEntry) {
+  std::vector<picture> icons(4, picture(2, 1));
+  write_archive(shp_file(icons));
+  fs::rename("a.dat", "old.dat");
+  icons[1].set(0, 0, 1);
+  icons.resize(3, picture(1, 1));
+  write_archive(shp_file(icons));
+  const result seen = run("diff old.dat a.dat");
+  EXPECT_EQ(seen.status, 1);
+  EXPECT_EQ(seen.output, "F.SHP differs: 140 bytes, 109 bytes; icons 2, 4\n");
+  EXPECT_NE(run("diff --json a.dat old.dat").output.find("\"icons\":[2, 4]"), std::string::npos);
+}
+
 // A stream of single pixels far longer than its picture needs.
 TEST_F(pictures_test, ReportsThatAStreamIsCut) {
   std::string stream;
