@@ -69,6 +69,8 @@ step 'Packaging' 'build package package-check' \
   'scripts/check_packaging.sh build-release'
 step 'Folders with unusual names' 'build package package-check' \
   'scripts/check_folders.sh build-release'
+step 'Editors' 'build editors' \
+  'scripts/check_editors.sh build-release'
 step 'Lint' 'build lint' \
   'scripts/check_lint.sh build-release'
 step 'Sanitizers' 'build test' \

@@ -23,13 +23,15 @@ resave() {
     'ImageMagick, optimised') mogrify -layers Optimize "$@" ;;
     'Pillow, indexed') pillow 'image.save(name, optimize=True)' "$@" ;;
     'Pillow, RGBA') pillow 'image.convert("RGBA").save(name)' "$@" ;;
-    'Pillow, animation') pillow 'image.save(name, save_all=True)' "$@" ;;
+    'Pillow, animation') pillow 'image.save(name, save_all=True, disposal=2)' "$@" ;;
   esac
 }
 pillow() {
   /usr/bin/python3 -c "
 import sys
-from PIL import Image
+from PIL import GifImagePlugin, Image
+# Otherwise Pillow reduces the colours of each picture.
+GifImagePlugin.LOADING_STRATEGY = GifImagePlugin.LoadingStrategy.RGB_AFTER_DIFFERENT_PALETTE_ONLY
 for name in sys.argv[1:]:
     image = Image.open(name)
     image.load()
