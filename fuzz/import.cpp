@@ -4,10 +4,10 @@
 
 #include "data/data_error.h"
 #include "data/icon_file.h"
+#include "data/new_icon.h"
 #include "generated_input.h"
 #include "pictures/gif_reader.h"
 #include "pictures/gif_writer.h"
-#include "data/new_icon.h"
 #include "pictures/png_reader.h"
 #include "pictures/png_writer.h"
 #include "pictures/sheet_json.h"

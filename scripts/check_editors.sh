@@ -21,21 +21,23 @@ resave() {
     'ImageMagick, RGBA') mogrify -define png:color-type=6 "$@" ;;
     'ImageMagick, coalesced') mogrify -coalesce "$@" ;;
     'ImageMagick, optimised') mogrify -layers Optimize "$@" ;;
-    'Pillow, indexed') pillow 'image.save(name, optimize=True)' "$@" ;;
-    'Pillow, RGBA') pillow 'image.convert("RGBA").save(name)' "$@" ;;
-    'Pillow, animation') pillow 'image.save(name, save_all=True, disposal=2)' "$@" ;;
+    'Pillow, indexed') pillow 'image.save(new, optimize=True)' "$@" ;;
+    'Pillow, RGBA') pillow 'image.convert("RGBA").save(new)' "$@" ;;
+    'Pillow, animation') pillow 'image.save(new, save_all=True, disposal=2)' "$@" ;;
   esac
 }
 pillow() {
   /usr/bin/python3 -c "
-import sys
+import os, sys
 from PIL import GifImagePlugin, Image
 # Otherwise Pillow reduces the colours of each picture.
 GifImagePlugin.LOADING_STRATEGY = GifImagePlugin.LoadingStrategy.RGB_AFTER_DIFFERENT_PALETTE_ONLY
 for name in sys.argv[1:]:
     image = Image.open(name)
     image.load()
-    $1" "${@:2}"
+    new = name + '.new' + name[-4:]
+    $1
+    os.replace(new, name)" "${@:2}"
 }
 prettify() { /usr/bin/python3 -m json.tool --sort-keys "$1" "$1.new" && mv "$1.new" "$1"; }
 

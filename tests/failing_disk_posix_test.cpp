@@ -211,8 +211,7 @@ TEST_F(failing_disk_test, EveryCommandReportsUnusableFiles) {
       {"access is not allowed",
        [](const auto& folder) { fs::permissions(folder, fs::perms::none); }},
       {"it is a folder", replace_files([](const auto& file) { fs::create_directory(file); })},
-      {"it is a pipe",
-       replace_files([](const auto& file) { mkfifo(file.c_str(), 0600); })},
+      {"it is a pipe", replace_files([](const auto& file) { mkfifo(file.c_str(), 0600); })},
       {"it is a device",
        replace_files([](const auto& file) { fs::create_symlink("/dev/zero", file); })},
   };
