@@ -146,7 +146,6 @@ std::unique_ptr<old_icons> find_old_icons(const import_options& options, const i
   return nullptr;
 }
 
-// A JSON or an old icon file was given, so its icons and cells are expected to come back.
 int report(const import_options& options, const import_job& job) {
   const std::u8string subject = files::as_utf8(options.icon_file);
   int status = status_done;
