@@ -10,13 +10,17 @@
 #include "icons/series.h"
 #include "icons/slots.h"
 #include "palette/palette_view.h"
-#include "state/tool_state.h"
+#include "state/open_archive.h"
 
 namespace ostrane {
 
 namespace {
 
 std::string selected_row() { return Form1.List1.List(Form1.List1.ListIndex()); }
+
+bool reads_archive(entry_kind kind) {
+  return kind == entry_kind::icons || kind == entry_kind::text;
+}
 
 void report_unknown_kind(const std::string& row) {
   forms_layer::message_box("This is not a shp image, I haven't got to display this yet... " + row);
@@ -37,10 +41,12 @@ void add_description(const std::string& row) {
 
 void show_clicked_entry() {
   const std::string row = selected_row();
+  const entry_kind kind = kind_of_entry(row);
+  if (reads_archive(kind) && !archive_is_unchanged()) return;
   Form1.Text6.Visible = false;
   Form1.Frame1.Caption = row;
   tool_state.selected_index = Form1.List1.ListIndex();
-  switch (kind_of_entry(row)) {
+  switch (kind) {
     case entry_kind::icons:
       Form1.Text2.Text = "";
       clear_slots_for_icons();
@@ -69,6 +75,7 @@ void show_double_clicked_entry() {
     report_unknown_kind(row);
     return;
   }
+  if (!archive_is_unchanged()) return;
   Form1.Text2.Text = "";
   tool_state.selected_index = Form1.List1.ListIndex();
   const std::int32_t last =

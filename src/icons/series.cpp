@@ -55,14 +55,10 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
-void refuse_icon(icon_kind kind) {
-  const bool box_is_bad = kind == icon_kind::refused;
-  if (box_is_bad && tool_state.refusals_reported < max_refusals_reported) {
+void refuse_icon() {
+  if (tool_state.refusals_reported < max_refusals_reported) {
     ++tool_state.refusals_reported;
     report_refused_icon(tool_state.refusals_reported == max_refusals_reported);
-  } else if (!box_is_bad && tool_state.size_reported == flag_false) {
-    tool_state.size_reported = flag_true;
-    report_refused_icon(false);
   }
   ++tool_state.next_icon;
   stop_after_last_icon();
@@ -71,7 +67,7 @@ void refuse_icon(icon_kind kind) {
 void draw_icon() {
   const icon_kind kind = classify_icon(tool_state.icon_header);
   if (kind == icon_kind::refused || !slot_size_is_valid()) {
-    refuse_icon(kind);
+    refuse_icon();
   } else if (kind == icon_kind::drawable) {
     draw_drawable_icon();
   } else {
@@ -108,7 +104,6 @@ void reset_series(std::int16_t first_icon) {
   tool_state.series_next_icon = 0;
   tool_state.current_slot = 0;
   tool_state.series_full = flag_false;
-  tool_state.size_reported = flag_false;
   tool_state.refusals_reported = 0;
 }
 
@@ -129,7 +124,6 @@ void draw_shp_series() {
 }
 
 void draw_under_working_message() {
-  Form3.Visible = true;
   show_working_message();
   draw_shp_series();
   Form3.Visible = false;
@@ -140,15 +134,17 @@ void draw_under_working_message() {
 void show_shp_series() {
   reset_series(1);
   tool_state.directory_read = flag_false;
+  Form3.Visible = true;
   show_bars(false);
   draw_under_working_message();
 }
 
 void show_next_series() {
   const bool is_last_series = tool_state.series_next_icon >= tool_state.shp_head.icon_count;
-  if (is_last_series || !icons_are_from_open_archive()) return;
+  if (is_last_series || !icons_are_from_open_archive() || !archive_is_unchanged()) return;
   Form1.Text2.Text = "";
   reset_series(tool_state.next_icon);
+  Form3.Visible = true;
   draw_under_working_message();
 }
 

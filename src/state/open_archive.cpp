@@ -3,6 +3,7 @@
 #include "data/archive_index.h"
 #include "data/data_error.h"
 #include "files/paths.h"
+#include "forms_layer/message_box.h"
 
 namespace ostrane {
 
@@ -12,6 +13,12 @@ void open_archive_file() {
   }
   open_unchanged(tool_state.archive_file, files::to_file_path(tool_state.archive_path_copy),
                  tool_state.archive_stamp);
+}
+
+bool archive_is_unchanged() {
+  const std::string failure = read_open_archive([] {});
+  if (!failure.empty()) forms_layer::message_box(failure);
+  return failure.empty();
 }
 
 bool icons_are_from_open_archive() {

@@ -25,6 +25,10 @@ template <typename Job>
   return failure;
 }
 
+// False after a message if no archive is open or its file has changed. Call before a command clears
+// what is shown.
+bool archive_is_unchanged();
+
 // True if the icons shown last, those of `directory_index`, are from the open archive.
 bool icons_are_from_open_archive();
 

@@ -101,9 +101,7 @@ struct tool_state_record {
   // Number of the last icon placed in the series, despite its name; 0 before.
   std::int32_t series_next_icon = 0;
   flag slot_fits = flag_false;  // false after place_icon_slot if the slot does not fit into Frame1
-  // A damaged file may hold thousands of bad icons, so a series reports one size that no slot can
-  // have and a limited number of bad data boxes.
-  flag size_reported = flag_false;
+  // A damaged file may hold thousands of bad icons, so a series reports a limited number.
   std::int16_t refusals_reported = 0;
 
   std::vector<icon_name_pair> icon_names;  // rows counted from 1
