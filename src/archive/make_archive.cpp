@@ -88,12 +88,13 @@ void write(build_job& job) {
       files::system_path(job.folder, job.names) / files::system_name(archive_name),
       files::to_utf8(job.folder + archive_name)};
   replace_archive(target, job.archive,
-                  {.on_file =
-                       [&](std::size_t index, const std::string& name, std::int32_t size) {
+                  {.before_file =
+                       [&](std::size_t index, std::int32_t size) {
                          move_total_bar(total_bar_tick, files_per_bar_step, index);
                          set_file_range(size);
-                         show_current_file(job, index, name);
                        },
+                   .on_file = [&](std::size_t index, const std::string& name,
+                                  std::int32_t) { show_current_file(job, index, name); },
                    .on_bytes = move_file_bar},
                   {.replaces_read_only = true, .is_only_spelling = true});
 }

@@ -66,6 +66,7 @@ void copy_entry(writing& job, std::size_t i) {
     return;
   }
   files::binary_file& from = entry.old_index ? job.old : job.file;
+  job.progress.before_file(i, size);
   if (entry.old_index) {
     from.seek(job.archive.old->index.records[*entry.old_index].offset);
   } else {

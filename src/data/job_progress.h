@@ -9,7 +9,9 @@ namespace ostrane {
 
 // Progress callbacks of a job on many files. Those not given do nothing.
 struct job_progress {
-  // Called before each file with its 0-based index and its size in bytes.
+  // A build calls it before it opens the file of an entry.
+  std::function<void(std::size_t index, std::int32_t size)> before_file = [](auto&&...) {};
+  // Called before each file is copied, with its 0-based index and its size in bytes.
   std::function<void(std::size_t index, const std::string& name, std::int32_t size)> on_file =
       [](auto&&...) {};
   // Called with the bytes copied in blocks of the current size. With each smaller size the count
