@@ -96,7 +96,8 @@ class accessible_canvas : public QAccessibleWidget {
     return picture(static_cast<std::size_t>(found - pictures.begin()));
   }
   QAccessibleInterface* focusChild() const override {
-    return canvas_.hasFocus() ? picture(canvas_.cursor()) : QAccessibleWidget::focusChild();
+    const bool on_picture = canvas_.hasFocus() && canvas_.cursor_is_visible();
+    return on_picture ? picture(canvas_.cursor()) : QAccessibleWidget::focusChild();
   }
 
  private:
@@ -118,8 +119,29 @@ QAccessibleInterface* make_accessible(const QString& /*class_name*/, QObject* ob
   return shown == nullptr ? nullptr : new accessible_canvas(*shown);
 }
 
+QAccessible::UpdateHandler next_handler = nullptr;
+
+// Qt reports a focus change to the canvas, also if the canvas has passed on the focus already.
+void report_focused_picture(QAccessibleEvent* event) {
+  const bool is_focus = event->type() == QAccessible::Focus && event->child() < 0;
+  const auto* shown = is_focus ? dynamic_cast<canvas*>(event->object()) : nullptr;
+  QAccessible::installUpdateHandler(next_handler);
+  if (shown == nullptr) {
+    QAccessible::updateAccessibility(event);
+  } else if (shown->hasFocus()) {
+    QAccessibleInterface* whole = event->accessibleInterface();
+    QAccessibleInterface* picture = whole->focusChild();
+    QAccessibleEvent focused(picture == nullptr ? whole : picture, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focused);
+  }
+  QAccessible::installUpdateHandler(report_focused_picture);
+}
+
 }  // namespace
 
-void install_accessible_canvases() { QAccessible::installFactory(make_accessible); }
+void install_accessible_canvases() {
+  QAccessible::installFactory(make_accessible);
+  next_handler = QAccessible::installUpdateHandler(report_focused_picture);
+}
 
 }  // namespace desktop

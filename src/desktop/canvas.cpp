@@ -165,7 +165,7 @@ void canvas::move_cursor(int key) {
   cursor_ = cursor_step(rects, cursor_, rects[cursor_].isNull() ? Qt::Key_Home : key);
   damage_cursor();
   update(std::exchange(damage_, {}));
-  if (!QAccessible::isActive()) return;
+  if (!QAccessible::isActive() || !hasFocus() || !cursor_is_visible()) return;
   QAccessibleEvent moved(QAccessible::queryAccessibleInterface(this)->focusChild(),
                          QAccessible::Focus);
   QAccessible::updateAccessibility(&moved);

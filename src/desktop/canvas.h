@@ -32,6 +32,7 @@ class canvas : public QWidget {
   // From back to front.
   const std::vector<picture>& pictures() const { return pictures_; }
   std::size_t cursor() const { return cursor_; }
+  bool cursor_is_visible() const { return !pictures_.empty() && !pictures_[cursor_].rect.isNull(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
