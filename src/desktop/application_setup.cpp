@@ -11,6 +11,9 @@ namespace desktop {
 
 bool application::notify(QObject* receiver, QEvent* event) {
   try {
+    if (event->type() == QEvent::KeyPress) {
+      key_times_.restore(*receiver, *static_cast<QKeyEvent*>(event));
+    }
     return QApplication::notify(receiver, event);
   } catch (const std::bad_alloc&) {
     return false;

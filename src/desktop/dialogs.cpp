@@ -46,6 +46,13 @@ void set_default_suffix(QFileDialog& dialog, const file_kind& kind) {
 // Leaves room for the title, whose font the window manager chooses.
 constexpr int min_text_width = 260;
 
+void activate_first_item(QMenu& menu) {
+  const QList<QAction*> actions = menu.actions();
+  const auto first = std::find_if(actions.begin(), actions.end(),
+                                  [](const QAction* action) { return action->isEnabled(); });
+  if (first != actions.end()) menu.setActiveAction(*first);
+}
+
 }  // namespace
 
 void show_message(const std::string& title, const std::string& text, QWidget* owner) {
@@ -65,9 +72,10 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
 }
 
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
-                                  forms_layer::screen_point at, QWidget* owner) {
+                                  forms_layer::screen_point at, bool by_key, QWidget* owner) {
   QMenu menu(owner);
   add_items(menu, opened);
+  if (by_key) activate_first_item(menu);
   return item_of(menu, opened, menu.exec(QPoint(at.x, at.y)));
 }
 

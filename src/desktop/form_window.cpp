@@ -27,6 +27,14 @@ Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
   return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
 }
 
+// The top left corner of a frame that is inside `free`, or begins there if it is larger.
+QPoint inside(const QRect& frame, const QRect& free) {
+  const int max_left = std::max(free.left(), free.right() + 1 - frame.width());
+  const int max_top = std::max(free.top(), free.bottom() + 1 - frame.height());
+  return {std::clamp(frame.left(), free.left(), max_left),
+          std::clamp(frame.top(), free.top(), max_top)};
+}
+
 // The initial position of the client area of a form's window: centred on the screen or on `owner`
 // (may be null), as designed, and completely on the screen. The window frame is assumed to be as
 // thick as the owner's.
@@ -39,10 +47,7 @@ QPoint first_position(const QWidget& window, const forms_layer::form_design& des
   const QMargins margins = has_owner ? owner->windowHandle()->frameMargins() : QMargins();
   QRect frame = QRect({}, window.size()).marginsAdded(margins);
   frame.moveCenter(over_owner ? owner->windowHandle()->frameGeometry().center() : free.center());
-  const int max_left = std::max(free.left(), free.right() + 1 - frame.width());
-  const int max_top = std::max(free.top(), free.bottom() + 1 - frame.height());
-  return {std::clamp(frame.left(), free.left(), max_left) + margins.left(),
-          std::clamp(frame.top(), free.top(), max_top) + margins.top()};
+  return inside(frame, free) + QPoint(margins.left(), margins.top());
 }
 
 // Long enough for a busy machine. A window manager that does not map the window must not stop a
@@ -150,12 +155,15 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
   const QPoint last_centre = QRect(last_position_, size()).center();
   if (first || QGuiApplication::screenAt(last_centre) == nullptr) {
     last_position_ = first_position(*this, form.designed, centre_of);
+    windowHandle()->installEventFilter(this);
   }
   if (!isMaximized()) setGeometry(QRect(last_position_, size()));
   // What the user types during a handler must arrive at the control that has the focus.
   setAttribute(Qt::WA_ShowWithoutActivating, in_handler);
   windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, in_handler);
   wants_focus_ = in_handler;
+  // Loads the fonts, so that the first frame follows the window at once.
+  if (first) grab();
   show();
   if (focused_ != nullptr) focused_->setFocus();
   raise();
@@ -164,6 +172,17 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
   } else {
     activateWindow();
   }
+}
+
+// The window manager's frame is known when the window is exposed for the first time.
+bool form_window::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+    watched->removeEventFilter(this);
+    const QRect frame = windowHandle()->frameGeometry();
+    const QPoint corner = inside(frame, screen()->availableGeometry());
+    if (corner != frame.topLeft()) windowHandle()->setFramePosition(corner);
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void form_window::hide_window() {

@@ -22,8 +22,10 @@ frame_view::frame_view(forms_layer::frame& shown, QWidget* parent)
 
 void frame_view::show_content() {
   const QString caption = to_screen(shown_.Caption());
-  setTitle(fontMetrics().elidedText(caption, Qt::ElideRight, width() - 2 * caption_left));
+  // As a title of Qt an ampersand would mark a shortcut.
+  caption_ = fontMetrics().elidedText(caption, Qt::ElideRight, width() - 2 * caption_left);
   setAccessibleName(caption);
+  update();
 }
 
 void frame_view::resizeEvent(QResizeEvent* /*event*/) {
@@ -38,13 +40,13 @@ void frame_view::paintEvent(QPaintEvent* /*event*/) {
   const QColor text = palette().color(QPalette::WindowText);
   qDrawPlainRect(&painter, rect().adjusted(0, fontMetrics().height() / 2, 0, 0),
                  mix(back, mix(back, text)));
-  if (title().isEmpty()) return;
+  if (caption_.isEmpty()) return;
   const QRect caption(caption_left, 0,
-                      fontMetrics().horizontalAdvance(title()) + 2 * caption_margin,
+                      fontMetrics().horizontalAdvance(caption_) + 2 * caption_margin,
                       fontMetrics().height());
   painter.fillRect(caption, back);
   painter.setPen(text);
-  painter.drawText(caption, Qt::AlignCenter | Qt::TextSingleLine, title());
+  painter.drawText(caption, Qt::AlignCenter | Qt::TextSingleLine, caption_);
 }
 
 }  // namespace desktop

@@ -22,6 +22,7 @@ class frame_view : public view_of<QGroupBox, forms_layer::frame> {
 
  private:
   canvas& inside_;
+  QString caption_;  // as much of it as fits
 };
 
 }  // namespace desktop

@@ -68,7 +68,12 @@ void send_as_press(QObject* receiver, const QMouseEvent& event) {
 
 bool input_filter::eventFilter(QObject* receiver, QEvent* event) {
   if (event->type() == QEvent::FocusIn) report_focus(receiver, *static_cast<QFocusEvent*>(event));
-  if (is_input(*event) && is_barred(receiver)) return true;
+  const bool is_press = event->type() == QEvent::MouseButtonPress;
+  if (is_press || event->type() == QEvent::KeyPress) key_was_latest_ = !is_press;
+  if (is_input(*event) && is_barred(receiver)) {
+    if (is_press) on_barred_press();
+    return true;
+  }
   if (!is_double_click_of_another(receiver, event->type())) return false;
   send_as_press(receiver, *static_cast<QMouseEvent*>(event));
   return true;

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QObject>
+#include <functional>
 
 namespace desktop {
 
@@ -10,11 +11,17 @@ namespace desktop {
 // single press if the first was on another widget.
 class input_filter : public QObject {
  public:
+  // Called when the user presses a mouse button on the window of a disabled form.
+  std::function<void()> on_barred_press = [] {};
+  // True if the latest press was that of a key.
+  bool key_was_latest() const { return key_was_latest_; }
+
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
   bool is_double_click_of_another(const QObject* receiver, QEvent::Type type);
 
+  bool key_was_latest_ = false;
   const QObject* pressed_ = nullptr;  // by the latest press; may be deleted
 };
 

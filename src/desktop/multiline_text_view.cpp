@@ -1,6 +1,7 @@
 #include "desktop/multiline_text_view.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextBlock>
 
@@ -93,6 +94,15 @@ void multiline_text_view::count_lines() {
 void multiline_text_view::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
   count_lines();
+}
+
+// With an empty clipboard Qt passes on a source without content, and then uses it.
+bool multiline_text_view::canInsertFromMimeData(const QMimeData* source) const {
+  return source != nullptr && source->hasText();
+}
+
+void multiline_text_view::insertFromMimeData(const QMimeData* source) {
+  if (canInsertFromMimeData(source)) QPlainTextEdit::insertFromMimeData(source);
 }
 
 void multiline_text_view::focusOutEvent(QFocusEvent* event) {

@@ -18,6 +18,8 @@ class multiline_text_view : public view_of<QPlainTextEdit, forms_layer::text_box
   void show_content() override;
   void resizeEvent(QResizeEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
 
  private:
   void take_edit();

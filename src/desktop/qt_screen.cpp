@@ -29,6 +29,7 @@ constexpr auto window_delay = 100ms;
 
 qt_screen::qt_screen() {
   qApp->installEventFilter(&filter_);
+  filter_.on_barred_press = [this] { windows_.bring_up_topmost(); };
   // Without GLib a turn handles posted events after `awake` and then waits.
   for (const auto signal :
        {&QAbstractEventDispatcher::awake, &QAbstractEventDispatcher::aboutToBlock}) {
@@ -66,13 +67,14 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
   windows_.store_focus();
+  held_keys_.take();
   show_message(title, text, windows_.topmost());
 }
 
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
-  return desktop::pick_item(opened, at, window_of(opened.owner));
+  return desktop::pick_item(opened, at, filter_.key_was_latest(), window_of(opened.owner));
 }
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
@@ -93,6 +95,7 @@ void qt_screen::sync_between_handlers() {
   if (forms_layer::handler_running()) return;
   try {
     sync();
+    held_keys_.deliver();
   } catch (const std::bad_alloc&) {
     // The next sync shows these changes.
   }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 
+#include "desktop/held_keys.h"
 #include "desktop/input_filter.h"
 #include "desktop/views.h"
 #include "desktop/window_stack.h"
@@ -44,6 +45,7 @@ class qt_screen : public forms_layer::screen {
 
   std::chrono::steady_clock::time_point last_frame_;
   input_filter filter_;
+  held_keys held_keys_;
   views views_;
   window_stack windows_{views_};
 };

@@ -13,6 +13,7 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
     : view_of(shown, parent) {
   setReadOnly(shown.designed.locked);
   if (shown.designed.centred) setAlignment(Qt::AlignCenter);
+  limit_to(shown.designed.max_length);
   // A screen reader's edit does not emit textEdited.
   connect(this, &QLineEdit::textChanged, this, [this](const QString& edited) {
     forms_layer::user::type(shown_, from_screen(edited));
@@ -24,14 +25,18 @@ text_field_view::text_field_view(forms_layer::text_box& shown, QWidget* parent)
 void text_field_view::show_content() {
   const QSignalBlocker not_an_edit(this);
   const QString now = to_screen(shown_.Text());
-  // The limit applies to the user's input, not to texts of the tool.
-  const int limit = shown_.designed.max_length;
-  if (limit > 0) setMaxLength(std::max(limit, static_cast<int>(now.size())));
   setPlaceholderText(to_screen(shown_.Placeholder()));
   if (now == text()) return;
   const int cursor = cursorPosition();
+  limit_to(std::max(shown_.designed.max_length, static_cast<int>(now.size())));
   setText(now);
   setCursorPosition(hasFocus() ? cursor : 0);
+}
+
+// The limit applies to the user's input, not to texts of the tool. Qt sets the text again with each
+// limit, which loses the cursor and the undo steps.
+void text_field_view::limit_to(int length) {
+  if (shown_.designed.max_length > 0 && length != maxLength()) setMaxLength(length);
 }
 
 }  // namespace desktop

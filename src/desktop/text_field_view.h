@@ -14,6 +14,9 @@ class text_field_view : public view_of<QLineEdit, forms_layer::text_box> {
 
  protected:
   void show_content() override;
+
+ private:
+  void limit_to(int length);
 };
 
 }  // namespace desktop

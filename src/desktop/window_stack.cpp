@@ -64,6 +64,13 @@ void window_stack::hide_window(forms_layer::form& shown) {
   if (was_active && next != nullptr) next->take_focus();
 }
 
+void window_stack::bring_up_topmost() {
+  form_window* window = topmost();
+  if (window == nullptr) return;
+  if (window->isMinimized()) window->showNormal();
+  window->take_focus();
+}
+
 void window_stack::store_focus() {
   if (before_box_ == nullptr) {
     before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());

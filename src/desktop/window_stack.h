@@ -26,6 +26,9 @@ class window_stack {
   void mark_dirty(forms_layer::form& changed) { dirty_.push_back(&changed); }
   void sync();
 
+  // Brings the topmost window to the front, even if it is minimised.
+  void bring_up_topmost();
+
   // Call before a box or dialog takes the focus.
   void store_focus();
   // The form gets the focus at the end of the handler, by `give_focus`.

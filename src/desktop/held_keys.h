@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+#include <memory>
+#include <vector>
+
+namespace desktop {
+
+// The keys that the user types during a handler. A message box of the handler would drop them, so
+// they are kept until its end.
+class held_keys : public QObject {
+ public:
+  // Takes the keys that wait in the queue of the window system, and drops other input. Call before
+  // a box opens.
+  void take();
+  // Sends them to the windows that they were typed for, if these are still visible. Call when no
+  // handler runs.
+  void deliver();
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  struct held_key {
+    QPointer<QWindow> window;
+    std::unique_ptr<QEvent> event;
+  };
+  std::vector<held_key> keys_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <deque>
+
+namespace desktop {
+
+// With a client of the screen reader's interface Qt keeps each key until the client has answered,
+// and then delivers a copy without the time of the press. This finds that time.
+class key_times {
+ public:
+  // Call before `receiver` gets the press of a key.
+  void restore(const QObject& receiver, QKeyEvent& press);
+
+ private:
+  struct kept_press {
+    int key;
+    quint64 time;
+  };
+  std::deque<kept_press> kept_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,131 @@
+// What the user types arrives, in the order and at the place where it was typed.
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "desktop_fixture.h"
+
+struct Typing : Desktop {
+  QWidget& window = show_active();
+  QWidget* field = widget_of(window, form.field);
+  QWidget* page = widget_of(window, form.page);
+};
+
+// Each key is handled before the next one. "~" is Home, "-" Delete, "<" Ctrl+Z.
+TEST_F(Typing, AFieldWithALimitKeepsItsCursorAndUndo) {
+  const std::map<char, std::pair<Qt::Key, Qt::KeyboardModifiers>> keys = {
+      {'~', {Qt::Key_Home, {}}},
+      {'-', {Qt::Key_Delete, {}}},
+      {'<', {Qt::Key_Z, Qt::ControlModifier}}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"12~-5", "52"}, {"12~5", "12"}, {"1<", ""}, {"12~-<", "12"}, {"123", "12"}};
+  field->setFocus();
+  for (const auto& [typed, text] : cases) {
+    write([&] { form.field.Text = ""; });
+    for (const char* c = typed; *c != '\0'; ++c) {
+      const auto key = keys.find(*c);
+      key == keys.end() ? QTest::keyClick(field, *c)
+                        : QTest::keyClick(field, key->second.first, key->second.second);
+      handle_events();
+    }
+    EXPECT_EQ(form.field.Text(), text) << typed;
+    EXPECT_EQ(static_cast<QLineEdit*>(field)->text().toStdString(), text) << typed;
+  }
+}
+
+// As Qt does while a client of the screen reader's interface is connected.
+struct delays_keys : QObject {
+  delays_keys() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !event->spontaneous() || !receiver->isWindowType()) {
+      return false;
+    }
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    copies.push_back({receiver, new QKeyEvent(key.type(), key.key(), key.modifiers(), key.text())});
+    return true;
+  }
+  std::vector<std::pair<QObject*, QKeyEvent*>> copies;
+};
+
+TEST_F(Typing, KeysKeepTheirTimesWithAScreenReader) {
+  for (const char* row : {"ba", "a", "bb", "ab"}) form.list.AddItem(row);
+  handle_events();
+  widget_of(window, form.list)->setFocus();
+  const std::tuple<const char*, int, int> cases[] = {{"ab", 0, 3}, {"ab", 60, 2}};
+  QApplication::setKeyboardInputInterval(40);
+  QTest::keyClick(window.windowHandle(), Qt::Key_X);  // delivered at once
+  for (const auto& [word, pause, row] : cases) {
+    write([&] { form.list.ListIndex = -1; });
+    QTest::qWait(60);
+    delays_keys delayed;
+    for (const char* c = word; *c != '\0'; ++c) {
+      QTest::keyPress(window.windowHandle(), *c);
+      QTest::qWait(pause);
+    }
+    QTest::qWait(60);  // a handler
+    for (const auto& [receiver, copy] : delayed.copies) QCoreApplication::postEvent(receiver, copy);
+    handle_events();
+    EXPECT_EQ(form.list.ListIndex(), row) << word << pause;
+  }
+  QApplication::setKeyboardInputInterval(-1);
+}
+
+TEST_F(Typing, PastesOnlyText) {
+  auto& text = *static_cast<QPlainTextEdit*>(page);
+  const auto paste = [&] { QTest::keyClick(page, Qt::Key_V, Qt::ControlModifier); };
+  page->setFocus();
+  QGuiApplication::clipboard()->clear();
+  paste();
+  QGuiApplication::clipboard()->setMimeData(nullptr);
+  paste();
+  QGuiApplication::clipboard()->setImage(picture_of(window));
+  paste();
+  EXPECT_EQ(text.toPlainText(), "");
+  QGuiApplication::clipboard()->setText("new");
+  paste();
+  field->setFocus();
+  EXPECT_EQ(form.page.Text(), "new");
+}
+
+TEST_F(Typing, AnAmpersandInACaptionIsNoShortcut) {
+  write([&] { form.frame.Caption = "R&M.SHP"; });
+  const QImage shown = picture_of(*widget_of(window, form.frame));
+  write([&] { form.frame.Caption = "R&&M.SHP"; });
+  EXPECT_NE(picture_of(*widget_of(window, form.frame)), shown);
+  field->setFocus();
+  QTest::keyClick(window.windowHandle(), Qt::Key_M, Qt::AltModifier);
+  EXPECT_TRUE(QApplication::activePopupWidget() != nullptr) << "the menu";
+  if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+}
+
+// Typed during a handler, whose message box opens later.
+TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
+  form.button.Click = [&] { form.label.Caption = "clicked"; };
+  field->setFocus();
+  const auto type_later = [&](Qt::Key key) {
+    QMetaObject::invokeMethod(
+        field, [&, key] { QTest::keyClick(window.windowHandle(), key); }, Qt::QueuedConnection);
+  };
+  const auto show_box = [&] {
+    QTimer::singleShot(20,
+                       [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    screen.message_box("Title", "text");
+  };
+  write([&] {
+    type_later(Qt::Key_1);
+    show_box();
+    type_later(Qt::Key_2);
+    show_box();
+    EXPECT_EQ(form.field.Text(), "");
+  });
+  handle_events();
+  EXPECT_EQ(form.field.Text(), "12");
+  write([&] {
+    QTimer::singleShot(5, [&] { QTest::keyClick(window.windowHandle(), Qt::Key_Backspace); });
+    show_box();
+  });
+  EXPECT_EQ(form.field.Text(), "12") << "typed while the box was open";
+}
