@@ -19,8 +19,13 @@ void held_keys::deliver() {
   }
 }
 
-// The window gets input first, and passes it on to its widgets.
+// The window gets input first, and passes it on to its widgets. Before a key Qt asks whether it may
+// look for a shortcut, which would act at once.
 bool held_keys::eventFilter(QObject* receiver, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();
+    return true;
+  }
   if (!receiver->isWindowType()) return false;
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
     keys_.push_back({static_cast<QWindow*>(receiver), std::unique_ptr<QEvent>(event->clone())});

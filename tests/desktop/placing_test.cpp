@@ -23,24 +23,6 @@ TEST_F(Desktop, AWindowIsPaintedBeforeItIsMapped) {
   EXPECT_TRUE(window.isVisible());
 }
 
-// Also if the window is larger than the screen.
-TEST_F(Desktop, TheTitleBarOpensOnTheScreen) {
-  for (const int side : {6000, 15000}) {
-    all_kinds other;
-    other.set_client_size(side, side);
-    desktop::qt_screen fresh;
-    forms_layer::attach_screen(&fresh);
-    write([&] { other.Visible = true; });
-    QWidget* window = fresh.window_of(other);
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
-    const QRect frame = window->windowHandle()->frameGeometry();
-    EXPECT_GT(window->windowHandle()->frameMargins().top(), 0);
-    EXPECT_GE(frame.top(), 0) << side;
-    EXPECT_GE(frame.left(), 0) << side;
-    forms_layer::attach_screen(&screen);
-  }
-}
-
 TEST_F(Desktop, APressOnADisabledWindowBringsUpItsDialog) {
   using ostrane::Form2;
   ostrane::reset_forms();

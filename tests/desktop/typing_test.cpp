@@ -1,9 +1,6 @@
 // What the user types arrives, in the order and at the place where it was typed.
-#include <QClipboard>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QPlainTextEdit>
 #include <QTimer>
 
 #include "desktop_fixture.h"
@@ -11,7 +8,6 @@
 struct Typing : Desktop {
   QWidget& window = show_active();
   QWidget* field = widget_of(window, form.field);
-  QWidget* page = widget_of(window, form.page);
 };
 
 // Each key is handled before the next one. "~" is Home, "-" Delete, "<" Ctrl+Z.
@@ -73,32 +69,18 @@ TEST_F(Typing, KeysKeepTheirTimesWithAScreenReader) {
   QApplication::setKeyboardInputInterval(-1);
 }
 
-TEST_F(Typing, PastesOnlyText) {
-  auto& text = *static_cast<QPlainTextEdit*>(page);
-  const auto paste = [&] { QTest::keyClick(page, Qt::Key_V, Qt::ControlModifier); };
-  page->setFocus();
-  QGuiApplication::clipboard()->clear();
-  paste();
-  QGuiApplication::clipboard()->setMimeData(nullptr);
-  paste();
-  QGuiApplication::clipboard()->setImage(picture_of(window));
-  paste();
-  EXPECT_EQ(text.toPlainText(), "");
-  QGuiApplication::clipboard()->setText("new");
-  paste();
-  field->setFocus();
-  EXPECT_EQ(form.page.Text(), "new");
-}
-
 TEST_F(Typing, AnAmpersandInACaptionIsNoShortcut) {
   write([&] { form.frame.Caption = "R&M.SHP"; });
   const QImage shown = picture_of(*widget_of(window, form.frame));
   write([&] { form.frame.Caption = "R&&M.SHP"; });
   EXPECT_NE(picture_of(*widget_of(window, form.frame)), shown);
   field->setFocus();
-  QTest::keyClick(window.windowHandle(), Qt::Key_M, Qt::AltModifier);
-  EXPECT_TRUE(QApplication::activePopupWidget() != nullptr) << "the menu";
-  if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+  for (int i = 0; i < 2; ++i) {  // Qt alternates between widgets with one shortcut
+    QTest::keyClick(window.windowHandle(), Qt::Key_M, Qt::AltModifier);
+    QWidget* menu = QApplication::activePopupWidget();
+    EXPECT_NE(menu, nullptr);
+    if (menu != nullptr) menu->close();
+  }
 }
 
 // Typed during a handler, whose message box opens later.
