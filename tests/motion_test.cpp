@@ -19,6 +19,7 @@ struct motion_test : icon_test {
     for (const auto& [actions, expected] : steps) {
       for (const char* action = actions; *action != '\0'; ++action) {
         if (*action == 'm') user::click(Form1.Command5);
+        if (*action == 'l') user::shift_click(Form1.Command5);
         if (*action == 't') user::tick(Form1.Timer1);
         if (*action == '<') user::click(Form1.Command3);
         if (*action == '>') user::click(Form1.Command4);
@@ -47,7 +48,14 @@ TEST_F(motion_test, ShowsTheSlotsInTurnAndStepsThroughThem) {
              {">", " 3: 200,800 back on"},
              {"<", "2: 200,800 back on"},
              {"<<", "1: 200,800 back on"},
-             {">", "2: 200,800 back on"}});
+             {">", "2: 200,800 back on"},
+             {"lttt", " 3: 200,800 moving"},
+             {"t", " 1: 200,800 moving"},
+             {"tttt", " 2: 200,800 moving"},
+             {"l", " 2: 200,800 back on"},
+             {"lmttt", " 3: 200,800 moving"},
+             {"t", " 3: 200,800 back on"},
+             {"<", "2: 200,800 back on"}});
   EXPECT_EQ(view(), "3:2: 2=1");
   run_steps({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});
 }

@@ -15,6 +15,8 @@ class test_screen : public forms_layer::screen {
   std::function<forms_layer::menu_item*(const forms_layer::context_menu& opened)> pick;
   std::function<forms_layer::save_answer(const forms_layer::save_question& question)> save;
   std::function<void(const forms_layer::picture_box& shown)> copied;
+  std::filesystem::path folder;      // to write to; empty for none
+  std::filesystem::path dropped_in;  // where dragged files are dropped; nowhere if empty
 
   // Per Refresh of Form3 and per message box: the visible windows and the text. Per Refresh of
   // Form1: Text2 and Text3. Per focus change: the name of the form.
@@ -55,6 +57,11 @@ class test_screen : public forms_layer::screen {
   }
   forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override {
     return save(question);
+  }
+  std::filesystem::path ask_folder(const std::string&) override { return folder; }
+  void drag_files(const std::vector<std::filesystem::path>&,
+                  const forms_layer::file_writer& write) override {
+    if (!dropped_in.empty()) write(dropped_in);
   }
   void copy_picture(const forms_layer::picture_box& shown) override { copied(shown); }
 

@@ -54,7 +54,7 @@ class accessible_picture : public QAccessibleInterface, public QAccessibleAction
   }
   void doAction(const QString& name) override {
     if (name == pressAction()) double_click(*picture().box);
-    if (name == showMenuAction()) open_menu(*picture().box, rect().center());
+    if (name == showMenuAction()) canvas_.open_menu(*picture().box, rect().center());
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 

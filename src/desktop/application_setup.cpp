@@ -10,6 +10,7 @@
 namespace desktop {
 
 bool application::notify(QObject* receiver, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) ++mouse_releases_;
   try {
     if (event->type() == QEvent::KeyPress) {
       key_times_.restore(*receiver, *static_cast<QKeyEvent*>(event));

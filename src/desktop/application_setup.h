@@ -11,8 +11,11 @@ class application : public QApplication {
  public:
   using QApplication::QApplication;
   bool notify(QObject* receiver, QEvent* event) override;
+  // How often a mouse button was released, also during a drag, in which Qt does not tell.
+  unsigned mouse_releases() const { return mouse_releases_; }
 
  private:
+  unsigned mouse_releases_ = 0;
   key_times key_times_;
 };
 

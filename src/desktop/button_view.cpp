@@ -1,5 +1,7 @@
 #include "desktop/button_view.h"
 
+#include <QGuiApplication>
+
 #include "desktop/keyboard.h"
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
@@ -7,7 +9,10 @@
 namespace desktop {
 
 button_view::button_view(forms_layer::button& shown, QWidget* parent) : view_of(shown, parent) {
-  connect(this, &QPushButton::clicked, this, [this] { forms_layer::user::click(shown_); });
+  connect(this, &QPushButton::clicked, this, [this] {
+    const bool shift = (QGuiApplication::keyboardModifiers() & Qt::ShiftModifier) != 0;
+    shift ? forms_layer::user::shift_click(shown_) : forms_layer::user::click(shown_);
+  });
 }
 
 void button_view::show_content() {

@@ -38,13 +38,16 @@ void double_click(const forms_layer::picture_box& box) {
   if (box.array != nullptr) forms_layer::user::double_click(*box.array, box.Index);
 }
 
-bool open_menu(const forms_layer::picture_box& box, const QPoint& at) {
+bool canvas::open_menu(const forms_layer::picture_box& box, const QPoint& at) {
   if (box.array == nullptr || box.array->ContextMenu == nullptr) return false;
+  menu_target_ = &box;
   forms_layer::user::open_menu(*box.array, box.Index, as_screen_point(at));
   return true;
 }
 
-canvas::canvas(forms_layer::container& shown, QWidget* parent) : QWidget(parent) {
+// The enlarged picture is made first, so that it is below the controls.
+canvas::canvas(forms_layer::container& shown, QWidget* parent)
+    : QWidget(parent), zoom_(new zoom_view(*this)) {
   for (forms_layer::control* control : shown.controls()) {
     if (control->kind != forms_layer::control_kind::picture_box) continue;
     mark_dirty(static_cast<forms_layer::picture_box&>(*control));
@@ -70,7 +73,9 @@ bool canvas::mark_dirty(forms_layer::picture_box& box) {
 }
 
 void canvas::sync_pictures() {
+  appeared_ = pictures_.size();
   for (const std::size_t index : std::exchange(dirty_, {})) sync(pictures_[index]);
+  if (zoom_->is_open()) follow_in_zoom();
   if (!damage_.isEmpty()) update(std::exchange(damage_, {}));
 }
 
@@ -85,6 +90,9 @@ void canvas::sync(picture& p) {
   p.dirty = false;
   const QRect rect = p.box->Visible() ? rect_of(*p.box) : QRect();
   const forms_layer::pixel_area painted = p.box->consume_damage();
+  if (p.rect.isNull() && !rect.isNull()) {
+    appeared_ = std::min(appeared_, static_cast<std::size_t>(&p - pictures_.data()));
+  }
   if (rect != p.rect) {
     const bool has_cursor = &p == &pictures_[cursor_] && hasFocus();
     for (const QRect& seen : {std::exchange(p.rect, rect), rect}) {
@@ -108,13 +116,17 @@ void canvas::paintEvent(QPaintEvent* event) {
     if (!event->rect().intersects(p.rect) || !event->region().intersects(p.rect)) continue;
     paint_picture(painter, *p.box, p.rect, event->rect() & p.rect);
   }
-  if (hasFocus() && !pictures_[cursor_].rect.isNull()) {
+  if (hasFocus() && cursor_is_visible() && !zoom_->is_open()) {
     qDrawPlainRect(&painter, with_cursor(pictures_[cursor_].rect),
                    palette().color(QPalette::Highlight), 2);
   }
 }
 
 forms_layer::picture_box* canvas::picture_at(const QPoint& position) const {
+  if (zoom_->is_open() && zoom_->picture() != nullptr && childAt(position) != nullptr &&
+      zoom_->isAncestorOf(childAt(position))) {
+    return pictures_[index_of(*zoom_->picture())].box;
+  }
   if (childAt(position) != nullptr) return nullptr;  // a control covers the pictures
   const auto found = std::find_if(pictures_.rbegin(), pictures_.rend(),
                                   [&](const picture& p) { return p.rect.contains(position); });
@@ -165,6 +177,7 @@ void canvas::move_cursor(int key) {
   cursor_ = cursor_step(rects, cursor_, rects[cursor_].isNull() ? Qt::Key_Home : key);
   damage_cursor();
   update(std::exchange(damage_, {}));
+  if (zoom_->is_open()) zoom(cursor_, zoom_->factor());
   if (!QAccessible::isActive() || !hasFocus() || !cursor_is_visible()) return;
   QAccessibleEvent moved(QAccessible::queryAccessibleInterface(this)->focusChild(),
                          QAccessible::Focus);

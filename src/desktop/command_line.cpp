@@ -23,12 +23,21 @@ QString description() {
 
 }  // namespace
 
+// On systems whose paths are bytes, those of main() are exact.
+std::filesystem::path path_argument(const char* given) {
+  if constexpr (std::filesystem::path::preferred_separator == '/') return given;
+  return QCoreApplication::arguments().value(1).toStdU16String();
+}
+
 int answer_command_line(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("Ostrane.dat-tool"));
   QCoreApplication::setApplicationVersion(QString::fromLatin1(ostrane::version));
   QCommandLineParser parser;
   parser.setApplicationDescription(description());
+  parser.addPositionalArgument(QStringLiteral("path"),
+                               QStringLiteral("An ostrane.dat to open, or its folder."),
+                               QStringLiteral("[path]"));
   const QString version = QStringLiteral("version");
   parser.addOptions({{QStringLiteral("help"), QStringLiteral("Prints this and exits.")},
                      {version, QStringLiteral("Prints the version and exits.")}});
@@ -36,7 +45,7 @@ int answer_command_line(int argc, char** argv) {
   if (!parser.parse(QCoreApplication::arguments())) error = parser.errorText();
   const QStringList files = parser.positionalArguments();
   if (error.isEmpty() && !files.isEmpty()) {
-    error = QStringLiteral("Files cannot be opened from the command line: ") + files.first();
+    error = QStringLiteral("Only one archive can be opened, without an option: ") + files.last();
   }
   if (error.isEmpty() && parser.isSet(version)) parser.showVersion();
   if (error.isEmpty()) parser.showHelp();

@@ -53,6 +53,12 @@ void activate_first_item(QMenu& menu) {
   if (first != actions.end()) menu.setActiveAction(*first);
 }
 
+// Of the latest dialog in which the user chose a file or a folder.
+QString& last_folder() {
+  static QString folder = QDir::homePath();
+  return folder;
+}
+
 }  // namespace
 
 void show_message(const std::string& title, const std::string& text, QWidget* owner) {
@@ -72,16 +78,17 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
 }
 
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
-                                  forms_layer::screen_point at, bool by_key, QWidget* owner) {
+                                  forms_layer::screen_point at, bool by_key, QWidget* owner,
+                                  const std::function<void(QMenu&)>& add_more) {
   QMenu menu(owner);
   add_items(menu, opened);
+  add_more(menu);
   if (by_key) activate_first_item(menu);
   return item_of(menu, opened, menu.exec(QPoint(at.x, at.y)));
 }
 
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {
-  static QString folder = QDir::homePath();  // of the last saved file
-  QFileDialog dialog(owner, to_screen(question.title), folder);
+  QFileDialog dialog(owner, to_screen(question.title), last_folder());
   // With a dialog of the desktop Qt adds the extension after the question to replace a file.
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -101,9 +108,19 @@ forms_layer::save_answer ask_save_path(const forms_layer::save_question& questio
     dialog.selectFile(with_ending(name, question.kinds, kind));
   });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  folder = dialog.directory().absolutePath();
+  last_folder() = dialog.directory().absolutePath();
   return {.path = files::as_utf8(dialog.selectedFiles().first().toStdString()),
           .kind = kind_selected()};
+}
+
+std::filesystem::path ask_folder(const std::string& title, QWidget* owner) {
+  QFileDialog dialog(owner, to_screen(title), last_folder());
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  last_folder() = dialog.selectedFiles().first();
+  return files::as_utf8(last_folder().toStdString());
 }
 
 }  // namespace desktop

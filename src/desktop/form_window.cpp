@@ -5,8 +5,11 @@
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QThread>
+#include <QUrl>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -15,6 +18,8 @@
 #include "desktop/designed_look.h"
 #include "desktop/menu_bar.h"
 #include "desktop/screen_text.h"
+#include "desktop/view_actions.h"
+#include "files/code_page.h"
 #include "forms_layer/application.h"
 #include "forms_layer/user.h"
 
@@ -25,6 +30,13 @@ namespace {
 Qt::WindowFlags flags_for(const forms_layer::form_design& designed) {
   if (designed.control_box) return Qt::Window;
   return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+}
+
+// The only file or folder of a drag, or "".
+std::filesystem::path path_in(const QMimeData& dragged) {
+  const QList<QUrl> urls = dragged.urls();
+  if (urls.size() != 1 || !urls.first().isLocalFile()) return {};
+  return files::as_utf8(urls.first().toLocalFile().toStdString());
 }
 
 // The top left corner of a frame that is inside `free`, or begins there if it is larger.
@@ -81,6 +93,8 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   views_.make_all(form, *client);
   set_tab_order();
   show_caption();
+  add_keys();
+  setAcceptDrops(static_cast<bool>(form.TakesDrop));
   for (forms_layer::timer* timer : form.timers) restart(*timer);
 }
 
@@ -105,6 +119,28 @@ void form_window::set_tab_order() {
     before == nullptr ? widget->setFocus() : setTabOrder(before, widget);
     before = widget;
   }
+}
+
+void form_window::add_keys() {
+  for (const forms_layer::key& key : form.keys) {
+    auto* shortcut = new QShortcut(QKeySequence(QString::fromStdString(key.name)), this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, &key] { key.Pressed ? forms_layer::user::press(form, key) : act(*this, key); });
+  }
+}
+
+// The cursor shows whether the window takes what is dragged over it.
+void form_window::dragEnterEvent(QDragEnterEvent* event) {
+  const std::filesystem::path dragged = path_in(*event->mimeData());
+  event->setAccepted(!dragged.empty() && form.TakesDrop && form.TakesDrop(dragged));
+}
+
+// The program that the file comes from waits for the end of this event.
+void form_window::dropEvent(QDropEvent* event) {
+  const std::filesystem::path dropped = path_in(*event->mimeData());
+  event->acceptProposedAction();
+  QMetaObject::invokeMethod(
+      this, [this, dropped] { forms_layer::user::drop(form, dropped); }, Qt::QueuedConnection);
 }
 
 void form_window::resizeEvent(QResizeEvent* event) {
@@ -132,7 +168,7 @@ void form_window::keyPressEvent(QKeyEvent* event) {
   } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
     open_focused_menu();
   } else if (event->key() == Qt::Key_Escape) {
-    forms_layer::user::cancel(form);
+    if (!close_extras(*this)) forms_layer::user::cancel(form);
   } else {
     QMainWindow::keyPressEvent(event);
   }

@@ -42,11 +42,14 @@ class form_window : public QMainWindow {
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   int menu_height() const;
   void set_designed_size();
   void set_tab_order();
+  void add_keys();
   void open_focused_menu();
 
   views& views_;

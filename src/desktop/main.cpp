@@ -36,7 +36,8 @@ void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc > 1) return desktop::answer_command_line(argc, argv);
+  const bool opens_archive = argc == 2 && *argv[1] != '-' && *argv[1] != '\0';
+  if (argc > 1 && !opens_archive) return desktop::answer_command_line(argc, argv);
   const QtMessageHandler usual = qInstallMessageHandler(end_without_display);
   const desktop::application application(argc, argv);
   qInstallMessageHandler(usual);
@@ -44,7 +45,8 @@ int main(int argc, char** argv) {
   set_program_icon();
   desktop::qt_screen screen;
   forms_layer::attach_screen(&screen);
-  ostrane::start_tool(files::program_folder(), ostrane::make_icon_exporter());
+  ostrane::start_tool(files::program_folder(), ostrane::make_icon_exporter(),
+                      opens_archive ? desktop::path_argument(argv[1]) : std::filesystem::path());
   const int exit_code = QApplication::exec();
   forms_layer::attach_screen(nullptr);
   return exit_code;

@@ -33,7 +33,8 @@ void add_items(QMenu& menu, const forms_layer::menu& shown) {
 forms_layer::menu_item* item_of(const QMenu& menu, const forms_layer::menu& shown,
                                 QAction* picked) {
   const qsizetype index = menu.actions().indexOf(picked);
-  return index < 0 ? nullptr : shown.items[static_cast<std::size_t>(index)];
+  const bool is_item = index >= 0 && index < static_cast<qsizetype>(shown.items.size());
+  return is_item ? shown.items[static_cast<std::size_t>(index)] : nullptr;
 }
 
 }  // namespace desktop

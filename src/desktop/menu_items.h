@@ -14,7 +14,7 @@ QString with_shortcut(const std::string& caption, QString& taken);
 // Adds an action for each item of `shown`, in the same order and with the same name.
 void add_items(QMenu& menu, const forms_layer::menu& shown);
 
-// The item of an action that was picked; null if `picked` is null.
+// The item of an action that was picked; null if `picked` is null or belongs to the screen.
 forms_layer::menu_item* item_of(const QMenu& menu, const forms_layer::menu& shown, QAction* picked);
 
 }  // namespace desktop

@@ -1,9 +1,12 @@
 #include "desktop/multiline_text_view.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextBlock>
+#include <memory>
 
 #include "desktop/screen_text.h"
 #include "forms_layer/user.h"
@@ -96,9 +99,23 @@ void multiline_text_view::resizeEvent(QResizeEvent* event) {
   count_lines();
 }
 
+void multiline_text_view::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+  menu->setFont(font_for({}));
+  menu->addSeparator();
+  QAction* fixed = menu->addAction(QStringLiteral("&Fixed-pitch font"));
+  fixed->setCheckable(true);
+  fixed->setChecked(has_fixed_pitch_);
+  if (menu->exec(event->globalPos()) != fixed) return;
+  has_fixed_pitch_ = fixed->isChecked();
+  forms_layer::font_design chosen = shown_.designed.font;
+  if (has_fixed_pitch_) chosen.name = "Courier New";
+  setFont(font_for(chosen));
+}
+
 // With an empty clipboard Qt passes on a source without content, and then uses it.
 bool multiline_text_view::canInsertFromMimeData(const QMimeData* source) const {
-  return source != nullptr && source->hasText();
+  return source != nullptr && source->hasText() && !source->hasUrls();
 }
 
 void multiline_text_view::insertFromMimeData(const QMimeData* source) {

@@ -13,6 +13,34 @@ namespace {
 
 using forms_layer::picture_box;
 
+backdrop behind = backdrop::designed;
+
+QBrush chequered() {
+  constexpr int side = 8;
+  QPixmap tile(2 * side, 2 * side);
+  tile.fill(QColor(204, 204, 204));
+  QPainter painter(&tile);
+  painter.fillRect(0, 0, side, side, QColor(153, 153, 153));
+  painter.fillRect(side, side, side, side, QColor(153, 153, 153));
+  return tile;
+}
+
+QBrush backdrop_of(const QColor& designed) {
+  switch (behind) {
+    case backdrop::designed:
+      return designed;
+    case backdrop::chequered:
+      return chequered();
+    case backdrop::black:
+      return QColor(Qt::black);
+    case backdrop::white:
+      return QColor(Qt::white);
+    case backdrop::magenta:
+      return QColor(Qt::magenta);
+  }
+  return designed;
+}
+
 // Filling takes less time than qDrawPlainRect.
 void paint_border(QPainter& painter, const QRect& rect, const QColor& colour) {
   painter.fillRect(QRect(rect.topLeft(), QSize(rect.width(), 1)), colour);
@@ -40,15 +68,22 @@ QImage converted(const picture_box& box, const QRect& part, QRgb unset) {
 
 }  // namespace
 
+void set_backdrop(backdrop chosen) { behind = chosen; }
+
+backdrop chosen_backdrop() { return behind; }
+
 void paint_picture(QPainter& painter, const picture_box& box, const QRect& rect,
                    const QRect& dirty) {
-  const QColor background = on_screen(box.BackColor());
+  const QColor designed = on_screen(box.BackColor());
+  // A swatch of a palette has no pixels.
+  const QBrush background = box.pixels() == nullptr ? designed : backdrop_of(designed);
   const QRect inner = rect.adjusted(1, 1, -1, -1);
   if (!inner.contains(dirty)) {
     const QPalette theme = QApplication::palette();
     paint_border(painter, rect,
                  mix(theme.color(QPalette::WindowText), theme.color(QPalette::Window)));
   }
+  painter.setBrushOrigin(inner.topLeft());
   painter.fillRect(inner & dirty, background);
   if (*box.designed.picture != '\0') {
     // Qt caches the pictures of files.
@@ -59,8 +94,8 @@ void paint_picture(QPainter& painter, const picture_box& box, const QRect& rect,
   const QRect drawn(inner.topLeft(), QSize(box.columns(), box.rows()));
   const QRect part = drawn & inner & dirty;
   if (part.isEmpty()) return;
-  painter.drawImage(part.topLeft(),
-                    converted(box, part.translated(-inner.topLeft()), background.rgb()));
+  const QRgb unset = background.style() == Qt::SolidPattern ? background.color().rgb() : 0;
+  painter.drawImage(part.topLeft(), converted(box, part.translated(-inner.topLeft()), unset));
 }
 
 QImage image_of(const picture_box& box) {

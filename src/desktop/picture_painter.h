@@ -7,8 +7,14 @@
 
 namespace desktop {
 
-// Paints the part of a picture box inside `dirty`: border, pixels, and BackColor for unset pixels.
-// `rect` is that of the box. On a scaled screen pixels are sharp squares.
+// What unset pixels of a picture show, for this run.
+enum class backdrop { designed, chequered, black, white, magenta };
+void set_backdrop(backdrop chosen);
+backdrop chosen_backdrop();
+
+// Paints the part of a picture box inside `dirty`: border, pixels, and the backdrop for unset
+// pixels, by design BackColor. `rect` is that of the box. On a scaled screen pixels are sharp
+// squares.
 void paint_picture(QPainter& painter, const forms_layer::picture_box& box, const QRect& rect,
                    const QRect& dirty);
 

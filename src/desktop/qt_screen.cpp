@@ -7,9 +7,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 #include "desktop/dialogs.h"
 #include "desktop/picture_painter.h"
+#include "desktop/view_actions.h"
 #include "forms_layer/events.h"
 #include "forms_layer/user.h"
 
@@ -74,13 +76,32 @@ void qt_screen::message_box(const std::string& title, const std::string& text) {
 forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
-  return desktop::pick_item(opened, at, filter_.key_was_latest(), window_of(opened.owner));
+  form_window* owner = window_of(opened.owner);
+  return desktop::pick_item(opened, at, filter_.key_was_latest(), owner, [&](QMenu& menu) {
+    if (owner != nullptr) add_view_items(*owner, opened, menu);
+  });
 }
 
 forms_layer::save_answer qt_screen::ask_save_path(const forms_layer::save_question& question) {
   sync();
   windows_.store_focus();
   return desktop::ask_save_path(question, windows_.dialog_owner());
+}
+
+std::filesystem::path qt_screen::ask_folder(const std::string& title) {
+  sync();
+  windows_.store_focus();
+  return desktop::ask_folder(title, windows_.dialog_owner());
+}
+
+void qt_screen::drag_files(const std::vector<std::filesystem::path>& names,
+                           const file_writer& write) {
+  sync();
+  form_window* from = windows_.topmost();
+  if (from == nullptr) return;
+  if (auto folder = desktop::drag_files(names, write, *from)) {
+    dragged_out_.push_back(std::move(folder));
+  }
 }
 
 void qt_screen::copy_picture(const forms_layer::picture_box& shown) {

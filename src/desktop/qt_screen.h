@@ -2,7 +2,10 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
+#include <vector>
 
+#include "desktop/file_drag.h"
 #include "desktop/held_keys.h"
 #include "desktop/input_filter.h"
 #include "desktop/views.h"
@@ -29,6 +32,9 @@ class qt_screen : public forms_layer::screen {
   forms_layer::menu_item* pick_item(forms_layer::context_menu& opened,
                                     forms_layer::screen_point at) override;
   forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override;
+  std::filesystem::path ask_folder(const std::string& title) override;
+  void drag_files(const std::vector<std::filesystem::path>& names,
+                  const file_writer& write) override;
   void copy_picture(const forms_layer::picture_box& shown) override;
   void end_process() override;
 
@@ -47,6 +53,7 @@ class qt_screen : public forms_layer::screen {
   input_filter filter_;
   held_keys held_keys_;
   views views_;
+  std::vector<std::unique_ptr<QTemporaryDir>> dragged_out_;  // folders of files for other programs
   window_stack windows_{views_};
 };
 

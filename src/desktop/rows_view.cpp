@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -49,7 +51,7 @@ rows_view::rows_view(forms_layer::row_list& shown, QWidget* parent)
   setIconSize(QSize(icon_side, icon_side));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
-  setSelectionMode(SingleSelection);
+  setSelectionMode(shown.designed.multi_select ? ExtendedSelection : SingleSelection);
   setHorizontalScrollMode(ScrollPerPixel);
 }
 
@@ -61,13 +63,52 @@ void rows_view::show_content() {
 }
 
 void rows_view::show_selection() {
+  if (!shown_.SelectedRows().empty()) return show_selected_rows();
   const int row = shown_.ListIndex();
   if (row < 0 || row >= model_.rowCount({})) {
     clearSelection();
     setCurrentIndex({});
-  } else if (row != currentIndex().row() || !selectionModel()->hasSelection()) {
+  } else if (row != currentIndex().row() || selectionModel()->selectedIndexes().size() != 1) {
     setCurrentIndex(model_.index(row));
   }
+}
+
+void rows_view::show_selected_rows() {
+  QItemSelection rows;
+  for (const std::int32_t row : shown_.SelectedRows()) {
+    rows.append(QItemSelectionRange(model_.index(row)));
+  }
+  selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+}
+
+// The list always has its row selected, and others beside it.
+void rows_view::report_selection() {
+  std::vector<std::int32_t> rows;
+  for (const QModelIndex& index : selectionModel()->selectedIndexes()) rows.push_back(index.row());
+  std::sort(rows.begin(), rows.end());
+  forms_layer::user::select_rows(shown_, rows);
+  if (!forms_layer::handler_running()) show_selection();
+}
+
+// Ctrl or Shift with the mouse, or with a key that moves the cursor or selects.
+bool rows_view::extends_selection(const QInputEvent& event) const {
+  const bool has_modifier = (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0;
+  if (selectionMode() != ExtendedSelection || !has_modifier) return false;
+  if (event.type() != QEvent::KeyPress) return event.isPointerEvent();
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  const bool is_page = key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+  const bool with_ctrl = (event.modifiers() & Qt::ControlModifier) != 0;
+  return is_cursor_key(key) || is_page || (with_ctrl && (key == Qt::Key_Space || key == Qt::Key_A));
+}
+
+find_bar* rows_view::search() {
+  if (search_ == nullptr && shown_.Find) {
+    search_ = new find_bar(shown_, *this, [this](int row) {
+      choose(row);
+      scrollTo(model_.index(row));
+    });
+  }
+  return search_;
 }
 
 void rows_view::choose(int row) {
@@ -79,13 +120,38 @@ void rows_view::choose(int row) {
 void rows_view::mousePressEvent(QMouseEvent* event) {
   const QModelIndex pressed = indexAt(event->position().toPoint());
   pressed_row_ = pressed.row();
+  pressed_at_ = event->position().toPoint();
+  chooses_on_release_ = false;
   if (event->button() != Qt::LeftButton || !pressed.isValid()) return;
+  if (extends_selection(*event)) {
+    QListView::mousePressEvent(event);
+    report_selection();
+    return;
+  }
+  const std::vector<std::int32_t>& several = shown_.SelectedRows();
+  chooses_on_release_ =
+      several.size() > 1 && std::binary_search(several.begin(), several.end(), pressed.row());
+  if (chooses_on_release_) return;
   setCurrentIndex(pressed);
   choose(pressed.row());
 }
 
-// A drag does not select.
-void rows_view::mouseMoveEvent(QMouseEvent* /*event*/) {}
+void rows_view::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  if (!std::exchange(chooses_on_release_, false) || pressed_row_ < 0) return;
+  setCurrentIndex(model_.index(pressed_row_));
+  choose(pressed_row_);
+}
+
+// A drag does not select. It takes the rows to another program.
+void rows_view::mouseMoveEvent(QMouseEvent* event) {
+  const int distance = (event->position().toPoint() - pressed_at_).manhattanLength();
+  const bool drags = (event->buttons() & Qt::LeftButton) != 0 && shown_.Drag && pressed_row_ >= 0 &&
+                     distance >= QApplication::startDragDistance();
+  if (!drags) return;
+  chooses_on_release_ = false;
+  forms_layer::user::drag_rows(shown_, std::exchange(pressed_row_, -1));
+}
 
 void rows_view::row_double_clicked(int row) { forms_layer::user::double_click(shown_, row); }
 
@@ -106,6 +172,7 @@ void rows_view::keyPressEvent(QKeyEvent* event) {
   const int before = currentIndex().row();
   key_time_ = event->timestamp();
   QListView::keyPressEvent(event);
+  if (extends_selection(*event)) return report_selection();
   const int now = currentIndex().row();
   if (now >= 0 && now != before) choose(now);
 }
@@ -137,14 +204,33 @@ void rows_view::contextMenuEvent(QContextMenuEvent* event) {
                                as_screen_point(by_key ? middle : event->globalPos()));
 }
 
-// Qt would show the tool tips of rows, which have none, instead of that of the list.
+// The tool tip of the list, then that of the row. Qt would show only that of the row.
 bool rows_view::viewportEvent(QEvent* event) {
-  return event->type() != QEvent::ToolTip && QListView::viewportEvent(event);
+  if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QModelIndex on = indexAt(help->pos());
+  const std::string tip = on.isValid() && shown_.RowToolTip ? shown_.RowToolTip(on.row()) : "";
+  if (tip.empty()) return false;
+  QToolTip::showText(help->globalPos(), as_tool_tip(shown_.ToolTipText() + "\n" + tip), viewport(),
+                     visualRect(on));
+  return true;
 }
 
-// Ctrl with Space or an arrow key would remove the highlight.
+// The list copies its row, which a key of the window must not take.
+bool rows_view::event(QEvent* event) {
+  const bool copies = event->type() == QEvent::ShortcutOverride &&
+                      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy);
+  if (copies) event->accept();
+  return copies || QListView::event(event);
+}
+
+// In a list of single rows Ctrl with Space or an arrow key would remove the highlight.
 QItemSelectionModel::SelectionFlags rows_view::selectionCommand(const QModelIndex& index,
-                                                                const QEvent* /*event*/) const {
+                                                                const QEvent* event) const {
+  const bool is_input = event != nullptr && event->isInputEvent();
+  if (is_input && extends_selection(*static_cast<const QInputEvent*>(event))) {
+    return QListView::selectionCommand(index, event);
+  }
   return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 

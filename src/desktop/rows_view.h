@@ -4,6 +4,7 @@
 #include <QListView>
 
 #include "desktop/control_view.h"
+#include "desktop/find_bar.h"
 #include "forms_layer/row_list.h"
 
 namespace desktop {
@@ -20,6 +21,11 @@ class rows_view : public view_of<QListView, forms_layer::row_list> {
   virtual int indent(int /*row*/) const { return 0; }
   QSize row_size() const { return row_size_; }
 
+  // Made when it is used first; null if the list cannot be searched.
+  find_bar* search();
+  // Returns false if the search was not open.
+  bool close_search() { return search_ != nullptr && search_->close_bar(); }
+
  protected:
   virtual void row_double_clicked(int row);
   virtual void enter_pressed(int /*row*/) {}
@@ -29,10 +35,12 @@ class rows_view : public view_of<QListView, forms_layer::row_list> {
 
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyboardSearch(const QString& letters) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
@@ -51,11 +59,17 @@ class rows_view : public view_of<QListView, forms_layer::row_list> {
   };
 
   void choose(int row);
+  bool extends_selection(const QInputEvent& event) const;
+  void report_selection();
+  void show_selected_rows();
   QSize needed_size() const;
 
   rows_model model_;
   QSize row_size_;
   int pressed_row_ = -1;
+  QPoint pressed_at_;
+  bool chooses_on_release_ = false;  // as the press may begin a drag of several rows
+  find_bar* search_ = nullptr;
   QString word_;             // typed by the latest letters
   quint64 key_time_ = 0;     // of the latest press of a key
   quint64 letter_time_ = 0;  // of the latest letter

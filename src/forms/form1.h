@@ -21,6 +21,7 @@ struct form1 : forms_layer::form {
        .tab_index = 0,
        .tool_tip = "Doubleclick on a s16-file to display the pictures in it.",
        .back_color = pale_green,
+       .multi_select = true,
        .spoken_name = "Entries"}};
   forms_layer::text_box Text1{*this,
                               {.name = "Text1",
@@ -152,6 +153,8 @@ struct form1 : forms_layer::form {
   forms_layer::context_menu mnu_entry{*this, "mnu_entry"};
   forms_layer::menu_item mnu_extract_entry{mnu_entry, "mnu_extract_entry",
                                            "Extract this entry\x85"};
+  forms_layer::menu_item mnu_extract_entries{mnu_entry, "mnu_extract_entries", ""};
+  forms_layer::menu_item mnu_export_entries{mnu_entry, "mnu_export_entries", ""};
 };
 
 extern form1 Form1;

@@ -18,6 +18,8 @@ class button : public captioned {
  public:
   button(container& parent_container, const design& as_designed)
       : captioned(parent_container, control_kind::button, as_designed) {}
+
+  event ShiftClick;  // with the Shift key; null: the same as Click
 };
 
 // Text that wraps at its width. CR and CR LF both start a new line.

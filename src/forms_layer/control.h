@@ -54,7 +54,8 @@ struct design {
   bool locked = false;
   bool centred = false;
   bool multi_line = false;
-  int max_length = 0;  // characters; 0 means no limit
+  bool multi_select = false;  // of a list: Ctrl and Shift select more rows
+  int max_length = 0;         // characters; 0 means no limit
   std::string pattern = "*";
   bool cancel = false;           // of a button or a label: Escape clicks it
   std::string spoken_name = {};  // for screen readers, if the kind of the control is not enough

@@ -20,6 +20,8 @@ class dir_list : public path_control {
   void Refresh() override;
 
   event Change;
+  // Raised by Enter on the open folder. Returns false if it does nothing there.
+  std::function<bool()> Confirm;
 
   // The row of `Path`. The rows before it are its ancestors.
   std::int32_t open_row() const { return open_row_; }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "forms_layer/container.h"
 #include "forms_layer/control.h"
+#include "forms_layer/key.h"
 #include "forms_layer/menu.h"
 
 namespace forms_layer {
@@ -48,6 +51,9 @@ class form : public container {
   event Load;
   event Unload;
   event Resize;
+  // True if the form takes this file or folder of the system when the user drops it. Null: none.
+  std::function<bool(const std::filesystem::path& dragged)> TakesDrop;
+  std::function<void(const std::filesystem::path& dropped)> Drop;
 
   // Lets the screen repaint what changed in the form and its controls.
   void Refresh();
@@ -56,6 +62,7 @@ class form : public container {
 
   std::vector<menu*> menus;
   std::vector<timer*> timers;
+  std::vector<key> keys;
 
   form& containing_form() override { return *this; }
 

@@ -23,6 +23,7 @@ class list_box : public row_list {
   void Clear() {
     rows_.clear();
     ListIndex = -1;
+    SelectedRows = {};
     notify_screen(property_id::items);
   }
 

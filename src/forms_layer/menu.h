@@ -22,7 +22,7 @@ class menu_item {
 
   form& owner;
   const char* const name;
-  const std::string Caption;
+  std::string Caption;  // Popup may change that of a context menu
   property<bool, property_id::menu, menu_item> Enabled;
 
   event Click;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,9 +16,19 @@ class row_list : public control {
   // The selected row, -1 for none.
   property<std::int32_t, property_id::selection, control> ListIndex{*this, -1};
 
+  // The rows that the user selected with Ctrl or Shift, sorted; empty if ListIndex alone is
+  // selected. No row was clicked for it, and ListIndex stays.
+  property<std::vector<std::int32_t>, property_id::selection, control> SelectedRows{*this, {}};
+
   event Click;
   event DblClick;
   context_menu* ContextMenu = nullptr;  // of its rows
+  // The rows that a text finds, ascending.
+  std::function<std::vector<std::int32_t>(const std::string& text)> Find;
+  // A tool tip of a row, shown below that of the list.
+  std::function<std::string(std::int32_t row)> RowToolTip;
+  // Raised with the rows that the user drags out.
+  std::function<void(const std::vector<std::int32_t>& rows)> Drag;
 
   std::int32_t ListCount() const { return static_cast<std::int32_t>(rows_.size()); }
 

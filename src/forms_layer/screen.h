@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -66,6 +67,15 @@ class screen {
 
   // Shows the system's dialog for a file to save to. It asks before it returns an existing file.
   virtual save_answer ask_save_path(const save_question&) { return {}; }
+
+  // Shows the system's dialog for a folder. Empty if the user gave none.
+  virtual std::filesystem::path ask_folder(const std::string& /*title*/) { return {}; }
+
+  // Lets the user drag files of these names out of the window. `write` writes them into a folder;
+  // it is called when they are dropped.
+  virtual void drag_files(
+      const std::vector<std::filesystem::path>& /*names*/,
+      const std::function<void(const std::filesystem::path& folder)>& /*write*/) {}
 
   // Puts the pixels of a picture on the clipboard; unset ones are transparent.
   virtual void copy_picture(const picture_box&) {}

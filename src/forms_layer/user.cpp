@@ -45,6 +45,13 @@ void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
   if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
+void pick_at_once(context_menu* opened, std::int32_t index, const menu_item& item) {
+  if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
+  const bool offers =
+      std::find(opened->items.begin(), opened->items.end(), &item) != opened->items.end();
+  if (offers && item.Enabled()) raise(item.Click);
+}
+
 bool takes_row(row_list& list, std::int32_t row) {
   return list.takes_input() && row >= 0 && row < list.ListCount();
 }
@@ -66,6 +73,15 @@ void click(captioned& pressed) {
     if (!pressed.takes_input()) return;
     if (pressed.kind == control_kind::button) move_focus(&pressed);
     raise(pressed.Click);
+  });
+}
+
+void shift_click(button& pressed) {
+  if (!pressed.ShiftClick) return click(pressed);
+  run_event([&pressed] {
+    if (!pressed.takes_input()) return;
+    move_focus(&pressed);
+    raise(pressed.ShiftClick);
   });
 }
 
@@ -91,8 +107,25 @@ void select_row(row_list& list, std::int32_t row) {
   run_event([&list, row] {
     if (!takes_row(list, row)) return;
     move_focus(&list);
+    list.SelectedRows = {};
     list.ListIndex = row;
     raise(list.Click);
+  });
+}
+
+void select_rows(row_list& list, const std::vector<std::int32_t>& rows) {
+  run_event([&list, rows] {
+    if (!list.designed.multi_select || rows.empty() || !takes_row(list, rows.front())) return;
+    if (takes_row(list, rows.back())) list.SelectedRows = rows;
+  });
+}
+
+void drag_rows(row_list& list, std::int32_t row) {
+  run_event([&list, row] {
+    if (!takes_row(list, row) || !list.Drag) return;
+    const std::vector<std::int32_t>& all = list.SelectedRows();
+    const bool is_selected = std::find(all.begin(), all.end(), row) != all.end();
+    list.Drag(is_selected ? all : std::vector<std::int32_t>{row});
   });
 }
 
@@ -111,6 +144,24 @@ void open_menu(row_list& list, std::int32_t row, screen_point at) {
 void open_menu(picture_array& array, std::int32_t index, screen_point at) {
   run_event([&array, index, at] {
     if (array(index).takes_input()) pick_and_click(array.ContextMenu, index, at);
+  });
+}
+
+void pick(picture_array& array, std::int32_t index, const menu_item& item) {
+  run_event([&array, index, &item] {
+    if (array(index).takes_input()) pick_at_once(array.ContextMenu, index, item);
+  });
+}
+
+void press(form& window, const key& pressed) {
+  run_event([&window, &pressed] {
+    if (window.Visible() && window.Enabled()) raise(pressed.Pressed);
+  });
+}
+
+void drop(form& window, const std::filesystem::path& dropped) {
+  run_event([&window, dropped] {
+    if (window.Visible() && window.Enabled() && window.Drop) window.Drop(dropped);
   });
 }
 
@@ -140,6 +191,13 @@ void open_folder(dir_list& folders, std::int32_t row) {
     } else {
       folders.Path = folders.path_of(row);
     }
+  });
+}
+
+void confirm_folder(dir_list& folders, std::int32_t row) {
+  run_event([&folders, row] {
+    const bool is_open = takes_row(folders, row) && row == folders.open_row();
+    if (!is_open || !folders.Confirm || !folders.Confirm()) open_folder(folders, row);
   });
 }
 

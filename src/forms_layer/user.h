@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "forms_layer/controls.h"
 #include "forms_layer/screen.h"
@@ -12,6 +14,7 @@ namespace forms_layer::user {
 
 // A mouse click or its keyboard equivalent.
 void click(captioned& pressed);
+void shift_click(button& pressed);
 void click(menu_item& picked);
 
 // Escape: clicks the control of the form whose design says `cancel`, if there is one.
@@ -22,6 +25,10 @@ void double_click(picture_array& array, std::int32_t index);
 
 // A click on a row, even if it is selected, or its selection by keyboard.
 void select_row(row_list& list, std::int32_t row);
+// Selects these rows with Ctrl or Shift, ascending. None is shown.
+void select_rows(row_list& list, const std::vector<std::int32_t>& rows);
+// Drags the selected rows out of the window if `row` is one of them, else this row.
+void drag_rows(row_list& list, std::int32_t row);
 // The second click of a double click; call `select_row` for the first one.
 void double_click(row_list& list, std::int32_t row);
 
@@ -29,6 +36,15 @@ void double_click(row_list& list, std::int32_t row);
 // menu at a point of the screen, and clicks the item that the user picks.
 void open_menu(row_list& list, std::int32_t row, screen_point at = {});
 void open_menu(picture_array& array, std::int32_t index, screen_point at = {});
+
+// Opens the menu of an element, and picks an item at once. Ignored if it is disabled.
+void pick(picture_array& array, std::int32_t index, const menu_item& item);
+
+// A key of the window.
+void press(form& window, const key& pressed);
+
+// Drops a file or a folder of the system on a window.
+void drop(form& window, const std::filesystem::path& dropped);
 
 // `text` is the whole content after the edit. What the user added beyond `max_length` is cut; a
 // locked field ignores it.
@@ -42,6 +58,8 @@ void clear_focus();
 // A row that does not exist is ignored.
 void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
+// Enter on a folder: opens it, or confirms the open one.
+void confirm_folder(dir_list& folders, std::int32_t row);
 
 // Reloads the lists of drives, folders and files of a form, as `open_folder` of the open folder
 // does.

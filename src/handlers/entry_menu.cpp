@@ -10,6 +10,7 @@
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen.h"
+#include "handlers/several_entries.h"
 #include "state/open_archive.h"
 
 namespace ostrane {
@@ -34,6 +35,11 @@ extraction_result extract_to(const std::filesystem::path& path) {
 
 bool prepare_entry_menu(std::int32_t row) {
   tool_state.menu_target = row;
+  Form1.mnu_entry.items = {&Form1.mnu_extract_entry};
+  if (prepare_several_entries(row)) {
+    Form1.mnu_entry.items = {&Form1.mnu_extract_entries, &Form1.mnu_export_entries};
+    return true;
+  }
   Form1.mnu_extract_entry.Enabled = tool_state.archive_is_open == flag_true;
   return row < tool_state.record_count - 1;
 }
@@ -58,6 +64,16 @@ void extract_one_entry() {
     forms_layer::message_box(failure + " The entry was not extracted.");
   } else if (!result.skipped.empty()) {
     report_skipped(name, result.skipped.front().reason);
+  }
+}
+
+void extract_selection() {
+  const std::int32_t row = Form1.List1.ListIndex();
+  const std::vector<std::int32_t>& several = Form1.List1.SelectedRows();
+  if (!several.empty() && prepare_several_entries(several.front())) {
+    if (Form1.mnu_extract_entries.Enabled()) extract_several_entries();
+  } else if (row >= 0 && prepare_entry_menu(row) && Form1.mnu_extract_entry.Enabled()) {
+    extract_one_entry();
   }
 }
 

@@ -6,8 +6,6 @@
 #include <vector>
 
 #include "archive/skipped_files.h"
-#include "data/entry_file_name.h"
-#include "data/entry_range.h"
 #include "files/code_page.h"
 #include "files/paths.h"
 #include "files/system_name.h"
@@ -15,6 +13,7 @@
 #include "forms/form1.h"
 #include "forms_layer/message_box.h"
 #include "forms_layer/screen.h"
+#include "handlers/export_entry.h"
 #include "icons/motion.h"
 #include "state/open_archive.h"
 
@@ -23,12 +22,6 @@ namespace ostrane {
 namespace {
 
 constexpr std::size_t kind_of_pngs = 1;  // index of a file_kind
-
-// The beginning of the proposed file name. It must not lead to another folder.
-std::string proposed_stem() {
-  const std::string name = entry_name(tool_state.directory_index);
-  return unsafe_name_reason(name).empty() ? stem_of_entry(name) : "picture";
-}
 
 std::size_t icon_number_of(std::int32_t slot) {
   return static_cast<std::size_t>(tool_state.series_first_icon) + static_cast<std::size_t>(slot) -
@@ -67,18 +60,6 @@ bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
   return true;
 }
 
-void export_from_archive(icon_export& wanted) {
-  const entry_range entry = range_of(index_records(), tool_state.directory_index);
-  wanted.start = entry.start;
-  wanted.end = entry.end;
-  for (std::size_t i = 0; i < wanted.colours.size(); ++i) {
-    const forms_layer::colour shown = tool_state.colour_table[i];
-    wanted.colours[i] = forms_layer::red_of(shown) << 16U | forms_layer::green_of(shown) << 8U |
-                        forms_layer::blue_of(shown);
-  }
-  tool_state.export_icons(tool_state.archive_file, wanted);
-}
-
 void save(icon_export wanted, const forms_layer::save_answer& answer, const std::string& what) {
   constexpr std::int32_t milliseconds_per_hundredth = 10;
   const std::string not_saved = " The " + what + " was not saved.";
@@ -95,7 +76,8 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
   wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
   files::clear_leftovers(answer.path.parent_path());
-  const std::string failure = read_open_archive([&wanted] { export_from_archive(wanted); });
+  const std::string failure =
+      read_open_archive([&wanted] { export_entry(wanted, tool_state.directory_index); });
   if (!failure.empty()) {
     forms_layer::message_box(failure + not_saved);
   } else if (!skipped.empty()) {
@@ -121,8 +103,8 @@ void copy_picture() {
 
 void save_picture() {
   const std::size_t number = icon_number_of(tool_state.menu_target);
-  const std::string name =
-      files::from_utf8_lossy(png_name(files::to_utf8(proposed_stem()), number));
+  const std::string name = files::from_utf8_lossy(
+      png_name(files::to_utf8(proposed_stem(tool_state.directory_index)), number));
   const forms_layer::save_answer answer =
       forms_layer::the_screen().ask_save_path({.title = "Save picture",
                                                .stem = name.substr(0, name.rfind('.')),
@@ -134,7 +116,7 @@ void save_series() {
   const std::size_t first = icon_number_of(1);
   const forms_layer::save_answer answer = forms_layer::the_screen().ask_save_path(
       {.title = "Save series",
-       .stem = proposed_stem(),
+       .stem = proposed_stem(tool_state.directory_index),
        .kinds = {{"One PNG with all icons", "-sheet.png"},
                  {"One PNG per icon", files::as_bytes(png_name(u8"", first))},
                  {"Motion", ".gif"}}});

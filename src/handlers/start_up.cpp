@@ -4,13 +4,15 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
+#include "handlers/open_path.h"
 #include "handlers/window_switching.h"
 #include "handlers/wiring.h"
 #include "state/tool_state.h"
 
 namespace ostrane {
 
-void start_tool(const std::filesystem::path& program_folder, icon_exporter exporter) {
+void start_tool(const std::filesystem::path& program_folder, icon_exporter exporter,
+                const std::filesystem::path& opened) {
   files::ignore_size_limit_signal();
   forms_layer::begin_process();
   forms_layer::application.Title = "Ostrane.dat-tool";
@@ -24,6 +26,7 @@ void start_tool(const std::filesystem::path& program_folder, icon_exporter expor
     Form1.Load();
     Form1.Visible = true;
   });
+  if (!opened.empty()) forms_layer::run_event([&opened] { open_path(opened); });
 }
 
 }  // namespace ostrane

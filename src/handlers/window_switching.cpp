@@ -1,6 +1,11 @@
 #include "handlers/window_switching.h"
 
+#include <string>
+#include <utility>
+
 #include "archive/index_reader.h"
+#include "files/failure.h"
+#include "files/file_system.h"
 #include "files/paths.h"
 #include "forms/forms.h"
 #include "progress/progress.h"
@@ -8,7 +13,20 @@
 
 namespace ostrane {
 
+namespace {
+
+void start_at_archive() {
+  const std::string current = files::current_folder();
+  const bool is_first_folder = Form2.Dir1.Path() == "C:\\";
+  if (!is_first_folder || !files::file_exists(files::with_separator(current) + "ostrane.dat"))
+    return;
+  files::ignore_failure([&current] { Form2.Dir1.Path = current; });
+}
+
+}  // namespace
+
 void open_form2() {
+  if (!std::exchange(tool_state.form2_was_opened, true)) start_at_archive();
   Form1.Enabled = false;
   Form2.Visible = true;
 }
@@ -52,6 +70,12 @@ void read_archive_of_form2() {
   read_archive(Form2.File1.Path());
   Form1.Enabled = true;
   Form2.Visible = false;
+}
+
+bool read_listed_archive() {
+  if (Form2.File1.ListCount() == 0) return false;
+  read_archive_of_form2();
+  return true;
 }
 
 }  // namespace ostrane

@@ -5,7 +5,8 @@
 namespace ostrane {
 
 // Open a dialog from `Form1`. `Form2` and `Form6` overlay `Form1`, which stays visible but
-// disabled; `Form4` and `Form5` replace it. open_form6 sets the pattern of its file list to text
+// disabled; `Form4` and `Form5` replace it. The first time `Form2` shows the current folder of the
+// process if that holds an archive. open_form6 sets the pattern of its file list to text
 // files.
 void open_form2();
 void open_form4();
@@ -23,5 +24,7 @@ void restore_windows();
 // Reads the archive in the folder that `Form2` shows, then hides `Form2` and enables `Form1`, also
 // if there is no archive.
 void read_archive_of_form2();
+// The same if `Form2` lists an archive. Returns false if not.
+bool read_listed_archive();
 
 }  // namespace ostrane

@@ -5,10 +5,14 @@
 #include "archive/new_folder.h"
 #include "forms/forms.h"
 #include "forms_layer/application.h"
+#include "handlers/entry_details.h"
 #include "handlers/entry_menu.h"
 #include "handlers/entry_selection.h"
+#include "handlers/keys.h"
 #include "handlers/main_window.h"
+#include "handlers/open_path.h"
 #include "handlers/picture_menu.h"
+#include "handlers/several_entries.h"
 #include "handlers/sync_to_drive.h"
 #include "handlers/window_switching.h"
 #include "icons/icon_report.h"
@@ -39,6 +43,12 @@ void wire_form1() {
   Form1.Command3.Click = show_previous_icon;
   Form1.Command4.Click = show_next_icon;
   Form1.Command5.Click = start_motion;
+  Form1.Command5.ShiftClick = loop_motion;
+  Form1.List1.Find = rows_with;
+  Form1.List1.RowToolTip = entry_tool_tip;
+  Form1.List1.Drag = drag_entries;
+  Form1.TakesDrop = is_archive_path;
+  Form1.Drop = open_path;
   Form1.Command6.Click = show_next_series;
   Form1.Timer1.Timer = step_motion;
   Form1.s16_image.DblClick = show_icon_report;
@@ -54,11 +64,14 @@ void wire_context_menus() {
   Form1.List1.ContextMenu = &Form1.mnu_entry;
   Form1.mnu_entry.Popup = prepare_entry_menu;
   Form1.mnu_extract_entry.Click = extract_one_entry;
+  Form1.mnu_extract_entries.Click = extract_several_entries;
+  Form1.mnu_export_entries.Click = export_several_entries;
 }
 
 void wire_form2() {
   Form2.Drive1.Change = [] { sync_to_drive(Form2.Drive1, Form2.Dir1); };
   Form2.Dir1.Change = [] { Form2.File1.Path = Form2.Dir1.Path(); };
+  Form2.Dir1.Confirm = read_listed_archive;
   Form2.Command1.Click = read_archive_of_form2;
   Form2.Command2.Click = [] { cancel_overlay(Form2); };
 }
@@ -105,6 +118,7 @@ void wire_forms() {
   wire_form4();
   wire_form5();
   wire_form6();
+  wire_keys();
 }
 
 }  // namespace ostrane

@@ -37,6 +37,12 @@ void switch_to_slot(std::int16_t slot) {
   Form1.Text3.Text = std::to_string(tool_state.series_first_icon - 1 + slot);
 }
 
+void end_motion() {
+  Form1.Timer1.Enabled = false;
+  tool_state.motion_loops = flag_false;
+  enable_stepping(true);
+}
+
 }  // namespace
 
 std::int32_t motion_interval() {
@@ -47,6 +53,7 @@ std::int32_t motion_interval() {
 }
 
 void start_motion() {
+  tool_state.motion_loops = flag_false;
   enable_stepping(false);
   tool_state.browse_ready = flag_true;
   Form1.Timer1.Interval = motion_interval();
@@ -59,11 +66,19 @@ void start_motion() {
   Form1.Timer1.Enabled = true;
 }
 
+void loop_motion() {
+  if (tool_state.motion_loops == flag_true && Form1.Timer1.Enabled()) return end_motion();
+  start_motion();
+  tool_state.motion_loops = flag_true;
+}
+
 void step_motion() {
   if (tool_state.loop_counter == tool_state.motion_last_slot) {
-    Form1.Timer1.Enabled = false;
-    enable_stepping(true);
-    return;
+    const bool begins_again =
+        tool_state.motion_loops == flag_true && tool_state.motion_last_slot > 0;
+    if (!begins_again) return end_motion();
+    Form1.s16_image(tool_state.loop_counter).Visible = false;
+    tool_state.loop_counter = 0;
   }
   // At the first step the slot before is element 0, which is never shown.
   ++tool_state.loop_counter;

@@ -11,6 +11,9 @@ std::int32_t motion_interval();
 // Moves the slots of the series to one position, hides them and starts `Timer1` at that interval.
 void start_motion();
 
+// The same, and after the last slot begins again. While such a motion runs, stops it.
+void loop_motion();
+
 // Tick of `Timer1`: shows the next slot of the stack; after the last one stops the timer.
 void step_motion();
 

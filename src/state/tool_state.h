@@ -74,6 +74,7 @@ struct tool_state_record {
 
   icon_exporter export_icons = nullptr;  // null if the program was built without it
   std::int32_t menu_target = 0;          // row of List1 or slot on which a context menu was opened
+  std::vector<std::int32_t> menu_rows;   // the entries of a context menu for several, ascending
 
   std::array<std::int32_t, max_icons_per_file + 1> icon_positions;  // 1-based file positions
   std::int16_t icon_number = 0;                                     // of the current icon, from 1
@@ -85,6 +86,7 @@ struct tool_state_record {
   std::int16_t shown_slot = 0;     // the slot from which Prev and Next step
   std::int16_t loop_counter = 0;   // slot that the motion shows
   std::int16_t motion_last_slot = 0;
+  flag motion_loops = flag_false;  // until it is stopped
 
   std::int32_t next_slot_left = 0;
   std::int32_t next_slot_top = 0;
@@ -103,6 +105,8 @@ struct tool_state_record {
   flag slot_fits = flag_false;  // false after place_icon_slot if the slot does not fit into Frame1
   // A damaged file may hold thousands of bad icons, so a series reports a limited number.
   std::int16_t refusals_reported = 0;
+
+  bool form2_was_opened = false;
 
   std::vector<icon_name_pair> icon_names;  // rows counted from 1
   std::array<icon_data_record, max_slots + 1> slot_data;

@@ -21,18 +21,18 @@ function(expect option wanted)
   endif()
 endfunction()
 
-function(expect_error argument)
+function(expect_error)
   set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL NONE)
   execute_process(COMMAND "${CMAKE_COMMAND}" -E env --unset=DISPLAY QT_QPA_PLATFORM=none
-                          "${FOLDER}/bin/ostrane-dat-tool" ${argument}
+                          "${FOLDER}/bin/ostrane-dat-tool" ${ARGN}
                   RESULT_VARIABLE status ERROR_VARIABLE error)
   if(NOT status EQUAL 2 OR NOT error MATCHES "^ostrane-dat-tool: [^\n]+\n$")
-    message(SEND_ERROR "${argument}: status ${status}, \"${error}\"")
+    message(SEND_ERROR "${ARGN}: status ${status}, \"${error}\"")
   endif()
 endfunction()
 
 expect_error(--nonsense)
-expect_error(ostrane.dat)
+expect_error(one.dat two.dat)
 expect(--version "Ostrane.dat-tool ${VERSION}\n")
 expect(--help "  ${program_folder}/iconlist.csv\n")
 

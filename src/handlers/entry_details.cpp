@@ -1,0 +1,71 @@
+#include "handlers/entry_details.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "data/archive_index.h"
+#include "data/entry_kind.h"
+#include "data/entry_range.h"
+#include "data/number_text.h"
+#include "data/shp_reader.h"
+#include "files/code_page.h"
+#include "files/failure.h"
+#include "files/paths.h"
+#include "files/text.h"
+#include "forms/form1.h"
+#include "state/open_archive.h"
+
+namespace ostrane {
+
+namespace {
+
+// Rows by the key of an entry's name.
+std::unordered_map<std::string, std::size_t> descriptions() {
+  std::unordered_map<std::string, std::size_t> rows;
+  for (std::size_t i = 1; i < tool_state.icon_names.size(); ++i) {
+    rows.emplace(files::compare_key(tool_state.icon_names[i].name), i);
+  }
+  return rows;
+}
+
+std::string icon_count_text(std::int32_t offset) {
+  files::binary_file archive;
+  shp_head head = {};
+  files::ignore_failure([&] {
+    open_unchanged(archive, files::to_file_path(tool_state.archive_path_copy),
+                   tool_state.archive_stamp);
+    read_shp_head(archive, offset, head);
+  });
+  return ", " + counted(std::max(head.icon_count, 0), "icon");
+}
+
+}  // namespace
+
+std::vector<std::int32_t> rows_with(const std::string& text) {
+  std::vector<std::int32_t> found;
+  const std::string wanted = files::upper_case(text);
+  if (wanted.empty()) return found;
+  const auto known = descriptions();
+  for (std::int32_t row = 0; row < Form1.List1.ListCount(); ++row) {
+    const std::string& name = Form1.List1.List(row);
+    std::string searched = name;
+    const auto described = known.find(icon_name_key(name));
+    if (described != known.end()) {
+      searched += '\n' + tool_state.icon_names[described->second].description;
+    }
+    if (files::upper_case(searched).find(wanted) != std::string::npos) found.push_back(row);
+  }
+  return found;
+}
+
+std::string entry_tool_tip(std::int32_t row) {
+  const bool is_entry = row >= 0 && row < tool_state.record_count - 1;
+  if (tool_state.archive_is_open == flag_false || !is_entry) return "";
+  const entry_range range = range_of(index_records(), row);
+  const entry_kind kind = kind_of_entry(Form1.List1.List(row));
+  return entry_name(row) + ": " + counted(size_of(range), "byte") + " at " +
+         std::to_string(range.start) + ", " + text_of(kind) +
+         (kind == entry_kind::icons ? icon_count_text(range.start) : "");
+}
+
+}  // namespace ostrane

@@ -1,0 +1,108 @@
+#include "handlers/several_entries.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "archive/extract_rows.h"
+#include "archive/skipped_files.h"
+#include "data/entry_file_name.h"
+#include "data/entry_kind.h"
+#include "files/code_page.h"
+#include "files/paths.h"
+#include "files/system_name.h"
+#include "files/work_files.h"
+#include "forms/form1.h"
+#include "forms_layer/message_box.h"
+#include "forms_layer/screen.h"
+#include "handlers/export_entry.h"
+#include "state/open_archive.h"
+
+namespace ostrane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::int32_t> without_end_record(std::vector<std::int32_t> rows) {
+  std::erase_if(rows, [](std::int32_t row) { return row >= tool_state.record_count - 1; });
+  return rows;
+}
+
+void report(const std::string& message) {
+  if (!message.empty()) forms_layer::message_box(message);
+}
+
+// Throws data_error and file_error. Appends to `skipped` what is not exported.
+void export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_file>& skipped) {
+  const std::string name = entry_name(row);
+  if (kind_of_entry(name) != entry_kind::icons) {
+    skipped.push_back({name, "it is no icon file"});
+    return;
+  }
+  icon_export wanted = {.entry = name, .stem = files::to_utf8(proposed_stem(row))};
+  wanted.target = [&folder](const std::u8string& file) {
+    return files::from_system_path(folder / file);
+  };
+  wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({name, reason}); };
+  std::error_code failed;
+  if (fs::exists(folder / (wanted.stem + u8".json"), failed)) {
+    skipped.push_back({name, "the folder holds its pictures"});
+    return;
+  }
+  export_entry(wanted, row);
+}
+
+std::string export_rows(const std::vector<std::int32_t>& rows, const fs::path& folder) {
+  std::vector<skipped_file> skipped;
+  files::clear_leftovers(folder);
+  for (const std::int32_t row : rows) {
+    const std::string failure = read_open_archive([&] { export_row(row, folder, skipped); });
+    if (!failure.empty()) skipped.push_back({entry_name(row), failure});
+  }
+  return skipped_files_text(skipped, "The pictures were exported, with these exceptions:");
+}
+
+}  // namespace
+
+bool prepare_several_entries(std::int32_t row) {
+  const std::vector<std::int32_t>& selected = Form1.List1.SelectedRows();
+  tool_state.menu_rows = without_end_record(selected);
+  const bool is_selected = std::find(selected.begin(), selected.end(), row) != selected.end();
+  if (!is_selected || tool_state.menu_rows.size() < 2) return false;
+  const std::string count = std::to_string(tool_state.menu_rows.size());
+  Form1.mnu_extract_entries.Caption = "Extract " + count + " entries\x85";
+  Form1.mnu_export_entries.Caption = "Export " + count + " entries as pictures\x85";
+  const bool is_open = tool_state.archive_is_open == flag_true;
+  Form1.mnu_extract_entries.Enabled = is_open;
+  Form1.mnu_export_entries.Enabled = is_open && tool_state.export_icons != nullptr;
+  return true;
+}
+
+void extract_several_entries() {
+  const fs::path folder = forms_layer::the_screen().ask_folder("Extract the entries into a folder");
+  if (!folder.empty()) report(extract_rows(tool_state.menu_rows, folder));
+}
+
+void export_several_entries() {
+  const fs::path folder = forms_layer::the_screen().ask_folder("Export the pictures into a folder");
+  if (!folder.empty()) report(export_rows(tool_state.menu_rows, folder));
+}
+
+void drag_entries(const std::vector<std::int32_t>& rows) {
+  const std::vector<std::int32_t> dragged = without_end_record(rows);
+  std::vector<fs::path> names;
+  for (const std::int32_t row : dragged) {
+    const std::string name = entry_name(row);
+    if (unsafe_name_reason(name).empty()) names.push_back(files::system_name(name));
+  }
+  if (names.empty() || tool_state.archive_is_open == flag_false) return;
+  std::string message;
+  forms_layer::the_screen().drag_files(names, [&](const fs::path& folder) {
+    if (message.empty()) message = extract_rows(dragged, folder);
+  });
+  report(message);
+}
+
+}  // namespace ostrane

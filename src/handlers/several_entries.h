@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+// What the user does with several entries that are selected in `List1`.
+namespace ostrane {
+
+// Sets the captions of the context menu for the selected rows, which become `menu_rows`, without
+// the end record. Returns false if `row` is not one of several.
+bool prepare_several_entries(std::int32_t row);
+
+// Ask for a folder and write the entries of `menu_rows` there: their files, or a PNG for each icon
+// of the icon files. No file is replaced. Both report what was not written.
+void extract_several_entries();
+void export_several_entries();
+
+// Lets the user drag the entries of these rows to another program, which gets files.
+void drag_entries(const std::vector<std::int32_t>& rows);
+
+}  // namespace ostrane
