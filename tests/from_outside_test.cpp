@@ -9,9 +9,6 @@ using from_outside_test = tool_test;
 // Paths of the system below the root of the drives.
 TEST_F(from_outside_test, OpensAnArchiveOrItsFolder) {
   const std::string archive = archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}});
-  write("C:\\with\\OSTRANE.DAT", archive);
-  write("C:\\with\\other.dat", archive);
-  make_folder("C:\\empty");
   const std::string refused = " is no ostrane.dat, and no folder that holds one.";
   const std::tuple<const char*, std::string, texts> cases[] = {
       {"c/with", "C:\\with", {}},

@@ -2,11 +2,15 @@
 
 #include <QDrag>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
+#include <string>
 #include <utility>
 
 #include "desktop/application_setup.h"
 #include "files/code_page.h"
+#include "forms_layer/events.h"
+#include "forms_layer/message_box.h"
 
 namespace desktop {
 
@@ -28,14 +32,27 @@ bool can_wait_for_release() {
   return platform == QLatin1String("xcb") || platform == QLatin1String("offscreen");
 }
 
+// Writes the files, which is an event of the tool, and then shows its message.
+void write_files(file_drag& drag) {
+  if (drag.is_written || (forms_layer::handler_running() && !drag.is_running)) return;
+  drag.is_written = true;
+  std::string message;
+  const auto write = [&] { message = drag.write(folder_of(drag.folder)); };
+  drag.is_running ? write() : forms_layer::run_event(write);
+  if (message.empty()) return;
+  // The other program waits for the end of this.
+  QTimer::singleShot(0, qApp, [message] {
+    forms_layer::run_event([message] { forms_layer::message_box(message); });
+  });
+}
+
 class dragged_files : public QMimeData {
  public:
-  dragged_files(const std::vector<std::filesystem::path>& names, QTemporaryDir& made,
-                const file_writer& write, bool& written)
-      : made_(made), write_(write), written_(written) {
+  dragged_files(const std::vector<std::filesystem::path>& names, std::shared_ptr<file_drag> drag)
+      : drag_(std::move(drag)) {
     QList<QUrl> urls;
     for (const std::filesystem::path& name : names) {
-      const std::u8string path = (folder_of(made) / name).u8string();
+      const std::u8string path = (folder_of(drag_->folder) / name).u8string();
       urls +=
           QUrl::fromLocalFile(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
     }
@@ -45,28 +62,26 @@ class dragged_files : public QMimeData {
  protected:
   QVariant retrieveData(const QString& format, QMetaType type) const override {
     const bool is_held = can_wait_for_release() && mouse_releases() == releases_before_;
-    if (!is_held && !std::exchange(written_, true)) write_(folder_of(made_));
+    if (!is_held) write_files(*drag_);
     return QMimeData::retrieveData(format, type);
   }
 
  private:
-  QTemporaryDir& made_;
-  const file_writer& write_;
-  bool& written_;
+  std::shared_ptr<file_drag> drag_;
   const unsigned releases_before_ = mouse_releases();
 };
 
 }  // namespace
 
-std::unique_ptr<QTemporaryDir> drag_files(const std::vector<std::filesystem::path>& names,
-                                          const file_writer& write, QWidget& from) {
-  auto made = std::make_unique<QTemporaryDir>();
-  if (!made->isValid()) return nullptr;
-  bool written = false;
+std::shared_ptr<file_drag> drag_files(const std::vector<std::filesystem::path>& names,
+                                      const forms_layer::file_writer& write, QWidget& from) {
+  auto made = std::make_shared<file_drag>();
+  if (!made->folder.isValid()) return made;
+  made->write = write;
   auto* drag = new QDrag(&from);
-  drag->setMimeData(new dragged_files(names, *made, write, written));
-  const bool dropped = drag->exec(Qt::CopyAction) != Qt::IgnoreAction;
-  if (!written || !dropped) made.reset();
+  drag->setMimeData(new dragged_files(names, made));
+  drag->exec(Qt::CopyAction);
+  made->is_running = false;
   return made;
 }
 

@@ -3,18 +3,24 @@
 #include <QTemporaryDir>
 #include <QWidget>
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <vector>
 
+#include "forms_layer/screen.h"
+
 namespace desktop {
 
-using file_writer = std::function<void(const std::filesystem::path& folder)>;
+// A drag of files out of the window. The other program may ask for them after the drag, and copies
+// them from the folder, so this must live on.
+struct file_drag {
+  QTemporaryDir folder;
+  forms_layer::file_writer write;
+  bool is_running = true;
+  bool is_written = false;
+};
 
-// Lets the user drag files of these names out of the window. Returns the folder in which `write`
-// has written them when they were dropped; null if they were not. The other program copies them
-// from there, possibly after the drag.
-std::unique_ptr<QTemporaryDir> drag_files(const std::vector<std::filesystem::path>& names,
-                                          const file_writer& write, QWidget& from);
+// Lets the user drag files of these names.
+std::shared_ptr<file_drag> drag_files(const std::vector<std::filesystem::path>& names,
+                                      const forms_layer::file_writer& write, QWidget& from);
 
 }  // namespace desktop

@@ -95,13 +95,10 @@ std::filesystem::path qt_screen::ask_folder(const std::string& title) {
 }
 
 void qt_screen::drag_files(const std::vector<std::filesystem::path>& names,
-                           const file_writer& write) {
+                           const forms_layer::file_writer& write) {
   sync();
   form_window* from = windows_.topmost();
-  if (from == nullptr) return;
-  if (auto folder = desktop::drag_files(names, write, *from)) {
-    dragged_out_.push_back(std::move(folder));
-  }
+  if (from != nullptr) drags_.push_back(desktop::drag_files(names, write, *from));
 }
 
 void qt_screen::copy_picture(const forms_layer::picture_box& shown) {

@@ -34,7 +34,7 @@ class qt_screen : public forms_layer::screen {
   forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override;
   std::filesystem::path ask_folder(const std::string& title) override;
   void drag_files(const std::vector<std::filesystem::path>& names,
-                  const file_writer& write) override;
+                  const forms_layer::file_writer& write) override;
   void copy_picture(const forms_layer::picture_box& shown) override;
   void end_process() override;
 
@@ -53,7 +53,7 @@ class qt_screen : public forms_layer::screen {
   input_filter filter_;
   held_keys held_keys_;
   views views_;
-  std::vector<std::unique_ptr<QTemporaryDir>> dragged_out_;  // folders of files for other programs
+  std::vector<std::shared_ptr<file_drag>> drags_;
   window_stack windows_{views_};
 };
 

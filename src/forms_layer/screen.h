@@ -41,6 +41,9 @@ struct save_answer {
   std::size_t kind = 0;        // the selected one; the name may have another ending
 };
 
+// Writes files into a folder. Returns a message for the user, or "".
+using file_writer = std::function<std::string(const std::filesystem::path& folder)>;
+
 // Shows the forms to a user. This one shows nothing: it records the messages, picks nothing and
 // gives no path.
 class screen {
@@ -71,11 +74,10 @@ class screen {
   // Shows the system's dialog for a folder. Empty if the user gave none.
   virtual std::filesystem::path ask_folder(const std::string& /*title*/) { return {}; }
 
-  // Lets the user drag files of these names out of the window. `write` writes them into a folder;
-  // it is called when they are dropped.
-  virtual void drag_files(
-      const std::vector<std::filesystem::path>& /*names*/,
-      const std::function<void(const std::filesystem::path& folder)>& /*write*/) {}
+  // Lets the user drag files of these names out of the window. `write` is called when they are
+  // dropped, possibly after the return; the screen then shows its message.
+  virtual void drag_files(const std::vector<std::filesystem::path>& /*names*/,
+                          const file_writer& /*write*/) {}
 
   // Puts the pixels of a picture on the clipboard; unset ones are transparent.
   virtual void copy_picture(const picture_box&) {}

@@ -98,11 +98,8 @@ void drag_entries(const std::vector<std::int32_t>& rows) {
     if (unsafe_name_reason(name).empty()) names.push_back(files::system_name(name));
   }
   if (names.empty() || tool_state.archive_is_open == flag_false) return;
-  std::string message;
-  forms_layer::the_screen().drag_files(names, [&](const fs::path& folder) {
-    if (message.empty()) message = extract_rows(dragged, folder);
-  });
-  report(message);
+  forms_layer::the_screen().drag_files(
+      names, [dragged](const fs::path& folder) { return extract_rows(dragged, folder); });
 }
 
 }  // namespace ostrane
