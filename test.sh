@@ -65,6 +65,9 @@ step 'Screenshot' 'build display' \
   'scripts/put_sample.sh build-release/sample build-release/home/ostrane-sample
    HOME=$PWD/build-release/home QT_QPA_PLATFORM=xcb scripts/on_virtual_display.sh \
      scripts/take_screenshot.sh build-release/bin/ostrane-dat-tool "$PWD/build-release/screenshot.png"'
+step 'Screen reader' 'build display screen-reader' \
+  'QT_QPA_PLATFORM=xcb dbus-run-session -- scripts/on_virtual_display.sh tests/desktop/screen_reader.py \
+     build-release/bin/ostrane-dat-tool build-release/sample'
 step 'Packaging' 'build package package-check' \
   'scripts/check_packaging.sh build-release'
 step 'Folders with unusual names' 'build package package-check' \
@@ -79,6 +82,8 @@ step 'Clang, unoptimised' 'build test clang' \
   'cmake --preset clang && cmake --build --preset clang && ctest --preset clang' build-clang
 step 'Fuzz targets, some thousand inputs' fuzz \
   'fuzz/run.sh short'
+step 'Windows used at random, for a minute' 'build test' \
+  'fuzz/monkey/run.sh 60'
 step 'Windows, under Wine' windows \
   'scripts/test_windows.sh'
 

@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """screen_reader.py PROGRAM ARCHIVE: uses the window as a screen reader's client does.
 
-Needs a display with a window manager, a session bus, xdotool and python3-pyatspi. While the client
-listens to keys, Qt delivers copies of them.
+Also tests what only a real display shows: the position of the title and an empty clipboard. Needs a
+display with a window manager, a session bus, xdotool and python3-pyatspi. While the client listens to
+keys, Qt delivers copies of them.
 """
 import os
 import subprocess
@@ -62,8 +63,25 @@ def on_focus(event):
         focused.append(event.source.name)
 
 
+def check_title(program):
+    """The title is on the screen, also if the window is higher than the screen."""
+    tool = subprocess.Popen([program], env={**os.environ, "QT_SCALE_FACTOR": "2.2"})
+    try:
+        def top():
+            found = subprocess.run(
+                ["xdotool", "search", "--onlyvisible", "--pid", str(tool.pid), "--name",
+                 "Ostrane.dat-tool -", "getwindowgeometry", "--shell"],
+                check=False, capture_output=True, text=True).stdout
+            return int(found.split("Y=")[1].split()[0]) if "Y=" in found else -1
+
+        wait_for("the title on the screen", lambda: top() >= 10)
+    finally:
+        tool.kill()
+
+
 def main():
     program, archive = sys.argv[1:]
+    check_title(program)
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
     pyatspi.Registry.registerEventListener(on_focus, "object:state-changed:focused")
     pyatspi.Registry.registerKeystrokeListener(
