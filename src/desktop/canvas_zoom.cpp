@@ -1,8 +1,11 @@
 // The enlarged picture of a canvas, and the other actions on its current picture.
 #include <QActionGroup>
+#include <QMenu>
 #include <QWheelEvent>
 #include <algorithm>
 #include <iterator>
+#include <utility>
+#include <vector>
 
 #include "desktop/canvas.h"
 #include "desktop/designed_look.h"

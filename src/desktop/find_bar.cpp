@@ -53,8 +53,9 @@ void find_bar::open(const QString& hint, bool by_number) {
 }
 
 std::vector<std::int32_t> find_bar::hits() const {
-  if (!by_number_)
+  if (!by_number_) {
     return list_.Find ? list_.Find(from_screen(field_.text())) : std::vector<std::int32_t>{};
+  }
   const int row = field_.text().toInt() - 1;
   return row >= 0 && row < list_.ListCount() ? std::vector<std::int32_t>{row}
                                              : std::vector<std::int32_t>{};

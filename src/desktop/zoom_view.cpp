@@ -1,6 +1,7 @@
 #include "desktop/zoom_view.h"
 
 #include <QPainter>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
 #include <iterator>
