@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QInputEvent>
 #include <QListView>
 
 #include "desktop/control_view.h"
