@@ -31,6 +31,12 @@ elseif(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   endif()
 endif()
 
+# Programs for Windows need no DLLs of the compiler, except those that share it with the DLLs of Qt.
+if(MINGW)
+  target_link_options(ostrane_options INTERFACE
+                      $<$<NOT:$<BOOL:$<TARGET_PROPERTY:SHARES_RUNTIME>>>:-static>)
+endif()
+
 # precompile(TARGET HEADER...): precompiles these headers and common ones of the standard library for
 # the target, so that a build takes less than half the time. The preset release turns this off: there
 # each file must include what it uses.
