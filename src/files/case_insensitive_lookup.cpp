@@ -20,7 +20,7 @@ constexpr int max_single_lookups = 8;
 
 bool name_exists(const fs::path& path) {
   std::error_code failed;
-  return fs::exists(fs::symlink_status(path, failed));
+  return fs::exists(fs::symlink_status(for_system(path), failed));
 }
 
 }  // namespace
@@ -41,6 +41,8 @@ void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) 
 fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string& name) {
   const fs::path as_given = system_name(name);
   fs::path exact = folder / as_given;
+  // Windows ignores the case itself.
+  if constexpr (fs::path::preferred_separator == '\\') return exact;
   folder_names& known = folders_[folder.native()];
   const bool is_single = !known.is_read && ++known.lookups <= max_single_lookups;
   if (is_single && name_exists(exact)) return exact;

@@ -35,6 +35,8 @@ file_error_number number_of(int errno_number) {
       return file_error_number::permission_denied;
     case EISDIR:
       return file_error_number::path_access;
+    case ENODEV:
+      return file_error_number::device_unavailable;
     case ENOSPC:
 #ifdef EDQUOT
     case EDQUOT:
@@ -60,6 +62,8 @@ std::string reason_of(int errno_number) {
       return "it is in use";
     case EISDIR:
       return "it is a folder";
+    case ENODEV:
+      return "its drive does not answer";
     case ENOSPC:
 #ifdef EDQUOT
     case EDQUOT:

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 fs::file_status status_of(const std::string& path) {
   try {
     std::error_code failed;
-    return fs::status(system_path(path), failed);
+    return fs::status(for_system(system_path(path)), failed);
   } catch (const file_error&) {
     return {};
   }
@@ -52,8 +52,9 @@ const char* unlisted_reason(const listed_entry& entry, const std::optional<std::
   return entry.is_hidden ? "it is hidden" : "";
 }
 
-const char* irregular_reason(const fs::path& path) {
+const char* irregular_reason(const fs::path& shown) {
   std::error_code failed;
+  const fs::path path = for_system(shown);
   const bool is_link = fs::is_symlink(fs::symlink_status(path, failed));
   return is_link && !fs::exists(fs::status(path, failed)) ? "it is a link that leads nowhere"
                                                           : "it is not a regular file";
@@ -77,7 +78,7 @@ bool is_listed_in_other_case(paths_by_name& by_name,
   const auto [first, last] = by_name.equal_range(upper_case(name));
   return std::any_of(first, last, [&path](const auto& other) {
     std::error_code failed;
-    return fs::equivalent(fs::path(other.second), path, failed);
+    return fs::equivalent(for_system(fs::path(other.second)), for_system(path), failed);
   });
 }
 
@@ -103,7 +104,7 @@ bool folder_exists(const std::string& path) { return fs::is_directory(status_of(
 
 std::int64_t file_size(const file_path& path) {
   std::error_code failed;
-  const std::uintmax_t bytes = fs::file_size(path.system, failed);
+  const std::uintmax_t bytes = fs::file_size(for_system(path.system), failed);
   if (failed == std::errc::not_supported) binary_file().open_to_read(path);  // throws its kind
   if (failed) fail(path.shown, file_action::read, -errno_number(failed));
   return static_cast<std::int64_t>(bytes);
@@ -111,7 +112,7 @@ std::int64_t file_size(const file_path& path) {
 
 void create_folder(const std::string& path) {
   std::error_code failed;
-  if (!fs::create_directory(system_path(path), failed) && !failed) {
+  if (!fs::create_directory(for_system(system_path(path)), failed) && !failed) {
     failed = std::make_error_code(std::errc::file_exists);
   }
   if (failed) fail(to_utf8(path), file_action::create, -errno_number(failed));

@@ -91,6 +91,10 @@ struct system_call_table {
 
 extern system_call_table system_calls;
 
+// The path as std::filesystem needs it: Windows refuses long ones without a prefix. The table's
+// calls add it themselves.
+std::filesystem::path for_system(const std::filesystem::path& path);
+
 // The errno number of an error of the standard library.
 int errno_number(const std::error_code& reason);
 

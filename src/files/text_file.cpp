@@ -14,7 +14,7 @@ constexpr std::size_t block_size = 65536;
 
 bool exists(const file_path& path) {
   std::error_code failed;
-  return std::filesystem::exists(std::filesystem::symlink_status(path.system, failed));
+  return std::filesystem::exists(std::filesystem::symlink_status(for_system(path.system), failed));
 }
 
 // As in a read-only or a sticky folder, and for a file that is a mount point.
