@@ -88,6 +88,32 @@ TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
       u8"\u0153\u009D\u017E\u0178\u00A0\u00E9\u00FF");
 }
 
+// FAT numbers a file anew when it is renamed.
+TEST_F(files_test, ReplacesAFileWhoseIdentityARenameChanges) {
+  static const files::system_call_table real = files::system_calls;
+  static std::uint64_t renames;
+  renames = 0;
+  files::system_calls.replace = +[](const fs::path& file, const fs::path& target) {
+    ++renames;
+    return real.replace(file, target);
+  };
+  files::system_calls.info_of = +[](int file, files::file_info& info) {
+    const int status = real.info_of(file, info);
+    info.stamp.identity.number += renames;
+    return status;
+  };
+  files::system_calls.info_at = +[](const fs::path& path, files::file_info& info) {
+    const int status = real.info_at(path, info);
+    info.stamp.identity.number += renames;
+    return status;
+  };
+  restart_with({{"a.txt", "a"}, {"ostrane.dat", "old"}});
+  build_in();
+  files::system_calls = real;
+  EXPECT_TRUE(new_messages().back().starts_with("Your new Ostrane.dat"));
+  EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
+}
+
 TEST(CodePage, RejectsUnsupportedCharacters) {
   // A Greek letter, a control character whose byte is the Euro sign, and a combining accent; then
   // truncated, overlong, a surrogate, after the last code point, not UTF-8 at all.

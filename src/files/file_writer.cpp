@@ -162,13 +162,20 @@ void file_writer::keep(const std::function<void()>& last_check) {
 }
 
 // A network file system can report a failure although it renamed the file, or a success although it
-// did not.
+// did not. On FAT a rename changes the identity, which an open file then tells.
 void file_writer::rename() {
   const path_match written = match(new_file_.path, new_file_.identity);
   if (written.error < 0) fail(target_.shown, file_action::write, written.error);
   if (!written.is_same) fail_to_write(target_, "another program has moved the new file");
+  const int watched = system_calls.open_to_read(new_file_.path);
   const int renamed = system_calls.replace(new_file_.path, target_.system);
-  const path_match found = match(target_.system, new_file_.identity);
+  path_match found = match(target_.system, new_file_.identity);
+  file_info now;
+  if (found.is_other() && watched >= 0 && system_calls.info_of(watched, now) >= 0) {
+    new_file_.identity = now.stamp.identity;
+    found = match(target_.system, new_file_.identity);
+  }
+  if (watched >= 0) system_calls.close_file(watched);
   if (found.is_same || (found.error < 0 && renamed >= 0)) return;
   if (renamed < 0) fail(target_.shown, file_action::replace, renamed);
   fail_to_write(target_, "another program has replaced it");
