@@ -2,8 +2,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <iostream>
 
+#include "desktop/system_start.h"
 #include "files/program_folder.h"
 #include "version/version.h"
 
@@ -49,7 +49,7 @@ int answer_command_line(int argc, char** argv) {
   }
   if (error.isEmpty() && parser.isSet(version)) parser.showVersion();
   if (error.isEmpty()) parser.showHelp();
-  std::cerr << "ostrane-dat-tool: " << error.toStdString() << '\n';
+  show_start_error(error.toStdString());
   return usage_error;
 }
 

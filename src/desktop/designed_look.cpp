@@ -1,9 +1,9 @@
 #include "desktop/designed_look.h"
 
 #include <QApplication>
-#include <QStringList>
 #include <cstring>
 
+#include "desktop/system_fonts.h"
 #include "forms_layer/application.h"
 
 namespace desktop {
@@ -41,12 +41,10 @@ QColor text_on(forms_layer::colour back) {
 QFont font_for(const forms_layer::font_design& designed) {
   QFont font;
   if (std::strcmp(designed.name, "Courier New") == 0) {
-    font.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("Cousine"),
-                      QStringLiteral("Courier New"), QStringLiteral("DejaVu Sans Mono")});
+    font.setFamilies(fixed_pitch_fonts());
     font.setStyleHint(QFont::TypeWriter);
   } else {
-    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
-                      QStringLiteral("Arial"), QStringLiteral("Helvetica")});
+    font.setFamilies(proportional_fonts());
     font.setStyleHint(QFont::SansSerif);
   }
   font.setPixelSize(qRound(designed.points * pixels_per_point));

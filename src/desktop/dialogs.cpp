@@ -109,8 +109,8 @@ forms_layer::save_answer ask_save_path(const forms_layer::save_question& questio
   });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   last_folder() = dialog.directory().absolutePath();
-  return {.path = files::as_utf8(dialog.selectedFiles().first().toStdString()),
-          .kind = kind_selected()};
+  const QString path = QDir::toNativeSeparators(dialog.selectedFiles().first());
+  return {.path = files::as_utf8(path.toStdString()), .kind = kind_selected()};
 }
 
 std::filesystem::path ask_folder(const std::string& title, QWidget* owner) {
@@ -120,7 +120,7 @@ std::filesystem::path ask_folder(const std::string& title, QWidget* owner) {
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   last_folder() = dialog.selectedFiles().first();
-  return files::as_utf8(last_folder().toStdString());
+  return files::as_utf8(QDir::toNativeSeparators(last_folder()).toStdString());
 }
 
 }  // namespace desktop

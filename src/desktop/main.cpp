@@ -5,6 +5,7 @@
 #include "desktop/application_setup.h"
 #include "desktop/command_line.h"
 #include "desktop/qt_screen.h"
+#include "desktop/system_start.h"
 #include "files/paths.h"
 #include "files/program_folder.h"
 #include "handlers/start_up.h"
@@ -27,7 +28,7 @@ void set_program_icon() {
 void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
                          const QString& text) {
   if (type == QtFatalMsg) {
-    std::cerr << "ostrane-dat-tool: a display is needed (DISPLAY or WAYLAND_DISPLAY)\n";
+    desktop::show_start_error(desktop::no_display_reason(text.toStdString()));
     std::_Exit(1);
   }
   if (type != QtDebugMsg && type != QtInfoMsg) std::cerr << text.toStdString() << '\n';
@@ -36,6 +37,7 @@ void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
 }  // namespace
 
 int main(int argc, char** argv) {
+  desktop::prepare_start();
   const bool opens_archive = argc == 2 && *argv[1] != '-' && *argv[1] != '\0';
   if (argc > 1 && !opens_archive) return desktop::answer_command_line(argc, argv);
   const QtMessageHandler usual = qInstallMessageHandler(end_without_display);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+// The start of the process, before there is a window.
+namespace desktop {
+
+// Call before the application is made.
+void prepare_start();
+
+// Shows an error to the user who started the program.
+void show_start_error(const std::string& text);
+
+// Why there is no display; `text` is Qt's own reason.
+std::string no_display_reason(const std::string& text);
+
+}  // namespace desktop
