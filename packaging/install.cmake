@@ -13,9 +13,7 @@ if(NOT programs)
 endif()
 
 if(WIN32)
-  install(TARGETS ${programs} RUNTIME DESTINATION .)
-  install(FILES LICENSE DESTINATION .)
-  install(FILES packaging/copyright DESTINATION . RENAME copyright.txt)
+  include(packaging/windows/install.cmake)
   return()
 endif()
 

@@ -1,35 +1,40 @@
 #!/usr/bin/env bash
-# Builds the tests and the tool without the desktop for Windows in build-windows, and runs the tests
-# under Wine.
+# Builds the tests and the tool for Windows in build-windows, and runs the tests under Wine. The windows
+# and the pictures are built and tested only if scripts/build_windows.sh has built Qt before.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need windows
-build=$PWD/build-windows
-mkdir -p "$build"
+. scripts/windows.sh
+trap end_wine EXIT
+bin=$windows_build/tool/bin
 
-# Wine gets a separate prefix, no display, and file names in UTF-8. Its background processes would keep
-# the output open after the tests.
-unset DISPLAY WAYLAND_DISPLAY
-export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LC_ALL=C.UTF-8
-trap 'wineserver -k || true' EXIT
+googletest_for_windows
+if [ ! -d "$(scripts/windows_libraries.sh --folder)" ]; then
+  configure_tool -DOSTRANE_DESKTOP=OFF
+  cmake --build "$windows_build/tool"
+  wine "$bin/ostrane_tests.exe" --gtest_brief=1
+  wine "$bin/ostrane_command_tests.exe" --gtest_brief=1
+  exit
+fi
 
-configure() {
-  cmake -G Ninja --toolchain "$PWD/cmake/mingw.cmake" -DCMAKE_BUILD_TYPE=Release "$@"
-}
+need windows-tour
+scripts/build_windows.sh -DOSTRANE_TESTS=ON
+wine "$bin/ostrane_tests.exe" --gtest_brief=1
+OSTRANE_PAIRS=100 wine "$bin/ostrane_command_tests.exe" --gtest_brief=1
+QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=1 QT_QPA_FONTDIR=$PWD/tests/desktop/font \
+  wine "$bin/ostrane_desktop_tests.exe" --gtest_brief=1
 
-configure -S /usr/src/googletest -B "$build/googletest" -DBUILD_GMOCK=OFF \
-  -DCMAKE_INSTALL_PREFIX="$build/installed" -DCMAKE_INSTALL_MESSAGE=NEVER
-cmake --build "$build/googletest" --target install
-
-# The headers in /usr/include are for this system, so only these two folders are linked.
-mkdir -p "$build/headers"
-ln -sfn /usr/include/CLI "$build/headers/CLI"
-ln -sfn /usr/include/nlohmann "$build/headers/nlohmann"
-
-configure -S . -B "$build/tool" -DOSTRANE_DESKTOP=OFF -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
-  -DGTest_DIR="$build/installed/lib/cmake/GTest" -DOSTRANE_CLI11_HEADERS="$build/headers" \
-  -DOSTRANE_JSON_HEADERS="$build/headers"
-cmake --build "$build/tool"
-wine "$build/tool/bin/ostrane_tests.exe" --gtest_brief=1
-wine "$build/tool/bin/ostrane_command_tests.exe" --gtest_brief=1
+# The zip is unpacked into a folder with an umlaut and blanks.
+name=$(basename "$windows_build"/*-windows.zip -windows.zip)
+unpacked="$WINEPREFIX/drive_c/Für mich allein"
+rm -rf "$unpacked"
+mkdir -p "$unpacked"
+(cd "$unpacked" && cmake -E tar xf "$windows_build/$name-windows.zip")
+for scale in 1 2; do
+  end_wine  # so that it reads the scale anew
+  scripts/on_virtual_display.sh scripts/tour_windows.sh "$unpacked/$name" \
+    "$windows_build/tour-$scale" $scale
+done
+scripts/on_virtual_display.sh scripts/check_windows_setup.sh \
+  "$windows_build/$name-windows-setup.exe" "$windows_build/stage/$name"

@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# check_windows_setup.sh SETUP STAGE: installs silently under Wine, for one user and for all, compares
+# the files with the folder STAGE, starts the program from its menu entry if there is a display, and
+# uninstalls. A file of the user must stay, and nothing else.
+set -euo pipefail
+setup=$1
+stage=$2
+drive=$WINEPREFIX/drive_c
+
+fail() {
+  echo "The setup fails: $*" >&2
+  exit 1
+}
+
+until_true() {
+  for _ in $(seq 300); do
+    "$@" && return
+    sleep 0.2
+  done
+  fail "$*"
+}
+
+is_gone() { [ ! -e "$1" ]; }
+has_window() { xdotool search --onlyvisible --name '^Ostrane.dat-tool' >/dev/null 2>&1; }
+has_no_window() { ! has_window; }
+menu_entries() { find "$drive" -name 'Ostrane.dat-tool.lnk'; }
+
+# The list is saved in the working folder of the menu entry, the user's documents.
+start_from_menu() {
+  wine start /unix "$1"
+  until_true has_window
+  sleep 1
+  xdotool key --delay 100 alt+F4
+  until_true has_no_window
+}
+
+check() {
+  local mode=$1 folder=$2 entry
+  wine "$setup" /S "/$mode"
+  diff -r "$stage" "$folder" | grep -v "^Only in .*: uninstall.exe$" && fail "other files than in $stage"
+  entry=$(menu_entries)
+  [ -n "$entry" ] || fail "no menu entry"
+  tr -d '\0' <"$entry" | grep -aqi 'Documents' || fail "the working folder is not that of the documents"
+  [ -z "${DISPLAY:-}" ] || start_from_menu "$entry"
+  echo mine >"$folder/sample/mine.txt"
+  wine "$folder/uninstall.exe" /S
+  until_true is_gone "$folder/uninstall.exe"
+  until_true is_gone "$entry"
+  [ "$(find "$folder" -type f)" = "$folder/sample/mine.txt" ] || fail "$(find "$folder") is left"
+  [ "$(cat "$folder/sample/mine.txt")" = mine ] || fail "a file of the user has changed"
+  rm -r "$folder"
+
+  wine "$setup" /S "/$mode"
+  wine "$folder/uninstall.exe" /S
+  until_true is_gone "$folder"
+  echo "Installed and uninstalled for $mode"
+}
+
+user=$(find "$drive/users" -mindepth 1 -maxdepth 1 ! -name Public | head -n 1)
+check CurrentUser "$user/AppData/Local/Programs/Ostrane.dat-tool"
+check AllUsers "$drive/Program Files/Ostrane.dat-tool"
