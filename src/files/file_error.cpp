@@ -35,7 +35,7 @@ file_error_number number_of(int errno_number) {
       return file_error_number::permission_denied;
     case EISDIR:
       return file_error_number::path_access;
-    case ENODEV:
+    case ENXIO:
       return file_error_number::device_unavailable;
     case ENOSPC:
 #ifdef EDQUOT
@@ -62,7 +62,7 @@ std::string reason_of(int errno_number) {
       return "it is in use";
     case EISDIR:
       return "it is a folder";
-    case ENODEV:
+    case ENXIO:
       return "its drive does not answer";
     case ENOSPC:
 #ifdef EDQUOT

@@ -44,7 +44,7 @@ int errno_of(DWORD error) {
     case ERROR_NETWORK_UNREACHABLE:
     case ERROR_UNEXP_NET_ERR:
     case ERROR_SEM_TIMEOUT:
-      return ENODEV;
+      return ENXIO;
     default:
       break;
   }
