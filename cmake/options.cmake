@@ -45,6 +45,7 @@ function(precompile target)
                             <memory> <optional> <string> <string_view> <unordered_map> <vector>)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
     # GCC 12 gives more false warnings for strings in precompiled headers.
-    target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow
+                           -Wno-stringop-overread)
   endif()
 endfunction()

@@ -19,8 +19,14 @@ struct commands_test : command_test {
 TEST_F(commands_test, EachReportsItsStatusAndErrors) {
   write_bytes("bad.dat", archive_bytes({{"A", "1"}, {"A", "2"}, {"..", "3"}}) + "rest");
   write_bytes("same.txt", "A.TXT\r\nMYFILE.TXT\r\nZ\xC4.DAT\r\n\r\n");
+  write_bytes("one.txt", "\xC4\n\n");
+  const std::string compared =
+      "The following differences was found between your Ostrane.dat and the shiplist\n\n"
+      "      Present in    Present in   \nIcon# Ostrane.dat   Shiplist     \n"
+      "    0 \u00C3\u00A9/\n    1 \n";
   write_bytes("other.txt", "A.TXT\nB.TXT\nMYFILE.TXT\n\n");
   write_bytes(u8"\u00E4\u20AC.txt", "new");
+  write_bytes("empty.dat", archive_bytes({}));
   // Its name looks like UTF-8.
   write_bytes("u.dat", archive_bytes({{"\xC3\xA9/", "1"}}));
   // Both entries exceed the archive.
@@ -33,6 +39,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
        error + "\u00C3\u00A9/: not extracted: its name contains a path separator\n"},
       {"list \xD0\x96.dat", 2, error + "\xD0\x96.dat: cannot be opened: it is not there.\n"},
       {"list none", 2, error + "none: cannot be opened: it is not there.\n"},
+      {"list empty.dat --json", 0, "[\n]\n"},
       {"list a.dat --nothing", 2, error + "--nothing: is not an option of list.\n"},
       {"list a.dat --lnog", 2, error + "--lnog: is not an option of list. Did you mean --long?\n"},
       {"lst a.dat", 2, error + "lst: is not a command. Did you mean list?\n"},
@@ -61,6 +68,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"extract bad.dat ..", 2, error + "..: not extracted: its name means a folder\n"},
       {"compare a.dat same.txt -o r", 0, ""},
       {"compare a.dat other.txt -o r", 1, ""},
+      {"compare u.dat one.txt -o -", 1, compared},
       {"compare a.dat same.txt -o a.dat", 2,
        error + "a.dat: cannot be written: it is read by this command.\n"},
       {"compare a.dat same.txt -o same.txt", 2,
@@ -109,8 +117,11 @@ TEST_F(commands_test, ReplacesExtractedFilesAndBuildsTheSameArchive) {
   const std::string self = bytes_of("self/SELF.DAT");
   EXPECT_EQ(run("extract self/SELF.DAT -d self").status, 2);
   EXPECT_EQ(bytes_of("self/SELF.DAT"), self);
-  EXPECT_EQ(run("build out").status, 0);
-  EXPECT_EQ(bytes_of("out/OSTRANE.DAT"), bytes_of("a.dat"));
+  for (const char* old_name : {"out/Ostrane.dat", "out/OSTRANE.DAT"}) {
+    write_bytes(old_name, "old");
+    EXPECT_EQ(run("build out").status, 0);
+    EXPECT_EQ(bytes_of("out/OSTRANE.DAT"), bytes_of("a.dat"));
+  }
   for (int run_number = 1; run_number <= 2; ++run_number) {
     EXPECT_EQ(run("build out -o out/New.dat").status, 0);
     EXPECT_EQ(bytes_of("out/New.dat"), bytes_of("a.dat"));

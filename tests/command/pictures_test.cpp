@@ -118,6 +118,53 @@ static std::string png_with(png_uint_32 format, const std::vector<png_byte>& row
   return bytes;
 }
 
+// The rows as libpng takes them: several pixels in a byte, or two bytes in a sample.
+static std::string plain_png(int depth, int colour_type, int interlace,
+                             std::vector<std::vector<png_byte>> rows, png_uint_32 width) {
+  std::string bytes;
+  png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+  png_infop info = png_create_info_struct(png);
+  png_set_write_fn(
+      png, &bytes,
+      [](png_structp to, png_bytep from, png_size_t count) {
+        static_cast<std::string*>(png_get_io_ptr(to))
+            ->append(reinterpret_cast<const char*>(from), count);
+      },
+      nullptr);
+  png_set_IHDR(png, info, width, static_cast<png_uint_32>(rows.size()), depth, colour_type,
+               interlace, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  png_write_info(png, info);
+  std::vector<png_bytep> pointers;
+  for (std::vector<png_byte>& row : rows) pointers.push_back(row.data());
+  png_write_image(png, pointers.data());
+  png_write_end(png, nullptr);
+  png_destroy_write_struct(&png, &info);
+  return bytes;
+}
+
+// Black, white and black pixels, in two rows.
+TEST_F(pictures_test, ReadsEveryKindOfPng) {
+  std::string colours(1024, '\x33');
+  colours.replace(4, 3, std::string(3, '\0'));
+  colours.replace(8, 3, std::string(3, '\xFF'));
+  write_bytes("GAME.PAL", colours);
+  const std::vector<png_byte> one_bit = {0x40};
+  const std::vector<png_byte> two_bits = {0x30};
+  const std::vector<png_byte> four_bits = {0x0F, 0x00};
+  const std::vector<png_byte> deep = {0, 0, 0xFF, 0xFF, 0, 0};
+  const std::vector<png_byte> with_alpha = {0, 255, 255, 255, 0, 255};
+  for (const int interlace : {PNG_INTERLACE_NONE, PNG_INTERLACE_ADAM7}) {
+    for (const auto& [depth, type, row] :
+         {std::tuple(1, PNG_COLOR_TYPE_GRAY, one_bit), std::tuple(2, PNG_COLOR_TYPE_GRAY, two_bits),
+          std::tuple(4, PNG_COLOR_TYPE_GRAY, four_bits), std::tuple(16, PNG_COLOR_TYPE_GRAY, deep),
+          std::tuple(8, PNG_COLOR_TYPE_GRAY_ALPHA, with_alpha)}) {
+      write_bytes("p.png", plain_png(depth, type, interlace, {row, row}, 3));
+      EXPECT_EQ(run("import p.png -o p.shp --palette GAME.PAL").errors, "");
+      EXPECT_EQ(icons_of("p.shp"), texts{"1 2 0 0 0 2 1 1,2,1,1,2,1,"}) << depth << interlace;
+    }
+  }
+}
+
 TEST_F(pictures_test, ChangesAndCountsInexactColours) {
   write_bytes("GAME.PAL", palette());
   // Hardly set, colour 4 itself, a step beside it, and half transparent.
@@ -260,6 +307,8 @@ TEST_F(pictures_test, NeverWritesOneFileTwiceOrAnInput) {
             error + "./A-0001.png: would be written\n" + error + "./A.json: would be written\n");
   EXPECT_EQ(files_at("."), before);
   run("export F-0001.png A.SHP -d in");
+  run("import -n in -o new.shp --palette F-0001.png");
+  EXPECT_FALSE(fs::exists("new.shp"));
   EXPECT_EQ(run("import in -o in/A.json --palette F-0001.png").status, 2);
 }
 
@@ -288,8 +337,10 @@ TEST_F(pictures_test, ReportsThatAStreamIsCut) {
   EXPECT_TRUE(run("check a.dat")
                   .output.starts_with(
                       "a.dat: F.SHP: icon 1: only the first 65552 bytes of its stream are read\n"));
-  EXPECT_EQ(run("pack a.dat F.SHP").errors,
+  const result packed = run("pack a.dat F.SHP");
+  EXPECT_EQ(packed.errors,
             "ostrane-dat: F.SHP: not packed: its icon 1 is longer than what is read of it.\n");
+  EXPECT_EQ(packed.status, 1);
 }
 
 TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
@@ -344,6 +395,10 @@ TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
       bytes_of("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
       std::string::npos);
   EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
+  EXPECT_NE(bytes_of("F-sheet.json").find("{\"x\":0,\"y\":2,"), std::string::npos);
+  // Indices keep their colours, also equal ones.
+  EXPECT_NE(bytes_of("F-0001.png").find(std::string("PLTE\x40\0\0\x40\0\1\x40\0\1", 13)),
+            std::string::npos);
   EXPECT_NE(bytes_of("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
             std::string::npos);
   // Offset 0 means no palette, so the built-in colours apply.
