@@ -11,4 +11,5 @@ file(WRITE "${made}/README.md" "${text}")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS README.md)
 
 install(FILES "${made}/README.md" CHANGELOG.md packaging/copyright DESTINATION ${doc_dir})
-install(FILES docs/command.md docs/formats.md docs/screenshot.png DESTINATION ${doc_dir}/docs)
+install(FILES docs/command.md docs/formats.md docs/screenshot.png
+              docs/screenshot-windows.png DESTINATION ${doc_dir}/docs)

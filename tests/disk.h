@@ -26,7 +26,7 @@ inline fs::path make_temporary_folder() {
   do {
     made = base / ("tool-test-" + std::to_string(any()));
   } while (!fs::create_directory(made));
-  return made;
+  return fs::absolute(made);  // with its drive, where the system has them
 }
 
 // Makes the folder of the file too.
