@@ -116,8 +116,9 @@ int add(const add_options& options) {
     add_files(archive, files);
     return true;
   });
-  for (const entry_source& file : files)
+  for (const entry_source& file : files) {
     print_step({file.file.shown, "becomes " + name_with_blanks(file.name)});
+  }
   return status;
 }
 

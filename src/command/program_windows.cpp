@@ -18,8 +18,9 @@ std::vector<std::string> arguments_of(int /*argc*/, char** /*argv*/) {
   int count = 0;
   wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> arguments;
-  for (int i = 1; i < count; ++i)
+  for (int i = 1; i < count; ++i) {
     arguments.push_back(files::as_bytes(fs::path(wide[i]).u8string()));
+  }
   LocalFree(wide);
   return arguments;
 }

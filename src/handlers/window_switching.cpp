@@ -18,8 +18,8 @@ namespace {
 void start_at_archive() {
   const std::string current = files::current_folder();
   const bool is_first_folder = Form2.Dir1.Path() == "C:\\";
-  if (!is_first_folder || !files::file_exists(files::with_separator(current) + "ostrane.dat"))
-    return;
+  const bool holds_archive = files::file_exists(files::with_separator(current) + "ostrane.dat");
+  if (!is_first_folder || !holds_archive) return;
   files::ignore_failure([&current] { Form2.Dir1.Path = current; });
 }
 

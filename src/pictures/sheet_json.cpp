@@ -14,8 +14,9 @@ constexpr int max_side = 32768;
 
 int side_in(const json& object, const char* field, int least = 0) {
   const auto number = number_in<std::int32_t>(object, field);
-  if (number < least || number > max_side)
+  if (number < least || number > max_side) {
     throw data_error(std::string(field) + " is out of range");
+  }
   return number;
 }
 
