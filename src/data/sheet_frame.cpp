@@ -32,6 +32,7 @@ std::vector<sheet_frame> frames_of_grid(const picture& sheet, int columns, int r
   const int width = sheet.columns() / columns;
   const int height = sheet.rows() / rows;
   std::vector<sheet_frame> frames;
+  frames.reserve(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows));
   for (int i = 0; i < columns * rows; ++i) {
     frames.push_back({.name = {},
                       .x = i % columns * width,
