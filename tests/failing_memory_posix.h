@@ -45,14 +45,17 @@ void operator delete(void* memory) noexcept {
   if (failing != nullptr && failing->happened) failing->freed += malloc_usable_size(memory);
   std::free(memory);
 }
-// Sanitizers have their own operators for arrays, which would not call those above.
-void* operator new[](std::size_t size) { return operator new(size); }
-void* operator new[](std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
+// Sanitizers have their own other operators, which would not call those above.
+void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
   try {
     return operator new(size);
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+  return operator new(size, tag);
 }
 void operator delete[](void* memory) noexcept { operator delete(memory); }
 void operator delete[](void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
