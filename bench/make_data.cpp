@@ -7,6 +7,8 @@
 //   icons     an archive with files of 300, 500 and 999 icons and a text of 32 KB
 //   steps     an archive of 40 icon files
 //   pictures  an archive with one file of 5000 icons, 64 by 64 pixels each
+//   growth    folders of 1000, 10000 and 32766 files with one icon each, and of 64 files that have
+//             64, 512 and 2047 MB together
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -81,6 +83,27 @@ void make_pictures(const fs::path& folder) {
   bench::write_archive(folder, {{"I.SHP", shp_file(bench::mixed_pictures(5000, 64))}});
 }
 
+void make_growth(const fs::path& folder) {
+  const std::string icon = shp_file(bench::mixed_pictures(1, 16));
+  for (const int count : {1000, 10000, 32766}) {
+    const fs::path files = folder / (std::to_string(count) + "-files");
+    fs::create_directories(files);
+    for (const std::string& name : bench::shuffled_names(count)) {
+      bench::write_file(files / name, icon);
+    }
+  }
+  constexpr int files_per_size = 64;
+  for (const int megabytes : {64, 512, 2047}) {
+    const fs::path files = folder / (std::to_string(megabytes) + "-MB");
+    fs::create_directories(files);
+    for (int i = 0; i < files_per_size; ++i) {
+      const fs::path file = files / ("F" + std::to_string(100 + i) + ".BIN");
+      bench::write_file(file, "");
+      fs::resize_file(file, (static_cast<std::uintmax_t>(megabytes) << 20U) / files_per_size);
+    }
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -95,6 +118,7 @@ int main(int argc, char** argv) {
     make_icons(folder / "icons");
     make_steps(folder / "steps");
     make_pictures(folder / "pictures");
+    make_growth(folder / "growth");
   } catch (const std::exception& failure) {
     std::cerr << "bench_make_data: " << failure.what() << '\n';
     return 1;

@@ -143,6 +143,37 @@ windows() { # PLATFORM
     without_archive window build "$data/files" -- tar_up
 }
 
+# grow COMMAND SMALLEST SIZE...: a row for each size beside the smallest one. The goal is linear growth
+# and a tenth. A size is the name of a folder of bench_make_data.
+grow() {
+  local command=$1 smallest=$2 size
+  shift 2
+  for size; do
+    row "\`$command\`: ${size/-/ }; ${smallest/-/ }" "$(awk "BEGIN {printf \"%.1f\", 1.1 * ${size%-*} / ${smallest%-*}}")" \
+      ms 1000 "grow_$command" "$data/growth/$size" -- "grow_$command" "$data/growth/$smallest"
+  done
+}
+grow_build() { dat build "$1" -o "$1.dat"; }
+grow_list() { dat list "$1.dat"; }
+grow_check() { dat check "$1.dat"; }
+grow_diff() { dat diff "$1.dat" "$1.dat"; }
+grow_pack() { dat pack "$1.dat"; }
+grow_extract() {
+  rm -rf "$data/growth/out"
+  dat extract "$1.dat" -d "$data/growth/out"
+}
+
+growth() {
+  local rounds=$((rounds > 3 ? 3 : rounds)) command
+  local sizes=(64-MB 512-MB)
+  # The largest folder, its archive, the next one and the extracted files, at the same time.
+  [ "$(df --output=avail -k "$data" | tail -n 1)" -lt 9000000 ] || sizes+=(2047-MB)
+  for command in build list check diff pack extract; do
+    grow "$command" 1000-files 10000-files 32766-files
+  done
+  for command in build check extract; do grow "$command" "${sizes[@]}"; done
+}
+
 # Needs a window manager: without one no window is active.
 keys() {
   printed "$bin/bench_window" keys "$data/steps"
@@ -169,6 +200,7 @@ heading
 in_process
 programs
 scripts
+growth
 QT_QPA_PLATFORM=offscreen windows offscreen
 QT_QPA_PLATFORM=xcb windows Xvfb
 QT_QPA_PLATFORM=xcb keys
