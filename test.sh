@@ -66,8 +66,7 @@ step 'Screenshot' 'build display' \
    HOME=$PWD/build-release/home QT_QPA_PLATFORM=xcb scripts/on_virtual_display.sh \
      scripts/take_screenshot.sh build-release/bin/ostrane-dat-tool "$PWD/build-release/screenshot.png"'
 step 'Screen reader' 'build display screen-reader' \
-  'QT_QPA_PLATFORM=xcb dbus-run-session -- scripts/on_virtual_display.sh tests/desktop/screen_reader.py \
-     build-release/bin/ostrane-dat-tool build-release/sample'
+  'scripts/check_screen_reader.sh build-release'
 step 'Packaging' 'build package package-check' \
   'scripts/check_packaging.sh build-release'
 step 'Folders with unusual names' 'build package package-check' \
