@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <numeric>
 #include <optional>
 #include <unordered_map>
 
@@ -22,7 +23,6 @@ struct entry_row {
   std::int64_t size = 0;
   std::int32_t offset = 0;
   entry_kind kind = entry_kind::other;
-  std::string key;                    // for the order of names
   std::optional<std::int32_t> icons;  // of an icon file that has a head
   std::u8string description;
 };
@@ -53,22 +53,54 @@ std::optional<std::int32_t> icons_of(files::binary_file& file, const entry_row& 
 
 bool shows_all(const list_options& options) { return options.is_long || options.is_json; }
 
-entry_row row_at(const archive_index& index, std::size_t i) {
-  const dat_record& record = index.records[i];
-  return {.name = files::to_utf8(name_with_blanks(record.name)),
-          .size = std::int64_t{index.records[i + 1].offset} - record.offset,
-          .offset = record.offset,
-          .kind = kind_of_entry(name_without_nuls(record.name)),
-          .key = files::compare_key(name_with_blanks(record.name)),
-          .icons = {},
-          .description = {}};
+std::u8string name_at(const archive_index& index, std::size_t i) {
+  return files::to_utf8(name_with_blanks(index.records[i].name));
 }
 
-void add_details(entry_row& entry, const dat_record& record, files::binary_file& file,
+std::int64_t size_at(const archive_index& index, std::size_t i) {
+  return std::int64_t{index.records[i + 1].offset} - index.records[i].offset;
+}
+
+entry_kind kind_at(const archive_index& index, std::size_t i) {
+  return kind_of_entry(name_without_nuls(index.records[i].name));
+}
+
+entry_row row_at(const archive_index& index, std::size_t i, files::binary_file& file,
                  const descriptions& known) {
+  entry_row entry = {.name = name_at(index, i),
+                     .size = size_at(index, i),
+                     .offset = index.records[i].offset,
+                     .kind = kind_at(index, i),
+                     .icons = {},
+                     .description = {}};
   entry.icons = icons_of(file, entry);
-  const auto row = known.find(icon_name_key(name_without_nuls(record.name)));
+  const auto row = known.find(icon_name_key(name_without_nuls(index.records[i].name)));
   if (row != known.end()) entry.description = row->second;
+  return entry;
+}
+
+// The indices of the entries in the chosen order.
+std::vector<std::size_t> ordered_entries(const archive_index& index, const std::string& order) {
+  std::vector<std::size_t> entries(std::max<std::size_t>(index.records.size(), 1) - 1);
+  std::iota(entries.begin(), entries.end(), std::size_t{0});
+  const auto sort_by = [&entries](const auto& key_of) {
+    std::stable_sort(entries.begin(), entries.end(),
+                     [&](std::size_t a, std::size_t b) { return key_of(a) < key_of(b); });
+  };
+  if (order == "name") {
+    std::vector<std::string> keys;
+    for (const std::size_t i : entries) {
+      keys.push_back(files::compare_key(name_with_blanks(index.records[i].name)));
+    }
+    sort_by([&](std::size_t i) -> const std::string& { return keys[i]; });
+  } else if (order == "size") {
+    sort_by([&](std::size_t i) { return size_at(index, i); });
+  } else if (order == "offset") {
+    sort_by([&](std::size_t i) { return index.records[i].offset; });
+  } else if (order == "kind") {
+    sort_by([&](std::size_t i) { return kind_at(index, i); });
+  }
+  return entries;
 }
 
 std::string padded(const std::string& text, std::size_t width) {
@@ -102,41 +134,29 @@ std::string json_of(const entry_row& entry) {
                       {"description", json_string(entry.description)}});
 }
 
-std::vector<entry_row> rows_of(const list_options& options, const files::file_path& archive,
-                               const descriptions& known) {
+// With several archives each row names its own.
+void print_archive(const list_options& options, const std::string& argument,
+                   const descriptions& known, bool& is_first) {
+  const files::file_path archive = named_input(argument);
   const archive_index index = read_archive_index(archive);
   files::binary_file file;
   open_unchanged(file, archive, index.stamp);
-  std::vector<entry_row> rows;
-  for (std::size_t i = 0; i + 1 < index.records.size(); ++i) {
-    rows.push_back(row_at(index, i));
-    if (shows_all(options)) add_details(rows.back(), index.records[i], file, known);
-  }
-  const std::string& order = options.order;
-  if (order.empty()) return rows;
-  std::stable_sort(rows.begin(), rows.end(), [&order](const entry_row& a, const entry_row& b) {
-    if (order == "name") return a.key < b.key;
-    if (order == "size") return a.size < b.size;
-    if (order == "offset") return a.offset < b.offset;
-    return order == "kind" && a.kind < b.kind;
-  });
-  return rows;
-}
-
-// With several archives each row names its own.
-void print_rows(const list_options& options, const std::string& archive,
-                const std::vector<entry_row>& rows, bool& is_first) {
   const bool is_one = options.archives.size() == 1;
-  const std::u8string prefix = is_one ? u8"" : files::as_utf8(archive) + u8": ";
-  for (const entry_row& row : rows) {
+  const std::u8string prefix = is_one ? u8"" : files::as_utf8(argument) + u8": ";
+  for (const std::size_t i : ordered_entries(index, options.order)) {
+    if (!shows_all(options)) {
+      print_line(prefix + files::printable(name_at(index, i)));
+      continue;
+    }
+    const entry_row row = row_at(index, i, file, known);
     if (!options.is_json) {
-      print_line(prefix + (options.is_long ? long_line(row) : files::printable(row.name)));
+      print_line(prefix + long_line(row));
       continue;
     }
     print(std::exchange(is_first, false) ? "[\n  " : ",\n  ");
     std::string json = json_of(row);
     if (!is_one) {
-      json.insert(1, "\"archive\":" + json_string(files::as_utf8(archive)) + ",");
+      json.insert(1, "\"archive\":" + json_string(files::as_utf8(argument)) + ",");
     }
     print(json);
   }
@@ -149,9 +169,8 @@ int list(const list_options& options) {
   std::size_t unread = 0;
   bool is_first = true;
   for (const std::string& archive : options.archives) {
-    const files::failure failed = files::failure_in([&] {
-      print_rows(options, archive, rows_of(options, named_input(archive), known), is_first);
-    });
+    const files::failure failed =
+        files::failure_in([&] { print_archive(options, archive, known, is_first); });
     if (!failed) continue;
     print_error(failed);
     ++unread;
