@@ -88,9 +88,10 @@ void change_archive(const std::string& argument,
 
 void write_changed(new_archive& archive, const files::file_path& target, files::write_rules rules) {
   const std::size_t count = archive.entries.size();
-  make_index(archive, [count](std::size_t index) { show_progress(index, count, ""); });
+  show_progress(0, count, "");  // ends an interrupted job before it writes
   if (!begin_write(target.shown)) {
     require_writable(target, rules);
+    make_index(archive);
     return;
   }
   const bool is_linked = has_other_names(

@@ -22,12 +22,12 @@ std::string key_of(const entry_source& entry) {
 }
 
 std::u8string shown(const entry_source& entry) {
-  return entry.old_index ? files::to_utf8("The entry " + entry.shown_name) : entry.file.shown;
+  return entry.is_file() ? entry.file.shown : files::to_utf8("The entry " + entry.shown_name);
 }
 
 std::int64_t size_of(const new_archive& archive, const entry_source& entry) {
   if (entry.content) return static_cast<std::int64_t>(entry.content->size());
-  if (!entry.old_index) return files::file_size(entry.file);
+  if (entry.is_file()) return files::file_size(entry.file);
   const archive_index& old = archive.old->index;
   const std::int64_t start = old.records[*entry.old_index].offset;
   const std::int64_t size = old.records[*entry.old_index + 1].offset - start;
@@ -50,36 +50,86 @@ void refuse_other_bytes(const old_archive& old) {
                                        " that belong to no entry and would be lost.");
 }
 
+// Sets the records of a new archive, one for each entry and the end record.
+class index_maker {
+ public:
+  explicit index_maker(new_archive& archive)
+      : archive_(archive), offset_(first_entry_offset(archive.entries.size())) {
+    const std::size_t count = archive.entries.size();
+    if (count > max_files) {
+      throw data_error("The archive would have " + std::to_string(count) +
+                       " entries. It can have at most " + std::to_string(max_files) + ".");
+    }
+    if (archive.old) refuse_other_bytes(*archive.old);
+    archive.records.clear();
+    archive.records.reserve(count + 1);
+  }
+
+  // Returns the size.
+  std::int32_t add(const entry_source& entry, std::int64_t size) {
+    archive_.records.push_back({static_cast<std::int32_t>(offset_), entry.name});
+    offset_ += size;
+    if (offset_ > INT32_MAX) {
+      throw data_error(shown(entry),
+                       "does not fit: the archive would be larger than 2 GB, which is the most "
+                       "that it can be.");
+    }
+    return static_cast<std::int32_t>(size);
+  }
+
+  void end() {
+    const bool has_old_end = archive_.old && !archive_.old->index.records.empty();
+    archive_.records.push_back(
+        {static_cast<std::int32_t>(offset_),
+         has_old_end ? archive_.old->index.records.back().name : record_name{}});
+  }
+
+ private:
+  new_archive& archive_;
+  std::int64_t offset_;  // of the next entry
+};
+
 struct writing {
-  const new_archive& archive;
+  new_archive& archive;
   files::binary_file& to;
   const job_progress& progress;
+  std::optional<index_maker> index = {};  // null if there is one already
   files::binary_file old = {};
   files::binary_file file = {};
 };
 
+// The size that the index has for an entry or, without one, that the entry has now.
+std::int32_t settle_size(writing& job, std::size_t i) {
+  const auto& records = job.archive.records;
+  if (!job.index) return records[i + 1].offset - records[i].offset;
+  const entry_source& entry = job.archive.entries[i];
+  return job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
+}
+
 void copy_entry(writing& job, std::size_t i) {
   const entry_source& entry = job.archive.entries[i];
-  const std::int32_t size = job.archive.records[i + 1].offset - job.archive.records[i].offset;
+  if (!job.index && !entry.content) job.progress.before_file(i, settle_size(job, i));
+  if (entry.is_file()) job.file.open_to_read(entry.file);
+  const std::int32_t size = settle_size(job, i);
   if (entry.content) {
     job.to.write(std::as_bytes(std::span(*entry.content)));
     return;
   }
-  files::binary_file& from = entry.old_index ? job.old : job.file;
-  job.progress.before_file(i, size);
-  if (entry.old_index) {
-    from.seek(job.archive.old->index.records[*entry.old_index].offset);
-  } else {
-    from.open_to_read(entry.file);
-  }
+  files::binary_file& from = entry.is_file() ? job.file : job.old;
+  if (!entry.is_file()) from.seek(job.archive.old->index.records[*entry.old_index].offset);
   job.progress.on_file(i, entry.shown_name, size);
   std::int16_t small_block_bytes = 0;
   const std::int32_t copied = chunk_ladder(from, job.to, size, small_block_bytes, job.progress);
   std::array<std::byte, 1> one_more;
-  if (copied < size || (!entry.old_index && from.read(one_more) > 0)) {
+  if (copied < size || (entry.is_file() && from.read(one_more) > 0)) {
     throw data_error(shown(entry), "has changed its size during the copy.");
   }
-  if (!entry.old_index) from.close();
+  if (entry.is_file()) from.close();
+}
+
+void write_index(writing& job) {
+  const std::string index = index_bytes(job.archive.records);
+  job.to.write(std::as_bytes(std::span(index)));
 }
 
 }  // namespace
@@ -143,41 +193,31 @@ std::vector<std::filesystem::path::string_type> file_paths(const new_archive& ar
 }
 
 void make_index(new_archive& archive, const std::function<void(std::size_t)>& on_entry) {
-  const std::size_t count = archive.entries.size();
-  if (count > max_files) {
-    throw data_error("The archive would have " + std::to_string(count) +
-                     " entries. It can have at most " + std::to_string(max_files) + ".");
-  }
-  if (archive.old) refuse_other_bytes(*archive.old);
-  std::int64_t offset = first_entry_offset(count);
-  archive.records.clear();
-  archive.records.reserve(count + 1);
-  for (std::size_t i = 0; i < count; ++i) {
-    const entry_source& entry = archive.entries[i];
+  index_maker index(archive);
+  for (std::size_t i = 0; i < archive.entries.size(); ++i) {
     if (on_entry) on_entry(i);
-    archive.records.push_back({static_cast<std::int32_t>(offset), entry.name});
-    offset += size_of(archive, entry);
-    if (offset > INT32_MAX) {
-      throw data_error(shown(entry),
-                       "does not fit: the archive would be larger than 2 GB, which is the most "
-                       "that it can be.");
-    }
+    index.add(archive.entries[i], size_of(archive, archive.entries[i]));
   }
-  const bool has_old_end = archive.old && !archive.old->index.records.empty();
-  archive.records.push_back({static_cast<std::int32_t>(offset),
-                             has_old_end ? archive.old->index.records.back().name : record_name{}});
+  index.end();
 }
 
-void write_archive_to(files::binary_file& to, const new_archive& archive,
-                      const job_progress& progress) {
+void write_archive_to(files::binary_file& to, new_archive& archive, const job_progress& progress) {
   writing job = {archive, to, progress};
   if (archive.old) open_unchanged(job.old, archive.old->path, archive.old->index.stamp);
-  const std::string index = index_bytes(archive.records);
-  to.write(std::as_bytes(std::span(index)));
+  if (archive.records.empty()) {
+    job.index.emplace(archive);
+    to.seek(first_entry_offset(archive.entries.size()));
+  } else {
+    write_index(job);
+  }
   for (std::size_t i = 0; i < archive.entries.size(); ++i) copy_entry(job, i);
+  if (!job.index) return;
+  job.index->end();
+  to.seek(0);
+  write_index(job);
 }
 
-void replace_archive(const files::file_path& target, const new_archive& archive,
+void replace_archive(const files::file_path& target, new_archive& archive,
                      const job_progress& progress, files::write_rules rules) {
   rules.mode = files::write_mode::durable;
   files::binary_file output;

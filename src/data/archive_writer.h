@@ -22,6 +22,8 @@ struct entry_source {
   files::file_path file = {};
   std::optional<std::size_t> old_index = {};        // null for a file
   std::shared_ptr<const std::string> content = {};  // of an old entry that changes
+
+  bool is_file() const { return !old_index; }
 };
 
 struct old_archive {
@@ -32,7 +34,7 @@ struct old_archive {
 struct new_archive {
   std::vector<entry_source> entries = {};
   std::optional<old_archive> old = {};   // the archive that it replaces and takes entries from
-  std::vector<dat_record> records = {};  // set by make_index
+  std::vector<dat_record> records = {};  // set by make_index or while it is written
 };
 
 // Returns the source for a file. The name of its entry is cut at 13 characters.
@@ -58,14 +60,14 @@ std::vector<std::filesystem::path::string_type> file_paths(const new_archive& ar
 // exceeds the old archive, or if that has bytes that belong to no entry and would be lost.
 void make_index(new_archive& archive, const std::function<void(std::size_t index)>& on_entry = {});
 
-// Writes an archive with an index to an open file. Throws file_error, and data_error if the size of
-// a file or the old archive has changed.
-void write_archive_to(files::binary_file& to, const new_archive& archive,
-                      const job_progress& progress);
+// Writes an archive to an open file. Without records each file is measured when it is opened, and
+// the index is written last; a stream needs them before. Throws like make_index, and data_error if
+// the size of a file or the old archive has changed.
+void write_archive_to(files::binary_file& to, new_archive& archive, const job_progress& progress);
 
 // The same, but replaces `target` durably, which is the old archive if there is one. The mode of
 // the rules is ignored.
-void replace_archive(const files::file_path& target, const new_archive& archive,
+void replace_archive(const files::file_path& target, new_archive& archive,
                      const job_progress& progress, files::write_rules rules = {});
 
 }  // namespace ostrane
