@@ -1,5 +1,7 @@
 #include "data/marked_picture.h"
 
+#include <algorithm>
+
 namespace ostrane {
 
 std::array<std::int16_t, 256> marked_indices(std::span<const palette_entry> entries,
@@ -24,7 +26,10 @@ settled_picture settled(picture marked, const rgb_palette& palette, const pictur
       old != nullptr && old->columns() == drawn.columns() && old->rows() == drawn.rows();
   for (int row = 0; row < drawn.rows(); ++row) {
     const std::int16_t* before = is_known ? old->row(row).data() : nullptr;
-    for (std::int16_t& cell : drawn.row(row)) {
+    const auto cells = drawn.row(row);
+    // A row without marks that is the old one, as most are.
+    if (before != nullptr && std::equal(cells.begin(), cells.end(), before)) continue;
+    for (std::int16_t& cell : cells) {
       const std::int16_t old_cell = before == nullptr ? picture::unset : *before++;
       if (cell < 0) {
         result.changed += cell == changed_unset ? 1 : 0;

@@ -1,7 +1,6 @@
 #include "data/row_packer.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "data/picture.h"
 
@@ -103,7 +102,8 @@ void row_packer::append_ops(std::string& stream) {
     } else {
       stream += static_cast<char>(2 * op.columns + 1);
       const auto first = columns_.begin() + static_cast<std::ptrdiff_t>(at);
-      std::transform(first, first + op.columns, std::back_inserter(stream), [](std::int16_t cell) {
+      stream.resize(stream.size() + op.columns);
+      std::transform(first, first + op.columns, stream.end() - op.columns, [](std::int16_t cell) {
         return static_cast<char>(std::max<std::int16_t>(cell, 0));
       });
     }

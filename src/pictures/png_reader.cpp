@@ -2,6 +2,7 @@
 
 #include <png.h>
 
+#include <algorithm>
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
@@ -110,11 +111,13 @@ void read_head(png_structp png, png_infop info, png_job& job) {
 }
 
 void convert_row(png_job& job, const png_byte* pixels, int row) {
-  for (std::int16_t& cell : job.marked.row(row)) {
-    if (job.is_indexed) {
-      cell = job.map[*pixels++];
-      continue;
-    }
+  const std::span<std::int16_t> cells = job.marked.row(row);
+  if (job.is_indexed) {
+    std::transform(pixels, pixels + cells.size(), cells.begin(),
+                   [&map = job.map](png_byte index) { return map[index]; });
+    return;
+  }
+  for (std::int16_t& cell : cells) {
     const auto colour = static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]);
     cell = pixels[3] < 0x80 ? marked_cell({}, pixels[3])
                             : marked_cell(job.colours.find(colour), pixels[3]);
