@@ -1,11 +1,7 @@
 #include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <cstdio>
-#include <future>
 #include <memory>
-#include <system_error>
-#include <thread>
 
 #include "command/commands.h"
 #include "command/console.h"
@@ -17,6 +13,7 @@
 #include "data/game_file.h"
 #include "data/number_text.h"
 #include "data/old_icons.h"
+#include "data/shared_work.h"
 #include "data/sheet_frame.h"
 #include "files/code_page.h"
 #include "files/text.h"
@@ -31,8 +28,6 @@ struct import_job {
   const import_plan& plan;
   old_icons* old;  // may be null
   std::vector<shp_icon> icons;
-  std::atomic<std::size_t> next = 0;  // index of the next icon to make
-  std::atomic<bool> stops = false;
   std::atomic<std::int64_t> changed_pixels = 0;
   std::atomic<std::int64_t> changed_pictures = 0;
   std::atomic<std::int64_t> shared_pixels = 0;
@@ -63,43 +58,19 @@ shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finde
   }
 }
 
-// Makes icons until all are made or a thread fails.
-void make_icons(import_job& job, colour_finder colours) {
-  files::binary_file file;
-  try {
-    for (std::size_t i = job.next++; i < job.icons.size() && !job.stops; i = job.next++) {
-      job.icons[i] = make_icon_of(job, job.plan.icons[i], colours, file);
-    }
-  } catch (...) {
-    job.stops = true;
-    throw;
-  }
-}
-
-// Decoding a PNG and packing an icon are CPU-bound, so there is one thread per processor.
+// Decoding a PNG and packing an icon are CPU-bound.
 void make_all_icons(import_job& job, const colour_finder& colours) {
-  constexpr auto poll_interval = std::chrono::milliseconds(20);
-  constexpr std::size_t max_threads = 8;
-  const auto count = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
-  std::vector<std::future<void>> threads;
-  const struct stopping {  // destroyed before the futures, whose destructors block
-    import_job& job;
-    ~stopping() { job.stops = true; }
-  } at_end{job};
-  try {
-    for (std::size_t i = 0; i < std::min(count, job.icons.size()); ++i) {
-      threads.push_back(std::async(std::launch::async, [&] { make_icons(job, colours); }));
-    }
-  } catch (const std::system_error&) {
-    // The system allows no more threads.
-    if (threads.empty()) make_icons(job, colours);
-  }
-  for (std::future<void>& thread : threads) {
-    while (thread.wait_for(poll_interval) != std::future_status::ready) {
-      show_progress(std::min(job.next.load(), job.icons.size()), job.icons.size(), "");
-    }
-    thread.get();
-  }
+  const std::size_t count = job.icons.size();
+  share_work(
+      count,
+      [&](shared_indices& indices) {
+        files::binary_file file;
+        colour_finder finder = colours;
+        for (std::size_t i = 0; indices.take(i);) {
+          job.icons[i] = make_icon_of(job, job.plan.icons[i], finder, file);
+        }
+      },
+      [count](std::size_t taken) { show_progress(taken, count, ""); });
 }
 
 grid_size grid_in(const std::string& text) {

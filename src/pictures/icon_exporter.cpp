@@ -9,6 +9,7 @@
 #include "data/icon_file.h"
 #include "data/icon_packer.h"
 #include "data/number_text.h"
+#include "data/shared_work.h"
 #include "files/code_page.h"
 #include "files/file_writer.h"
 #include "pictures/gif_writer.h"
@@ -115,13 +116,38 @@ exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawa
   return exported;
 }
 
+struct made_picture {
+  std::u8string name;
+  picture drawn;
+  std::string png = {};
+};
+
+// Compression takes most of the time. Only this thread reads and writes files.
+void write_pictures(icon_export_job& job, std::vector<made_picture>& pictures) {
+  share_work(pictures.size(), [&](shared_indices& indices) {
+    for (std::size_t i = 0; indices.take(i);) {
+      pictures[i].png = png_at_scale(job, pictures[i].drawn);
+    }
+  });
+  for (const made_picture& made : pictures) write_output(job, made.name, made.png);
+  pictures.clear();
+}
+
 void export_series(icon_export_job& job) {
+  constexpr std::int64_t max_cells = std::int64_t{1} << 20U;  // in memory
+  std::vector<made_picture> pictures;
+  std::int64_t cells = 0;
   const exported_icons exported =
-      read_icons(job, [&](std::size_t number, const picture& drawn, exported_icon& icon) {
+      read_icons(job, [&](std::size_t number, picture drawn, exported_icon& icon) {
         icon.file = png_name(job.wanted.stem, number);
         icon.last_column = last_set_column(drawn);
-        write_output(job, *icon.file, png_at_scale(job, drawn));
+        cells += cells_of(drawn);
+        pictures.push_back({*icon.file, std::move(drawn)});
+        if (cells < max_cells) return;
+        write_pictures(job, pictures);
+        cells = 0;
       });
+  write_pictures(job, pictures);
   write_output(job, job.wanted.stem + u8".json", json_of(exported));
 }
 
