@@ -103,25 +103,28 @@ heading() {
 }
 
 programs() {
-  row 'index of 32,768 records; `tar -tf`' 0.3 ms 1000 job index names -- list_names
+  row 'index of 32,768 records; `tar -tf`' 0.1 ms 1000 job index names -- list_names
   row 'compare 32,767 names; `sort` and `comm`' 1.0 ms 1000 job compare names -- sort_and_comm
   row 'extract 4,000 files, 64 MB; `tar -xf`' 1.0 ms 1000 in_new_folder job extract archive -- untar
-  row 'the same; a bare loop of system calls' 1.25 ms 1000 in_new_folder job extract archive -- \
+  row 'the same; a bare loop of system calls' 1.08 ms 1000 in_new_folder job extract archive -- \
     in_new_folder bare_copy extract archive
   row 'build from the same; `tar -cf`' 1.0 ms 1000 without_archive job build files -- tar_up
-  row 'the same; a bare loop of system calls' 1.25 ms 1000 without_archive job build files -- \
+  row 'the same; a bare loop of system calls' 1.08 ms 1000 without_archive job build files -- \
     without_archive bare_copy build files
 }
 
 scripts() {
-  row '`ostrane-dat extract` of 4,000 files, 64 MB; `tar -xf`' 1.0 ms 1000 \
+  row '`ostrane-dat extract` of 4,000 files, 64 MB; `tar -xf`' 0.8 ms 1000 \
     in_new_folder dat extract "$data/archive/ostrane.dat" -d "$data/archive/out" -- untar
-  row '`build` from the same; `tar -cf`' 1.0 ms 1000 without_archive dat build "$data/files" -- tar_up
+  row '`build` from the same; `tar -cf`' 0.95 ms 1000 without_archive dat build "$data/files" -- tar_up
   row '`list` of 32,767 names; `tar -tf`' 0.2 ms 1000 dat list "$data/names/ostrane.dat" -- list_names
-  row '`export` of 5,000 icons; a bare loop with libpng' 1.2 ms 1000 export_pictures -- bare_export
-  row '`import` of them; a bare loop with libpng' 1.5 ms 1000 \
+  row '`export` of 5,000 icons; a bare loop with libpng' 0.5 ms 1000 export_pictures -- bare_export
+  row '`import` of them; a bare loop with libpng' 0.5 ms 1000 \
     dat import "$data/png" -o "$data/new.shp" --palette "$data/pictures/ostrane.dat" -- \
     printed "$bin/bench_bare_png" read "$data/png"
+  row "the same; that loop on $(nproc) threads" '' ms 1000 \
+    dat import "$data/png" -o "$data/new.shp" --palette "$data/pictures/ostrane.dat" -- \
+    printed "$bin/bench_bare_png" read "$data/png" "$(nproc)"
 }
 
 windows() { # PLATFORM
@@ -129,18 +132,34 @@ windows() { # PLATFORM
   row "series of 300 icons, $on; painted once" 1.5 ms 1000 window icons "$data/icons" 300 -- bare icons 300
   row "series of 999 icons, $on; of 500" 2.2 ms 1000 window icons "$data/icons" 999 -- \
     window icons "$data/icons" 500
-  row "32 KB of text, $on; \`setPlainText\`" 1.5 ms 1000 window text "$data/icons" -- \
+  row "32 KB of text, $on; \`setPlainText\`" 1.0 ms 1000 window text "$data/icons" -- \
     bare text "$data/icons/long.txt"
-  row "start to window, $on; empty window" 1.3 ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
+  row "start to window, $on; empty window" '' ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
     wall "$bin/bench_bare_qt" start
-  row "the same; a window with a word in it, $on" '' ms 1000 \
+  row "the same; a window with a word in it, $on" 1.1 ms 1000 \
     wall "$bin/bench_window" start "$data/icons" -- wall "$bin/bench_bare_qt" label
-  row "memory then, $on; empty window" 1.5 MB 1024 memory_of "$bin/bench_window" start "$data/icons" -- \
+  row "memory then, $on; empty window" '' MB 1024 memory_of "$bin/bench_window" start "$data/icons" -- \
     memory_of "$bin/bench_bare_qt" start
-  row "extract, with the window, $on; \`tar -xf\`" 1.5 ms 1000 \
+  row "the same; a window with a word in it, $on" 1.15 MB 1024 \
+    memory_of "$bin/bench_window" start "$data/icons" -- memory_of "$bin/bench_bare_qt" label
+  row "extract, with the window, $on; \`tar -xf\`" 1.05 ms 1000 \
     in_new_folder window extract "$data/archive" -- untar
-  row "build, with the window, $on; \`tar -cf\`" 1.7 ms 1000 \
+  row "build, with the window, $on; \`tar -cf\`" 1.15 ms 1000 \
     without_archive window build "$data/files" -- tar_up
+}
+
+# The most memory of a command, for an archive of the largest size beside the smallest.
+memory_row() { # COMMAND SMALLEST SIZE
+  row "memory of \`$1\`: ${3/-/ }; ${2/-/ }" 1.1 MB 1024 "memory_$1" "$data/growth/$3" -- \
+    "memory_$1" "$data/growth/$2"
+}
+memory_dat() { memory_of "$bin/bench_memory_of" "$bin/ostrane-dat" "$@"; }
+memory_build() { memory_dat build "$1" -o "$1.dat"; }
+memory_check() { memory_dat check "$1.dat"; }
+memory_diff() { memory_dat diff "$1.dat" "$1.dat"; }
+memory_extract() {
+  rm -rf "$data/growth/out"
+  memory_dat extract "$1.dat" -d "$data/growth/out"
 }
 
 # grow COMMAND SMALLEST SIZE...: a row for each size beside the smallest one. The goal is linear growth
@@ -172,6 +191,7 @@ growth() {
     grow "$command" 1000-files 10000-files 32766-files
   done
   for command in build check extract; do grow "$command" "${sizes[@]}"; done
+  for command in build check diff extract; do memory_row "$command" 64-MB "${sizes[-1]}"; done
 }
 
 # Needs a window manager: without one no window is active.
@@ -188,7 +208,7 @@ in_process() {
     tr -d '"' | awk -F, '$1 ~ /_median$/ {sub("_median", "", $1); print $1, $3 / 1000}' >"$data/in_process"
   of() { awk -v name="$1" '$1 == name {print $2}' "$data/in_process"; }
   in_process_row() { line "$1" "$(of "$2")" "$(of "$3")" "$4" ms; }
-  in_process_row 'index of 32,768 records; `fread` and splitting' read_index_into_list fread_and_split 3
+  in_process_row 'index of 32,768 records; `fread` and splitting' read_index_into_list fread_and_split 1.6
   in_process_row '5,000 icons from the file; libpng' decode_icons_from_file libpng_from_file 0.25
   in_process_row 'their streams alone; `memset`' decode_streams_in_memory memset_of_the_pixels 8
   in_process_row 'the same; a bare loop' decode_streams_in_memory bare_loop_over_streams ''
