@@ -239,7 +239,7 @@ static void expect_picture(QWidget& window, const QString& name) {
     if (std::abs(qGray(seen.pixel(at)) - qGray(kept.pixel(at))) > 40) ++different;
   }
   EXPECT_LE(different, 20) << path.toStdString();
-  if (different > 20) seen.save(QStringLiteral("different_") + name);
+  if (different > 20) seen.save(QCoreApplication::applicationDirPath() + "/different_" + name);
 }
 
 TEST_F(Desktop, FormsMatchTheGoldenPictures) {
