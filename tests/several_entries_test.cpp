@@ -62,27 +62,30 @@ TEST_F(several_entries_test, WritesTheSelectedEntries) {
   const auto drag_other = [] { user::drag_rows(Form1.List1, 3); };
   EXPECT_EQ(Form1.keys[8].name, "Ctrl+E");
   const std::string kept =
-      "These entries were not extracted:\n>N.TXT<: the folder holds a file of this name";
-  const std::tuple<std::function<void()>, bool, std::string, texts> cases[] = {
-      {extract, false, "F1.SHP N.TXT ", {}},
-      {press, false, "F1.SHP N.TXT ", {}},
-      {drag, false, "F1.SHP N.TXT ", {}},
-      {drag_other, false, "F2.SHP ", {}},
-      {extract, true, "F1.SHP N.TXT ", {kept}},
+      "These entries were not extracted:\n>N.TXT<: its file cannot be made: it is there already";
+  const std::string no_icons =
+      "The pictures were exported, with these exceptions:\n>N.TXT<: it is no icon file";
+  const std::tuple<std::function<void()>, std::string, std::string, texts> cases[] = {
+      {extract, "", "F1.SHP N.TXT ", {}},
+      {press, "", "F1.SHP N.TXT ", {}},
+      {drag, "", "F1.SHP N.TXT ", {}},
+      {drag_other, "", "F2.SHP ", {}},
+      {extract, "N.TXT", "F1.SHP N.TXT ", {kept}},
+      {export_all, "", "F1-0001.png F1-0002.png F1.json ", {no_icons}},
       {export_all,
-       false,
-       "F1-0001.png F1-0002.png F1.json ",
-       {"The pictures were exported, with these exceptions:\n>N.TXT<: it is no icon file"}},
+       "F1-0002.png",
+       "F1-0002.png ",
+       {no_icons + "\n>F1.SHP<: D:\\out\\F1-0002.png cannot be written: it is there already."}},
   };
-  for (const auto& [act, exists, written, messages] : cases) {
+  for (const auto& [act, existing, written, messages] : cases) {
     fs::remove_all(disk_path("D:\\out"));
     make_folder("D:\\out");
-    if (exists) write("D:\\out\\N.TXT", "old");
+    if (!existing.empty()) write("D:\\out\\" + existing, "old");
     user::select_rows(Form1.List1, {1, 2, 4});
     act();
     EXPECT_EQ(names(), written);
     EXPECT_EQ(new_messages(), messages);
-    EXPECT_TRUE(!exists || read("D:\\out\\N.TXT") == "old");
+    EXPECT_TRUE(existing.empty() || read("D:\\out\\" + existing) == "old");
   }
 }
 

@@ -7,7 +7,6 @@
 #include "command/outputs.h"
 #include "command/program.h"
 #include "data/data_error.h"
-#include "data/entry_file_name.h"
 #include "data/extraction.h"
 #include "files/code_page.h"
 #include "files/file_writer.h"
@@ -23,51 +22,43 @@ struct extraction_job {
   std::vector<bool> chosen = {};
 };
 
-int report_skipped_entries(const extraction_result& result) {
+void report_faults(const extraction_result& result) {
   for (const skipped_file& entry : result.skipped) {
     print_error({files::to_utf8(entry.name), "not extracted: " + entry.reason});
   }
-  if (result.stopped) {
-    print_error(result.stopped);
-    return status_failed;
-  }
-  if (result.skipped.empty()) return status_done;
-  return result.written == 0 ? status_failed : status_differs;
+  if (result.stopped) print_error(result.stopped);
 }
 
-// A dry run only names the files, except those that are skipped.
-bool is_wanted(const extraction_job& job, files::case_insensitive_lookup& names, std::size_t i) {
-  const std::string name = name_with_blanks(job.index.records[i].name);
-  if (!job.chosen[i] || !is_dry_run() || !unsafe_name_reason(name).empty()) return job.chosen[i];
-  return begin_write(file_in(job.options.folder, name, names).shown);
+int status_of(const extraction_result& result) {
+  if (!result.stopped && result.skipped.empty()) return status_done;
+  return result.stopped || result.written == 0 ? status_failed : status_differs;
 }
 
 int extract_to_folder(extraction_job& job) {
   make_folder(job.options.folder);
   files::case_insensitive_lookup names;
-  const extraction_result result = extract_entries(
-      job.archive, job.index.records,
-      [&](const std::string& name) {
-        files::file_path target = file_in(job.options.folder, name, names);
-        begin_write(target.shown);
-        return target;
-      },
-      shown_progress(job.index.records.size()),
-      {.is_wanted = [&](std::size_t number) { return is_wanted(job, names, number); },
-       .entries_are_adjacent = false,
-       .replaces_atomically = !job.options.overwrites,
-       .truncates = true});
-  return report_skipped_entries(result);
+  const extraction_result result =
+      extract_entries(job.archive, job.index.records,
+                      [&](const std::string& name) {
+                        files::file_path target = file_in(job.options.folder, name, names);
+                        begin_write(target.shown);
+                        return target;
+                      },
+                      shown_progress(job.index.records.size()),
+                      {.is_wanted = [&job](std::size_t number) { return job.chosen[number]; },
+                       .entries_are_adjacent = false,
+                       .rules = {.mode = job.options.overwrites ? files::write_mode::in_place
+                                                                : files::write_mode::atomic},
+                       .truncates = true,
+                       .is_dry_run = is_dry_run()});
+  report_faults(result);
+  return status_of(result);
 }
 
 void copy_entry(extraction_job& job, std::size_t entry, files::binary_file& to) {
-  const std::int64_t start = job.index.records[entry].offset;
-  std::int64_t left = job.index.records[entry + 1].offset - start;
-  if (start < 0 || left < 0 || start + left > job.index.stamp.size) {
-    throw data_error(files::to_utf8(name_with_blanks(job.index.records[entry].name)),
-                     "is not contained in the archive with all its bytes.");
-  }
-  job.archive.seek(start);
+  const entry_range range = whole_entry(job.index, entry);
+  std::int64_t left = size_of(range);
+  job.archive.seek(range.start);
   while (left > 0) {
     check_interruption();
     const std::size_t moved = to.write_from(job.archive, static_cast<std::size_t>(left));

@@ -9,7 +9,6 @@
 #include "data/entry_file_name.h"
 #include "data/entry_range.h"
 #include "files/failure.h"
-#include "files/file_writer.h"
 
 namespace ostrane {
 
@@ -57,9 +56,14 @@ bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
 
 // Returns why the entry was not written, or "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
-  const auto mode =
-      job.choice.replaces_atomically ? files::write_mode::atomic : files::write_mode::in_place;
-  files::file_writer to(job.file, job.target(name), {.mode = mode, .source = job.stamp.identity});
+  files::write_rules rules = job.choice.rules;
+  rules.source = job.stamp.identity;
+  const files::file_path target = job.target(name);
+  if (job.choice.is_dry_run) {
+    require_writable(target, rules);
+    return "";
+  }
+  files::file_writer to(job.file, target, rules);
   // In place an empty entry leaves the file as it is.
   const bool changes_file = to.is_new() || size > 0;
   if (!to.is_new() && changes_file) report_overwritten(job, to.old_file());

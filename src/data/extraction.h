@@ -10,6 +10,7 @@
 #include "data/skipped_file.h"
 #include "files/binary_file.h"
 #include "files/failure.h"
+#include "files/file_writer.h"
 
 namespace ostrane {
 
@@ -29,9 +30,9 @@ struct extraction_choice {
   // Each entry begins where the previous one ends, whatever its own offset is. Requires that all
   // entries are wanted.
   bool entries_are_adjacent = true;
-  // Otherwise an existing file is overwritten from its first byte and not truncated.
-  bool replaces_atomically = false;
-  bool truncates = false;  // an existing file that is overwritten
+  files::write_rules rules = {.mode = files::write_mode::in_place};  // besides the source
+  bool truncates = false;   // an existing file that is overwritten
+  bool is_dry_run = false;  // the files are only looked at
 };
 
 // Writes the wanted entries of an open archive, each to its own file. A full disk, a lack of memory

@@ -30,6 +30,7 @@ struct icon_export {
   std::u8string stem = {};  // prefix of the file names
   int pace = 10;            // hundredths of a second per picture
   int scale = 1;            // pixels per cell
+  bool replaces = true;     // otherwise nothing is written if one of the files exists
   // The range of icons, 1-based and inclusive.
   std::size_t first = 1;
   std::size_t last = max_icons_per_file;

@@ -58,6 +58,7 @@ void require_other(const file_path& target, const file_identity& identity,
 file_info require_writable(const file_path& target, const write_rules& rules) {
   file_info old;
   if (system_calls.info_at(target.system, old) < 0) return {};
+  if (!rules.replaces) fail(target.shown, file_action::write, -EEXIST);
   require_other(target, old.stamp.identity, rules);
   if (old.is_link || (old.is_file && rules.replaces_read_only)) return old;
   const int opened = system_calls.open_to_write(target.system);
@@ -94,7 +95,7 @@ file_writer::file_writer(binary_file& file, file_path target, const write_rules&
   }
   const int created = create(target_.system, false);
   // Windows tells at once that the name is that of a folder.
-  if (created != -EEXIST && created != -EISDIR) {
+  if ((created != -EEXIST && created != -EISDIR) || !rules_.replaces) {
     own(created);
   } else if (rules_.mode == write_mode::in_place) {
     overwrite();

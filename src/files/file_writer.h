@@ -19,6 +19,7 @@ enum class write_mode : std::uint8_t {
 struct write_rules {
   write_mode mode = write_mode::atomic;
   file_identity source = {};        // of the file that is read; it is never written to
+  bool replaces = true;             // otherwise whatever exists is refused
   bool replaces_read_only = false;  // otherwise a read-only file is refused
   // The new file also replaces all files whose names differ from its own in case only.
   bool is_only_spelling = false;
@@ -77,8 +78,9 @@ class file_writer {
   bool is_new_ = true;
 };
 
-// Throws file_error if the file at `target` exists and must not be written: if it is neither a
-// regular file nor a link, if it is read-only, or if it is the source. Returns what is there.
+// Throws file_error if the file at `target` exists and must not be written: if nothing is to be
+// replaced, if it is neither a regular file nor a link, if it is read-only, or if it is the source.
+// Returns what is there.
 file_info require_writable(const file_path& target, const write_rules& rules = {});
 
 // Writes a file of these bytes with `file`, which any number of files can share. Throws file_error.

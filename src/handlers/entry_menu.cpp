@@ -28,7 +28,7 @@ extraction_result extract_to(const std::filesystem::path& path) {
                          [&path](const std::string&) { return files::from_system_path(path); }, {},
                          {.is_wanted = [wanted](std::size_t index) { return index == wanted; },
                           .entries_are_adjacent = false,
-                          .replaces_atomically = true});
+                          .rules = {.mode = files::write_mode::atomic}});
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
-#include <system_error>
 
 #include "archive/extract_rows.h"
 #include "archive/skipped_files.h"
@@ -41,16 +40,12 @@ void export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_fi
     skipped.push_back({name, "it is no icon file"});
     return;
   }
-  icon_export wanted = {.entry = name, .stem = files::to_utf8(proposed_stem(row))};
+  icon_export wanted = {
+      .entry = name, .stem = files::to_utf8(proposed_stem(row)), .replaces = false};
   wanted.target = [&folder](const std::u8string& file) {
     return files::from_system_path(folder / file);
   };
   wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({name, reason}); };
-  std::error_code failed;
-  if (fs::exists(folder / (wanted.stem + u8".json"), failed)) {
-    skipped.push_back({name, "the folder holds its pictures"});
-    return;
-  }
   export_entry(wanted, row);
 }
 

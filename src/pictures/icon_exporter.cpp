@@ -34,11 +34,15 @@ struct icon_export_job {
 
 std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns()} * drawn.rows(); }
 
+files::write_rules rules_of(const icon_export_job& job) {
+  return {.source = job.stamp.identity, .replaces = job.wanted.replaces};
+}
+
 void write_output(icon_export_job& job, const std::u8string& name, std::string_view bytes) {
   require_unchanged(job.archive, job.stamp, "export");
   const files::file_path target = job.wanted.target(name);
   if (job.wanted.on_file && !job.wanted.on_file(target)) return;
-  files::write_bytes(job.output, target, bytes, {.source = job.stamp.identity});
+  files::write_bytes(job.output, target, bytes, rules_of(job));
 }
 
 // No file may be the archive or one that must not be replaced. Checked before any is written.
@@ -47,7 +51,7 @@ void require_writable_files(const icon_export_job& job) {
   const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
   const std::size_t last = std::min(wanted.last, from.positions.size());
   for (const std::u8string& name : exported_files(wanted.form, wanted.stem, wanted.first, last)) {
-    require_writable(wanted.target(name), {.source = job.stamp.identity});
+    require_writable(wanted.target(name), rules_of(job));
   }
 }
 
