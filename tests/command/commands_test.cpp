@@ -29,6 +29,7 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
   write_bytes("empty.dat", archive_bytes({}));
   // Its name looks like UTF-8.
   write_bytes("u.dat", archive_bytes({{"\xC3\xA9/", "1"}}));
+  write_bytes("half.dat", archive_bytes({{"A", "1"}, {"..", "1"}}));
   // Both entries exceed the archive.
   write_bytes("names.dat", archive_bytes({{"S", "1"}, {"NO", "2"}}).substr(0, 55));
   const std::string error = "ostrane-dat: ";
@@ -89,9 +90,12 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"rename a.dat A.TXT ABCDEFGHIJKLMN", 2,
        error + "ABCDEFGHIJKLMN: is longer than 13 characters.\n"},
       {"remove -n a.dat A.TXT", 0,
-       error + "A.TXT: is removed\n" + error + "a.dat: would be written\n"},
+       error + "a.dat: would be written\n" + error + "A.TXT: is removed\n"},
       {"extract -n a.dat A.TXT -d dry", 0,
        error + (fs::path("dry") / "A.TXT").string() + ": would be written\n"},
+      {"extract -n half.dat * -d dry", 1,
+       error + (fs::path("dry") / "A").string() + ": would be written\n" + error +
+           "..: not extracted: its name means a folder\n"},
       {"add a.dat \xC3\xA4\xE2\x82\xAC.txt", 0, ""},
       {"remove a.dat *.txt", 0, ""},
       {"list a.dat", 0, "Z\xC3\x84.DAT\n"},
