@@ -29,7 +29,7 @@ void store_records(const std::vector<dat_record>& records) {
 
 // Makes this archive the open one. If it differs from the previous one, the shown icons have no
 // next series.
-void store_stamp(const files::file_stamp& stamp) {
+void mark_open(const files::file_stamp& stamp) {
   if (stamp != tool_state.archive_stamp) tool_state.directory_index = -1;
   tool_state.archive_stamp = stamp;
   tool_state.archive_is_open = flag_true;
@@ -38,7 +38,7 @@ void store_stamp(const files::file_stamp& stamp) {
 void read_index() {
   const archive_index index = read_archive_index(files::to_file_path(tool_state.archive_path));
   store_records(index.records);
-  store_stamp(index.stamp);
+  mark_open(index.stamp);
 }
 
 // Returns false after a message.

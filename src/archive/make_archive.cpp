@@ -37,7 +37,7 @@ struct build_job {
 void list_files(build_job& job) {
   for (std::int32_t i = 0; i < Form5.File1.ListCount(); ++i) {
     const std::string& name = Form5.File1.List(i);
-    if (files::lower_case(name) == "ostrane.dat") continue;
+    if (is_archive_name(name)) continue;
     job.archive.entries.push_back(source_of_file(name, {{}, files::to_utf8(job.folder + name)}));
   }
 }
@@ -109,19 +109,9 @@ std::string left_out_text(build_job& job) {
                                                      : "it came after the files were listed";
   for (const files::unlisted_file& file : files::unlisted_files_in(
            files::to_file_path(job.folder, job.names), file_paths(job.archive), unknown)) {
-    if (files::upper_case(file.name) != archive_name) left_out.push_back({file.name, file.reason});
+    if (!is_archive_name(file.name)) left_out.push_back({file.name, file.reason});
   }
   return skipped_files_text(left_out, "\nThese files are not in the new Ostrane.dat:");
-}
-
-std::string equal_names_text(const new_archive& archive) {
-  std::vector<skipped_file> equal;
-  for (const auto& [index, earlier] : equal_names(archive.entries)) {
-    equal.push_back({archive.entries[index].shown_name, "its entry has the same name as that of " +
-                                                            archive.entries[earlier].shown_name});
-  }
-  return skipped_files_text(equal,
-                            "\nThese entries of the new Ostrane.dat have the name of another:");
 }
 
 void report_files(build_job& job) {
@@ -129,7 +119,9 @@ void report_files(build_job& job) {
   if (!failure.empty()) {
     job.report = "\nThe files that are not in the new Ostrane.dat could not be listed: " + failure;
   }
-  job.report += equal_names_text(job.archive);
+  job.report +=
+      skipped_files_text(entries_of_equal_names(job.archive),
+                         "\nThese entries of the new Ostrane.dat have the name of another:");
 }
 
 void run(build_job& job) {

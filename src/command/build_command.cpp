@@ -26,7 +26,7 @@ struct build_job {
 // means the file that it leads to.
 bool is_target(const build_job& job, const std::string& name, const fs::path& path) {
   const std::string& named = job.options.archive;
-  return files::upper_case(name) == archive_name || (!named.empty() && is_same_file(named, path));
+  return is_archive_name(name) || (!named.empty() && is_same_file(named, path));
 }
 
 // Only an old archive may be both in the folder and the target.
@@ -45,7 +45,7 @@ void list_files(build_job& job) {
     const fs::path path = job.folder.system / files::system_name(name);
     if (!is_target(job, name, path)) {
       job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
-    } else if (files::upper_case(name) != archive_name) {
+    } else if (!is_archive_name(name)) {
       require_archive(job, path);
     }
   }
@@ -82,10 +82,8 @@ int report_files(const build_job& job) {
                                      "in it could not be listed."});
     status = status_differs;
   }
-  for (const auto& [index, earlier] : equal_names(job.archive.entries)) {
-    print_error(
-        {files::to_utf8(job.archive.entries[index].shown_name),
-         "its entry has the same name as that of " + job.archive.entries[earlier].shown_name});
+  for (const skipped_file& entry : entries_of_equal_names(job.archive)) {
+    print_error({files::to_utf8(entry.name), entry.reason});
     status = status_differs;
   }
   return status;

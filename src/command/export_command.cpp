@@ -30,7 +30,7 @@ struct entries_export {
   files::file_stamp stamp = {};  // of the archive
   rgb_palette palette = {};
   files::binary_file output = {};
-  std::size_t skipped = 0;  // entries without any file
+  std::size_t skipped = 0;  // entries that are not exported or not completely
   int status = status_done;
 };
 
@@ -47,13 +47,13 @@ picture_form form_named(const std::string& name) {
   return name == "gif" ? picture_form::gif : picture_form::png;
 }
 
-void note(entries_export& job, const exported_entry& entry, const std::string& reason) {
+void report(entries_export& job, const exported_entry& entry, const std::string& reason) {
   print_error({files::to_utf8(entry.name), reason});
   job.status = status_differs;
 }
 
 void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
-  note(job, entry, reason);
+  report(job, entry, reason);
   ++job.skipped;
 }
 
@@ -83,7 +83,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .pace = options.pace,
        .scale = options.scale,
        .target = [&](const std::u8string& name) { return target_of(job, name); },
-       .on_skipped = [&](const std::string& reason) { note(job, entry, reason); },
+       .on_skipped = [&](const std::string& reason) { report(job, entry, reason); },
        .on_file = [](const files::file_path& target) { return begin_write(target.shown); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});

@@ -110,7 +110,7 @@ std::unique_ptr<old_icons> find_old_icons(const import_options& options, const i
   const auto& records = game.index.records;
   const std::string wanted = files::compare_key(files::from_utf8_lossy(plan.entry));
   for (std::size_t i = 0; !wanted.empty() && i + 1 < records.size(); ++i) {
-    if (files::compare_key(name_with_blanks(records[i].name)) != wanted) continue;
+    if (name_key(records[i].name) != wanted) continue;
     return std::make_unique<old_icons>(
         game.file, read_icon_file(game.file, records[i].offset, records[i + 1].offset));
   }

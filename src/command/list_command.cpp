@@ -32,9 +32,10 @@ using descriptions = std::unordered_map<std::string, std::u8string>;
 // The first row of a name wins.
 descriptions read_descriptions(const list_options& options) {
   descriptions found;
-  const files::file_path installed = {files::program_folder() / "iconlist.csv", u8"iconlist.csv"};
-  const files::file_path chosen =
-      options.icon_names.empty() ? installed : named_input(options.icon_names);
+  const files::file_path chosen = options.icon_names.empty()
+                                      ? icon_names_in(files::program_folder())
+                                      : named_input(options.icon_names);
+  // Only the installed file may be missing.
   if (!options.icon_names.empty()) files::binary_file().open_to_read(chosen);
   const auto rows = read_icon_names(chosen);
   for (const icon_name_pair& row : rows) {
@@ -90,7 +91,7 @@ std::vector<std::size_t> ordered_entries(const archive_index& index, const std::
   if (order == "name") {
     std::vector<std::string> keys;
     for (const std::size_t i : entries) {
-      keys.push_back(files::compare_key(name_with_blanks(index.records[i].name)));
+      keys.push_back(name_key(index.records[i].name));
     }
     sort_by([&](std::size_t i) -> const std::string& { return keys[i]; });
   } else if (order == "size") {
@@ -135,6 +136,15 @@ std::string json_of(const entry_row& entry) {
 }
 
 // With several archives each row names its own.
+void print_json(const entry_row& row, const std::string* archive, bool is_first) {
+  print(is_first ? "[\n  " : ",\n  ");
+  std::string json = json_of(row);
+  if (archive != nullptr) {
+    json.insert(1, "\"archive\":" + json_string(files::as_utf8(*archive)) + ",");
+  }
+  print(json);
+}
+
 void print_archive(const list_options& options, const std::string& argument,
                    const descriptions& known, bool& is_first) {
   const files::file_path archive = named_input(argument);
@@ -153,12 +163,7 @@ void print_archive(const list_options& options, const std::string& argument,
       print_line(prefix + long_line(row));
       continue;
     }
-    print(std::exchange(is_first, false) ? "[\n  " : ",\n  ");
-    std::string json = json_of(row);
-    if (!is_one) {
-      json.insert(1, "\"archive\":" + json_string(files::as_utf8(argument)) + ",");
-    }
-    print(json);
+    print_json(row, is_one ? nullptr : &argument, std::exchange(is_first, false));
   }
 }
 
@@ -175,8 +180,9 @@ int list(const list_options& options) {
     print_error(failed);
     ++unread;
   }
-  if (unread == options.archives.size()) return status_failed;
-  if (options.is_json) print(is_first ? "[\n]\n" : "\n]\n");
+  const bool is_failed = unread == options.archives.size();
+  if (options.is_json && !(is_failed && is_first)) print(is_first ? "[\n]\n" : "\n]\n");
+  if (is_failed) return status_failed;
   return unread == 0 ? status_done : status_differs;
 }
 

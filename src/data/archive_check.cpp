@@ -54,8 +54,7 @@ void check_ends(const archive_check& check) {
     check.report("", "its index has no end record");
     return;
   }
-  const std::int64_t after_index =
-      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
+  const std::int64_t after_index = index_size(std::ssize(check.records));
   const std::int64_t gap = start_of(check, 0) - after_index;
   if (gap > 0) {
     check.report("", "it has " + counted(gap, "byte") + " between its index and the first entry");
@@ -87,8 +86,7 @@ void check_names(const archive_check& check) {
 }
 
 void check_offsets(const archive_check& check) {
-  const std::int64_t after_index =
-      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(check.records.size());
+  const std::int64_t after_index = index_size(std::ssize(check.records));
   for (std::size_t i = 0; i < entry_count(check); ++i) {
     const std::string name = shown_name(check, i);
     const std::int64_t start = start_of(check, i);

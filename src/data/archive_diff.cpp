@@ -108,9 +108,7 @@ std::vector<entry_difference> diff_archives(const files::file_path& old_archive,
   open(job.new_side, new_archive);
   const auto& old_records = job.old_side.index.records;
   const auto& new_records = job.new_side.index.records;
-  const auto key_of = [](const dat_record& record) {
-    return files::compare_key(name_with_blanks(record.name));
-  };
+  const auto key_of = [](const dat_record& record) { return name_key(record.name); };
   std::unordered_map<std::string, std::vector<std::size_t>> in_new;  // the last one first
   for (std::size_t i = new_records.size(); i-- > 1;) {
     in_new[key_of(new_records[i - 1])].push_back(i - 1);

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "files/code_page.h"
 #include "files/little_endian.h"
 #include "files/text.h"
 
@@ -27,5 +28,9 @@ std::string name_with_blanks(const record_name& name) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return std::string(files::trimmed(text));
 }
+
+std::string name_key(const record_name& name) { return files::compare_key(name_with_blanks(name)); }
+
+bool is_archive_name(std::string_view name) { return files::upper_case(name) == archive_name; }
 
 }  // namespace ostrane

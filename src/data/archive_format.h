@@ -6,6 +6,7 @@
 #include <cstring>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "files/little_endian.h"
 
@@ -31,6 +32,11 @@ constexpr std::int32_t max_records = 32768;
 constexpr std::size_t max_files = 32766;  // and the end record
 static_assert(record_size == 4 + name_size);
 
+// Bytes before the first entry of an archive with `records` records.
+constexpr std::int64_t index_size(std::int64_t records) {
+  return count_size + record_size * records;
+}
+
 using record_name = std::array<char, name_size>;
 
 struct dat_record {
@@ -53,5 +59,12 @@ std::string name_without_nuls(const record_name& name);
 
 // Replaces every NUL character by a blank and trims the name. Extracted files get this name.
 std::string name_with_blanks(const record_name& name);
+
+// Entries have the same name if these keys are equal. They are sorted by them.
+std::string name_key(const record_name& name);
+
+constexpr const char* archive_name = "OSTRANE.DAT";
+// Ignores case.
+bool is_archive_name(std::string_view name);
 
 }  // namespace ostrane

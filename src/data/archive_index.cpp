@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "files/code_page.h"
 #include "files/little_endian.h"
 
 namespace ostrane {
@@ -22,7 +23,7 @@ std::int32_t read_count(files::binary_file& file, const files::file_path& path) 
                      " as the number of its records, which is from 0 to " +
                      std::to_string(max_records) + ".");
   }
-  if (file.size() < count_size + std::int64_t{record_size} * count) {
+  if (file.size() < index_size(count)) {
     refuse(path, "it ends before the last of its " + std::to_string(count) + " records.");
   }
   return count;
@@ -55,13 +56,21 @@ archive_index read_archive_index(files::binary_file& file, const files::file_pat
 }
 
 bool is_sound(const archive_index& index) {
-  std::int64_t least =
-      count_size + std::int64_t{record_size} * static_cast<std::int64_t>(index.records.size());
+  std::int64_t least = index_size(std::ssize(index.records));
   for (const dat_record& record : index.records) {
     if (record.offset < least) return false;
     least = record.offset;
   }
   return !index.records.empty() && least <= index.stamp.size;
+}
+
+entry_range whole_entry(const archive_index& index, std::size_t entry) {
+  const entry_range range = range_of(index.records, static_cast<std::int32_t>(entry));
+  if (range.start < 0 || range.end < range.start || range.end > index.stamp.size) {
+    throw data_error(files::to_utf8("The entry " + name_with_blanks(index.records[entry].name)),
+                     "is not contained in the archive with all its bytes.");
+  }
+  return range;
 }
 
 void open_unchanged(files::binary_file& file, const files::file_path& path,

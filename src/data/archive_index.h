@@ -5,6 +5,7 @@
 
 #include "data/archive_format.h"
 #include "data/data_error.h"
+#include "data/entry_range.h"
 #include "files/binary_file.h"
 
 namespace ostrane {
@@ -30,13 +31,16 @@ archive_index read_archive_index(files::binary_file& file, const files::file_pat
 // file of another format practically never has such an index.
 bool is_sound(const archive_index& index);
 
+// The range of an entry. Throws data_error unless the archive has all of its bytes.
+entry_range whole_entry(const archive_index& index, std::size_t entry);
+
 // Opens an archive to read entries. Throws archive_changed if its stamp has changed, and
 // file_error.
 void open_unchanged(files::binary_file& file, const files::file_path& path,
                     const files::file_stamp& stamp);
 
-// Throws data_error if an open archive was written to after it had this stamp. The message names
-// the job.
+// Throws archive_changed if an open archive was written to after it had this stamp. The message
+// names the job.
 void require_unchanged(files::binary_file& archive, const files::file_stamp& stamp,
                        const std::string& job);
 

@@ -7,6 +7,7 @@
 
 #include "data/chunk_ladder.h"
 #include "data/data_error.h"
+#include "data/entry_range.h"
 #include "data/new_index.h"
 #include "data/number_text.h"
 #include "files/code_page.h"
@@ -17,10 +18,6 @@ namespace ostrane {
 
 namespace {
 
-std::string key_of(const entry_source& entry) {
-  return files::compare_key(name_with_blanks(entry.name));
-}
-
 std::u8string shown(const entry_source& entry) {
   return entry.is_file() ? entry.file.shown : files::to_utf8("The entry " + entry.shown_name);
 }
@@ -28,13 +25,7 @@ std::u8string shown(const entry_source& entry) {
 std::int64_t size_of(const new_archive& archive, const entry_source& entry) {
   if (entry.content) return static_cast<std::int64_t>(entry.content->size());
   if (entry.is_file()) return files::file_size(entry.file);
-  const archive_index& old = archive.old->index;
-  const std::int64_t start = old.records[*entry.old_index].offset;
-  const std::int64_t size = old.records[*entry.old_index + 1].offset - start;
-  if (start < 0 || size < 0 || start + size > old.stamp.size) {
-    throw data_error(shown(entry), "is not contained in the archive with all its bytes.");
-  }
-  return size;
+  return size_of(whole_entry(archive.old->index, *entry.old_index));
 }
 
 // An archive of 0 records has no end record.
@@ -50,43 +41,38 @@ void refuse_other_bytes(const old_archive& old) {
                                        " that belong to no entry and would be lost.");
 }
 
-// Sets the records of a new archive, one for each entry and the end record.
+// Sets the records of a new archive.
 class index_maker {
  public:
-  explicit index_maker(new_archive& archive)
-      : archive_(archive), offset_(first_entry_offset(archive.entries.size())) {
+  explicit index_maker(new_archive& archive) : archive_(archive) {
     const std::size_t count = archive.entries.size();
     if (count > max_files) {
       throw data_error("The archive would have " + std::to_string(count) +
                        " entries. It can have at most " + std::to_string(max_files) + ".");
     }
     if (archive.old) refuse_other_bytes(*archive.old);
+    const bool has_old_end = archive.old && !archive.old->index.records.empty();
+    if (has_old_end) end_name_ = archive.old->index.records.back().name;
     archive.records.clear();
     archive.records.reserve(count + 1);
+    archive.records.push_back({first_entry_offset(count), end_name_});
   }
 
-  // Returns the size.
-  std::int32_t add(const entry_source& entry, std::int64_t size) {
-    archive_.records.push_back({static_cast<std::int32_t>(offset_), entry.name});
-    offset_ += size;
-    if (offset_ > INT32_MAX) {
+  // The end record moves after the entry.
+  void add(const entry_source& entry, std::int64_t size) {
+    dat_record& last = archive_.records.back();
+    if (last.offset + size > INT32_MAX) {
       throw data_error(shown(entry),
                        "does not fit: the archive would be larger than 2 GB, which is the most "
                        "that it can be.");
     }
-    return static_cast<std::int32_t>(size);
-  }
-
-  void end() {
-    const bool has_old_end = archive_.old && !archive_.old->index.records.empty();
-    archive_.records.push_back(
-        {static_cast<std::int32_t>(offset_),
-         has_old_end ? archive_.old->index.records.back().name : record_name{}});
+    last.name = entry.name;
+    archive_.records.push_back({static_cast<std::int32_t>(last.offset + size), end_name_});
   }
 
  private:
   new_archive& archive_;
-  std::int64_t offset_;  // of the next entry
+  record_name end_name_ = {};
 };
 
 struct writing {
@@ -98,19 +84,17 @@ struct writing {
   files::binary_file file = {};
 };
 
-// The size that the index has for an entry or, without one, that the entry has now.
-std::int32_t settle_size(writing& job, std::size_t i) {
-  const auto& records = job.archive.records;
-  if (!job.index) return records[i + 1].offset - records[i].offset;
-  const entry_source& entry = job.archive.entries[i];
-  return job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
-}
-
 void copy_entry(writing& job, std::size_t i) {
   const entry_source& entry = job.archive.entries[i];
-  if (!job.index && !entry.content) job.progress.before_file(i, settle_size(job, i));
+  const auto index = static_cast<std::int32_t>(i);
+  if (!job.index && !entry.content) {
+    job.progress.before_file(i, size_of(range_of(job.archive.records, index)));
+  }
   if (entry.is_file()) job.file.open_to_read(entry.file);
-  const std::int32_t size = settle_size(job, i);
+  if (job.index) {
+    job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
+  }
+  const std::int32_t size = size_of(range_of(job.archive.records, index));
   if (entry.content) {
     job.to.write(std::as_bytes(std::span(*entry.content)));
     return;
@@ -151,14 +135,14 @@ void add_files(new_archive& archive, const std::vector<entry_source>& files) {
   std::vector<std::string> keys;
   std::unordered_map<std::string, std::size_t> last_of_name;
   for (const entry_source& entry : archive.entries) {
-    last_of_name.insert_or_assign(key_of(entry), keys.size());
-    keys.push_back(key_of(entry));
+    last_of_name.insert_or_assign(name_key(entry.name), keys.size());
+    keys.push_back(name_key(entry.name));
   }
   std::map<std::string, entry_source> added;
   for (const entry_source& file : files) {
-    const auto replaced = last_of_name.find(key_of(file));
+    const auto replaced = last_of_name.find(name_key(file.name));
     if (replaced == last_of_name.end()) {
-      added.insert_or_assign(key_of(file), file);
+      added.insert_or_assign(name_key(file.name), file);
     } else {
       entry_source& entry = archive.entries[replaced->second];
       entry = {entry.name, file.shown_name, file.file};
@@ -179,8 +163,17 @@ std::vector<std::pair<std::size_t, std::size_t>> equal_names(
   std::vector<std::pair<std::size_t, std::size_t>> equal;
   std::unordered_map<std::string, std::size_t> known;
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    const auto [found, is_new] = known.emplace(key_of(entries[i]), i);
+    const auto [found, is_new] = known.emplace(name_key(entries[i].name), i);
     if (!is_new) equal.emplace_back(i, std::exchange(found->second, i));
+  }
+  return equal;
+}
+
+std::vector<skipped_file> entries_of_equal_names(const new_archive& archive) {
+  std::vector<skipped_file> equal;
+  for (const auto& [later, earlier] : equal_names(archive.entries)) {
+    equal.push_back({archive.entries[later].shown_name, "its entry has the same name as that of " +
+                                                            archive.entries[earlier].shown_name});
   }
   return equal;
 }
@@ -198,7 +191,6 @@ void make_index(new_archive& archive, const std::function<void(std::size_t)>& on
     if (on_entry) on_entry(i);
     index.add(archive.entries[i], size_of(archive, archive.entries[i]));
   }
-  index.end();
 }
 
 void write_archive_to(files::binary_file& to, new_archive& archive, const job_progress& progress) {
@@ -212,7 +204,6 @@ void write_archive_to(files::binary_file& to, new_archive& archive, const job_pr
   }
   for (std::size_t i = 0; i < archive.entries.size(); ++i) copy_entry(job, i);
   if (!job.index) return;
-  job.index->end();
   to.seek(0);
   write_index(job);
 }

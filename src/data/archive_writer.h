@@ -9,11 +9,10 @@
 
 #include "data/archive_index.h"
 #include "data/job_progress.h"
+#include "data/skipped_file.h"
 #include "files/file_writer.h"
 
 namespace ostrane {
-
-constexpr const char* archive_name = "OSTRANE.DAT";
 
 // What becomes an entry of a new archive: a file, an entry of the old archive, or other content.
 struct entry_source {
@@ -51,6 +50,9 @@ void add_files(new_archive& archive, const std::vector<entry_source>& files);
 // index of the latest such entry.
 std::vector<std::pair<std::size_t, std::size_t>> equal_names(
     const std::vector<entry_source>& entries);
+
+// Describes each of these entries of an archive.
+std::vector<skipped_file> entries_of_equal_names(const new_archive& archive);
 
 // Returns the native paths of the files that become entries.
 std::vector<std::filesystem::path::string_type> file_paths(const new_archive& archive);

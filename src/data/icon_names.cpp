@@ -1,5 +1,6 @@
 #include "data/icon_names.h"
 
+#include "files/case_insensitive_lookup.h"
 #include "files/failure.h"
 #include "files/text.h"
 #include "files/text_file.h"
@@ -28,6 +29,10 @@ std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
   });
   if (rows.size() < 2) rows.resize(2);
   return rows;
+}
+
+files::file_path icon_names_in(const std::filesystem::path& folder) {
+  return {files::case_insensitive_lookup().find(folder, "iconlist.csv"), u8"iconlist.csv"};
 }
 
 std::string icon_name_key(std::string_view entry_name) {

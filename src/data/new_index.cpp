@@ -22,7 +22,7 @@ record_name stored_name(record_name name) {
 }
 
 std::int32_t first_entry_offset(std::size_t files) {
-  return count_size + record_size * (static_cast<std::int32_t>(files) + 1);
+  return static_cast<std::int32_t>(index_size(static_cast<std::int64_t>(files) + 1));
 }
 
 std::string index_bytes(std::span<const dat_record> records) {

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "data/icon_names.h"
-#include "files/case_insensitive_lookup.h"
 #include "files/file_error.h"
 #include "files/text.h"
 #include "forms/forms.h"
@@ -66,9 +65,7 @@ void load_form1() {
   set_form2_to_drive_c();
   Form1.Text4.Text = default_interval_text;
   set_default_palette();
-  tool_state.icon_names =
-      read_icon_names({files::case_insensitive_lookup().find(tool_state.app_path, "iconlist.csv"),
-                       u8"iconlist.csv"});
+  tool_state.icon_names = read_icon_names(icon_names_in(tool_state.app_path));
   load_first_slots();
   tool_state.twips_per_pixel_x = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelX);
   tool_state.twips_per_pixel_y = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelY);

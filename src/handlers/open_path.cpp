@@ -32,7 +32,7 @@ std::string folder_of_archive(const fs::path& path) {
   std::error_code failed;
   const bool is_folder = fs::is_directory(whole, failed);
   const std::string name = files::as_bytes(whole.filename().u8string());
-  if (!is_folder && files::lower_case(name) != archive_file_name) return "";
+  if (!is_folder && !is_archive_name(name)) return "";
   const std::string folder = files::to_tool_path(is_folder ? whole : whole.parent_path());
   if (folder.empty()) return "";
   return files::file_exists(files::with_separator(folder) + archive_file_name) ? folder : "";

@@ -14,7 +14,8 @@ void start_motion();
 // The same, and after the last slot begins again. While such a motion runs, stops it.
 void loop_motion();
 
-// Tick of `Timer1`: shows the next slot of the stack; after the last one stops the timer.
+// Tick of `Timer1`, which the screen keeps: shows the next slot of the stack; after the last one
+// stops the timer.
 void step_motion();
 
 // Show the previous or the next slot of the stack, once a motion was started.
