@@ -21,8 +21,14 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t record_size = 17;
 
+#ifdef O_BINARY  // Windows
+constexpr int binary = O_BINARY;
+#else
+constexpr int binary = 0;
+#endif
+
 int open_file(const fs::path& path, int flags) {
-  const int file = open(path.c_str(), flags, 0644);
+  const int file = open(path.string().c_str(), flags | binary, 0644);
   if (file < 0) throw std::runtime_error("cannot open " + path.string());
   return file;
 }
@@ -31,9 +37,10 @@ int open_file(const fs::path& path, int flags) {
 void copy(int from, int to, std::size_t size) {
   static std::vector<char> buffer(std::size_t{1} << 18U);
   while (size > 0) {
-    const ssize_t got = read(from, buffer.data(), std::min(size, buffer.size()));
+    const auto wanted = static_cast<unsigned>(std::min(size, buffer.size()));
+    const auto got = read(from, buffer.data(), wanted);
     if (got <= 0) return;
-    if (write(to, buffer.data(), static_cast<std::size_t>(got)) != got) {
+    if (write(to, buffer.data(), static_cast<unsigned>(got)) != got) {
       throw std::runtime_error("cannot write");
     }
     size -= static_cast<std::size_t>(got);
@@ -52,7 +59,7 @@ void extract(const fs::path& folder) {
   if (read(archive, index.data(), 4) != 4) throw std::runtime_error("no index");
   const std::size_t count = number_at(index, 0);
   index.resize(record_size * count);
-  if (read(archive, index.data(), index.size()) < 0) throw std::runtime_error("no index");
+  if (read(archive, index.data(), static_cast<unsigned>(index.size())) < 0) throw std::runtime_error("no index");
   for (std::size_t i = 0; i + 1 < count; ++i) {
     const std::size_t at = i * record_size;
     const std::string name(reinterpret_cast<const char*>(index.data() + at + 4), 13);
@@ -73,7 +80,7 @@ void build(const fs::path& folder) {
   }
   const int archive = open_file(folder / "OSTRANE.DAT", O_WRONLY | O_CREAT | O_TRUNC);
   const std::vector<char> index(4 + record_size * (files.size() + 1), static_cast<char>(size));
-  if (write(archive, index.data(), index.size()) < 0) throw std::runtime_error("cannot write");
+  if (write(archive, index.data(), static_cast<unsigned>(index.size())) < 0) throw std::runtime_error("cannot write");
   for (const fs::path& path : files) {
     const int file = open_file(path, O_RDONLY);
     copy(file, archive, SIZE_MAX);

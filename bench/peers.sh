@@ -5,6 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
+. bench/rows.sh
 
 rounds=${1:-11}
 build=${OSTRANE_BUILD:-build-bench}
@@ -24,21 +25,6 @@ export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$data}  # else each program with Qt pr
 "$bin/bench_make_data" "$data"
 tar -C "$data/names/empty" -cf "$data/names.tar" .
 tar -C "$data/files" -cf "$data/files.tar" .
-
-# Each of these sets `took`, in microseconds.
-wall() {
-  local began=${EPOCHREALTIME/./}
-  "$@" >"$data/output"
-  took=$((${EPOCHREALTIME/./} - began))
-}
-printed() { # The program prints its microseconds, and its memory in KB.
-  "$@" >"$data/output"
-  read -r took memory <"$data/output"
-}
-memory_of() {
-  printed "$@"
-  took=$memory
-}
 
 in_new_folder() {
   rm -rf "$data/archive/out" "$data/tar"
@@ -69,38 +55,6 @@ job() { printed "$bin/bench_job" "$1" "$data/$2"; }
 window() { printed "$bin/bench_window" "$@"; }
 bare_copy() { printed "$bin/bench_bare_copy" "$1" "$data/$2"; }
 bare() { printed "$bin/bench_bare_qt" "$@"; }
-
-median() { sort -n "$1" | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
-
-line() { # NAME OURS BASELINE GOAL UNIT
-  awk -v name="$1" -v ours="$2" -v baseline="$3" -v goal="$4" -v unit="$5" 'BEGIN {
-    if (ours <= 0 || baseline <= 0) exit 1
-    printf "| %s | %.2f %s | %.2f %s | %.2f | %s |\n", name, ours, unit, baseline, unit, ours / baseline, goal}'
-}
-
-row() { # NAME GOAL UNIT DIVISOR, then OURS... -- BASELINE...
-  local name=$1 goal=$2 unit=$3 divisor=$4 ours=() i
-  shift 4
-  while [ "$1" != -- ]; do
-    ours+=("$1")
-    shift
-  done
-  shift
-  : >"$data/ours"
-  : >"$data/baseline"
-  for ((i = 0; i < rounds; i++)); do
-    "${ours[@]}"
-    echo "$took" >>"$data/ours"
-    "$@"
-    echo "$took" >>"$data/baseline"
-  done
-  line "$name" "$(median "$data/ours" | awk "{print \$1 / $divisor}")" \
-    "$(median "$data/baseline" | awk "{print \$1 / $divisor}")" "$goal" "$unit"
-}
-
-heading() {
-  printf '| Work | Tool | Baseline | Ratio | Goal |\n|---|--:|--:|--:|---|\n'
-}
 
 programs() {
   row 'index of 32,768 records; `tar -tf`' 0.1 ms 1000 job index names -- list_names
