@@ -18,24 +18,25 @@ namespace {
 
 struct packing {
   files::binary_file archive = {};
-  files::scratch_file scratch{u8"the packed icon file"};
+  icon_repacker repacker{archive};
   std::vector<std::u8string> lines = {};  // the report
   std::int64_t saved = 0;
   int status = status_done;
 };
 
-void pack_entry(packing& job, const new_archive& archive, entry_source& entry) {
-  const auto& records = archive.old->index.records;
+bool is_icon_file(const entry_source& entry) {
+  return kind_of_entry(name_without_nuls(entry.name)) == entry_kind::icons;
+}
+
+void pack_entry(packing& job, std::span<const dat_record> records, entry_source& entry) {
   const std::int32_t start = records[*entry.old_index].offset;
   const std::int32_t end = records[*entry.old_index + 1].offset;
   const std::u8string name = files::to_utf8(entry.shown_name);
   try {
-    if (kind_of_entry(name_without_nuls(entry.name)) != entry_kind::icons) {
-      throw data_error("it is not an icon file");
-    }
-    std::string bytes = repacked(job.archive, read_icon_file(job.archive, start, end), job.scratch);
+    if (!is_icon_file(entry)) throw data_error("it is not an icon file");
+    std::string bytes = repacked(job.repacker, read_icon_file(job.archive, start, end));
+    if (bytes.empty()) return;
     const std::int64_t saved = std::int64_t{end} - start - static_cast<std::int64_t>(bytes.size());
-    if (saved <= 0) return;
     job.saved += saved;
     job.lines.push_back(name + files::as_utf8(": " + counted(saved, "byte") + " saved"));
     entry.content = std::make_shared<const std::string>(std::move(bytes));
@@ -52,12 +53,12 @@ int pack(const pack_options& options) {
   change_archive(options.archive, [&](new_archive& archive) {
     job.emplace();
     open_unchanged(job->archive, archive.old->path, archive.old->index.stamp);
-    const std::vector<bool> chosen = chosen_entries(archive.old->index.records, options.names);
+    const auto& records = archive.old->index.records;
+    const std::vector<bool> chosen = chosen_entries(records, options.names);
     for (entry_source& entry : archive.entries) {
       show_progress(*entry.old_index, archive.entries.size(), entry.shown_name);
-      const bool is_icons = kind_of_entry(name_without_nuls(entry.name)) == entry_kind::icons;
-      if (!chosen[*entry.old_index] || (options.names.empty() && !is_icons)) continue;
-      pack_entry(*job, archive, entry);
+      const bool is_wanted = !options.names.empty() || is_icon_file(entry);
+      if (chosen[*entry.old_index] && is_wanted) pack_entry(*job, records, entry);
     }
     return job->saved > 0;
   });

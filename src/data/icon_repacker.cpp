@@ -1,19 +1,11 @@
 #include "data/icon_repacker.h"
 
-#include <memory>
-
 #include "data/data_error.h"
 #include "data/new_icon.h"
 
 namespace ostrane {
 
 namespace {
-
-struct repacking {
-  files::binary_file& file;
-  files::scratch_file& scratch;
-  std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
-};
 
 shp_icon packed_icon(const stored_icon& icon, std::size_t number) {
   const std::string which = "its icon " + std::to_string(number);
@@ -24,15 +16,14 @@ shp_icon packed_icon(const stored_icon& icon, std::size_t number) {
 }
 
 // Decodes the packed icon file and the old one again.
-void require_same_icons(repacking& job, const icon_file& old, const std::string& bytes) {
-  job.scratch.clear();
+void require_same_icons(icon_repacker& job, const icon_file& old, const std::string& bytes) {
+  job.scratch.rewind();
   job.scratch.write(std::as_bytes(std::span(bytes)));
-  files::binary_file file;
-  file.open_to_read(job.scratch.path());
-  const icon_file packed = read_icon_file(file, 0, static_cast<std::int32_t>(bytes.size()));
+  job.packed.open_to_read(job.scratch.path());
+  const icon_file packed = read_icon_file(job.packed, 0, static_cast<std::int32_t>(bytes.size()));
   bool is_same = packed.positions.size() == old.positions.size();
   for (std::size_t i = 0; is_same && i < old.positions.size(); ++i) {
-    is_same = read_stored_icon(*job.stream, file, packed, i) ==
+    is_same = read_stored_icon(*job.stream, job.packed, packed, i) ==
               read_stored_icon(*job.stream, job.file, old, i);
   }
   if (!is_same) throw data_error("its packed icons would differ");
@@ -40,8 +31,7 @@ void require_same_icons(repacking& job, const icon_file& old, const std::string&
 
 }  // namespace
 
-std::string repacked(files::binary_file& file, const icon_file& old, files::scratch_file& scratch) {
-  repacking job = {file, scratch};
+std::string repacked(icon_repacker& job, const icon_file& old) {
   if (static_cast<std::size_t>(old.head.icon_count) != old.positions.size()) {
     throw data_error("it does not have the number of icons that its head gives");
   }
@@ -50,6 +40,7 @@ std::string repacked(files::binary_file& file, const icon_file& old, files::scra
     icons.push_back(packed_icon(read_stored_icon(*job.stream, job.file, old, i), i + 1));
   }
   std::string bytes = shp_file(icons, old.head.identifier, true);
+  if (static_cast<std::int64_t>(bytes.size()) >= std::int64_t{old.end} - old.start) return "";
   require_same_icons(job, old, bytes);
   return bytes;
 }

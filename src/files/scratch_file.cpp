@@ -7,10 +7,9 @@ scratch_file::scratch_file(const std::u8string& shown)
   if (file_ < 0) fail(u8"a temporary file", file_action::create, file_);
 }
 
-void scratch_file::clear() {
+void scratch_file::rewind() {
   const std::int64_t at = system_calls.seek_to(file_, 0);
-  const std::int64_t status = at < 0 ? at : system_calls.set_size(file_, 0);
-  if (status < 0) fail(u8"a temporary file", file_action::write, status);
+  if (at < 0) fail(u8"a temporary file", file_action::write, at);
 }
 
 void scratch_file::write(std::span<const std::byte> bytes) {

@@ -14,8 +14,9 @@ class scratch_file {
   // Messages show `shown`. Throws file_error.
   explicit scratch_file(const std::u8string& shown);
 
-  // Empties the file. Throws file_error.
-  void clear();
+  // Writes from the first byte again. The file keeps its size: some file systems write to the disk
+  // after each truncation. Throws file_error.
+  void rewind();
   // The bytes are in the file at once. Throws file_error.
   void write(std::span<const std::byte> bytes);
   const file_path& path() const { return path_; }
