@@ -5,6 +5,7 @@
 #include "command/interruption.h"
 #include "command/program.h"
 #include "command/run_command.h"
+#include "files/failure.h"
 #include "files/system_calls.h"
 
 int main(int argc, char** argv) {
@@ -20,7 +21,7 @@ int main(int argc, char** argv) {
     hide_progress();
     raise_stored_signal();
   } catch (const std::bad_alloc&) {
-    std::fputs("ostrane-dat: There is not enough memory for this.\n", stderr);
+    std::fprintf(stderr, "ostrane-dat: %s\n", files::out_of_memory_text);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "ostrane-dat: %s\n", error.what());
   }

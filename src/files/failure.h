@@ -16,6 +16,8 @@ struct failure {
   explicit operator bool() const { return !reason.empty(); }
 };
 
+constexpr const char* out_of_memory_text = "There is not enough memory for this.";
+
 // In the code page, with "?" for the characters that it lacks. "" if nothing failed.
 std::string sentence_of(const failure& failed);
 
@@ -33,7 +35,7 @@ template <typename Part>
   try {
     part();
   } catch (const std::bad_alloc&) {
-    return {u8"", "There is not enough memory for this."};
+    return {u8"", out_of_memory_text};
   } catch (const error& caught) {
     return caught.told;
   } catch (const std::exception& caught) {

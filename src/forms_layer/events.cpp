@@ -36,12 +36,11 @@ struct running_guard {
 // Freed when memory runs out, so that the windows can be restored and the message shown.
 constexpr std::size_t reserve_size = 1U << 20U;  // bytes
 std::unique_ptr<char[]> reserve;
-const std::string out_of_memory_text = "There is not enough memory for this.";
 
 void report_out_of_memory() {
   reserve.reset();
   if (application.OutOfMemory) application.OutOfMemory();
-  message_box(out_of_memory_text);
+  message_box(files::out_of_memory_text);
 }
 
 void run_one(const std::function<void()>& handler) {
