@@ -116,7 +116,7 @@ void extract_entry(extraction& job, std::size_t index) {
   }
   ++job.result.written;
   // A file has the name of the first entry that was written to it.
-  if (name.front() == '.' && !job.is_overwriting) {
+  if (files::is_hidden_name(name) && !job.is_overwriting) {
     job.result.hidden.push_back({name, "its name begins with a dot"});
   }
 }

@@ -11,6 +11,9 @@
 // The system calls through which all files are read and written.
 namespace files {
 
+// Each system hides names that begin with a dot.
+bool is_hidden_name(const auto& name) { return name.front() == '.'; }
+
 struct listed_entry {
   std::filesystem::path::string_type name;
   bool is_hidden = false;  // by the conventions of the system

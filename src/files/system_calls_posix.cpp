@@ -193,7 +193,8 @@ int flush_folder(const fs::path& folder) {
 
 // A stat call is needed only for links and on file systems that do not fill in d_type.
 listed_entry listed_as(const dirent& entry, int folder) {
-  listed_entry listed{.name = entry.d_name, .is_hidden = entry.d_name[0] == '.'};
+  listed_entry listed{.name = entry.d_name};
+  listed.is_hidden = is_hidden_name(listed.name);
   if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) {
     struct stat status = {};
     if (fstatat(folder, entry.d_name, &status, 0) < 0) return listed;

@@ -225,7 +225,7 @@ int flush_folder(const fs::path& /*folder*/) { return 0; }
 listed_entry listed_as(const fs::path& folder, const WIN32_FIND_DATAW& entry) {
   const DWORD attributes = entry.dwFileAttributes;
   listed_entry listed{.name = entry.cFileName};
-  listed.is_hidden = listed.name.front() == '.' ||
+  listed.is_hidden = is_hidden_name(listed.name) ||
                      (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
   const bool is_link = (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
                        IsReparseTagNameSurrogate(entry.dwReserved0);
