@@ -10,7 +10,7 @@
 #include "pictures/gif_writer.h"
 #include "pictures/png_reader.h"
 #include "pictures/png_writer.h"
-#include "pictures/sheet_json.h"
+#include "pictures/sheet_json_reader.h"
 
 using namespace ostrane;
 

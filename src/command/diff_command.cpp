@@ -49,12 +49,11 @@ int diff(const diff_options& options) {
                     [] { show_progress(0, 0, ""); });
   if (options.is_json) print("[");
   for (const entry_difference& one : found) {
-    if (!options.is_json) {
+    if (options.is_json) {
+      print((&one == found.data() ? "\n  " : ",\n  ") + json_of(one));
+    } else {
       print_text(options, one);
-      continue;
     }
-    print(&one == found.data() ? "\n  " : ",\n  ");
-    print(json_of(one));
   }
   if (options.is_json) print("\n]\n");
   return found.empty() ? status_done : status_differs;

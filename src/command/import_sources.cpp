@@ -12,7 +12,7 @@
 #include "files/natural_order.h"
 #include "pictures/gif_reader.h"
 #include "pictures/png_reader.h"
-#include "pictures/sheet_json.h"
+#include "pictures/sheet_json_reader.h"
 
 namespace ostrane::command {
 

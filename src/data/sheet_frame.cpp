@@ -8,6 +8,27 @@
 
 namespace ostrane {
 
+namespace {
+
+// Throws data_error if the grid would have too many cells.
+sheet empty_sheet_for(const std::vector<picture>& pictures) {
+  sheet all;
+  for (const picture& drawn : pictures) {
+    all.cell_width = std::max(all.cell_width, drawn.columns());
+    all.cell_height = std::max(all.cell_height, drawn.rows());
+  }
+  const auto count = static_cast<std::int64_t>(pictures.size());
+  while (std::int64_t{all.columns} * all.columns < count) ++all.columns;
+  const std::int64_t rows = all.columns == 0 ? 0 : (count + all.columns - 1) / all.columns;
+  const std::int64_t width = std::int64_t{all.columns} * all.cell_width;
+  const std::int64_t height = rows * all.cell_height;
+  if (width * height > max_picture_cells) throw data_error("The sheet would be too large.");
+  all.drawn = picture(static_cast<int>(width), static_cast<int>(height));
+  return all;
+}
+
+}  // namespace
+
 picture picture_of(const picture& sheet, const sheet_frame& frame) {
   if (frame.x + frame.width > sheet.columns() || frame.y + frame.height > sheet.rows() ||
       frame.left + frame.width > frame.columns || frame.top + frame.height > frame.rows ||
@@ -64,18 +85,7 @@ frame_offset offset_of_frame(const sheet& all, std::size_t number) {
 }
 
 sheet sheet_of(const std::vector<picture>& pictures) {
-  sheet all;
-  for (const picture& drawn : pictures) {
-    all.cell_width = std::max(all.cell_width, drawn.columns());
-    all.cell_height = std::max(all.cell_height, drawn.rows());
-  }
-  const auto count = static_cast<std::int64_t>(pictures.size());
-  while (std::int64_t{all.columns} * all.columns < count) ++all.columns;
-  const std::int64_t rows = all.columns == 0 ? 0 : (count + all.columns - 1) / all.columns;
-  const std::int64_t width = std::int64_t{all.columns} * all.cell_width;
-  const std::int64_t height = rows * all.cell_height;
-  if (width * height > max_picture_cells) throw data_error("The sheet would be too large.");
-  all.drawn = picture(static_cast<int>(width), static_cast<int>(height));
+  sheet all = empty_sheet_for(pictures);
   for (std::size_t i = 0; i < pictures.size(); ++i) {
     const frame_offset to = offset_of_frame(all, i);
     for (int row = 0; row < pictures[i].rows(); ++row) {

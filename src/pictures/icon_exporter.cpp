@@ -15,7 +15,7 @@
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/png_writer.h"
-#include "pictures/sheet.h"
+#include "pictures/sheet_json_writer.h"
 
 namespace ostrane {
 
@@ -69,28 +69,29 @@ std::string png_at_scale(const icon_export_job& job, const picture& drawn) {
 using drawable_handler =
     std::function<void(std::size_t number, picture drawn, exported_icon& icon)>;
 
+// What an export loses of an icon, or "".
+std::string fault_of(const stored_icon& icon) {
+  if (!icon.is_there) return "was skipped: its offset is outside the entry";
+  const icon_kind kind = classify_icon(icon.head);
+  if (kind == icon_kind::refused) return "was skipped: its box ends outside its picture";
+  if (kind == icon_kind::drawable && !icon.drawn) {
+    return "was skipped: its size is below 1 or too large";
+  }
+  if (!icon.is_cut) return "";
+  return "is cut: only the first " + std::to_string(max_stream_bytes(icon.head)) +
+         " bytes of its stream are read";
+}
+
 exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
                         const drawable_handler& on_drawable) {
   stored_icon stored = read_stored_icon(*job.stream, job.archive, from, number - 1);
+  const std::string fault = fault_of(stored);
+  if (!fault.empty()) job.wanted.on_skipped("icon " + std::to_string(number) + " " + fault);
   exported_icon icon = {.file = {},
                         .head = stored.head,
                         .offset = from.positions[number - 1] - 1 - from.start,
                         .number = static_cast<std::int32_t>(number)};
-  const std::string which = "icon " + std::to_string(number);
-  if (!stored.is_there) {
-    job.wanted.on_skipped(which + " was skipped: its offset is outside the entry");
-  } else if (classify_icon(icon.head) == icon_kind::refused) {
-    job.wanted.on_skipped(which + " was skipped: its box ends outside its picture");
-  } else if (classify_icon(icon.head) == icon_kind::drawable && !stored.drawn) {
-    job.wanted.on_skipped(which + " was skipped: its size is below 1 or too large");
-  } else if (stored.drawn) {
-    if (stored.is_cut) {
-      job.wanted.on_skipped(which + " is cut: only the first " +
-                            std::to_string(max_stream_bytes(icon.head)) +
-                            " bytes of its stream are read");
-    }
-    on_drawable(number, std::move(*stored.drawn), icon);
-  }
+  if (stored.drawn) on_drawable(number, std::move(*stored.drawn), icon);
   return icon;
 }
 

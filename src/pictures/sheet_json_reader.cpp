@@ -1,4 +1,4 @@
-#include "pictures/sheet_json.h"
+#include "pictures/sheet_json_reader.h"
 
 #include <algorithm>
 
