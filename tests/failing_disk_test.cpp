@@ -1,4 +1,3 @@
-#include "failing_calls.h"
 #include "failing_jobs.h"
 
 namespace ostrane {
@@ -34,20 +33,11 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
         const std::string& call = failing.calls[static_cast<std::size_t>(at)];
         SCOPED_TRACE(testing::Message()
                      << &job - jobs.data() << call << at << fault.lasting << words);
-        // A file that cannot be checked is deleted by the next build only.
-        const bool lies = fault.kind == call_fault::lies;
-        const bool may_leave_hidden = fault.lasting || lies || call.starts_with("info");
-        // A file that was made but reported as failed may stay.
-        const bool may_leave_empty = lies && call == "open_new";
-        std::erase_if(after.files, [&](const auto& file) {
-          const bool is_hidden = file.first.find("/.") != std::string::npos;
-          const bool is_empty = file.second.empty() && !before.files.contains(file.first);
-          return (may_leave_hidden && is_hidden) || (may_leave_empty && is_empty);
-        });
-        expect_complete_files(after, before, done);
+        remove_leftovers(after.files, before.files, fault, call);
+        expect_complete_files(after.files, before.files, done.files);
         const bool is_success =
             fault.kind == call_fault::interrupted ||
-            (lies && call == "replace" && !job.may_misreport_rename) ||
+            (fault.kind == call_fault::lies && call == "replace" && !job.may_misreport_rename) ||
             (fault.kind == call_fault::does_nothing && call != "write_some" && call != "replace");
         check(job, call, words, is_success, after, done);
       }

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "files/code_page.h"
+#include "complete_files.h"
 #include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 #include "test_screen.h"
@@ -47,26 +47,9 @@ struct failing_disk_test : tool_test {
     new_messages();
     job.open_dialog();
   }
-  // No two paths differ in case only.
   static job_result result_of(const std::function<void()>& job) {
     job();
-    job_result all = {{}, new_messages()};
-    for (const auto& found : fs::recursive_directory_iterator(root)) {
-      if (!found.is_regular_file()) continue;
-      const std::string name =
-          files::upper_case(found.path().lexically_relative(root).generic_string());
-      EXPECT_TRUE(all.files.emplace(name, bytes_of(found.path())).second) << name;
-    }
-    return all;
-  }
-  static void expect_complete_files(const job_result& after, const job_result& before,
-                                    const job_result& done) {
-    for (const auto& file : after.files) {
-      const auto complete =
-          std::ranges::count(before.files, file) + std::ranges::count(done.files, file);
-      EXPECT_GT(complete, 0) << file.first;
-    }
-    for (const auto& [name, bytes] : before.files) EXPECT_TRUE(after.files.contains(name)) << name;
+    return {all_files(root), new_messages()};
   }
   static void check(const file_job& tried, const std::string& call, const std::string& words,
                     bool is_success, const job_result& after, const job_result& done) {
