@@ -62,6 +62,14 @@ void on_refused() { show_odd_icons(), on_slot(1); }
 void on_blank() { show_odd_icons(), on_slot(3); }
 void under_text() { click_row("N.TXT"), on_slot(1); }
 void on_swatch() { click_row("GAME.PAL"), on_slot(1); }
+// Other names of the archive.
+void link_names() {
+  for (const char* name : {"a-0005.png", "all.json", "text"}) {
+    fs::create_hard_link(disk_path("C:\\ostrane.dat"), root / "d" / "out" / name);
+  }
+}
+void on_first_beside_links() { link_names(), on_first(); }
+void on_row_beside_links() { link_names(), on_row(); }
 void change() { write("C:\\ostrane.dat", read("C:\\ostrane.dat") + " "); }
 void after_change() { change(), on_slot(1); }
 void on_row_after_change() { change(), on_row(); }
@@ -119,6 +127,9 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
        "again. The "
        "entry was not extracted.>",
        "old"},
+      {on_first_beside_links, 2, "a-0001.png", 0, "+++ F1-sheet.png", "F1.SHP"},
+      {on_first_beside_links, 2, "all.png", 0, "+++ F1-sheet.png", "F1.SHP"},
+      {on_row_beside_links, 0, "text", 0, "+ N.TXT", "F1.SHP"},
       {without_archive, 0, "", 0, "+-- copied 3"},
   };
   for (const auto& c : cases) {

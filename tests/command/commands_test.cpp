@@ -62,12 +62,14 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"extract a.dat B*", 2, error + "B*: no entry has this name.\n"},
       {"extract a.dat -d a.dat/in", 2,
        error + "a.dat/in: cannot be made: it is not in a folder.\n"},
-      {"extract a.dat -d new/in", 0, ""},
+      {"extract -v a.dat A.TXT -d new/in", 0,
+       error + (fs::path("new/in") / "A.TXT").string() + ": is written\n"},
+      {"build -v new/in -o b.dat", 0, error + "b.dat: is written\n"},
       {"extract names.dat S NO", 2,
        error + "S: not extracted: the archive ends before it does\n" + error +
            "NO: not extracted: the archive ends before it does\n"},
       {"extract bad.dat ..", 2, error + "..: not extracted: its name means a folder\n"},
-      {"compare a.dat same.txt -o r", 0, ""},
+      {"compare -v a.dat same.txt -o r", 0, error + "r: is written\n"},
       {"compare a.dat other.txt -o r", 1, ""},
       {"compare u.dat one.txt -o -", 1, compared},
       {"compare a.dat same.txt -o a.dat", 2,
@@ -96,8 +98,15 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"extract -n half.dat * -d dry", 1,
        error + (fs::path("dry") / "A").string() + ": would be written\n" + error +
            "..: not extracted: its name means a folder\n"},
-      {"add a.dat \xC3\xA4\xE2\x82\xAC.txt", 0, ""},
-      {"remove a.dat *.txt", 0, ""},
+      {"add -v a.dat \xC3\xA4\xE2\x82\xAC.txt", 0,
+       error + "a.dat: is written\n" + error +
+           "\xC3\xA4\xE2\x82\xAC.txt: becomes \xC3\x84\xE2\x82\xAC.TXT\n"},
+      {"remove a.dat ?.txt", 0, ""},
+      {"rename -v a.dat MY*T A", 0,
+       error + "a.dat: is written\n" + error + "MY FILE.TXT: becomes A\n"},
+      {"remove -v a.dat \xC3\x84* A", 0,
+       error + "a.dat: is written\n" + error + "A: is removed\n" + error +
+           "\xC3\x84\xE2\x82\xAC.TXT: is removed\n"},
       {"list a.dat", 0, "Z\xC3\x84.DAT\n"},
   };
   for (const auto& [command_line, status, printed] : cases) {

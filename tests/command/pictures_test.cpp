@@ -306,7 +306,10 @@ TEST_F(pictures_test, NeverWritesOneFileTwiceOrAnInput) {
   EXPECT_EQ(run("export -n F-0001.png A.SHP").errors,
             error + "./A-0001.png: would be written\n" + error + "./A.json: would be written\n");
   EXPECT_EQ(files_at("."), before);
-  run("export F-0001.png A.SHP -d in");
+  EXPECT_EQ(run("export -v F-0001.png A.SHP -d in").errors,
+            error + "in/A-0001.png: is written\n" + error + "in/A.json: is written\n");
+  EXPECT_EQ(run("import -v in -o a.shp --palette F-0001.png").errors,
+            error + "a.shp: is written\n");
   run("import -n in -o new.shp --palette F-0001.png");
   EXPECT_FALSE(fs::exists("new.shp"));
   EXPECT_EQ(run("import in -o in/A.json --palette F-0001.png").status, 2);
@@ -329,6 +332,7 @@ TEST_F(pictures_test, DiffersByTheIconsOfAnEntry) {
 TEST_F(pictures_test, ReportsThatAStreamIsCut) {
   std::string stream;
   for (int i = 0; i < 70000; ++i) stream += "\x02\x01";
+  EXPECT_EQ(run("pack -v old.dat").errors, "ostrane-dat: old.dat: is written\n");
   const shp_icon icon = {{.no_of_rows = 0, .no_of_cols = 0}, stream + std::string(1, '\0')};
   write_archive(shp_file(std::vector<shp_icon>{icon}));
   EXPECT_EQ(
