@@ -110,14 +110,19 @@ void add_sheet(planning& job, const sheet_layout& layout, const files::file_path
   }
 }
 
-void add_json(planning& job, const files::file_path& json) {
+// Its pictures are in the folder of `json`.
+void add_json(planning& job, const std::string& text, const files::file_path& json) {
   exported_icons exported;
-  const auto layout = read_sheet_json(read_input(job, json), json.shown, exported);
+  const auto layout = read_sheet_json(text, json.shown, exported);
   if (layout) {
     add_sheet(job, *layout, json);
   } else {
     add_icons(job, exported, json);
   }
+}
+
+void add_json(planning& job, const files::file_path& json) {
+  add_json(job, read_input(job, json), json);
 }
 
 void add_grid(planning& job, const files::file_path& png) {
@@ -222,12 +227,12 @@ void add_folder(planning& job, const std::string& folder) {
   }
 }
 
-// Standard input has no name that tells its format.
+// Standard input has no name that tells its format. Pictures of its JSON are in the current folder.
 void add_input(planning& job) {
   const files::file_path input = named_input("-");
   const std::string bytes = read_bytes(job.file, input);
   if (bytes.starts_with("GIF8")) return add_gif(job, input);
-  if (bytes.starts_with('{')) return add_json(job, input);
+  if (bytes.starts_with('{')) return add_json(job, bytes, {{}, input.shown});
   add_png(job, input);
 }
 

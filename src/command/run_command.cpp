@@ -238,34 +238,31 @@ void add_commands(CLI::App& app, parsed_line& line) {
   }
 }
 
-std::vector<std::string> names_of_commands(const CLI::App& app) {
+files::failure unknown_command(const CLI::App& app, const std::vector<std::string>& arguments) {
   std::vector<std::string> names;
   for (const CLI::App* command : app.get_subcommands(nullptr)) names.push_back(command->get_name());
-  return names;
+  const std::string first = arguments.empty() ? "" : arguments.front();
+  const bool is_known = std::find(names.begin(), names.end(), first) != names.end();
+  if (is_known || first.empty() || first.starts_with('-')) return {};
+  return {files::as_utf8(first), "is not a command." + files::did_you_mean(first, names)};
 }
 
-// Why CLI11 refuses the arguments. It does not say which command or option is meant.
-files::failure reason_of(const CLI::App& app, const CLI::ParseError& error,
-                         const std::vector<std::string>& arguments) {
-  const auto names = names_of_commands(app);
-  const std::string& first = arguments.empty() ? "" : arguments.front();
-  if (!first.empty() && !first.starts_with('-') &&
-      std::find(names.begin(), names.end(), first) == names.end()) {
-    return {files::as_utf8(first), "is not a command." + files::did_you_mean(first, names)};
-  }
+// Why CLI11 refuses the arguments. It does not say which option is meant.
+files::failure reason_of(const CLI::App& app, const CLI::ParseError& error) {
   const auto commands = app.get_subcommands();
-  const auto extra = commands.empty() ? std::vector<std::string>() : commands.front()->remaining();
+  const CLI::App& owner = commands.empty() || !app.remaining().empty() ? app : *commands.front();
+  const auto extra = owner.remaining();
   if (extra.empty() || !extra.front().starts_with('-')) {
     return {files::as_utf8(error.what()), "see --help"};
   }
   const std::string option = extra.front().substr(0, extra.front().find('='));
   std::vector<std::string> options;
-  for (const CLI::Option* known : commands.front()->get_options()) {
+  for (const CLI::Option* known : owner.get_options()) {
     for (const std::string& name : known->get_lnames()) options.push_back("--" + name);
     for (const std::string& name : known->get_snames()) options.push_back("-" + name);
   }
   return {files::as_utf8(option),
-          "is not an option of " + first + "." + files::did_you_mean(option, options)};
+          "is not an option of " + owner.get_name() + "." + files::did_you_mean(option, options)};
 }
 
 }  // namespace
@@ -288,8 +285,9 @@ int run_command(std::vector<std::string> arguments) {
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {
-    if (error.get_exit_code() == 0) return app.exit(error);
-    print_error(reason_of(app, error, arguments));
+    const files::failure unknown = unknown_command(app, arguments);
+    if (!unknown && error.get_exit_code() == 0) return app.exit(error);
+    print_error(unknown ? unknown : reason_of(app, error));
     return status_failed;
   }
   return run_chosen(line);

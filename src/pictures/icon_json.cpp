@@ -82,7 +82,9 @@ std::u8string file_name_in(const json& file) {
 }
 
 exported_icons icons_in(const json& all) {
-  if (all.value("format", "") != form) throw data_error("it is not the JSON of an icon file");
+  if (!all.is_object() || all.value("format", "") != form) {
+    throw data_error("it is not the JSON of an icon file");
+  }
   exported_icons found;
   if (all.contains("name")) found.name = files::as_utf8(all.at("name").get<std::string>());
   const std::optional<std::string> identifier =

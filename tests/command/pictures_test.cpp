@@ -246,6 +246,7 @@ TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
   write_bytes("rotated.json", sheet("true"));
   write_bytes("bad.json", "{\"frames\":\n  x}");
   write_bytes("photo.png", "\xFF\xD8\xFF\xE0");
+  write_bytes("list.json", "[]");
   const std::string error = "ostrane-dat: ";
   const std::tuple<std::string, std::string, texts> cases[] = {
       {"png", error + "png/F-0003.png: not imported: F.json does not list it\n", {"2 1", "2 1"}},
@@ -269,6 +270,10 @@ TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
            "x'.\n",
        {}},
       {"photo.png", error + "photo.png: is a JPEG, not a PNG.\n", {}}};
+      {"list.json",
+       error + "list.json: cannot be read as the JSON of an export: it is not the JSON of an icon "
+               "file.\n",
+       {}},
   for (const auto& [job, printed, sizes] : cases) {
     fs::remove("new.shp");
     EXPECT_EQ(run("import -o new.shp --palette a.dat -q " + job).errors, printed) << job;
