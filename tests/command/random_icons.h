@@ -13,6 +13,8 @@ class random_icons {
  public:
   explicit random_icons(unsigned seed) : random_(seed) {}
 
+  bool has_short_stream = false;  // one that reads on in what follows its icon
+
   int number(int from, int to) { return std::uniform_int_distribution(from, to)(random_); }
 
   shp_icon next() {
@@ -48,7 +50,10 @@ class random_icons {
       }
       bytes += '\0';
     }
-    if (number(0, 30) == 0) bytes.resize(bytes.size() / 2);
+    if (number(0, 30) == 0) {
+      bytes.resize(bytes.size() / 2);
+      has_short_stream = true;
+    }
     return bytes;
   }
 
