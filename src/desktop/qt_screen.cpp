@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 #include <new>
@@ -31,7 +32,10 @@ constexpr auto window_delay = 100ms;
 
 qt_screen::qt_screen() {
   qApp->installEventFilter(&filter_);
-  filter_.on_barred_press = [this] { windows_.bring_up_topmost(); };
+  // On Wayland the pressed window gets the focus only after this event.
+  filter_.on_barred_press = [this] {
+    QTimer::singleShot(0, &filter_, [this] { windows_.bring_up_topmost(); });
+  };
   // Without GLib a turn handles posted events after `awake` and then waits.
   for (const auto signal :
        {&QAbstractEventDispatcher::awake, &QAbstractEventDispatcher::aboutToBlock}) {
