@@ -61,63 +61,24 @@ QWidget* target() {
                       QApplication::activeWindow()}) {
     if (on != nullptr && on->isVisible()) return on;
   }
-  const QWidgetList windows = QApplication::topLevelWidgets();
-  const auto shown = std::find_if(windows.begin(), windows.end(), [](const QWidget* on) {
-    return on->isVisible() && on->isWindow();
-  });
-  return shown == windows.end() ? nullptr : *shown;
+  for (QWidget* on : QApplication::topLevelWidgets()) {
+    if (on->isVisible() && on->isWindow()) return on;
+  }
+  return nullptr;
 }
 
 void press_key(world& w, QWidget& on) {
-  static const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {
-      {Qt::Key_Down, {}},
-      {Qt::Key_Up, {}},
-      {Qt::Key_Left, {}},
-      {Qt::Key_Right, {}},
-      {Qt::Key_Home, {}},
-      {Qt::Key_End, {}},
-      {Qt::Key_PageDown, {}},
-      {Qt::Key_Tab, {}},
-      {Qt::Key_Tab, {}},
-      {Qt::Key_Backtab, {}},
-      {Qt::Key_Return, {}},
-      {Qt::Key_Return, {}},
-      {Qt::Key_Space, {}},
-      {Qt::Key_Escape, {}},
-      {Qt::Key_Escape, {}},
-      {Qt::Key_Delete, {}},
-      {Qt::Key_Backspace, {}},
-      {Qt::Key_F1, {}},
-      {Qt::Key_F3, {}},
-      {Qt::Key_F3, Qt::ShiftModifier},
-      {Qt::Key_F5, {}},
-      {Qt::Key_F10, {}},
-      {Qt::Key_F10, Qt::ShiftModifier},
-      {Qt::Key_Menu, {}},
-      {Qt::Key_F, Qt::AltModifier},
-      {Qt::Key_I, Qt::AltModifier},
-      {Qt::Key_R, Qt::AltModifier},
-      {Qt::Key_V, Qt::ControlModifier},
-      {Qt::Key_C, Qt::ControlModifier},
-      {Qt::Key_X, Qt::ControlModifier},
-      {Qt::Key_Z, Qt::ControlModifier},
-      {Qt::Key_A, Qt::ControlModifier},
-      {Qt::Key_O, Qt::ControlModifier},
-      {Qt::Key_S, Qt::ControlModifier},
-      {Qt::Key_E, Qt::ControlModifier},
-      {Qt::Key_L, Qt::ControlModifier},
-      {Qt::Key_F, Qt::ControlModifier},
-      {Qt::Key_G, Qt::ControlModifier},
-      {Qt::Key_Plus, Qt::ControlModifier},
-      {Qt::Key_Minus, Qt::ControlModifier},
-      {Qt::Key_0, Qt::ControlModifier},
-      {Qt::Key_Down, Qt::ShiftModifier},
-      {Qt::Key_Up, Qt::ShiftModifier},
-      {Qt::Key_Space, Qt::ControlModifier},
-      {Qt::Key_Return, Qt::ShiftModifier}};
-  const auto& [key, modifiers] = one_of(w, keys);
-  w.actions << "key " << key << ' ' << modifiers.toInt() << std::endl;
-  QTest::keyClick(on.windowHandle(), key, modifiers);
+  static const QStringList keys =
+      QString(
+          "Down Up Left Right Home End PgDown Tab Tab Backtab Return Return Space Esc Esc Del "
+          "Backspace F1 F3 Shift+F3 F5 F10 Shift+F10 Menu Alt+F Alt+I Alt+R Ctrl+V Ctrl+C Ctrl+X "
+          "Ctrl+Z Ctrl+A Ctrl+O Ctrl+S Ctrl+E Ctrl+L Ctrl+F Ctrl+G Ctrl++ Ctrl+- Ctrl+0 Shift+Down "
+          "Shift+Up Ctrl+Space Shift+Return")
+          .split(' ');
+  const QString& name = keys[below(w, static_cast<int>(keys.size()))];
+  const QKeyCombination pressed = QKeySequence::fromString(name)[0];
+  w.actions << "key " << name.toStdString() << std::endl;
+  QTest::keyClick(on.windowHandle(), pressed.key(), pressed.keyboardModifiers());
 }
 
 void type(world& w, QWidget& on) {
@@ -140,15 +101,11 @@ void use_mouse(world& w, QWidget& on) {
     QWheelEvent turned(position, on.mapToGlobal(position), {}, {0, below(w, 2) == 0 ? 120 : -120},
                        Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QApplication::sendEvent(window, &turned);
-  } else if (what == 1) {
-    QTest::mouseClick(window, Qt::MiddleButton, modifiers, at);
-  } else if (what < 4) {
-    QTest::mouseClick(window, Qt::RightButton, modifiers, at);
-  } else if (what < 6) {
-    QTest::mouseDClick(window, Qt::LeftButton, modifiers, at);
-  } else {
-    QTest::mouseClick(window, Qt::LeftButton, modifiers, at);
+    return;
   }
+  if (what < 3) return QTest::mouseDClick(window, Qt::LeftButton, modifiers, at);
+  const Qt::MouseButton other = what == 3 ? Qt::MiddleButton : Qt::RightButton;
+  QTest::mouseClick(window, what < 6 ? other : Qt::LeftButton, modifiers, at);
 }
 
 void fill_clipboard(world& w) {
