@@ -64,9 +64,7 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
     before_click();
     texts names = names_in("C:\\work");
     failing_calls watched;
-    watched.before_call = [&between_passes = between_passes](const std::string& call) {
-      if (call == "open_new") between_passes();
-    };
+    watched.before("open_new", between_passes);
     user::click(Form5.Command1);
     const bool typed = Form5.Text1.Text() != "C:\\work";
     const char* hint =

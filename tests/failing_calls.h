@@ -36,6 +36,12 @@ class failing_calls {
   ~failing_calls();
 
   bool happened() const { return static_cast<int>(calls.size()) > at; }
+  // Calls `act` before each call of that name.
+  void before(const std::string& name, const std::function<void()>& act) {
+    before_call = [=](const std::string& call) {
+      if (call == name) act();
+    };
+  }
 
   const int at;  // 0-based number of the call
   const call_fault fault;

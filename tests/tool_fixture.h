@@ -58,6 +58,9 @@ inline void save_list() {
   user::click(Form1.mnu_save);
 }
 
+// Writes to the open archive, as another program.
+inline void change_archive() { std::ofstream(disk_path("C:\\ostrane.dat"), std::ios::app) << " "; }
+
 // Clicks the first row of that name.
 inline void click_row(const std::string& name) {
   std::int32_t row = 0;
