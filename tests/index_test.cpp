@@ -18,52 +18,39 @@ static std::string shown() {
   return text;
 }
 
-TEST_F(index_test, ListsEveryRecordAndTheEndRecord) {
-  const std::vector<std::pair<std::int32_t, std::string>> many(32768, {0, ""});
-  const std::pair<std::string, std::string> cases[] = {
-      {archive_bytes({{"A.SHP", "a"}, {"b.txt", "12"}, {"ABCDEFGHI.SHP", ""}}),
-       "3+++ A.SHP b.txt ABCDEFGHI.SHP "},
-      {archive_bytes({{std::string("AB\0C.SHP", 8), "x"}}), "1+++ ABC.SHP "},
-      {index_bytes(1, {{21, ""}}), "0+++ "},
-      {index_bytes(0, {}), "-1+++"},
-      {index_bytes(32768, many), "32767+++" + std::string(32768, ' ')},
-  };
-  for (const auto& [bytes, rows] : cases) {
-    restart();
-    write("C:\\OsTrane.DAT", bytes);
-    open_archive();
-    EXPECT_EQ(shown(), rows);
-    EXPECT_EQ(Form1.List1.ListIndex(), -1);
-  }
-}
-
-// One message reports the file and the fault. The record count of the old one stays.
-TEST_F(index_test, DiscardsADamagedIndex) {
-  const std::string missing = " is not found";
+// Reads another archive after this one. The rows are then those of the new one, or none, after one
+// message with the file and the fault. The record count of the old one stays then.
+TEST_F(index_test, ListsEveryRecordOrDiscardsADamagedIndex) {
   const std::string no_archive = " cannot be read as an archive: it ";
   const std::string no_count = no_archive + "ends within the number of its records.";
   const std::string range = " as the number of its records, which is from 0 to 32768.";
   const std::string no_record = no_archive + "ends before the last of its 2 records.";
-  const std::vector<std::pair<std::int32_t, std::string>> many(32769, {0, "A"});
-  const std::pair<std::string, std::string> cases[] = {
-      {"", missing},
-      {"", no_count},
-      {"\1\2\3", no_count},
-      {index_bytes(-1, {}), no_archive + "gives -1" + range},
-      {index_bytes(32769, many), no_archive + "gives 32769" + range},
-      {index_bytes(INT32_MAX, {}), no_archive + "gives 2147483647" + range},
-      {index_bytes(2, {{38, "A.TXT"}}), no_record},
-      {index_bytes(2, {{38, "A.TXT"}, {38, ""}}).substr(0, 37), no_record},
+  const std::vector<std::pair<std::int32_t, std::string>> many(32769, {0, ""});
+  const std::tuple<std::string, std::string, std::string> cases[] = {
+      {archive_bytes({{"A.SHP", "a"}, {"b.txt", "12"}, {"ABCDEFGHI.SHP", ""}}),
+       "3+++ A.SHP b.txt ABCDEFGHI.SHP ", ""},
+      {archive_bytes({{std::string("AB\0C.SHP", 8), "x"}}), "1+++ ABC.SHP ", ""},
+      {index_bytes(1, {{21, ""}}), "0+++ ", ""},
+      {index_bytes(0, {}), "-1+++", ""},
+      {index_bytes(32768, many), "32767+++" + std::string(32768, ' '), ""},
+      {"none", "1+++", " is not found"},
+      {"", "1+++", no_count},
+      {"\1\2\3", "1+++", no_count},
+      {index_bytes(-1, {}), "1+++", no_archive + "gives -1" + range},
+      {index_bytes(32769, many), "1+++", no_archive + "gives 32769" + range},
+      {index_bytes(INT32_MAX, {}), "1+++", no_archive + "gives 2147483647" + range},
+      {index_bytes(2, {{38, "A.TXT"}}), "1+++", no_record},
+      {index_bytes(2, {{38, "A.TXT"}, {38, ""}}).substr(0, 37), "1+++", no_record},
   };
-  make_folder("C:\\bad");
-  for (const auto& [bytes, fault] : cases) {
+  for (const auto& [bytes, rows, fault] : cases) {
     restart();
     open_archive({{"OLD.TXT", "text"}});
-    if (fault != missing) write("C:\\bad\\ostrane.dat", bytes);
-    open_archive("C:\\bad");
-    EXPECT_EQ(new_messages(), texts{"C:\\bad\\ostrane.dat" + fault});
-    EXPECT_EQ(shown(), "1+++");
-    EXPECT_EQ(tool_state.record_count, 2);
+    write("C:\\new\\OsTrane.DAT", bytes);
+    if (bytes == "none") fs::remove(disk_path("C:\\new\\OsTrane.DAT"));
+    open_archive("C:\\new");
+    EXPECT_EQ(new_messages(), texts(fault.empty() ? 0 : 1, "C:\\new\\ostrane.dat" + fault));
+    EXPECT_EQ(shown(), rows);
+    EXPECT_EQ(Form1.List1.ListIndex(), -1);
   }
 }
 
@@ -93,9 +80,7 @@ TEST_F(index_test, RefusesToReadAChangedArchive) {
     EXPECT_EQ(shown(), before) << &act - acts;
   }
   failing_calls watched;
-  watched.before_call = [](const std::string& call) {
-    if (call == "read_some") std::ofstream(disk_path("C:\\ostrane.dat"), std::ios::app) << "x";
-  };
+  watched.before("read_some", change_archive);
   open_archive();
   EXPECT_EQ(new_messages(), texts{"C:\\ostrane.dat cannot be read as an archive: it was written to "
                                   "during the read."});
