@@ -28,17 +28,6 @@ TEST_F(files_posix_test, PrefersTheExactNameToOtherCases) {
   EXPECT_FALSE(files::file_exists("C:\\Mixed"));
 }
 
-TEST_F(files_posix_test, ListsNormalFilesInUpperCaseOrder) {
-  for (const char* name : {"b.TXT", "a.txt", "_x", "C", ".hidden", "\xC3\xA9", "Z", "\xCE\xA9"}) {
-    write(std::string("D:\\") + name, "");
-  }
-  make_folder("D:\\folder");
-  ASSERT_EQ(mkfifo(disk_path("D:\\pipe").c_str(), 0600), 0);
-  fs::create_symlink("a.txt", disk_path("D:\\link"));
-  EXPECT_EQ(files::files_in("D:\\"), (texts{"a.txt", "b.TXT", "C", "link", "Z", "_x", "\xE9"}));
-  EXPECT_EQ(files::folders_in("D:\\"), texts{"folder"});
-}
-
 // Hidden names are cut between characters, as some file systems refuse other bytes. A file that
 // must be the only one of its spellings needs a listing of its folder.
 TEST_F(files_posix_test, ReplacesLongNamesAndNeedsAFolderListing) {

@@ -2,7 +2,6 @@
 
 #include <thread>
 
-#include "failing_calls.h"
 #include "files/binary_file.h"
 #include "files/file_error.h"
 #include "files/file_writer.h"
@@ -45,19 +44,6 @@ TEST_F(files_windows_test, OpensNormalFilesOnly) {
         << path;
   }
   EXPECT_EQ(names_in("C:\\"), (texts{"a.txt", "program"}));
-}
-
-// A file must be closed before it can be replaced. Each call fails in turn.
-TEST_F(files_windows_test, ReplacesAListByRenaming) {
-  for (int at = 0;; ++at) {
-    save_list();
-    write("D:\\shplist.txt", "old");
-    const failing_calls failing(at, {.reason = EIO});
-    user::click(Form1.mnu_save);
-    const std::string list = read("D:\\shplist.txt");
-    EXPECT_TRUE((list == "old" && failing.happened()) || list == saved_list) << at << list;
-    if (!failing.happened()) break;
-  }
 }
 
 // As the game does. A virus scanner closes the file after a moment.
