@@ -6,7 +6,7 @@ namespace {
 
 using from_outside_test = tool_test;
 
-// Paths of the system below the root of the drives.
+// Paths of the system below the root of the drives. F5 reads the open archive again.
 TEST_F(from_outside_test, OpensAnArchiveOrItsFolder) {
   const std::string archive = archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}});
   const std::string refused = " is no ostrane.dat, and no folder that holds one.";
@@ -33,16 +33,10 @@ TEST_F(from_outside_test, OpensAnArchiveOrItsFolder) {
     start_tool(root / "c" / "program", nullptr, root / path);
     EXPECT_EQ(new_messages(), messages);
     EXPECT_EQ(Form1.List1.ListCount(), messages.empty() ? 3 : 0);
+    write("C:\\with\\OSTRANE.DAT", archive_bytes({{"A.TXT", "a"}}));
+    user::press(Form1, Form1.keys[2]);
+    EXPECT_EQ(Form1.Text1.Text(), messages.empty() ? "1" : "") << Form1.keys[2].name;
   }
-}
-
-TEST_F(from_outside_test, ReadsTheArchiveAgain) {
-  open_archive({{"A.TXT", "a"}});
-  write("C:\\ostrane.dat", archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}}));
-  const auto f5 = std::find_if(Form1.keys.begin(), Form1.keys.end(),
-                               [](const forms_layer::key& key) { return key.name == "F5"; });
-  user::press(Form1, *f5);
-  EXPECT_EQ(Form1.Text1.Text(), "2");
 }
 
 // Enter on the open folder reads its archive. The dialog first shows the current folder if that
@@ -50,11 +44,10 @@ TEST_F(from_outside_test, ReadsTheArchiveAgain) {
 TEST_F(from_outside_test, TheDialogFindsTheArchive) {
   write("C:\\with\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
   make_folder("C:\\empty");
-  for (const auto& [current, first] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"C:\\with", "C:\\with"}, {"C:\\empty", "C:\\"}}) {
+  for (const std::string current : {"C:\\with", "C:\\empty"}) {
     restart(current);
     user::click(Form1.mnu_open);
-    EXPECT_EQ(Form2.Dir1.Path(), first);
+    EXPECT_EQ(Form2.Dir1.Path(), current == "C:\\with" ? current : "C:\\");
     user::click(Form2.Command2);
     Form2.Dir1.Path = "C:\\";
     user::click(Form1.mnu_open);
