@@ -156,8 +156,9 @@ void form_window::closeEvent(QCloseEvent* event) {
   forms_layer::user::close(form);
 }
 
+// Qt reports a change of the theme as one of the palette that the window inherits.
 void form_window::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ApplicationPaletteChange) views_.show_all();
+  if (event->type() == QEvent::PaletteChange) views_.show_all();
   QMainWindow::changeEvent(event);
 }
 
