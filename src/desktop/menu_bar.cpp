@@ -19,10 +19,7 @@ menu_bar::menu_bar(const forms_layer::form& shown, QWidget* window) : QMenuBar(w
     });
   }
   auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), window);
-  connect(f10, &QShortcut::activated, this, [this] {
-    setFocus(Qt::MenuBarFocusReason);
-    setActiveAction(actions().first());
-  });
+  connect(f10, &QShortcut::activated, this, [this] { setActiveAction(actions().first()); });
 }
 
 // The underlined letters in the bar depend on the Alt key, which Qt watches in the window.
