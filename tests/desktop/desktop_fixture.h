@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include "desktop/control_view.h"
 #include "desktop/qt_screen.h"
@@ -77,12 +78,16 @@ struct Desktop : testing::Test {
     handle_events();
     return *screen.window_of(shown);
   }
-  QWidget& show_active() {
-    QWidget& window = show(form);
+  // Qt calls the owner of an active window active, too.
+  static void expect_active(const QWidget& window) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }, 60'000));
+  }
+  static QWidget& activate(QWidget& window) {
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    expect_active(window);
     return window;
   }
+  QWidget& show_active() { return activate(show(form)); }
   forms_layer::picture_box& picture() { return form.pictures(1); }
 
   const fs::path folder = ostrane::make_temporary_folder();  // drive C:
@@ -103,6 +108,16 @@ void when_open(Act act) {
     act(*opened);
   });
   look->start(1);
+}
+
+// Turns the wheel over what a widget shows at a point.
+inline void turn_wheel(QWidget& over, const QPoint& at, int turned,
+                       Qt::KeyboardModifiers held = {}) {
+  QWidget* under = over.childAt(at) == nullptr ? &over : over.childAt(at);
+  QWheelEvent event(under->mapFrom(&over, at), over.mapToGlobal(at), {}, {0, turned}, Qt::NoButton,
+                    held, Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  qApp->notify(under, &event);
 }
 
 // Adds up what a widget is asked to paint.

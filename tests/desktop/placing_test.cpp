@@ -1,4 +1,5 @@
 // Where windows open, what they show first, and how they come back.
+#include <QScreen>
 #include <QWindow>
 
 #include "desktop_fixture.h"
@@ -34,5 +35,47 @@ TEST_F(Desktop, APressOnADisabledWindowBringsUpItsDialog) {
   handle_events();
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {100, 100});
   EXPECT_FALSE(dialog.isMinimized());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  expect_active(dialog);
+}
+
+// Over the window that was shown first or on the screen, and always inside it.
+TEST_F(Desktop, WindowsOpenInTheMiddleAndWhereTheyWereClosed) {
+  using namespace ostrane;
+  reset_forms();
+  const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+  QWidget& main = show(Form1);
+  EXPECT_LE((main.geometry().center() - free.center()).manhattanLength(), 1);
+  main.move(30, 20);
+  QWidget& form2 = show(Form2);
+  QWidget& form6 = show(Form6);
+  EXPECT_LE((form2.geometry().center() - main.geometry().center()).manhattanLength(), 1);
+  EXPECT_LE((form6.geometry().center() - free.center()).manhattanLength(), 1);
+  EXPECT_EQ(form2.windowHandle()->transientParent(), main.windowHandle());
+  EXPECT_EQ(form6.windowHandle()->transientParent(), form2.windowHandle());
+  expect_active(form6);
+  widget_of(form2, Form2.Command2)->setFocus();
+  form2.move(55, 44);
+  activate(form2);
+  for (const bool visible : {false, true}) {
+    write([&] { Form2.Visible = visible; });
+    expect_active(visible ? form2 : form6);
+  }
+  EXPECT_EQ(form2.pos(), QPoint(55, 44));
+  EXPECT_TRUE(widget_of(form2, Form2.Command2)->hasFocus());
+  EXPECT_EQ(form2.windowHandle()->transientParent(), form6.windowHandle());
+  form2.move(free.bottomRight() + QPoint(500, 500));
+  main.move(free.bottomRight() - QPoint(100, 100));
+  write([&] { Form2.Visible = false; });
+  EXPECT_EQ(show(Form2).frameGeometry().bottomRight(), free.bottomRight()) << "its screen is gone";
+  main.move(free.topLeft() - QPoint(500, 500));
+  EXPECT_EQ(show(Form4).pos(), free.topLeft());
+  const std::tuple<QWidget&, bool> windows[] = {{main, true}, {form2, false}};
+  for (const auto& [window, is_main] : windows) {
+    const Qt::WindowFlags flags = window.windowFlags();
+    EXPECT_EQ((flags & Qt::WindowCloseButtonHint) != 0, is_main);
+    EXPECT_EQ(window.minimumSize() == window.maximumSize(), !is_main);
+    EXPECT_EQ(window.windowType(), is_main ? Qt::Window : Qt::Dialog);
+  }
+  EXPECT_EQ(form2.size(), QSize(4680 / 15, 4185 / 15));
+  EXPECT_EQ(widget_of(main, Form1.List1)->parentWidget()->size(), QSize(9330 / 15, 6690 / 15));
 }
