@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QPaintEvent>
 #include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 #include "desktop/control_view.h"
 #include "desktop/qt_screen.h"
@@ -15,6 +12,7 @@
 #include "forms/forms.h"
 #include "forms_layer/application.h"
 #include "forms_layer/events.h"
+#include "user_steps.h"
 
 namespace fs = std::filesystem;
 
@@ -89,6 +87,15 @@ struct Desktop : testing::Test {
   }
   QWidget& show_active() { return activate(show(form)); }
   forms_layer::picture_box& picture() { return form.pictures(1); }
+  // Takes steps in a window, and compares what is seen after each.
+  template <typename Seen>
+  static void play(QWidget& window, const Seen& seen,
+                   const std::vector<std::pair<const char*, std::string>>& steps) {
+    for (const auto& [step, expected] : steps) {
+      act(window, step);
+      EXPECT_EQ(seen(), expected) << step;
+    }
+  }
 
   const fs::path folder = ostrane::make_temporary_folder();  // drive C:
   desktop::qt_screen screen;
@@ -108,16 +115,6 @@ void when_open(Act act) {
     act(*opened);
   });
   look->start(1);
-}
-
-// Turns the wheel over what a widget shows at a point.
-inline void turn_wheel(QWidget& over, const QPoint& at, int turned,
-                       Qt::KeyboardModifiers held = {}) {
-  QWidget* under = over.childAt(at) == nullptr ? &over : over.childAt(at);
-  QWheelEvent event(under->mapFrom(&over, at), over.mapToGlobal(at), {}, {0, turned}, Qt::NoButton,
-                    held, Qt::NoScrollPhase, false);
-  QSpontaneKeyEvent::setSpontaneous(&event);
-  qApp->notify(under, &event);
 }
 
 // Adds up what a widget is asked to paint.

@@ -1,288 +1,187 @@
 // The keys, the search, the enlarged picture, drops and drags of the main window.
-#include <QAbstractItemView>
-#include <QClipboard>
-#include <QDrag>
-#include <QDragEnterEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QPlainTextEdit>
-#include <QTimer>
-#include <QToolTip>
-
 #include "main_window_fixture.h"
 #include "state/tool_state.h"
 
 TEST_F(Extras, CtrlAndShiftSelectMoreRows) {
-  press_row(1);
-  EXPECT_EQ(selected(), "1 shows 1");
-  const std::tuple<std::function<void()>, const char*> steps[] = {
-      {[&] { press_row(3, Qt::ControlModifier); }, "13 shows 1"},
-      {[&] { press_row(1, Qt::ShiftModifier); }, "123 shows 1"},
-      {[&] { press_row(2, Qt::ControlModifier); }, "13 shows 1"},
-      {[&] { press_row(0); }, "0 shows 0"},
-      {[&] { key(Qt::Key_Down, Qt::ShiftModifier); }, "01 shows 0"},
-      {[&] { key(Qt::Key_Down, Qt::ShiftModifier); }, "012 shows 0"},
-      {[&] { press_row(1); }, "1 shows 1"},
-      {[&] { key(Qt::Key_A, Qt::ControlModifier); }, "01234 shows 1"},
-      {[&] { key(Qt::Key_Down); }, "2 shows 2"},
-      {[&] { QTest::keyClick(list, 'A', Qt::ShiftModifier), handle_events(); }, "0 shows 0"},
-  };
-  for (const auto& [act, expected] : steps) {
-    act();
-    EXPECT_EQ(selected(), expected) << &act - &std::get<0>(steps[0]);
-  }
+  play([&] { return selected(); }, {{"List1#1 press", "1 shows 1"},
+                                    {"List1#3 Ctrl+press", "13 shows 1"},
+                                    {"List1#1 Shift+press", "123 shows 1"},
+                                    {"List1#2 Ctrl+press", "13 shows 1"},
+                                    {"List1#2 press", "2 shows 2"},
+                                    {"List1#0 press", "0 shows 0"},
+                                    {"Shift+Down", "01 shows 0"},
+                                    {"Shift+Down", "012 shows 0"},
+                                    {"List1#1 press", "1 shows 1"},
+                                    {"Ctrl+A", "01234 shows 1"},
+                                    {"Down", "2 shows 2"},
+                                    {"Shift+PgUp", "012 shows 2"},
+                                    {"Ctrl+End; Ctrl+Space", "0124 shows 2"},
+                                    {"List1 Shift+A", "0 shows 0"}});
 }
 
+// What the bar shows: the hint or the selected text, then the count.
 TEST_F(Extras, TheSearchGoesFromHitToHit) {
-  key(Qt::Key_F, Qt::ControlModifier);
+  act(*window, "Ctrl+F");
   QWidget* bar = window->findChild<QWidget*>("find");
   auto* field = bar->findChild<QLineEdit*>();
   EXPECT_EQ(bar->geometry().bottomLeft(), list->geometry().bottomLeft());
   const auto seen = [&] {
-    const QString hint = field->text().isEmpty() ? field->placeholderText() : field->selectedText();
-    return (bar->isVisible() ? hint + " " + bar->findChild<QLabel*>()->text() + " " : QString())
-               .toStdString() +
-           selected();
-  };
-  constexpr auto none = Qt::NoModifier;
-  const std::tuple<const char*, int, Qt::KeyboardModifiers, const char*> steps[] = {
-      {"", Qt::Key_Return, none, "Find   shows -1"},
-      {"q", Qt::Key_Return, none, " 0  shows -1"},
-      {"\ba", Qt::Key_Return, none, " 1 of 2 0 shows 0"},
-      {"", Qt::Key_F3, none, " 2 of 2 1 shows 1"},
-      {"", Qt::Key_F3, none, " 1 of 2 0 shows 0"},
-      {"", Qt::Key_Return, Qt::ShiftModifier, " 2 of 2 1 shows 1"},
-      {"", Qt::Key_Escape, none, "1 shows 1"},
-      {"", Qt::Key_F3, Qt::ShiftModifier, "0 shows 0"},
-      {"", Qt::Key_F, Qt::ControlModifier, "a 1 of 2 0 shows 0"},
-      {"", Qt::Key_G, Qt::ControlModifier, "Go to number of 5 0 shows 0"},
-      {"4", Qt::Key_Return, none, "3 shows 3"},
-      {"", Qt::Key_G, Qt::ControlModifier, "Go to number of 5 3 shows 3"},
-      {"6", Qt::Key_Return, none, "3 shows 3"},
-      {"", Qt::Key_G, Qt::ControlModifier, "Go to number of 5 3 shows 3"},
-      {"1", Qt::Key_Return, none, "0 shows 0"},
-  };
-  for (const auto& [typed, pressed, modifiers, expected] : steps) {
-    for (const char* c = typed; *c != '\0'; ++c) QTest::keyClick(field, *c);
-    key(pressed, modifiers);
-    EXPECT_EQ(seen(), expected) << typed << pressed;
     EXPECT_TRUE(bar->isVisible() ? field->hasFocus() : list->hasFocus());
-  }
+    const QString hint = field->text().isEmpty() ? field->placeholderText() : field->selectedText();
+    const QString shown = hint + "/" + bar->findChild<QLabel*>()->text() + "/ ";
+    return (bar->isVisible() ? shown.toStdString() : "") + selected();
+  };
+  play(seen, {{"Return", "Find//  shows -1"},
+              {"'q; Return", "/0/  shows -1"},
+              {"Backspace; 'a", "/2/  shows -1"},
+              {"Return", "/1 of 2/ 0 shows 0"},
+              {"F3", "/2 of 2/ 1 shows 1"},
+              {"F3", "/1 of 2/ 0 shows 0"},
+              {"Shift+Return", "/2 of 2/ 1 shows 1"},
+              {"Esc", "1 shows 1"},
+              {"Shift+F3", "0 shows 0"},
+              {"Ctrl+F", "a/1 of 2/ 0 shows 0"},
+              {"Ctrl+G", "Go to number/of 5/ 0 shows 0"},
+              {"'4; Return", "3 shows 3"},
+              {"Ctrl+G; '6; Return", "3 shows 3"},
+              {"Ctrl+G; '1; Enter", "0 shows 0"}});
 }
 
-// The size of the enlarged picture, which has 40, 60 or 80 pixels.
+// The enlarged picture has 40, 60 or 80 pixels.
 TEST_F(Extras, OnePictureIsEnlarged) {
-  press_row(2);
-  const auto* area = canvas->findChild<QAbstractScrollArea*>("zoom");
-  const auto wheel = [&](int turned, Qt::KeyboardModifiers held = Qt::ControlModifier) {
-    turn_wheel(*canvas, {70, 70}, turned, held);
-    handle_events();
-  };
-  const auto ctrl = [&](int pressed) { key(pressed, Qt::ControlModifier); };
-  const std::tuple<const char*, std::function<void()>, const char*> steps[] = {
-      {"wheel without Ctrl", [&] { wheel(120, {}); }, ""},
-      {"wheel", [&] { wheel(120); }, "120(25,53 124x124)"},
-      {"wheel", [&] { wheel(120); }, "180(8,53 184x184)"},
-      {"wheel back", [&] { wheel(-120); }, "120(25,53 124x124)"},
-      {"arrow", [&] { key(Qt::Key_Right); }, "160(78,53 164x164)"},
-      {"Home", [&] { key(Qt::Key_Home); }, "80(8,53 84x84)"},
-      {"Escape", [&] { key(Qt::Key_Escape); }, ""},
-      {"Ctrl++", [&] { ctrl(Qt::Key_Plus); }, "80(8,53 84x84)"},
-      {"motion", [] { write([] { Form1.Command5.Click(); }); }, "80(8,53 84x84)"},
-      {"first tick", [] { write([] { Form1.Timer1.Timer(); }); }, "80(8,53 84x84)"},
-      {"second tick", [] { write([] { Form1.Timer1.Timer(); }); }, "120(8,53 124x124)"},
-      {"end", [] { write([] { Form1.Timer1.Timer(), Form1.Timer1.Timer(); }); },
-       "160(8,53 164x164)"},
-      {"Prev", [] { write([] { Form1.Command3.Click(); }); }, "120(8,53 124x124)"},
-      {"Ctrl+-", [&] { ctrl(Qt::Key_Minus); }, ""},
-      {"to 4 times",
-       [&] {
-         for (int i = 0; i < 3; ++i) ctrl(Qt::Key_Plus);
-       },
-       "240(8,53 244x244)"},
-      {"to 8 times", [&] { ctrl(Qt::Key_Plus), ctrl(Qt::Key_Plus); }, "480(8,53 481x377)"},
-      {"Ctrl+0", [&] { ctrl(Qt::Key_0); }, ""},
+  const auto seen = [&] {
+    EXPECT_TRUE(zoomed().empty() || canvas->hasFocus());
+    return zoomed();
   };
   write([] { Form1.Timer1.Interval = 60000; });
-  for (const auto& [what, act, size] : steps) {
+  play(seen, {{"List1#2 press; pictures@70@70 wheel", ""},
+              {"pictures@70@70 Ctrl+wheel", "120(25,53 124x124)"},
+              {"pictures@70@70 Ctrl+wheel", "180(8,53 184x184)"},
+              {"pictures@70@70 Ctrl+wheel-back", "120(25,53 124x124)"},
+              {"Right", "160(78,53 164x164)"},
+              {"Home", "80(8,53 84x84)"},
+              {"Esc", ""},
+              {"Ctrl++", "80(8,53 84x84)"}});
+  const auto tick = [](int times) {
+    for (; times > 0; --times) write([] { Form1.Timer1.Timer(); });
+  };
+  const std::pair<std::function<void()>, const char*> steps[] = {
+      {[] { write([] { Form1.Command5.Click(); }); }, "80(8,53 84x84)"},
+      {[&] { tick(1); }, "80(8,53 84x84)"},
+      {[&] { tick(1); }, "120(8,53 124x124)"},
+      {[&] { tick(2); }, "160(8,53 164x164)"},
+      {[] { write([] { Form1.Command3.Click(); }); }, "120(8,53 124x124)"}};
+  for (const auto& [act, size] : steps) {
     act();
-    EXPECT_EQ(zoomed(), size) << what;
-    EXPECT_TRUE(*size == '\0' || canvas->hasFocus()) << what;
+    EXPECT_EQ(zoomed(), size) << &size - &steps[0].second;
   }
-  ctrl(Qt::Key_Plus);
-  const QImage seen = picture_of(*area->viewport());
-  EXPECT_EQ(seen.pixel(0, 0), seen.pixel(1, 1));
-  EXPECT_EQ(seen.pixel(0, 0), seen.pixel(2, 2));
-  EXPECT_NE(seen.pixel(0, 0), seen.pixel(2, 1));
-}
-
-// Of the menus: "-" is a line, "!" a disabled item, "*" a checked one.
-static std::string text_of(const QMenu& menu) {
-  std::string text;
-  for (const QAction* action : menu.actions()) {
-    text += action->isSeparator() ? "-" : action->text().toStdString();
-    if (!action->isEnabled()) text += "!";
-    if (action->isChecked()) text += "*";
-    if (action->menu() != nullptr) text += "{" + text_of(*action->menu()) + "}";
-    text += "|";
-  }
-  return text;
+  play(seen, {{"Ctrl+-", ""},
+              {"Ctrl++; Ctrl++; Ctrl++", "240(8,53 244x244)"},
+              {"Ctrl++; Ctrl++", "480(8,53 481x377)"},
+              {"Ctrl+0", ""},
+              {"Ctrl++", "120(8,53 124x124)"}});
+  const QImage pixels = picture_of(*canvas->findChild<QWidget*>("zoom")).copy(2, 2, 3, 3);
+  EXPECT_EQ(pixels.pixel(0, 0), pixels.pixel(1, 1));
+  EXPECT_EQ(pixels.pixel(0, 0), pixels.pixel(2, 2));
+  EXPECT_NE(pixels.pixel(0, 0), pixels.pixel(2, 1));
 }
 
 TEST_F(Extras, MenusShowWhatCanBeDone) {
-  using step = std::function<void()>;
-  const auto in_bar = [&](int index) {
-    const QAction* column = window->findChild<QMenuBar*>()->actions()[index];
-    return column->text().toStdString() + ":" + text_of(*column->menu());
-  };
-  EXPECT_EQ(in_bar(0), "&File:&Open|-|&Exit|");
-  EXPECT_EQ(in_bar(1), "&Import/export:&Extract Ostrane.dat Files|&Make Ostrane.dat|");
-  EXPECT_EQ(in_bar(2),
-            "&Reports:&Save filelist as \"s16list.txt\"|-|&Compare current Ostrane.dat with "
-            "\"s16list.txt\"|");
-  const auto on_picture = [&] { right_press(canvas, QPoint(20, 60)); };
-  const step by_key = [&] { key(Qt::Key_F10, Qt::ShiftModifier); };
-  const std::string view_items =
-      "|-|&Zoom{&1 (own size)*|&2 times|&3 times|&4 times|&8 times|}|&Background{As "
-      "&designed*|&Chequered|&Black|&White|&Magenta|}|";
-  const std::tuple<const char*, step, step, std::string> cases[] = {
-      {"a row", [] {}, [&] { right_press(list->viewport(), middle_of(1)); },
-       "&Extract this entry\u2026|"},
-      {"several", [&] { press_row(0), press_row(1, Qt::ControlModifier); }, by_key,
-       "&Extract 2 entries\u2026|E&xport 2 entries as pictures\u2026|"},
-      {"a text", [&] { press_row(0); },
-       [&] { widget_of(*window, Form1.Text6)->setFocus(), by_key(); },
-       "&Undo\tCtrl+Z!|&Redo\tCtrl+Y!|-|Cu&t\tCtrl+X!|&Copy!|&Paste\tCtrl+V!|Delete!|-|Select "
-       "All\tCtrl+A|-|&Fixed-pitch font|"},
-      {"a picture", [&] { press_row(2); }, on_picture,
-       "&Copy picture|&Save picture\u2026|S&ave series\u2026" + view_items},
-      {"another", [&] { ostrane::tool_state.archive_is_open = ostrane::flag_false; }, on_picture,
-       "&Copy picture|&Save picture\u2026!|S&ave series\u2026!" + view_items},
-  };
-  for (const auto& [what, before, open, expected] : cases) {
-    before();
-    std::string text;
-    when_open<QMenu>([&](QMenu& menu) { text = text_of(menu), menu.close(); });
-    open();
-    EXPECT_EQ(text, expected) << what;
+  std::string in_bar;
+  for (const QAction* column : window->findChild<QMenuBar*>()->actions()) {
+    in_bar += column->text().toStdString() + ":" + text_of(*column->menu()) + "\n";
   }
+  EXPECT_EQ(in_bar,
+            "&File:&Open|-|&Exit|\n"
+            "&Import/export:&Extract Ostrane.dat Files|&Make Ostrane.dat|\n"
+            "&Reports:&Save filelist as \"s16list.txt\"|-|"
+            "&Compare current Ostrane.dat with \"s16list.txt\"|\n");
+  answers opened;
+  const auto seen = [&] { return opened.take(); };
+  const std::string view_items =
+      "|-|&Zoom{&1 (own size)*|&2 times|&3 times|&4 times|&8 times|}"
+      "|&Background{As &designed*|&Chequered|&Black|&White|&Magenta|}|";
+  play(seen, {{"List1#1 right", "&Extract this entry\u2026|"},
+              {"List1#0 press; List1#1 Ctrl+press; Shift+F10",
+               "&Extract 2 entries\u2026|E&xport 2 entries as pictures\u2026|"},
+              {"List1#2 press; pictures@20@60 right",
+               "&Copy picture|&Save picture\u2026|S&ave series\u2026" + view_items}});
+  ostrane::tool_state.archive_is_open = ostrane::flag_false;
+  play(seen, {{"pictures@20@60 right",
+               "&Copy picture|&Save picture\u2026!|S&ave series\u2026!" + view_items},
+              {"pictures@3@3 right", ""}});
 }
 
 TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
-  press_row(2);
-  const auto pick = [&](std::initializer_list<Qt::Key> keys) {
-    when_open<QMenu>([=](QMenu& /*menu*/) {
-      for (const Qt::Key pressed : keys)
-        QTest::keyClick(QApplication::activePopupWidget(), pressed);
-    });
-    paint_watch watch(canvas);
-    right_press(canvas, QPoint(20, 60));
-    return watch.painted.contains(QPoint(140, 140));
+  act(*window, "List1#2 press");
+  answers menus;
+  const auto pick = [&](const char* keys) {
+    menus.keys = keys;
+    act(*window, "pictures@20@60 right");
   };
   const QPoint unset(18 + 5, 58 + 20);
   const auto colour = [&] { return picture_of(*canvas).pixelColor(unset); };
   const QColor designed = colour();
-  EXPECT_TRUE(pick({Qt::Key_B, Qt::Key_M})) << "the other pictures follow";
-  EXPECT_EQ(colour(), QColor(Qt::magenta));
-  pick({Qt::Key_B, Qt::Key_W});
-  EXPECT_EQ(colour(), QColor(Qt::white));
-  pick({Qt::Key_B, Qt::Key_B});
-  EXPECT_EQ(colour(), QColor(Qt::black));
-  pick({Qt::Key_B, Qt::Key_C});
+  for (const auto& [keys, shown] : {std::pair("B M", QColor(Qt::magenta)),
+                                    {"B W", QColor(Qt::white)},
+                                    {"B B", QColor(Qt::black)},
+                                    {"B D", designed}}) {
+    paint_watch watch(canvas);
+    pick(keys);
+    EXPECT_TRUE(watch.painted.contains(QPoint(140, 140))) << "the other pictures follow";
+    EXPECT_EQ(colour(), shown) << keys;
+  }
+  pick("B C");
   EXPECT_NE(picture_of(*canvas).pixelColor(unset + QPoint(8, 0)), colour());
-  pick({Qt::Key_B, Qt::Key_D});
-  EXPECT_EQ(colour(), designed);
-  pick({Qt::Key_Z, Qt::Key_3});
-  EXPECT_EQ(zoomed().substr(0, 3), "120");
-  pick({Qt::Key_Z, Qt::Key_1});
+  pick("B D");
+  pick("Z 3");
+  EXPECT_EQ(zoomed(), "120(8,53 124x124)");
+  pick("Z 1");
   EXPECT_EQ(zoomed(), "");
 }
 
 TEST_F(Extras, TabReachesWhatCanBeUsed) {
-  const auto tour = [&](Qt::Key pressed) {
+  const auto tour = [&](const char* key) {
     QStringList names;
-    for (key(pressed); !list->hasFocus() && names.size() < 20; key(pressed)) {
-      pressed == Qt::Key_Tab ? names.append(focused().c_str()) : names.prepend(focused().c_str());
+    for (act(*window, key); !list->hasFocus() && names.size() < 20; act(*window, key)) {
+      names += window->focusWidget()->objectName();
     }
+    if (*key == 'S') std::reverse(names.begin(), names.end());
     return names.join(" ").toStdString();
   };
-  const std::tuple<const char*, std::function<void()>, const char*> cases[] = {
-      {"nothing", [&] { list->setFocus(); },
-       "Text1 Command3 Text2 Text3 Text4 Command4 Command5 Command6 Text5"},
-      {"pictures", [&] { press_row(2); },
-       "Text1 pictures Text2 Text3 Text4 Command5 Command6 Text5"},
-      {"a text", [&] { press_row(0); }, "Text1 Text2 Text3 Text4 Command5 Command6 Text5 Text6"},
-  };
-  for (const auto& [what, act, expected] : cases) {
-    act();
-    EXPECT_EQ(tour(Qt::Key_Tab), expected) << what;
-    EXPECT_EQ(tour(Qt::Key_Backtab), expected) << what;
+  for (const auto& [before, expected] :
+       {std::pair("Ctrl+L", "Text1 Command3 Text2 Text3 Text4 Command4 Command5 Command6 Text5"),
+        {"List1#2 press", "Text1 pictures Text2 Text3 Text4 Command5 Command6 Text5"},
+        {"List1#0 press", "Text1 Text2 Text3 Text4 Command5 Command6 Text5 Text6"}}) {
+    act(*window, before);
+    EXPECT_EQ(tour("Tab"), expected);
+    EXPECT_EQ(tour("Shift+Tab"), expected);
   }
 }
 
+// What was copied, opened, or read from an archive.
 TEST_F(Extras, KeysAct) {
   QClipboard& clipboard = *QGuiApplication::clipboard();
-  std::string opened;
-  const auto name_of_dialog = [&] {
-    when_open<QDialog>([&](QDialog& dialog) {
-      opened = dialog.windowTitle().toStdString();
-      if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
-        opened += std::to_string(box->text().count('\n') + 1);
-      } else {
-        opened += " " + dialog.findChild<QLineEdit*>()->text().toStdString();
-      }
-      dialog.reject();
-    });
-  };
-  const auto copied = [&] {
-    return clipboard.image().isNull() ? clipboard.text().toStdString()
-                                      : std::to_string(clipboard.image().width());
-  };
-  const auto copy = [&](const forms_layer::control& from, int moved = 0) {
-    QWidget* at = widget_of(*window, from);
-    (at == nullptr ? canvas : at)->setFocus();
-    if (moved != 0) key(moved);
+  answers opened;
+  const auto seen = [&] {
+    const std::string width = std::to_string(clipboard.image().width());
+    const std::string copied = width == "0" ? clipboard.text().toStdString() : width;
     clipboard.clear();
-    key(Qt::Key_C, Qt::ControlModifier);
-    return copied();
+    return opened.take() + copied;
   };
-  press_row(2);
-  EXPECT_EQ(copy(Form1.List1), "PIC.SHP");
-  EXPECT_EQ(copy(Form1.Command5), "40");
-  EXPECT_EQ(copy(Form1.s16_image(1), Qt::Key_Right), "60");
-  key(Qt::Key_L, Qt::ControlModifier);
-  EXPECT_TRUE(list->hasFocus());
-  const std::tuple<Qt::Key, Qt::KeyboardModifiers, std::string> dialogs[] = {
-      {Qt::Key_F1, {}, "Ostrane.dat-tool" + std::to_string(Form1.keys.size())},
-      {Qt::Key_E, Qt::ControlModifier, "Extract this entry PIC.SHP"},
-      {Qt::Key_S, Qt::ControlModifier, "Save picture PIC-0002.png"},
-  };
-  for (const auto& [pressed, modifiers, expected] : dialogs) {
-    name_of_dialog();
-    key(pressed, modifiers);
-    EXPECT_EQ(opened, expected);
-  }
-  key(Qt::Key_F10);
-  EXPECT_EQ(window->findChild<QMenuBar*>()->activeAction()->text(), "&File");
-  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  play(seen, {{"List1#2 press; Ctrl+C", "PIC.SHP"},
+              {"Ctrl+E", "Extract this entry: PIC.SHP"},
+              {"Ctrl+L; Tab; Tab; Ctrl+C", "40"},
+              {"Right; Ctrl+C", "60"},
+              {"Ctrl+S", "Save picture: PIC-0002.png"},
+              {"F1", "Ostrane.dat-tool"}});
+  const auto first = [] { return Form1.List1.List(0) + (ostrane::Form2.Visible() ? "?" : ""); };
   ostrane::write_bytes(folder / "ostrane.dat", ostrane::archive_bytes({{"N.TXT", ""}}));
-  key(Qt::Key_F5);
-  EXPECT_EQ(Form1.List1.List(0), "N.TXT");
-  key(Qt::Key_O, Qt::ControlModifier);
-  QWidget& dialog = *screen.window_of(ostrane::Form2);
-  EXPECT_TRUE(dialog.isVisible());
+  play(first, {{"F5", "N.TXT"}, {"Ctrl+O", "N.TXT?"}});
   write([] { Form1.List1.Clear(); });
-  key(Qt::Key_F5);
-  EXPECT_EQ(Form1.List1.ListCount(), 0) << "the window is disabled";
-  QTest::keyClick(dialog.windowHandle(), Qt::Key_O, Qt::ControlModifier);
-  handle_events();
-  EXPECT_FALSE(ostrane::Form2.Visible());
-  EXPECT_EQ(Form1.List1.List(0), "N.TXT");
-  QTimer::singleShot(0, [&] { key(Qt::Key_Q, Qt::ControlModifier); });
+  play(first, {{"F5", "?"}});  // the window is disabled
+  Desktop::play(*screen.window_of(ostrane::Form2), first, {{"Ctrl+O", "N.TXT"}});
+  QTimer::singleShot(0, [&] { act(*window, "Ctrl+Q"); });
   QTimer limit;
   limit.callOnTimeout([] { QApplication::exit(1); });
   limit.start(60000);
@@ -292,41 +191,41 @@ TEST_F(Extras, KeysAct) {
 // Files are written when another program asks for them after the drop.
 TEST_F(Extras, RowsAreDraggedOut) {
   const QPoint start = middle_of(1);
-  const auto drag_by = [&](int pixels) -> const QDrag* {
-    press_row(0), press_row(1, Qt::ControlModifier);
+  const auto move_by = [&](int pixels) -> const QDrag* {
+    act(*window, "List1#0 press; List1#1 Ctrl+press");
     QTest::mousePress(list->viewport(), Qt::LeftButton, {}, start);
-    QMouseEvent moved(QEvent::MouseMove, start + QPoint(pixels, 0),
-                      list->viewport()->mapToGlobal(start + QPoint(pixels, 0)), Qt::NoButton,
+    const QPoint to = start + QPoint(pixels, 0);
+    QMouseEvent moved(QEvent::MouseMove, to, list->viewport()->mapToGlobal(to), Qt::NoButton,
                       Qt::LeftButton, {});
     QCoreApplication::sendEvent(list->viewport(), &moved);
     return window->findChild<QDrag*>();
   };
-  EXPECT_EQ(drag_by(QApplication::startDragDistance() - 1), nullptr);
-  QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, start);
+  const auto let_go = [&] { QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, start); };
+  EXPECT_EQ(move_by(QApplication::startDragDistance() - 1), nullptr);
+  let_go();
   EXPECT_EQ(selected(), "1 shows 1");
-  const QDrag* drag = drag_by(QApplication::startDragDistance());
+  const QDrag* drag = move_by(QApplication::startDragDistance());
   ASSERT_NE(drag, nullptr);
   const auto files = [&] {
-    const QList<QUrl> urls = drag->mimeData()->urls();
     std::string all;
-    for (const QUrl& url : urls) {
-      all += url.fileName().toStdString() + ":" +
-             ostrane::bytes_of(url.toLocalFile().toStdString()) + " ";
+    for (const QUrl& url : drag->mimeData()->urls()) {
+      const std::string path = url.toLocalFile().toStdString();
+      all += url.fileName().toStdString() + ":" + ostrane::bytes_of(path) + " ";
     }
     return all;
   };
   EXPECT_EQ(files(), "A.TXT: AB.TXT: ") << "while the button is held";
-  QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, start);
+  let_go();
   EXPECT_EQ(files(), "A.TXT:text AB.TXT:text ");
   EXPECT_EQ(selected(), "01 shows 0");
-  when_open<QMessageBox>([](QMessageBox& box) {
-    EXPECT_EQ(box.text(), "full");
-    box.accept();
-  });
-  screen.drag_files({"x"}, [](const fs::path&) { return "full"; });
-  QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, start);
-  window->findChildren<QDrag*>().last()->mimeData()->urls();
-  handle_events();
+  answers opened;
+  for (const char* message : {"", "disk full"}) {
+    screen.drag_files({"x"}, [message](const fs::path&) { return message; });
+    let_go();
+    window->findChildren<QDrag*>().last()->mimeData()->urls();
+    handle_events();
+    EXPECT_EQ(opened.take(), *message == '\0' ? "" : "Ostrane.dat-tool");
+  }
 }
 
 TEST_F(Extras, ADropOpensAnArchive) {
@@ -357,31 +256,39 @@ TEST_F(Extras, ADropOpensAnArchive) {
   EXPECT_FALSE(drop({"sub"}));
 }
 
-TEST_F(Extras, ARowTellsItsSize) {
-  QHelpEvent pointed(QEvent::ToolTip, middle_of(0), list->viewport()->mapToGlobal(middle_of(0)));
-  QCoreApplication::sendEvent(list->viewport(), &pointed);
-  EXPECT_TRUE(QToolTip::text().contains("A.TXT: 4 bytes at ")) << QToolTip::text().toStdString();
+// The tip of the list and of its row, and that of a picture.
+TEST_F(Extras, ToolTipsTellMore) {
+  act(*window, "List1#2 press");
+  const auto tip_at = [](QWidget* on, const QPoint& at) {
+    QHelpEvent pointed(QEvent::ToolTip, at, on->mapToGlobal(at));
+    QCoreApplication::sendEvent(on, &pointed);
+    return QToolTip::text().toStdString();
+  };
+  EXPECT_EQ(tip_at(list->viewport(), middle_of(0)),
+            Form1.List1.ToolTipText() + "\nA.TXT: 4 bytes at 89, text");
+  EXPECT_EQ(tip_at(canvas, {18, 58}), ostrane::icon_tool_tip);
 }
 
 TEST_F(Extras, ATextCanHaveAFixedPitch) {
-  press_row(0);
+  act(*window, "List1#0 press");
   QWidget* text = widget_of(*window, Form1.Text6);
   const QFont designed = text->font();
+  answers menus;
   for (const bool fixed : {true, false}) {
-    when_open<QMenu>([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_F); });
-    QContextMenuEvent asked(QContextMenuEvent::Mouse, {9, 9}, text->mapToGlobal(QPoint(9, 9)));
-    QCoreApplication::sendEvent(static_cast<QAbstractScrollArea*>(text)->viewport(), &asked);
+    menus.keys = "F";
+    act(*window, "Text6@9@9 right");
     EXPECT_EQ(text->font().families().first() == "Liberation Mono", fixed);
   }
   EXPECT_EQ(text->font(), designed);
 }
 
 TEST_F(Extras, ShiftPlaysTheMotionInALoop) {
-  press_row(2);
-  QWidget* button = widget_of(*window, Form1.Command5);
-  button->setFocus();
-  QTest::keyClick(window->windowHandle(), Qt::Key_Space, Qt::ShiftModifier);
-  EXPECT_TRUE(Form1.Timer1.Enabled());
-  for (int i = 0; i < 5; ++i) write([] { Form1.Timer1.Timer(); });
-  EXPECT_TRUE(Form1.Timer1.Enabled());
+  for (const auto& [step, loops] :
+       {std::pair("Command5 Space", false), {"Command5 Shift+Space", true}}) {
+    act(*window, "List1#2 press; Command5 press");
+    write([] { Form1.Timer1.Enabled = false; });
+    act(*window, step);
+    for (int i = 0; i < 5; ++i) write([] { Form1.Timer1.Timer(); });
+    EXPECT_EQ(Form1.Timer1.Enabled(), loops);
+  }
 }

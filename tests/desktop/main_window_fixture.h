@@ -1,9 +1,5 @@
 #pragma once
 
-#include <QAbstractItemView>
-#include <QAbstractScrollArea>
-#include <QDebug>
-
 #include "archive_bytes.h"
 #include "data/icon_packer.h"
 #include "desktop_fixture.h"
@@ -30,14 +26,11 @@ struct Extras : Desktop {
     window = &activate(show(Form1));
     list = static_cast<QAbstractItemView*>(widget_of(*window, Form1.List1));
     canvas = widget_of(*window, Form1.Command5)->parentWidget();
+    canvas->setObjectName("pictures");
   }
-  void key(int pressed, Qt::KeyboardModifiers modifiers = {}) const {
-    QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(pressed), modifiers);
-    handle_events();
-  }
-  void press_row(int row, Qt::KeyboardModifiers modifiers = {}) const {
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, middle_of(row));
-    handle_events();
+  void play(const std::function<std::string()>& seen,
+            const std::vector<std::pair<const char*, std::string>>& steps) const {
+    Desktop::play(*window, seen, steps);
   }
   QPoint middle_of(int row) const {
     return list->visualRect(list->model()->index(row, 0)).center();
@@ -56,15 +49,6 @@ struct Extras : Desktop {
     QString text;
     QDebug(&text).nospace() << area->viewport()->findChild<QWidget*>()->width() << area->geometry();
     return text.remove("QRect").toStdString();
-  }
-  // The control that has the focus.
-  std::string focused() const {
-    const QWidget* at = window->focusWidget();
-    return at == canvas ? "pictures" : at->objectName().toStdString();
-  }
-  void right_press(QWidget* on, const QPoint& at) const {
-    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, on->mapTo(window, at));
-    handle_events();
   }
 
   QWidget* window = nullptr;

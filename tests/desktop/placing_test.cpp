@@ -1,7 +1,4 @@
 // Where windows open, what they show first, and how they come back.
-#include <QScreen>
-#include <QWindow>
-
 #include "desktop_fixture.h"
 
 struct first_events : QObject {

@@ -1,11 +1,4 @@
 // What the tool writes is on the screen.
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QScrollBar>
-#include <QWindow>
-
 #include "archive_bytes.h"
 #include "data/icon_packer.h"
 #include "desktop/designed_look.h"

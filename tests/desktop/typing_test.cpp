@@ -1,8 +1,4 @@
 // What the user types arrives, in the order and at the place where it was typed.
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTimer>
-
 #include "desktop_fixture.h"
 
 struct Typing : Desktop {

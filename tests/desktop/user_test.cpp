@@ -1,45 +1,17 @@
 // What the user does reaches the tool, also by keyboard and through a screen reader.
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QClipboard>
-#include <QComboBox>
-#include <QElapsedTimer>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMouseEvent>
-#include <QScrollBar>
-
 #include "desktop/designed_look.h"
 #include "desktop_fixture.h"
 
-static void press(QWidget* widget, const QPoint& at = {}) {
-  QTest::mouseClick(widget, Qt::LeftButton, {}, at);
-}
-
-// The second press of a double click.
-static void press_again(QWidget* widget, const QPoint& at = {}) {
-  QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
-}
-
-// As the keyboard repeats a key that is held.
-static void hold(QWidget* widget, int key) {
-  QKeyEvent repeated(QEvent::KeyPress, key, {}, QString(), true);
-  QCoreApplication::sendEvent(widget, &repeated);
-}
-
 struct Input : Desktop {
-  QAbstractItemView* rows_of(const forms_layer::control& shown) {
-    return static_cast<QAbstractItemView*>(widget_of(window, shown));
+  Input() { canvas->setObjectName("pictures"); }
+  QListView* rows_of(const forms_layer::control& shown) const {
+    return window.findChild<QListView*>(QString::fromLatin1(shown.designed.name));
   }
-  static QPoint middle_of(QAbstractItemView* list, int row) {
-    return list->visualRect(list->model()->index(row, 0)).center();
-  }
-  static void press_row(QAbstractItemView* list, int row, bool again = false) {
-    const QPoint middle = middle_of(list, row);
-    again ? press_again(list->viewport(), middle) : press(list->viewport(), middle);
+  using steps = std::vector<std::pair<const char*, std::string>>;
+  // Compares what the tool logged.
+  void play(const steps& all) {
+    Desktop::play(
+        window, [&] { return std::exchange(log, ""); }, all);
   }
 
   std::string log;
@@ -65,123 +37,62 @@ TEST_F(Input, ReachesTheTool) {
     log += std::to_string(form.client_width()) + "x" + std::to_string(form.client_height()) + " ";
   };
   write([&] { picture().Visible = true; });
-  QAbstractItemView* list = rows_of(form.list);
-  QAbstractItemView* folders = rows_of(form.folders);
-  QAbstractItemView* files = rows_of(form.files);
-  QWidget* button = widget_of(window, form.button);
-  QWidget* field = widget_of(window, form.field);
-  QWidget* label = widget_of(window, form.label);
-  QWidget* page = widget_of(window, form.page);
-  auto* drives = static_cast<QComboBox*>(widget_of(window, form.drives));
-  QMenuBar* bar = window.findChild<QMenuBar*>();
-  const QPoint on_picture(18, 58);
-  const QPoint beside(60, 190);
-  const auto disabled = [&] {
-    list->setFocus();
-    form.Enabled = false;
-    QTest::keyClick(list, Qt::Key_Tab);
-    EXPECT_TRUE(list->hasFocus());
-    press_row(list, 0);
-    QTest::keyClick(list, Qt::Key_Up);
-    press(button);
-    QTest::keyClicks(field, "9");
-    window.close();
-    form.Enabled = true;
-  };
-  const auto right = [](QWidget* on, const QPoint& at, bool again = false) {
-    again ? QTest::mouseDClick(on, Qt::RightButton, {}, at)
-          : QTest::mouseClick(on, Qt::RightButton, {}, at);
-  };
-  const auto through_menu = [&] {
-    field->setFocus();
-    QTest::keyClick(window.windowHandle(), Qt::Key_F10);
-    EXPECT_EQ(bar->activeAction(), bar->actions()[0]);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-    QTest::keyClick(bar, Qt::Key_Escape);
-    EXPECT_TRUE(field->hasFocus());
-  };
-  const auto reloaded = [&] {
-    ostrane::write_bytes(folder / "b.txt", "b");
-    QTest::keyClick(field, Qt::Key_F5);
-    log += std::to_string(form.files.ListCount());
-  };
-  const auto type_in_page = [&](const char* typed) {
-    page->setFocus();
-    QTest::keyClicks(page, typed), QTest::keyClick(page, Qt::Key_Return);
-  };
-  const std::tuple<const char*, std::function<void()>, std::string> cases[] = {
-      {"first arrow", [&] { list->setFocus(), QTest::keyClick(list, Qt::Key_Down); }, "click0 "},
-      {"right press", [&] { right(list->viewport(), middle_of(list, 1)); }, ""},
-      {"press", [&] { press_row(list, 1); }, "click1 "},
-      {"press on the selected row", [&] { press_row(list, 1); }, "click1 "},
-      {"second press, on another row", [&] { press_row(list, 0, true); }, "double1 "},
-      {"second press only", [&] { press(button), press_row(list, 2, true); }, "go click2 "},
-      {"Ctrl+Space", [&] { QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier); }, ""},
-      {"arrow", [&] { QTest::keyClick(list, Qt::Key_Down); }, "click3 "},
-      {"End", [&] { QTest::keyClick(list, Qt::Key_End); }, "click8 "},
-      {"arrow at the end", [&] { QTest::keyClick(list, Qt::Key_Down); }, ""},
-      {"second press by the right button",
-       [&] { press_row(list, 1), right(list->viewport(), middle_of(list, 1), true); }, "click1 "},
-      {"Enter", [&] { QTest::keyClick(button, Qt::Key_Return), hold(button, Qt::Key_Return); },
-       "go "},
-      {"Space", [&] { QTest::keyClick(button, Qt::Key_Space); }, "go "},
-      {"Escape", [&] { QTest::keyClick(field, Qt::Key_Escape); }, "go "},
-      {"text before a button", [&] { type_in_page("a"), press(widget_of(window, form.inner)); },
-       "inner:a\r\n "},
-      {"a label", [&] { press(label), QTest::keyClick(label, Qt::Key_Return); }, "label label "},
-      {"Space on it", [&] { QTest::keyClick(label, Qt::Key_Space), hold(label, Qt::Key_Space); },
-       "label "},
-      {"let go beside it",
-       [&] {
-         QTest::mousePress(label, Qt::LeftButton),
-             QTest::mouseRelease(label, Qt::LeftButton, {}, {-5, 5});
-       },
-       ""},
-      {"right press on it",
-       [&] {
-         right(label, {5, 5});
-       },
-       ""},
-      {"typing beyond the limit", [&] { field->setFocus(), QTest::keyClicks(field, "123"); }, ""},
-      {"F10 and back", through_menu, ""},
-      {"another window and back",
-       [&] {
-         QApplication::setActiveWindow(nullptr);
-         QApplication::setActiveWindow(&window);
-       },
-       ""},
-      {"focus elsewhere", [&] { canvas->setFocus(), hold(canvas, Qt::Key_Return); }, "lost:12 "},
-      {"double click on a picture",
-       [&] { press(canvas, on_picture), press_again(canvas, on_picture); }, "picture1 "},
-      {"one begun beside it", [&] { press(canvas, beside), press_again(canvas, on_picture); }, ""},
-      {"one that began on another widget",
-       [&] { press(canvas, on_picture), press(button), press_again(canvas, on_picture); }, "go "},
-      {"right double click", [&] { press(canvas, on_picture), right(canvas, on_picture, true); },
-       ""},
-      {"wheel",
-       [&] {
-         turn_wheel(*drives, {5, 5}, -120);
-       },
-       ""},
-      {"drive", [&] { QTest::keyClick(drives, Qt::Key_Down); }, "d: [two] "},
-      {"folder", [&] { press_row(folders, 1); }, ""},
-      {"Enter on it", [&] { QTest::keyClick(folders, Qt::Key_Enter); }, "C:\\sub "},
-      {"double click on it", [&] { press_row(folders, 0), press_row(folders, 0, true); }, "C:\\ "},
-      {"file", [&] { press_row(files, 0); }, "a.txt "},
-      {"F5", reloaded, "2"},
-      {"menu", [&] { bar->actions()[0]->menu()->actions()[0]->trigger(); }, "first "},
-      {"size", [&] { window.resize(450, 440 + bar->height()); }, "6750x6600 "},
-      {"close", [&] { window.close(); }, "close "},
-      {"disabled", disabled, ""},
-  };
-  for (const auto& [what, act, logged] : cases) {
-    log.clear();
-    act();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(log, logged) << what;
-    EXPECT_EQ(list->selectionModel()->hasSelection(), form.list.ListIndex() >= 0) << what;
-  }
-  EXPECT_TRUE(button->isEnabled()) << "a disabled form looks as ever";
+  const steps of_lists = {{"list Down", "click0 "},  // there was no row
+                          {"list#1 right", ""},
+                          {"list#1 press", "click1 "},
+                          {"list#1 press", "click1 "},
+                          {"list#0 again", "double1 "},  // scrolled under the mouse
+                          {"list#1 press; list#1 right-again", "click1 "},
+                          {"button press; list#2 again", "go click2 "},
+                          {"list Ctrl+Space", ""},
+                          {"list Down", "click3 "},
+                          {"list End", "click8 "},
+                          {"list Down", ""},
+                          {"list Return", ""},
+                          {"folders#1 press", ""},
+                          {"folders Enter", "C:\\sub "},
+                          {"folders#0 press; folders#0 again", "C:\\ "},
+                          {"files#0 press", "a.txt "},
+                          {"drives wheel", ""},
+                          {"drives Down", "d: [two] "}};
+  const steps of_controls = {{"button Return; button hold Return", "go "},
+                             {"button Space", "go "},
+                             {"field Esc", "go "},
+                             {"inner right", ""},
+                             {"label press; label Return", "label label "},
+                             {"label Space; label hold Space", "label "},
+                             {"label right", ""},
+                             {"page press; 'a; Return; inner press", "inner:a\r\n "},
+                             {"field press; '123", ""},
+                             {"F10; Esc; Esc; 'x", ""},  // the menu gives the focus back
+                             {"F10; Down; Return", "first "},
+                             {"inner press", "lost:12 inner:a\r\n "}};
+  const steps of_pictures = {{"pictures@18@58 press; pictures@18@58 again", "picture1 "},
+                             {"pictures@60@190 press; pictures@18@58 again", ""},
+                             {"pictures@18@58 press; button press; pictures@18@58 again", "go "},
+                             {"pictures@18@58 press; pictures@18@58 right-again", ""},
+                             {"pictures hold Return", ""}};
+  play(of_lists), play(of_controls), play(of_pictures);
+  QListView* list = rows_of(form.list);
+  QLabel* label = window.findChild<QLabel*>("label");
+  QTest::mousePress(label, Qt::LeftButton);
+  QTest::mouseRelease(label, Qt::LeftButton, {}, {-5, 5});
+  EXPECT_EQ(log, "") << "let go beside it";
+  ostrane::write_bytes(folder / "b.txt", "b");
+  act(window, "F5");
+  EXPECT_EQ(form.files.ListCount(), 2);
+  auto* bar = window.findChild<QMenuBar*>();
+  window.resize(450, 440 + bar->height());
+  QApplication::setActiveWindow(nullptr), QApplication::setActiveWindow(&window);
+  window.close();
+  EXPECT_EQ(log, "6750x6600 close ");
+  log.clear();
+  form.Enabled = false;
+  play({{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
+  window.close();
+  form.Enabled = true;
+  EXPECT_EQ(log, "");
+  EXPECT_TRUE(widget_of(window, form.button)->isEnabled()) << "a disabled form looks as ever";
   EXPECT_EQ(form.field.Text(), "12");
   EXPECT_TRUE(window.isVisible());
   EXPECT_GT(list->verticalScrollBar()->value(), 0);
@@ -192,15 +103,18 @@ TEST_F(Input, ReachesTheTool) {
   });
   EXPECT_EQ(list->verticalScrollBar()->value(), 0) << "another list starts at its first row";
   write([&] { form.list.ListIndex = 8; });
-  EXPECT_TRUE(list->viewport()->rect().contains(5, middle_of(list, 8).y()));
-  EXPECT_GT(list->sizeHintForColumn(0), list->fontMetrics().horizontalAdvance(wide.c_str()));
-  const int icon_and_indent = folders->iconSize().width() + 8;
+  EXPECT_EQ(list->verticalScrollBar()->value(), list->verticalScrollBar()->maximum());
+  const auto needed = [](const QWidget* shown, const char* text) {
+    return shown->fontMetrics().horizontalAdvance(text);
+  };
+  EXPECT_GT(list->sizeHintForColumn(0), needed(list, wide.c_str()));
+  const QListView* folders = rows_of(form.folders);
   EXPECT_GT(folders->sizeHintForColumn(0),
-            folders->fontMetrics().horizontalAdvance("sub") + icon_and_indent);
-  type_in_page("b");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "a\r\nb\r\n"; }, 60'000));
-  QTest::keyClick(page, Qt::Key_Tab);
-  EXPECT_FALSE(page->hasFocus());
+            needed(folders, "sub") + folders->iconSize().width() + 8);
+  act(window, "page press; 'b");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "a\r\nb"; }, 60'000));
+  act(window, "Tab");
+  EXPECT_FALSE(widget_of(window, form.page)->hasFocus());
 }
 
 // The letters after the first are typed while its handler runs, and are handled late.
@@ -209,7 +123,7 @@ TEST_F(Input, LettersTypedDuringAHandlerContinueTheWord) {
   QApplication::setKeyboardInputInterval(interval);
   for (const char* row : {"ba", "a", "bb", "bbc", "ab"}) form.list.AddItem(row);
   form.list.Click = [] { QTest::qSleep(2 * interval); };
-  QAbstractItemView* list = rows_of(form.list);
+  QListView* list = rows_of(form.list);
   const std::tuple<const char*, std::vector<quint64>, int> cases[] = {
       {"ab", {0, interval}, 4},
       {"ab", {0, interval + 1}, 2},
@@ -231,8 +145,8 @@ TEST_F(Input, LettersTypedDuringAHandlerContinueTheWord) {
 }
 
 TEST_F(Input, KeysReachEveryVisiblePicture) {
-  int opened = 0;
-  form.pictures.DblClick = [&](int i) { opened = i; };
+  std::string opened;
+  form.pictures.DblClick = [&](int i) { opened = std::to_string(i); };
   const QPoint positions[] = {{300, 900}, {600, 900}, {0, 0}, {900, 900}, {300, 1200}, {840, 1200}};
   for (int i = 0; i <= 5; ++i) {
     form.pictures(i).Move(positions[i].x(), positions[i].y());
@@ -244,22 +158,18 @@ TEST_F(Input, KeysReachEveryVisiblePicture) {
   };
   canvas->setFocus();
   EXPECT_TRUE(has_cursor());
-  const std::pair<Qt::Key, int> steps[] = {
-      {Qt::Key_Right, 1}, {Qt::Key_Right, 3}, {Qt::Key_Right, 4}, {Qt::Key_Down, 4},
-      {Qt::Key_End, 5},   {Qt::Key_Up, 3},    {Qt::Key_Up, 3},    {Qt::Key_Left, 1},
-      {Qt::Key_Left, 0},  {Qt::Key_Left, 0},  {Qt::Key_Down, 4},  {Qt::Key_Home, 0}};
-  for (const auto& [key, reached] : steps) {
-    opened = -1;
-    QTest::keyClick(canvas, key);
-    QTest::keyClick(canvas, reached % 2 == 0 ? Qt::Key_Space : Qt::Key_Return);
-    EXPECT_EQ(opened, reached) << "by key " << key;
-  }
+  const auto reached = [&] { return std::exchange(opened, "none"); };
+  Desktop::play(window, reached,
+                {{"Right; Space", "1"}, {"Right; Return", "3"}, {"Right; Enter", "4"},
+                 {"Down; Space", "4"},  {"End; Space", "5"},    {"Up; Space", "3"},
+                 {"Up; Space", "3"},    {"Left; Space", "1"},   {"Left; Space", "0"},
+                 {"Left; Space", "0"},  {"Down; Space", "4"},   {"Home; Space", "0"}});
   widget_of(window, form.inner)->setFocus();
   EXPECT_FALSE(has_cursor());
   write([&] { form.pictures(0).Visible = false, form.pictures(5).Visible = false; });
   canvas->setFocus();
   QTest::keyClick(canvas, Qt::Key_Space);
-  EXPECT_EQ(opened, 1) << "the first that is visible";
+  EXPECT_EQ(opened, "1") << "the first that is visible";
   for (int i = 0; i <= 5; ++i) form.pictures(i).Visible = false;
   QCoreApplication::processEvents();
   EXPECT_FALSE(has_cursor());
@@ -271,53 +181,28 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   for (int i = 0; i < 3; ++i) form.list.AddItem("row");
   form.list.ContextMenu = form.pictures.ContextMenu = &form.context;
   form.pictures.DblClick = [](int) {};
-  form.pick.Click = [&] { log += "picked "; };
+  form.pick.Click = [&] { log += "picked ", form.timer.Enabled = false; };
   form.context.Popup = [&](int index) {
     log += std::to_string(index) + " ";
     return true;
   };
-  form.timer.Timer = [&] { log += "tick", form.timer.Enabled = false; };
+  form.timer.Timer = [&] { log += "tick "; };
   form.timer.Interval = 1;
   write([&] { picture().Visible = true, form.pictures(2).Visible = true; });
   write([&] { form.pictures(2).Move(900, 900), form.list.ListIndex = 2; });
-  QAbstractItemView* list = rows_of(form.list);
-  const auto right_press = [&](QWidget* on, const QPoint& at) {
-    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, on->mapTo(&window, at));
+  answers menus;
+  menus.on_open = [&] {
+    form.timer.Enabled = true;
+    QTest::qWait(20);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    menus.keys = menu->activeAction() == nullptr ? "P" : "Return";
   };
-  const auto by_key = [](QWidget* on) {
-    on->setFocus();
-    QTest::keyClick(on, Qt::Key_F10, Qt::ShiftModifier);
-  };
-  const std::pair<std::function<void()>, const char*> cases[] = {
-      {[&] { right_press(list->viewport(), middle_of(list, 1)); }, "1 picked tick"},
-      {[&] { by_key(list); }, "2 picked tick"},
-      {[&] {
-         right_press(canvas, {61, 61});
-       },
-       "2 picked tick"},
-      {[&] { by_key(canvas); }, "1 picked tick"},
-      {[&] { by_key(widget_of(window, form.inner)); }, ""},
-      {[&] {
-         right_press(canvas, {5, 150});
-       },
-       ""},
-  };
-  for (const auto& [open, expected] : cases) {
-    log.clear();
-    if (*expected != '\0') {
-      when_open<QMenu>([&](QMenu& menu) {
-        form.timer.Enabled = true;
-        QTest::qWait(20);
-        QTest::keyClick(&menu, menu.activeAction() == nullptr ? Qt::Key_P : Qt::Key_Return);
-      });
-    }
-    open();
-    handle_events();
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&, length = std::string(expected).size()] { return log.size() >= length; }));
-    EXPECT_EQ(log, expected) << &open - &cases[0].first;
-  }
+  play({{"list#1 right", "1 picked "},
+        {"list focus; Shift+F10", "2 picked "},
+        {"pictures@61@61 right", "2 picked "},
+        {"pictures focus; Shift+F10", "1 picked "},
+        {"inner focus; Shift+F10", ""},
+        {"pictures@5@150 right", ""}});
 }
 
 TEST_F(Input, PicturesAreCopied) {
