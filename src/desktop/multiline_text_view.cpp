@@ -68,14 +68,16 @@ multiline_text_view::multiline_text_view(forms_layer::text_box& shown, QWidget* 
 
 void multiline_text_view::take_edit() {
   pause_.stop();
-  QString lines = toPlainText();
+  reported_ = toPlainText();
+  QString lines = reported_;
   forms_layer::user::type(shown_,
                           from_screen(lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"))));
 }
 
 void multiline_text_view::show_content() {
   const QString now = with_short_lines(normalize_newlines(to_screen(shown_.Text())));
-  if (now == toPlainText()) return;
+  const bool types_on = pause_.isActive() && now == reported_;
+  if (types_on || now == toPlainText()) return;
   const QSignalBlocker quiet(this);
   const QString shown = with_joined_lines(now);
   has_joined_lines_ = shown.contains(QChar::LineSeparator);
