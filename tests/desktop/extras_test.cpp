@@ -177,10 +177,13 @@ TEST_F(Extras, KeysAct) {
               {"F1", "Ostrane.dat-tool"}});
   const auto first = [] { return Form1.List1.List(0) + (ostrane::Form2.Visible() ? "?" : ""); };
   ostrane::write_bytes(folder / "ostrane.dat", ostrane::archive_bytes({{"N.TXT", ""}}));
-  play(first, {{"F5", "N.TXT"}, {"Ctrl+O", "N.TXT?"}});
-  write([] { Form1.List1.Clear(); });
-  play(first, {{"F5", "?"}});  // the window is disabled
-  Desktop::play(*screen.window_of(ostrane::Form2), first, {{"Ctrl+O", "N.TXT"}});
+  play(first, {{"F5", "N.TXT"}});
+  for (const auto& [step, row] :
+       {std::pair("Esc", ""), {"Ctrl+O", "N.TXT"}, {"Dir1 Return", "N.TXT"}}) {
+    write([] { Form1.List1.Clear(); });
+    play(first, {{"Ctrl+O", "?"}, {"F5", "?"}});  // the window is disabled
+    Desktop::play(*screen.window_of(ostrane::Form2), first, {{step, row}});
+  }
   QTimer::singleShot(0, [&] { act(*window, "Ctrl+Q"); });
   QTimer limit;
   limit.callOnTimeout([] { QApplication::exit(1); });
@@ -206,6 +209,7 @@ TEST_F(Extras, RowsAreDraggedOut) {
   EXPECT_EQ(selected(), "1 shows 1");
   const QDrag* drag = move_by(QApplication::startDragDistance());
   ASSERT_NE(drag, nullptr);
+  EXPECT_EQ(drag->supportedActions(), Qt::CopyAction);
   const auto files = [&] {
     std::string all;
     for (const QUrl& url : drag->mimeData()->urls()) {

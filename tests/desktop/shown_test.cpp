@@ -30,6 +30,7 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
   };
   property("label", form.label.Caption, "Other");
   property("a line more", form.label.Caption, "Label\rB");
+  property("no markup", form.label.Caption, "Label<b>");
   property("button", form.button.Caption, "Other");
   property("frame", form.frame.Caption, "Other");
   property("field", form.field.Text, "11");

@@ -111,9 +111,7 @@ TEST_F(Input, ReachesTheTool) {
   const QListView* folders = rows_of(form.folders);
   EXPECT_GT(folders->sizeHintForColumn(0),
             needed(folders, "sub") + folders->iconSize().width() + 8);
-  act(window, "page press; 'b");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "a\r\nb"; }, 60'000));
-  act(window, "Tab");
+  act(window, "page press; Tab");
   EXPECT_FALSE(widget_of(window, form.page)->hasFocus());
 }
 
@@ -160,10 +158,18 @@ TEST_F(Input, KeysReachEveryVisiblePicture) {
   EXPECT_TRUE(has_cursor());
   const auto reached = [&] { return std::exchange(opened, "none"); };
   Desktop::play(window, reached,
-                {{"Right; Space", "1"}, {"Right; Return", "3"}, {"Right; Enter", "4"},
-                 {"Down; Space", "4"},  {"End; Space", "5"},    {"Up; Space", "3"},
-                 {"Up; Space", "3"},    {"Left; Space", "1"},   {"Left; Space", "0"},
-                 {"Left; Space", "0"},  {"Down; Space", "4"},   {"Home; Space", "0"}});
+                {{"Right; Space", "1"},
+                 {"Right; Return", "3"},
+                 {"Right; Enter", "4"},
+                 {"Down; Space", "4"},
+                 {"End; Space", "5"},
+                 {"Up; Space", "3"},
+                 {"Up; Space", "3"},
+                 {"Left; Space", "1"},
+                 {"Left; Space", "0"},
+                 {"Left; Space", "0"},
+                 {"Down; Space", "4"},
+                 {"Home; Space", "0"}});
   widget_of(window, form.inner)->setFocus();
   EXPECT_FALSE(has_cursor());
   write([&] { form.pictures(0).Visible = false, form.pictures(5).Visible = false; });
