@@ -243,7 +243,8 @@ TEST_F(Input, DialogsAskForFilesAndFolders) {
   const auto asked_path = [&] {
     const forms_layer::save_answer answer =
         screen.ask_save_path({"Save", "A\xC9", {{"Sheet", "-sheet.png"}, {"Motion", ".gif"}}});
-    return answer.path.lexically_relative(folder).string() + std::to_string(answer.kind);
+    return files::as_bytes(answer.path.lexically_relative(folder).generic_u8string()) +
+           std::to_string(answer.kind);
   };
   ask([&](QFileDialog& dialog) {
     dialog.setDirectory(folder_of("sub"));
