@@ -6,6 +6,7 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need windows windows-program
 . scripts/windows.sh
+unset DISPLAY WAYLAND_DISPLAY
 trap end_wine EXIT
 
 scripts/windows_libraries.sh

@@ -3,35 +3,28 @@
 # the files with the folder STAGE, starts the program from its menu entry if there is a display, and
 # uninstalls. A file of the user must stay, and nothing else.
 set -euo pipefail
-setup=$1
-stage=$2
+setup=$(realpath "$1")
+stage=$(realpath "$2")
+cd "$(dirname "$0")/.."
+. scripts/windows.sh
 drive=$WINEPREFIX/drive_c
+title='^Ostrane.dat-tool'
 
 fail() {
   echo "The setup fails: $*" >&2
   exit 1
 }
 
-until_true() {
-  for _ in $(seq 300); do
-    "$@" && return
-    sleep 0.2
-  done
-  fail "$*"
-}
-
 is_gone() { [ ! -e "$1" ]; }
-has_window() { xdotool search --onlyvisible --name '^Ostrane.dat-tool' >/dev/null 2>&1; }
-has_no_window() { ! has_window; }
 menu_entries() { find "$drive" -name 'Ostrane.dat-tool.lnk'; }
 
 # The list is saved in the working folder of the menu entry, the user's documents.
 start_from_menu() {
   wine start /unix "$1"
-  until_true has_window
+  until_true has_window "$title"
   sleep 1
   xdotool key --delay 100 alt+F4
-  until_true has_no_window
+  until_true has_no_window "$title"
 }
 
 check() {

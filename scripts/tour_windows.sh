@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # tour_windows.sh PROGRAMS PICTURES [SCALE]: uses the program for Windows in the folder PROGRAMS as a new user
-# does, under Wine: opens the sample, shows and plays an icon file, extracts, builds, compares, saves a
-# picture. Checks the files and writes screenshots to PICTURES. Needs a separate display with a window
+# does, under Wine: opens the sample, shows and plays an icon file, saves a picture, extracts, builds and
+# compares. Checks the files and writes screenshots to PICTURES. Needs a separate display with a window
 # manager.
 set -euo pipefail
 programs=$(cd "$1" && pwd)
@@ -9,6 +9,8 @@ mkdir -p "$2"
 pictures=$(cd "$2" && pwd)
 scale=${3:-1}
 title=Ostrane.dat-tool
+cd "$(dirname "$0")/.."
+. scripts/windows.sh
 
 fail() {
   import -window root "$pictures/failed.png" || true
@@ -16,20 +18,10 @@ fail() {
   exit 1
 }
 
-# until_true COMMAND...: waits for it.
-until_true() {
-  for _ in $(seq 300); do
-    "$@" && return
-    sleep 0.2
-  done
-  fail "$*"
-}
-
-has_window() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
-has_no_window() { ! has_window "$1"; }
+is_found() { found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) && [ -n "$found" ]; }
 window() {
-  until_true has_window "$1"
-  xdotool search --onlyvisible --name "$1" | tail -n 1
+  until_true is_found "$1"
+  echo "$found"
 }
 
 # The position is in twips from the corner of the client area.
@@ -56,7 +48,7 @@ picture() {
 activate() { xdotool windowactivate --sync "$1" && sleep 0.5; }
 
 # A message box has the title of the tool, as the main window has.
-boxes() { xdotool search --onlyvisible --name "^$title" | wc -l; }
+boxes() { xdotool search --onlyvisible --name "^$title" 2>/dev/null | wc -l; }
 is_message_open() { [ "$(boxes)" -gt "$1" ]; }
 answer_message() {
   until_true is_message_open "$1"
@@ -65,17 +57,31 @@ answer_message() {
 }
 
 drive=$WINEPREFIX/drive_c
-rm -rf "$drive/out" "$drive/series.png"
-mkdir -p "$drive/out"
-# As the user's setting of the display.
-wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $((scale * 96)) /f >/dev/null
-cd "$drive/users"
-wine "$programs/ostrane-dat-tool.exe" &
-tool=$!
-trap 'kill $tool 2>/dev/null || true' EXIT
+rm -rf "$drive/out" "$drive/many" "$drive/users/shplist.txt" "$drive/Shiplist-compare.txt"
+mkdir -p "$drive/out" "$drive/many"
+# As the user's settings of the display. Wine cuts off the letter "I" without ClearType, which is the default
+# on Windows.
+display='HKCU\Control Panel\Desktop'
+wine reg add "$display" /v LogPixels /t REG_DWORD /d $((scale * 96)) /f >/dev/null
+wine reg add "$display" /v FontSmoothingType /t REG_DWORD /d 2 /f >/dev/null
+start() {
+  wine "$programs/ostrane-dat-tool.exe" "$@" &
+  tool=$!
+  trap 'kill $tool 2>/dev/null || true' EXIT
+  main=$(window "^$title")
+  activate "$main"
+}
 
-main=$(window "^$title")
-activate "$main"
+end() {
+  activate "$main"
+  press alt+F4
+  until_true has_no_window "^$title"
+  wait $tool
+  trap - EXIT
+}
+
+cd "$drive/users"
+start
 picture main
 
 press alt+f o
@@ -117,17 +123,22 @@ sleep 2
 picture motion
 press space
 
-# Another folder for each job.
-mkdir -p "$drive/out/entries"
-activate "$main"
-press alt+i e
-extract=$(window 'Extract Files from')
-activate "$extract"
-click "$extract" 3000 3840
-press ctrl+a
-text 'C:\out\entries'
-picture extract
-click "$extract" 5800 500
+# extract_to FOLDER PICTURE
+extract_to() {
+  local extract
+  mkdir -p "$drive/out/$1"
+  activate "$main"
+  press alt+i e
+  extract=$(window 'Extract Files from')
+  activate "$extract"
+  click "$extract" 3000 3840
+  press ctrl+a
+  text "C:\\out\\$1"
+  picture "$2"
+  click "$extract" 5800 500
+}
+
+extract_to entries extract
 answer_message 0 extracted
 until_true test -s "$drive/out/entries/VISTA.SHP"
 
@@ -147,8 +158,33 @@ click "$make" 1200 5000
 answer_message 1 built
 cmp "$drive/out/entries/OSTRANE.DAT" "$programs/sample/ostrane.dat" || fail "the archive differs"
 
-press alt+F4
-until_true has_no_window "^$title"
-wait $tool
-trap - EXIT
+main=$(window "^$title")
+activate "$main"
+press alt+r s
+answer_message 1 saved
+until_true test -s "$drive/users/shplist.txt"
+activate "$main"
+press alt+r c
+compare=$(window 'Compare with Shiplist')
+activate "$compare"
+click "$compare" 1000 850
+press Return
+text users
+press Return
+click "$compare" 3200 800
+picture compare
+click "$compare" 1200 3470
+until_true test -s "$drive/Shiplist-compare.txt"
+end
+
+# Form3 is seen only while a job is long enough.
+for ((i = 1000; i < 5000; ++i)); do echo "$i" >"$drive/many/f$i.txt"; done
+wine "$programs/ostrane-dat.exe" build -q 'C:\many'
+start 'C:\many'
+extract_to many extract_many
+until_true has_window 'File Extraction'
+picture progress
+answer_message 0 extracted_many
+until_true cmp "$drive/many/f4999.txt" "$drive/out/many/F4999.TXT"
+end
 echo "The tour is complete; its pictures are in $pictures"

@@ -86,7 +86,7 @@ configure() { cmake -G Ninja --toolchain "$toolchain" -DCMAKE_INSTALL_PREFIX="$w
 
 build_qt() {
   local host
-  host=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake
+  host=/usr/lib/$(dpkg-architecture -qDEB_BUILD_MULTIARCH)/cmake
   [ -f "$work/qt/build.ninja" ] || run configure-qt configure -S "$work"/qt6-base-*/ -B "$work/qt" \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" "${options[@]}"
   run qt cmake --build "$work/qt"
