@@ -1,5 +1,5 @@
-// The input is a PNG, a GIF, or the JSON of an export or of a sheet. A picture that is read must be
-// unchanged after a round trip through an icon.
+// The input is a PNG, a GIF, the JSON of an export or of a sheet, or a picture. A picture must be
+// unchanged after a round trip through a PNG, through a GIF and through an icon.
 #include <memory>
 
 #include "data/data_error.h"
@@ -7,7 +7,9 @@
 #include "data/new_icon.h"
 #include "generated_input.h"
 #include "pictures/gif_reader.h"
+#include "pictures/gif_writer.h"
 #include "pictures/png_reader.h"
+#include "pictures/png_writer.h"
 #include "pictures/sheet_json_reader.h"
 
 using namespace ostrane;
@@ -31,13 +33,14 @@ void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   fuzz::check(seen == drawn, "its cells are those of the picture");
 }
 
-// Of a grey palette.
+rgb_palette colours(std::uint32_t step) {
+  rgb_palette made = {};
+  for (std::uint32_t i = 0; i < made.size(); ++i) made[i] = i * step & 0xFFFFFFU;
+  return made;
+}
+
 colour_finder& finder() {
-  static colour_finder made([] {
-    rgb_palette greys = {};
-    for (std::uint32_t i = 0; i < greys.size(); ++i) greys[i] = i * 0x010101;
-    return greys;
-  }());
+  static colour_finder made(colours(0x010101));
   return made;
 }
 
@@ -75,17 +78,46 @@ void import_json(const std::string& text) {
   }
 }
 
+void import_generated(fuzz::fields& from) {
+  picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
+  const rgb_palette palette = colours(from.ConsumeIntegral<std::uint32_t>());
+  const bool is_full = from.ConsumeBool();
+  for (int i = 0; is_full && i < std::min(256, drawn.columns() * drawn.rows()); ++i) {
+    drawn.set(i % drawn.columns(), i / drawn.columns(), static_cast<std::uint8_t>(i));
+  }
+  while (from.remaining_bytes() > 0) {
+    drawn.set(from.ConsumeIntegralInRange(0, drawn.columns() - 1),
+              from.ConsumeIntegralInRange(0, drawn.rows() - 1),
+              from.ConsumeIntegral<std::uint8_t>());
+  }
+  colour_finder made(palette);
+  const auto check_same = [&](picture marked) {
+    const settled_picture read = settled(std::move(marked), palette, nullptr);
+    fuzz::check(read.changed == 0 && read.drawn == drawn, "a round loses nothing");
+  };
+  check_same(read_png(png_of(drawn, palette, distinct_colours(palette)), u8"p", made));
+  std::int64_t inexact = 0;
+  const std::string gif = gif_of({drawn}, palette, 1, 1, inexact);
+  if (inexact == 0) check_same(read_gif(gif, u8"g", made).at(0));
+  icon_head head = head_of(drawn);
+  head.col_start -= fuzz::number(from, {300}) & 0x3FF;
+  check_icon(drawn, known_icon{head, 0});
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
   try {
-    const std::string input(reinterpret_cast<const char*>(data), size);
-    if (input.starts_with('{')) {
-      import_json(input);
-    } else if (input.starts_with('G')) {
-      import_gif(input);
+    if (data[0] == 1) {
+      fuzz::fields from(data + 1, size - 1);
+      import_generated(from);
+    } else if (data[0] == '{') {
+      import_json({reinterpret_cast<const char*>(data), size});
+    } else if (data[0] == 'G') {
+      import_gif({reinterpret_cast<const char*>(data), size});
     } else {
-      check_marked(read_png(input, u8"p", finder()));
+      check_marked(read_png({reinterpret_cast<const char*>(data), size}, u8"p", finder()));
     }
   } catch (const data_error& error) {
     fuzz::check(!error.told.reason.empty(), "an error has a text");
