@@ -14,6 +14,7 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
       {"bcdefghij.shpx", "BCDEFGHIJ.SHP"},
       {"game.pal", "GAME.PAL"},
       {"My file.shp", std::string("MY\0FILE.SHP", 11)},
+      {"_x", "_X"},
       {"\xC3\xA9t\xC3\xA9", "\xC9T\xC9"}};
   // Old archives in any case and leftovers of a build do not become entries, and are replaced.
   file_map named = {{".hidden", "no entry"},

@@ -60,6 +60,16 @@ TEST_F(motion_test, ShowsTheSlotsInTurnAndStepsThroughThem) {
   run_steps({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});
 }
 
+TEST_F(motion_test, OmitsTheLastSlotIfIconsRemain) {
+  user::type(Form1.Text5, "3");
+  show({plain_icons(9, 1, 1)});
+  run_steps({{"nm", " 4 -  6: 320,800 moving"},
+             {"t", " 4: 200,800 320,800 moving"},
+             {"tt", " 5: 200,800 320,800 back on"},
+             {">", "6: 320,800 back on"},
+             {"n", " 7 -  9: 200,800 260,800 320,800"}});
+}
+
 // Neither a motion nor the buttons step through slots of another series. A motion without slots
 // ends at its first tick.
 TEST_F(motion_test, EndsWithItsSeries) {
