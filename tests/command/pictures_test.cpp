@@ -332,7 +332,16 @@ TEST_F(pictures_test, DiffersByTheIconsOfAnEntry) {
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(seen.output, "F.SHP differs: 140 bytes, 109 bytes; icons 2, 4\n");
   EXPECT_NE(run("diff --json a.dat old.dat").output.find("\"icons\":[2, 4]"), std::string::npos);
-  EXPECT_EQ(run("pack -v old.dat").errors, "ostrane-dat: old.dat: is written\n");
+}
+
+// The second one is shorter than the first.
+TEST_F(pictures_test, PacksSeveralIconFiles) {
+  write_bytes("a.dat",
+              archive_bytes({{"A.SHP", shp_file(std::vector<picture>(4, picture(2, 1)))},
+                             {"B.SHP", shp_file(std::vector<picture>(2, picture(1, 1)))}}));
+  const result seen = run("pack -v a.dat");
+  EXPECT_EQ(seen.errors, "ostrane-dat: a.dat: is written\n");
+  EXPECT_EQ(seen.output, "A.SHP: 75 bytes saved\nB.SHP: 25 bytes saved\n100 bytes saved\n");
 }
 
 // A stream of single pixels far longer than its picture needs.
