@@ -250,7 +250,7 @@ files::failure unknown_command(const CLI::App& app, const std::vector<std::strin
 // Why CLI11 refuses the arguments. It does not say which option is meant.
 files::failure reason_of(const CLI::App& app, const CLI::ParseError& error) {
   const auto commands = app.get_subcommands();
-  const CLI::App& owner = commands.empty() || !app.remaining().empty() ? app : *commands.front();
+  const CLI::App& owner = commands.empty() ? app : *commands.front();
   const auto extra = owner.remaining();
   if (extra.empty() || !extra.front().starts_with('-')) {
     return {files::as_utf8(error.what()), "see --help"};
