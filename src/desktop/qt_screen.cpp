@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <new>
@@ -28,14 +29,28 @@ constexpr auto frame_time = 16ms;
 // The window of a job that ends sooner would only flicker.
 constexpr auto window_delay = 100ms;
 
+// Wayland gives the focus also to a window that a dialog blocks. Qt then asks for the focus of that
+// window, so the dialog must ask later.
+void pass_on(const QWindow* focused, window_stack& windows, QObject& screen) {
+  const QWidget* widget = focused == nullptr ? nullptr : QWidget::find(focused->winId());
+  const auto* window = dynamic_cast<const form_window*>(widget);
+  if (window == nullptr) return;
+  QTimer::singleShot(0, &screen, [&windows, is_barred = !window->form.Enabled()] {
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+      dialog->activateWindow();
+    } else if (is_barred && !forms_layer::handler_running()) {
+      windows.bring_up_topmost();
+    }
+  });
+}
+
 }  // namespace
 
 qt_screen::qt_screen() {
   qApp->installEventFilter(&filter_);
-  // On Wayland the pressed window gets the focus only after this event.
-  filter_.on_barred_press = [this] {
-    QTimer::singleShot(0, &filter_, [this] { windows_.bring_up_topmost(); });
-  };
+  filter_.on_barred_press = [this] { windows_.bring_up_topmost(); };
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &filter_,
+                   [this](const QWindow* focused) { pass_on(focused, windows_, filter_); });
   // Without GLib a turn handles posted events after `awake` and then waits.
   for (const auto signal :
        {&QAbstractEventDispatcher::awake, &QAbstractEventDispatcher::aboutToBlock}) {
