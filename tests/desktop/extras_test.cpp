@@ -136,6 +136,10 @@ TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
   pick("B D");
   pick("Z 3");
   EXPECT_EQ(zoomed(), "120(8,53 124x124)");
+  paint_watch enlarged(canvas->findChild<QScrollArea*>("zoom")->widget());
+  pick("B W");
+  EXPECT_FALSE(enlarged.painted.isEmpty());
+  pick("B D");
   pick("Z 1");
   EXPECT_EQ(zoomed(), "");
 }

@@ -37,7 +37,8 @@ TEST_F(Input, ReachesTheTool) {
   form.Resize = [&] {
     log += std::to_string(form.client_width()) + "x" + std::to_string(form.client_height()) + " ";
   };
-  write([&] { picture().Visible = true; });
+  write([&] { picture().Visible = true, form.pictures(3).Visible = true; });
+  write([&] { form.pictures(3).Move(300, 840); });   // over the edge of the first
   const steps of_lists = {{"list Down", "click0 "},  // there was no row
                           {"list#1 right", ""},
                           {"list#1 press", "click1 "},
@@ -68,7 +69,8 @@ TEST_F(Input, ReachesTheTool) {
                              {"F10; Esc; Esc; 'x", ""},  // the menu gives the focus back
                              {"F10; Down; Return", "first "},
                              {"inner press", "lost:12 inner:a\r\n "}};
-  const steps of_pictures = {{"pictures@18@58 press; pictures@18@58 again", "picture1 "},
+  const steps of_pictures = {{"pictures@20@58 press; pictures@20@58 again", "picture3 "},
+                             {"pictures@18@58 press; pictures@18@58 again", "picture1 "},
                              {"pictures@60@190 press; pictures@18@58 again", ""},
                              {"pictures@18@58 press; button press; pictures@18@58 again", "go "},
                              {"pictures@18@58 press; pictures@18@58 right-again", ""},
@@ -344,6 +346,7 @@ TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
   EXPECT_EQ(pictures->indexOfChild(last), pictures->childCount() - 1);
   EXPECT_EQ(pictures->indexOfChild(pictures->child(0)), 0);
   EXPECT_EQ(last->actionInterface()->actionNames().size(), 2);
+  EXPECT_EQ(last->role(), QAccessible::Graphic);
   activate(window);
   for (const bool has_focus : {true, false}) {
     (has_focus ? canvas : widget_of(window, Form1.List1))->setFocus();
