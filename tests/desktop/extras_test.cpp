@@ -62,19 +62,15 @@ TEST_F(Extras, OnePictureIsEnlarged) {
               {"Home", "80(8,53 84x84)"},
               {"Esc", ""},
               {"Ctrl++", "80(8,53 84x84)"}});
-  const auto tick = [](int times) {
-    for (; times > 0; --times) write([] { Form1.Timer1.Timer(); });
+  const auto after = [&](const forms_layer::event& handler, int times = 1) {
+    for (; times > 0; --times) write(handler);
+    return zoomed();
   };
-  const std::pair<std::function<void()>, const char*> steps[] = {
-      {[] { write([] { Form1.Command5.Click(); }); }, "80(8,53 84x84)"},
-      {[&] { tick(1); }, "80(8,53 84x84)"},
-      {[&] { tick(1); }, "120(8,53 124x124)"},
-      {[&] { tick(2); }, "160(8,53 164x164)"},
-      {[] { write([] { Form1.Command3.Click(); }); }, "120(8,53 124x124)"}};
-  for (const auto& [act, size] : steps) {
-    act();
-    EXPECT_EQ(zoomed(), size) << &size - &steps[0].second;
-  }
+  EXPECT_EQ(after(Form1.Command5.Click), "80(8,53 84x84)") << "the motion begins";
+  EXPECT_EQ(after(Form1.Timer1.Timer), "80(8,53 84x84)");
+  EXPECT_EQ(after(Form1.Timer1.Timer), "120(8,53 124x124)");
+  EXPECT_EQ(after(Form1.Timer1.Timer, 2), "160(8,53 164x164)");
+  EXPECT_EQ(after(Form1.Command3.Click), "120(8,53 124x124)");
   play(seen, {{"Ctrl+-", ""},
               {"Ctrl++; Ctrl++; Ctrl++", "240(8,53 244x244)"},
               {"Ctrl++; Ctrl++", "480(8,53 481x377)"},

@@ -52,21 +52,22 @@ struct delays_keys : QObject {
 };
 
 TEST_F(Typing, KeysKeepTheirTimesWithAScreenReader) {
-  for (const char* row : {"ba", "a", "bb", "ab"}) form.list.AddItem(row);
+  for (const char* row : {"ba", "a", "bb", "ab", "bbc"}) form.list.AddItem(row);
   handle_events();
   widget_of(window, form.list)->setFocus();
-  const std::tuple<const char*, int, int> cases[] = {{"ab", 0, 3}, {"ab", 60, 2}};
-  QApplication::setKeyboardInputInterval(40);
+  const std::tuple<const char*, int, int> cases[] = {
+      {"ab", 0, 3}, {"ab", 130, 2}, {"xa", 130, 1}, {"bbc", 0, 4}};
+  QApplication::setKeyboardInputInterval(100);
   QTest::keyClick(window.windowHandle(), Qt::Key_X);  // delivered at once
   for (const auto& [word, pause, row] : cases) {
     write([&] { form.list.ListIndex = -1; });
-    QTest::qWait(60);
+    QTest::qWait(130);
     delays_keys delayed;
     for (const char* c = word; *c != '\0'; ++c) {
       QTest::keyPress(window.windowHandle(), *c);
       QTest::qWait(pause);
     }
-    QTest::qWait(60);  // a handler
+    QTest::qWait(130);  // a handler
     for (const auto& [receiver, copy] : delayed.copies) QCoreApplication::postEvent(receiver, copy);
     handle_events();
     EXPECT_EQ(form.list.ListIndex(), row) << word << pause;
