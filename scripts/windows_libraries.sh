@@ -11,7 +11,7 @@ options=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=O
   -DINPUT_opengl=no)
 for feature in calendarwidget colordialog columnview concurrent datawidgetmapper dbus dial direct2d directwrite \
   fontdialog glib graphicsview icu inputdialog keysequenceedit lcdnumber mdiarea network pdf \
-  printsupport progressdialog splashscreen sql syntaxhighlighter systemtrayicon tabletevent \
+  printsupport progressdialog splashscreen sql style_windowsvista syntaxhighlighter systemtrayicon tabletevent \
   textmarkdownreader textmarkdownwriter textodfwriter toolbox undocommand undogroup undostack undoview \
   vulkan wizard xml system_doubleconversion system_freetype system_harfbuzz system_jpeg system_pcre2 \
   system_png system_zlib; do
