@@ -28,8 +28,8 @@ class multiline_text_view : public view_of<QPlainTextEdit, forms_layer::text_box
 
   bool has_joined_lines_ = false;
   bool has_fixed_pitch_ = false;  // by the user's choice, for this run
-  QTimer pause_;      // runs while there is an edit that was not reported
-  QString reported_;  // by the latest edit
+  QTimer pause_;                  // runs while there is an edit that was not reported
+  QString reported_;              // by the latest edit
 };
 
 }  // namespace desktop
