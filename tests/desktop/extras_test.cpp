@@ -76,6 +76,12 @@ TEST_F(Extras, OnePictureIsEnlarged) {
               {"Ctrl++; Ctrl++", "480(8,53 481x377)"},
               {"Ctrl+0", ""},
               {"Ctrl++", "120(8,53 124x124)"}});
+  window->resize(window->width(), window->height() - 150);
+  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++; Ctrl++; Ctrl++",
+               "240(8,53 258x227)"}});
+  window->resize(window->width() - 250, window->height());
+  play(seen, {{"Ctrl+0; End; Ctrl++", "160(75,53 164x164)"}});
+  act(*window, "Ctrl+0; Ctrl++");
   const QImage pixels = picture_of(*canvas->findChild<QWidget*>("zoom")).copy(2, 2, 3, 3);
   EXPECT_EQ(pixels.pixel(0, 0), pixels.pixel(1, 1));
   EXPECT_EQ(pixels.pixel(0, 0), pixels.pixel(2, 2));
@@ -175,6 +181,10 @@ TEST_F(Extras, KeysAct) {
               {"Right; Ctrl+C", "60"},
               {"Ctrl+S", "Save picture: PIC-0002.png"},
               {"F1", "Ostrane.dat-tool"}});
+  act(*window, "Ctrl+L; Tab; Tab; Return");
+  EXPECT_TRUE(ostrane::Form3.Visible());
+  act(*screen.window_of(ostrane::Form3), "Return");
+  EXPECT_FALSE(ostrane::Form3.Visible());
   const auto first = [] { return Form1.List1.List(0) + (ostrane::Form2.Visible() ? "?" : ""); };
   ostrane::write_bytes(folder / "ostrane.dat", ostrane::archive_bytes({{"N.TXT", ""}}));
   play(first, {{"F5", "N.TXT"}});
@@ -195,7 +205,7 @@ TEST_F(Extras, KeysAct) {
 TEST_F(Extras, RowsAreDraggedOut) {
   const QPoint start = middle_of(1);
   const auto move_by = [&](int pixels) -> const QDrag* {
-    act(*window, "List1#0 press; List1#1 Ctrl+press");
+    act(*window, "List1#1 press; List1#0 Ctrl+press");
     QTest::mousePress(list->viewport(), Qt::LeftButton, {}, start);
     const QPoint to = start + QPoint(pixels, 0);
     QMouseEvent moved(QEvent::MouseMove, to, list->viewport()->mapToGlobal(to), Qt::NoButton,
@@ -221,7 +231,7 @@ TEST_F(Extras, RowsAreDraggedOut) {
   EXPECT_EQ(files(), "A.TXT: AB.TXT: ") << "while the button is held";
   let_go();
   EXPECT_EQ(files(), "A.TXT:text AB.TXT:text ");
-  EXPECT_EQ(selected(), "01 shows 0");
+  EXPECT_EQ(selected(), "01 shows 1");
   answers opened;
   for (const char* message : {"", "disk full"}) {
     screen.drag_files({"x"}, [message](const fs::path&) { return message; });
@@ -271,6 +281,8 @@ TEST_F(Extras, ToolTipsTellMore) {
   EXPECT_EQ(tip_at(list->viewport(), middle_of(0)),
             Form1.List1.ToolTipText() + "\nA.TXT: 4 bytes at 89, text");
   EXPECT_EQ(tip_at(canvas, {18, 58}), ostrane::icon_tool_tip);
+  EXPECT_TRUE(Qt::mightBeRichText(widget_of(*window, Form1.Text5)->toolTip()))
+      << "has several lines";
 }
 
 TEST_F(Extras, ATextCanHaveAFixedPitch) {

@@ -2,6 +2,7 @@
 #include "archive_bytes.h"
 #include "data/icon_packer.h"
 #include "desktop/designed_look.h"
+#include "desktop/picture_painter.h"
 #include "desktop_fixture.h"
 #include "forms_layer/user.h"
 #include "handlers/start_up.h"
@@ -30,6 +31,8 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
   };
   property("label", form.label.Caption, "Other");
   property("a line more", form.label.Caption, "Label\rB");
+  write([&] { form.label.Caption = "word word word word A"; });
+  property("wrapped", form.label.Caption, "word word word word M");
   property("no markup", form.label.Caption, "Label<b>");
   property("button", form.button.Caption, "Other");
   property("frame", form.frame.Caption, "Other");
@@ -87,6 +90,14 @@ TEST_F(Desktop, OnlyTheChangedPartOfAPictureIsPainted) {
     write(handler);
     EXPECT_EQ(watch.painted, painted) << what;
   }
+  desktop::set_backdrop(desktop::backdrop::magenta);
+  for (const bool is_swatch : {true, false}) {
+    write([&] { form.pictures(is_swatch ? 4 : 1).Visible = true, picture().PSet(1, 1, 5); });
+    const QRect seen = desktop::rect_of(form.pictures(is_swatch ? 4 : 1));
+    EXPECT_EQ(picture_of(*canvas).pixelColor(seen.topLeft() + QPoint(1, 1)) == Qt::magenta,
+              !is_swatch);
+  }
+  desktop::set_backdrop(desktop::backdrop::designed);
 }
 
 TEST_F(Desktop, ATextOfManyLinesHasFewBlocksAndScrollsByLine) {
@@ -103,6 +114,9 @@ TEST_F(Desktop, ATextOfManyLinesHasFewBlocksAndScrollsByLine) {
     EXPECT_EQ(at_top.selectedText().toInt(), line);
     page.resize(page.width() + 50, page.height());
   }
+  write([&] { form.page.Text = std::string(10000, 'w'); });
+  EXPECT_EQ(page.blockCount(), 3) << "Qt is slow with long lines";
+  EXPECT_GT(page.horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(Desktop, OutOfMemoryDropsOnlyTheEvent) {
@@ -144,6 +158,11 @@ TEST_F(Desktop, AHandlerShowsFramesAndLateWindows) {
     passed = 16ms;
     form.Refresh();
     EXPECT_FALSE(watch.painted.isEmpty());
+    watch.painted = {};
+    passed = 20ms;
+    form.label.Caption = "soon";
+    form.Refresh();
+    EXPECT_TRUE(watch.painted.isEmpty()) << "before the next frame";
     passed = 100ms;
     Form3.ProgressBar1.Value = 1;
     QWidget* late = screen.window_of(Form3);

@@ -35,6 +35,11 @@ TEST_F(Typing, AFieldShowsWhatTheToolHas) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "ac"; }, 60'000));
   act(window, "'b");  // at the cursor, before the screen shows what the tool has
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "abc"; }, 60'000));
+  auto* file = new QMimeData;
+  file->setUrls({QUrl("file:///x")});
+  QGuiApplication::clipboard()->setMimeData(file);
+  act(window, "Ctrl+V");
+  EXPECT_EQ(window.findChild<QPlainTextEdit*>()->toPlainText(), "abc");
 }
 
 // As Qt does while a client of the screen reader's interface is connected.
@@ -78,7 +83,7 @@ TEST_F(Typing, KeysKeepTheirTimesWithAScreenReader) {
 TEST_F(Typing, AnAmpersandInACaptionIsNoShortcut) {
   write([&] { form.frame.Caption = "R&M.SHP"; });
   const QImage shown = picture_of(*widget_of(window, form.frame));
-  write([&] { form.frame.Caption = "R&&M.SHP"; });
+  write([&] { form.frame.Caption = "R&&M.SHP", form.inner.Caption = "&M"; });
   EXPECT_NE(picture_of(*widget_of(window, form.frame)), shown);
   field->setFocus();
   for (int i = 0; i < 2; ++i) {  // Qt alternates between widgets with one shortcut

@@ -38,8 +38,8 @@ TEST_F(Input, ReachesTheTool) {
     log += std::to_string(form.client_width()) + "x" + std::to_string(form.client_height()) + " ";
   };
   write([&] { picture().Visible = true, form.pictures(3).Visible = true; });
-  write([&] { form.pictures(3).Move(300, 840); });   // over the edge of the first
-  const steps of_lists = {{"list Down", "click0 "},  // there was no row
+  write([&] { form.pictures(3).Move(300, 840); });  // over the edge of the first
+  const steps of_lists = {{"inner focus; list focus; Down", "click0 "},
                           {"list#1 right", ""},
                           {"list#1 press", "click1 "},
                           {"list#1 press", "click1 "},
@@ -81,14 +81,23 @@ TEST_F(Input, ReachesTheTool) {
   QTest::mousePress(label, Qt::LeftButton);
   QTest::mouseRelease(label, Qt::LeftButton, {}, {-5, 5});
   EXPECT_EQ(log, "") << "let go beside it";
+  QListView* folders = rows_of(form.folders);
   ostrane::write_bytes(folder / "b.txt", "b");
+  for (const char* name : {"s1", "s2", "s3", "s4"}) create_directory(folder / name);
   act(window, "F5");
   EXPECT_EQ(form.files.ListCount(), 2);
+  EXPECT_EQ(window.findChild<QComboBox*>()->count(), 2);
+  EXPECT_TRUE(folders->selectionModel()->hasSelection());
+  act(window, "field focus");
+  when_open<QMenu>([](QMenu& menu) { menu.close(); });
+  act(window, "field right");
+  EXPECT_EQ(log, "") << "a menu takes the focus for a while";
   auto* bar = window.findChild<QMenuBar*>();
   window.resize(450, 440 + bar->height());
   QApplication::setActiveWindow(nullptr), QApplication::setActiveWindow(&window);
   window.close();
   EXPECT_EQ(log, "6750x6600 close ");
+  act(window, "list focus");
   log.clear();
   form.Enabled = false;
   play({{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
@@ -111,9 +120,9 @@ TEST_F(Input, ReachesTheTool) {
     return shown->fontMetrics().horizontalAdvance(text);
   };
   EXPECT_GT(list->sizeHintForColumn(0), needed(list, wide.c_str()));
-  const QListView* folders = rows_of(form.folders);
-  EXPECT_GT(folders->sizeHintForColumn(0),
-            needed(folders, "sub") + folders->iconSize().width() + 8);
+  const int icon = folders->iconSize().width();
+  EXPECT_GT(folders->sizeHintForColumn(0), needed(folders, "sub") + icon + 8);
+  EXPECT_LT(folders->sizeHintForColumn(0), needed(folders, "sub") + icon + 24) << "no stairs";
   act(window, "page press; Tab");
   EXPECT_FALSE(widget_of(window, form.page)->hasFocus());
 }
@@ -177,12 +186,14 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
     form.timer.Enabled = true;
     QTest::qWait(20);
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    menus.keys = menu->activeAction() == nullptr ? "P" : "Return";
+    const bool is_active = menu->activeAction() == menu->actions()[0];
+    log += is_active ? "active " : "";
+    menus.keys = is_active ? "Return" : "P";
   };
   play({{"list#1 right", "1 picked "},
-        {"list focus; Shift+F10", "2 picked "},
+        {"list focus; Shift+F10", "2 active picked "},
         {"pictures@61@61 right", "2 picked "},
-        {"pictures focus; Shift+F10", "1 picked "},
+        {"pictures focus; Shift+F10", "1 active picked "},
         {"inner focus; Shift+F10", ""},
         {"pictures@5@150 right", ""}});
 }
@@ -220,6 +231,7 @@ TEST_F(Input, DialogsAskForFilesAndFolders) {
     kinds->setCurrentIndex(1);
     emit kinds->activated(1), emit kinds->textActivated(kinds->currentText());
     EXPECT_EQ(name_in(dialog)->text(), "A\u00C9.gif");
+    name_in(dialog)->setText("c\u00C9");
   };
   const auto name_only = [&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().path(), folder_of("sub"));
@@ -228,21 +240,29 @@ TEST_F(Input, DialogsAskForFilesAndFolders) {
   const auto leave = [&](QFileDialog& dialog) {
     dialog.setDirectory(folder_of("")), dialog.reject();
   };
-  EXPECT_EQ(ask(choose_motion), "sub/A\u00C9.gif1");
+  EXPECT_EQ(ask(choose_motion), "sub/c\u00C9.gif1");
   EXPECT_EQ(ask(name_only), "sub/b.png0") << "the kind gives the ending";
   EXPECT_EQ(ask(leave), "0");
+  create_directories(folder / "sub" / "inner");
   when_open<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().path(), folder_of("sub")) << "the latest one was left";
-    dialog.setDirectory(folder_of(""));
-    name_in(dialog)->setText("sub");
+    name_in(dialog)->setText("inner");
     static_cast<QDialog&>(dialog).accept();
   });
-  EXPECT_EQ(screen.ask_folder("Folder"), folder / "sub");
+  EXPECT_EQ(screen.ask_folder("Folder"), folder / "sub" / "inner");
+  ask([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().path(), folder_of("sub/inner"));
+    dialog.reject();
+  });
 }
 
 TEST_F(Input, AWriteRestartsATimer) {
   constexpr int interval = 700;  // in ms; also under load far longer than the time between writes
   form.timer.Timer = [&] { log += "tick ", form.timer.Enabled = false; };
+  form.timer.Interval = 0;
+  write([&] { form.timer.Enabled = true; });
+  handle_events();
+  EXPECT_EQ(log, "");
   form.timer.Interval = interval;
   QElapsedTimer running;
   running.start();
