@@ -211,7 +211,7 @@ TEST_F(Input, PicturesAreCopied) {
 // Each dialog opens in the folder that the latest one chose.
 TEST_F(Input, DialogsAskForFilesAndFolders) {
   const auto folder_of = [&](const char* name) {
-    return QString::fromStdString((folder / name).lexically_normal().string());
+    return QString::fromStdString((folder / name).lexically_normal().generic_string());
   };
   const auto name_in = [](QFileDialog& dialog) { return dialog.findChild<QLineEdit*>(); };
   const auto ask = [&](const std::function<void(QFileDialog&)>& done) {
