@@ -1,3 +1,4 @@
+#include "failing_calls.h"
 #include "test_screen.h"
 
 namespace ostrane {
@@ -63,6 +64,28 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
     extract_into("D:\\");
     EXPECT_EQ(bars(), extracted);
   }
+}
+
+// The window is shown before its bars are hidden. A build sets a bar before it opens the file.
+TEST_F(progress_test, KeepsTheOrderOfWindowBarsAndFiles) {
+  struct : test_screen {
+    void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
+      if (&changed != &Form3.ProgressBar1 || what != forms_layer::property_id::visible) return;
+      shown += Form3.Visible() ? "shown " : "hidden ";
+    }
+    std::string shown;
+  } screen;
+  open_archive({{"A.SHP", ""}});
+  click_row("A.SHP");
+  EXPECT_EQ(screen.shown, "shown ");
+  restart_with({{"A", "12345"}});
+  failing_calls watched;
+  std::string first;
+  watched.before_call = [&first](const std::string& call) {
+    if (first.empty() && Form3.ProgressBar1.Max() == 5) first = call;
+  };
+  build_in();
+  EXPECT_EQ(first, "open_to_read");
 }
 
 }  // namespace ostrane
