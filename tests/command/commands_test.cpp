@@ -238,6 +238,9 @@ TEST_F(commands_test, ReportsEqualNames) {
     EXPECT_EQ(bytes_of("b.dat"), before);
   }
   EXPECT_EQ(bytes_of("ABCDEFGHI.TXT"), files[2]);
+  write_bytes("longer_than_this.txt", "");
+  EXPECT_NE(run("add -v b.dat longer_than_this.txt").errors.find("its name is too long"),
+            std::string::npos);
 }
 
 // The new archive is in place if the last listing of the folder fails.
