@@ -1,14 +1,22 @@
-// bench_bare_qt start | label | icons COUNT | text FILE
+// bench_bare_qt start | label | controls | icons COUNT | text FILE | read FILE
 // Measures Qt without the tool and prints microseconds and KB. start shows an empty window, label a
-// window with one word. icons creates COUNT pictures and paints them once. text sets a text and
-// paints it once.
+// window with one word, controls a window with about as many controls and menus as the tool's.
+// icons creates COUNT pictures and paints them once. text sets a text and paints it once, read
+// opens and reads its file too.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QGroupBox>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -68,16 +76,21 @@ qint64 paint_pictures(int count) {
   return time.nsecsElapsed() / 1000;
 }
 
-qint64 show_text(const char* path) {
+QByteArray bytes_of(const char* path) {
   QFile file(path);
   file.open(QIODevice::ReadOnly);
-  const QByteArray bytes = file.readAll();
+  return file.readAll();
+}
+
+qint64 show_text(const char* path, bool reads) {
+  QByteArray bytes = bytes_of(path);
   QPlainTextEdit window;
   window.resize(1000, 700);
   window.setLineWrapMode(QPlainTextEdit::NoWrap);
   bench::show_and_wait(window);
   QElapsedTimer time;
   time.start();
+  if (reads) bytes = bytes_of(path);
   window.setPlainText(QString::fromLatin1(bytes));
   window.viewport()->repaint();
   bench::sync_with_screen();
@@ -86,6 +99,26 @@ qint64 show_text(const char* path) {
 
 struct word : QLabel {
   word() : QLabel(QStringLiteral("word")) {}
+};
+
+struct controls : QMainWindow {
+  controls() {
+    for (int i = 0; i < 3; ++i) {
+      QMenu* menu = menuBar()->addMenu(QString("Menu %1").arg(i));
+      for (int item = 0; item < 4; ++item) menu->addAction(QString("Item %1").arg(item));
+    }
+    auto* all = new QWidget;
+    auto* list = new QListWidget(all);
+    list->setGeometry(0, 40, 110, 400);
+    auto* group = new QGroupBox("Group", all);
+    group->setGeometry(120, 0, 500, 440);
+    for (int i = 0; i < 8; ++i) {
+      (new QPushButton(QString("Button %1").arg(i), group))->setGeometry(10, 20 + 40 * i, 80, 20);
+      (new QLineEdit(QString::number(i), group))->setGeometry(100, 20 + 40 * i, 80, 20);
+      (new QLabel(QString("Label %1").arg(i), group))->setGeometry(190, 20 + 40 * i, 80, 20);
+    }
+    setCentralWidget(all);
+  }
 };
 
 template <typename Window>
@@ -105,7 +138,8 @@ int main(int argc, char** argv) {
   if (job == "start") microseconds = start<QWidget>();
   if (job == "label") microseconds = start<word>();
   if (job == "icons") microseconds = paint_pictures(std::atoi(argv[2]));
-  if (job == "text") microseconds = show_text(argv[2]);
+  if (job == "controls") microseconds = start<controls>();
+  if (job == "text" || job == "read") microseconds = show_text(argv[2], job == "read");
   std::cout << microseconds << ' ' << bench::peak_memory() << std::endl;
   std::_Exit(0);
 }

@@ -88,10 +88,14 @@ windows() { # PLATFORM
     window icons "$data/icons" 500
   row "32 KB of text, $on; \`setPlainText\`" 1.0 ms 1000 window text "$data/icons" -- \
     bare text "$data/icons/long.txt"
+  row "the same; after reading its file, $on" '' ms 1000 window text "$data/icons" -- \
+    bare read "$data/icons/long.txt"
   row "start to window, $on; empty window" '' ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
     wall "$bin/bench_bare_qt" start
   row "the same; a window with a word in it, $on" 1.1 ms 1000 \
     wall "$bin/bench_window" start "$data/icons" -- wall "$bin/bench_bare_qt" label
+  row "the same; a window with plain controls, $on" '' ms 1000 \
+    wall "$bin/bench_window" start "$data/icons" -- wall "$bin/bench_bare_qt" controls
   row "memory then, $on; empty window" '' MB 1024 memory_of "$bin/bench_window" start "$data/icons" -- \
     memory_of "$bin/bench_bare_qt" start
   row "the same; a window with a word in it, $on" 1.15 MB 1024 \
