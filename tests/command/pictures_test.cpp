@@ -413,6 +413,8 @@ TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
   EXPECT_NE(
       bytes_of("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
       std::string::npos);
+  run("import GAME.png -o p.shp --palette a.dat");
+  EXPECT_EQ(icons_of("p.shp").at(0).substr(0, 28), "15 15 0 0 0 15 15 0,1,2,3,4,");
   EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
   EXPECT_NE(bytes_of("F-sheet.json").find("{\"x\":0,\"y\":2,"), std::string::npos);
   // Indices keep their colours, also equal ones.
