@@ -80,10 +80,11 @@ TEST_F(commands_test, EachReportsItsStatusAndErrors) {
       {"compare a.dat same.txt -o same.txt", 2,
        error + "same.txt: cannot be written: it is read by this command.\n"},
       {"check a.dat", 0, ""},
-      {"check bad.dat a.dat", 1,
+      {"check bad.dat half.dat", 1,
        "bad.dat: it has 4 bytes after the end record's offset\n"
        "bad.dat: A: entry 1 has its name too\n"
-       "bad.dat: ..: cannot become a file: its name means a folder\n"},
+       "bad.dat: ..: cannot become a file: its name means a folder\n"
+       "half.dat: ..: cannot become a file: its name means a folder\n"},
       {"remove bad.dat A", 2,
        error + "bad.dat: has 4 bytes that belong to no entry and would be lost.\n"},
       {"add a.dat nul", 2, error + "nul: cannot become an entry: its name means a device.\n"},

@@ -172,15 +172,29 @@ TEST_F(pictures_test, ChangesAndCountsInexactColours) {
   write_bytes("p.png",
               png_with(PNG_FORMAT_RGBA,
                        {9, 9, 9, 100, 0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200}, 4, 1));
-  const result seen = run("import p.png -o p.shp --palette GAME.PAL");
+  write_bytes("q.png", png_with(PNG_FORMAT_RGB, {0x41, 2, 4}, 1, 1));
+  const result seen = run("import p.png q.png -o p.shp --palette GAME.PAL");
   EXPECT_EQ(seen.status, 1);
   EXPECT_EQ(
       seen.errors,
-      "ostrane-dat: p.shp: 3 pixels of 1 picture changed to the nearest colour or transparency\n"
+      "ostrane-dat: p.shp: 4 pixels of 2 pictures changed to the nearest colour or transparency\n"
       "ostrane-dat: p.shp: 1 pixel got the lowest of several indices with their colour\n");
-  EXPECT_EQ(icons_of("p.shp"), texts{"0 3 0 1 0 3 0 -1,4,4,4,"});
+  EXPECT_EQ(icons_of("p.shp"), (texts{"0 3 0 1 0 3 0 -1,4,4,4,", "0 0 0 0 0 0 0 4,"}));
   EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
   EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
+}
+
+// The second frame covers the lower of two rows.
+TEST_F(pictures_test, ReadsGifFramesThatCoverAPart) {
+  write_bytes("GAME.PAL", palette());
+  const auto frame = [](char top, char rows, const char* codes) {
+    return std::string(",\0\0", 3) + top + std::string("\0\1\0", 3) + rows +
+           std::string("\0\0\2\2", 4) + codes + '\0';
+  };
+  write_bytes("p.gif", std::string("GIF89a\1\0\2\0\x81\0\0@\0\0@\1\3\0\0\0\0\0\0", 25) +
+                           frame(0, 2, "\x04\x0A") + frame(1, 1, "\x4C\x01") + ";");
+  EXPECT_EQ(run("import p.gif -o p.shp --palette GAME.PAL").errors, "");
+  EXPECT_EQ(icons_of("p.shp"), (texts{"1 0 0 0 0 0 1 0,0,", "1 0 0 0 0 0 1 0,3,"}));
 }
 
 // Pixels of the third colour of each three, which has the colour of the one before.
