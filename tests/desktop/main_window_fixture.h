@@ -36,10 +36,12 @@ struct Extras : Desktop {
     return list->visualRect(list->model()->index(row, 0)).center();
   }
   std::string selected() const {
-    std::string rows;
+    std::string rows, known;
+    for (const int row : Form1.List1.SelectedRows()) known += std::to_string(row);
     for (int row = 0; row < Form1.List1.ListCount(); ++row) {
       if (list->selectionModel()->isRowSelected(row)) rows += std::to_string(row);
     }
+    EXPECT_EQ(known, rows.size() > 1 ? rows : "");
     return rows + " shows " + std::to_string(Form1.List1.ListIndex());
   }
   // The enlarged picture: its size and place, or "" if it is closed.

@@ -60,6 +60,8 @@ TEST_F(Desktop, WindowsOpenInTheMiddleAndWhereTheyWereClosed) {
   EXPECT_EQ(form2.pos(), QPoint(55, 44));
   EXPECT_TRUE(widget_of(form2, Form2.Command2)->hasFocus());
   EXPECT_EQ(form2.windowHandle()->transientParent(), form6.windowHandle());
+  write([] { Form6.SetFocus(); });
+  expect_active(form6);
   form2.move(free.bottomRight() + QPoint(500, 500));
   main.move(free.bottomRight() - QPoint(100, 100));
   write([&] { Form2.Visible = false; });

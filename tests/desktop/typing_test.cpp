@@ -30,6 +30,7 @@ TEST_F(Typing, AFieldShowsWhatTheToolHas) {
   EXPECT_EQ(form.field.Text(), "a\xC9");
   act(window, "inner focus");
   write([&] { form.field.Text = "C:\\a long path"; });
+  EXPECT_EQ(edit->text(), "C:\\a long path");
   EXPECT_EQ(edit->cursorPosition(), 0) << "shows its start";
   act(window, "page focus; 'ac; Left");
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.page.Text() == "ac"; }, 60'000));
