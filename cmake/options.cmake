@@ -31,9 +31,10 @@ elseif(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   endif()
 endif()
 
-# Programs for Windows need no DLLs of the compiler, except those that share it with the DLLs of Qt.
+# Programs for Windows need no DLLs of the compiler, except those that share it with the DLLs of Qt. The
+# same sources give the same files.
 if(MINGW)
-  target_link_options(ostrane_options INTERFACE
+  target_link_options(ostrane_options INTERFACE -Wl,--no-insert-timestamp
                       $<$<NOT:$<BOOL:$<TARGET_PROPERTY:SHARES_RUNTIME>>>:-static>)
 endif()
 
