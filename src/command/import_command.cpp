@@ -162,6 +162,7 @@ int import_pictures(const import_options& options) {
   import_job job = {
       .plan = plan, .old = old.get(), .icons = std::vector<shp_icon>(plan.icons.size())};
   make_all_icons(job, colours);
+  like.close();  // Windows does not replace an open file
   write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
   return report(options, job);
 }

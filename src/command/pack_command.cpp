@@ -60,6 +60,7 @@ int pack(const pack_options& options) {
       const bool is_wanted = !options.names.empty() || is_icon_file(entry);
       if (chosen[*entry.old_index] && is_wanted) pack_entry(*job, records, entry);
     }
+    job->archive.close();  // Windows does not replace an open file
     return job->saved > 0;
   });
   for (const std::u8string& line : job->lines) print_line(files::printable(line));

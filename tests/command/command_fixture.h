@@ -24,7 +24,7 @@ struct command_test : testing::Test {
     fs::remove_all(folder);
   }
 
-  // The arguments have no blanks in them.
+  // The arguments have no blanks in them. Paths of messages get slashes, which Windows has not.
   static texts arguments_of(const std::string& command_line) {
     std::istringstream words(command_line);
     return {std::istream_iterator<std::string>(words), {}};
@@ -34,7 +34,9 @@ struct command_test : testing::Test {
     testing::internal::CaptureStderr();
     const int status = command::run_command(arguments_of(command_line));
     std::string output = testing::internal::GetCapturedStdout();
-    return {status, std::move(output), testing::internal::GetCapturedStderr()};
+    std::string errors = testing::internal::GetCapturedStderr();
+    std::replace(errors.begin(), errors.end(), '\\', '/');
+    return {status, std::move(output), std::move(errors)};
   }
   // Another program writes to a.dat after its index is read, before each of these calls.
   static result run_beside_a_writer(const std::string& command_line,

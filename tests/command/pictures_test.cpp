@@ -88,8 +88,7 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
       fs::remove_all(form);
       run("export a.dat F.SHP --as " + form + " -d " + form);
       fs::create_directory("cut");
-      if (form == "sheet")
-        fs::copy("sheet/F-sheet.png", "cut/F-sheet.png", fs::copy_options::overwrite_existing);
+      if (form == "sheet") write_bytes("cut/F-sheet.png", bytes_of("sheet/F-sheet.png"));
       EXPECT_EQ(run(job + " -o new.shp --palette a.dat").errors, "");
       ASSERT_EQ(icons_of("new.shp"), old_icons);
       EXPECT_EQ(bytes_of("new.shp").substr(0, 8), file.substr(0, 8));
@@ -405,7 +404,7 @@ TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
        {"p.png -o p.png", "good.json -o p.png", "good.json -o good.json"}) {
     EXPECT_EQ(run("import " + read + " --palette GAME.PAL").status, 2) << read;
   }
-  const result seen = run("import p.png -o new.shp --palette GAME.PAL --like two.shp");
+  const result seen = run("import p.png -o two.shp --palette GAME.PAL --like two.shp");
   EXPECT_EQ(seen.status, 1);
   EXPECT_NE(seen.errors.find("1 icon of the old icon file left out"), std::string::npos);
 }
