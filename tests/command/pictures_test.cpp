@@ -142,7 +142,7 @@ static std::string plain_png(int depth, int colour_type, int interlace,
   return bytes;
 }
 
-// Black, white and black pixels, in two rows.
+// Black, white and black pixels, and two black rows.
 TEST_F(pictures_test, ReadsEveryKindOfPng) {
   std::string colours(1024, '\x33');
   colours.replace(4, 3, std::string(3, '\0'));
@@ -158,9 +158,13 @@ TEST_F(pictures_test, ReadsEveryKindOfPng) {
          {std::tuple(1, PNG_COLOR_TYPE_GRAY, one_bit), std::tuple(2, PNG_COLOR_TYPE_GRAY, two_bits),
           std::tuple(4, PNG_COLOR_TYPE_GRAY, four_bits), std::tuple(16, PNG_COLOR_TYPE_GRAY, deep),
           std::tuple(8, PNG_COLOR_TYPE_GRAY_ALPHA, with_alpha)}) {
-      write_bytes("p.png", plain_png(depth, type, interlace, {row, row}, 3));
+      std::vector<png_byte> dark = row;  // an opaque row of black
+      for (std::size_t i = 0; i < dark.size(); ++i) {
+        if (type != PNG_COLOR_TYPE_GRAY_ALPHA || i % 2 == 0) dark[i] = 0;
+      }
+      write_bytes("p.png", plain_png(depth, type, interlace, {row, dark, dark}, 3));
       EXPECT_EQ(run("import p.png -o p.shp --palette GAME.PAL").errors, "");
-      EXPECT_EQ(icons_of("p.shp"), texts{"1 2 0 0 0 2 1 1,2,1,1,2,1,"}) << depth << interlace;
+      EXPECT_EQ(icons_of("p.shp"), texts{"2 2 0 0 0 2 2 1,2,1,1,1,1,1,1,1,"}) << depth << interlace;
     }
   }
 }
@@ -250,14 +254,16 @@ TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
   write_bytes("names/a2.png", png_with(PNG_FORMAT_RGBA, {64, 0, 0, 255}, 1, 1));
   // As other programs write it: an object, without heads, trimmed.
   const std::string rest = R"("frame":{"x":1,"y":0,"w":1,"h":1},"rotated":)";
-  const auto sheet = [&rest](const char* rotated) {
-    return R"({"meta":{"image":"/home/s.png"},"frames":{"b 10":{)" + rest + rotated +
+  const auto sheet = [&rest](const char* rotated, const char* image = "/home/s.png") {
+    return R"({"meta":{"image":")" + std::string(image) + R"("},"frames":{"b 10":{)" + rest +
+           rotated +
            R"(,"trimmed":true,"spriteSourceSize":{"x":2,"y":1,"w":1,"h":1},)"
            R"("sourceSize":{"w":3,"h":2}},"b 9":{"key":1,)" +
            rest + "false}}}";
   };
   write_bytes("other.json", sheet("false"));
   write_bytes("rotated.json", sheet("true"));
+  write_bytes("windows.json", sheet("false", R"(C:\\home\\s.png)"));
   write_bytes("bad.json", "{\"frames\":\n  x}");
   write_bytes("list.json", "[]");
   write_bytes("photo.png", "\xFF\xD8\xFF\xE0");
@@ -266,6 +272,7 @@ TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
       {"png", error + "png/F-0003.png: not imported: F.json does not list it\n", {"2 1", "2 1"}},
       {"names", "", {"3 1", "1 1", "3 1"}},
       {"other.json", "", {"1 1", "3 2"}},
+      {"windows.json", "", {"1 1", "3 2"}},
       {"s.png --grid 3x1", "", {"1 1", "1 1", "1 1"}},
       {"s.png --grid 2x1",
        error + "s.png: cannot be cut: its 3 by 1 pixels are no multiples of the grid.\n",
