@@ -1,5 +1,5 @@
-// bench_make_data FOLDER
-// Writes the data of peers.sh into folders:
+// bench_make_data FOLDER [PART...]
+// Writes the data of peers.sh, or the named parts of it, into folders:
 //   names     an index of 32,768 records, empty files of these names, a shiplist, and the names
 //             shuffled and in order, one per line
 //   files     4000 files, 64 MB
@@ -107,18 +107,21 @@ void make_growth(const fs::path& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::cerr << "usage: bench_make_data FOLDER\n";
+  if (argc < 2) {
+    std::cerr << "usage: bench_make_data FOLDER [PART...]\n";
     return 2;
   }
+  using maker = void (*)(const fs::path& folder);
+  const std::pair<const char*, maker> parts[] = {
+      {"names", make_names}, {"files", make_files},       {"icons", make_icons},
+      {"steps", make_steps}, {"pictures", make_pictures}, {"growth", make_growth}};
   try {
     const fs::path folder = fs::absolute(argv[1]);
-    make_names(folder / "names");
-    make_files(folder);
-    make_icons(folder / "icons");
-    make_steps(folder / "steps");
-    make_pictures(folder / "pictures");
-    make_growth(folder / "growth");
+    for (const auto& [name, make] : parts) {
+      const bool is_wanted =
+          argc == 2 || std::find(argv + 2, argv + argc, std::string(name)) != argv + argc;
+      if (is_wanted) make(name == std::string("files") ? folder : folder / name);
+    }
   } catch (const std::exception& failure) {
     std::cerr << "bench_make_data: " << failure.what() << '\n';
     return 1;
