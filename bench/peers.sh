@@ -88,7 +88,7 @@ windows() { # PLATFORM
     window icons "$data/icons" 500
   row "32 KB of text, $on; \`setPlainText\`" 1.0 ms 1000 window text "$data/icons" -- \
     bare text "$data/icons/long.txt"
-  row "the same; after reading its file, $on" '' ms 1000 window text "$data/icons" -- \
+  row "the same; read and shown then, $on" '' ms 1000 window text "$data/icons" -- \
     bare read "$data/icons/long.txt"
   row "start to window, $on; empty window" '' ms 1000 wall "$bin/bench_window" start "$data/icons" -- \
     wall "$bin/bench_bare_qt" start
