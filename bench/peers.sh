@@ -70,6 +70,9 @@ programs() {
 scripts() {
   row '`ostrane-dat extract` of 4,000 files, 64 MB; `tar -xf`' 0.8 ms 1000 \
     in_new_folder dat extract "$data/archive/ostrane.dat" -d "$data/archive/out" -- untar
+  row 'the same over existing files; `tar -xf`' 2 ms 1000 \
+    dat extract "$data/archive/ostrane.dat" -d "$data/archive/out" -- \
+    wall tar -C "$data/tar" -xf "$data/files.tar"
   row '`build` from the same; `tar -cf`' 0.95 ms 1000 without_archive dat build "$data/files" -- tar_up
   row '`list` of 32,767 names; `tar -tf`' 0.2 ms 1000 dat list "$data/names/ostrane.dat" -- list_names
   row '`export` of 5,000 icons; a bare loop with libpng' 0.5 ms 1000 export_pictures -- bare_export
