@@ -55,7 +55,7 @@ TEST_F(Input, ReachesTheTool) {
                           {"folders Enter", "C:\\sub "},
                           {"folders#0 press; folders#0 again", "C:\\ "},
                           {"files#0 press", "a.txt "},
-                          {"drives wheel", ""},
+                          {"drives wheel; drives wheel-back", ""},
                           {"drives Down", "d: [two] "}};
   const steps of_controls = {{"button Return; button hold Return", "go "},
                              {"button Space", "go "},
