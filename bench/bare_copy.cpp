@@ -59,8 +59,9 @@ void extract(const fs::path& folder) {
   if (read(archive, index.data(), 4) != 4) throw std::runtime_error("no index");
   const std::size_t count = number_at(index, 0);
   index.resize(record_size * count);
-  if (read(archive, index.data(), static_cast<unsigned>(index.size())) < 0)
+  if (read(archive, index.data(), static_cast<unsigned>(index.size())) < 0) {
     throw std::runtime_error("no index");
+  }
   for (std::size_t i = 0; i + 1 < count; ++i) {
     const std::size_t at = i * record_size;
     const std::string name(reinterpret_cast<const char*>(index.data() + at + 4), 13);
@@ -81,8 +82,9 @@ void build(const fs::path& folder) {
   }
   const int archive = open_file(folder / "OSTRANE.DAT", O_WRONLY | O_CREAT | O_TRUNC);
   const std::vector<char> index(4 + record_size * (files.size() + 1), static_cast<char>(size));
-  if (write(archive, index.data(), static_cast<unsigned>(index.size())) < 0)
+  if (write(archive, index.data(), static_cast<unsigned>(index.size())) < 0) {
     throw std::runtime_error("cannot write");
+  }
   for (const fs::path& path : files) {
     const int file = open_file(path, O_RDONLY);
     copy(file, archive, SIZE_MAX);

@@ -90,6 +90,7 @@ std::vector<std::size_t> ordered_entries(const archive_index& index, const std::
   };
   if (order == "name") {
     std::vector<std::string> keys;
+    keys.reserve(entries.size());
     for (const std::size_t i : entries) {
       keys.push_back(name_key(index.records[i].name));
     }
