@@ -222,7 +222,7 @@ TEST_F(Input, DialogsAskForFilesAndFolders) {
     });
     const forms_layer::save_answer answer =
         screen.ask_save_path({"Save", "A\xC9", {{"Sheet", "-sheet.png"}, {"Motion", ".gif"}}});
-    return answer.path.lexically_relative(folder).string() + std::to_string(answer.kind);
+    return answer.path.lexically_relative(folder).generic_string() + std::to_string(answer.kind);
   };
   const auto choose_motion = [&](QFileDialog& dialog) {
     dialog.setDirectory(folder_of("sub"));
