@@ -42,7 +42,7 @@ void add_description(const std::string& row) {
 void show_clicked_entry() {
   const std::string row = selected_row();
   const entry_kind kind = kind_of_entry(row);
-  if (reads_archive(kind) && !archive_is_unchanged()) return;
+  if (reads_archive(kind)) require_open_archive();
   Form1.Text6.Visible = false;
   Form1.Frame1.Caption = row;
   tool_state.selected_index = Form1.List1.ListIndex();
@@ -75,7 +75,7 @@ void show_double_clicked_entry() {
     report_unknown_kind(row);
     return;
   }
-  if (!archive_is_unchanged()) return;
+  require_open_archive();
   Form1.Text2.Text = "";
   tool_state.selected_index = Form1.List1.ListIndex();
   const std::int32_t last =

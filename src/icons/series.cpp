@@ -141,7 +141,8 @@ void show_shp_series() {
 
 void show_next_series() {
   const bool is_last_series = tool_state.series_next_icon >= tool_state.shp_head.icon_count;
-  if (is_last_series || !icons_are_from_open_archive() || !archive_is_unchanged()) return;
+  if (is_last_series || !icons_are_from_open_archive()) return;
+  require_open_archive();
   Form1.Text2.Text = "";
   reset_series(tool_state.next_icon);
   Form3.Visible = true;

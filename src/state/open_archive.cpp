@@ -3,7 +3,6 @@
 #include "data/archive_index.h"
 #include "data/data_error.h"
 #include "files/paths.h"
-#include "forms_layer/message_box.h"
 
 namespace ostrane {
 
@@ -15,10 +14,9 @@ void open_archive_file() {
                  tool_state.archive_stamp);
 }
 
-bool archive_is_unchanged() {
+void require_open_archive() {
   const std::string failure = read_open_archive([] {});
-  if (!failure.empty()) forms_layer::message_box(failure);
-  return failure.empty();
+  if (!failure.empty()) throw data_error(failure);
 }
 
 bool icons_are_from_open_archive() {

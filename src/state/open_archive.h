@@ -25,9 +25,9 @@ template <typename Job>
   return failure;
 }
 
-// False after a message if no archive is open or its file has changed. Call before a command clears
+// Throws data_error if the archive cannot be opened to read entries. Call before a command clears
 // what is shown.
-bool archive_is_unchanged();
+void require_open_archive();
 
 // True if the icons shown last, those of `directory_index`, are from the open archive.
 bool icons_are_from_open_archive();
