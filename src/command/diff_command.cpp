@@ -1,5 +1,6 @@
 #include "command/commands.h"
 #include "command/console.h"
+#include "command/json_rows.h"
 #include "command/named_files.h"
 #include "data/archive_diff.h"
 #include "data/number_text.h"
@@ -47,15 +48,15 @@ int diff(const diff_options& options) {
   const std::vector<entry_difference> found =
       diff_archives(named_input(options.old_archive), named_input(options.new_archive),
                     [] { show_progress(0, 0, ""); });
-  if (options.is_json) print("[");
+  json_rows rows;
   for (const entry_difference& one : found) {
     if (options.is_json) {
-      print((&one == found.data() ? "\n  " : ",\n  ") + json_of(one));
+      rows.add(json_of(one));
     } else {
       print_text(options, one);
     }
   }
-  if (options.is_json) print("\n]\n");
+  if (options.is_json) rows.end();
   return found.empty() ? status_done : status_differs;
 }
 
