@@ -13,7 +13,6 @@
 #include "data/icon_file.h"
 #include "data/palette.h"
 #include "files/code_page.h"
-#include "files/file_writer.h"
 #include "files/text.h"
 #include "pictures/icon_exporter.h"
 #include "pictures/png_writer.h"
@@ -26,10 +25,9 @@ constexpr int palette_side = 16;
 
 struct entries_export {
   const export_options& options;
-  files::binary_file archive = {};
-  files::file_stamp stamp = {};  // of the archive
+  files::binary_file& archive;
+  export_output output;
   rgb_palette palette = {};
-  files::binary_file output = {};
   std::size_t skipped = 0;  // entries that are not exported or not completely
   int status = status_done;
 };
@@ -57,23 +55,10 @@ void skip(entries_export& job, const exported_entry& entry, const std::string& r
   ++job.skipped;
 }
 
-files::file_path target_of(const entries_export& job, const std::u8string& name) {
-  return shown_as_named(path_of_argument(job.options.folder) / name);
-}
-
-void write_export(entries_export& job, const std::u8string& name, std::string_view bytes) {
-  require_unchanged(job.archive, job.stamp, "export");
-  const files::file_path target = target_of(job, name);
-  if (begin_write(target.shown)) {
-    files::write_bytes(job.output, target, bytes, {.source = job.stamp.identity});
-  }
-}
-
 void export_icons(entries_export& job, const exported_entry& entry) {
-  require_unchanged(job.archive, job.stamp, "export");  // the exporter checks only from now on
   const export_options& options = job.options;
   make_icon_exporter()(
-      job.archive,
+      job.output,
       {.entry = entry.name,
        .start = entry.start,
        .end = entry.end,
@@ -82,9 +67,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .stem = entry.stem,
        .pace = options.pace,
        .scale = options.scale,
-       .target = [&](const std::u8string& name) { return target_of(job, name); },
        .on_skipped = [&](const std::string& reason) { report(job, entry, reason); },
-       .on_file = [](const files::file_path& target) { return begin_write(target.shown); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }
@@ -113,8 +96,9 @@ void export_palette(entries_export& job, const exported_entry& entry) {
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
   }
-  write_export(job, entry.stem + u8".png", png_of(drawn, colours, colours, job.options.scale));
-  write_export(job, entry.stem + u8".gpl", gpl_of(entry.name, colours));
+  write_export(job.output, entry.stem + u8".png",
+               png_of(drawn, colours, colours, job.options.scale));
+  write_export(job.output, entry.stem + u8".gpl", gpl_of(entry.name, colours));
 }
 
 void export_text(entries_export& job, const exported_entry& entry) {
@@ -127,7 +111,7 @@ void export_text(entries_export& job, const exported_entry& entry) {
   job.archive.seek(entry.start);
   job.archive.read(std::as_writable_bytes(std::span(text)));
   std::replace(text.begin(), text.end(), '\0', ' ');
-  write_export(job, entry.stem + u8".txt", files::as_bytes(files::to_utf8(text)));
+  write_export(job.output, entry.stem + u8".txt", files::as_bytes(files::to_utf8(text)));
 }
 
 void export_one(entries_export& job, const exported_entry& entry) {
@@ -149,7 +133,7 @@ void export_entry(entries_export& job, const exported_entry& entry) {
   try {
     export_one(job, entry);
   } catch (const data_error& error) {
-    require_unchanged(job.archive, job.stamp, "export");
+    require_unchanged(job.archive, job.output.stamp, "export");
     skip(job, entry, error.told.reason);
   }
 }
@@ -209,7 +193,7 @@ void require_separate_files(entries_export& job, const std::vector<exported_entr
         throw data_error(name, "cannot be written: it would be a file of both " +
                                    found->second->name + " and " + entry.name + ".");
       }
-      require_other_file(files::as_bytes(target_of(job, name).shown),
+      require_other_file(files::as_bytes(job.output.target(name).shown),
                          path_of_argument(job.options.archive));
     }
   }
@@ -221,12 +205,21 @@ int export_entries(const export_options& options) {
   const files::file_path archive = named_input(options.archive);
   const archive_index index = read_archive_index(archive);
   const std::vector<exported_entry> entries = chosen_exports(index, options);
-  entries_export job = {.options = options};
-  open_unchanged(job.archive, archive, index.stamp);
+  files::binary_file file;
+  open_unchanged(file, archive, index.stamp);
+  entries_export job = {
+      .options = options,
+      .archive = file,
+      .output = {.archive = file,
+                 .stamp = index.stamp,
+                 .target =
+                     [&options](const std::u8string& name) {
+                       return shown_as_named(path_of_argument(options.folder) / name);
+                     },
+                 .on_file = [](const files::file_path& to) { return begin_write(to.shown); }}};
   require_reasonable_size(count_cells(job, entries));
   require_separate_files(job, entries);
   make_folder(options.folder);
-  job.stamp = index.stamp;
   job.palette = read_game_colours(job.archive, index.records);
   for (const exported_entry& entry : entries) export_entry(job, entry);
   return job.skipped > 0 && job.skipped == entries.size() ? status_failed : job.status;

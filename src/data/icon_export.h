@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "data/export_output.h"
 #include "data/game_palette.h"
 #include "data/shp_format.h"
-#include "files/binary_file.h"
 
 // Export of the icons of an icon file to the formats of other programs.
 namespace ostrane {
@@ -30,23 +30,19 @@ struct icon_export {
   std::u8string stem = {};  // prefix of the file names
   int pace = 10;            // hundredths of a second per picture
   int scale = 1;            // pixels per cell
-  bool replaces = true;     // otherwise nothing is written if one of the files exists
   // The range of icons, 1-based and inclusive.
   std::size_t first = 1;
   std::size_t last = max_icons_per_file;
 
-  std::function<files::file_path(const std::u8string& name)> target = {};
   // Called with the reason for each icon that is skipped or not exact.
   std::function<void(const std::string& reason)> on_skipped = {};
-  // Called before each file is written; if it returns false the file is left out. May be null.
-  std::function<bool(const files::file_path& target)> on_file = {};
   // Called before each icon; may be null.
   std::function<void(std::size_t number, std::size_t count)> on_icon = {};
 };
 
-// Reads the icons from an open archive and writes each file atomically. Throws data_error if no
-// icon can be exported, and file_error.
-using icon_exporter = void (*)(files::binary_file& archive, const icon_export& wanted);
+// Throws data_error if no icon can be exported, and what write_export throws. Writes nothing if one
+// of the files cannot be replaced.
+using icon_exporter = void (*)(export_output& output, const icon_export& wanted);
 
 // Returns the names of the files that an export of an icon file with `last` icons can write.
 std::vector<std::u8string> exported_files(picture_form form, const std::u8string& stem,

@@ -6,16 +6,29 @@
 
 namespace ostrane {
 
-void export_entry(icon_export& wanted, std::int32_t index) {
-  const entry_range entry = range_of(index_records(), index);
-  wanted.start = entry.start;
-  wanted.end = entry.end;
-  for (std::size_t i = 0; i < wanted.colours.size(); ++i) {
+static rgb_palette shown_colours() {
+  rgb_palette colours = {};
+  for (std::size_t i = 0; i < colours.size(); ++i) {
     const forms_layer::colour shown = tool_state.colour_table[i];
-    wanted.colours[i] = forms_layer::red_of(shown) << 16U | forms_layer::green_of(shown) << 8U |
-                        forms_layer::blue_of(shown);
+    colours[i] = forms_layer::red_of(shown) << 16U | forms_layer::green_of(shown) << 8U |
+                 forms_layer::blue_of(shown);
   }
-  tool_state.export_icons(tool_state.archive_file, wanted);
+  return colours;
+}
+
+std::string export_entry(icon_export& wanted, std::int32_t index, const export_target& target,
+                         bool replaces) {
+  return read_open_archive([&] {
+    const entry_range entry = range_of(index_records(), index);
+    wanted.start = entry.start;
+    wanted.end = entry.end;
+    wanted.colours = shown_colours();
+    export_output output = {.archive = tool_state.archive_file,
+                            .stamp = tool_state.archive_stamp,
+                            .target = target,
+                            .replaces = replaces};
+    tool_state.export_icons(output, wanted);
+  });
 }
 
 std::string proposed_stem(std::int32_t index) {

@@ -6,9 +6,12 @@
 
 namespace ostrane {
 
-// Exports the icons of the entry `index` in `dat_index` in the colours of the screen. The file of
-// the open archive must be open. Throws data_error and file_error.
-void export_entry(icon_export& wanted, std::int32_t index);
+using export_target = std::function<files::file_path(const std::u8string& name)>;
+
+// Exports the icons of the entry `index` in `dat_index` in the colours of the screen. Returns why
+// that failed, or "".
+std::string export_entry(icon_export& wanted, std::int32_t index, const export_target& target,
+                         bool replaces);
 
 // The beginning of a proposed file name for that entry. It does not lead to another folder.
 std::string proposed_stem(std::int32_t index);

@@ -51,13 +51,14 @@ bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
     wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
     if (stem) wanted.stem = *stem;
   }
-  // Only the file of that name is replaced, whatever the case of its ending.
-  const bool is_numbered = wanted.form == picture_form::png;
-  wanted.target = [path, is_numbered](const std::u8string& name) {
-    const bool is_other = is_numbered || name.ends_with(u8".json");
-    return files::from_system_path(is_other ? path.parent_path() / name : path);
-  };
   return true;
+}
+
+// The chosen file is replaced as it is spelled, whatever the case of its ending.
+files::file_path target_of(picture_form form, const std::filesystem::path& chosen,
+                           const std::u8string& name) {
+  const bool is_other = form == picture_form::png || name.ends_with(u8".json");
+  return files::from_system_path(is_other ? chosen.parent_path() / name : chosen);
 }
 
 void save(icon_export wanted, const forms_layer::save_answer& answer, const std::string& what) {
@@ -76,8 +77,10 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
   wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
   files::clear_leftovers(answer.path.parent_path());
-  const std::string failure =
-      read_open_archive([&wanted] { export_entry(wanted, tool_state.directory_index); });
+  const auto target = [&](const std::u8string& name) {
+    return target_of(wanted.form, answer.path, name);
+  };
+  const std::string failure = export_entry(wanted, tool_state.directory_index, target, true);
   if (!failure.empty()) {
     forms_layer::message_box(failure + not_saved);
   } else if (!skipped.empty()) {

@@ -33,29 +33,27 @@ void report(const std::string& message) {
   if (!message.empty()) forms_layer::message_box(message);
 }
 
-// Throws data_error and file_error. Appends to `skipped` what is not exported.
+// Appends to `skipped` what is not exported.
 void export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_file>& skipped) {
   const std::string name = entry_name(row);
   if (kind_of_entry(name) != entry_kind::icons) {
     skipped.push_back({name, "it is no icon file"});
     return;
   }
+  const auto skip = [&](const std::string& reason) { skipped.push_back({name, reason}); };
   icon_export wanted = {
-      .entry = name, .stem = files::to_utf8(proposed_stem(row)), .replaces = false};
-  wanted.target = [&folder](const std::u8string& file) {
+      .entry = name, .stem = files::to_utf8(proposed_stem(row)), .on_skipped = skip};
+  const auto target = [&folder](const std::u8string& file) {
     return files::from_system_path(folder / file);
   };
-  wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({name, reason}); };
-  export_entry(wanted, row);
+  const std::string failure = export_entry(wanted, row, target, false);
+  if (!failure.empty()) skip(failure);
 }
 
 std::string export_rows(const std::vector<std::int32_t>& rows, const fs::path& folder) {
   std::vector<skipped_file> skipped;
   files::clear_leftovers(folder);
-  for (const std::int32_t row : rows) {
-    const std::string failure = read_open_archive([&] { export_row(row, folder, skipped); });
-    if (!failure.empty()) skipped.push_back({entry_name(row), failure});
-  }
+  for (const std::int32_t row : rows) export_row(row, folder, skipped);
   return skipped_files_text(skipped, "The pictures were exported, with these exceptions:");
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "data/archive_index.h"
 #include "data/colour_finder.h"
 #include "data/data_error.h"
 #include "data/icon_file.h"
@@ -11,7 +10,6 @@
 #include "data/number_text.h"
 #include "data/shared_work.h"
 #include "files/code_page.h"
-#include "files/file_writer.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon_json.h"
 #include "pictures/png_writer.h"
@@ -24,34 +22,21 @@ namespace {
 constexpr std::int64_t max_scaled_pixels = std::int64_t{1} << 28U;
 
 struct icon_export_job {
-  files::binary_file& archive;
+  export_output& output;
   const icon_export& wanted;
-  files::file_stamp stamp;  // of the archive
-  rgb_palette distinct;     // the distinct_colours of the palette
+  rgb_palette distinct;  // the distinct_colours of the palette
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
-  files::binary_file output = {};
 };
 
 std::int64_t cells_of(const picture& drawn) { return std::int64_t{drawn.columns()} * drawn.rows(); }
 
-files::write_rules rules_of(const icon_export_job& job) {
-  return {.source = job.stamp.identity, .replaces = job.wanted.replaces};
-}
-
-void write_output(icon_export_job& job, const std::u8string& name, std::string_view bytes) {
-  require_unchanged(job.archive, job.stamp, "export");
-  const files::file_path target = job.wanted.target(name);
-  if (job.wanted.on_file && !job.wanted.on_file(target)) return;
-  files::write_bytes(job.output, target, bytes, rules_of(job));
-}
-
 // No file may be the archive or one that must not be replaced. Checked before any is written.
 void require_writable_files(const icon_export_job& job) {
   const icon_export& wanted = job.wanted;
-  const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
+  const icon_file from = read_icon_file(job.output.archive, wanted.start, wanted.end);
   const std::size_t last = std::min(wanted.last, from.positions.size());
   for (const std::u8string& name : exported_files(wanted.form, wanted.stem, wanted.first, last)) {
-    require_writable(wanted.target(name), rules_of(job));
+    require_writable(job.output.target(name), rules_of(job.output));
   }
 }
 
@@ -84,7 +69,7 @@ std::string fault_of(const stored_icon& icon) {
 
 exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
                         const drawable_handler& on_drawable) {
-  stored_icon stored = read_stored_icon(*job.stream, job.archive, from, number - 1);
+  stored_icon stored = read_stored_icon(*job.stream, job.output.archive, from, number - 1);
   const std::string fault = fault_of(stored);
   if (!fault.empty()) job.wanted.on_skipped("icon " + std::to_string(number) + " " + fault);
   exported_icon icon = {.file = {},
@@ -107,7 +92,7 @@ void report_unread_icons(const icon_export& wanted, const icon_file& from) {
 
 exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawable) {
   const icon_export& wanted = job.wanted;
-  const icon_file from = read_icon_file(job.archive, wanted.start, wanted.end);
+  const icon_file from = read_icon_file(job.output.archive, wanted.start, wanted.end);
   exported_icons exported = {.name = files::to_utf8(wanted.entry),
                              .identifier = from.head.identifier,
                              .scale = wanted.scale,
@@ -134,7 +119,7 @@ void write_pictures(icon_export_job& job, std::vector<made_picture>& pictures) {
       pictures[i].png = png_at_scale(job, pictures[i].drawn);
     }
   });
-  for (const made_picture& made : pictures) write_output(job, made.name, made.png);
+  for (const made_picture& made : pictures) write_export(job.output, made.name, made.png);
   pictures.clear();
 }
 
@@ -153,7 +138,7 @@ void export_series(icon_export_job& job) {
         cells = 0;
       });
   write_pictures(job, pictures);
-  write_output(job, job.wanted.stem + u8".json", json_of(exported));
+  write_export(job.output, job.wanted.stem + u8".json", json_of(exported));
 }
 
 // Blank icons are omitted from a GIF and a sheet.
@@ -182,10 +167,10 @@ void export_sheet(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
   const sheet made = sheet_of(all.pictures);
   const std::u8string name = job.wanted.stem + u8".png";
-  write_output(job, name, png_at_scale(job, made.drawn));
+  write_export(job.output, name, png_at_scale(job, made.drawn));
   // The user may have given the file a name in another case.
-  const std::u8string image = job.wanted.target(name).system.filename().u8string();
-  write_output(job, job.wanted.stem + u8".json",
+  const std::u8string image = job.output.target(name).system.filename().u8string();
+  write_export(job.output, job.wanted.stem + u8".json",
                json_of(made, all.pictures, all.names, image, job.wanted.pace, job.wanted.scale,
                        json_of(all.exported)));
 }
@@ -194,8 +179,8 @@ void export_gif(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
   require_scalable(job, all.cells);
   std::int64_t inexact = 0;
-  write_output(
-      job, job.wanted.stem + u8".gif",
+  write_export(
+      job.output, job.wanted.stem + u8".gif",
       gif_of(all.pictures, job.wanted.colours, job.wanted.pace, job.wanted.scale, inexact));
   if (inexact > 0) {
     job.wanted.on_skipped(counted(inexact, "pixel") + " of the GIF changed to the nearest colour");
@@ -204,14 +189,12 @@ void export_gif(icon_export_job& job) {
 
 void export_picture(icon_export_job& job) {
   const all_pictures all = collect_pictures(job);
-  write_output(job, job.wanted.stem + u8".png", png_at_scale(job, all.pictures.front()));
+  write_export(job.output, job.wanted.stem + u8".png", png_at_scale(job, all.pictures.front()));
 }
 
-void export_to_files(files::binary_file& archive, const icon_export& wanted) {
-  icon_export_job job = {.archive = archive,
-                         .wanted = wanted,
-                         .stamp = archive.info().stamp,
-                         .distinct = distinct_colours(wanted.colours)};
+void export_to_files(export_output& output, const icon_export& wanted) {
+  icon_export_job job = {
+      .output = output, .wanted = wanted, .distinct = distinct_colours(wanted.colours)};
   require_writable_files(job);
   switch (wanted.form) {
     case picture_form::png:
