@@ -53,8 +53,8 @@ TEST_F(motion_test, ShowsTheSlotsInTurnAndStepsThroughThem) {
              {"t", " 1: 200,800 moving"},
              {"tttt", " 2: 200,800 moving"},
              {"l", " 2: 200,800 back on"},
-             {"lmttt", " 3: 200,800 moving"},
-             {"t", " 3: 200,800 back on"},
+             {"lttt", " 3: 200,800 moving"},
+             {"m", " 3: 200,800 back on"},
              {"<", "2: 200,800 back on"}});
   EXPECT_EQ(view(), "3:2: 2=1");
   run_steps({{"m", "2: moving"}, {"t", " 1: 200,800 moving"}, {"ttt", " 3: 200,800 back on"}});

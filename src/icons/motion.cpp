@@ -43,6 +43,8 @@ void end_motion() {
   enable_stepping(true);
 }
 
+bool motion_is_looping() { return tool_state.motion_loops == flag_true && Form1.Timer1.Enabled(); }
+
 }  // namespace
 
 std::int32_t motion_interval() {
@@ -53,6 +55,7 @@ std::int32_t motion_interval() {
 }
 
 void start_motion() {
+  if (motion_is_looping()) return end_motion();
   tool_state.motion_loops = flag_false;
   enable_stepping(false);
   tool_state.browse_ready = flag_true;
@@ -67,7 +70,7 @@ void start_motion() {
 }
 
 void loop_motion() {
-  if (tool_state.motion_loops == flag_true && Form1.Timer1.Enabled()) return end_motion();
+  if (motion_is_looping()) return end_motion();
   start_motion();
   tool_state.motion_loops = flag_true;
 }
