@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "desktop/application_setup.h"
+#include "desktop/system_mouse.h"
 #include "files/code_page.h"
 #include "forms_layer/events.h"
 #include "forms_layer/message_box.h"
@@ -25,11 +26,12 @@ unsigned mouse_releases() {
   return here == nullptr ? 0 : here->mouse_releases();
 }
 
-// Some programs ask for the names before the drop. Other platforms do not report the mouse in a
-// drag.
-bool can_wait_for_release() {
+// Some programs ask for the names before the drop. Wayland does not report the mouse in a drag.
+bool is_before_drop(unsigned releases_before) {
   const QString platform = QGuiApplication::platformName();
-  return platform == QLatin1String("xcb") || platform == QLatin1String("offscreen");
+  const bool reports_mouse =
+      platform == QLatin1String("xcb") || platform == QLatin1String("offscreen");
+  return mouse_is_held() || (reports_mouse && mouse_releases() == releases_before);
 }
 
 // Writes the files, which is an event of the tool, and then shows its message.
@@ -61,8 +63,7 @@ class dragged_files : public QMimeData {
 
  protected:
   QVariant retrieveData(const QString& format, QMetaType type) const override {
-    const bool is_held = can_wait_for_release() && mouse_releases() == releases_before_;
-    if (!is_held) write_files(*drag_);
+    if (!is_before_drop(releases_before_)) write_files(*drag_);
     return QMimeData::retrieveData(format, type);
   }
 

@@ -129,8 +129,9 @@ void rows_view::mousePressEvent(QMouseEvent* event) {
     return;
   }
   const std::vector<std::int32_t>& several = shown_.SelectedRows();
-  chooses_on_release_ =
-      several.size() > 1 && std::binary_search(several.begin(), several.end(), pressed.row());
+  const bool is_selected = pressed.row() == shown_.ListIndex() ||
+                           std::binary_search(several.begin(), several.end(), pressed.row());
+  chooses_on_release_ = shown_.Drag && is_selected;
   if (chooses_on_release_) return;
   setCurrentIndex(pressed);
   choose(pressed.row());

@@ -69,7 +69,7 @@ class rows_view : public view_of<QListView, forms_layer::row_list> {
   QSize row_size_;
   int pressed_row_ = -1;
   QPoint pressed_at_;
-  bool chooses_on_release_ = false;  // as the press may begin a drag of several rows
+  bool chooses_on_release_ = false;  // as the press may begin a drag of selected rows
   find_bar* search_ = nullptr;
   QString word_;             // typed by the latest letters
   quint64 key_time_ = 0;     // of the latest press of a key
