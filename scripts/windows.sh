@@ -51,6 +51,9 @@ configure_tool() {
 configure_program() {
   local libraries
   libraries=$(scripts/windows_libraries.sh --folder)
+  # The cache keeps paths of the libraries that it was made with.
+  grep -qsF "=$libraries/" "$windows_build/tool/CMakeCache.txt" ||
+    rm -rf "$windows_build/tool/CMakeCache.txt" "$windows_build/tool/CMakeFiles"
   configure_tool -DOSTRANE_WINDOWS_LIBRARIES="$libraries" -DQt6_DIR="$libraries/lib/cmake/Qt6" \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/"$(dpkg-architecture -qDEB_BUILD_MULTIARCH)"/cmake \
     -DZLIB_LIBRARY_RELEASE=/usr/x86_64-w64-mingw32/lib/libz.a -DOSTRANE_DESKTOP=ON "$@"
