@@ -27,13 +27,25 @@ start_from_menu() {
   until_true has_no_window "$title"
 }
 
+# Succeeds if "Open with" of a .dat file in this part of the registry knows the program.
+is_offered() {
+  local classes="$1\\Software\\Classes" program=ostrane-dat-tool.exe
+  wine reg query "$classes\\.dat\\OpenWithList\\$program" >/dev/null 2>&1 &&
+    wine reg query "$classes\\Applications\\$program\\shell\\open\\command" 2>/dev/null |
+    grep -q "Ostrane.dat-tool\\\\$program\" \"%1\""
+}
+is_not_known() {
+  ! wine reg query "$1\\Software\\Classes" /s 2>/dev/null | grep -qi -e ostrane -e '\\.dat\\OpenWithList'
+}
+
 check() {
-  local mode=$1 folder=$2 entry
+  local mode=$1 root=$2 folder=$3 entry
   wine "$setup" /S "/$mode"
   diff -r "$stage" "$folder" | grep -v "^Only in .*: uninstall.exe$" && fail "other files than in $stage"
   entry=$(menu_entries)
   [ -n "$entry" ] || fail "no menu entry"
   tr -d '\0' <"$entry" | grep -aqi 'Documents' || fail "the working folder is not that of the documents"
+  is_offered "$root" || fail "no entry of Open with"
   [ -z "${DISPLAY:-}" ] || start_from_menu "$entry"
   echo mine >"$folder/sample/mine.txt"
   wine "$folder/uninstall.exe" /S
@@ -46,9 +58,10 @@ check() {
   wine "$setup" /S "/$mode"
   wine "$folder/uninstall.exe" /S
   until_true is_gone "$folder"
+  is_not_known "$root" || fail "the registry still knows the program"
   echo "Installed and uninstalled for $mode"
 }
 
 user=$(find "$drive/users" -mindepth 1 -maxdepth 1 ! -name Public | head -n 1)
-check CurrentUser "$user/AppData/Local/Programs/Ostrane.dat-tool"
-check AllUsers "$drive/Program Files/Ostrane.dat-tool"
+check CurrentUser HKCU "$user/AppData/Local/Programs/Ostrane.dat-tool"
+check AllUsers HKLM "$drive/Program Files/Ostrane.dat-tool"

@@ -6,6 +6,9 @@ ManifestDPIAware true
 
 !define NAME "Ostrane.dat-tool"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}"
+!define CLASSES "Software\Classes"
+!define APPLICATION "${CLASSES}\Applications\ostrane-dat-tool.exe"
+!define OPEN_WITH "${CLASSES}\.dat\OpenWithList"
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
 !define MULTIUSER_INSTALLMODE_COMMANDLINE
@@ -80,6 +83,11 @@ Section
   WriteRegStr SHCTX "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode /S'
   WriteRegDWORD SHCTX "${UNINSTALL}" "NoModify" 1
   WriteRegDWORD SHCTX "${UNINSTALL}" "NoRepair" 1
+  ; "Open with" of a .dat file offers the program. What opens such files by default stays.
+  WriteRegStr SHCTX "${APPLICATION}" "FriendlyAppName" "${NAME}"
+  WriteRegStr SHCTX "${APPLICATION}\SupportedTypes" ".dat" ""
+  WriteRegStr SHCTX "${APPLICATION}\shell\open\command" "" '"$INSTDIR\ostrane-dat-tool.exe" "%1"'
+  WriteRegStr SHCTX "${OPEN_WITH}\ostrane-dat-tool.exe" "" ""
   ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
   WriteRegDWORD SHCTX "${UNINSTALL}" "EstimatedSize" "$0"
 SectionEnd
@@ -93,4 +101,8 @@ Section "Uninstall"
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"
   DeleteRegKey SHCTX "${UNINSTALL}"
+  DeleteRegKey SHCTX "${APPLICATION}"
+  DeleteRegKey SHCTX "${OPEN_WITH}\ostrane-dat-tool.exe"
+  DeleteRegKey /ifempty SHCTX "${OPEN_WITH}"
+  DeleteRegKey /ifempty SHCTX "${CLASSES}\.dat"
 SectionEnd
