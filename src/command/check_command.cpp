@@ -3,7 +3,6 @@
 #include "command/named_files.h"
 #include "data/archive_check.h"
 #include "files/code_page.h"
-#include "files/file_error.h"
 #include "files/text.h"
 
 namespace ostrane::command {
@@ -32,12 +31,11 @@ int check(const check_options& options) {
   bool all_valid = true;
   std::size_t unreadable = 0;
   for (const std::string& archive : options.archives) {
-    try {
-      all_valid = check_one(archive) && all_valid;
-    } catch (const files::file_error& error) {
-      print_error(error.told);
-      ++unreadable;
-    }
+    const files::failure failed =
+        files::failure_in([&] { all_valid = check_one(archive) && all_valid; });
+    if (!failed) continue;
+    print_error(failed);
+    ++unreadable;
   }
   if (unreadable == options.archives.size()) return status_failed;
   return all_valid && unreadable == 0 ? status_done : status_differs;

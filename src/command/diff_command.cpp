@@ -47,7 +47,7 @@ std::string json_of(const entry_difference& one) {
 int diff(const diff_options& options) {
   const std::vector<entry_difference> found =
       diff_archives(named_input(options.old_archive), named_input(options.new_archive),
-                    [] { show_progress(0, 0, ""); });
+                    [](std::size_t done, std::size_t count) { show_progress(done, count, ""); });
   json_rows rows;
   for (const entry_difference& one : found) {
     if (options.is_json) {

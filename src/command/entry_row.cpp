@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "command/named_files.h"
+#include "data/entry_range.h"
 #include "data/icon_names.h"
 #include "data/shp_reader.h"
 #include "files/code_page.h"
@@ -22,7 +23,7 @@ std::optional<std::int32_t> icons_of(files::binary_file& archive, const entry_ro
 }
 
 std::int64_t size_of(const archive_index& index, std::size_t i) {
-  return std::int64_t{index.records[i + 1].offset} - index.records[i].offset;
+  return range_of(index.records, static_cast<std::int32_t>(i)).size();
 }
 
 entry_kind kind_of(const archive_index& index, std::size_t i) {

@@ -9,6 +9,7 @@
 #include "data/data_error.h"
 #include "data/entry_file_name.h"
 #include "data/entry_kind.h"
+#include "data/entry_range.h"
 #include "data/icon_check.h"
 #include "data/number_text.h"
 #include "data/palette.h"
@@ -46,7 +47,7 @@ std::int64_t start_of(const archive_check& check, std::size_t index) {
 }
 
 std::int64_t size_of(const archive_check& check, std::size_t index) {
-  return start_of(check, index + 1) - start_of(check, index);
+  return range_of(check.records, static_cast<std::int32_t>(index)).size();
 }
 
 void check_ends(const archive_check& check) {
@@ -165,11 +166,11 @@ void check_archive(
   files::binary_file file;
   try {
     index = read_archive_index(path);
-    open_unchanged(file, path, index.stamp);
   } catch (const data_error& error) {
     report("", error.told.reason);
     return;
   }
+  open_unchanged(file, path, index.stamp);
   archive_check check{report, std::move(index.records), index.stamp.size, {}};
   check_ends(check);
   check_names(check);
@@ -180,6 +181,7 @@ void check_archive(
     on_entry(i, entry_count(check), name_of(check, i));
     check_content(check, file, *stream, i);
   }
+  require_unchanged(file, index.stamp, "check");
 }
 
 }  // namespace ostrane

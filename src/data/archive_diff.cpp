@@ -6,6 +6,7 @@
 
 #include "data/archive_index.h"
 #include "data/entry_kind.h"
+#include "data/entry_range.h"
 #include "data/icon_file.h"
 #include "files/code_page.h"
 #include "files/text.h"
@@ -19,16 +20,9 @@ struct side {
   files::binary_file file = {};
 };
 
-// A part of an archive.
-struct entry_bytes {
-  std::int32_t start = 0;
-  std::int32_t end = 0;
-
-  std::int64_t size() const { return std::int64_t{end} - start; }
-};
-
 struct diff_job {
-  const std::function<void()>& on_step;
+  const std::function<void(std::size_t, std::size_t)>& on_step;
+  std::size_t done = 0;  // old entries
   side old_side = {};
   side new_side = {};
   std::unique_ptr<icon_stream> stream = std::make_unique<icon_stream>();
@@ -39,32 +33,40 @@ void open(side& opened, const files::file_path& path) {
   open_unchanged(opened.file, path, opened.index.stamp);
 }
 
-entry_bytes bytes_at(const side& from, std::size_t i) {
-  return {from.index.records[i].offset, from.index.records[i + 1].offset};
+entry_range range_at(const side& from, std::size_t i) {
+  return range_of(from.index.records, static_cast<std::int32_t>(i));
 }
 
-// Bytes outside the archive are those of no file, so they are equal.
-bool has_same_bytes(diff_job& job, const entry_bytes& a, const entry_bytes& b) {
+void step(const diff_job& job) {
+  job.on_step(job.done, std::max<std::size_t>(job.old_side.index.records.size(), 1) - 1);
+}
+
+// Entries before the archive are equal if they begin at the same offset.
+bool has_same_bytes(diff_job& job, const entry_range& a, const entry_range& b) {
   if (a.size() != b.size()) return false;
   if (a.size() <= 0 || a.start < 0 || b.start < 0) return a.start == b.start || a.size() == 0;
   job.old_side.file.seek(a.start);
   job.new_side.file.seek(b.start);
+  const auto read = [](files::binary_file& file, std::string& block) {
+    block.resize(file.read(std::as_writable_bytes(std::span(block))));
+  };
   for (std::int64_t left = a.size(); left > 0;) {
-    job.on_step();
-    const auto block = static_cast<std::size_t>(std::min<std::int64_t>(left, read_buffer_size));
-    std::string seen(block, '\0');
-    std::string other(block, '\0');
-    job.old_side.file.read(std::as_writable_bytes(std::span(seen)));
-    job.new_side.file.read(std::as_writable_bytes(std::span(other)));
+    step(job);
+    const auto size = static_cast<std::size_t>(std::min<std::int64_t>(left, read_buffer_size));
+    std::string seen(size, '\0');
+    std::string other(size, '\0');
+    read(job.old_side.file, seen);
+    read(job.new_side.file, other);
     if (seen != other) return false;
-    left -= static_cast<std::int64_t>(block);
+    if (seen.empty()) break;  // both archives end here
+    left -= static_cast<std::int64_t>(size);
   }
   return true;
 }
 
 // Returns null if the pictures are too large together.
-std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const entry_bytes& a,
-                                                          const entry_bytes& b) {
+std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const entry_range& a,
+                                                          const entry_range& b) {
   const icon_file old_file = read_icon_file(job.old_side.file, a.start, a.end);
   const icon_file new_file = read_icon_file(job.new_side.file, b.start, b.end);
   if (count_picture_cells(job.old_side.file, old_file) +
@@ -76,7 +78,7 @@ std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const e
   const std::size_t more = std::max(old_file.positions.size(), new_file.positions.size());
   std::vector<std::size_t> numbers;
   for (std::size_t i = 0; i < more; ++i) {
-    job.on_step();
+    step(job);
     const bool is_same =
         i < fewer && read_stored_icon(*job.stream, job.old_side.file, old_file, i) ==
                          read_stored_icon(*job.stream, job.new_side.file, new_file, i);
@@ -87,8 +89,8 @@ std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const e
 
 void compare_entries(diff_job& job, std::size_t old_index, std::size_t new_index,
                      std::vector<entry_difference>& found) {
-  const entry_bytes a = bytes_at(job.old_side, old_index);
-  const entry_bytes b = bytes_at(job.new_side, new_index);
+  const entry_range a = range_at(job.old_side, old_index);
+  const entry_range b = range_at(job.new_side, new_index);
   if (has_same_bytes(job, a, b)) return;
   const record_name& name = job.new_side.index.records[new_index].name;
   entry_difference one = {files::to_utf8(name_with_blanks(name)), a.size(), b.size(), {}};
@@ -100,9 +102,9 @@ void compare_entries(diff_job& job, std::size_t old_index, std::size_t new_index
 
 }  // namespace
 
-std::vector<entry_difference> diff_archives(const files::file_path& old_archive,
-                                            const files::file_path& new_archive,
-                                            const std::function<void()>& on_step) {
+std::vector<entry_difference> diff_archives(
+    const files::file_path& old_archive, const files::file_path& new_archive,
+    const std::function<void(std::size_t, std::size_t)>& on_step) {
   diff_job job = {.on_step = on_step};
   open(job.old_side, old_archive);
   open(job.new_side, new_archive);
@@ -118,17 +120,21 @@ std::vector<entry_difference> diff_archives(const files::file_path& old_archive,
     std::vector<std::size_t>& same = in_new[key_of(old_records[i])];
     if (same.empty()) {
       const std::u8string name = files::to_utf8(name_with_blanks(old_records[i].name));
-      found.push_back({name, bytes_at(job.old_side, i).size(), {}, {}});
+      found.push_back({name, range_at(job.old_side, i).size(), {}, {}});
     } else {
       compare_entries(job, i, same.back(), found);
       same.pop_back();
     }
+    ++job.done;
   }
   for (std::size_t i = 0; i + 1 < new_records.size(); ++i) {
     const std::vector<std::size_t>& left = in_new[key_of(new_records[i])];
     if (std::find(left.begin(), left.end(), i) == left.end()) continue;
     const std::u8string name = files::to_utf8(name_with_blanks(new_records[i].name));
-    found.push_back({name, {}, bytes_at(job.new_side, i).size(), {}});
+    found.push_back({name, {}, range_at(job.new_side, i).size(), {}});
+  }
+  for (side* read : {&job.old_side, &job.new_side}) {
+    require_unchanged(read->file, read->index.stamp, "comparison");
   }
   return found;
 }

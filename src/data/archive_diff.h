@@ -20,9 +20,10 @@ struct entry_difference {
 };
 
 // Returns the entries that only one archive has or whose bytes differ. Entries of one name are
-// compared in their order. `on_step` is called often. Throws file_error and data_error.
-std::vector<entry_difference> diff_archives(const files::file_path& old_archive,
-                                            const files::file_path& new_archive,
-                                            const std::function<void()>& on_step);
+// compared in their order. `on_step` is called often, with the number of old entries that are done
+// and their count. Throws file_error and data_error.
+std::vector<entry_difference> diff_archives(
+    const files::file_path& old_archive, const files::file_path& new_archive,
+    const std::function<void(std::size_t, std::size_t)>& on_step);
 
 }  // namespace ostrane

@@ -64,13 +64,17 @@ bool is_sound(const archive_index& index) {
   return !index.records.empty() && least <= index.stamp.size;
 }
 
-entry_range whole_entry(const archive_index& index, std::size_t entry) {
+bool is_whole(const archive_index& index, std::size_t entry) {
   const entry_range range = range_of(index.records, static_cast<std::int32_t>(entry));
-  if (range.start < 0 || range.end < range.start || range.end > index.stamp.size) {
+  return range.start >= 0 && range.end >= range.start && range.end <= index.stamp.size;
+}
+
+entry_range whole_entry(const archive_index& index, std::size_t entry) {
+  if (!is_whole(index, entry)) {
     throw data_error(files::to_utf8("The entry " + name_with_blanks(index.records[entry].name)),
                      "is not contained in the archive with all its bytes.");
   }
-  return range;
+  return range_of(index.records, static_cast<std::int32_t>(entry));
 }
 
 void open_unchanged(files::binary_file& file, const files::file_path& path,

@@ -31,8 +31,10 @@ archive_index read_archive_index(files::binary_file& file, const files::file_pat
 // file of another format practically never has such an index.
 bool is_sound(const archive_index& index);
 
-// The range of an entry. Throws data_error unless the archive has all of its bytes.
+// The range of an entry. Throws data_error unless the archive has all of its bytes, which is_whole
+// tells.
 entry_range whole_entry(const archive_index& index, std::size_t entry);
+bool is_whole(const archive_index& index, std::size_t entry);
 
 // Opens an archive to read entries. Throws archive_changed if its stamp has changed, and
 // file_error.

@@ -13,6 +13,8 @@ namespace ostrane {
 struct entry_range {
   std::int32_t start;
   std::int32_t end;
+
+  std::int64_t size() const { return std::int64_t{end} - start; }
 };
 
 // The range of the entry of a 0-based index. That of the end record is empty.
@@ -26,8 +28,6 @@ inline std::int32_t clamp_to_int32(std::int64_t number) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, INT32_MIN, INT32_MAX));
 }
 
-inline std::int32_t size_of(const entry_range& range) {
-  return clamp_to_int32(std::int64_t{range.end} - range.start);
-}
+inline std::int32_t size_of(const entry_range& range) { return clamp_to_int32(range.size()); }
 
 }  // namespace ostrane
