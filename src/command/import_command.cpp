@@ -36,7 +36,7 @@ struct import_job {
 picture marked_picture_of(const planned_icon& planned, colour_finder& colours,
                           files::binary_file& file) {
   if (planned.png) return read_png(read_bytes(file, *planned.png), planned.png->shown, colours);
-  return planned.is_in_grid && planned.known ? fitted(*planned.marked, planned.known->head)
+  return planned.may_be_cut && planned.known ? fitted(*planned.marked, planned.known->head)
                                              : *planned.marked;
 }
 
@@ -79,7 +79,8 @@ grid_size grid_in(const std::string& text) {
   const bool is_grid = std::sscanf(text.c_str(), "%5dx%5d%c", &grid.columns, &grid.rows, &end) == 2;
   if (!text.empty() && (!is_grid || grid.columns < 1 || grid.rows < 1 ||
                         std::int64_t{grid.columns} * grid.rows > max_icons_per_file)) {
-    throw data_error(files::as_utf8(text), "is not a grid such as 8x4 of at most 5000 icons.");
+    throw data_error(files::as_utf8(text), "is not a grid such as 8x4 of at most " +
+                                               std::to_string(max_icons_per_file) + " icons.");
   }
   return grid;
 }

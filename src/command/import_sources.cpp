@@ -24,6 +24,7 @@ struct planning {
   const std::string& stem;  // of the icon file to make
   const grid_size& grid;
   colour_finder& colours;
+  int exports = 0;  // JSONs of icon files so far
   import_plan plan = {};
   files::binary_file file = {};
 };
@@ -40,15 +41,16 @@ std::string read_input(planning& job, const files::file_path& path) {
   return read_bytes(job.file, path);
 }
 
+void require_own_scale(const exported_icons& exported, const files::file_path& json) {
+  if (exported.scale == 1) return;
+  throw data_error(json.shown, "was exported at scale " + std::to_string(exported.scale) +
+                                   "; export at scale 1.");
+}
+
 // The JSONs of several exports together do not tell the old icons.
-void use_identifier(import_plan& plan, const exported_icons& exported,
-                    const files::file_path& json) {
-  if (exported.scale != 1) {
-    throw data_error(json.shown, "was exported at scale " + std::to_string(exported.scale) +
-                                     "; export at scale 1.");
-  }
-  plan.identifier = exported.identifier;
-  plan.entry = plan.icons.empty() ? exported.name : u8"";
+void use_export(planning& job, const exported_icons& exported) {
+  job.plan.identifier = exported.identifier;
+  job.plan.entry = job.exports++ == 0 ? exported.name : u8"";
 }
 
 planned_icon known_from(const exported_icon& icon) {
@@ -58,7 +60,8 @@ planned_icon known_from(const exported_icon& icon) {
 }
 
 void add_icons(planning& job, const exported_icons& exported, const files::file_path& json) {
-  use_identifier(job.plan, exported, json);
+  require_own_scale(exported, json);
+  use_export(job, exported);
   for (const exported_icon& icon : exported.icons) {
     planned_icon planned = known_from(icon);
     if (icon.file) {
@@ -72,7 +75,8 @@ void add_icons(planning& job, const exported_icons& exported, const files::file_
 // The frames that the JSON of the icon file does not name come last.
 void add_known_frames(planning& job, const sheet_layout& layout, const picture& sheet,
                       const files::file_path& json) {
-  use_identifier(job.plan, *layout.exported, json);
+  require_own_scale(*layout.exported, json);
+  use_export(job, *layout.exported);
   std::vector<const sheet_frame*> left;
   for (const sheet_frame& frame : layout.frames) left.push_back(&frame);
   for (const exported_icon& icon : layout.exported->icons) {
@@ -129,7 +133,8 @@ void add_grid(planning& job, const files::file_path& png) {
   const picture sheet = read_png(read_input(job, png), png.shown, job.colours);
   try {
     for (const sheet_frame& frame : frames_of_grid(sheet, job.grid.columns, job.grid.rows)) {
-      job.plan.icons.push_back({.marked = picture_of(sheet, frame), .is_in_grid = true});
+      job.plan.icons.push_back(
+          {.marked = picture_of(sheet, frame), .may_be_cut = true, .is_grid_cell = true});
     }
   } catch (const data_error& error) {
     throw data_error(png.shown, "cannot be cut: " + error.told.reason + ".");
@@ -138,21 +143,33 @@ void add_grid(planning& job, const files::file_path& png) {
 
 void add_gif(planning& job, const files::file_path& gif) {
   for (picture& shown : read_gif(read_input(job, gif), gif.shown, job.colours)) {
-    job.plan.icons.push_back({.marked = std::move(shown), .is_in_grid = true});
+    job.plan.icons.push_back({.marked = std::move(shown), .may_be_cut = true});
   }
 }
 
-// A PNG with the JSON of a sheet beside it is that sheet.
-void add_png(planning& job, const files::file_path& png) {
-  if (job.grid.columns > 0) return add_grid(job, png);
-  fs::path json = png.system;
-  json.replace_extension(".json");
+// The layout of the sheet that this PNG is, if the JSON beside it says so.
+std::optional<sheet_layout> layout_of_sheet(planning& job, const files::file_path& png,
+                                            const files::file_path& json) {
   std::optional<sheet_layout> layout;
   files::ignore_failure([&] {
     exported_icons exported;
-    layout = read_sheet_json(read_bytes(job.file, shown_as_named(json)), u8"", exported);
+    layout = read_sheet_json(read_bytes(job.file, json), u8"", exported);
   });
-  if (layout) return add_json(job, shown_as_named(json));
+  const auto key_of = [](const std::u8string& name) {
+    return files::upper_case(files::as_bytes(name));
+  };
+  const bool is_of_other = layout && !layout->image.empty() &&
+                           key_of(layout->image) != key_of(png.system.filename().u8string());
+  return is_of_other ? std::nullopt : layout;
+}
+
+void add_png(planning& job, const files::file_path& png) {
+  if (job.grid.columns > 0) return add_grid(job, png);
+  const files::file_path json = shown_as_named(fs::path(png.system).replace_extension(".json"));
+  if (const auto layout = layout_of_sheet(job, png, json)) {
+    job.plan.inputs.push_back(json);
+    return add_sheet(job, *layout, json);
+  }
   if (stem_of(png.system).ends_with("-sheet")) {
     throw data_error(png.shown, "is a sheet without its JSON: give --grid COLSxROWS.");
   }
@@ -167,8 +184,8 @@ std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const
   for (const bool is_sheet : {false, true}) {
     std::vector<fs::path> found;
     for (const fs::path& file : files) {
-      const bool is_found = stem_of(file).ends_with("-sheet") == is_sheet;
-      if (has_ending(file, ".json") && is_found) found.push_back(file);
+      const bool is_of_kind = stem_of(file).ends_with("-sheet") == is_sheet;
+      if (has_ending(file, ".json") && is_of_kind) found.push_back(file);
     }
     if (found.size() == 1) return found.front();
     for (const fs::path& file : found) {
@@ -182,23 +199,32 @@ std::optional<fs::path> json_of_export(const std::vector<fs::path>& files, const
   return {};
 }
 
-// PNGs of the export that its JSON does not list. With several exports in the folder the name tells
-// which one a PNG belongs to. Sheets and palettes have files of their own.
-void report_unlisted(planning& job, const std::vector<fs::path>& files, const fs::path& json) {
+// True for "GEMS-0001.PNG" and the stem "GEMS".
+bool is_numbered(const std::string& name, const std::string& stem) {
+  const std::string prefix = files::upper_case(stem) + "-";
+  const auto end = name.find_first_not_of("0123456789", prefix.size());
+  return name.starts_with(prefix) && end != std::string::npos && name.substr(end) == ".PNG";
+}
+
+// Faults for the PNGs of the export that its JSON does not list. With several exports in the folder
+// the name tells which one a PNG belongs to. Sheets and palettes have files of their own.
+void find_unlisted(planning& job, const std::vector<fs::path>& files, const fs::path& json) {
+  const auto key_of = [](const fs::path& path) {
+    return files::upper_case(files::as_bytes(path.u8string()));
+  };
   std::unordered_set<std::string> known;
-  for (const files::file_path& input : job.plan.inputs) {
-    known.insert(files::upper_case(name_of(input.system)));
-  }
+  for (const files::file_path& input : job.plan.inputs) known.insert(key_of(input.system));
   std::int64_t jsons = 0;
   for (const fs::path& file : files) {
     jsons += has_ending(file, ".json") ? 1 : 0;
-    if (has_ending(file, ".gpl")) known.insert(files::upper_case(stem_of(file) + ".png"));
+    if (has_ending(file, ".gpl")) known.insert(key_of(fs::path(file).replace_extension(".png")));
   }
-  const std::string prefix = files::upper_case(stem_of(json)) + "-";
   for (const fs::path& file : files) {
+    if (!has_ending(file, ".png") || known.contains(key_of(file))) continue;
     const std::string name = files::upper_case(name_of(file));
-    if (!has_ending(file, ".png") || known.contains(name)) continue;
-    if (stem_of(file).ends_with("-sheet") || (jsons > 1 && !name.starts_with(prefix))) continue;
+    if (stem_of(file).ends_with("-sheet") || (jsons > 1 && !is_numbered(name, stem_of(json)))) {
+      continue;
+    }
     job.plan.faults.push_back(
         {file.u8string(), "not imported: " + files::from_utf8_lossy(json.filename().u8string()) +
                               " does not list it"});
@@ -219,7 +245,7 @@ void add_folder(planning& job, const std::string& folder) {
   });
   if (const auto json = json_of_export(files, job.stem, folder)) {
     add_json(job, shown_as_named(*json));
-    report_unlisted(job, files, *json);
+    find_unlisted(job, files, *json);
     return;
   }
   for (const fs::path& file : files) {
@@ -253,7 +279,7 @@ void add_source(planning& job, const std::string& source) {
 }
 
 bool is_empty(const planned_icon& icon) {
-  return icon.is_in_grid && icon.marked && last_set_column(*icon.marked) < 0;
+  return icon.is_grid_cell && icon.marked && last_set_column(*icon.marked) < 0;
 }
 
 }  // namespace

@@ -15,8 +15,8 @@ namespace ostrane::command {
 struct planned_icon {
   std::optional<files::file_path> png = {};  // read when the icon is made
   std::optional<picture> marked = {};        // or else a part of a picture that is read already
-  // The grid of the marked picture may be larger than the icon: it may be cut to the known size.
-  bool is_in_grid = false;
+  bool may_be_cut = false;    // to the known size: cells and frames of one size may be larger
+  bool is_grid_cell = false;  // unset cells at the end of a grid are no icons
   std::optional<known_icon> known = {};
   std::optional<std::size_t> old_index = {};  // in the icon file with the old cells
 
@@ -26,9 +26,8 @@ struct planned_icon {
 struct import_plan {
   shp_identifier identifier = default_identifier;
   std::vector<planned_icon> icons = {};
-  std::int64_t left_out =
-      0;                     // icons of an old icon file that have no picture, and those after them
-  std::u8string entry = {};  // the icon file of a single JSON
+  std::int64_t left_out = 0;  // icons of an old icon file without a picture, and those after them
+  std::u8string entry = {};   // the icon file of a single JSON
   std::vector<files::file_path> inputs = {};
   std::vector<files::failure> faults = {};  // to report
 };

@@ -84,7 +84,7 @@ icon_head head_of(const picture& drawn) {
 std::string packed(const picture& drawn, const icon_head& head) {
   std::string stream;
   row_packer packer;
-  const std::int32_t outside = std::max(-head.col_start, 0);
+  const std::int64_t outside = std::max<std::int64_t>(-std::int64_t{head.col_start}, 0);
   const auto first = static_cast<std::size_t>(std::clamp(head.col_start, 0, drawn.columns()));
   for (std::int32_t row = head.row_start; row <= head.row_end; ++row) {
     if (row < 0) {

@@ -26,7 +26,7 @@ class picture {
   // Column and row must lie in the picture.
   std::int16_t at(int column, int row) const { return cells_[index_of(column, row)]; }
   void set(int column, int row, std::uint8_t index) { cells_[index_of(column, row)] = index; }
-  bool is_set(int column, int row) const { return at(column, row) != unset; }
+  bool is_set(int column, int row) const { return at(column, row) >= 0; }
   std::span<std::int16_t> row(int row) {
     return std::span(cells_).subspan(index_of(0, row), static_cast<std::size_t>(columns_));
   }

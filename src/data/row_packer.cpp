@@ -35,7 +35,7 @@ open_literal extended(const open_literal& literal, std::int32_t bytes_before) {
 
 }  // namespace
 
-void row_packer::pack(std::int32_t outside, std::span<const std::int16_t> cells,
+void row_packer::pack(std::int64_t outside, std::span<const std::int16_t> cells,
                       std::string& stream) {
   while (!cells.empty() && cells.back() == picture::unset) cells = cells.first(cells.size() - 1);
   if (!cells.empty()) {

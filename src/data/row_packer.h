@@ -12,7 +12,7 @@ class row_packer {
  public:
   // Appends the shortest stream that sets exactly these cells, and the end of row. The stream
   // begins `outside` columns left of the first cell, where painting has no effect.
-  void pack(std::int32_t outside, std::span<const std::int16_t> cells, std::string& stream);
+  void pack(std::int64_t outside, std::span<const std::int16_t> cells, std::string& stream);
 
  private:
   enum class op_kind : std::uint8_t { skip, run, literal };

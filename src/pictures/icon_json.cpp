@@ -96,7 +96,7 @@ exported_icons icons_in(const json& all) {
   found.scale = number_in<std::int16_t>(all, "scale");
   const json& icons = all.at("icons");
   if (!icons.is_array() || icons.size() > std::size_t{max_icons_per_file}) {
-    throw data_error("icons is not a list of at most 5000");
+    throw data_error("icons is not a list of at most " + std::to_string(max_icons_per_file));
   }
   for (const json& icon : icons) found.icons.push_back(icon_in(icon));
   return found;

@@ -43,7 +43,9 @@ sheet_frame frame_in(const std::string& name, const json& object) {
 }
 
 std::vector<sheet_frame> frames_in(const json& frames) {
-  if (frames.size() > std::size_t{max_icons_per_file}) throw data_error("it has over 5000 frames");
+  if (frames.size() > std::size_t{max_icons_per_file}) {
+    throw data_error("it has over " + std::to_string(max_icons_per_file) + " frames");
+  }
   std::vector<sheet_frame> found;
   std::int64_t cells = 0;
   for (const auto& [key, value] : frames.items()) {
