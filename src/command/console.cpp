@@ -36,6 +36,7 @@ console_state console;
 constexpr std::size_t print_buffer_size = 65536;
 
 void write_out() {
+  hide_progress();
   const std::size_t written =
       std::fwrite(console.pending.data(), 1, console.pending.size(), stdout);
   const bool is_written = written == console.pending.size() && std::fflush(stdout) == 0;

@@ -10,6 +10,7 @@
 #include "data/extraction.h"
 #include "files/code_page.h"
 #include "files/file_writer.h"
+#include "files/work_files.h"
 
 namespace ostrane::command {
 
@@ -75,14 +76,17 @@ int extract_to_output(extraction_job& job) {
   const auto entry = static_cast<std::size_t>(
       std::find(job.chosen.begin(), job.chosen.end(), true) - job.chosen.begin());
   require_other_file(output, path_of_argument(job.options.archive));
-  if (!begin_write(files::as_utf8(output))) return status_done;
+  whole_entry(job.index, entry);
+  if (!begin_output(output)) return status_done;
   files::binary_file to;
   if (open_stream(output, to)) {
     copy_entry(job, entry, to);
     to.close();
     return status_done;
   }
-  files::file_writer file(to, named_link_target(output));
+  const files::file_path target = named_link_target(output);
+  files::clear_leftovers(target.system.parent_path());
+  files::file_writer file(to, target);
   copy_entry(job, entry, to);
   file.keep();
   return status_done;

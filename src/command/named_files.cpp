@@ -33,7 +33,7 @@ files::file_path named_input(const std::string& argument) {
   files::scratch_file copy(u8"standard input");
   std::vector<std::byte> block(input_block_size);
   std::int64_t size = 0;
-  for (int count = 1; count > 0;) {
+  for (int count = 1; count != 0;) {
     check_interruption();
     count = read_input(block);
     if (count == -EINTR) continue;

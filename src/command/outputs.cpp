@@ -11,22 +11,39 @@ namespace ostrane::command {
 
 namespace fs = std::filesystem;
 
-bool open_stream(const std::string& argument, files::binary_file& file) {
-  const fs::path path = path_of_argument(argument);
+namespace {
+
+bool is_output(const std::string& argument) {
+  return argument == "-" || is_standard_output(path_of_argument(argument));
+}
+
+bool is_stream(const std::string& argument) {
   std::error_code failed;
-  const fs::file_type type = fs::status(path, failed).type();
-  const bool is_output = argument == "-" || is_standard_output(path);
-  if (!is_output && type != fs::file_type::fifo && type != fs::file_type::character) return false;
+  const fs::file_type type = fs::status(path_of_argument(argument), failed).type();
+  return is_output(argument) || type == fs::file_type::fifo || type == fs::file_type::character;
+}
+
+}  // namespace
+
+bool open_stream(const std::string& argument, files::binary_file& file) {
+  if (!is_stream(argument)) return false;
   flush_output();
   file.prepare(argument == "-" ? u8"standard output" : files::as_utf8(argument));
-  const int opened = is_output ? open_standard_output() : open_pipe(path);
+  const int opened =
+      is_output(argument) ? open_standard_output() : open_pipe(path_of_argument(argument));
   if (opened < 0) files::fail(files::as_utf8(argument), files::file_action::write, opened);
   file.adopt(opened);
   return true;
 }
 
+bool begin_output(const std::string& argument) {
+  if (begin_write(files::as_utf8(argument))) return true;
+  if (!is_stream(argument)) files::require_writable(named_link_target(argument));
+  return false;
+}
+
 void write_result(const std::string& argument, std::string_view bytes) {
-  if (!begin_write(files::as_utf8(argument))) return;
+  if (!begin_output(argument)) return;
   files::binary_file file;
   if (open_stream(argument, file)) {
     file.write(std::as_bytes(std::span(bytes)));

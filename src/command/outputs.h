@@ -13,6 +13,10 @@ namespace ostrane::command {
 // interruption.
 bool open_stream(const std::string& argument, files::binary_file& file);
 
+// Reports an output that is about to be written, if the user wants that. Returns false in a dry
+// run, which checks whether it could be. Throws file_error.
+bool begin_output(const std::string& argument);
+
 // Writes to a stream, or replaces a file durably. Throws the same.
 void write_result(const std::string& argument, std::string_view bytes);
 

@@ -9,6 +9,7 @@
 
 #include "command/program.h"
 #include "files/code_page.h"
+#include "files/last_error.h"
 
 namespace ostrane::command {
 
@@ -40,7 +41,7 @@ int open_standard_output() {
   HANDLE copy = nullptr;
   const BOOL done = DuplicateHandle(self, GetStdHandle(STD_OUTPUT_HANDLE), self, &copy, 0, FALSE,
                                     DUPLICATE_SAME_ACCESS);
-  return done == 0 ? -EBADF : static_cast<int>(reinterpret_cast<std::intptr_t>(copy));
+  return done == 0 ? files::last_error() : static_cast<int>(reinterpret_cast<std::intptr_t>(copy));
 }
 
 // No path leads to it.
@@ -49,7 +50,7 @@ bool is_standard_output(const fs::path& /*path*/) { return false; }
 int open_pipe(const fs::path& path) {
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                   nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  return file == INVALID_HANDLE_VALUE ? -EACCES
+  return file == INVALID_HANDLE_VALUE ? files::last_error()
                                       : static_cast<int>(reinterpret_cast<std::intptr_t>(file));
 }
 

@@ -64,8 +64,8 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
     return "";
   }
   files::file_writer to(job.file, target, rules);
-  // In place an empty entry leaves the file as it is.
-  const bool changes_file = to.is_new() || size > 0;
+  // In place an empty entry leaves a file as it is that is not truncated.
+  const bool changes_file = to.is_new() || size > 0 || job.choice.truncates;
   if (!to.is_new() && changes_file) report_overwritten(job, to.old_file());
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   if (job.choice.truncates && !to.is_new()) job.file.truncate();

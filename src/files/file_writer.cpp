@@ -38,7 +38,7 @@ std::string upper_case_name(const fs::path::string_type& system_name) {
 // A file that nobody may write to, other than one that only this user must not.
 [[noreturn]] void fail_to_open(const file_path& target, file_action action, int status) {
   std::error_code failed;
-  const fs::perms allowed = fs::status(target.system, failed).permissions();
+  const fs::perms allowed = fs::status(for_system(target.system), failed).permissions();
   const fs::perms writing =
       fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   if (status == -EACCES && !failed && (allowed & writing) == fs::perms::none) {

@@ -91,7 +91,7 @@ void clear_leftovers(const fs::path& folder, const std::vector<listed_entry>& li
 void clear_leftovers(const fs::path& folder) {
   ignore_failure([&folder] {
     std::vector<listed_entry> listed;
-    system_calls.list(folder, listed);
+    system_calls.list(folder.empty() ? fs::path(".") : folder, listed);
     clear_leftovers(folder, listed);
   });
 }
