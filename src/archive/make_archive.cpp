@@ -114,7 +114,7 @@ std::string left_out_text(build_job& job) {
   return skipped_files_text(left_out, "\nThese files are not in the new Ostrane.dat:");
 }
 
-void report_files(build_job& job) {
+void describe_files(build_job& job) {
   const std::string failure = files::failure_of([&job] { job.report = left_out_text(job); });
   if (!failure.empty()) {
     job.report = "\nThe files that are not in the new Ostrane.dat could not be listed: " + failure;
@@ -132,7 +132,7 @@ void run(build_job& job) {
   refresh_progress();
   write(job);
   job.is_made = true;
-  report_files(job);
+  describe_files(job);
 }
 
 // A hint for a typed path that is not the folder of the listed files, or "".

@@ -9,7 +9,7 @@
 
 namespace ostrane {
 
-// Returns the name of a file for make_record: trimmed, then cut or padded with blanks to
+// Returns the name of a file for the index: trimmed, then cut or padded with blanks to
 // 13 characters. Case is unchanged.
 record_name padded_name(std::string_view file_name);
 

@@ -99,13 +99,15 @@ bool canvas::close_zoom() {
   return was_open;
 }
 
-// A swatch of a palette and a blank icon have no pixels. The keys go on to the pictures.
+// A swatch of a palette and a blank icon have no pixels: the frame is empty. The keys go on to the
+// pictures.
 void canvas::zoom(std::size_t index, int factor) {
   const picture& p = pictures_[index];
-  if (factor == 1 || p.box->pixels() == nullptr || p.rect.isNull()) {
-    if (factor == 1) close_zoom();
+  if (factor == 1) {
+    close_zoom();
     return;
   }
+  if (p.box->pixels() == nullptr || p.rect.isNull()) return zoom_->show_picture(nullptr, {}, {});
   if (!zoom_->is_open()) {
     int top = p.rect.top();
     for (const picture& other : pictures_) {
