@@ -19,9 +19,15 @@ namespace {
 void store_records(const std::vector<dat_record>& records) {
   tool_state.record_count = static_cast<std::int32_t>(records.size());
   std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
+}
+
+void fill_list(const std::vector<dat_record>& records) {
   for (const dat_record& record : records) Form1.List1.AddItem(name_without_nuls(record.name));
-  // If the archive has no palette, the offset stays that of the previous archive. The colours are
-  // then read at that offset.
+}
+
+// If the archive has no palette, the offset stays that of the previous archive. The colours are
+// then read at that offset.
+void store_palette_offset(const std::vector<dat_record>& records) {
   if (const dat_record* found = find_game_palette(records)) {
     tool_state.game_pal_offset = found->offset;
   }
@@ -38,6 +44,8 @@ void mark_open(const files::file_stamp& stamp) {
 void read_index() {
   const archive_index index = read_archive_index(files::to_file_path(tool_state.archive_path));
   store_records(index.records);
+  fill_list(index.records);
+  store_palette_offset(index.records);
   mark_open(index.stamp);
 }
 

@@ -64,29 +64,29 @@ void write(build_job& job) {
   output.close();
 }
 
-void report_skipped_files(const build_job& job, int& status) {
+// Returns true if there are some.
+bool report_skipped_files(const build_job& job) {
+  bool are_some = false;
   for (const files::unlisted_file& file :
        files::unlisted_files_in(job.folder, file_paths(job.archive))) {
     if (is_target(job, file.name, file.path)) continue;
     print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
-    status = status_differs;
+    are_some = true;
   }
+  return are_some;
 }
 
 int report_files(const build_job& job) {
-  int status = status_done;
-  const files::failure failed = files::failure_in([&] { report_skipped_files(job, status); });
+  bool are_some = false;
+  const files::failure failed = files::failure_in([&] { are_some = report_skipped_files(job); });
   if (failed) {
     print_error({failed.subject, failed.reason +
                                      " The archive was made, but the files that are not "
                                      "in it could not be listed."});
-    status = status_differs;
   }
-  for (const skipped_file& entry : entries_of_equal_names(job.archive)) {
-    print_error({files::to_utf8(entry.name), entry.reason});
-    status = status_differs;
-  }
-  return status;
+  const std::vector<skipped_file> equal = entries_of_equal_names(job.archive);
+  for (const skipped_file& entry : equal) print_error({files::to_utf8(entry.name), entry.reason});
+  return are_some || failed || !equal.empty() ? status_differs : status_done;
 }
 
 }  // namespace

@@ -45,13 +45,13 @@ picture_form form_named(const std::string& name) {
   return name == "gif" ? picture_form::gif : picture_form::png;
 }
 
-void report(entries_export& job, const exported_entry& entry, const std::string& reason) {
+void report_fault(entries_export& job, const exported_entry& entry, const std::string& reason) {
   print_error({files::to_utf8(entry.name), reason});
   job.status = status_differs;
 }
 
 void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
-  report(job, entry, reason);
+  report_fault(job, entry, reason);
   ++job.skipped;
 }
 
@@ -67,7 +67,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .stem = entry.stem,
        .pace = options.pace,
        .scale = options.scale,
-       .on_skipped = [&](const std::string& reason) { report(job, entry, reason); },
+       .on_skipped = [&](const std::string& reason) { report_fault(job, entry, reason); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }

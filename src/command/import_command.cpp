@@ -86,30 +86,32 @@ grid_size grid_in(const std::string& text) {
 }
 
 import_plan make_plan(const import_options& options, colour_finder& colours) {
-  require_other_file(options.icon_file, path_of_argument(options.palette));
   const std::string stem = files::as_bytes(path_of_argument(options.icon_file).stem().u8string());
-  import_plan plan = plan_of(options.sources, stem, grid_in(options.grid), colours);
+  return plan_of(options.sources, stem, grid_in(options.grid), colours);
+}
+
+// The options --like and -o may name the same file.
+void require_separate_output(const import_options& options, const import_plan& plan) {
+  require_other_file(options.icon_file, path_of_argument(options.palette));
   for (const files::file_path& input : plan.inputs) {
     require_other_file(options.icon_file, input.system);
   }
-  return plan;
 }
 
-// The old cells are those of --like, or of the entry that the JSON names in the archive of
-// --palette. The options --like and -o may name the same file.
-std::unique_ptr<old_icons> find_old_icons(const import_options& options, const import_plan& plan,
-                                          game_file& game, files::binary_file& like) {
-  if (!options.like.empty()) {
-    const files::file_path path = named_input(options.like);
-    like.open_to_read(path);
-    if (like.size() < std::int64_t{shp_head_size}) {
-      throw data_error(path.shown, "is too short for an icon file.");
-    }
-    const auto size = static_cast<std::int32_t>(std::min<std::int64_t>(like.size(), INT32_MAX));
-    return std::make_unique<old_icons>(like, read_icon_file(like, 0, size));
+std::unique_ptr<old_icons> icons_of_file(const std::string& argument, files::binary_file& file) {
+  const files::file_path path = named_input(argument);
+  file.open_to_read(path);
+  if (file.size() < std::int64_t{shp_head_size}) {
+    throw data_error(path.shown, "is too short for an icon file.");
   }
+  const auto size = static_cast<std::int32_t>(std::min<std::int64_t>(file.size(), INT32_MAX));
+  return std::make_unique<old_icons>(file, read_icon_file(file, 0, size));
+}
+
+// Null if the archive has no entry of this name.
+std::unique_ptr<old_icons> icons_of_entry(game_file& game, const std::u8string& name) {
   const auto& records = game.index.records;
-  const std::string wanted = files::compare_key(files::from_utf8_lossy(plan.entry));
+  const std::string wanted = files::compare_key(files::from_utf8_lossy(name));
   for (std::size_t i = 0; !wanted.empty() && i + 1 < records.size(); ++i) {
     if (name_key(records[i].name) != wanted) continue;
     return std::make_unique<old_icons>(
@@ -150,8 +152,10 @@ int import_pictures(const import_options& options) {
   read_game_file(game, named_input(options.palette));
   colour_finder colours(game.colours);
   import_plan plan = make_plan(options, colours);
+  require_separate_output(options, plan);
   files::binary_file like;
-  const std::unique_ptr<old_icons> old = find_old_icons(options, plan, game, like);
+  const std::unique_ptr<old_icons> old =
+      options.like.empty() ? icons_of_entry(game, plan.entry) : icons_of_file(options.like, like);
   if (!options.like.empty()) plan = plan_like(std::move(plan), old->file(), old->icons());
   remove_empty_end(plan);
   if (plan.icons.empty()) {

@@ -267,7 +267,14 @@ files::failure reason_of(const CLI::App& app, const CLI::ParseError& error) {
 
 }  // namespace
 
-int run_command(std::vector<std::string> arguments) {
+static std::vector<std::string> with_help_option(std::vector<std::string> arguments) {
+  if (arguments.empty() || arguments.front() != "help") return arguments;
+  std::rotate(arguments.begin(), arguments.begin() + 1, arguments.end());
+  arguments.back() = "--help";
+  return arguments;
+}
+
+int run_command(const std::vector<std::string>& words) {
   CLI::App app("List, extract, build, change, compare and check archives, and convert their icons.",
                "ostrane-dat");
   app.get_formatter()->label("REQUIRED", "(required)");
@@ -278,10 +285,7 @@ int run_command(std::vector<std::string> arguments) {
   app.set_version_flag("-V,--version", version_text());
   app.footer("ostrane-dat COMMAND --help describes a command.");
   add_commands(app, line);
-  if (!arguments.empty() && arguments.front() == "help") {
-    std::rotate(arguments.begin(), arguments.begin() + 1, arguments.end());
-    arguments.back() = "--help";
-  }
+  const std::vector<std::string> arguments = with_help_option(words);
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {

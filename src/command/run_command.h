@@ -5,8 +5,8 @@
 
 namespace ostrane::command {
 
-// Runs a command. `arguments` does not include the program's name. Returns the exit status; throws
+// Runs a command: the words of the line after the program's name. Returns the exit status; throws
 // interruption.
-int run_command(std::vector<std::string> arguments);
+int run_command(const std::vector<std::string>& words);
 
 }  // namespace ostrane::command

@@ -25,7 +25,7 @@ struct archive_check {
   const fault_sink& report;
   std::vector<dat_record> records;
   std::int64_t file_size;
-  std::vector<bool> overlaps;  // for each entry
+  std::vector<bool> overlaps_earlier;  // for each entry
 };
 
 std::size_t entry_count(const archive_check& check) {
@@ -108,7 +108,7 @@ void check_offsets(const archive_check& check) {
 
 // Compares each entry with the entry that ends last among those that begin before it.
 void check_overlaps(archive_check& check) {
-  check.overlaps.resize(entry_count(check));
+  check.overlaps_earlier.resize(entry_count(check));
   std::vector<std::size_t> order;
   for (std::size_t i = 0; i < entry_count(check); ++i) {
     if (size_of(check, i) > 0) order.push_back(i);
@@ -121,7 +121,7 @@ void check_overlaps(archive_check& check) {
     const std::size_t entry = order[k];
     const std::int64_t end = start_of(check, other) + size_of(check, other);
     if (start_of(check, entry) < end) {
-      check.overlaps[entry] = true;
+      check.overlaps_earlier[entry] = true;
       check.report(shown_name(check, entry), "it overlaps with " + shown_name(check, other));
     }
     if (start_of(check, entry) + size_of(check, entry) > end) furthest = k;
@@ -133,7 +133,8 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
   const std::int64_t start = start_of(check, index);
   const std::int64_t size = size_of(check, index);
   // Checks only the first of overlapping entries, so that no byte is read for many entries.
-  if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps[index]) return;
+  if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps_earlier[index])
+    return;
   const std::string name = shown_name(check, index);
   switch (kind_of_entry(name_without_nuls(check.records[index].name))) {
     case entry_kind::icons:

@@ -37,9 +37,16 @@ entry_range range_at(const side& from, std::size_t i) {
   return range_of(from.index.records, static_cast<std::int32_t>(i));
 }
 
-void step(const diff_job& job) {
-  job.on_step(job.done, std::max<std::size_t>(job.old_side.index.records.size(), 1) - 1);
+std::span<const dat_record> entries_of(const side& from) {
+  const std::span<const dat_record> records = from.index.records;
+  return records.first(std::max<std::size_t>(records.size(), 1) - 1);
 }
+
+std::u8string name_at(const side& from, std::size_t i) {
+  return files::to_utf8(name_with_blanks(from.index.records[i].name));
+}
+
+void step(const diff_job& job) { job.on_step(job.done, entries_of(job.old_side).size()); }
 
 // Entries before the archive are equal if they begin at the same offset.
 bool has_same_bytes(diff_job& job, const entry_range& a, const entry_range& b) {
@@ -92,12 +99,29 @@ void compare_entries(diff_job& job, std::size_t old_index, std::size_t new_index
   const entry_range a = range_at(job.old_side, old_index);
   const entry_range b = range_at(job.new_side, new_index);
   if (has_same_bytes(job, a, b)) return;
+  entry_difference one = {name_at(job.new_side, new_index), a.size(), b.size(), {}};
   const record_name& name = job.new_side.index.records[new_index].name;
-  entry_difference one = {files::to_utf8(name_with_blanks(name)), a.size(), b.size(), {}};
   if (kind_of_entry(name_without_nuls(name)) == entry_kind::icons) {
     one.icons = icons_that_differ(job, a, b);
   }
   found.push_back(one);
+}
+
+// For each old entry the new one of its name, in their order.
+std::vector<std::optional<std::size_t>> pairs_by_name(std::span<const dat_record> old_entries,
+                                                      std::span<const dat_record> new_entries) {
+  std::unordered_map<std::string, std::vector<std::size_t>> in_new;  // the last one first
+  for (std::size_t i = new_entries.size(); i-- > 0;) {
+    in_new[name_key(new_entries[i].name)].push_back(i);
+  }
+  std::vector<std::optional<std::size_t>> pairs(old_entries.size());
+  for (std::size_t i = 0; i < old_entries.size(); ++i) {
+    std::vector<std::size_t>& same = in_new[name_key(old_entries[i].name)];
+    if (same.empty()) continue;
+    pairs[i] = same.back();
+    same.pop_back();
+  }
+  return pairs;
 }
 
 }  // namespace
@@ -108,30 +132,21 @@ std::vector<entry_difference> diff_archives(
   diff_job job = {.on_step = on_step};
   open(job.old_side, old_archive);
   open(job.new_side, new_archive);
-  const auto& old_records = job.old_side.index.records;
-  const auto& new_records = job.new_side.index.records;
-  const auto key_of = [](const dat_record& record) { return name_key(record.name); };
-  std::unordered_map<std::string, std::vector<std::size_t>> in_new;  // the last one first
-  for (std::size_t i = new_records.size(); i-- > 1;) {
-    in_new[key_of(new_records[i - 1])].push_back(i - 1);
-  }
+  const auto pairs = pairs_by_name(entries_of(job.old_side), entries_of(job.new_side));
+  std::vector<bool> is_paired(entries_of(job.new_side).size());
   std::vector<entry_difference> found;
-  for (std::size_t i = 0; i + 1 < old_records.size(); ++i) {
-    std::vector<std::size_t>& same = in_new[key_of(old_records[i])];
-    if (same.empty()) {
-      const std::u8string name = files::to_utf8(name_with_blanks(old_records[i].name));
-      found.push_back({name, range_at(job.old_side, i).size(), {}, {}});
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    if (pairs[i]) {
+      compare_entries(job, i, *pairs[i], found);
+      is_paired[*pairs[i]] = true;
     } else {
-      compare_entries(job, i, same.back(), found);
-      same.pop_back();
+      found.push_back({name_at(job.old_side, i), range_at(job.old_side, i).size(), {}, {}});
     }
     ++job.done;
   }
-  for (std::size_t i = 0; i + 1 < new_records.size(); ++i) {
-    const std::vector<std::size_t>& left = in_new[key_of(new_records[i])];
-    if (std::find(left.begin(), left.end(), i) == left.end()) continue;
-    const std::u8string name = files::to_utf8(name_with_blanks(new_records[i].name));
-    found.push_back({name, {}, range_at(job.new_side, i).size(), {}});
+  for (std::size_t i = 0; i < is_paired.size(); ++i) {
+    if (is_paired[i]) continue;
+    found.push_back({name_at(job.new_side, i), {}, range_at(job.new_side, i).size(), {}});
   }
   for (side* read : {&job.old_side, &job.new_side}) {
     require_unchanged(read->file, read->index.stamp, "comparison");

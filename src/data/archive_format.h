@@ -60,7 +60,8 @@ std::string name_without_nuls(const record_name& name);
 // Replaces every NUL character by a blank and trims the name. Extracted files get this name.
 std::string name_with_blanks(const record_name& name);
 
-// Entries have the same name if these keys are equal. They are sorted by them.
+// Entries have the same name if these keys are equal. New entries of an archive are put in their
+// order. A build takes the order of the folder.
 std::string name_key(const record_name& name);
 
 constexpr const char* archive_name = "OSTRANE.DAT";

@@ -31,7 +31,7 @@ std::int64_t size_of(const new_archive& archive, const entry_source& entry) {
 // An archive of 0 records has no end record.
 void refuse_other_bytes(const old_archive& old) {
   const auto& records = old.index.records;
-  const std::int64_t first = first_entry_offset(records.size()) - record_size;
+  const std::int64_t first = index_size(std::ssize(records));
   const std::int64_t before = records.empty() ? 0 : records.front().offset - first;
   const std::int64_t after =
       old.index.stamp.size - (records.empty() ? first : records.back().offset);
@@ -84,21 +84,26 @@ struct writing {
   files::binary_file file = {};
 };
 
+std::int32_t indexed_size(const writing& job, std::size_t i) {
+  return size_of(range_of(job.archive.records, static_cast<std::int32_t>(i)));
+}
+
+// Opens the file of an entry. Adds the entry to an index that is made during the copy.
+void open_entry(writing& job, std::size_t i) {
+  const entry_source& entry = job.archive.entries[i];
+  if (!job.index && !entry.content) job.progress.before_file(i, indexed_size(job, i));
+  if (entry.is_file()) job.file.open_to_read(entry.file);
+  if (!job.index) return;
+  job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
+}
+
 void copy_entry(writing& job, std::size_t i) {
   const entry_source& entry = job.archive.entries[i];
-  const auto index = static_cast<std::int32_t>(i);
-  if (!job.index && !entry.content) {
-    job.progress.before_file(i, size_of(range_of(job.archive.records, index)));
-  }
-  if (entry.is_file()) job.file.open_to_read(entry.file);
-  if (job.index) {
-    job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
-  }
-  const std::int32_t size = size_of(range_of(job.archive.records, index));
   if (entry.content) {
     job.to.write(std::as_bytes(std::span(*entry.content)));
     return;
   }
+  const std::int32_t size = indexed_size(job, i);
   files::binary_file& from = entry.is_file() ? job.file : job.old;
   if (!entry.is_file()) from.seek(job.archive.old->index.records[*entry.old_index].offset);
   job.progress.on_file(i, entry.shown_name, size);
@@ -202,7 +207,10 @@ void write_archive_to(files::binary_file& to, new_archive& archive, const job_pr
   } else {
     write_index(job);
   }
-  for (std::size_t i = 0; i < archive.entries.size(); ++i) copy_entry(job, i);
+  for (std::size_t i = 0; i < archive.entries.size(); ++i) {
+    open_entry(job, i);
+    copy_entry(job, i);
+  }
   if (!job.index) return;
   to.seek(0);
   write_index(job);

@@ -27,7 +27,7 @@ struct running_copy {
   bool source_ended = false;
 };
 
-void copy_block(running_copy& job, std::int32_t size) {
+void copy_at_least(running_copy& job, std::int32_t size) {
   job.wanted += size;
   while (job.copied < job.wanted && !job.source_ended) {
     const std::size_t count =
@@ -37,7 +37,7 @@ void copy_block(running_copy& job, std::int32_t size) {
   }
 }
 
-void count_small_block(running_copy& job, std::int32_t size, std::int32_t value) {
+void report_small_block(running_copy& job, std::int32_t size, std::int32_t value) {
   job.small_block_bytes = static_cast<std::int16_t>(job.small_block_bytes + size);
   if (job.small_block_bytes <= 1024) return;
   job.progress.on_bytes(value);
@@ -49,9 +49,9 @@ void copy_blocks(running_copy& job, const rung& step, std::int32_t blocks) {
     if (step.always_reports) {
       job.progress.on_bytes(i * step.block);
     } else {
-      count_small_block(job, step.block, i * step.block);
+      report_small_block(job, step.block, i * step.block);
     }
-    copy_block(job, step.block);
+    copy_at_least(job, step.block);
   }
 }
 

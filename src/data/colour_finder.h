@@ -23,7 +23,7 @@ struct found_colour {
   bool is_shared = false;  // several indices have exactly this colour
 };
 
-// Finds the palette index of a colour: one with this colour, or with this colour in
+// Finds the palette index of a colour: the lowest one with this colour, or with this colour in
 // distinct_colours, or the lowest index of the nearest colours.
 class colour_finder {
  public:

@@ -21,7 +21,8 @@ struct export_output {
 
 files::write_rules rules_of(const export_output& output);
 
-// Writes a file atomically. Throws data_error if the archive has changed, and file_error.
+// Writes a file atomically, unless `on_file` leaves it out. Throws data_error if the archive has
+// changed, and file_error.
 void write_export(export_output& output, const std::u8string& name, std::string_view bytes);
 
 }  // namespace ostrane

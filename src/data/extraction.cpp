@@ -33,8 +33,8 @@ struct extraction {
 };
 
 // Call when the current entry replaces the content of a file. If that is an entry of this job, it
-// is reported.
-void report_overwritten(extraction& job, const files::file_identity& old) {
+// counts as skipped.
+void take_back_overwritten(extraction& job, const files::file_identity& old) {
   const auto found = job.written.find({old.device, old.number});
   if (found == job.written.end()) return;
   job.result.skipped.push_back({name_with_blanks(job.records[found->second].name),
@@ -66,11 +66,11 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   files::file_writer to(job.file, target, rules);
   // In place an empty entry leaves a file as it is that is not truncated.
   const bool changes_file = to.is_new() || size > 0 || job.choice.truncates;
-  if (!to.is_new() && changes_file) report_overwritten(job, to.old_file());
+  if (!to.is_new() && changes_file) take_back_overwritten(job, to.old_file());
   if (!copy_entry(job, job.file, size)) return archive_too_short;
   if (job.choice.truncates && !to.is_new()) job.file.truncate();
   to.keep([&job] { require_unchanged(job.archive, job.stamp, "extraction"); });
-  if (to.is_new()) report_overwritten(job, to.old_file());
+  if (to.is_new()) take_back_overwritten(job, to.old_file());
   if (changes_file) remember_written(job, to.written_file());
   return "";
 }

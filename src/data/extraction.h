@@ -15,8 +15,8 @@
 namespace ostrane {
 
 struct extraction_result {
-  std::int32_t written = 0;           // the other entries
   std::vector<skipped_file> skipped;  // entries that were not written or were written over
+  std::int32_t written = 0;           // the other entries
   std::vector<skipped_file> hidden;   // written files that the system hides by default
   files::failure stopped;             // why the job was aborted
 };

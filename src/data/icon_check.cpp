@@ -39,7 +39,8 @@ struct icon_file_check {
   icon_stream& stream;
   const report_fault& report;
   icon_file icons;
-  std::vector<std::int32_t> starts;  // of all icons and the end of the file, 0-based, ascending
+  std::vector<std::int32_t> starts;    // of all icons and the end of the file, 0-based, ascending
+  std::vector<bool> are_checked = {};  // for each of `starts`
   std::int64_t bytes_left_to_read = 0;
 };
 
@@ -142,6 +143,16 @@ void collect_starts(icon_file_check& check) {
   check.starts.erase(std::unique(check.starts.begin(), check.starts.end()), check.starts.end());
 }
 
+// True if a directory entry before points to the same icon.
+bool is_repeated(icon_file_check& check, std::int32_t position) {
+  const auto found = std::lower_bound(check.starts.begin(), check.starts.end(), position - 1);
+  if (found == check.starts.end() || *found != position - 1) return false;
+  const auto index = static_cast<std::size_t>(found - check.starts.begin());
+  const bool was_checked = check.are_checked[index];
+  check.are_checked[index] = true;
+  return was_checked;
+}
+
 }  // namespace
 
 void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t end,
@@ -150,17 +161,9 @@ void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t 
   check_head(check);
   collect_starts(check);
   check.bytes_left_to_read = max_reads_per_byte * (std::int64_t{end} - start);
-  std::vector<bool> is_known(check.starts.size());
+  check.are_checked.resize(check.starts.size());
   for (std::size_t i = 0; i < check.icons.positions.size(); ++i) {
-    const auto index =
-        std::lower_bound(check.starts.begin(), check.starts.end(), check.icons.positions[i] - 1) -
-        check.starts.begin();
-    const auto known = static_cast<std::size_t>(index);
-    // Several directory entries may point to the same icon; check it once.
-    if (known < is_known.size() && check.starts[known] == check.icons.positions[i] - 1) {
-      if (is_known[known]) continue;
-      is_known[known] = true;
-    }
+    if (is_repeated(check, check.icons.positions[i])) continue;
     if (check.bytes_left_to_read < 0) {
       report("its streams share too many bytes; from icon " + std::to_string(i + 1) +
              " on they were not checked");

@@ -19,6 +19,24 @@ std::array<std::int16_t, 256> marked_indices(std::span<const palette_entry> entr
   return cells;
 }
 
+namespace {
+
+// The palette index of a marked cell; the old one if that has the same colour.
+std::int16_t settled_cell(std::int16_t cell, std::int16_t old_cell, const rgb_palette& palette) {
+  if (cell < 0) return picture::unset;
+  cell &= 0xFF;
+  const bool is_same =
+      old_cell != picture::unset &&
+      palette[static_cast<std::size_t>(cell)] == palette[static_cast<std::size_t>(old_cell)];
+  return is_same ? old_cell : cell;
+}
+
+bool is_changed(std::int16_t cell) {
+  return cell < 0 ? cell == changed_unset : (cell & changed_mark) != 0;
+}
+
+}  // namespace
+
 settled_picture settled(picture marked, const rgb_palette& palette, const picture* old) {
   settled_picture result = {.drawn = std::move(marked)};
   picture& drawn = result.drawn;
@@ -31,18 +49,9 @@ settled_picture settled(picture marked, const rgb_palette& palette, const pictur
     if (before != nullptr && std::equal(cells.begin(), cells.end(), before)) continue;
     for (std::int16_t& cell : cells) {
       const std::int16_t old_cell = before == nullptr ? picture::unset : *before++;
-      if (cell < 0) {
-        result.changed += cell == changed_unset ? 1 : 0;
-        cell = picture::unset;
-        continue;
-      }
-      result.changed += (cell & changed_mark) != 0 ? 1 : 0;
-      result.shared += !is_known && (cell & shared_mark) != 0 ? 1 : 0;
-      cell &= 0xFF;
-      const bool is_same =
-          old_cell != picture::unset &&
-          palette[static_cast<std::size_t>(cell)] == palette[static_cast<std::size_t>(old_cell)];
-      if (is_same) cell = old_cell;
+      result.changed += is_changed(cell) ? 1 : 0;
+      result.shared += !is_known && cell > 0 && (cell & shared_mark) != 0 ? 1 : 0;
+      cell = settled_cell(cell, old_cell, palette);
     }
   }
   return result;

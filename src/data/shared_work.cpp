@@ -33,7 +33,6 @@ std::vector<std::future<void>> start_threads(std::size_t count, const shared_fun
     }
   } catch (const std::system_error&) {
     // The system allows no more threads.
-    if (threads.empty()) work(indices);
   }
   return threads;
 }
@@ -45,6 +44,7 @@ void share_work(std::size_t count, const shared_function& work,
   constexpr auto poll_interval = std::chrono::milliseconds(20);
   shared_indices indices(count);
   std::vector<std::future<void>> threads = start_threads(count, work, indices);
+  if (threads.empty()) work(indices);
   const struct stopping {  // destroyed before the futures, whose destructors block
     shared_indices& indices;
     ~stopping() { indices.stop(); }

@@ -8,8 +8,9 @@
 
 namespace desktop {
 
-// The keys that the user types during a handler. A message box of the handler would drop them, so
-// they are kept until its end. They then act on the control that has the focus, not as shortcuts.
+// The keys that wait when a message box of a handler opens. The box would drop them, so they are
+// kept until the end of the handler. They then act on the control that has the focus, not as
+// shortcuts.
 class held_keys : public QObject {
  public:
   // Takes the keys that wait in the queue of the window system, and drops other input. Call before
