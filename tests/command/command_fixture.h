@@ -30,9 +30,12 @@ struct command_test : testing::Test {
     return {std::istream_iterator<std::string>(words), {}};
   }
   static result run(const std::string& command_line) {
+    return run_arguments(arguments_of(command_line));
+  }
+  static result run_arguments(const texts& arguments) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    const int status = command::run_command(arguments_of(command_line));
+    const int status = command::run_command(arguments);
     std::string output = testing::internal::GetCapturedStdout();
     std::string errors = testing::internal::GetCapturedStderr();
     std::replace(errors.begin(), errors.end(), '\\', '/');

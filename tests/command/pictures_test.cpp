@@ -3,14 +3,42 @@
 #include <cstdlib>
 #include <memory>
 
-#include "command_fixture.h"
 #include "data/colour_finder.h"
 #include "data/icon_file.h"
 #include "random_icons.h"
+#include "transcript.h"
 
 namespace ostrane {
 
-struct pictures_test : command_test {
+// A PNG as a painting program may write it.
+static std::string png_with(png_uint_32 format, const std::vector<png_byte>& rows,
+                            png_uint_32 width, png_uint_32 height) {
+  png_image image = {};
+  image.version = PNG_IMAGE_VERSION;
+  image.width = width;
+  image.height = height;
+  image.format = format;
+  png_alloc_size_t size = 0;
+  png_image_write_to_memory(&image, nullptr, &size, 0, rows.data(), 0, nullptr);
+  std::string bytes(size, '\0');
+  png_image_write_to_memory(&image, bytes.data(), &size, 0, rows.data(), 0, nullptr);
+  bytes.resize(size);
+  return bytes;
+}
+
+struct pictures_test : transcript_test {
+  pictures_test() {
+    verbs["palette"] = quiet([](const auto& words) { write_bytes(words[0], palette()); });
+    verbs["png"] = quiet(make_png);
+    verbs["pixels"] = [](const auto& words) { return pixels_of(words[0]); };
+    verbs["frames"] = [](const auto& words) { return frames_of(words[0]); };
+    verbs["icons"] = [](const auto& words) {
+      std::string lines;
+      for (const std::string& icon : icons_of(words[0])) lines += icon + "\n";
+      return lines;
+    };
+  }
+
   // Every third colour is a duplicate.
   static std::string palette() {
     std::string bytes;
@@ -25,6 +53,49 @@ struct pictures_test : command_test {
     write_bytes("a.dat", archive_bytes({{"GAME.PAL", palette()}, {"F.SHP", icons}}));
   }
 
+  // The width and the pixels as RRGGBB or RRGGBBAA.
+  static void make_png(const texts& words) {
+    std::vector<png_byte> rows;
+    for (std::size_t i = 2; i < words.size(); ++i) {
+      const std::string pixel = words[i] + "FF";
+      for (std::size_t at = 0; at < 8; at += 2) {
+        rows.push_back(static_cast<png_byte>(std::stoul(pixel.substr(at, 2), nullptr, 16)));
+      }
+    }
+    const auto width = static_cast<png_uint_32>(std::stoul(words[1]));
+    const auto height = static_cast<png_uint_32>(rows.size()) / 4 / width;
+    write_bytes(words[0], png_with(PNG_FORMAT_RGBA, rows, width, height));
+  }
+  // The size, and the pixels, or their checksum if there are many.
+  static std::string pixels_of(const std::string& path) {
+    const std::string bytes = bytes_of(path);
+    png_image image = {};
+    image.version = PNG_IMAGE_VERSION;
+    png_image_begin_read_from_memory(&image, bytes.data(), bytes.size());
+    const bool is_indexed = (image.format & PNG_FORMAT_FLAG_COLORMAP) != 0;
+    image.format = PNG_FORMAT_RGBA;
+    std::string pixels(PNG_IMAGE_SIZE(image), '\0');
+    png_image_finish_read(&image, nullptr, pixels.data(), 0, nullptr);
+    const std::string text = (is_indexed ? "indices, " : "colours, ") +
+                             std::to_string(image.width) + "x" + std::to_string(image.height);
+    if (pixels.size() > 64) return text + ", " + checksum_of(pixels) + "\n";
+    return text + ": " + hex_bytes(pixels) + "\n";
+  }
+  // The sizes and flags of a GIF, and the bytes of its extensions and frames, without the pixels.
+  static std::string frames_of(const std::string& path) {
+    const std::string gif = bytes_of(path);
+    const auto number_at = [&gif](std::size_t at) {
+      return static_cast<unsigned char>(gif.at(at));
+    };
+    std::string text = hex_bytes(gif.substr(6, 7)) + "\n";
+    for (std::size_t at = 13 + 3 * 256; gif.at(at) != ';'; ++at) {
+      const bool is_frame = gif[at] == ',';
+      text += hex_bytes(gif.substr(at, is_frame ? 10 : 3 + number_at(at + 2))) + "\n";
+      at += is_frame ? 11 : 2;
+      while (number_at(at) != 0) at += 1 + std::size_t{number_at(at)};
+    }
+    return text;
+  }
   // The heads and cells of an icon file, one text for each icon.
   static texts icons_of(const std::string& path) {
     texts all;
@@ -50,6 +121,8 @@ struct pictures_test : command_test {
     return all;
   }
 };
+
+TEST_F(pictures_test, PrintsItsTranscript) { replay("pictures.txt"); }
 
 // Through PNGs, sheets, cut sheets and GIFs. A GIF cannot show a picture with all 256 indices.
 TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
@@ -100,22 +173,6 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
     EXPECT_EQ(icons_of("packed.shp"), old_icons);
     EXPECT_EQ(fs::file_size("packed.shp"), std::min(file.size(), bytes_of("new.shp").size()));
   }
-}
-
-// A PNG as a painting program may write it.
-static std::string png_with(png_uint_32 format, const std::vector<png_byte>& rows,
-                            png_uint_32 width, png_uint_32 height) {
-  png_image image = {};
-  image.version = PNG_IMAGE_VERSION;
-  image.width = width;
-  image.height = height;
-  image.format = format;
-  png_alloc_size_t size = 0;
-  png_image_write_to_memory(&image, nullptr, &size, 0, rows.data(), 0, nullptr);
-  std::string bytes(size, '\0');
-  png_image_write_to_memory(&image, bytes.data(), &size, 0, rows.data(), 0, nullptr);
-  bytes.resize(size);
-  return bytes;
 }
 
 // The rows as libpng takes them: several pixels in a byte, or two bytes in a sample.
@@ -169,37 +226,6 @@ TEST_F(pictures_test, ReadsEveryKindOfPng) {
   }
 }
 
-TEST_F(pictures_test, ChangesAndCountsInexactColours) {
-  write_bytes("GAME.PAL", palette());
-  // Hardly set, colour 4 itself, a step beside it, and half transparent.
-  write_bytes("p.png",
-              png_with(PNG_FORMAT_RGBA,
-                       {9, 9, 9, 100, 0x40, 2, 4, 255, 0x41, 2, 4, 255, 0x40, 2, 4, 200}, 4, 1));
-  write_bytes("q.png", png_with(PNG_FORMAT_RGB, {0x41, 2, 4}, 1, 1));
-  const result seen = run("import p.png q.png -o p.shp --palette GAME.PAL");
-  EXPECT_EQ(seen.status, 1);
-  EXPECT_EQ(
-      seen.errors,
-      "ostrane-dat: p.shp: 4 pixels of 2 pictures changed to the nearest colour or transparency\n"
-      "ostrane-dat: p.shp: 1 pixel got the lowest of several indices with their colour\n");
-  EXPECT_EQ(icons_of("p.shp"), (texts{"0 3 0 1 0 3 0 -1,4,4,4,", "0 0 0 0 0 0 0 4,"}));
-  EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
-  EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
-}
-
-// The second frame covers the lower of two rows.
-TEST_F(pictures_test, ReadsGifFramesThatCoverAPart) {
-  write_bytes("GAME.PAL", palette());
-  const auto frame = [](char top, char rows, const char* codes) {
-    return std::string(",\0\0", 3) + top + std::string("\0\1\0", 3) + rows +
-           std::string("\0\0\2\2", 4) + codes + '\0';
-  };
-  write_bytes("p.gif", std::string("GIF89a\1\0\2\0\x81\0\0@\0\0@\1\3\0\0\0\0\0\0", 25) +
-                           frame(0, 2, "\x04\x0A") + frame(1, 1, "\x4C\x01") + ";");
-  EXPECT_EQ(run("import p.gif -o p.shp --palette GAME.PAL").errors, "");
-  EXPECT_EQ(icons_of("p.shp"), (texts{"1 0 0 0 0 0 1 0,0,", "1 0 0 0 0 0 1 0,3,"}));
-}
-
 // Pixels of the third colour of each three, which has the colour of the one before.
 TEST_F(pictures_test, KeepsTheOldIndexOfAColourThatSeveralHave) {
   picture drawn(3, 1);
@@ -216,142 +242,6 @@ TEST_F(pictures_test, KeepsTheOldIndexOfAColourThatSeveralHave) {
     EXPECT_EQ(run("import -o new.shp " + job).errors, "");
     EXPECT_EQ(icons_of("new.shp"), texts{"0 2 0 0 0 2 0 5,2,7,"}) << job;
   }
-}
-
-// The file of the colours, the pixel that has one of them, and the error.
-TEST_F(pictures_test, TellsPalettesFromArchivesByTheirContent) {
-  std::string black = palette();
-  black.replace(0, 4, std::string(4, '\0'));
-  const std::string no_palette = archive_bytes({{"A.TXT", std::string(1024 - 4 - 2 * 17, 'x')}});
-  const std::tuple<std::string, std::vector<png_byte>, std::string> cases[] = {
-      {black, {64, 3, 7}, ""},
-      {black + "more", {64, 3, 7}, ""},
-      {no_palette, {0xF0, 0xF0, 0xF0}, ""},
-      {archive_bytes({{"GAME.PAL", black}}) + "rest", {64, 3, 7}, ""},
-      {std::string(4, '\0'),
-       {1, 2, 3},
-       "ostrane-dat: c: is neither an archive nor a palette, which has 1024 bytes.\n"}};
-  for (const auto& [bytes, pixel, error] : cases) {
-    write_bytes("c", bytes);
-    write_bytes("p.png", png_with(PNG_FORMAT_RGB, pixel, 1, 1));
-    const result seen = run("import -q p.png -o p.shp --palette c");
-    EXPECT_EQ(seen.errors, error) << bytes.size();
-    EXPECT_EQ(seen.status, error.empty() ? 0 : 2) << bytes.size();
-  }
-}
-
-// The files of a folder, the job, its message and the number of icons it makes.
-TEST_F(pictures_test, ReadsTheFilesOfFoldersAndSheets) {
-  write_archive(shp_file(std::vector<picture>(2, picture(2, 1))));
-  run("export a.dat F.SHP -d png");
-  run("export a.dat F.SHP --as sheet -d sheet");
-  const std::string pixels =
-      png_with(PNG_FORMAT_RGBA, {64, 0, 0, 255, 64, 0, 1, 255, 64, 1, 3, 255}, 3, 1);
-  for (const char* name :
-       {"png/F-0003.png", "names/a1.png", "names/a10.png", "strip-sheet.png", "s.png"}) {
-    write_bytes(name, pixels);
-  }
-  write_bytes("names/a2.png", png_with(PNG_FORMAT_RGBA, {64, 0, 0, 255}, 1, 1));
-  // As other programs write it: an object, without heads, trimmed.
-  const std::string rest = R"("frame":{"x":1,"y":0,"w":1,"h":1},"rotated":)";
-  const auto sheet = [&rest](const char* rotated, const char* image = "/home/s.png") {
-    return R"({"meta":{"image":")" + std::string(image) + R"("},"frames":{"b 10":{)" + rest +
-           rotated +
-           R"(,"trimmed":true,"spriteSourceSize":{"x":2,"y":1,"w":1,"h":1},)"
-           R"("sourceSize":{"w":3,"h":2}},"b 9":{"key":1,)" +
-           rest + "false}}}";
-  };
-  write_bytes("other.json", sheet("false"));
-  write_bytes("rotated.json", sheet("true"));
-  write_bytes("windows.json", sheet("false", R"(C:\\home\\s.png)"));
-  write_bytes("bad.json", "{\"frames\":\n  x}");
-  write_bytes("list.json", "[]");
-  write_bytes("photo.png", "\xFF\xD8\xFF\xE0");
-  const std::string error = "ostrane-dat: ";
-  const std::tuple<std::string, std::string, texts> cases[] = {
-      {"png", error + "png/F-0003.png: not imported: F.json does not list it\n", {"2 1", "2 1"}},
-      {"names", "", {"3 1", "1 1", "3 1"}},
-      {"other.json", "", {"1 1", "3 2"}},
-      {"windows.json", "", {"1 1", "3 2"}},
-      {"s.png --grid 3x1", "", {"1 1", "1 1", "1 1"}},
-      {"s.png --grid 2x1",
-       error + "s.png: cannot be cut: its 3 by 1 pixels are no multiples of the grid.\n",
-       {}},
-      {"strip-sheet.png",
-       error + "strip-sheet.png: is a sheet without its JSON: give --grid COLSxROWS.\n",
-       {}},
-      {"rotated.json",
-       error +
-           "rotated.json: cannot be read as the JSON of an export: its frame b 10 is rotated.\n",
-       {}},
-      {"bad.json",
-       error +
-           "bad.json: cannot be read as the JSON of an export: parse error at line 2, column 3: "
-           "syntax error while parsing value - invalid literal; last read: '\"frames\":<U+000A>  "
-           "x'.\n",
-       {}},
-      {"list.json",
-       error + "list.json: cannot be read as the JSON of an export: it is not the JSON of an icon "
-               "file.\n",
-       {}},
-      {"photo.png", error + "photo.png: is a JPEG, not a PNG.\n", {}}};
-  for (const auto& [job, printed, sizes] : cases) {
-    fs::remove("new.shp");
-    EXPECT_EQ(run("import -o new.shp --palette a.dat -q " + job).errors, printed) << job;
-    texts seen;
-    if (!sizes.empty()) seen = icons_of("new.shp");
-    ASSERT_EQ(seen.size(), sizes.size()) << job;
-    for (std::size_t i = 0; i < seen.size(); ++i) {
-      std::istringstream head(seen[i]);
-      int row_count = 0;
-      int column_count = 0;
-      head >> row_count >> column_count;
-      EXPECT_EQ(std::to_string(column_count + 1) + " " + std::to_string(row_count + 1), sizes[i])
-          << job;
-    }
-  }
-}
-
-// The outputs of one export, and those that its inputs would become.
-TEST_F(pictures_test, NeverWritesOneFileTwiceOrAnInput) {
-  write_bytes("F-0001.png", archive_bytes({{"A.SHP", shp_file({picture(1, 1)})},
-                                           {"A-0001.PAL", palette()},
-                                           {"F.SHP", shp_file({picture(1, 1)})}}));
-  const auto before = files_at(".");
-  const std::string error = "ostrane-dat: ";
-  const std::pair<const char*, std::string> cases[] = {
-      {"A*",
-       error + "A-0001.png: cannot be written: it would be a file of both A.SHP and A-0001.PAL.\n"},
-      {"F.SHP", error + "./F-0001.png: cannot be written: it is read by this command.\n"}};
-  for (const auto& [names, printed] : cases) {
-    const result seen = run(std::string("export F-0001.png ") + names);
-    EXPECT_EQ(seen.errors, printed);
-    EXPECT_EQ(seen.status, 2);
-    EXPECT_EQ(files_at("."), before);
-  }
-  EXPECT_EQ(run("export -n F-0001.png A.SHP").errors,
-            error + "./A-0001.png: would be written\n" + error + "./A.json: would be written\n");
-  EXPECT_EQ(files_at("."), before);
-  EXPECT_EQ(run("export -v F-0001.png A.SHP -d in").errors,
-            error + "in/A-0001.png: is written\n" + error + "in/A.json: is written\n");
-  EXPECT_EQ(run("import -v in -o a.shp --palette F-0001.png").errors,
-            error + "a.shp: is written\n");
-  run("import -n in -o new.shp --palette F-0001.png");
-  EXPECT_FALSE(fs::exists("new.shp"));
-  EXPECT_EQ(run("import in -o in/A.json --palette F-0001.png").status, 2);
-}
-
-TEST_F(pictures_test, DiffersByTheIconsOfAnEntry) {
-  std::vector<picture> icons(4, picture(2, 1));
-  write_archive(shp_file(icons));
-  fs::rename("a.dat", "old.dat");
-  icons[1].set(0, 0, 1);
-  icons.resize(3, picture(1, 1));
-  write_archive(shp_file(icons));
-  const result seen = run("diff old.dat a.dat");
-  EXPECT_EQ(seen.status, 1);
-  EXPECT_EQ(seen.output, "F.SHP differs: 140 bytes, 109 bytes; icons 2, 4\n");
-  EXPECT_NE(run("diff --json a.dat old.dat").output.find("\"icons\":[2, 4]"), std::string::npos);
 }
 
 // The second one is shorter than the first.
@@ -382,72 +272,15 @@ TEST_F(pictures_test, ReportsThatAStreamIsCut) {
   EXPECT_EQ(packed.status, 1);
 }
 
-TEST_F(pictures_test, RefusesBadSourcesAndWritesNothing) {
+TEST_F(pictures_test, RefusesASourceThatIsNestedTooDeeply) {
   write_bytes("GAME.PAL", palette());
-  const std::string good = png_with(PNG_FORMAT_GRAY, {1, 2, 3, 4}, 2, 2);
-  write_bytes("cut.png", good.substr(0, good.size() / 2));
-  std::string huge = good;
-  huge.replace(16, 8, std::string("\0\0\x7F\xFF\0\0\x07\xFF", 8));
-  write_bytes("huge.png", huge);
-  const auto json = [](const std::string& file, const std::string& first_column) {
-    return R"({"format":"ostrane-icons","identifier":"ICON","scale":1,"icons":[{"file":")" + file +
-           R"(","no_of_rows":0,"no_of_cols":1,"spare":0,"row_start":0,"col_end":0,"row_end":0,)" +
-           R"("col_start":)" + first_column + "}]}";
-  };
-  write_bytes("good.json", json("p.png", "0"));
-  write_bytes("in/up.json", json("../p.png", "0"));
-  write_bytes("far.json", json("p.png", "-2147483648"));
-  write_bytes("p.png", png_with(PNG_FORMAT_GRAY, {1, 2}, 2, 1));
-  write_bytes("two.shp", shp_file(std::vector<picture>(2, picture(1, 1))));
   write_bytes("deep.json", std::string(100000, '['));
-  for (const char* bad : {"cut.png", "huge.png", "in/up.json", "far.json", "deep.json", "no.png"}) {
-    const result seen = run("import " + std::string(bad) + " -o new.shp --palette GAME.PAL");
-    EXPECT_EQ(seen.status, 2) << bad;
-    EXPECT_NE(seen.errors.find("ostrane-dat: "), std::string::npos) << bad;
-    EXPECT_FALSE(fs::exists("new.shp")) << bad;
-  }
-  EXPECT_EQ(run("import good.json -o new.shp --palette GAME.PAL").status, 1);
-  for (const std::string read :
-       {"p.png -o p.png", "good.json -o p.png", "good.json -o good.json"}) {
-    EXPECT_EQ(run("import " + read + " --palette GAME.PAL").status, 2) << read;
-  }
-  const result seen = run("import p.png -o two.shp --palette GAME.PAL --like two.shp");
-  EXPECT_EQ(seen.status, 1);
-  EXPECT_NE(seen.errors.find("1 icon of the old icon file left out"), std::string::npos);
+  EXPECT_EQ(run("import deep.json -o new.shp --palette GAME.PAL").status, 2);
 }
 
-TEST_F(pictures_test, ExportsPalettesTextsSheetsAndAnimations) {
-  picture small(2, 1);
-  small.set(0, 0, 7);
-  write_bytes("a.dat", archive_bytes({{"F.SHP", shp_file(std::vector<picture>(5, small))},
-                                      {"G.SHP", std::string("ICON\2\0\0\0", 8)},
-                                      {"GAME.PAL", palette()},
-                                      {"N.TXT", std::string("\x80\0", 2)},
-                                      {"W.WAV", ""}}));
-  EXPECT_EQ(run("export a.dat *.*").errors,
-            "ostrane-dat: G.SHP: its head gives 2 as the number of its icons; only 0 can be read\n"
-            "ostrane-dat: W.WAV: skipped: it is not an icon file, palette or text\n");
-  EXPECT_EQ(run("export a.dat f.shp --as sheet --scale 2").status, 0);
-  EXPECT_EQ(run("export a.dat f.shp --as gif --pace 7").status, 0);
-  EXPECT_EQ(bytes_of("N.txt"), "\xE2\x82\xAC ");
-  EXPECT_NE(
-      bytes_of("GAME.gpl").find("Columns: 16\n#\n 64   0   0\tIndex 0\n 64   0   1\tIndex 1\n"),
-      std::string::npos);
-  run("import GAME.png -o p.shp --palette a.dat");
-  EXPECT_EQ(icons_of("p.shp").at(0).substr(0, 28), "15 15 0 0 0 15 15 0,1,2,3,4,");
-  EXPECT_NE(bytes_of("F-sheet.json").find("\"w\":12,\"h\":4"), std::string::npos);
-  EXPECT_NE(bytes_of("F-sheet.json").find("{\"x\":0,\"y\":2,"), std::string::npos);
-  // Indices keep their colours, also equal ones.
-  EXPECT_NE(bytes_of("F-0001.png").find(std::string("PLTE\x40\0\0\x40\0\1\x40\0\1", 13)),
-            std::string::npos);
-  EXPECT_NE(bytes_of("F.gif").find(std::string("\x21\xF9\x04\x09\x07\x00\x00\x00", 8)),
-            std::string::npos);
-  // Offset 0 means no palette, so the built-in colours apply.
-  std::string bytes = bytes_of("a.dat");
-  write_bytes("a.dat", bytes.replace(4 + 2 * 17, 4, std::string(4, '\0')));
-  run("export a.dat f.shp");
-  EXPECT_NE(bytes_of("F-0001.png").find(std::string("PLTE\0\0\0\xF0\xF0\xF0", 10)),
-            std::string::npos);
+TEST(colour_finder_test, OneOfSeveralIndicesIsTheNearest) {
+  EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
+  EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
 }
 
 // Icons of a few bytes can have pictures of any size.
