@@ -44,6 +44,7 @@ TEST_F(commands_posix_test, ReadsStandardInput) {
   const std::string archive = archive_bytes({{"A.TXT", "text"}, {"B.TXT", ""}});
   write_bytes("a.dat", archive);
   write_bytes("l.txt", "A.TXT\nB.TXT\n\n");
+  write_bytes("p.gif", "GIF89a");
   write_bytes("j.json", R"({"frames":[],"meta":{"image":"s.png"}})");
   const std::tuple<const char*, const char*, std::string> cases[] = {
       {"a.dat", "list -", "A.TXT\nB.TXT\n"},
@@ -52,7 +53,9 @@ TEST_F(commands_posix_test, ReadsStandardInput) {
       {"a.dat", "diff - a.dat", ""},
       {"l.txt", "compare a.dat - -o r", ""},
       {"j.json", "import - -o i.shp --palette a.dat",
-       "ostrane-dat: s.png: cannot be opened: it is not there.\n"}};
+       "ostrane-dat: s.png: cannot be opened: it is not there.\n"},
+      {"p.gif", "import - -o i.shp --palette a.dat",
+       "ostrane-dat: standard input: cannot be read as a GIF: it is not a GIF.\n"}};
   run_in_process([&] {
     for (const auto& [input, job, output] : cases) {
       const bool is_import = std::string_view(job).starts_with("import");
