@@ -102,24 +102,8 @@ struct Desktop : testing::Test {
   all_kinds form;
 };
 
-// Runs `act` on the message box, dialog or menu of this kind as soon as it is open.
-template <typename Widget, typename Act>
-void when_open(Act act) {
-  auto* look = new QTimer(qApp);
-  look->callOnTimeout([look, act] {
-    auto* opened = qobject_cast<Widget*>(QApplication::activeModalWidget());
-    if (opened == nullptr) opened = qobject_cast<Widget*>(QApplication::activePopupWidget());
-    if (opened == nullptr || !opened->isVisible()) return;
-    look->stop();
-    look->deleteLater();
-    act(*opened);
-  });
-  look->start(1);
-}
-
 // Adds up what a widget is asked to paint.
-class paint_watch : public QObject {
- public:
+struct paint_watch : QObject {
   explicit paint_watch(QWidget* watched) { watched->installEventFilter(this); }
   bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
     if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();

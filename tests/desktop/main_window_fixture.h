@@ -10,17 +10,14 @@ using ostrane::Form1;
 // The main window with an archive of two texts, three pictures and a text.
 struct Extras : Desktop {
   Extras() {
-    std::vector<ostrane::shp_icon> icons;
+    std::vector<ostrane::picture> pictures;
     for (const int size : {40, 60, 80}) {
-      ostrane::picture drawn(size, size);
-      for (int i = 0; i < size - 10; ++i) drawn.set(i, i, 200);
-      icons.push_back(ostrane::make_icon(drawn));
+      pictures.emplace_back(size, size);
+      for (int i = 0; i < size - 10; ++i) pictures.back().set(i, i, 200);
     }
-    ostrane::write_bytes(folder / "ostrane.dat",
-                         ostrane::archive_bytes({{"A.TXT", "text"},
-                                                 {"AB.TXT", "text"},
-                                                 {"PIC.SHP", shp_file(icons)},
-                                                 {"Z.TXT", "text"}}));
+    const std::vector<ostrane::archive_entry> entries = {
+        {"A.TXT", "text"}, {"AB.TXT", "text"}, {"PIC.SHP", shp_file(pictures)}, {"Z.TXT", "text"}};
+    ostrane::write_bytes(folder / "ostrane.dat", ostrane::archive_bytes(entries));
     ostrane::start_tool(
         "C:\\", [](auto&, const auto&) {}, folder);
     window = &activate(show(Form1));
@@ -38,9 +35,9 @@ struct Extras : Desktop {
   std::string selected() const {
     std::string rows, known;
     for (const int row : Form1.List1.SelectedRows()) known += std::to_string(row);
-    for (int row = 0; row < Form1.List1.ListCount(); ++row) {
-      if (list->selectionModel()->isRowSelected(row)) rows += std::to_string(row);
-    }
+    for (const auto& at : list->selectionModel()->selectedIndexes())
+      rows += std::to_string(at.row());
+    std::sort(rows.begin(), rows.end());
     EXPECT_EQ(known, rows.size() > 1 ? rows : "");
     return rows + " shows " + std::to_string(Form1.List1.ListIndex());
   }

@@ -5,9 +5,8 @@ struct first_events : QObject {
   first_events() { qApp->installEventFilter(this); }
   bool eventFilter(QObject* receiver, QEvent* event) override {
     const bool is_expose = event->type() == QEvent::Expose;
-    if (is_expose || event->type() == QEvent::Paint) {
+    if (is_expose || event->type() == QEvent::Paint)
       log += is_expose ? "expose " : receiver->objectName() + " ";
-    }
     return false;
   }
   QString log;
@@ -68,13 +67,13 @@ TEST_F(Desktop, WindowsOpenInTheMiddleAndWhereTheyWereClosed) {
   EXPECT_EQ(show(Form2).frameGeometry().bottomRight(), free.bottomRight()) << "its screen is gone";
   main.move(free.topLeft() - QPoint(500, 500));
   EXPECT_EQ(show(Form4).pos(), free.topLeft());
-  const std::tuple<QWidget&, bool> windows[] = {{main, true}, {form2, false}};
-  for (const auto& [window, is_main] : windows) {
-    const Qt::WindowFlags flags = window.windowFlags();
-    EXPECT_EQ((flags & Qt::WindowCloseButtonHint) != 0, is_main);
-    EXPECT_EQ(window.minimumSize() == window.maximumSize(), !is_main);
-    EXPECT_EQ(window.windowType(), is_main ? Qt::Window : Qt::Dialog);
-  }
+  // Whether it can be closed, and whether its size is fixed.
+  const auto kind_of = [](const QWidget& window) {
+    return std::tuple(window.windowType(), (window.windowFlags() & Qt::WindowCloseButtonHint) != 0,
+                      window.minimumSize() == window.maximumSize());
+  };
+  EXPECT_EQ(kind_of(main), std::tuple(Qt::Window, true, false));
+  EXPECT_EQ(kind_of(form2), std::tuple(Qt::Dialog, false, true));
   EXPECT_EQ(form2.size(), QSize(4680 / 15, 4185 / 15));
   EXPECT_EQ(widget_of(main, Form1.List1)->parentWidget()->size(), QSize(9330 / 15, 6690 / 15));
 }

@@ -47,9 +47,8 @@ TEST_F(Typing, AFieldShowsWhatTheToolHas) {
 struct delays_keys : QObject {
   delays_keys() { qApp->installEventFilter(this); }
   bool eventFilter(QObject* receiver, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress || !event->spontaneous() || !receiver->isWindowType()) {
+    if (event->type() != QEvent::KeyPress || !event->spontaneous() || !receiver->isWindowType())
       return false;
-    }
     const auto& key = *static_cast<QKeyEvent*>(event);
     copies.push_back({receiver, new QKeyEvent(key.type(), key.key(), key.modifiers(), key.text())});
     return true;
@@ -99,21 +98,19 @@ TEST_F(Typing, AnAmpersandInACaptionIsNoShortcut) {
 TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
   form.button.Click = [&] { form.label.Caption = "clicked"; };
   field->setFocus();
-  const auto type_later = [&](Qt::Key key) {
-    QMetaObject::invokeMethod(
-        field, [&, key] { QTest::keyClick(window.windowHandle(), key); }, Qt::QueuedConnection);
+  const auto later = [&](const std::function<void()>& input) {
+    QMetaObject::invokeMethod(field, input, Qt::QueuedConnection);
   };
+  const auto type_later = [&](const char* key) { later([&, key] { act_once(window, key); }); };
   answers boxes;
   const auto show_box = [&] { screen.message_box("Title", "text"); };
   write([&] {
     const QPoint on_button = widget_of(window, form.button)->mapTo(&window, QPoint(5, 5));
-    QMetaObject::invokeMethod(
-        field, [&] { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, on_button); },
-        Qt::QueuedConnection);
-    type_later(Qt::Key_F10);
-    type_later(Qt::Key_1);
+    later([&] { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, on_button); });
+    type_later("F10");
+    type_later("'1");
     show_box();
-    type_later(Qt::Key_2);
+    type_later("'2");
     show_box();
     EXPECT_EQ(form.field.Text(), "");
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
@@ -122,7 +119,7 @@ TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
   EXPECT_EQ(form.field.Text(), "12");
   EXPECT_EQ(form.label.Caption(), "Label") << "a click is dropped";
   EXPECT_EQ(boxes.log, "TitleTitle");
-  boxes.on_open = [&] { QTest::keyClick(window.windowHandle(), Qt::Key_Backspace); };
+  boxes.on_open = [&](auto&) { QTest::keyClick(window.windowHandle(), Qt::Key_Backspace); };
   write(show_box);
   EXPECT_EQ(form.field.Text(), "12") << "typed while the box was open";
 }

@@ -15,59 +15,51 @@
 //   field again        the second press of a double click; also right-again
 //   list#3 press       clicks on a row
 //   pictures@18@58 press
-inline void act_once(QWidget& window, QString step) {
-  const auto takes = [&step](const QString& prefix) {
-    const bool has = step.startsWith(prefix) && step.size() > prefix.size();
-    if (has) step.remove(0, prefix.size());
-    return has;
-  };
-  if (takes("'")) {
-    for (const QChar c : step) QTest::keyClick(window.windowHandle(), c.toLatin1());
+inline void act_once(QWidget& window, const QString& step) {
+  if (step.startsWith('\'')) {
+    for (const QChar c : step.mid(1)) QTest::keyClick(window.windowHandle(), c.toLatin1());
     return;
   }
-  QWidget* on = nullptr;
-  QPoint at;
-  if (step.contains(' ')) {
-    const QStringList target = step.section(' ', 0, 0).split(QRegularExpression("[#@]"));
-    step = step.section(' ', 1);
-    on = window.findChild<QWidget*>(target[0]);
-    at = target.size() == 3 ? QPoint(target[1].toInt(), target[2].toInt()) : on->rect().center();
-    if (target.size() == 2) {
-      const auto* list = static_cast<QAbstractItemView*>(on);
-      at = list->visualRect(list->model()->index(target[1].toInt(), 0)).center();
-      on = list->viewport();
-    }
+  static const QRegularExpression form(
+      R"(((?<on>\w+)(#(?<row>\d+)|@(?<x>\d+)@(?<y>\d+))? )?(?<hold>hold )?)"
+      R"((?<ctrl>Ctrl\+)?(?<shift>Shift\+)?(?<what>.+))");
+  const QRegularExpressionMatch match = form.match(step);
+  const auto has = [&match](const QString& name) { return !match.captured(name).isEmpty(); };
+  const auto number = [&match](const QString& name) { return match.captured(name).toInt(); };
+  const QString what = match.captured("what");
+  QWidget* on = has("on") ? window.findChild<QWidget*>(match.captured("on")) : nullptr;
+  QPoint at = on == nullptr ? QPoint() : on->rect().center();
+  if (has("x")) at = QPoint(number("x"), number("y"));
+  if (has("row")) {
+    const auto* list = static_cast<QAbstractItemView*>(on);
+    at = list->visualRect(list->model()->index(number("row"), 0)).center();
+    on = list->viewport();
   }
-  const bool is_repeated = takes("hold ");
   Qt::KeyboardModifiers held;
-  if (takes("Ctrl+")) held |= Qt::ControlModifier;
-  if (takes("Shift+")) held |= Qt::ShiftModifier;
-  if (step == "focus") {
-    on->setFocus();
-  } else if (step == "press") {
-    QTest::mouseClick(on, Qt::LeftButton, held, at);
-  } else if (step == "right") {
-    QTest::mouseClick(window.windowHandle(), Qt::RightButton, held, on->mapTo(&window, at));
-  } else if (step.endsWith("again")) {
-    QTest::mouseDClick(on, step == "again" ? Qt::LeftButton : Qt::RightButton, held, at);
-  } else if (step.startsWith("wheel")) {
+  if (has("ctrl")) held |= Qt::ControlModifier;
+  if (has("shift")) held |= Qt::ShiftModifier;
+  if (what == "focus") return on->setFocus();
+  if (what == "press") return QTest::mouseClick(on, Qt::LeftButton, held, at);
+  if (what == "right") {
+    return QTest::mouseClick(window.windowHandle(), Qt::RightButton, held, on->mapTo(&window, at));
+  }
+  if (what.endsWith("again")) {
+    return QTest::mouseDClick(on, what == "again" ? Qt::LeftButton : Qt::RightButton, held, at);
+  }
+  if (what.startsWith("wheel")) {
     QWidget* under = on->childAt(at) == nullptr ? on : on->childAt(at);
     QWheelEvent turned(under->mapFrom(on, at), on->mapToGlobal(at), {},
-                       {0, step == "wheel" ? 120 : -120}, Qt::NoButton, held, Qt::NoScrollPhase,
+                       {0, what == "wheel" ? 120 : -120}, Qt::NoButton, held, Qt::NoScrollPhase,
                        false);
     QSpontaneKeyEvent::setSpontaneous(&turned);
     qApp->notify(under, &turned);
-  } else {
-    const Qt::Key key = QKeySequence(step)[0].key();
-    QKeyEvent repeated(QEvent::KeyPress, key, held, QString(), true);
-    if (is_repeated) {
-      QCoreApplication::sendEvent(on, &repeated);
-    } else if (on == nullptr) {
-      QTest::keyClick(window.windowHandle(), key, held);
-    } else {
-      QTest::keyClick(on, key, held);
-    }
+    return;
   }
+  const Qt::Key key = QKeySequence(what)[0].key();
+  QKeyEvent repeated(QEvent::KeyPress, key, held, QString(), true);
+  if (has("hold")) return static_cast<void>(QCoreApplication::sendEvent(on, &repeated));
+  on == nullptr ? QTest::keyClick(window.windowHandle(), key, held)
+                : QTest::keyClick(on, key, held);
 }
 
 inline void act(QWidget& window, const QString& steps) {
@@ -77,8 +69,8 @@ inline void act(QWidget& window, const QString& steps) {
   }
 }
 
-// Of a menu: "-" is a line, "!" a disabled item, "*" a checked one.
-inline std::string text_of(const QMenu& menu) {
+// Of a menu or a bar of menus: "-" is a line, "!" a disabled item, "*" a checked one.
+inline std::string text_of(const QWidget& menu) {
   std::string text;
   for (const QAction* action : menu.actions()) {
     text += action->isSeparator() ? "-" : action->text().toStdString();
@@ -105,8 +97,9 @@ struct answers : QTimer {
     const auto* menu = qobject_cast<QMenu*>(&opened);
     log += menu == nullptr ? opened.windowTitle().toStdString() : text_of(*menu);
     if (const auto* name = opened.findChild<QLineEdit*>()) log += ": " + name->text().toStdString();
-    on_open();
+    on_open(opened);
     for (const QString& key : std::exchange(keys, "Esc").split(' ')) {
+      if (!opened.isVisible()) break;
       QWidget* popup = QApplication::activePopupWidget();
       QTest::keyClick(popup == nullptr ? &opened : popup, QKeySequence(key)[0].key());
     }
@@ -116,5 +109,5 @@ struct answers : QTimer {
 
   std::string log;
   QString keys = "Esc";
-  std::function<void()> on_open = [] {};
+  std::function<void(QWidget& opened)> on_open = [](const auto&) {};
 };

@@ -5,17 +5,9 @@
 
 struct Input : Desktop {
   Input() { canvas->setObjectName("pictures"); }
-  QListView* rows_of(const forms_layer::control& shown) const {
-    return window.findChild<QListView*>(QString::fromLatin1(shown.designed.name));
-  }
   using steps = std::vector<std::pair<const char*, std::string>>;
-  // Compares what the tool logged.
-  void play(const steps& all) {
-    Desktop::play(
-        window, [&] { return std::exchange(log, ""); }, all);
-  }
-
   std::string log;
+  const std::function<std::string()> logged = [this] { return std::exchange(log, ""); };
   QWidget& window = show_active();
   QWidget* canvas = canvas_of(window, form);
 };
@@ -41,24 +33,20 @@ TEST_F(Input, ReachesTheTool) {
   write([&] { form.pictures(3).Move(300, 840); });  // over the edge of the first
   const steps of_lists = {{"inner focus; list focus; Down", "click0 "},
                           {"list#1 right", ""},
-                          {"list#1 press", "click1 "},
-                          {"list#1 press", "click1 "},
+                          {"list#1 press; list#1 press", "click1 click1 "},
                           {"list#0 again", "double1 "},  // scrolled under the mouse
                           {"list#1 press; list#1 right-again", "click1 "},
                           {"button press; list#2 again", "go click2 "},
                           {"list Ctrl+Space", ""},
-                          {"list Down", "click3 "},
-                          {"list End", "click8 "},
-                          {"list Down", ""},
-                          {"list Return", ""},
+                          {"list Down; list End; list Down; list Return", "click3 click8 "},
+                          {"folders#1 press; F5; folders#1 again", ""},  // of another list
                           {"folders#1 press", ""},
                           {"folders Enter", "C:\\sub "},
                           {"folders#0 press; folders#0 again", "C:\\ "},
                           {"files#0 press", "a.txt "},
                           {"drives wheel; drives wheel-back", ""},
                           {"drives Down", "d: [two] "}};
-  const steps of_controls = {{"button Return; button hold Return", "go "},
-                             {"button Space", "go "},
+  const steps of_controls = {{"button Return; button hold Return; button Space", "go go "},
                              {"field Esc", "go "},
                              {"inner right", ""},
                              {"label press; label Return", "label label "},
@@ -75,13 +63,13 @@ TEST_F(Input, ReachesTheTool) {
                              {"pictures@18@58 press; button press; pictures@18@58 again", "go "},
                              {"pictures@18@58 press; pictures@18@58 right-again", ""},
                              {"pictures hold Return", ""}};
-  play(of_lists), play(of_controls), play(of_pictures);
-  QListView* list = rows_of(form.list);
+  for (const steps& all : {of_lists, of_controls, of_pictures}) play(window, logged, all);
+  auto* list = static_cast<QListView*>(widget_of(window, form.list));
   QLabel* label = window.findChild<QLabel*>("label");
   QTest::mousePress(label, Qt::LeftButton);
   QTest::mouseRelease(label, Qt::LeftButton, {}, {-5, 5});
   EXPECT_EQ(log, "") << "let go beside it";
-  QListView* folders = rows_of(form.folders);
+  auto* folders = static_cast<QListView*>(widget_of(window, form.folders));
   ostrane::write_bytes(folder / "b.txt", "b");
   for (const char* name : {"s1", "s2", "s3", "s4"}) create_directory(folder / name);
   act(window, "F5");
@@ -89,8 +77,9 @@ TEST_F(Input, ReachesTheTool) {
   EXPECT_EQ(window.findChild<QComboBox*>()->count(), 2);
   EXPECT_TRUE(folders->selectionModel()->hasSelection());
   act(window, "field focus");
-  when_open<QMenu>([](QMenu& menu) { menu.close(); });
+  answers menus;
   act(window, "field right");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !menus.log.empty(); }, 60'000));
   EXPECT_EQ(log, "") << "a menu takes the focus for a while";
   auto* bar = window.findChild<QMenuBar*>();
   window.resize(450, 440 + bar->height());
@@ -100,7 +89,8 @@ TEST_F(Input, ReachesTheTool) {
   act(window, "list focus");
   log.clear();
   form.Enabled = false;
-  play({{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
+  play(window, logged,
+       {{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
   window.close();
   form.Enabled = true;
   EXPECT_EQ(log, "");
@@ -129,7 +119,7 @@ TEST_F(Input, ReachesTheTool) {
 
 TEST_F(Input, KeysReachEveryVisiblePicture) {
   std::string opened;
-  form.pictures.DblClick = [&](int i) { opened = std::to_string(i); };
+  form.pictures.DblClick = [&](int i) { opened += std::to_string(i); };
   const QPoint positions[] = {{300, 900}, {600, 900}, {0, 0}, {900, 900}, {300, 1200}, {840, 1200}};
   for (int i = 0; i <= 5; ++i) {
     form.pictures(i).Move(positions[i].x(), positions[i].y());
@@ -141,26 +131,19 @@ TEST_F(Input, KeysReachEveryVisiblePicture) {
   };
   canvas->setFocus();
   EXPECT_TRUE(has_cursor());
-  const auto reached = [&] { return std::exchange(opened, "none"); };
-  Desktop::play(window, reached,
-                {{"Right; Space", "1"},
-                 {"Right; Return", "3"},
-                 {"Right; Enter", "4"},
-                 {"Down; Space", "4"},
-                 {"End; Space", "5"},
-                 {"Up; Space", "3"},
-                 {"Up; Space", "3"},
-                 {"Left; Space", "1"},
-                 {"Left; Space", "0"},
-                 {"Left; Space", "0"},
-                 {"Down; Space", "4"},
-                 {"Home; Space", "0"}});
-  widget_of(window, form.inner)->setFocus();
-  EXPECT_FALSE(has_cursor());
+  const auto reached = [&] { return std::exchange(opened, ""); };
+  play(window, reached,
+       {{"Right; Space; Right; Return; Right; Enter", "134"},
+        {"Down; Space; End; Space; Up; Space; Up; Space", "4533"},
+        {"Left; Space; Left; Space; Left; Space", "100"},
+        {"Down; Space; Home; Space; End", "40"}});
   write([&] { form.pictures(0).Visible = false, form.pictures(5).Visible = false; });
+  play(window, reached, {{"Right; Space", "1"}, {"inner focus", ""}});
+  EXPECT_FALSE(has_cursor());
+  write([&] { form.pictures(1).Visible = false; });
   canvas->setFocus();
   QTest::keyClick(canvas, Qt::Key_Space);
-  EXPECT_EQ(opened, "1") << "the first that is visible";
+  EXPECT_EQ(opened, "3") << "the first that is visible";
   for (int i = 0; i <= 5; ++i) form.pictures(i).Visible = false;
   QCoreApplication::processEvents();
   EXPECT_FALSE(has_cursor());
@@ -169,7 +152,7 @@ TEST_F(Input, KeysReachEveryVisiblePicture) {
 // A menu opens for the item under the mouse, or by key for the selected one. No timer tick runs
 // while it is open.
 TEST_F(Input, ContextMenusOpenByMouseAndKey) {
-  for (int i = 0; i < 3; ++i) form.list.AddItem("row");
+  for (int i = 0; i < 9; ++i) form.list.AddItem("row");
   form.list.ContextMenu = form.pictures.ContextMenu = &form.context;
   form.pictures.DblClick = [](int) {};
   form.pick.Click = [&] { log += "picked ", form.timer.Enabled = false; };
@@ -180,32 +163,25 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   form.timer.Timer = [&] { log += "tick "; };
   form.timer.Interval = 1;
   write([&] { picture().Visible = true, form.pictures(2).Visible = true; });
-  write([&] { form.pictures(2).Move(900, 900), form.list.ListIndex = 2; });
+  write([&] { form.pictures(2).Move(900, 900), form.list.ListIndex = 8; });
   answers menus;
-  menus.on_open = [&] {
+  menus.on_open = [&](QWidget& menu) {
     form.timer.Enabled = true;
     QTest::qWait(20);
-    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    const bool is_active = menu->activeAction() == menu->actions()[0];
+    const bool is_active = static_cast<QMenu&>(menu).activeAction() == menu.actions()[0];
     log += is_active ? "active " : "";
     menus.keys = is_active ? "Return" : "P";
   };
-  play({{"list#1 right", "1 picked "},
-        {"list focus; Shift+F10", "2 active picked "},
+  play(window, logged,
+       {{"list wheel; list wheel; list wheel; list#1 right", "1 picked "},
+        {"list focus; Shift+F10", "8 active picked "},
         {"pictures@61@61 right", "2 picked "},
         {"pictures focus; Shift+F10", "1 active picked "},
         {"inner focus; Shift+F10", ""},
         {"pictures@5@150 right", ""}});
-}
-
-TEST_F(Input, PicturesAreCopied) {
-  picture().Width = 60;
-  picture().PSet(0, 0, forms_layer::rgb(1, 2, 3));
-  screen.copy_picture(picture());
-  const QImage copied = QGuiApplication::clipboard()->image();
-  EXPECT_EQ(copied.size(), QSize(2, picture().rows()));
-  EXPECT_EQ(copied.pixel(0, 0), qRgb(1, 2, 3));
-  EXPECT_EQ(qAlpha(copied.pixel(1, 0)), 0);
+  auto& list = *static_cast<QListView*>(widget_of(window, form.list));
+  EXPECT_TRUE(list.rect().contains(list.visualRect(list.currentIndex())))
+      << "the menu is beside it";
 }
 
 // Each dialog opens in the folder that the latest one chose.
@@ -213,47 +189,46 @@ TEST_F(Input, DialogsAskForFilesAndFolders) {
   const auto folder_of = [&](const char* name) {
     return QString::fromStdString((folder / name).lexically_normal().generic_string());
   };
-  const auto name_in = [](QFileDialog& dialog) { return dialog.findChild<QLineEdit*>(); };
-  const auto ask = [&](const std::function<void(QFileDialog&)>& done) {
-    when_open<QFileDialog>([&](QFileDialog& dialog) {
-      EXPECT_EQ(dialog.windowTitle(), "Save");
-      done(dialog);
+  answers dialogs;
+  const auto answer_with = [&](const std::function<void(QFileDialog&, QLineEdit & name)>& done) {
+    dialogs.on_open = [this, done](QWidget& opened) {
+      auto& dialog = static_cast<QFileDialog&>(opened);
+      log += "in " + dialog.directory().dirName().toStdString() + " ";
+      done(dialog, *dialog.findChild<QLineEdit*>());
       if (dialog.isVisible()) static_cast<QDialog&>(dialog).accept();
-    });
+    };
+  };
+  // The latest folder, the title, the proposed name and the answer.
+  const auto ask = [&](const auto& done) {
+    answer_with(done);
     const forms_layer::save_answer answer =
         screen.ask_save_path({"Save", "A\xC9", {{"Sheet", "-sheet.png"}, {"Motion", ".gif"}}});
-    return answer.path.lexically_relative(folder).generic_string() + std::to_string(answer.kind);
+    return std::exchange(log, "") + dialogs.take() + " " +
+           answer.path.lexically_relative(folder).generic_string() + std::to_string(answer.kind);
   };
-  const auto choose_motion = [&](QFileDialog& dialog) {
+  const auto choose_motion = [&](QFileDialog& dialog, QLineEdit& name) {
     dialog.setDirectory(folder_of("sub"));
-    EXPECT_EQ(name_in(dialog)->text(), "A\u00C9-sheet.png");
     auto* kinds = dialog.findChild<QComboBox*>("fileTypeCombo");
     kinds->setCurrentIndex(1);
     emit kinds->activated(1), emit kinds->textActivated(kinds->currentText());
-    EXPECT_EQ(name_in(dialog)->text(), "A\u00C9.gif");
-    name_in(dialog)->setText("c\u00C9");
+    EXPECT_EQ(name.text(), "A\u00C9.gif");
+    name.setText("c\u00C9");
   };
-  const auto name_only = [&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory().path(), folder_of("sub"));
-    name_in(dialog)->setText("b");
-  };
-  const auto leave = [&](QFileDialog& dialog) {
+  const auto name_only = [](auto&, QLineEdit& name) { name.setText("b"); };
+  const auto leave = [&](QFileDialog& dialog, auto&) {
     dialog.setDirectory(folder_of("")), dialog.reject();
   };
-  EXPECT_EQ(ask(choose_motion), "sub/c\u00C9.gif1");
-  EXPECT_EQ(ask(name_only), "sub/b.png0") << "the kind gives the ending";
-  EXPECT_EQ(ask(leave), "0");
+  const std::string proposed = "Save: A\u00C9-sheet.png ";
+  const std::string first = ask(choose_motion);
+  EXPECT_EQ(first.substr(first.find("Save")), proposed + "sub/c\u00C9.gif1");
+  EXPECT_EQ(ask(name_only), "in sub " + proposed + "sub/b.png0") << "the kind gives the ending";
+  EXPECT_EQ(ask(leave), "in sub " + proposed + "0");
   create_directories(folder / "sub" / "inner");
-  when_open<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory().path(), folder_of("sub")) << "the latest one was left";
-    name_in(dialog)->setText("inner");
-    static_cast<QDialog&>(dialog).accept();
-  });
+  answer_with([](auto&, QLineEdit& name) { name.setText("inner"); });
   EXPECT_EQ(screen.ask_folder("Folder"), folder / "sub" / "inner");
-  ask([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory().path(), folder_of("sub/inner"));
-    dialog.reject();
-  });
+  EXPECT_EQ(log + dialogs.take(), "in sub Folder: ") << "the latest one was left";
+  log.clear();
+  EXPECT_EQ(ask(leave), "in inner " + proposed + "0");
 }
 
 TEST_F(Input, AWriteRestartsATimer) {
@@ -280,15 +255,15 @@ TEST_F(Input, TheDesktopsFontsChangeNothingAndAltUnderlinesLetters) {
   const QFont usual = QApplication::font();
   QFont large;
   large.setPixelSize(40);
-  for (const char* kind : {"QMenu", "QMessageBox", "QLabel", "QListView"}) {
+  for (const char* kind : {"QMenu", "QMessageBox", "QLabel", "QListView"})
     QApplication::setFont(large, kind);
-  }
   EXPECT_EQ(picture_of(window), as_designed);
   const auto as_ever = [](const QWidget& shown) {
     EXPECT_EQ(shown.font().pixelSize(), desktop::font_for({}).pixelSize());
   };
   as_ever(*bar->actions()[0]->menu());
-  when_open<QMessageBox>([&](QMessageBox& box) { as_ever(box), box.accept(); });
+  answers boxes;
+  boxes.on_open = as_ever;
   screen.message_box("Title", "text");
   QApplication::setFont(usual);
   const QImage before = picture_of(*bar);
@@ -304,15 +279,19 @@ TEST_F(Input, TheDesktopsFontsChangeNothingAndAltUnderlinesLetters) {
 TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
   using namespace ostrane;
   reset_forms();
-  Form1.s16_image.Load(1);
-  int opened = 0;
-  Form1.s16_image.DblClick = [&](int i) { opened = i; };
-  write([] { Form1.s16_image(1).Width = 510, Form1.s16_image(1).Visible = true; });
+  std::string opened;
+  Form1.s16_image.DblClick = [&](int i) { opened += "picture" + std::to_string(i); };
+  for (int i = 1; i <= 2; ++i) Form1.s16_image.Load(i);
+  write([] {
+    Form1.s16_image(1).Width = 510;
+    Form1.s16_image(2).Move(1500, 840);
+    Form1.s16_image(1).Visible = true, Form1.s16_image(2).Visible = true;
+  });
   const auto heard = [](QWidget* widget, QAccessible::Text kind) {
     return QAccessible::queryAccessibleInterface(widget)->text(kind).toStdString();
   };
-  forms_layer::form* const forms[] = {&Form1, &Form2, &Form3, &Form4, &Form5, &Form6};
-  for (forms_layer::form* one : forms) {
+  for (auto* one :
+       std::initializer_list<forms_layer::form*>{&Form1, &Form2, &Form3, &Form4, &Form5, &Form6}) {
     QWidget& window = show(*one);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
     for (QWidget* widget : window.findChildren<QWidget*>()) {
@@ -327,33 +306,42 @@ TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
   QWidget& window = *screen.window_of(Form1);
   EXPECT_EQ(heard(widget_of(window, Form1.List1), QAccessible::Name), "Entries");
   QWidget* canvas = widget_of(window, Form1.Command5)->parentWidget();
-  QAccessibleInterface* pictures = QAccessible::queryAccessibleInterface(canvas);
-  QAccessibleInterface* last = pictures->child(pictures->childCount() - 1);
-  EXPECT_EQ(last->text(QAccessible::Name), "Picture 1, 32 by 4");
-  EXPECT_EQ(last->text(QAccessible::Description), ostrane::icon_tool_tip);
-  EXPECT_EQ(last->rect(), QRect(canvas->mapToGlobal(QPoint(16, 56)), QSize(34, 6)));
-  EXPECT_EQ(pictures->indexOfChild(last), pictures->childCount() - 1);
-  EXPECT_EQ(pictures->indexOfChild(pictures->child(0)), 0);
-  EXPECT_EQ(last->actionInterface()->actionNames().size(), 2);
-  EXPECT_EQ(last->role(), QAccessible::Graphic);
+  QAccessibleInterface& inside = *QAccessible::queryAccessibleInterface(canvas);
+  // What is said of both pictures.
+  const auto said = [&] {
+    QString text;
+    for (const int from_end : {2, 1}) {
+      const int index = inside.childCount() - from_end;
+      QAccessibleInterface& one = *inside.child(index);
+      EXPECT_EQ(inside.indexOfChild(&one), index);
+      EXPECT_EQ(one.text(QAccessible::Description), icon_tool_tip);
+      const QPoint middle = one.rect().center();
+      QDebug(&text).noquote() << one.role() << one.text(QAccessible::Name)
+                              << one.rect().translated(-canvas->mapToGlobal(QPoint()))
+                              << one.actionInterface()->actionNames();
+      if (one.state().focused) text += "focused ";
+      if (inside.focusChild() == &one) text += "has focus ";
+      if (one.state().invisible) text += "invisible ";
+      if (inside.childAt(middle.x(), middle.y()) == &one) text += "uncovered ";
+      text += "|";
+    }
+    return text.toStdString();
+  };
+  const std::string does = " QList(Press, ShowMenu) ";
+  const std::string first = "QAccessible::Graphic Picture 1, 32 by 4 QRect(16,56 34x6)" + does;
+  const std::string second = "QAccessible::Graphic Picture 2, 4 by 4 QRect(100,56 6x6)" + does;
   activate(window);
-  for (const bool has_focus : {true, false}) {
-    (has_focus ? canvas : widget_of(window, Form1.List1))->setFocus();
-    EXPECT_EQ(last->state().focused, has_focus);
-    EXPECT_EQ(pictures->focusChild() == last, has_focus);
-  }
-  for (const bool covered : {true, false}) {
-    write([&] { Form1.Text6.Visible = covered; });
-    const QPoint inside = last->rect().topLeft() + QPoint(1, 1);
-    EXPECT_EQ(pictures->childAt(inside.x(), inside.y()) == last, !covered);
-  }
-  last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(opened, 1);
+  canvas->setFocus();
+  EXPECT_EQ(said(), first + "focused has focus |" + second + "|");
+  widget_of(window, Form1.List1)->setFocus();
+  EXPECT_EQ(said(), first + "|" + second + "|");
+  write([] { Form1.Text6.Visible = false, Form1.s16_image(2).Visible = false; });
+  EXPECT_EQ(said(), first + "uncovered |QAccessible::Graphic Picture 2, 4 by 4 QRect(0,0 0x0)" +
+                        does + "invisible |");
+  QAccessibleActionInterface& actions = *inside.child(inside.childCount() - 2)->actionInterface();
+  actions.doAction(QAccessibleActionInterface::pressAction());
   Form1.s16_image.ContextMenu = &Form1.mnu_picture;
-  Form1.mnu_picture.Popup = [&](int i) { return (opened = 10 * i) == 0; };
-  last->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
-  EXPECT_EQ(opened, 10);
-  EXPECT_FALSE(last->state().invisible);
-  write([] { Form1.s16_image(1).Visible = false; });
-  EXPECT_TRUE(last->state().invisible);
+  Form1.mnu_picture.Popup = [&](int i) { return (opened += " menu" + std::to_string(i)).empty(); };
+  actions.doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_EQ(opened, "picture1 menu1");
 }
