@@ -24,13 +24,11 @@ auto record(std::string_view name, const auto& call) {
   if (!is_first && !is_later) return call();
 #ifdef SIGKILL  // where processes have signals
   if (fault.kind == call_fault::kills) std::raise(SIGKILL);
-  if (fault.kind == call_fault::stops) std::raise(SIGSTOP);
-  if (fault.kind == call_fault::stops) return call();
+  if (fault.kind == call_fault::stops) return std::raise(SIGSTOP), call();
 #endif
   using result = decltype(call());
-  if (fault.kind == call_fault::does_nothing) {
+  if (fault.kind == call_fault::does_nothing)
     return name == "write_some" || name == "replace" ? result{} : call();
-  }
   // A failing close or remove still takes effect, and a failing write writes a part.
   const bool fails_late = name == "close_file" || name == "remove_file" || name == "write_some";
   if (fault.kind == call_fault::lies || (fault.kind == call_fault::fails && fails_late)) {
@@ -40,52 +38,34 @@ auto record(std::string_view name, const auto& call) {
   return static_cast<result>(fault.kind == call_fault::interrupted ? -EINTR : -fault.reason);
 }
 
-struct call_name {
-  char text[20] = {};
-  constexpr call_name(const char* name) { std::copy_n(name, std::string_view(name).size(), text); }
-};
-
 // Reads and writes move a part of the bytes asked for.
 auto& passed(auto& argument) { return argument; }
 std::size_t passed(std::size_t& count) { return std::min((count + 1) / 2, current->max_bytes); }
 
-using table = files::system_call_table;
+template <auto Member>
+std::string_view name_of;
 
-template <call_name Name, auto Member>
-struct counted;
-template <call_name Name, typename Result, typename... Args,
-          files::system_call<Result(Args...)> table::*Member>
-struct counted<Name, Member> {
-  static Result call(Args... args) {
-    return record(Name.text, [&] { return (real.*Member)(passed(args)...); });
-  }
-  static void put_into(table& all) { all.*Member = call; }
-};
-
-template <typename... Calls>
-table table_of() {
-  table all = real;
-  // Else no read or write would be left to fail.
-  all.copy_some = +[](int, int, std::size_t) -> std::int64_t { return -ENOSYS; };
-  (Calls::put_into(all), ...);
-  return all;
+// Has a call of the table recorded under this name.
+template <auto Member>
+void count(std::string_view name) {
+  name_of<Member> = name;
+  files::system_calls.*Member = {[](auto... args) {
+    return record(name_of<Member>, [&] { return (real.*Member)(passed(args)...); });
+  }};
 }
-
-#define COUNTED(name) counted<#name, &table::name>
-
-const table counted_calls =
-    table_of<COUNTED(open_to_read), COUNTED(open_to_write), COUNTED(open_new), COUNTED(open_lock),
-             COUNTED(read_some), COUNTED(write_some), COUNTED(seek_to), COUNTED(set_size),
-             COUNTED(info_of), COUNTED(info_at), COUNTED(copy_permissions), COUNTED(lock),
-             COUNTED(flush_to_disk), COUNTED(close_file), COUNTED(remove_file), COUNTED(replace),
-             COUNTED(flush_folder), COUNTED(list)>();
 
 }  // namespace
 
 failing_calls::failing_calls(int number, call_fault with, std::string name)
     : at(number), fault(with), failing_name(std::move(name)) {
   current = this;
-  files::system_calls = counted_calls;
+  // Else no read or write would be left to fail.
+  files::system_calls.copy_some = +[](int, int, std::size_t) -> std::int64_t { return -ENOSYS; };
+#define COUNT(name) count<&files::system_call_table::name>(#name)
+  COUNT(open_to_read), COUNT(open_to_write), COUNT(open_new), COUNT(open_lock), COUNT(read_some),
+      COUNT(write_some), COUNT(seek_to), COUNT(set_size), COUNT(info_of), COUNT(info_at),
+      COUNT(copy_permissions), COUNT(lock), COUNT(flush_to_disk), COUNT(close_file),
+      COUNT(remove_file), COUNT(replace), COUNT(flush_folder), COUNT(list);
 }
 
 failing_calls::~failing_calls() {

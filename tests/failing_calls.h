@@ -25,14 +25,11 @@ struct call_fault {
 
 // During its lifetime the tool's file calls are recorded, and call `at`, or the first or all of one
 // name, fail. Reads and writes move half of the bytes asked for.
-class failing_calls {
- public:
+struct failing_calls {
   explicit failing_calls(int at = INT32_MAX, call_fault with = {.kind = call_fault::kills},
                          std::string name = "");
   failing_calls(std::string name, int reason)
       : failing_calls(INT32_MAX, {.reason = reason, .lasting = true}, std::move(name)) {}
-  failing_calls(const failing_calls&) = delete;
-  failing_calls& operator=(const failing_calls&) = delete;
   ~failing_calls();
 
   bool happened() const { return static_cast<int>(calls.size()) > at; }

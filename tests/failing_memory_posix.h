@@ -12,8 +12,6 @@ namespace ostrane {
 // too, unless they fit in what was freed since.
 struct failing_memory {
   failing_memory(long at, bool lasting) : calls_left(at), is_lasting(lasting) { current = this; }
-  failing_memory(const failing_memory&) = delete;
-  failing_memory& operator=(const failing_memory&) = delete;
   ~failing_memory() { current = nullptr; }
 
   bool fails(std::size_t size) {
@@ -22,6 +20,12 @@ struct failing_memory {
     const bool fits = size <= freed;
     if (fits) freed -= size;
     return !fits;
+  }
+
+  // The memory, or null.
+  static void* allocated(std::size_t size) noexcept {
+    const bool fails_now = current != nullptr && current->fails(size);
+    return fails_now ? nullptr : std::malloc(size > 0 ? size : 1);
   }
 
   static inline failing_memory* current = nullptr;
@@ -34,9 +38,7 @@ struct failing_memory {
 }  // namespace ostrane
 
 void* operator new(std::size_t size) {
-  auto* const failing = ostrane::failing_memory::current;
-  const bool fails = failing != nullptr && failing->fails(size);
-  void* memory = fails ? nullptr : std::malloc(size > 0 ? size : 1);
+  void* const memory = ostrane::failing_memory::allocated(size);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
@@ -47,11 +49,7 @@ void operator delete(void* memory) noexcept {
 }
 // Sanitizers have their own other operators, which would not call those above.
 void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
-  try {
-    return operator new(size);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
+  return ostrane::failing_memory::allocated(size);
 }
 void* operator new[](std::size_t size) { return operator new(size); }
 void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
