@@ -1,4 +1,3 @@
-#include "failing_calls.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -30,8 +29,8 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
                                                     {named, archive_bytes(entries)}};
   for (const auto& [files, archive] : cases) {
     restart_with(files);
-    std::error_code none;
-    fs::permissions(disk_path("C:\\work\\ostrane.dat"), fs::perms::owner_read, none);
+    for (const auto& [name, bytes] : files)
+      fs::permissions(disk_path("C:\\work\\" + name), fs::perms::owner_read);
     build_in();
     EXPECT_EQ(new_messages().back(), success + "C:\\work\\ostrane.dat");
     EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive);
@@ -43,7 +42,6 @@ TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
 TEST_F(builder_test, AFailedBuildChangesNothing) {
   const fs::path b = disk_path("C:\\work\\b.txt");
   const auto remove_b = [&] { fs::remove(b); };
-  const auto enlarge_b = [&] { fs::resize_file(b, 2147483647); };
   const auto append_to_b = [&] { std::ofstream(b) << "longer"; };
   const auto type_no_drive = [] { user::type(Form5.Text1, "Q:\\"); };
   const auto make_lock_folder = [] { make_folder("C:\\work\\.OSTRANE.DAT.lock"); };
@@ -52,7 +50,7 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
       {remove_b, nothing, "C:\\work\\b.txt cannot be read: it is not there."},
       {nothing, remove_b, "C:\\work\\b.txt cannot be opened: it is not there."},
       {nothing, append_to_b, "C:\\work\\b.txt has changed its size during the copy."},
-      {enlarge_b, nothing,
+      {[&] { fs::resize_file(b, 2147483647); }, nothing,
        "C:\\work\\b.txt does not fit: the archive would be larger than 2 GB, which is the most "
        "that it can be."},
       {type_no_drive, nothing, "Q:\\ cannot be found: there is no such drive."},
@@ -83,9 +81,8 @@ TEST_F(builder_test, AFailedBuildChangesNothing) {
 // The list of files is still that of the other folder.
 TEST_F(builder_test, FindsTheListedFilesInATypedFolderInAnyCase) {
   restart_with({{"a.txt", "listed"}, {"b.txt", "listed"}});
-  for (const char* name : {"A.TXT", "b.txt", "c.txt"}) {
+  for (const char* name : {"A.TXT", "b.txt", "c.txt"})
     write("C:\\typed\\" + std::string(name), name);
-  }
   open_build_dialog();
   user::type(Form5.Text1, "C:\\typed");
   user::click(Form5.Command1);

@@ -1,13 +1,11 @@
-#include "failing_calls.h"
-#include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 #include "test_screen.h"
 
 namespace ostrane {
-namespace {
 
 struct context_menu_test : icon_test {
-  // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, refused and blank.
+  // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, refused and blank. The rows are
+  // GAME.PAL, N.TXT, F1.SHP, F2.SHP, F3.SHP and the end.
   static void show_second_series() {
     reset_drives();
     restart();
@@ -18,131 +16,152 @@ struct context_menu_test : icon_test {
     std::vector<shp_icon> second = plain_icons(9, 1, 1);
     second[4] = refused_icon(1, 1);
     second[5] = blank_icon(1, 1);
-    show({plain_icons(9, 1, 1), second});
+    show({plain_icons(9, 1, 1), second, plain_icons(1, 1, 1)});
     user::click(Form1.Command6);
     new_messages();
   }
 
-  // Opens a menu, picks an item and types a file name. Returns "+" or "-" for each enabled or
-  // disabled item, the proposed name, the names of the files, and the messages.
-  static std::string pick(const std::function<void()>& open, std::size_t item, const char* typed,
-                          std::size_t kind) {
-    std::string seen;
-    test_screen answers;
-    answers.pick = [&](const forms_layer::context_menu& opened) {
-      for (const auto* offered : opened.items) seen += offered->Enabled() ? "+" : "-";
-      return opened.items.at(item);
-    };
-    answers.save = [&](const forms_layer::save_question& question) {
-      seen += " " + question.stem + question.kinds.at(kind).ending;
-      const fs::path path = *typed == '\0' ? fs::path() : root / "d" / "out" / typed;
-      return forms_layer::save_answer{path, kind};
-    };
-    answers.copied = [&](const forms_layer::picture_box& box) {
-      seen += " copied " + std::to_string(forms_layer::blue_of(box.pixel(0, 0)));
-    };
-    open();
-    for (const auto& [name, bytes] : files_in("D:\\out")) seen += " " + name;
-    for (const std::string& message : new_messages()) seen += " <" + message + ">";
-    return seen;
+  static void show_odd_icons() { click_row("F2.SHP"), user::click(Form1.Command6), new_messages(); }
+  static void use_other_colours() { tool_state.colour_table[4] = forms_layer::rgb('R', 'G', 'B'); }
+  // Other names of the archive.
+  static void link_names() {
+    for (const char* name : {"a-0005.png", "all.json", "text"})
+      fs::create_hard_link(disk_path("C:\\ostrane.dat"), root / "d" / "out" / name);
   }
+  static void select_several() { user::select_rows(Form1.List1, {1, 4, 5}); }
+  static void select_beside_text() { write("D:\\out\\N.TXT", "old"), select_several(); }
+  static void select_beside_png() { write("D:\\out\\F3-0001.png", "old"), select_several(); }
+  static void close_archive() { open_archive("D:\\"), new_messages(); }
 };
 
-void on_slot(std::int32_t slot) { user::open_menu(Form1.s16_image, slot); }
-void on_first() { on_slot(1); }
-void on_second() { on_slot(2); }
 void on_row() { user::open_menu(Form1.List1, 1); }
-void on_end_record() { user::open_menu(Form1.List1, 4); }
-void in_other_colours() {
-  tool_state.colour_table[4] = forms_layer::rgb('R', 'G', 'B');
-  on_second();
-}
-void show_odd_icons() { click_row("F2.SHP"), user::click(Form1.Command6), new_messages(); }
-void on_refused() { show_odd_icons(), on_slot(1); }
-void on_blank() { show_odd_icons(), on_slot(3); }
-void under_text() { click_row("N.TXT"), on_slot(1); }
-void on_swatch() { click_row("GAME.PAL"), on_slot(1); }
-// Other names of the archive.
-void link_names() {
-  for (const char* name : {"a-0005.png", "all.json", "text"}) {
-    fs::create_hard_link(disk_path("C:\\ostrane.dat"), root / "d" / "out" / name);
-  }
-}
-void on_first_beside_links() { link_names(), on_first(); }
-void on_row_beside_links() { link_names(), on_row(); }
-void after_change() { change_archive(), on_slot(1); }
-void on_row_after_change() { change_archive(), on_row(); }
+void on_end_record() { user::open_menu(Form1.List1, 5); }
+void press_ctrl_e() { user::press(Form1, Form1.keys[8]); }
+void drag_selected() { user::drag_rows(Form1.List1, 1); }
+void drag_other() { user::drag_rows(Form1.List1, 3); }
 void on_row_during_changes() {
   write("D:\\out\\text", "old");
   failing_calls watched;
   watched.before("read_some", change_archive);
   on_row();
 }
-void without_archive() { open_archive("D:\\"), new_messages(), on_slot(1); }
+void on_first() { user::open_menu(Form1.s16_image, 1); }
+void on_second() { user::open_menu(Form1.s16_image, 2); }
+void on_third() { user::open_menu(Form1.s16_image, 3); }
 
+TEST_F(context_menu_test, IsOfTheSelectedRows) {
+  show_second_series();
+  const std::string one = "Extract this entry\x85|";
+  const std::string three = "Extract 3 entries\x85|Export 3 entries as pictures\x85|";
+  const std::tuple<std::vector<std::int32_t>, std::int32_t, std::string> cases[] = {
+      {{1, 2, 3}, 2, three}, {{1, 2, 3, 5}, 5, three}, {{1, 2, 3}, 0, one},
+      {{1}, 1, one},         {{3, 5}, 3, one},         {{3, 9}, 3, one},
+  };
+  test_screen answers;
+  for (const auto& [rows, row, captions] : cases) {
+    user::select_row(Form1.List1, 2);
+    user::select_rows(Form1.List1, rows);
+    user::open_menu(Form1.List1, row);
+    EXPECT_EQ(std::exchange(answers.captions, ""), captions) << rows.size();
+    EXPECT_EQ(Form1.List1.ListIndex(), 2);
+  }
+  user::select_row(Form1.List1, 2);
+  EXPECT_TRUE(Form1.List1.SelectedRows().empty());
+  EXPECT_EQ(new_messages(), texts{});
+}
+
+// No file is replaced by several entries.
 TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
   if (make_icon_exporter() == nullptr) GTEST_SKIP() << "built without libpng and giflib";
+  EXPECT_EQ(Form1.keys[8].name, "Ctrl+E");
   const std::string changed =
       " <C:\\ostrane.dat has changed since it was read. Read it again. The ";
+  const std::string no_icons =
+      "The pictures were exported, with these exceptions:\n>N.TXT<: it is no icon file";
+  const std::string ends_in = " <The name of the file must end in \".png";
   const auto refused = [](const std::string& name) {
     return " a-0005.png all.json text <D:\\out\\" + name +
            " cannot be written: it is the open archive. The series was not saved.>";
   };
   const struct {
+    std::function<void()> prepare;
     void (*open)();
-    std::size_t item;
-    const char* typed;
-    std::size_t kind;
+    std::size_t item;   // of the menu
+    const char* typed;  // the name of the file
+    std::size_t kind;   // of the file
+    // "+" or "-" for each enabled or disabled item, the proposed name, the files, and the messages.
     std::string seen;
     std::string held = {};  // bytes in one of the files
   } cases[] = {
-      {on_second, 0, "", 0, "+++ copied 4"},
-      {on_second, 1, "", 0, "+++ F1-0005.png"},
-      {on_second, 1, "p.PNG", 0, "+++ F1-0005.png p.PNG", "\x89PNG"},
-      {in_other_colours, 1, "p.png", 0, "+++ F1-0005.png p.png", "RGB"},
-      {on_second, 2, "all.png", 0, "+++ F1-sheet.png all.json all.png", "\"duration\":70"},
-      {on_second, 2, "all.PNG", 0, "+++ F1-sheet.png all.PNG all.json", "\"image\":\"all.PNG\""},
-      {on_first, 2, "a-0001.png", 0, "+++ F1-sheet.png a-0004.png a-0005.png a-0006.png a.json",
-       "{\"number\":4,"},
-      {on_first, 2, "b.png", 1, "+++ F1-0004.png b-0004.png b-0005.png b-0006.png b.json",
+      {nothing, on_second, 0, "", 0, "+++ copied 4"},
+      {nothing, on_second, 1, "", 0, "+++ F1-0005.png"},
+      {nothing, on_second, 1, "p.PNG", 0, "+++ F1-0005.png p.PNG", "\x89PNG"},
+      {use_other_colours, on_second, 1, "p.png", 0, "+++ F1-0005.png p.png", "RGB"},
+      {nothing, on_second, 2, "all.png", 0, "+++ F1-sheet.png all.json all.png", "\"duration\":70"},
+      {nothing, on_second, 2, "all.PNG", 0, "+++ F1-sheet.png all.PNG all.json",
+       "\"image\":\"all.PNG\""},
+      {nothing, on_first, 2, "a-0001.png", 0,
+       "+++ F1-sheet.png a-0004.png a-0005.png a-0006.png a.json", "{\"number\":4,"},
+      {nothing, on_first, 2, "b.png", 1, "+++ F1-0004.png b-0004.png b-0005.png b-0006.png b.json",
        "\"b-0004.png\""},
-      {on_first, 2, "m.GIF", 2, "+++ F1.gif m.GIF", std::string("\x21\xF9\x04\x08\x07\0", 6)},
-      {on_first, 1, "m.gif", 0,
-       "+++ F1-0004.png <The name of the file must end in \".png\". The picture was not saved.>"},
-      {on_first, 2, "s.bmp", 0,
-       "+++ F1-sheet.png <The name of the file must end in \".png\" or \".gif\". The series was "
-       "not "
-       "saved.>"},
-      {on_refused, 2, "r.gif", 2,
+      {nothing, on_first, 2, "m.GIF", 2, "+++ F1.gif m.GIF",
+       std::string("\x21\xF9\x04\x08\x07\0", 6)},
+      {nothing, on_first, 1, "m.gif", 0,
+       "+++ F1-0004.png" + ends_in + "\". The picture was not saved.>"},
+      {nothing, on_first, 2, "s.bmp", 0,
+       "+++ F1-sheet.png" + ends_in + "\" or \".gif\". The series was not saved.>"},
+      {show_odd_icons, on_first, 2, "r.gif", 2,
        "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 5 was "
        "skipped: its box ends outside its picture>"},
-      {on_blank, 0, "", 0, ""},
-      {on_row, 0, "text", 0, "+ N.TXT text", "text"},
-      {on_end_record, 0, "", 0, ""},
-      {under_text, 0, "", 0, ""},
-      {on_swatch, 0, "", 0, ""},
-      {after_change, 1, "p.png", 0, "+++ F1-0004.png" + changed + "picture was not saved.>"},
-      {on_row_after_change, 0, "text", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
-      {on_row_during_changes, 0, "text", 0,
+      {show_odd_icons, on_third, 0, "", 0, ""},
+      {nothing, on_row, 0, "text", 0, "+ N.TXT text", "text"},
+      {nothing, on_end_record, 0, "", 0, ""},
+      {[] { click_row("N.TXT"); }, on_first, 0, "", 0, ""},
+      {[] { click_row("GAME.PAL"); }, on_first, 0, "", 0, ""},
+      {change_archive, on_first, 1, "p.png", 0,
+       "+++ F1-0004.png" + changed + "picture was not saved.>"},
+      {change_archive, on_row, 0, "text", 0, "+ N.TXT" + changed + "entry was not extracted.>"},
+      {nothing, on_row_during_changes, 0, "text", 0,
        "+ N.TXT text <The archive was written to during the extraction. Start the extraction "
-       "again. The "
-       "entry was not extracted.>",
+       "again. The entry was not extracted.>",
        "old"},
-      {on_first_beside_links, 2, "a-0001.png", 0, "+++ F1-sheet.png" + refused("a-0005.png")},
-      {on_first_beside_links, 2, "all.png", 0, "+++ F1-sheet.png" + refused("all.json")},
-      {on_row_beside_links, 0, "text", 0,
+      {link_names, on_first, 2, "a-0001.png", 0, "+++ F1-sheet.png" + refused("a-0005.png")},
+      {link_names, on_first, 2, "all.png", 0, "+++ F1-sheet.png" + refused("all.json")},
+      {link_names, on_row, 0, "text", 0,
        "+ N.TXT a-0005.png all.json text <This entry was not extracted:\n>N.TXT<: its file cannot "
        "be written: it is the open archive>"},
-      {without_archive, 0, "", 0, "+-- copied 3"},
+      {close_archive, on_first, 0, "", 0, "+-- copied 3"},
+      {select_several, on_row, 0, "", 0, "++ F3.SHP N.TXT", "text"},
+      {select_several, press_ctrl_e, 0, "", 0, " F3.SHP N.TXT"},
+      {select_several, drag_selected, 0, "", 0, " F3.SHP N.TXT"},
+      {select_several, drag_other, 0, "", 0, " F2.SHP"},
+      {select_beside_text, on_row, 0, "", 0,
+       "++ F3.SHP N.TXT <These entries were not extracted:\n>N.TXT<: its file cannot be made: it "
+       "is "
+       "there already>",
+       "old"},
+      {select_several, on_row, 1, "", 0, "++ F3-0001.png F3.json <" + no_icons + ">"},
+      {select_beside_png, on_row, 1, "", 0,
+       "++ F3-0001.png <" + no_icons +
+           "\n>F3.SHP<: D:\\out\\F3-0001.png cannot be written: it is there already.>",
+       "old"},
   };
   for (const auto& c : cases) {
     show_second_series();
-    EXPECT_EQ(pick(c.open, c.item, c.typed, c.kind), c.seen);
+    c.prepare();
+    test_screen answers;
+    answers.item = c.item;
+    answers.kind = c.kind;
+    answers.folder = answers.dropped_in = root / "d" / "out";
+    if (*c.typed != '\0') answers.file = root / "d" / "out" / c.typed;
+    c.open();
+    for (const auto& [name, bytes] : files_in("D:\\out")) answers.seen += " " + name;
+    for (const std::string& message : new_messages()) answers.seen += " <" + message + ">";
+    EXPECT_EQ(answers.seen, c.seen);
     std::string all;
     for (const auto& [name, bytes] : files_in("D:\\out")) all += bytes;
     EXPECT_NE(all.find(c.held), std::string::npos) << c.typed;
   }
 }
 
-}  // namespace
 }  // namespace ostrane

@@ -63,9 +63,8 @@ TEST_F(dialogs_test, ReloadsItsLists) {
     for (const auto& ask : ways) {
       const auto folders = form.Dir1.ListCount();
       make_folder("D:\\Sub\\Deep\\Came");
-      for (const char* name : {"a.txt", "oStrane.dat", "ostrane.data", "b.txt.x"}) {
+      for (const char* name : {"a.txt", "oStrane.dat", "ostrane.data", "b.txt.x"})
         write(std::string("D:\\Sub\\Deep\\") + name, "");
-      }
       ask();
       EXPECT_EQ(form.Dir1.ListCount(), folders + 1);
       EXPECT_EQ(form.File1.ListCount(), field != nullptr ? 4 : 1);

@@ -1,3 +1,4 @@
+#include "handlers/entry_details.h"
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -9,7 +10,7 @@ static void write_icon_names(const std::string& lines) {
   restart();
 }
 
-using entry_selection_test = tool_test;
+using entry_selection_test = icon_test;
 
 // The name, what a click and a double click show, and the number of messages about an unknown kind.
 TEST_F(entry_selection_test, ShowsEachKindByItsExtension) {
@@ -97,9 +98,9 @@ TEST_F(entry_selection_test, ShowsTheBuiltInColoursAsSwatches) {
   std::uint32_t sum = 0;
   for (std::int32_t i = 0; i < 256; ++i) {
     const forms_layer::picture_box& swatch = Form1.s16_image(i + 1);
-    EXPECT_TRUE(swatch.Visible() && swatch.Width() == 400 && swatch.Height() == 260 &&
-                swatch.Left() == 440 + 440 * (i % 16) && swatch.Top() == 800 + 300 * (i / 16))
-        << i;
+    EXPECT_TRUE(swatch.Visible() && swatch.Width() == 400 && swatch.Height() == 260) << i;
+    EXPECT_EQ(swatch.Left() - 440, 440 * (i % 16));
+    EXPECT_EQ(swatch.Top() - 800, 300 * (i / 16));
     sum = 31 * sum + swatch.BackColor();
   }
   EXPECT_EQ(sum, 0xDCE76EF8);
@@ -123,6 +124,17 @@ TEST_F(entry_selection_test, IconsAndSwatchesResetTheSlots) {
   EXPECT_FALSE(slot(2).Visible());
   EXPECT_EQ(slot(2).ToolTipText(), icon_tool_tip);
   EXPECT_EQ(tool_state.slots_loaded, 300);
+}
+
+TEST_F(entry_selection_test, FindsRowsByNameAndDescription) {
+  write_icon_names("n;A green Lake\r\n");
+  show({plain_icons(2, 1, 1), plain_icons(1, 1, 1)});  // GAME.PAL, N.TXT, F1.SHP, F2.SHP, end
+  const std::pair<const char*, std::vector<std::int32_t>> cases[] = {
+      {"shp", {2, 3}}, {"LAKE", {1}}, {"a", {0, 1}}, {"", {}}, {"txtA", {}}, {"zz", {}}};
+  for (const auto& [text, rows] : cases) EXPECT_EQ(rows_with(text), rows) << text;
+  EXPECT_EQ(entry_tool_tip(1), "N.TXT: 4 bytes at 1113, text");
+  EXPECT_EQ(entry_tool_tip(2).substr(0, 7) + entry_tool_tip(2).substr(26), "F1.SHP:icons, 2 icons");
+  EXPECT_EQ(entry_tool_tip(4) + entry_tool_tip(-1), "");
 }
 
 }  // namespace ostrane

@@ -1,5 +1,4 @@
 
-#include "failing_calls.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -73,11 +72,10 @@ TEST_F(extraction_test, WritesOneFileForNamesThatDifferInCase) {
 
 // The dialog stays, and no folder is made.
 TEST_F(extraction_test, WritesNothingWithoutAFolderOrAnArchive) {
-  const auto close_archive = [] { open_archive("C:\\program"); };
   const auto misplace = [] { open_bytes(index_bytes(2, {{-1, "A"}, {9, ""}})); };
   const std::tuple<const char*, std::function<void()>, std::string> cases[] = {
       {"E:\\", nothing, "The folder E:\\ is not there. Make it or choose another."},
-      {"D:\\", close_archive, "No archive is open. Read one first."},
+      {"D:\\", [] { open_archive("C:\\program"); }, "No archive is open. Read one first."},
       {"D:\\", misplace, "The index of C:\\ostrane.dat puts entries before the file."},
       {"D:\\", change_archive, "C:\\ostrane.dat has changed since it was read. Read it again."},
   };

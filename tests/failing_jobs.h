@@ -3,7 +3,6 @@
 #include <set>
 
 #include "complete_files.h"
-#include "icon_fixture.h"
 #include "pictures/icon_exporter.h"
 #include "test_screen.h"
 
@@ -42,7 +41,7 @@ struct failing_disk_test : tool_test {
     write("C:\\Shiplist-compare.txt", "old");
     write("D:\\lists\\ships.txt", "X\r\n\r\n");
     restart("D:\\lists");
-    tool_state.export_icons = make_icon_exporter();
+    start_tool(root / "c" / "program", make_icon_exporter());
     open_bytes(archive);
     new_messages();
     job.open_dialog();
@@ -75,14 +74,12 @@ struct failing_disk_test : tool_test {
   }
 
   test_screen answers;
-  // Shows icons, and answers with this menu item and this file to save.
-  std::function<void()> answering(forms_layer::menu_item& item, const char* name) {
-    return [this, &item, name] {
+  // Shows icons, and answers with this item of a menu and this file to save.
+  std::function<void()> answering(std::size_t item, const char* name) {
+    return [this, item, name] {
       click_row("I.SHP");
-      answers.pick = [&item](const auto&) { return &item; };
-      answers.save = [name](const auto&) {
-        return forms_layer::save_answer{root / "d" / "work" / name};
-      };
+      answers.item = item;
+      answers.file = root / "d" / "work" / name;
     };
   }
 
@@ -110,12 +107,12 @@ struct failing_disk_test : tool_test {
       {{"C:\\ostrane.dat"}, nothing, [] { click_row("A.TXT"); }},
       {{"C:\\ostrane.dat"}, nothing, [] { click_row("I.SHP"); }},
       {{"not extracted"},
-       answering(Form1.mnu_extract_entry, "Ostrane.dat"),
+       answering(0, "Ostrane.dat"),
        [] { user::open_menu(Form1.List1, 0); },
        false,
        true},
       {{" The series was not saved."},
-       answering(Form1.mnu_save_series, "i-0001.png"),
+       answering(2, "i-0001.png"),
        [] { user::open_menu(Form1.s16_image, 2); }},
   };
 };

@@ -1,6 +1,4 @@
-#include "files/binary_file.h"
 #include "files/code_page.h"
-#include "files/file_error.h"
 #include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/paths.h"
@@ -43,36 +41,51 @@ TEST_F(files_test, MatchesPatternsIgnoringCase) {
 }
 
 // Blocks from the buffer and blocks that bypass it, each followed by steps to offsets inside and
-// outside the buffer, which is 262144 bytes long.
+// outside the buffer, which is 262144 bytes long. The second time the system copies a half, then a
+// half of the rest, and then refuses.
 TEST_F(files_test, CopiesBlocksAndSeeks) {
+  static int calls = 0;
+  static const files::system_call_table real = files::system_calls;
   const std::string bytes = some_bytes(1000000);
   write("C:\\from", bytes);
-  files::binary_file from;
-  files::binary_file to;
-  from.open_to_read(files::to_file_path("C:\\from"));
-  files::file_writer writer(to, files::to_file_path("C:\\to"));
-  std::string expected;
-  std::size_t at = 0;
-  for (const std::size_t size : {100U, 700000U, 5000U, 4095U, 4096U, 1U, 200000U, 0U}) {
-    for (std::size_t left = size; left > 0;) left -= to.write_from(from, left);
-    expected += bytes.substr(at, size);
-    at += size;
-    const std::size_t back = at > 262144 ? at - 262144 : 0;
-    for (const std::size_t other : {back, back + 9, std::size_t{10}, at}) {
-      for (const std::size_t count : {std::size_t{9}, std::size_t{300000}}) {
-        from.seek(static_cast<std::int64_t>(other));
-        std::string got(count, ' ');
-        got.resize(from.read(std::as_writable_bytes(std::span(got))));
-        ASSERT_TRUE(got == bytes.substr(other, count)) << other << " " << count;
-      }
+  for (const bool refuses : {false, true}) {
+    if (refuses) {
+      files::system_calls.copy_some = +[](int from, int to, std::size_t count) -> std::int64_t {
+        std::vector<std::byte> half(count / 2);
+        if (++calls == 3) return -EXDEV;
+        const std::int64_t size = real.read_some(from, half.data(), half.size());
+        return real.write_some(to, half.data(), static_cast<std::size_t>(size));
+      };
     }
-    from.seek(static_cast<std::int64_t>(back));
-    to.write(from.next(9));
-    expected += bytes.substr(back, 9);
-    from.seek(static_cast<std::int64_t>(at));
+    files::binary_file from;
+    files::binary_file to;
+    from.open_to_read(files::to_file_path("C:\\from"));
+    files::file_writer writer(to, files::to_file_path("C:\\to"));
+    std::string expected;
+    std::size_t at = 0;
+    for (const std::size_t size : {100U, 700000U, 5000U, 4095U, 4096U, 1U, 200000U, 0U}) {
+      for (std::size_t left = size; left > 0;) left -= to.write_from(from, left);
+      expected += bytes.substr(at, size);
+      at += size;
+      const std::size_t back = at > 262144 ? at - 262144 : 0;
+      for (const std::size_t other : {back, back + 9, std::size_t{10}, at}) {
+        for (const std::size_t count : {std::size_t{9}, std::size_t{300000}}) {
+          from.seek(static_cast<std::int64_t>(other));
+          std::string got(count, ' ');
+          got.resize(from.read(std::as_writable_bytes(std::span(got))));
+          ASSERT_TRUE(got == bytes.substr(other, count)) << other << " " << count;
+        }
+      }
+      from.seek(static_cast<std::int64_t>(back));
+      to.write(from.next(9));
+      expected += bytes.substr(back, 9);
+      from.seek(static_cast<std::int64_t>(at));
+    }
+    writer.keep();
+    EXPECT_TRUE(read("C:\\to") == expected);
   }
-  writer.keep();
-  EXPECT_TRUE(read("C:\\to") == expected);
+  files::system_calls = real;
+  EXPECT_EQ(calls, 3);
 }
 
 TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
@@ -91,21 +104,19 @@ TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
 // FAT numbers a file anew when it is renamed.
 TEST_F(files_test, ReplacesAFileWhoseIdentityARenameChanges) {
   static const files::system_call_table real = files::system_calls;
-  static std::uint64_t renames;
-  renames = 0;
+  static std::uint64_t renames = 0;
   files::system_calls.replace = +[](const fs::path& file, const fs::path& target) {
     ++renames;
     return real.replace(file, target);
   };
-  files::system_calls.info_of = +[](int file, files::file_info& info) {
-    const int status = real.info_of(file, info);
+  static const auto renumbered = [](int status, files::file_info& info) {
     info.stamp.identity.number += renames;
     return status;
   };
+  files::system_calls.info_of =
+      +[](int file, files::file_info& info) { return renumbered(real.info_of(file, info), info); };
   files::system_calls.info_at = +[](const fs::path& path, files::file_info& info) {
-    const int status = real.info_at(path, info);
-    info.stamp.identity.number += renames;
-    return status;
+    return renumbered(real.info_at(path, info), info);
   };
   restart_with({{"a.txt", "a"}, {"ostrane.dat", "old"}});
   build_in();

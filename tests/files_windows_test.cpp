@@ -2,8 +2,6 @@
 
 #include <thread>
 
-#include "files/binary_file.h"
-#include "files/file_error.h"
 #include "files/file_writer.h"
 #include "files/paths.h"
 #include "tool_fixture.h"
@@ -12,24 +10,13 @@ namespace ostrane {
 
 using files_windows_test = tool_test;
 
-// Another program that has a file open. It lets others do only what `shared` allows.
-class other_program {
- public:
-  other_program(const fs::path& path, DWORD shared)
-      : file_(CreateFileW(path.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, 0, nullptr)) {
-    EXPECT_NE(file_, INVALID_HANDLE_VALUE);
-  }
-  other_program(const other_program&) = delete;
-  other_program& operator=(const other_program&) = delete;
-  ~other_program() { close(); }
-  void close() {
-    if (std::exchange(is_open_, false)) CloseHandle(file_);
-  }
-
- private:
-  HANDLE file_;
-  bool is_open_ = true;
-};
+// Opens a file as another program, which lets others do only what `shared` allows.
+static std::shared_ptr<void> opened_elsewhere(const fs::path& path, DWORD shared) {
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_NE(file, INVALID_HANDLE_VALUE);
+  return {file, [](HANDLE opened) { CloseHandle(opened); }};
+}
 
 const std::string new_archive = archive_bytes({{"A.TXT", "a"}});
 
@@ -51,34 +38,29 @@ TEST_F(files_windows_test, FilesThatOtherProgramsHold) {
   const std::string in_use =
       "C:\\work\\OSTRANE.DAT cannot be written: it is in use. No new archive "
       "was made.";
-  const struct {
-    DWORD shared;
-    bool can_read, is_closed_soon;
-  } cases[] = {{FILE_SHARE_READ, true, false}, {0, false, false}, {FILE_SHARE_READ, true, true}};
-  for (const auto& [shared, can_read, is_closed_soon] : cases) {
+  const std::pair<DWORD, bool> cases[] = {
+      {FILE_SHARE_READ, false}, {0, false}, {FILE_SHARE_READ, true}};
+  for (const auto& [shared, is_closed_soon] : cases) {
+    const bool can_read = shared != 0;
     SCOPED_TRACE(testing::Message() << shared << is_closed_soon);
     restart_with({{"a.txt", "a"}, {"ostrane.dat", new_archive}});
-    other_program game(disk_path("C:\\work\\ostrane.dat"), shared);
+    auto game = opened_elsewhere(disk_path("C:\\work\\ostrane.dat"), shared);
     open_archive("C:\\work");
     EXPECT_EQ(Form1.List1.ListCount(), can_read ? 2 : 0);
     if (!can_read) {
       EXPECT_EQ(new_messages(), texts{"C:\\work\\ostrane.dat cannot be opened: it is in use."});
       user::click(Form2.Command2);
     }
-    new_messages();
-    std::thread closing;
-    if (is_closed_soon) {
-      closing = std::thread([&game] {
-        Sleep(150);
-        game.close();
-      });
-    }
+    std::thread closing([&game, soon = is_closed_soon] {
+      Sleep(150);
+      if (soon) game.reset();
+    });
     write("C:\\work\\a.txt", "new");
-    build_in("C:\\work");
-    if (closing.joinable()) closing.join();
+    build_in();
+    closing.join();
     const texts messages = new_messages();
     EXPECT_EQ(messages == texts{in_use}, !is_closed_soon) << messages.front();
-    game.close();
+    game.reset();
     EXPECT_TRUE(read("C:\\work\\ostrane.dat") ==
                 (is_closed_soon ? archive_bytes({{"A.TXT", "new"}}) : new_archive));
     EXPECT_EQ(names_in("C:\\work").size(), 2U);
@@ -86,13 +68,11 @@ TEST_F(files_windows_test, FilesThatOtherProgramsHold) {
 }
 
 TEST_F(files_windows_test, PathsLongerThan260Characters) {
-  std::string folder = "C:\\";
-  for (int i = 0; i < 9; ++i) {
-    folder += std::string(40, static_cast<char>('a' + i));
+  std::string folder = "C:";
+  for (char name = 'a'; name < 'j'; ++name) {
+    folder += '\\' + std::string(40, name);
     fs::create_directory(files::for_system(disk_path(folder)));
-    folder += '\\';
   }
-  folder.pop_back();
   ASSERT_GT(folder.size(), 360U);
   std::ofstream(files::for_system(disk_path(folder + "\\a.txt"))) << "a";
   build_in(folder);
@@ -112,7 +92,7 @@ TEST_F(files_windows_test, KeepsAttributes) {
     restart_with({{"a.txt", "a"}, {"ostrane.dat", "old"}});
     const fs::path archive = disk_path("C:\\work\\OSTRANE.DAT");
     SetFileAttributesW(archive.c_str(), attributes);
-    build_in("C:\\work");
+    build_in();
     EXPECT_TRUE(bytes_of(archive) == new_archive);
     EXPECT_EQ(GetFileAttributesW(archive.c_str()) & ~DWORD{FILE_ATTRIBUTE_ARCHIVE}, attributes);
     SetFileAttributesW(archive.c_str(), FILE_ATTRIBUTE_NORMAL);

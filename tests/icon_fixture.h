@@ -68,23 +68,24 @@ struct icon_test : tool_test {
     return std::to_string(forms_layer::blue_of(colour));
   }
 
-  // The number of icons, those of the series, and the visible slots with their first pixels.
-  static std::string view() {
-    std::string text = Form1.Text2.Text() + ":" + Form1.Text3.Text() + ":";
+  // What is said of each visible slot.
+  static std::string of_slots(const std::function<std::string(std::int32_t index)>& said) {
+    std::string text;
     for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
-      if (slot(i).Visible()) text += " " + std::to_string(i) + "=" + cell(i, 0, 0);
+      if (slot(i).Visible()) text += " " + said(i);
     }
     return text;
   }
-
+  // The number of icons, those of the series, and the visible slots with their first pixels.
+  static std::string view() {
+    const auto pixel = [](auto i) { return std::to_string(i) + "=" + cell(i, 0, 0); };
+    return Form1.Text2.Text() + ":" + Form1.Text3.Text() + ":" + of_slots(pixel);
+  }
   // The positions of the visible slots.
   static std::string positions() {
-    std::string text;
-    for (std::int32_t i = 0; i < Form1.s16_image.loaded(); ++i) {
-      if (!slot(i).Visible()) continue;
-      text += " " + std::to_string(slot(i).Left()) + "," + std::to_string(slot(i).Top());
-    }
-    return text;
+    return of_slots([](auto i) {
+      return std::to_string(slot(i).Left()) + "," + std::to_string(slot(i).Top());
+    });
   }
 };
 

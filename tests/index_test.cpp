@@ -1,19 +1,17 @@
-#include "failing_calls.h"
 #include "icon_fixture.h"
 
 namespace ostrane {
 
 const std::string palette(1024, '\1');
 
-using index_test = tool_test;
+using index_test = icon_test;
 
 // The number of entries, the state of the three menus, and the rows.
 static std::string shown() {
   EXPECT_TRUE(Form1.Enabled() && !Form2.Visible());
   std::string text = Form1.Text1.Text();
-  for (const auto* menu : {&Form1.mnu_ext, &Form1.mnu_save, &Form1.mnu_read_filelist}) {
+  for (const auto* menu : {&Form1.mnu_ext, &Form1.mnu_save, &Form1.mnu_read_filelist})
     text += menu->Enabled() ? '+' : '-';
-  }
   for (int row = 0; row < Form1.List1.ListCount(); ++row) text += " " + Form1.List1.List(row);
   return text;
 }
@@ -60,24 +58,20 @@ TEST_F(index_test, RefusesToReadAChangedArchive) {
   const std::string icons = shp_file(plain_icons(3, 400, 400));
   open_archive({{"A.SHP", icons}, {"N.TXT", "text"}});
   click_row("A.SHP");
-  const auto shown = [] {
-    return Form1.Frame1.Caption() + Form1.Text2.Text() + Form1.Text3.Text() +
-           std::to_string(Form1.s16_image(1).Visible()) + std::to_string(Form1.Text6.Visible());
+  const auto seen = [] {
+    return Form1.Frame1.Caption() + view() + (Form1.Text6.Visible() ? " text" : "");
   };
-  const std::string before = shown();
-  EXPECT_EQ(before, "A.SHP3 1 -  110");
+  const std::string before = "A.SHP3: 1 -  1: 1=0";
+  EXPECT_EQ(seen(), before);
   write("C:\\ostrane.dat", archive_bytes({{"A.SHP", icons}, {"N.TXT", "tone"}}));
-  void (*const acts[])() = {
-      [] { click_row("A.SHP"); },
-      [] { user::double_click(Form1.List1, 0); },
-      [] { click_row("N.TXT"); },
-      [] { user::click(Form1.Command6); },
-  };
+  const std::function<void()> acts[] = {[] { click_row("A.SHP"); },
+                                        [] { user::double_click(Form1.List1, 0); },
+                                        [] { click_row("N.TXT"); }, clicking(Form1.Command6)};
   for (const auto& act : acts) {
     act();
     EXPECT_EQ(new_messages(),
               texts{"C:\\ostrane.dat has changed since it was read. Read it again."});
-    EXPECT_EQ(shown(), before) << &act - acts;
+    EXPECT_EQ(seen(), before) << &act - acts;
   }
   failing_calls watched;
   watched.before("read_some", change_archive);
@@ -110,6 +104,64 @@ TEST_F(index_test, ReadsThePaletteOfTheArchive) {
     open_bytes(archive);
     EXPECT_EQ(tool_state.colour_table[index], colour) << index;
     EXPECT_EQ(new_messages(), texts{});
+  }
+}
+
+using from_outside_test = tool_test;
+
+// Paths of the system below the root of the drives. F5 reads the open archive again.
+TEST_F(from_outside_test, OpensAnArchiveOrItsFolder) {
+  const std::string archive = archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}});
+  const std::string refused = " is no ostrane.dat, and no folder that holds one.";
+  const std::tuple<const char*, std::string, texts> cases[] = {
+      {"c/with", "C:\\with", {}},
+      {"c/with/", "C:\\with", {}},
+      {"c/empty/../with/OSTRANE.DAT", "C:\\with", {}},
+      {"c/with/other.dat", "C:\\", {"C:\\with\\other.dat" + refused}},
+      {"c/empty", "C:\\", {"C:\\empty" + refused}},
+      {"c/empty/ostrane.dat", "C:\\", {"C:\\empty\\ostrane.dat" + refused}},
+      {"c/gone", "C:\\", {"C:\\gone" + refused}},
+  };
+  for (const auto& [path, folder, messages] : cases) {
+    reset_drives();
+    write("C:\\with\\OSTRANE.DAT", archive);
+    write("C:\\with\\other.dat", archive);
+    make_folder("C:\\empty");
+    restart();
+    EXPECT_EQ(Form1.TakesDrop(root / path), messages.empty()) << path;
+    user::drop(Form1, root / path);
+    EXPECT_EQ(new_messages(), messages);
+    EXPECT_EQ(Form1.Text1.Text(), messages.empty() ? "2" : "");
+    EXPECT_EQ(Form2.Dir1.Path(), folder) << path;
+    start_tool(root / "c" / "program", nullptr, root / path);
+    EXPECT_EQ(new_messages(), messages);
+    EXPECT_EQ(Form1.List1.ListCount(), messages.empty() ? 3 : 0);
+    write("C:\\with\\OSTRANE.DAT", archive_bytes({{"A.TXT", "a"}}));
+    user::press(Form1, Form1.keys[2]);
+    EXPECT_EQ(Form1.Text1.Text(), messages.empty() ? "1" : "") << Form1.keys[2].name;
+  }
+}
+
+// Enter on the open folder reads its archive. The dialog first shows the current folder if that
+// holds one.
+TEST_F(from_outside_test, TheDialogFindsTheArchive) {
+  write("C:\\with\\ostrane.dat", archive_bytes({{"A.TXT", "a"}}));
+  make_folder("C:\\empty");
+  for (const std::string current : {"C:\\with", "C:\\empty"}) {
+    restart(current);
+    user::click(Form1.mnu_open);
+    EXPECT_EQ(Form2.Dir1.Path(), current == "C:\\with" ? current : "C:\\");
+    user::click(Form2.Command2);
+    Form2.Dir1.Path = "C:\\";
+    user::click(Form1.mnu_open);
+    EXPECT_EQ(Form2.Dir1.Path(), "C:\\") << "not the first time";
+    std::int32_t row = 0;
+    while (Form2.Dir1.List(row) != "with") ++row;
+    user::confirm_folder(Form2.Dir1, row);
+    EXPECT_TRUE(Form2.Visible());
+    user::confirm_folder(Form2.Dir1, Form2.Dir1.open_row());
+    EXPECT_FALSE(Form2.Visible());
+    EXPECT_EQ(Form1.Text1.Text(), "1");
   }
 }
 

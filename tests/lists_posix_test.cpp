@@ -1,7 +1,6 @@
 #include <sys/stat.h>
 
 #include "child_process.h"
-#include "failing_calls.h"
 #include "files/paths.h"
 #include "files/text_file.h"
 #include "tool_fixture.h"

@@ -5,28 +5,20 @@ namespace ostrane {
 struct motion_test : icon_test {
   // Text3, the positions of the visible slots, the timer and the buttons.
   static std::string state() {
-    std::string text = Form1.Text3.Text() + ":" + positions();
-    if (Form1.Timer1.Enabled()) text += " moving";
-    if (Form1.Command3.Enabled()) text += " back";
-    if (Form1.Command4.Enabled()) text += " on";
-    return text;
+    return Form1.Text3.Text() + ":" + positions() + (Form1.Timer1.Enabled() ? " moving" : "") +
+           (Form1.Command3.Enabled() ? " back" : "") + (Form1.Command4.Enabled() ? " on" : "");
   }
 
   // Actions of one letter each, and the state after them.
-  using step = std::pair<const char*, std::string>;
-  static void run_steps(std::initializer_list<step> steps) {
+  static void run_steps(const std::vector<std::pair<std::string, std::string>>& steps) {
+    const std::map<char, std::function<void()>> acts = {
+        {'m', clicking(Form1.Command5)}, {'l', [] { user::shift_click(Form1.Command5); }},
+        {'<', clicking(Form1.Command3)}, {'t', [] { user::tick(Form1.Timer1); }},
+        {'>', clicking(Form1.Command4)}, {'n', clicking(Form1.Command6)}};
     std::string done;
     for (const auto& [actions, expected] : steps) {
-      for (const char* action = actions; *action != '\0'; ++action) {
-        if (*action == 'm') user::click(Form1.Command5);
-        if (*action == 'l') user::shift_click(Form1.Command5);
-        if (*action == 't') user::tick(Form1.Timer1);
-        if (*action == '<') user::click(Form1.Command3);
-        if (*action == '>') user::click(Form1.Command4);
-        if (*action == 'n') user::click(Form1.Command6);
-      }
-      done += actions;
-      EXPECT_EQ(state(), expected) << done;
+      for (const char action : actions) acts.at(action)();
+      EXPECT_EQ(state(), expected) << (done += actions);
     }
   }
 };

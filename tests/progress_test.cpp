@@ -1,4 +1,3 @@
-#include "failing_calls.h"
 #include "test_screen.h"
 
 namespace ostrane {
@@ -6,19 +5,27 @@ namespace ostrane {
 using progress_test = tool_test;
 
 // The progress window hides before the final message. The main window is shown before the message
-// of a build and after that of an extraction.
+// of a build and after that of an extraction. A build sets a bar before it opens the file.
 TEST_F(progress_test, ShowsEachFileThenTheMainWindow) {
   test_screen screen;
-  for (const char* folder : {"C:\\", "C:\\program\\"}) write(folder + std::string("A b.txt"), "a");
+  for (const char* folder : {"C:\\", "C:\\program\\"})
+    write(folder + std::string("A b.txt"), "12345");
   restart("C:\\program");
   const std::string building = "dialog progress bars Ostrane.dat tool - Make new Ostrane.dat|";
   const std::string offsets = "Calculation internal offsets for the files in Ostrane.dat";
   user::click(Form1.mnu_make);
+  failing_calls watched;
+  std::string first;  // of the calls for the file
+  watched.before_call = [&first](const std::string& call) {
+    if (first.empty() && Form3.ProgressBar1.Max() == 5) first = call;
+  };
   user::click(Form5.Command1);  // an empty Text1 means the root of the current drive
   const std::string file = "Current File : \\A b.txt\r\nCurrent File Number:  0\r\n";
+  const std::string hiding = "dialog progress hides bars";
   const std::string made = "main Your new Ostrane.dat has been created and saved in:\\ostrane.dat";
   EXPECT_EQ(screen.log, (texts{building, building + offsets, building + offsets,
-                               building + file + "Total Number of Files:  1", made}));
+                               building + file + "Total Number of Files:  1", hiding, made}));
+  EXPECT_EQ(first, "open_to_read");
   open_archive({{"A.SHP", "a"}, {std::string("B\0C", 3), ""}});
   screen.log.clear();
   extract_into("");
@@ -26,7 +33,7 @@ TEST_F(progress_test, ShowsEachFileThenTheMainWindow) {
   const std::string of_2 = "\r\nTotal number of files:  2";
   EXPECT_EQ(screen.log,
             (texts{extracting + "Extracting file: \\A.SHP\r\nFile number:      1" + of_2,
-                   extracting + "Extracting file: \\B C\r\nFile number:      2" + of_2,
+                   extracting + "Extracting file: \\B C\r\nFile number:      2" + of_2, hiding,
                    "dialog All files from Ostrane.dat has been extracted into: \\"}));
   EXPECT_TRUE(Form1.Visible() && !Form4.Visible());
 }
@@ -64,28 +71,6 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
     extract_into("D:\\");
     EXPECT_EQ(bars(), extracted);
   }
-}
-
-// The window is shown before its bars are hidden. A build sets a bar before it opens the file.
-TEST_F(progress_test, KeepsTheOrderOfWindowBarsAndFiles) {
-  struct : test_screen {
-    void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
-      if (&changed != &Form3.ProgressBar1 || what != forms_layer::property_id::visible) return;
-      shown += Form3.Visible() ? "shown " : "hidden ";
-    }
-    std::string shown;
-  } screen;
-  open_archive({{"A.SHP", ""}});
-  click_row("A.SHP");
-  EXPECT_EQ(screen.shown, "shown ");
-  restart_with({{"A", "12345"}});
-  failing_calls watched;
-  std::string first;
-  watched.before_call = [&first](const std::string& call) {
-    if (first.empty() && Form3.ProgressBar1.Max() == 5) first = call;
-  };
-  build_in();
-  EXPECT_EQ(first, "open_to_read");
 }
 
 }  // namespace ostrane

@@ -1,7 +1,5 @@
 #include <set>
 
-#include "failing_calls.h"
-#include "icon_fixture.h"
 #include "test_screen.h"
 
 namespace ostrane {
@@ -44,8 +42,8 @@ TEST_F(series_test, ShowsTheWorkingMessageAndCountsIcons) {
       "little dots that takes most of the time... \rReading and unpacking the shp-file takes less "
       "than a 25%, the rest is Visual Basic overhead...";
   const std::string drawing = "main progress " + working;
-  EXPECT_EQ(screen.log, (texts{":", drawing, "1:", "2:", "3: 1 -  2", ":", drawing,
-                               "3:", "main " + working, "3: 3 -  3"}));
+  EXPECT_EQ(screen.log, (texts{":", "main progress hides bars", drawing, "1:", "2:", "3: 1 -  2",
+                               ":", drawing, "3:", "main " + working, "3: 3 -  3"}));
 }
 
 // A slot has a border of one pixel on each side; a pixel is 15 twips. A row is as high as its
@@ -161,13 +159,11 @@ TEST_F(series_test, NextSeriesRequiresTheSameArchive) {
       palette_entry(), {"A.TXT", ""}, {"F.SHP", shp_file(plain_icons(3, 30, 30))}};
   write("C:\\other\\ostrane.dat", archive_bytes(entries));
   write("C:\\bad\\ostrane.dat", "?");
-  const std::pair<texts, bool> cases[] = {{{}, true},
-                                          {{"C:\\"}, true},
-                                          {{"C:\\program", "C:\\"}, true},
-                                          {{"C:\\other"}, false},
-                                          {{"C:\\bad"}, false},
-                                          {{"C:\\program"}, false}};
-  for (const auto& [folders, next] : cases) {
+  // The folders opened in between: it is the same archive after the first three.
+  const texts cases[] = {{},          {"C:\\"},       {"C:\\program", "C:\\"}, {"C:\\other"},
+                         {"C:\\bad"}, {"C:\\program"}};
+  for (const texts& folders : cases) {
+    const bool next = &folders - cases < 3;
     restart();
     type_max_icons("1");
     open_archive(entries);

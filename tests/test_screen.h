@@ -1,25 +1,28 @@
 #pragma once
 
 #include "forms_layer/screen.h"
-#include "tool_fixture.h"
+#include "icon_fixture.h"
 
 namespace ostrane {
 
-// A screen that paints nothing and records what a job shows. Its user picks an item of each menu
-// and gives a path for each file to save.
-class test_screen : public forms_layer::screen {
- public:
+// A screen that paints nothing and records what a job shows. Its user gives the same answers each
+// time.
+struct test_screen : forms_layer::screen {
   test_screen() { forms_layer::attach_screen(this); }
   ~test_screen() override { forms_layer::attach_screen(nullptr); }
 
-  std::function<forms_layer::menu_item*(const forms_layer::context_menu& opened)> pick;
-  std::function<forms_layer::save_answer(const forms_layer::save_question& question)> save;
-  std::function<void(const forms_layer::picture_box& shown)> copied;
-  std::filesystem::path folder;      // to write to; empty for none
-  std::filesystem::path dropped_in;  // where dragged files are dropped; nowhere if empty
+  std::size_t item = 0;  // of a menu
+  fs::path file;         // to save; empty for none
+  std::size_t kind = 0;  // of that file
+  fs::path folder;       // to write to; empty for none
+  fs::path dropped_in;   // where dragged files are dropped; nowhere if empty
+
+  std::string captions;  // of the items of menus
+  std::string seen;      // "+" or "-" for each item, proposed names, and copied pictures
 
   // Per Refresh of Form3 and per message box: the visible windows and the text. Per Refresh of
-  // Form1: Text2 and Text3. Per focus change: the name of the form.
+  // Form1: Text2 and Text3. When the bars are hidden: the visible windows. Per focus change: the
+  // name of the form.
   texts log;
   std::string moves;  // of the bars: " bar:value" each
 
@@ -37,6 +40,8 @@ class test_screen : public forms_layer::screen {
   // A change of the range only is not a move.
   void control_changed(forms_layer::control& changed, forms_layer::property_id what) override {
     const auto* bar = dynamic_cast<forms_layer::progress_bar*>(&changed);
+    const bool is_hidden = what == forms_layer::property_id::visible && !changed.Visible();
+    if (is_hidden && bar == &Form3.ProgressBar1) log.push_back(visible_windows() + "hides bars");
     if (what != forms_layer::property_id::range || bar->Value() == last_[bar]) return;
     last_[bar] = bar->Value();
     moves += bar == &Form3.ProgressBar1 ? " 1:" : " 2:";
@@ -53,19 +58,24 @@ class test_screen : public forms_layer::screen {
 
   forms_layer::menu_item* pick_item(forms_layer::context_menu& opened,
                                     forms_layer::screen_point) override {
-    return pick(opened);
+    for (const auto* offered : opened.items) {
+      captions += offered->Caption + "|";
+      seen += offered->Enabled() ? "+" : "-";
+    }
+    return opened.items.at(item);
   }
   forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override {
-    return save(question);
+    seen += " " + question.stem + question.kinds.at(kind).ending;
+    return {file, kind};
   }
-  std::filesystem::path ask_folder(const std::string&) override { return folder; }
-  void drag_files(const std::vector<std::filesystem::path>&,
-                  const forms_layer::file_writer& write) override {
+  fs::path ask_folder(const std::string&) override { return folder; }
+  void drag_files(const std::vector<fs::path>&, const forms_layer::file_writer& write) override {
     if (!dropped_in.empty()) write(dropped_in);
   }
-  void copy_picture(const forms_layer::picture_box& shown) override { copied(shown); }
+  void copy_picture(const forms_layer::picture_box& shown) override {
+    seen += " copied " + std::to_string(forms_layer::blue_of(shown.pixel(0, 0)));
+  }
 
- private:
   static std::string visible_windows() {
     std::string windows = Form1.Visible() ? "main " : "";
     if (Form4.Visible() || Form5.Visible()) windows += "dialog ";

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "failing_calls.h"
 #include "files/little_endian.h"
 #include "tool_on_drives.h"
 

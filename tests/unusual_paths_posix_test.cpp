@@ -4,25 +4,49 @@
 
 #include <cstring>
 
+#include "files/code_page.h"
+#include "files/file_system.h"
+#include "files/file_writer.h"
+#include "files/paths.h"
+#include "files/system_name.h"
+#include "files/work_files.h"
 #include "tool_fixture.h"
 
 namespace ostrane {
 
-// Links, hidden files, and names that are hard to store.
+// Links, pipes, hidden files, and names that are hard to find or to store.
 using unusual_paths_test = tool_test;
 
-// A build replaces the link and leaves the archive unchanged.
-TEST_F(unusual_paths_test, NeverWritesThroughALinkToAnArchive) {
-  const std::string archive = archive_bytes({{"A.TXT", "a"}});
-  write("D:\\real.dat", archive);
-  write("C:\\work\\b.txt", "b");
-  fs::create_symlink(disk_path("D:\\real.dat"), disk_path("C:\\work\\ostrane.dat"));
-  open_archive("C:\\work");
-  extract_into("C:\\work");
-  build_in();
-  EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}}));
-  EXPECT_EQ(names_in("C:\\work").size(), 3U);
-  EXPECT_EQ(read("D:\\real.dat"), archive);
+TEST_F(unusual_paths_test, PrefersTheExactNameToOtherCases) {
+  write("C:\\Mixed\\Name.TXT", "upper");
+  write("C:\\Mixed\\\xC3\xA9t\xC3\xA9.txt", "accents");
+  const fs::path found = files::to_file_path("c:\\mIXED\\name.txt").system;
+  EXPECT_EQ(found, disk_path("C:\\Mixed\\Name.TXT"));
+  EXPECT_TRUE(files::file_exists("C:\\mixed\\\xC9T\xC9.TXT"));
+  write("C:\\Mixed\\name.txt", "lower");
+  const fs::path exact = disk_path("C:\\Mixed\\name.txt");
+  EXPECT_EQ(files::to_file_path("C:\\Mixed\\name.txt").system, exact);
+  EXPECT_FALSE(files::file_exists("C:\\Mixed\\names.txt"));
+  EXPECT_FALSE(files::file_exists("C:\\Mixed"));
+}
+
+// Hidden names are cut between characters, as some file systems refuse other bytes. A file that
+// must be the only one of its spellings needs a listing of its folder.
+TEST_F(unusual_paths_test, ReplacesLongNamesAndNeedsAFolderListing) {
+  const fs::path name = u8"a" + files::to_utf8(std::string(120, '\xE9'));
+  EXPECT_TRUE(files::name_as_text(files::lock_beside(name).native()));
+  const failing_calls unlisted("list", EACCES);
+  files::binary_file file;
+  const files::write_rules rules = {.mode = files::write_mode::durable, .is_only_spelling = true};
+  EXPECT_THROW(files::file_writer(file, {disk_path("D:\\x.txt"), u8""}, rules), files::file_error);
+}
+
+TEST_F(unusual_paths_test, TheLastDriveIsTheFileSystemRoot) {
+  files::set_drives({}, "C:\\");
+  user::click(Form1.mnu_make);
+  user::choose(Form5.Drive1, Form5.Drive1.ListCount() - 1);
+  EXPECT_EQ((texts{Form5.Drive1.Drive(), Form5.Text1.Text()}), (texts{"z: [root]", "Z:\\"}));
+  EXPECT_EQ(files::system_path("Z:\\tmp"), "/tmp");
 }
 
 // Hidden files of a list that another copy is writing are not reported.
