@@ -76,9 +76,12 @@ TEST_F(Extras, OnePictureIsEnlarged) {
               {"Ctrl++; Ctrl++", "480(8,53 481x377)"},
               {"Ctrl+0", ""},
               {"Ctrl++", "120(8,53 124x124)"}});
-  window->resize(window->width() - 300, window->height() - 150);
-  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++; Ctrl++", "180(8,53 181x198)"},
-              {"Ctrl+0; End; Ctrl++", "160(8,75 164x164)"}});  // of the second row
+  // The third picture is in a second row.
+  window->resize(window->width() - 345, window->height() - 190);
+  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++", "120(20,53 124x124)"},
+              {"Ctrl+0; End; Ctrl++", "160(8,62 136x178)"}});
+  window->resize(window->width(), window->height() - 110);
+  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Ctrl++", "80(8,53 98x77)"}});
   const QImage pixels = picture_of(*canvas->findChild<QWidget*>("zoom")).copy(2, 2, 3, 3);
   EXPECT_EQ(pixels.pixel(0, 0), pixels.pixel(1, 0));
   EXPECT_NE(pixels.pixel(0, 0), pixels.pixel(2, 0));
