@@ -27,11 +27,11 @@ void change_archive(const std::string& argument,
 
 void write_changed(new_archive& archive, const files::file_path& target, files::write_rules rules) {
   check_interruption();
-  if (!begin_write(target.shown)) {
+  if (is_dry_run()) {
     require_writable(target, rules);
     make_index(archive);
-    return;
   }
+  if (!begin_write(target.shown)) return;
   const bool is_linked = has_other_names(
       rules.is_only_spelling ? files::existing_spelling(target.system) : target.system);
   replace_archive(target, archive, shown_progress(archive.entries.size()), rules);

@@ -37,9 +37,10 @@ bool open_stream(const std::string& argument, files::binary_file& file) {
 }
 
 bool begin_output(const std::string& argument) {
-  if (begin_write(files::as_utf8(argument))) return true;
-  if (!is_stream(argument)) files::require_writable(named_link_target(argument));
-  return false;
+  if (is_dry_run() && !is_stream(argument)) {
+    files::require_writable(named_link_target(argument));
+  }
+  return begin_write(files::as_utf8(argument));
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {

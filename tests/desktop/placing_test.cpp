@@ -20,17 +20,18 @@ TEST_F(Desktop, AWindowIsPaintedBeforeItIsMapped) {
   EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(Desktop, APressOnADisabledWindowBringsUpItsDialog) {
+TEST_F(Desktop, APressOnADisabledWindowAndItsFocusBringUpItsDialog) {
   using ostrane::Form2;
   ostrane::reset_forms();
   QWidget& window = show_active();
   write([&] { form.Enabled = false, Form2.Visible = true; });
   QWidget& dialog = *screen.window_of(Form2);
   dialog.showMinimized();
-  window.activateWindow();
-  handle_events();
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {100, 100});
   EXPECT_FALSE(dialog.isMinimized());
+  expect_active(dialog);
+  window.activateWindow();
+  handle_events();
   expect_active(dialog);
 }
 
