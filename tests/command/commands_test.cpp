@@ -1,6 +1,7 @@
 #include <cerrno>
 #include <optional>
 
+#include "data/icon_packer.h"
 #include "transcript.h"
 
 namespace ostrane {
@@ -84,6 +85,15 @@ TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
   write_bytes("a.dat", archive_bytes(entries));
   EXPECT_EQ(run_beside_a_writer("extract a.dat A.TXT -d out", "read_some").status, 2);
   EXPECT_TRUE(files_at("out").empty());
+  const std::vector<picture> equal_icons(4, picture(2, 1));
+  write_bytes("b.dat", archive_bytes({{"A.SHP", shp_file(equal_icons)}, {"B.TXT", ""}}));
+  for (const char* job : {"check a.dat", "diff a.dat b.dat", "pack a.dat A.SHP B.TXT"}) {
+    write_bytes("a.dat", bytes_of("b.dat"));
+    const result seen = run_beside_a_writer(job);
+    EXPECT_EQ(seen.status, 2) << job;
+    EXPECT_EQ(seen.output, "") << job;
+    EXPECT_EQ(seen.errors.find("not packed"), std::string::npos) << job;
+  }
 }
 
 // Each call fails in turn: the archive is the old or the new one, and no other file remains.
