@@ -68,6 +68,14 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
 TEST_F(Desktop, OnlyTheChangedPartOfAPictureIsPainted) {
   QWidget* canvas = canvas_of(show(form), form);
   paint_watch watch(canvas);
+  const auto show_diagonal = [&] {  // its ends first
+    for (int i = 6; i <= 60; ++i) {
+      const int at = i == 7 ? 54 : i - 6;
+      form.pictures.Load(i);
+      form.pictures(i).Move(30 * at, 30 * at);
+      form.pictures(i).Visible = true;
+    }
+  };
   const std::tuple<const char*, std::function<void()>, QRegion> cases[] = {
       {"shown", [&] { picture().Visible = true; }, QRect(16, 56, 5, 6)},
       {"one pixel", [&] { picture().PSet(1, 2, 5); }, QRect(18, 59, 1, 1)},
@@ -76,6 +84,7 @@ TEST_F(Desktop, OnlyTheChangedPartOfAPictureIsPainted) {
       {"moved to and fro", [&] { picture().Move(0, 0), picture().Move(1500, 840); }, QRegion()},
       {"hidden", [&] { picture().Visible = false; }, QRect(100, 56, 5, 6)},
       {"drawn on while hidden", [&] { picture().PSet(1, 1, 5); }, QRegion()},
+      {"so many that all is painted", show_diagonal, QRect(0, 0, 114, 114)},
   };
   for (const auto& [what, handler, painted] : cases) {
     watch.painted = {};
