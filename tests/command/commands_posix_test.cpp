@@ -8,6 +8,7 @@
 #include "command/commands.h"
 #include "command/interruption.h"
 #include "command_fixture.h"
+#include "data/icon_packer.h"
 #include "pictures/icon_exporter.h"
 
 namespace ostrane {
@@ -143,6 +144,14 @@ TEST_F(commands_posix_test, ReportsWhatIsNoFile) {
   EXPECT_EQ(seen.errors,
             "ostrane-dat: link: skipped: it is a link that leads nowhere\n"
             "ostrane-dat: pipe: skipped: it is not a regular file\n");
+}
+
+TEST_F(commands_posix_test, ImportsNoHiddenPicture) {
+  if (make_icon_exporter() == nullptr) GTEST_SKIP() << "built without libpng and giflib";
+  write_bytes("a.dat", archive_bytes({{"F.SHP", shp_file({picture(1, 1)})}}));
+  EXPECT_EQ(run("export a.dat F.SHP -d out").status, 0);
+  write_bytes("out/.F-0002.png", "");
+  EXPECT_EQ(run("import out -o n.shp --palette a.dat").errors, "");
 }
 
 TEST_F(commands_posix_test, NotesThatOtherNamesKeepTheOldArchive) {
