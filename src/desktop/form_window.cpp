@@ -132,13 +132,16 @@ void form_window::add_keys() {
 // The cursor shows whether the window takes what is dragged over it.
 void form_window::dragEnterEvent(QDragEnterEvent* event) {
   const std::filesystem::path dragged = path_in(*event->mimeData());
+  // After a move the other program would remove its file.
+  event->setDropAction(Qt::CopyAction);
   event->setAccepted(!dragged.empty() && form.TakesDrop && form.TakesDrop(dragged));
 }
 
 // The program that the file comes from waits for the end of this event.
 void form_window::dropEvent(QDropEvent* event) {
   const std::filesystem::path dropped = path_in(*event->mimeData());
-  event->acceptProposedAction();
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   QMetaObject::invokeMethod(
       this, [this, dropped] { forms_layer::user::drop(form, dropped); }, Qt::QueuedConnection);
 }
