@@ -90,10 +90,11 @@ class accessible_canvas : public QAccessibleWidget {
     const QPoint at = canvas_.mapFromGlobal(QPoint(x, y));
     if (canvas_.childAt(at) != nullptr) return QAccessibleWidget::childAt(x, y);
     const auto& pictures = canvas_.pictures();
-    const auto found = std::find_if(pictures.begin(), pictures.end(),
+    // The front one is the last.
+    const auto found = std::find_if(pictures.rbegin(), pictures.rend(),
                                     [&at](const auto& p) { return p.rect.contains(at); });
-    if (found == pictures.end()) return nullptr;
-    return picture(static_cast<std::size_t>(found - pictures.begin()));
+    if (found == pictures.rend()) return nullptr;
+    return picture(static_cast<std::size_t>(pictures.rend() - found) - 1);
   }
   QAccessibleInterface* focusChild() const override {
     const bool on_picture = canvas_.hasFocus() && canvas_.cursor_is_visible();

@@ -56,6 +56,7 @@ class canvas : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -66,6 +67,7 @@ class canvas : public QWidget {
   std::size_t index_of(const forms_layer::picture_box& box) const { return indices_.at(&box); }
   std::size_t current() const;
   void zoom(std::size_t index, int factor);
+  void show_in_zoom(std::size_t index);
   void follow_in_zoom();
   forms_layer::picture_box* picture_at(const QPoint& position) const;
   void move_cursor(int key);
@@ -79,7 +81,8 @@ class canvas : public QWidget {
   QRegion damage_;
   const forms_layer::picture_box* menu_target_ = nullptr;
   zoom_view* zoom_;
-  QRect zoom_area_;           // that of the pictures when one was enlarged
+  int zoom_top_ = 0;          // that of the pictures when one was enlarged
+  int wheel_ = 0;             // turned with Ctrl, less than a step
   std::size_t appeared_ = 0;  // the first picture that this sync showed; past the end for none
 };
 

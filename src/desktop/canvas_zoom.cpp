@@ -79,6 +79,7 @@ std::size_t canvas::current() const {
 
 void canvas::act(const forms_layer::key& pressed) {
   using forms_layer::view_action;
+  if (pressed.action == view_action::end_zoom) close_zoom();
   const std::size_t index = current();
   if (index >= pictures_.size()) return;
   const forms_layer::picture_box& box = *pictures_[index].box;
@@ -88,8 +89,6 @@ void canvas::act(const forms_layer::key& pressed) {
     zoom(index, zoom_->stepped(1));
   } else if (pressed.action == view_action::zoom_out) {
     zoom(index, zoom_->stepped(-1));
-  } else if (pressed.action == view_action::end_zoom) {
-    close_zoom();
   }
 }
 
@@ -107,18 +106,26 @@ void canvas::zoom(std::size_t index, int factor) {
     close_zoom();
     return;
   }
-  if (p.box->pixels() == nullptr || p.rect.isNull()) return zoom_->show_picture(nullptr, {}, {});
+  const bool is_blank = p.box->pixels() == nullptr || p.rect.isNull();
   if (!zoom_->is_open()) {
-    int top = p.rect.top();
+    if (is_blank) return;
+    zoom_top_ = p.rect.top();
     for (const picture& other : pictures_) {
-      if (!other.rect.isNull()) top = std::min(top, other.rect.top());
+      if (!other.rect.isNull()) zoom_top_ = std::min(zoom_top_, other.rect.top());
     }
-    zoom_area_ = QRect(margin, top, width() - 2 * margin, height() - margin - top);
   }
   zoom_->set_factor(factor);
-  zoom_->show_picture(p.box, p.rect, zoom_area_);
+  show_in_zoom(index);
+  if (is_blank) return;
   cursor_ = index;
   if (!hasFocus()) setFocus(Qt::OtherFocusReason);
+}
+
+void canvas::show_in_zoom(std::size_t index) {
+  const picture& p = pictures_[index];
+  if (p.box->pixels() == nullptr || p.rect.isNull()) return zoom_->show_picture(nullptr, {}, {});
+  const QRect area(margin, zoom_top_, width() - 2 * margin, height() - margin - zoom_top_);
+  zoom_->show_picture(p.box, p.rect, area);
 }
 
 // The motion and the buttons show another picture instead of the enlarged one. Between two pictures
@@ -126,10 +133,14 @@ void canvas::zoom(std::size_t index, int factor) {
 void canvas::follow_in_zoom() {
   const forms_layer::picture_box* shown = zoom_->picture();
   const bool is_visible = shown != nullptr && !pictures_[index_of(*shown)].rect.isNull();
-  if (is_visible) return zoom_->show_picture(shown, pictures_[index_of(*shown)].rect, zoom_area_);
+  if (is_visible) return show_in_zoom(index_of(*shown));
   if (appeared_ >= pictures_.size()) return zoom_->show_picture(nullptr, {}, {});
   cursor_ = appeared_;
-  zoom_->show_picture(pictures_[appeared_].box, pictures_[appeared_].rect, zoom_area_);
+  show_in_zoom(appeared_);
+}
+
+void canvas::resizeEvent(QResizeEvent* /*event*/) {
+  if (zoom_->is_open()) follow_in_zoom();
 }
 
 void canvas::wheelEvent(QWheelEvent* event) {
@@ -138,7 +149,11 @@ void canvas::wheelEvent(QWheelEvent* event) {
   const forms_layer::picture_box* box =
       zoom_->is_open() ? zoom_->picture() : picture_at(event->position().toPoint());
   if (!turned || box == nullptr) return event->ignore();
-  zoom(index_of(*box), zoom_->stepped(event->angleDelta().y() > 0 ? 1 : -1));
+  // A touchpad sends parts of a step.
+  wheel_ += event->angleDelta().y();
+  const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) zoom(index_of(*box), zoom_->stepped(steps));
 }
 
 }  // namespace desktop
