@@ -142,8 +142,8 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
        "old"},
       {select_several, on_row, 1, "", 0, "++ F3-0001.png F3.json <" + no_icons + ">"},
       {select_beside_png, on_row, 1, "", 0,
-       "++ F3-0001.png <" + no_icons +
-           "\n>F3.SHP<: D:\\out\\F3-0001.png cannot be written: it is there already.>",
+       "++ F3-0001.png <No pictures were exported:\n>N.TXT<: it is no icon file"
+       "\n>F3.SHP<: D:\\out\\F3-0001.png cannot be written: it is there already.>",
        "old"},
   };
   for (const auto& c : cases) {

@@ -81,7 +81,6 @@ void rows_view::show_selected_rows() {
   selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
 }
 
-// The list always has its row selected, and others beside it.
 void rows_view::report_selection() {
   std::vector<std::int32_t> rows;
   for (const QModelIndex& index : selectionModel()->selectedIndexes()) rows.push_back(index.row());
@@ -195,9 +194,18 @@ void rows_view::keyboardSearch(const QString& letters) {
   if (!found.isEmpty()) setCurrentIndex(found.front());
 }
 
+// The row of the list, or the first selected one if that is not selected.
+int rows_view::row_of_keys() const {
+  const std::vector<std::int32_t>& selected = shown_.SelectedRows();
+  const int row = shown_.ListIndex();
+  const bool is_selected =
+      selected.empty() || std::binary_search(selected.begin(), selected.end(), row);
+  return is_selected ? row : selected.front();
+}
+
 void rows_view::contextMenuEvent(QContextMenuEvent* event) {
   const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
-  const QModelIndex on = by_key ? model_.index(shown_.ListIndex()) : indexAt(event->pos());
+  const QModelIndex on = by_key ? model_.index(row_of_keys()) : indexAt(event->pos());
   if (!on.isValid()) return;
   if (by_key) scrollTo(on);
   const QPoint middle = viewport()->mapToGlobal(visualRect(on).center());
@@ -268,7 +276,7 @@ int rows_view::rows_model::rowCount(const QModelIndex& parent) const {
 
 QVariant rows_view::rows_model::data(const QModelIndex& index, int role) const {
   // The control may have fewer rows than the screen knows.
-  if (index.row() >= view_.list().ListCount()) return {};
+  if (!index.isValid() || index.row() >= view_.list().ListCount()) return {};
   switch (role) {
     case Qt::DisplayRole:
       return to_screen(view_.list().List(index.row()));

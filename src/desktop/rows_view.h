@@ -62,6 +62,7 @@ class rows_view : public view_of<QListView, forms_layer::row_list> {
   void choose(int row);
   bool extends_selection(const QInputEvent& event) const;
   void report_selection();
+  int row_of_keys() const;
   void show_selected_rows();
   QSize needed_size() const;
 

@@ -1,6 +1,7 @@
 #include "handlers/entry_details.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 
 #include "data/archive_index.h"
@@ -28,15 +29,18 @@ std::unordered_map<std::string, std::size_t> descriptions() {
   return rows;
 }
 
-std::string icon_count_text(std::int32_t offset) {
+// Null if the head of the icon file cannot be read.
+std::optional<std::int32_t> icon_count(std::int32_t offset) {
   files::binary_file archive;
   shp_head head = {};
+  bool is_read = false;
   files::ignore_failure([&] {
     open_unchanged(archive, files::to_file_path(tool_state.archive_path_copy),
                    tool_state.archive_stamp);
-    read_shp_head(archive, offset, head);
+    is_read = read_shp_head(archive, offset, head);
   });
-  return ", " + counted(std::max(head.icon_count, 0), "icon");
+  if (!is_read) return {};
+  return std::max(head.icon_count, 0);
 }
 
 }  // namespace
@@ -63,9 +67,10 @@ std::string entry_tool_tip(std::int32_t row) {
   if (tool_state.archive_is_open == flag_false || !is_entry) return "";
   const entry_range range = range_of(index_records(), row);
   const entry_kind kind = kind_of_entry(Form1.List1.List(row));
+  const auto icons = kind == entry_kind::icons ? icon_count(range.start) : std::nullopt;
   return entry_name(row) + ": " + counted(size_of(range), "byte") + " at " +
          std::to_string(range.start) + ", " + text_of(kind) +
-         (kind == entry_kind::icons ? icon_count_text(range.start) : "");
+         (icons ? ", " + counted(*icons, "icon") : "");
 }
 
 }  // namespace ostrane

@@ -36,7 +36,8 @@ extraction_result extract_to(const std::filesystem::path& path) {
 bool prepare_entry_menu(std::int32_t row) {
   tool_state.menu_target = row;
   Form1.mnu_entry.items = {&Form1.mnu_extract_entry};
-  if (prepare_several_entries(row)) {
+  if (is_one_of_several(row)) {
+    prepare_several_entries();
     Form1.mnu_entry.items = {&Form1.mnu_extract_entries, &Form1.mnu_export_entries};
     return true;
   }
@@ -68,9 +69,10 @@ void extract_one_entry() {
 }
 
 void extract_selection() {
-  const std::int32_t row = Form1.List1.ListIndex();
-  const std::vector<std::int32_t>& several = Form1.List1.SelectedRows();
-  if (!several.empty() && prepare_several_entries(several.front())) {
+  const std::vector<std::int32_t>& selected = Form1.List1.SelectedRows();
+  const std::int32_t row = selected.empty() ? Form1.List1.ListIndex() : selected.front();
+  if (is_one_of_several(row)) {
+    prepare_several_entries();
     if (Form1.mnu_extract_entries.Enabled()) extract_several_entries();
   } else if (row >= 0 && prepare_entry_menu(row) && Form1.mnu_extract_entry.Enabled()) {
     extract_one_entry();

@@ -123,7 +123,7 @@ void save_series() {
        .kinds = {{"One PNG with all icons", "-sheet.png"},
                  {"One PNG per icon", files::as_bytes(png_name(u8"", first))},
                  {"Motion", ".gif"}}});
-  save({.first = first, .last = static_cast<std::size_t>(tool_state.series_next_icon)}, answer,
+  save({.first = first, .last = static_cast<std::size_t>(tool_state.next_icon - 1)}, answer,
        "series");
 }
 

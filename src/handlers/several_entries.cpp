@@ -33,12 +33,12 @@ void report(const std::string& message) {
   if (!message.empty()) forms_layer::message_box(message);
 }
 
-// Appends to `skipped` what is not exported.
-void export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_file>& skipped) {
+// Appends to `skipped` what is not exported. Returns false if that is all.
+bool export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_file>& skipped) {
   const std::string name = entry_name(row);
   if (kind_of_entry(name) != entry_kind::icons) {
     skipped.push_back({name, "it is no icon file"});
-    return;
+    return false;
   }
   const auto skip = [&](const std::string& reason) { skipped.push_back({name, reason}); };
   icon_export wanted = {
@@ -48,29 +48,35 @@ void export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_fi
   };
   const std::string failure = export_entry(wanted, row, target, false);
   if (!failure.empty()) skip(failure);
+  return failure.empty();
 }
 
 std::string export_rows(const std::vector<std::int32_t>& rows, const fs::path& folder) {
   std::vector<skipped_file> skipped;
   files::clear_leftovers(folder);
-  for (const std::int32_t row : rows) export_row(row, folder, skipped);
-  return skipped_files_text(skipped, "The pictures were exported, with these exceptions:");
+  const auto exported = std::count_if(
+      rows.begin(), rows.end(), [&](std::int32_t row) { return export_row(row, folder, skipped); });
+  return skipped_files_text(skipped, exported > 0
+                                         ? "The pictures were exported, with these exceptions:"
+                                         : "No pictures were exported:");
 }
 
 }  // namespace
 
-bool prepare_several_entries(std::int32_t row) {
+bool is_one_of_several(std::int32_t row) {
   const std::vector<std::int32_t>& selected = Form1.List1.SelectedRows();
-  tool_state.menu_rows = without_end_record(selected);
   const bool is_selected = std::find(selected.begin(), selected.end(), row) != selected.end();
-  if (!is_selected || tool_state.menu_rows.size() < 2) return false;
+  return is_selected && without_end_record(selected).size() > 1;
+}
+
+void prepare_several_entries() {
+  tool_state.menu_rows = without_end_record(Form1.List1.SelectedRows());
   const std::string count = std::to_string(tool_state.menu_rows.size());
   Form1.mnu_extract_entries.Caption = "Extract " + count + " entries\x85";
   Form1.mnu_export_entries.Caption = "Export " + count + " entries as pictures\x85";
   const bool is_open = tool_state.archive_is_open == flag_true;
   Form1.mnu_extract_entries.Enabled = is_open;
   Form1.mnu_export_entries.Enabled = is_open && tool_state.export_icons != nullptr;
-  return true;
 }
 
 void extract_several_entries() {

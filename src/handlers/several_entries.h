@@ -6,9 +6,12 @@
 // What the user does with several entries that are selected in `List1`.
 namespace ostrane {
 
-// Sets the captions of the context menu for the selected rows, which become `menu_rows`, without
-// the end record. Returns false if `row` is not one of several.
-bool prepare_several_entries(std::int32_t row);
+// True if the row is selected with others. The end record does not count.
+bool is_one_of_several(std::int32_t row);
+
+// Sets captions and `Enabled` of the context menu for the selected rows, which become `menu_rows`,
+// without the end record.
+void prepare_several_entries();
 
 // Ask for a folder and write the entries of `menu_rows` there: their files, or a PNG for each icon
 // of the icon files. No file is replaced. Both report what was not written.
