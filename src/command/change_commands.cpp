@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <unordered_set>
 
 #include "command/archive_change.h"
 #include "command/commands.h"
@@ -28,9 +29,11 @@ bool is_cut(const entry_source& source) {
   return name_with_blanks(source.name) != files::upper_case(files::trimmed(source.shown_name));
 }
 
-bool has_entry(const new_archive& archive, const record_name& name) {
-  return std::any_of(archive.entries.begin(), archive.entries.end(),
-                     [&](const auto& entry) { return name_key(entry.name) == name_key(name); });
+// The keys of the names of its entries.
+std::unordered_set<std::string> names_in(const new_archive& archive) {
+  std::unordered_set<std::string> names;
+  for (const entry_source& entry : archive.entries) names.insert(name_key(entry.name));
+  return names;
 }
 
 files::failure cut_name_of(const entry_source& file) {
@@ -39,7 +42,8 @@ files::failure cut_name_of(const entry_source& file) {
 
 // Files that replace each other, and files whose cut name is that of an entry. An entry that has
 // the whole name is meant to be replaced.
-std::vector<files::failure> losses(const std::vector<entry_source>& files, const new_archive& old) {
+std::vector<files::failure> losses(const std::vector<entry_source>& files,
+                                   const std::unordered_set<std::string>& old_names) {
   std::vector<files::failure> lost;
   for (const auto& [later, earlier] : equal_names(files)) {
     lost.push_back({files[earlier].file.shown,
@@ -47,16 +51,17 @@ std::vector<files::failure> losses(const std::vector<entry_source>& files, const
                         " becomes the same entry"});
   }
   for (const entry_source& file : files) {
-    if (!is_cut(file) || !has_entry(old, file.name)) continue;
+    if (!is_cut(file) || !old_names.contains(name_key(file.name))) continue;
     lost.push_back(cut_name_of(file));
     lost.back().reason += ", which is replaced";
   }
   return lost;
 }
 
-void note_cut_names(const std::vector<entry_source>& files, const new_archive& old) {
+void note_cut_names(const std::vector<entry_source>& files,
+                    const std::unordered_set<std::string>& old_names) {
   for (const entry_source& file : files) {
-    if (is_cut(file) && !has_entry(old, file.name)) print_note(cut_name_of(file));
+    if (is_cut(file) && !old_names.contains(name_key(file.name))) print_note(cut_name_of(file));
   }
 }
 
@@ -79,15 +84,18 @@ int add(const add_options& options) {
     require_other_file(options.archive, file.system);
     files.push_back(source_named(files::name_as_text(file.system.filename().native()), file));
   }
-  std::optional<std::vector<files::failure>> lost;
+  std::optional<std::size_t> lost;  // files, as far as they are reported
   change_archive(options.archive, [&](new_archive& archive) {
-    if (!lost) {
-      lost = losses(files, archive);
-      for (const files::failure& one : *lost) print_error(one);
-      note_cut_names(files, archive);
-      if (!lost->empty() && !options.is_forced) {
-        throw data_error("Nothing was added; --force adds the last file of each name.");
-      }
+    const std::unordered_set<std::string> old_names = names_in(archive);
+    const std::vector<files::failure> now = losses(files, old_names);
+    // Another program may have added an entry since the last attempt.
+    if (lost != now.size()) {
+      for (const files::failure& one : now) print_error(one);
+      if (!lost) note_cut_names(files, old_names);
+      lost = now.size();
+    }
+    if (!now.empty() && !options.is_forced) {
+      throw data_error("Nothing was added; --force adds the last file of each name.");
     }
     add_files(archive, files);
     return true;
@@ -95,7 +103,7 @@ int add(const add_options& options) {
   for (const entry_source& file : files) {
     print_step({file.file.shown, "becomes " + name_with_blanks(file.name)});
   }
-  return lost->empty() ? status_done : status_differs;
+  return *lost == 0 ? status_done : status_differs;
 }
 
 int remove(const remove_options& options) {
@@ -120,7 +128,8 @@ int rename(const rename_options& options) {
   std::u8string old_name;
   change_archive(options.archive, [&](new_archive& archive) {
     const auto old = only_entry(archive, options.old_name);
-    if (name_key(old->name) != name_key(renamed.name) && has_entry(archive, renamed.name)) {
+    if (name_key(old->name) != name_key(renamed.name) &&
+        names_in(archive).contains(name_key(renamed.name))) {
       throw data_error(shown, "is the name of another entry.");
     }
     old_name = files::to_utf8(old->shown_name);

@@ -16,7 +16,7 @@ void write_report(const std::string& target, const std::vector<std::string>& lin
     for (const std::string& line : lines) print_line(files::to_utf8(line));
     return;
   }
-  if (!begin_write(files::as_utf8(target))) return;
+  if (!begin_output(target)) return;
   files::binary_file stream;
   if (!open_stream(target, stream)) return files::write_lines(named_file(target), lines);
   for (const std::string& line : lines) {
@@ -30,7 +30,7 @@ void write_report(const std::string& target, const std::vector<std::string>& lin
 
 int compare(const compare_options& options) {
   for (const std::string& input : {options.archive, options.shiplist}) {
-    require_other_file(options.report, path_of_argument(input));
+    if (input != "-") require_other_file(options.report, path_of_argument(input));
   }
   const archive_index index = read_archive_index(named_input(options.archive));
   std::vector<std::string> names;
