@@ -1,4 +1,6 @@
 
+#include <cstring>
+
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -111,7 +113,7 @@ TEST_F(extraction_test, WritesSafeNamesWithBlanksForNulsAndSkipsOthers) {
   for (const auto& [reason, names] : refused) {
     for (std::string name : names) {
       entries.push_back({name, some_bytes(1000 + entries.size())});
-      for (char& c : name) c = c == '\t' || c == '\x7F' ? '?' : c;
+      for (char& c : name) c = std::strchr("\t\x7F\x81\x8D\x8F\x90\x9D", c) != nullptr ? '?' : c;
       if (entries.size() <= 20) message += "\n>" + name + "<: " + reason;
     }
   }

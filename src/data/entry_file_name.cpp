@@ -11,12 +11,6 @@ namespace ostrane {
 
 namespace {
 
-// The code page maps 0x7F and its five undefined bytes to control characters.
-bool is_control_character(char c) {
-  constexpr std::string_view in_code_page = "\x7F\x81\x8D\x8F\x90\x9D";
-  return static_cast<unsigned char>(c) < 0x20 || in_code_page.find(c) != in_code_page.npos;
-}
-
 // Windows also accepts the superscript digits 1 to 3.
 bool has_number(std::string_view stem, std::string_view device) {
   constexpr std::string_view digits = "123456789\xB9\xB2\xB3";
@@ -42,7 +36,7 @@ std::string unsafe_name_reason(const std::string& name) {
   if (name.find_first_of("\\/:") != std::string::npos) {
     return "its name contains a path separator";
   }
-  if (std::any_of(name.begin(), name.end(), is_control_character)) {
+  if (std::any_of(name.begin(), name.end(), files::is_control_character)) {
     return "its name contains a control character";
   }
   if (is_device(name)) return "its name means a device";

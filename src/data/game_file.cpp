@@ -9,11 +9,14 @@ void read_game_file(game_file& game, const files::file_path& path) {
   game.file.open_to_read(path);
   try {
     game.index = read_archive_index(game.file, path);
+  } catch (const archive_changed&) {
+    throw;
   } catch (const data_error&) {
     game.index = {};
   }
   if (is_sound(game.index) || find_game_palette(game.index.records) != nullptr) {
     game.colours = read_game_colours(game.file, game.index.records);
+    require_unchanged(game.file, game.index.stamp, "import");
     return;
   }
   game.index = {};

@@ -61,7 +61,7 @@ void binary_file::seek(std::int64_t offset) {
   }
   forget_position();
   const std::int64_t at = system_calls.seek_to(file_, offset);
-  if (at < 0) fail(file_action::read, at);
+  if (at < 0) fail(writes_ ? file_action::write : file_action::read, at);
   buffer_start_ = offset;
 }
 

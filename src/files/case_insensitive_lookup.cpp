@@ -62,7 +62,8 @@ fs::path existing_spelling(const fs::path& path) {
   const std::optional<std::string> name = name_as_text(path.filename().native());
   if (!name) return path;
   const fs::path folder = path.parent_path();
-  return case_insensitive_lookup().find(folder.empty() ? "." : folder, *name);
+  const fs::path found = case_insensitive_lookup().find(folder.empty() ? "." : folder, *name);
+  return found.filename() == path.filename() ? path : found;
 }
 
 }  // namespace files

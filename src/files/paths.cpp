@@ -179,7 +179,7 @@ std::string to_tool_path(const fs::path& path) {
   for (const fs::path& step : rest) {
     if (step == ".") continue;
     const std::optional<std::string> name = name_as_text(step.native());
-    if (!name) return {};
+    if (!name || name->find('\\') != std::string::npos) return {};
     if (whole.back() != '\\') whole += '\\';
     whole += *name;
   }

@@ -11,7 +11,7 @@
 // The system calls through which all files are read and written.
 namespace files {
 
-// Each system hides names that begin with a dot.
+// On every system, so that an archive has the same entries wherever it is built.
 bool is_hidden_name(const auto& name) { return name.front() == '.'; }
 
 struct listed_entry {

@@ -14,6 +14,26 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
+bool is_control_character(char c) {
+  constexpr std::string_view in_code_page = "\x7F\x81\x8D\x8F\x90\x9D";
+  return static_cast<unsigned char>(c) < 0x20 || in_code_page.find(c) != in_code_page.npos;
+}
+
+std::string printable(std::string text) {
+  std::replace_if(text.begin(), text.end(), is_control_character, '?');
+  return text;
+}
+
+// U+0080 to U+009F have the bytes C2 80 to C2 9F.
+std::u8string printable(std::u8string text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool is_c1 = text[i] == 0xC2 && i + 1 < text.size() && text[i + 1] < 0xA0;
+    if (is_c1) text.erase(i, 1);
+    if (is_c1 || text[i] < 0x20 || text[i] == 0x7F) text[i] = u8'?';
+  }
+  return text;
+}
+
 std::string_view last_characters(std::string_view text, std::size_t count) {
   return text.size() <= count ? text : text.substr(text.size() - count);
 }

@@ -12,14 +12,12 @@ std::string_view trimmed(std::string_view text);
 // The last `count` characters, or all if there are fewer.
 std::string_view last_characters(std::string_view text, std::size_t count);
 
-// Replaces control characters by "?", so that the text is one line.
-template <typename Char>
-std::basic_string<Char> printable(std::basic_string<Char> text) {
-  for (Char& c : text) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
-  }
-  return text;
-}
+// The code page maps 0x7F and its five undefined bytes to control characters.
+bool is_control_character(char c);
+
+// Replaces control characters by "?", so that the text is one line and no command to a terminal.
+std::string printable(std::string text);
+std::u8string printable(std::u8string text);
 
 // Ignores case. "*" matches any number of characters, "?" exactly one.
 bool matches_pattern(const std::string& name, const std::string& pattern);

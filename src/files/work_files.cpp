@@ -52,9 +52,11 @@ native stem_of_new(const native& name) {
   return stem_before(name, ending);
 }
 
-// Removes a file unless another copy of the tool has locked it.
+// Removes a file unless another copy of the tool has locked it. A network drive may lock only what
+// is open to write.
 void remove_unlocked(const fs::path& path) {
-  const int file = system_calls.open_to_read(path);
+  int file = system_calls.open_to_write(path);
+  if (file < 0) file = system_calls.open_to_read(path);
   if (file < 0) return;
   if (system_calls.lock(file) >= 0 && match(path, file).is_same) system_calls.remove_file(path);
   system_calls.close_file(file);

@@ -2,7 +2,7 @@
 
 namespace files {
 
-// Resolves a limited number of links. The system then rejects a cycle of links.
+// Resolves a limited number of links, as they may form a cycle.
 std::filesystem::path written_path(const std::filesystem::path& path) {
   constexpr int max_links = 40;
   std::filesystem::path target = path;
