@@ -1,11 +1,11 @@
 #include "desktop/application_setup.h"
 
-#include <clocale>
 #include <new>
 
 #include "desktop/accessible_canvas.h"
 #include "desktop/designed_look.h"
 #include "desktop/desktop_style.h"
+#include "desktop/system_start.h"
 
 namespace desktop {
 
@@ -22,8 +22,7 @@ bool application::notify(QObject* receiver, QEvent* event) {
 }
 
 void set_up_application() {
-  // Qt sets the user's locale for the whole process.
-  std::setlocale(LC_NUMERIC, "C");
+  restore_locale();
   QApplication::setStyle(new desktop_style);
   QApplication::setFont(font_for({}));
   QApplication::setQuitOnLastWindowClosed(false);

@@ -77,13 +77,19 @@ class dragged_files : public QMimeData {
 std::shared_ptr<file_drag> drag_files(const std::vector<std::filesystem::path>& names,
                                       const forms_layer::file_writer& write, QWidget& from) {
   auto made = std::make_shared<file_drag>();
-  if (!made->folder.isValid()) return made;
+  if (!made->folder.isValid()) {
+    forms_layer::run_event([&] {
+      forms_layer::message_box("The files cannot be dragged: " +
+                               made->folder.errorString().toStdString());
+    });
+    return nullptr;
+  }
   made->write = write;
   auto* drag = new QDrag(&from);
   drag->setMimeData(new dragged_files(names, made));
-  drag->exec(Qt::CopyAction);
+  const Qt::DropAction done = drag->exec(Qt::CopyAction);
   made->is_running = false;
-  return made;
+  return done == Qt::IgnoreAction && !made->is_written ? nullptr : made;
 }
 
 }  // namespace desktop

@@ -117,7 +117,8 @@ void qt_screen::drag_files(const std::vector<std::filesystem::path>& names,
                            const forms_layer::file_writer& write) {
   sync();
   form_window* from = windows_.topmost();
-  if (from != nullptr) drags_.push_back(desktop::drag_files(names, write, *from));
+  if (from == nullptr) return;
+  if (auto dragged = desktop::drag_files(names, write, *from)) drags_.push_back(dragged);
 }
 
 void qt_screen::copy_picture(const forms_layer::picture_box& shown) {

@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <clocale>
+
 #include <QString>
 #include <QtGlobal>
 
@@ -13,6 +15,8 @@ void prepare_start() {
     qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
   }
 }
+
+void restore_locale() { std::setlocale(LC_NUMERIC, "C"); }
 
 // The program has no console. Only a script gives it a file for errors.
 void show_start_error(const std::string& text) {

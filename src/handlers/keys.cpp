@@ -37,7 +37,7 @@ void wire_keys() {
       {"Shift+F3", "finds the previous one", {}, nullptr, view_action::find_previous},
       {"Ctrl+G", "goes to the entry of a number", {}, nullptr, view_action::find_number},
       {"Ctrl+E", "extracts the selected entry or entries", extract_selection},
-      {"Ctrl+C", "copies the picture", {}, &Form1.mnu_copy_picture},
+      {"Ctrl+C", "copies the picture, in the list the name", {}, &Form1.mnu_copy_picture},
       {"Ctrl+S", "saves the picture", {}, &Form1.mnu_save_picture},
       {"Ctrl++", "enlarges the picture", {}, nullptr, view_action::zoom_in},
       {"Ctrl+-", "makes it smaller again", {}, nullptr, view_action::zoom_out},
