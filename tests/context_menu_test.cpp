@@ -4,7 +4,7 @@
 namespace ostrane {
 
 struct context_menu_test : icon_test {
-  // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, refused and blank. The rows are
+  // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, blank and refused. The rows are
   // GAME.PAL, N.TXT, F1.SHP, F2.SHP, F3.SHP and the end.
   static void show_second_series() {
     reset_drives();
@@ -13,9 +13,9 @@ struct context_menu_test : icon_test {
     start_tool(root / "c" / "program", make_icon_exporter());
     user::type(Form1.Text5, "3");
     user::type(Form1.Text4, "7");
-    std::vector<shp_icon> second = plain_icons(9, 1, 1);
-    second[4] = refused_icon(1, 1);
-    second[5] = blank_icon(1, 1);
+    std::vector<shp_icon> second = plain_icons(6, 1, 1);
+    second[4] = blank_icon(1, 1);
+    second[5] = refused_icon(1, 1);
     show({plain_icons(9, 1, 1), second, plain_icons(1, 1, 1)});
     user::click(Form1.Command6);
     new_messages();
@@ -111,7 +111,7 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
       {nothing, on_first, 2, "s.bmp", 0,
        "+++ F1-sheet.png" + ends_in + "\" or \".gif\". The series was not saved.>"},
       {show_odd_icons, on_first, 2, "r.gif", 2,
-       "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 5 was "
+       "+++ F2.gif r.gif <The series was saved, with these exceptions:\n>F2.SHP<: icon 6 was "
        "skipped: its box ends outside its picture>"},
       {show_odd_icons, on_third, 0, "", 0, ""},
       {nothing, on_row, 0, "text", 0, "+ N.TXT text", "text"},
