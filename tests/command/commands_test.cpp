@@ -96,6 +96,18 @@ TEST_F(commands_test, KeepsWhatAnotherProgramWritesDuringAChange) {
   }
 }
 
+// The entry comes from another program before the second attempt.
+TEST_F(commands_test, AddsNothingThatWouldReplaceANewEntry) {
+  write_bytes("longer_than_this.txt", "mine");
+  const std::string other = archive_bytes({{"LONGER_THAN_T", "other"}});
+  failing_calls watched;
+  watched.before("flush_to_disk", [&, is_first = true]() mutable {
+    if (std::exchange(is_first, false)) write_bytes("a.dat", other);
+  });
+  EXPECT_EQ(run("add a.dat longer_than_this.txt").status, 2);
+  EXPECT_EQ(bytes_of("a.dat"), other);
+}
+
 // Each call fails in turn: the archive is the old or the new one, and no other file remains.
 TEST_F(commands_test, AFailingDiskLeavesTheOldOrTheNewArchive) {
   const std::vector<archive_entry> changed = {entries[1], entries[2]};
