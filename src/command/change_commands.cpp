@@ -86,7 +86,8 @@ int add(const add_options& options) {
   }
   std::optional<std::size_t> lost;  // files, as far as they are reported
   change_archive(options.archive, [&](new_archive& archive) {
-    const std::unordered_set<std::string> old_names = names_in(archive);
+    const bool needs_names = std::any_of(files.begin(), files.end(), is_cut);
+    const auto old_names = needs_names ? names_in(archive) : std::unordered_set<std::string>();
     const std::vector<files::failure> now = losses(files, old_names);
     // Another program may have added an entry since the last attempt.
     if (lost != now.size()) {
