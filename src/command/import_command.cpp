@@ -120,6 +120,14 @@ std::unique_ptr<old_icons> icons_of_entry(game_file& game, const std::u8string& 
   return nullptr;
 }
 
+// The old cells are those of --like, or of the entry that the JSON names in the archive of
+// --palette.
+std::unique_ptr<old_icons> find_old_icons(const import_options& options, const import_plan& plan,
+                                          game_file& game, files::binary_file& like) {
+  if (!options.like.empty()) return icons_of_file(options.like, like);
+  return icons_of_entry(game, plan.entry);
+}
+
 int report(const import_options& options, const import_job& job) {
   const std::u8string subject = files::as_utf8(options.icon_file);
   int status = status_done;
@@ -154,8 +162,7 @@ int import_pictures(const import_options& options) {
   import_plan plan = make_plan(options, colours);
   require_separate_output(options, plan);
   files::binary_file like;
-  const std::unique_ptr<old_icons> old =
-      options.like.empty() ? icons_of_entry(game, plan.entry) : icons_of_file(options.like, like);
+  const std::unique_ptr<old_icons> old = find_old_icons(options, plan, game, like);
   if (!options.like.empty()) plan = plan_like(std::move(plan), old->file(), old->icons());
   remove_empty_end(plan);
   if (plan.icons.empty()) {

@@ -133,8 +133,9 @@ void check_content(const archive_check& check, files::binary_file& file, icon_st
   const std::int64_t start = start_of(check, index);
   const std::int64_t size = size_of(check, index);
   // Checks only the first of overlapping entries, so that no byte is read for many entries.
-  if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps_earlier[index])
+  if (size < 0 || start < 0 || start + size > check.file_size || check.overlaps_earlier[index]) {
     return;
+  }
   const std::string name = shown_name(check, index);
   switch (kind_of_entry(name_without_nuls(check.records[index].name))) {
     case entry_kind::icons:
