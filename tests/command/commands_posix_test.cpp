@@ -30,6 +30,9 @@ TEST_F(commands_posix_test, WritesToPipesAndDevicesAndReplacesNone) {
   }
   EXPECT_EQ(run("build in -o output").output, archive);
   EXPECT_EQ(run("build in -o /dev/null").status, 0);
+  EXPECT_EQ(run("extract a.dat A.TXT -o output").output, "a");
+  write_bytes("l.txt", "A.TXT\n\n");
+  EXPECT_TRUE(run("compare a.dat l.txt -o output").output.ends_with("Shiplist     \r\n"));
   const std::pair<std::string, std::string> cases[] = {
       {"build in -o /dev/full", "/dev/full: cannot be written: the disk is full.\n"},
       {"list pipe", "pipe: cannot be opened: it is a pipe.\n"},
@@ -52,7 +55,10 @@ TEST_F(commands_posix_test, ReadsStandardInput) {
       {"a.dat", "extract - A.TXT -o -", "text"},
       {"a.dat", "check -", ""},
       {"a.dat", "diff - a.dat", ""},
+      {"a.dat", "compare - l.txt -o r", ""},
       {"l.txt", "compare a.dat - -o r", ""},
+      {"l.txt", "import - -o i.shp --palette a.dat",
+       "ostrane-dat: standard input: cannot be read as a PNG: Not a PNG file.\n"},
       {"j.json", "import - -o i.shp --palette a.dat",
        "ostrane-dat: s.png: cannot be opened: it is not there.\n"},
       {"p.gif", "import - -o i.shp --palette a.dat",
@@ -109,6 +115,25 @@ TEST_F(commands_posix_test, ReplacesOnlyTheNamedFile) {
   EXPECT_EQ(run("compare a.dat l.txt -o link").status, 2);
   EXPECT_EQ(run("compare a.dat l.txt -o A.DAT").status, 0);
   EXPECT_EQ(bytes_of("a.dat"), archive_bytes({{"A.TXT", "a"}}));
+}
+
+// The file that the link leads to is changed.
+TEST_F(commands_posix_test, KeepsLinksToWhatItWrites) {
+  write_bytes("in/A.TXT", "a");
+  write_bytes("x.dat", archive_bytes({{"X", "x"}}));
+  write_bytes("game/a.dat", "old");
+  fs::create_symlink("game/a.dat", "link");
+  const std::pair<const char*, std::string> cases[] = {
+      {"extract x.dat X -o link", "x"},
+      {"build in -o link", archive_bytes({{"A.TXT", "a"}})},
+      {"rename link A.TXT B", archive_bytes({{"B", "a"}})},
+      {"add link in/A.TXT", archive_bytes({{"A.TXT", "a"}, {"B", "a"}})},
+      {"remove link B", archive_bytes({{"A.TXT", "a"}})}};
+  for (const auto& [job, bytes] : cases) {
+    EXPECT_EQ(run(job).errors, "") << job;
+    EXPECT_EQ(bytes_of("game/a.dat"), bytes) << job;
+    EXPECT_TRUE(fs::is_symlink("link")) << job;
+  }
 }
 
 // One rule for all commands that write. Root may write to all files.
@@ -169,6 +194,8 @@ TEST_F(commands_posix_test, NotesThatOtherNamesKeepTheOldArchive) {
     EXPECT_EQ(bytes_of("other"), old);
     EXPECT_EQ(fs::hard_link_count("a.dat"), 1U);
   }
+  fs::create_hard_link("a.dat", "third");
+  EXPECT_EQ(run("remove -q a.dat B.TXT").errors, "");
 }
 
 // The signal is raised first, so each job ends at its first check.
