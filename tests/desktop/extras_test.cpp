@@ -54,14 +54,16 @@ TEST_F(Extras, OnePictureIsEnlarged) {
     return zoomed();
   };
   write([] { Form1.Timer1.Interval = 60000; });
-  play(seen, {{"List1#2 press; pictures@70@70 wheel", ""},
-              {"pictures@70@70 Ctrl+wheel", "120(25,53 124x124)"},
-              {"pictures@70@70 Ctrl+wheel", "180(8,53 184x184)"},
-              {"pictures@70@70 Ctrl+wheel-back", "120(25,53 124x124)"},
-              {"Right", "160(78,53 164x164)"},
-              {"Home", "80(8,53 84x84)"},
-              {"Esc", ""},
-              {"Ctrl++", "80(8,53 84x84)"}});
+  play(seen,
+       {{"List1#2 press; pictures@70@70 wheel", ""},
+        {"pictures@70@70 Ctrl+wheel-part; pictures@70@70 Ctrl+wheel-part", ""},
+        {"pictures@70@70 Ctrl+wheel-part; pictures@70@70 Ctrl+wheel-part", "120(25,53 124x124)"},
+        {"pictures@70@70 Ctrl+wheel", "180(8,53 184x184)"},
+        {"pictures@70@70 Ctrl+wheel-back", "120(25,53 124x124)"},
+        {"Right", "160(78,53 164x164)"},
+        {"Home", "80(8,53 84x84)"},
+        {"Esc", ""},
+        {"Ctrl++", "80(8,53 84x84)"}});
   const auto after = [&](const forms_layer::event& handler, int times = 1) {
     for (; times > 0; --times) write(handler);
     return zoomed();
@@ -75,10 +77,12 @@ TEST_F(Extras, OnePictureIsEnlarged) {
               {"Ctrl++; Ctrl++; Ctrl++", "240(8,53 244x244)"},
               {"Ctrl++; Ctrl++", "480(8,53 481x377)"},
               {"Ctrl+0", ""},
-              {"Ctrl++", "120(8,53 124x124)"}});
+              {"Ctrl++; List1#0 press; Ctrl+0", ""},
+              {"List1#2 press; Ctrl++; Ctrl++; Ctrl++; Ctrl++", "480(8,53 481x377)"}});
   // The third picture is in a second row.
   window->resize(window->width() - 345, window->height() - 190);
-  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++", "120(20,53 124x124)"},
+  play(seen, {{"pictures focus", "480(8,53 136x187)"},
+              {"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++", "120(20,53 124x124)"},
               {"Ctrl+0; End; Ctrl++", "160(8,62 136x178)"}});
   window->resize(window->width(), window->height() - 110);
   play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Ctrl++", "80(8,53 98x77)"}});
@@ -178,7 +182,11 @@ TEST_F(Extras, KeysAct) {
     clipboard.clear();
     return opened.take() + copied.toStdString();
   };
-  play(seen, {{"List1#2 press; Ctrl+C", "PIC.SHP"},
+  opened.keys = "Return";
+  const char* only_the_last = "List1#0 press; List1#3 Ctrl+press; List1#0 Ctrl+press; Shift+F10";
+  play(seen, {{only_the_last, "&Extract this entry\u2026|Extract this entry: Z.TXT"},
+              {"Ctrl+E", "Extract this entry: Z.TXT"},
+              {"List1#2 press; Ctrl+C", "PIC.SHP"},
               {"Ctrl+E", "Extract this entry: PIC.SHP"},
               {"Ctrl+L; Tab; Tab; Ctrl+C", "40#ff7c90a4#00000000"},
               {"Right; Ctrl+C", "60#ff7c90a4#00000000"},
@@ -260,11 +268,13 @@ TEST_F(Extras, ADropOpensAnArchive) {
     const QString start = QString::fromStdString(folder.string()) + '/';
     for (const QString& name : names) urls += QUrl::fromLocalFile(start + name);
     data.setUrls(urls);
-    QDragEnterEvent over({50, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent over({50, 300}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(window, &over);
     if (!over.isAccepted()) return "";
-    QDropEvent dropped({50, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent dropped({50, 300}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(window, &dropped);
+    EXPECT_EQ(over.dropAction() | dropped.dropAction(), Qt::CopyAction) << "a move would remove it";
     handle_events();
     return Form1.List1.List(0);
   };

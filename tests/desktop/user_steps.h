@@ -11,7 +11,8 @@
 //   Ctrl+F             presses a key in the window
 //   field Return       presses a key on a control; "hold Return" is a key that the keyboard repeats
 //   field focus        gives it the focus
-//   field press        clicks on its middle; also Ctrl+press, right, and wheel or wheel-back
+//   field press        clicks on its middle; also Ctrl+press, right, and wheel, wheel-part,
+//                      wheel-back
 //   field again        the second press of a double click; also right-again
 //   list#3 press       clicks on a row
 //   pictures@18@58 press
@@ -49,8 +50,10 @@ inline void act_once(QWidget& window, const QString& step) {
   if (what.startsWith("wheel")) {
     QWidget* under = on->childAt(at) == nullptr ? on : on->childAt(at);
     QWheelEvent turned(under->mapFrom(on, at), on->mapToGlobal(at), {},
-                       {0, what == "wheel" ? 120 : -120}, Qt::NoButton, held, Qt::NoScrollPhase,
-                       false);
+                       {0, what == "wheel"        ? 120
+                           : what == "wheel-part" ? 30
+                                                  : -120},
+                       Qt::NoButton, held, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&turned);
     qApp->notify(under, &turned);
     return;
