@@ -40,6 +40,7 @@ struct all_kinds : forms_layer::form {
   forms_layer::menu_item line{menu, "line", ""};
   forms_layer::menu_item second{menu, "second", "Second"};
   forms_layer::context_menu context{*this, "context"};
+  forms_layer::menu_item grey{context, "grey", "Grey"};
   forms_layer::menu_item pick{context, "pick", "Pick"};
   forms_layer::timer timer{*this, "timer", 400, false};
 };

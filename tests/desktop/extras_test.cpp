@@ -59,9 +59,10 @@ TEST_F(Extras, OnePictureIsEnlarged) {
         {"pictures@70@70 Ctrl+wheel-part; pictures@70@70 Ctrl+wheel-part", ""},
         {"pictures@70@70 Ctrl+wheel-part; pictures@70@70 Ctrl+wheel-part", "120(25,53 124x124)"},
         {"pictures@70@70 Ctrl+wheel", "180(8,53 184x184)"},
-        {"pictures@70@70 Ctrl+wheel-back", "120(25,53 124x124)"},
+        {"pictures@3@3 Ctrl+wheel-back", "120(25,53 124x124)"},
         {"Right", "160(78,53 164x164)"},
         {"Home", "80(8,53 84x84)"},
+        {"Ctrl+F; pictures focus; Esc; pictures focus", "80(8,53 84x84)"},
         {"Esc", ""},
         {"Ctrl++", "80(8,53 84x84)"}});
   const auto after = [&](const forms_layer::event& handler, int times = 1) {
@@ -81,8 +82,10 @@ TEST_F(Extras, OnePictureIsEnlarged) {
               {"List1#2 press; Ctrl++; Ctrl++; Ctrl++; Ctrl++", "480(8,53 481x377)"}});
   // The third picture is in a second row.
   window->resize(window->width() - 345, window->height() - 190);
-  play(seen, {{"pictures focus", "480(8,53 136x187)"},
-              {"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++", "120(20,53 124x124)"},
+  play(seen, {{"pictures@70@70 wheel-back", "480(8,53 136x187)"}});
+  auto* area = canvas->findChild<QScrollArea*>("zoom");
+  EXPECT_GT(area->verticalScrollBar()->value(), 0);
+  play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Right; Ctrl++", "120(20,53 124x124)"},
               {"Ctrl+0; End; Ctrl++", "160(8,62 136x178)"}});
   window->resize(window->width(), window->height() - 110);
   play(seen, {{"Ctrl+0; List1#2 press; Tab; Tab; Home; Ctrl++", "80(8,53 98x77)"}});
@@ -91,7 +94,9 @@ TEST_F(Extras, OnePictureIsEnlarged) {
     return std::pair(part.pixel(0, 0) == part.pixel(1, 0), part.pixel(1, 0) == part.pixel(2, 0));
   };
   EXPECT_EQ(pixels(), std::pair(true, false));
-  write([] { Form1.s16_image(2).Cls(); });
+  paint_watch enlarged(area->widget());
+  write([] { Form1.s16_image(1).Cls(), Form1.s16_image(2).Cls(); });
+  EXPECT_FALSE(enlarged.painted.isEmpty());
   act(*window, "Right");
   EXPECT_EQ(pixels(), std::pair(true, true)) << "of a blank picture";
 }
@@ -121,9 +126,9 @@ TEST_F(Extras, MenusShowWhatCanBeDone) {
 TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
   act(*window, "List1#2 press");
   answers menus;
-  const auto pick = [&](const char* keys) {
+  const auto pick = [&](const char* keys, const char* at = "20@60") {
     menus.keys = keys;
-    act(*window, "pictures@20@60 right");
+    act(*window, QStringLiteral("pictures@%1 right").arg(at));
   };
   // The colours of two unset pixels.
   const auto shown = [&] {
@@ -140,12 +145,15 @@ TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
     EXPECT_TRUE(watch.painted.contains(QPoint(140, 140))) << "the other pictures follow";
     EXPECT_EQ(shown(), colours) << keys;
   }
-  pick("Z 3");
-  EXPECT_EQ(zoomed(), "120(8,53 124x124)");
+  pick("Z 3", "70@70");
+  EXPECT_EQ(zoomed(), "180(8,53 184x184)");
   paint_watch enlarged(canvas->findChild<QScrollArea*>("zoom")->widget());
   pick("B W");
   EXPECT_FALSE(enlarged.painted.isEmpty());
+  menus.take();
   pick("B D");
+  const QString checked = QString::fromStdString(menus.take());
+  EXPECT_TRUE(checked.contains("|&3 times*|") && checked.contains("|&White*|"));
   pick("Z 1");
   EXPECT_EQ(zoomed(), "");
 }
@@ -253,7 +261,7 @@ TEST_F(Extras, RowsAreDraggedOut) {
   for (const char* message : {"", "disk full"}) {
     screen.drag_files({"x"}, [message](const fs::path&) { return message; });
     let_go();
-    window->findChildren<QDrag*>().last()->mimeData()->urls();
+    for (int i = 0; i < 2; ++i) window->findChildren<QDrag*>().last()->mimeData()->urls();
     handle_events();
     EXPECT_EQ(opened.take(), *message == '\0' ? "" : "Ostrane.dat-tool");
   }

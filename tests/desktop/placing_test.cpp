@@ -56,6 +56,7 @@ TEST_F(Desktop, WindowsOpenInTheMiddleAndWhereTheyWereClosed) {
   for (const bool visible : {false, true}) {
     write([&] { Form2.Visible = visible; });
     expect_active(visible ? form2 : form6);
+    EXPECT_EQ(form6.windowHandle()->transientParent(), nullptr);
   }
   EXPECT_EQ(form2.pos(), QPoint(55, 44));
   EXPECT_TRUE(widget_of(form2, Form2.Command2)->hasFocus());

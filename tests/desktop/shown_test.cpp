@@ -27,6 +27,8 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
   property("a line more", form.label.Caption, "Label\rB");
   write([&] { form.label.Caption = "word word word word A"; });
   property("wrapped", form.label.Caption, "word word word word M");
+  write([&] { form.label.Caption = std::string(14, 'w') + "A"; });
+  property("wrapped without blanks", form.label.Caption, std::string(14, 'w') + "M");
   property("no markup", form.label.Caption, "Label<b>");
   property("button", form.button.Caption, "Other");
   property("frame", form.frame.Caption, "Other");
@@ -187,6 +189,7 @@ TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
       const auto& box = static_cast<QMessageBox&>(opened);
       QTest::qWait(20);
       log += (box.windowTitle() + "|" + box.text() + " ").toStdString();
+      EXPECT_TRUE(box.width() >= 260 && box.buttons()[0]->icon().isNull());
       EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name can look like markup";
       EXPECT_TRUE(screen.window_of(ostrane::Form2)->isVisible());
       EXPECT_EQ(widget_of(window, form.label)->property("text"), "Other");
@@ -215,6 +218,8 @@ TEST_F(Desktop, TextIsReadableOnEveryBackgroundInLightAndDarkThemes) {
         const int text = qGray(used.color(group, QPalette::Text).rgb());
         const int base = qGray(used.color(group, QPalette::Base).rgb());
         EXPECT_GE(std::abs(text - base), 100) << std::hex << back;
+        const int hint = qGray(used.color(group, QPalette::PlaceholderText).rgb());
+        EXPECT_TRUE(std::abs(hint - base) >= 40 && hint != text) << std::hex << back;
       }
     }
     QWidget& window = show(form);  // open when the theme changes

@@ -90,7 +90,8 @@ TEST_F(Input, ReachesTheTool) {
   log.clear();
   form.Enabled = false;
   play(window, logged,
-       {{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
+       {{"list#0 press; list wheel; list wheel; list Up; button press; label press; field 9", ""},
+        {"Tab", ""}});
   window.close();
   form.Enabled = true;
   EXPECT_EQ(log, "");
@@ -127,9 +128,30 @@ TEST_F(Input, KeysReachEveryVisiblePicture) {
   }
   QCoreApplication::processEvents();
   const auto has_cursor = [&] {  // around the first picture
-    return picture_of(*canvas).pixelColor(19, 59) == canvas->palette().highlight().color();
+    const QImage seen = picture_of(*canvas);
+    const QColor frame = canvas->palette().highlight().color();
+    return seen.pixelColor(19, 59) == frame && seen.pixelColor(20, 60) == frame;
   };
+  paint_watch watch(canvas);
+  const auto painted = [&] {  // around which pictures
+    std::string all;
+    for (int i = 0; i <= 5; ++i) {
+      const QPoint outside = desktop::rect_of(form.pictures(i)).topLeft() - QPoint(1, 1);
+      if (watch.painted.contains(outside)) all += std::to_string(i);
+    }
+    watch.painted = {};
+    return all;
+  };
+  act(window, "inner focus");
+  painted();
+  play(window, painted, {{"pictures focus", "0"}, {"Right", "01"}, {"inner focus", "1"}});
   canvas->setFocus();
+  for (const bool visible : {false, true}) {
+    painted();
+    write([&] { form.pictures(1).Visible = visible; });
+    EXPECT_EQ(painted(), "1");
+  }
+  act(window, "Home");
   EXPECT_TRUE(has_cursor());
   const auto reached = [&] { return std::exchange(opened, ""); };
   play(window, reached,
@@ -156,6 +178,7 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   form.list.ContextMenu = form.pictures.ContextMenu = &form.context;
   form.pictures.DblClick = [](int) {};
   form.pick.Click = [&] { log += "picked ", form.timer.Enabled = false; };
+  form.grey.Enabled = false;
   form.context.Popup = [&](int index) {
     log += std::to_string(index) + " ";
     return true;
@@ -168,7 +191,7 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   menus.on_open = [&](QWidget& menu) {
     form.timer.Enabled = true;
     QTest::qWait(20);
-    const bool is_active = static_cast<QMenu&>(menu).activeAction() == menu.actions()[0];
+    const bool is_active = static_cast<QMenu&>(menu).activeAction() == menu.actions()[1];
     const QPoint at = canvas->mapFromGlobal(menu.pos());
     log += std::to_string(at.x()) + "," + std::to_string(at.y());
     log += is_active ? " active " : " ";
@@ -271,7 +294,10 @@ TEST_F(Input, TheDesktopsFontsChangeNothingAndAltUnderlinesLetters) {
   QCoreApplication::processEvents();
   EXPECT_FALSE(watch.painted.isEmpty());
   EXPECT_NE(picture_of(*bar), before);
+  watch.painted = {};
   QTest::keyRelease(window.windowHandle(), Qt::Key_Alt);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(watch.painted.isEmpty());
 }
 
 // Everything has a name that is not its tool tip, and no markup; pictures are there too.
@@ -318,6 +344,7 @@ TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
       QDebug(&text).noquote() << one.role() << one.text(QAccessible::Name)
                               << one.rect().translated(-canvas->mapToGlobal(QPoint()))
                               << one.actionInterface()->actionNames();
+      if (!one.state().focusable) text += "takes no focus ";
       if (one.state().focused) text += "focused ";
       if (inside.focusChild() == &one) text += "has focus ";
       if (one.state().invisible) text += "invisible ";
