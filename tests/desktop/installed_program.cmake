@@ -1,8 +1,8 @@
 # Installs the build BUILD into FOLDER and runs the program through the link in bin/, as a shell does.
 # There is no display. The program must print VERSION and use the iconlist.csv in its real folder.
-set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL ANY)
 file(REMOVE_RECURSE "${FOLDER}")
-execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${FOLDER}" OUTPUT_QUIET)
+execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${FOLDER}" OUTPUT_QUIET
+                COMMAND_ERROR_IS_FATAL ANY)
 file(GLOB_RECURSE programs LIST_DIRECTORIES false "${FOLDER}/lib*/ostrane-dat-tool/*")
 if(NOT programs MATCHES "^[^;]*/iconlist.csv;([^;]*/ostrane-dat;)?[^;]*/ostrane-dat-tool$")
   message(FATAL_ERROR "not iconlist.csv and the programs, but: ${programs}")
@@ -14,7 +14,7 @@ get_filename_component(program_folder "${program_folder}" DIRECTORY)
 function(expect option wanted)
   execute_process(COMMAND "${CMAKE_COMMAND}" -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
                           QT_QPA_PLATFORM=none "${FOLDER}/bin/ostrane-dat-tool" ${option}
-                  OUTPUT_VARIABLE output)
+                  OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
   string(FIND "${output}" "${wanted}" at)
   if(at EQUAL -1)
     message(SEND_ERROR "${option} does not print \"${wanted}\", but:\n${output}")
@@ -22,7 +22,6 @@ function(expect option wanted)
 endfunction()
 
 function(expect_error)
-  set(CMAKE_EXECUTE_PROCESS_COMMAND_ERROR_IS_FATAL NONE)
   execute_process(COMMAND "${CMAKE_COMMAND}" -E env --unset=DISPLAY QT_QPA_PLATFORM=none
                           "${FOLDER}/bin/ostrane-dat-tool" ${ARGN}
                   RESULT_VARIABLE status ERROR_VARIABLE error)
