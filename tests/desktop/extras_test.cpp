@@ -1,4 +1,5 @@
 // The keys, the search, the enlarged picture, drops and drags of the main window.
+#include "forms_layer/message_box.h"
 #include "main_window_fixture.h"
 #include "state/tool_state.h"
 
@@ -269,6 +270,7 @@ TEST_F(Extras, RowsAreDraggedOut) {
 
 TEST_F(Extras, ADropOpensAnArchive) {
   ostrane::write_bytes(folder / "sub" / "ostrane.dat", ostrane::archive_bytes({{"N.TXT", ""}}));
+  answers opened;  // a box says what is no archive
   // The first row after the drop, or "" if it is refused.
   const auto drop = [&](const QStringList& names) -> std::string {
     QMimeData data;
@@ -291,6 +293,18 @@ TEST_F(Extras, ADropOpensAnArchive) {
   EXPECT_EQ(drop({"ostrane.dat"}), "A.TXT");
   write([] { Form1.Enabled = false; });
   EXPECT_EQ(drop({"sub"}), "");
+}
+
+TEST_F(Extras, AMessageBoxOpensOverWhatTheHandlerShows) {
+  answers opened;
+  QString shown;
+  const auto* field = static_cast<QLineEdit*>(widget_of(*window, Form1.Text3));
+  opened.on_open = [&](QWidget&) { shown = field->text(); };
+  write([] {
+    Form1.Text3.Text = "7";
+    forms_layer::message_box("x");
+  });
+  EXPECT_EQ(shown, "7");
 }
 
 // The tip of the list and of its row, and that of a picture.
