@@ -90,8 +90,7 @@ TEST_F(Input, ReachesTheTool) {
   log.clear();
   form.Enabled = false;
   play(window, logged,
-       {{"list#0 press; list wheel; list wheel; list Up; button press; label press; field 9", ""},
-        {"Tab", ""}});
+       {{"list#0 press; list Up; button press; label press; field 9", ""}, {"Tab", ""}});
   window.close();
   form.Enabled = true;
   EXPECT_EQ(log, "");
@@ -294,10 +293,7 @@ TEST_F(Input, TheDesktopsFontsChangeNothingAndAltUnderlinesLetters) {
   QCoreApplication::processEvents();
   EXPECT_FALSE(watch.painted.isEmpty());
   EXPECT_NE(picture_of(*bar), before);
-  watch.painted = {};
   QTest::keyRelease(window.windowHandle(), Qt::Key_Alt);
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(watch.painted.isEmpty());
 }
 
 // Everything has a name that is not its tool tip, and no markup; pictures are there too.
