@@ -184,6 +184,7 @@ TEST_F(Extras, KeysAct) {
     return QString::number(image.width()) + image.pixelColor(0, 0).name(QColor::HexArgb) +
            image.pixelColor(1, 0).name(QColor::HexArgb);
   };
+  clipboard.clear();
   answers opened;
   const auto seen = [&] {
     const QImage image = clipboard.image();
