@@ -45,7 +45,7 @@ bool control::takes_input() {
   return window.Visible() && window.Enabled();
 }
 
-void control::on_changed(property_id what, bool differs) {
+void control::on_assigned(property_id what, bool differs) {
   if (differs) notify_screen(what);
 }
 

@@ -106,7 +106,7 @@ class control {
 
   // Called after each assignment to a property; `differs` is false if the value is the same as
   // before.
-  virtual void on_changed(property_id what, bool differs);
+  virtual void on_assigned(property_id what, bool differs);
 
  protected:
   void notify_screen(property_id what);

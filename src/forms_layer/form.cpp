@@ -14,7 +14,7 @@ form::form(form_design as_designed)
       client_width_(designed.client_width),
       client_height_(designed.client_height) {}
 
-void form::on_changed(property_id what, bool differs) {
+void form::on_assigned(property_id what, bool differs) {
   if (!differs) return;
   if (what == property_id::visible && Visible()) {
     for (control* c : controls()) c->about_to_show();

@@ -66,7 +66,7 @@ class form : public container {
 
   form& containing_form() override { return *this; }
 
-  void on_changed(property_id what, bool differs);
+  void on_assigned(property_id what, bool differs);
 
   // Stores a new client size in twips. Does not raise Resize.
   void set_client_size(std::int32_t width, std::int32_t height);

@@ -12,7 +12,7 @@ menu_item::menu_item(menu& parent, const char* item_name, std::string caption)
   parent.items.push_back(this);
 }
 
-void menu_item::on_changed(property_id /*what*/, bool differs) {
+void menu_item::on_assigned(property_id /*what*/, bool differs) {
   if (differs) the_screen().menu_changed(owner, *this);
 }
 

@@ -28,7 +28,7 @@ class menu_item {
   event Click;
 
   bool is_separator() const { return Caption.empty(); }
-  void on_changed(property_id what, bool differs);
+  void on_assigned(property_id what, bool differs);
 };
 
 // A menu of the menu bar.

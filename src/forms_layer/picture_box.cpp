@@ -37,10 +37,10 @@ colour picture_box::pixel(std::int32_t x, std::int32_t y) const {
 
 pixel_area picture_box::consume_damage() { return std::exchange(damaged_, {}); }
 
-void picture_box::on_changed(property_id what, bool differs) {
+void picture_box::on_assigned(property_id what, bool differs) {
   if (what == property_id::rect && differs) apply_size();
   if (what == property_id::back_color) Cls();
-  control::on_changed(what, differs);
+  control::on_assigned(what, differs);
 }
 
 void picture_box::allocate() {

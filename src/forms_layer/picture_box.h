@@ -54,7 +54,7 @@ class picture_box : public control {
 
   // Sets the pixels x1 to x2 - 1 of row y1, clipped to the drawing area. `y2` is ignored.
   void Line(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t /*y2*/, colour c) {
-    set_pixels(pixels_to_set(x1, y1, x2), [c](std::size_t) { return c; });
+    set_pixels(claim_pixels(x1, y1, x2), [c](std::size_t) { return c; });
   }
 
   // Sets `count` >= 0 pixels of row y from x to the right, clipped to the drawing area.
@@ -65,7 +65,7 @@ class picture_box : public control {
     const auto left = static_cast<std::uint32_t>(x);
     const std::size_t clipped = x < 0 ? 0U - left : 0U;
     const auto x2 = static_cast<std::int32_t>(left + static_cast<std::uint32_t>(count));
-    set_pixels(pixels_to_set(x, y, x2), [&](std::size_t i) { return colour_of(clipped + i); });
+    set_pixels(claim_pixels(x, y, x2), [&](std::size_t i) { return colour_of(clipped + i); });
   }
 
   // The colour of a pixel, or `unset`, also outside the drawing area.
@@ -77,7 +77,7 @@ class picture_box : public control {
   // Returns the bounding box of all changes since the last call.
   pixel_area consume_damage();
 
-  void on_changed(property_id what, bool differs) override;
+  void on_assigned(property_id what, bool differs) override;
 
  private:
   // Most runs fit 16 pixels; a fixed trip count avoids a branch mispredict.
@@ -99,7 +99,7 @@ class picture_box : public control {
     if (y >= damaged_.bottom) damaged_.bottom = y + 1;
   }
   // Clips x1 to x2 - 1 of row y, marks the rest as damaged and returns it.
-  std::span<colour> pixels_to_set(std::int32_t x1, std::int32_t y, std::int32_t x2) {
+  std::span<colour> claim_pixels(std::int32_t x1, std::int32_t y, std::int32_t x2) {
     if (y < 0 || y >= rows_) return {};
     const std::int32_t first = x1 > 0 ? x1 : 0;
     const std::int32_t end = x2 < columns_ ? x2 : columns_;

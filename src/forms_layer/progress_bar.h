@@ -24,8 +24,8 @@ class progress_bar : public control {
     return part < 0 ? 0 : part > 1 ? 1 : part;
   }
 
-  void on_changed(property_id what, bool differs) override {
-    control::on_changed(what, differs);
+  void on_assigned(property_id what, bool differs) override {
+    control::on_assigned(what, differs);
     if (what == property_id::range && differs) Refresh();
   }
 };

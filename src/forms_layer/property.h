@@ -22,7 +22,7 @@ enum class property_id {
   focus,
 };
 
-// A property of a control. An assignment calls the owner's `on_changed`, which acts on it (a
+// A property of a control. An assignment calls the owner's `on_assigned`, which acts on it (a
 // picture box resizes its bitmap) and notifies the screen. It is read as `Text()`.
 template <typename Value, property_id What, typename Owner>
 class property {
@@ -34,7 +34,7 @@ class property {
   property& operator=(Value value) {
     const bool differs = !(value_ == value);
     value_ = std::move(value);
-    owner_.on_changed(What, differs);
+    owner_.on_assigned(What, differs);
     return *this;
   }
   property& operator=(const property&) = delete;

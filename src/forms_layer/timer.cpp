@@ -11,7 +11,7 @@ timer::timer(form& owner_form, const char* timer_name, std::int32_t interval, bo
 }
 
 // Setting a property to its old value restarts the timer, too.
-void timer::on_changed(property_id /*what*/, bool /*differs*/) {
+void timer::on_assigned(property_id /*what*/, bool /*differs*/) {
   the_screen().timer_changed(*this);
 }
 

@@ -21,7 +21,7 @@ class timer {
 
   event Timer;
 
-  void on_changed(property_id what, bool differs);
+  void on_assigned(property_id what, bool differs);
 };
 
 }  // namespace forms_layer

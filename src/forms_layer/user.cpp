@@ -39,13 +39,13 @@ std::string limited(const std::string& before, const std::string& after, std::si
 }
 
 // The menu and its item are one event, so that the target of the menu does not change meanwhile.
-void pick_and_click(context_menu* opened, std::int32_t index, screen_point at) {
+void run_menu(context_menu* opened, std::int32_t index, screen_point at) {
   if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
   const menu_item* picked = the_screen().pick_item(*opened, at);
   if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
-void pick_at_once(context_menu* opened, std::int32_t index, const menu_item& item) {
+void run_menu_item(context_menu* opened, std::int32_t index, const menu_item& item) {
   if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
   const bool offers =
       std::find(opened->items.begin(), opened->items.end(), &item) != opened->items.end();
@@ -137,19 +137,19 @@ void double_click(row_list& list, std::int32_t row) {
 
 void open_menu(row_list& list, std::int32_t row, screen_point at) {
   run_event([&list, row, at] {
-    if (takes_row(list, row)) pick_and_click(list.ContextMenu, row, at);
+    if (takes_row(list, row)) run_menu(list.ContextMenu, row, at);
   });
 }
 
 void open_menu(picture_array& array, std::int32_t index, screen_point at) {
   run_event([&array, index, at] {
-    if (array(index).takes_input()) pick_and_click(array.ContextMenu, index, at);
+    if (array(index).takes_input()) run_menu(array.ContextMenu, index, at);
   });
 }
 
 void pick(picture_array& array, std::int32_t index, const menu_item& item) {
   run_event([&array, index, &item] {
-    if (array(index).takes_input()) pick_at_once(array.ContextMenu, index, item);
+    if (array(index).takes_input()) run_menu_item(array.ContextMenu, index, item);
   });
 }
 
