@@ -34,15 +34,22 @@ bool is_before_drop(unsigned releases_before) {
   return mouse_is_held() || (reports_mouse && mouse_releases() == releases_before);
 }
 
-// Writes the files, which is an event of the tool, and then shows its message.
-void write_files(file_drag& drag) {
-  if (drag.is_written || (forms_layer::handler_running() && !drag.is_running)) return;
+bool can_be_written(const file_drag& drag) {
+  return !drag.is_written && (drag.is_running || !forms_layer::handler_running());
+}
+
+// Runs as an event of the tool, that of the drag if it still runs. Returns a message for the user,
+// or "".
+std::string write_files(file_drag& drag) {
   drag.is_written = true;
   std::string message;
   const auto write = [&] { message = drag.write(folder_of(drag.folder)); };
   drag.is_running ? write() : forms_layer::run_event(write);
-  if (message.empty()) return;
-  // The other program waits for the end of this.
+  return message;
+}
+
+// Not at once: the other program waits for the files.
+void report_later(const std::string& message) {
   QTimer::singleShot(0, qApp, [message] {
     forms_layer::run_event([message] { forms_layer::message_box(message); });
   });
@@ -63,7 +70,10 @@ class dragged_files : public QMimeData {
 
  protected:
   QVariant retrieveData(const QString& format, QMetaType type) const override {
-    if (!is_before_drop(releases_before_)) write_files(*drag_);
+    if (!is_before_drop(releases_before_) && can_be_written(*drag_)) {
+      const std::string message = write_files(*drag_);
+      if (!message.empty()) report_later(message);
+    }
     return QMimeData::retrieveData(format, type);
   }
 

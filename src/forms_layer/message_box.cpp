@@ -14,6 +14,10 @@ std::function<void(const std::string&)> on_shown;
 
 void message_box(const std::string& text) { the_screen().message_box(application.Title, text); }
 
+void report(const std::string& text) {
+  if (!text.empty()) message_box(text);
+}
+
 void screen::message_box(const std::string& /*title*/, const std::string& text) {
   recorded.push_back(text);
   if (on_shown) on_shown(text);

@@ -9,6 +9,8 @@ namespace forms_layer {
 // Shows a text in a modal box with the application's title and an OK button. Returns when the user
 // closes it. Without a screen it records the text and returns at once.
 void message_box(const std::string& text);
+// The same, unless the text is empty.
+void report(const std::string& text);
 
 // Without a screen: all texts so far, oldest first.
 const std::vector<std::string>& messages_shown();

@@ -17,10 +17,7 @@ namespace ostrane {
 
 namespace {
 
-void report_skipped(const std::string& name, const std::string& reason) {
-  forms_layer::message_box("This entry was not extracted:" +
-                           skipped_files_text({{name, reason}}, ""));
-}
+constexpr const char* not_extracted = "This entry was not extracted:";
 
 extraction_result extract_to(const std::filesystem::path& path) {
   const auto wanted = static_cast<std::size_t>(tool_state.menu_target);
@@ -49,8 +46,7 @@ void extract_one_entry() {
   const std::string name = entry_name(tool_state.menu_target);
   const std::string unsafe = unsafe_name_reason(name);
   if (!unsafe.empty()) {
-    report_skipped(name, unsafe);
-    return;
+    return forms_layer::message_box(skipped_files_text({{name, unsafe}}, not_extracted));
   }
   const forms_layer::save_answer answer = forms_layer::the_screen().ask_save_path(
       {.title = "Extract this entry", .stem = name, .kinds = {{"All files", ""}}});
@@ -61,22 +57,16 @@ void extract_one_entry() {
     result = extract_to(answer.path);
   });
   if (failure.empty()) failure = files::sentence_of(result.stopped);
-  if (!failure.empty()) {
-    forms_layer::message_box(failure + " The entry was not extracted.");
-  } else if (!result.skipped.empty()) {
-    report_skipped(name, result.skipped.front().reason);
-  }
+  forms_layer::report(failure.empty() ? skipped_files_text(result.skipped, not_extracted)
+                                      : failure + " The entry was not extracted.");
 }
 
 void extract_selection() {
   const std::vector<std::int32_t>& selected = Form1.List1.SelectedRows();
   const std::int32_t row = selected.empty() ? Form1.List1.ListIndex() : selected.front();
-  if (is_one_of_several(row)) {
-    prepare_several_entries();
-    if (Form1.mnu_extract_entries.Enabled()) extract_several_entries();
-  } else if (row >= 0 && prepare_entry_menu(row) && Form1.mnu_extract_entry.Enabled()) {
-    extract_one_entry();
-  }
+  if (row < 0 || !prepare_entry_menu(row)) return;
+  const forms_layer::menu_item& extracts = *Form1.mnu_entry.items.front();
+  if (extracts.Enabled()) extracts.Click();
 }
 
 }  // namespace ostrane

@@ -16,8 +16,7 @@ static rgb_palette shown_colours() {
   return colours;
 }
 
-std::string export_entry(icon_export& wanted, std::int32_t index, const export_target& target,
-                         bool replaces) {
+std::string export_entry(icon_export wanted, std::int32_t index, const export_target& target) {
   return read_open_archive([&] {
     const entry_range entry = range_of(index_records(), index);
     wanted.start = entry.start;
@@ -25,8 +24,8 @@ std::string export_entry(icon_export& wanted, std::int32_t index, const export_t
     wanted.colours = shown_colours();
     export_output output = {.archive = tool_state.archive_file,
                             .stamp = tool_state.archive_stamp,
-                            .target = target,
-                            .replaces = replaces};
+                            .target = target.path_of,
+                            .replaces = target.replaces};
     tool_state.export_icons(output, wanted);
   });
 }

@@ -35,23 +35,24 @@ std::optional<std::u8string> without_number(const std::u8string& stem) {
   return stem.substr(0, digits_at - 1);
 }
 
-// Sets the form and the names of the files. Returns false for an unknown ending.
-bool apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
-  const std::filesystem::path path = answer.path;
-  const std::string ending = files::lower_case(files::as_bytes(path.extension().u8string()));
-  const bool is_series = wanted.form != picture_form::picture;
-  wanted.stem = path.stem().u8string();
-  if (is_series && ending == ".gif") {
+bool is_series(const icon_export& wanted) { return wanted.form != picture_form::picture; }
+
+bool has_ending(const std::filesystem::path& path, const char* lower_case) {
+  return files::lower_case(files::as_bytes(path.extension().u8string())) == lower_case;
+}
+
+// Sets the form and the names of the files. The ending is a known one.
+void apply_name(icon_export& wanted, const forms_layer::save_answer& answer) {
+  wanted.stem = answer.path.stem().u8string();
+  if (!is_series(wanted)) return;
+  if (has_ending(answer.path, ".gif")) {
     wanted.form = picture_form::gif;
-  } else if (ending != ".png") {
-    return false;
-  } else if (is_series) {
-    const std::optional<std::u8string> stem = without_number(wanted.stem);
-    const bool are_pngs = stem || answer.kind == kind_of_pngs;
-    wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
-    if (stem) wanted.stem = *stem;
+    return;
   }
-  return true;
+  const std::optional<std::u8string> stem = without_number(wanted.stem);
+  const bool are_pngs = stem || answer.kind == kind_of_pngs;
+  wanted.form = are_pngs ? picture_form::png : picture_form::sheet;
+  if (stem) wanted.stem = *stem;
 }
 
 // The chosen file is replaced as it is spelled, whatever the case of its ending.
@@ -61,16 +62,18 @@ files::file_path target_of(picture_form form, const std::filesystem::path& chose
   return files::from_system_path(is_other ? chosen.parent_path() / name : chosen);
 }
 
-void save(icon_export wanted, const forms_layer::save_answer& answer, const std::string& what) {
+// Returns a message for the user, or "".
+std::string save(icon_export wanted, const forms_layer::save_answer& answer,
+                 const std::string& what) {
   constexpr std::int32_t milliseconds_per_hundredth = 10;
   const std::string not_saved = " The " + what + " was not saved.";
-  if (answer.path.empty()) return;
-  if (!apply_name(wanted, answer)) {
-    const char* gif = wanted.form == picture_form::picture ? "" : " or \".gif\"";
-    forms_layer::message_box(std::string("The name of the file must end in \".png\"") + gif + "." +
-                             not_saved);
-    return;
+  if (answer.path.empty()) return "";
+  const bool is_gif = is_series(wanted) && has_ending(answer.path, ".gif");
+  if (!is_gif && !has_ending(answer.path, ".png")) {
+    return std::string("The name of the file must end in \".png\"") +
+           (is_series(wanted) ? " or \".gif\"" : "") + "." + not_saved;
   }
+  apply_name(wanted, answer);
   std::vector<skipped_file> skipped;
   const std::string entry = entry_name(tool_state.directory_index);
   wanted.entry = entry;
@@ -80,13 +83,10 @@ void save(icon_export wanted, const forms_layer::save_answer& answer, const std:
   const auto target = [&](const std::u8string& name) {
     return target_of(wanted.form, answer.path, name);
   };
-  const std::string failure = export_entry(wanted, tool_state.directory_index, target, true);
-  if (!failure.empty()) {
-    forms_layer::message_box(failure + not_saved);
-  } else if (!skipped.empty()) {
-    forms_layer::message_box(
-        "The " + what + " was saved, with these exceptions:" + skipped_files_text(skipped, ""));
-  }
+  const std::string failure = export_entry(wanted, tool_state.directory_index, {target, true});
+  if (!failure.empty()) return failure + not_saved;
+  const std::string saved = "The " + what + " was saved, with these exceptions:";
+  return skipped_files_text(skipped, saved.c_str());
 }
 
 }  // namespace
@@ -112,7 +112,8 @@ void save_picture() {
       forms_layer::the_screen().ask_save_path({.title = "Save picture",
                                                .stem = name.substr(0, name.rfind('.')),
                                                .kinds = {{"PNG", ".png"}}});
-  save({.form = picture_form::picture, .first = number, .last = number}, answer, "picture");
+  forms_layer::report(
+      save({.form = picture_form::picture, .first = number, .last = number}, answer, "picture"));
 }
 
 void save_series() {
@@ -123,8 +124,8 @@ void save_series() {
        .kinds = {{"One PNG with all icons", "-sheet.png"},
                  {"One PNG per icon", files::as_bytes(png_name(u8"", first))},
                  {"Motion", ".gif"}}});
-  save({.first = first, .last = static_cast<std::size_t>(tool_state.next_icon - 1)}, answer,
-       "series");
+  const auto last = static_cast<std::size_t>(tool_state.next_icon - 1);
+  forms_layer::report(save({.first = first, .last = last}, answer, "series"));
 }
 
 }  // namespace ostrane

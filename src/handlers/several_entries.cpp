@@ -29,34 +29,31 @@ std::vector<std::int32_t> without_end_record(std::vector<std::int32_t> rows) {
   return rows;
 }
 
-void report(const std::string& message) {
-  if (!message.empty()) forms_layer::message_box(message);
-}
-
-// Appends to `skipped` what is not exported. Returns false if that is all.
-bool export_row(std::int32_t row, const fs::path& folder, std::vector<skipped_file>& skipped) {
+// Returns why that failed, or "". Appends the icons that were skipped to `skipped`.
+std::string export_row(std::int32_t row, const fs::path& folder,
+                       std::vector<skipped_file>& skipped) {
   const std::string name = entry_name(row);
-  if (kind_of_entry(name) != entry_kind::icons) {
-    skipped.push_back({name, "it is no icon file"});
-    return false;
-  }
+  if (kind_of_entry(name) != entry_kind::icons) return "it is no icon file";
   const auto skip = [&](const std::string& reason) { skipped.push_back({name, reason}); };
-  icon_export wanted = {
-      .entry = name, .stem = files::to_utf8(proposed_stem(row)), .on_skipped = skip};
   const auto target = [&folder](const std::u8string& file) {
     return files::from_system_path(folder / file);
   };
-  const std::string failure = export_entry(wanted, row, target, false);
-  if (!failure.empty()) skip(failure);
-  return failure.empty();
+  return export_entry(
+      {.entry = name, .stem = files::to_utf8(proposed_stem(row)), .on_skipped = skip}, row,
+      {target});
 }
 
 std::string export_rows(const std::vector<std::int32_t>& rows, const fs::path& folder) {
   std::vector<skipped_file> skipped;
+  std::size_t failed = 0;
   files::clear_leftovers(folder);
-  const auto exported = std::count_if(
-      rows.begin(), rows.end(), [&](std::int32_t row) { return export_row(row, folder, skipped); });
-  return skipped_files_text(skipped, exported > 0
+  for (const std::int32_t row : rows) {
+    const std::string failure = export_row(row, folder, skipped);
+    if (failure.empty()) continue;
+    skipped.push_back({entry_name(row), failure});
+    ++failed;
+  }
+  return skipped_files_text(skipped, failed < rows.size()
                                          ? "The pictures were exported, with these exceptions:"
                                          : "No pictures were exported:");
 }
@@ -81,12 +78,12 @@ void prepare_several_entries() {
 
 void extract_several_entries() {
   const fs::path folder = forms_layer::the_screen().ask_folder("Extract the entries into a folder");
-  if (!folder.empty()) report(extract_rows(tool_state.menu_rows, folder));
+  if (!folder.empty()) forms_layer::report(extract_rows(tool_state.menu_rows, folder));
 }
 
 void export_several_entries() {
   const fs::path folder = forms_layer::the_screen().ask_folder("Export the pictures into a folder");
-  if (!folder.empty()) report(export_rows(tool_state.menu_rows, folder));
+  if (!folder.empty()) forms_layer::report(export_rows(tool_state.menu_rows, folder));
 }
 
 void drag_entries(const std::vector<std::int32_t>& rows) {

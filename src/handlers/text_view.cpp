@@ -30,10 +30,8 @@ std::string read_text(std::int32_t offset, std::int64_t count) {
   return text;
 }
 
-// Returns a message for the user, or "".
-std::string show_text(std::int32_t offset) {
-  const std::int64_t count = available_bytes(offset);
-  Form1.Text6.Text = read_text(offset, std::min(count, max_shown_text));
+// Why a text of so many bytes is not shown completely, or "".
+std::string cut_text_message(std::int64_t count) {
   if (count <= max_shown_text) return "";
   return "This text has " + std::to_string(count) + " bytes. Only the first " +
          std::to_string(max_shown_text) + " of them are shown.";
@@ -46,10 +44,12 @@ void show_text_entry() {
   tool_state.stream.entry_bytes_left = size_of(entry);
   Form1.Text6.Text = "";
   show_working_message();
-  std::string message;
-  const std::string failure = read_open_archive([&] { message = show_text(entry.start); });
-  if (!failure.empty()) message = failure;
-  if (!message.empty()) forms_layer::message_box(message);
+  std::int64_t count = 0;
+  const std::string failure = read_open_archive([&] {
+    count = available_bytes(entry.start);
+    Form1.Text6.Text = read_text(entry.start, std::min(count, max_shown_text));
+  });
+  forms_layer::report(failure.empty() ? cut_text_message(count) : failure);
 }
 
 }  // namespace ostrane
