@@ -13,7 +13,8 @@ bool application::notify(QObject* receiver, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) ++mouse_releases_;
   try {
     if (event->type() == QEvent::KeyPress) {
-      key_times_.restore(*receiver, *static_cast<QKeyEvent*>(event));
+      auto& press = *static_cast<QKeyEvent*>(event);
+      press.spontaneous() ? key_times_.keep(*receiver, press) : key_times_.restore(press);
     }
     return QApplication::notify(receiver, event);
   } catch (const std::bad_alloc&) {

@@ -49,8 +49,7 @@ void desktop_style::drawControl(ControlElement element, const QStyleOption* opti
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   const bool wraps = dynamic_cast<const control_view*>(widget) != nullptr;
   if (element != CE_PushButtonLabel || button == nullptr || !wraps) {
-    QProxyStyle::drawControl(element, option, painter, widget);
-    return;
+    return QProxyStyle::drawControl(element, option, painter, widget);
   }
   const QRect inside = option->rect.adjusted(side_margin, 0, -side_margin, 0);
   drawItemText(painter, inside, Qt::AlignCenter | Qt::TextWordWrap, option->palette,
@@ -64,8 +63,7 @@ void desktop_style::drawItemText(QPainter* painter, const QRect& rect, int flags
                                  const QPalette& colours, bool enabled, const QString& text,
                                  QPalette::ColorRole role) const {
   if ((flags & Qt::TextWordWrap) == 0) {
-    QProxyStyle::drawItemText(painter, rect, flags, colours, enabled, text, role);
-    return;
+    return QProxyStyle::drawItemText(painter, rect, flags, colours, enabled, text, role);
   }
   constexpr int alignments = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask;
   QTextOption wrapped{Qt::Alignment(flags & alignments)};

@@ -74,15 +74,11 @@ bool input_filter::eventFilter(QObject* receiver, QEvent* event) {
     if (is_press) on_barred_press();
     return true;
   }
-  if (!is_double_click_of_another(receiver, event->type())) return false;
+  if (!receiver->isWidgetType()) return false;
+  if (is_press) pressed_ = receiver;
+  if (event->type() != QEvent::MouseButtonDblClick || receiver == pressed_) return false;
   send_as_press(receiver, *static_cast<QMouseEvent*>(event));
   return true;
-}
-
-bool input_filter::is_double_click_of_another(const QObject* receiver, QEvent::Type type) {
-  if (!receiver->isWidgetType()) return false;
-  if (type == QEvent::MouseButtonPress) pressed_ = receiver;
-  return type == QEvent::MouseButtonDblClick && receiver != pressed_;
 }
 
 }  // namespace desktop

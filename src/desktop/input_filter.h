@@ -19,8 +19,6 @@ class input_filter : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  bool is_double_click_of_another(const QObject* receiver, QEvent::Type type);
-
   bool key_was_latest_ = false;
   const QObject* pressed_ = nullptr;  // by the latest press; may be deleted
 };

@@ -5,19 +5,20 @@
 namespace desktop {
 
 // A press first goes to the window. If Qt does not keep it, it goes on to a widget.
-void key_times::restore(const QObject& receiver, QKeyEvent& press) {
-  if (press.spontaneous()) {
-    if (press.timestamp() == 0) return;
-    if (!receiver.isWindowType()) return kept_.clear();
-    kept_.push_back({press.key(), press.timestamp()});
-  } else if (press.timestamp() == 0) {
-    const auto at = std::find_if(kept_.begin(), kept_.end(), [&press](const kept_press& kept) {
-      return kept.key == press.key();
-    });
-    if (at == kept_.end()) return;
-    press.setTimestamp(at->time);
-    kept_.erase(kept_.begin(), at + 1);
-  }
+void key_times::keep(const QObject& receiver, const QKeyEvent& press) {
+  if (press.timestamp() == 0) return;
+  if (!receiver.isWindowType()) return kept_.clear();
+  kept_.push_back({press.key(), press.timestamp()});
+}
+
+void key_times::restore(QKeyEvent& press) {
+  if (press.timestamp() != 0) return;
+  const auto at = std::find_if(kept_.begin(), kept_.end(), [&press](const kept_press& kept) {
+    return kept.key == press.key();
+  });
+  if (at == kept_.end()) return;
+  press.setTimestamp(at->time);
+  kept_.erase(kept_.begin(), at + 1);
 }
 
 }  // namespace desktop

@@ -9,8 +9,10 @@ namespace desktop {
 // and then delivers a copy without the time of the press. This finds that time.
 class key_times {
  public:
-  // Call before `receiver` gets the press of a key.
-  void restore(const QObject& receiver, QKeyEvent& press);
+  // Call before `receiver` gets a spontaneous press of a key.
+  void keep(const QObject& receiver, const QKeyEvent& press);
+  // Call before a press that is not spontaneous.
+  void restore(QKeyEvent& press);
 
  private:
   struct kept_press {

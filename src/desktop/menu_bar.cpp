@@ -12,7 +12,7 @@ menu_bar::menu_bar(const forms_layer::form& shown, QWidget* window) : QMenuBar(w
   setNativeMenuBar(false);
   QString taken;
   for (const forms_layer::menu* m : shown.menus) {
-    QMenu* column = addMenu(with_shortcut(m->Caption, taken));
+    QMenu* column = addMenu(take_shortcut(m->Caption, taken));
     add_items(*column, *m);
     connect(column, &QMenu::triggered, this, [column, m](QAction* picked) {
       forms_layer::user::click(*item_of(*column, *m, picked));

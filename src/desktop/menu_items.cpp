@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-QString with_shortcut(const std::string& caption, QString& taken) {
+QString take_shortcut(const std::string& caption, QString& taken) {
   const QString text = to_screen(caption);
   for (qsizetype at = 0; at < text.size(); ++at) {
     const QChar letter = text[at].toUpper();
@@ -23,7 +23,7 @@ void add_items(QMenu& menu, const forms_layer::menu& shown) {
   menu.setFont(font_for({}));
   QString taken;
   for (const forms_layer::menu_item* item : shown.items) {
-    QAction* action = menu.addAction(with_shortcut(item->Caption, taken));
+    QAction* action = menu.addAction(take_shortcut(item->Caption, taken));
     action->setObjectName(QString::fromLatin1(item->name));
     action->setSeparator(item->is_separator());
     action->setEnabled(item->Enabled());

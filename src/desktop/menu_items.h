@@ -8,8 +8,9 @@
 
 namespace desktop {
 
-// The caption with "&" before its first letter that is not in `taken`. Adds the letter to `taken`.
-QString with_shortcut(const std::string& caption, QString& taken);
+// Adds the first letter of the caption that is not in `taken` to it. Returns the caption with "&"
+// before that letter.
+QString take_shortcut(const std::string& caption, QString& taken);
 
 // Adds an action for each item of `shown`, in the same order and with the same name.
 void add_items(QMenu& menu, const forms_layer::menu& shown);

@@ -62,11 +62,11 @@ multiline_text_view::multiline_text_view(forms_layer::text_box& shown, QWidget* 
   setUndoRedoEnabled(!shown.designed.locked);
   pause_.setSingleShot(true);
   pause_.setInterval(pause_in_milliseconds);
-  connect(&pause_, &QTimer::timeout, this, [this] { take_edit(); });
+  connect(&pause_, &QTimer::timeout, this, [this] { report_edit(); });
   connect(this, &QPlainTextEdit::textChanged, this, [this] { pause_.start(); });
 }
 
-void multiline_text_view::take_edit() {
+void multiline_text_view::report_edit() {
   pause_.stop();
   reported_ = toPlainText();
   QString lines = reported_;
@@ -125,7 +125,7 @@ void multiline_text_view::insertFromMimeData(const QMimeData* source) {
 }
 
 void multiline_text_view::focusOutEvent(QFocusEvent* event) {
-  if (pause_.isActive()) take_edit();
+  if (pause_.isActive()) report_edit();
   QPlainTextEdit::focusOutEvent(event);
 }
 

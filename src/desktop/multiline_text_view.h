@@ -23,7 +23,7 @@ class multiline_text_view : public view_of<QPlainTextEdit, forms_layer::text_box
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
-  void take_edit();
+  void report_edit();
   void count_lines();
 
   bool has_joined_lines_ = false;
