@@ -59,7 +59,7 @@ canvas::canvas(forms_layer::container& shown, QWidget* parent)
   if (std::any_of(pictures_.begin(), pictures_.end(), answers)) setFocusPolicy(Qt::TabFocus);
 }
 
-bool canvas::mark_dirty(forms_layer::picture_box& box) {
+void canvas::mark_dirty(forms_layer::picture_box& box) {
   const auto [at, is_new] = indices_.try_emplace(&box, pictures_.size());
   try {
     if (is_new) pictures_.push_back({&box, {}, false});
@@ -67,9 +67,7 @@ bool canvas::mark_dirty(forms_layer::picture_box& box) {
     indices_.erase(at);
     throw;
   }
-  if (std::exchange(pictures_[at->second].dirty, true)) return false;
-  dirty_.push_back(at->second);
-  return dirty_.size() == 1;
+  if (!std::exchange(pictures_[at->second].dirty, true)) dirty_.push_back(at->second);
 }
 
 void canvas::sync_pictures() {
@@ -177,7 +175,12 @@ void canvas::move_cursor(int key) {
   cursor_ = cursor_step(rects, cursor_, rects[cursor_].isNull() ? Qt::Key_Home : key);
   damage_cursor();
   update(std::exchange(damage_, {}));
-  if (zoom_->is_open()) zoom(cursor_, zoom_->factor());
+  if (zoom_->is_open()) enlarge(cursor_, zoom_->factor());
+  announce_cursor();
+}
+
+// To screen readers.
+void canvas::announce_cursor() {
   if (!QAccessible::isActive() || !hasFocus() || !cursor_is_visible()) return;
   QAccessibleEvent moved(QAccessible::queryAccessibleInterface(this)->focusChild(),
                          QAccessible::Focus);

@@ -25,10 +25,14 @@ class canvas : public QWidget {
     forms_layer::picture_box* box;
     QRect rect;  // in the canvas; null while the box is hidden
     bool dirty;
+
+    // A swatch of a palette and a blank icon have no pixels.
+    bool is_blank() const { return box->pixels() == nullptr || rect.isNull(); }
   };
 
-  // Marks a picture box dirty. Returns true if none was dirty before.
-  bool mark_dirty(forms_layer::picture_box& box);
+  // Marks a picture box dirty, which joins the pictures if it is new.
+  void mark_dirty(forms_layer::picture_box& box);
+  bool is_dirty() const { return !dirty_.empty(); }
   // Schedules repaints of the dirty boxes.
   void sync_pictures();
   void show_all();
@@ -44,7 +48,7 @@ class canvas : public QWidget {
   // pictures.
   void act(const forms_layer::key& pressed);
   // Returns false if no picture was enlarged.
-  bool close_zoom();
+  bool end_zoom();
 
   bool cursor_is_visible() const { return !pictures_.empty() && !pictures_[cursor_].rect.isNull(); }
 
@@ -66,12 +70,15 @@ class canvas : public QWidget {
   bool has_menu(const forms_layer::context_menu& opened) const;
   std::size_t index_of(const forms_layer::picture_box& box) const { return indices_.at(&box); }
   std::size_t current() const;
-  void zoom(std::size_t index, int factor);
+  // The factor of the enlarged picture; 1 is its own size, without a frame.
+  void set_zoom(std::size_t index, int factor);
+  void enlarge(std::size_t index, int factor);
   void show_in_zoom(std::size_t index);
   void follow_in_zoom();
   forms_layer::picture_box* picture_at(const QPoint& position) const;
   void move_cursor(int key);
   void damage_cursor();
+  void announce_cursor();
 
   std::vector<picture> pictures_;
   std::unordered_map<const forms_layer::picture_box*, std::size_t> indices_;

@@ -54,7 +54,7 @@ void canvas::add_view_items(const forms_layer::context_menu& opened, QMenu& menu
   }
   factors.front().first = QStringLiteral("&1 (own size)");
   add_choices(menu, QStringLiteral("&Zoom"), factors, zoom_->factor(),
-              [this, target](int factor) { zoom(target, factor); });
+              [this, target](int factor) { set_zoom(target, factor); });
   add_choices<backdrop>(menu, QStringLiteral("&Background"),
                         {{QStringLiteral("As &designed"), backdrop::designed},
                          {QStringLiteral("&Chequered"), backdrop::chequered},
@@ -79,36 +79,34 @@ std::size_t canvas::current() const {
 
 void canvas::act(const forms_layer::key& pressed) {
   using forms_layer::view_action;
-  if (pressed.action == view_action::end_zoom) close_zoom();
+  if (pressed.action == view_action::end_zoom) end_zoom();
   const std::size_t index = current();
   if (index >= pictures_.size()) return;
   const forms_layer::picture_box& box = *pictures_[index].box;
   if (pressed.item != nullptr && box.array != nullptr) {
     forms_layer::user::pick(*box.array, box.Index, *pressed.item);
   } else if (pressed.action == view_action::zoom_in) {
-    zoom(index, zoom_->stepped(1));
+    set_zoom(index, zoom_->stepped(1));
   } else if (pressed.action == view_action::zoom_out) {
-    zoom(index, zoom_->stepped(-1));
+    set_zoom(index, zoom_->stepped(-1));
   }
 }
 
-bool canvas::close_zoom() {
+bool canvas::end_zoom() {
   const bool was_open = zoom_->is_open();
-  zoom_->set_factor(1);
+  zoom_->end();
   return was_open;
 }
 
-// A swatch of a palette and a blank icon have no pixels: the frame is empty. The keys go on to the
-// pictures.
-void canvas::zoom(std::size_t index, int factor) {
+void canvas::set_zoom(std::size_t index, int factor) {
+  factor == 1 ? zoom_->end() : enlarge(index, factor);
+}
+
+// The keys go on to the pictures.
+void canvas::enlarge(std::size_t index, int factor) {
   const picture& p = pictures_[index];
-  if (factor == 1) {
-    close_zoom();
-    return;
-  }
-  const bool is_blank = p.box->pixels() == nullptr || p.rect.isNull();
   if (!zoom_->is_open()) {
-    if (is_blank) return;
+    if (p.is_blank()) return;
     zoom_top_ = p.rect.top();
     for (const picture& other : pictures_) {
       if (!other.rect.isNull()) zoom_top_ = std::min(zoom_top_, other.rect.top());
@@ -116,16 +114,16 @@ void canvas::zoom(std::size_t index, int factor) {
   }
   zoom_->set_factor(factor);
   show_in_zoom(index);
-  if (is_blank) return;
+  if (p.is_blank()) return;
   cursor_ = index;
   if (!hasFocus()) setFocus(Qt::OtherFocusReason);
 }
 
 void canvas::show_in_zoom(std::size_t index) {
   const picture& p = pictures_[index];
-  if (p.box->pixels() == nullptr || p.rect.isNull()) return zoom_->show_picture(nullptr, {}, {});
+  if (p.is_blank()) return zoom_->show_empty();
   const QRect area(margin, zoom_top_, width() - 2 * margin, height() - margin - zoom_top_);
-  zoom_->show_picture(p.box, p.rect, area);
+  zoom_->show_picture(*p.box, p.rect, area);
 }
 
 // The motion and the buttons show another picture instead of the enlarged one. Between two pictures
@@ -134,7 +132,7 @@ void canvas::follow_in_zoom() {
   const forms_layer::picture_box* shown = zoom_->picture();
   const bool is_visible = shown != nullptr && !pictures_[index_of(*shown)].rect.isNull();
   if (is_visible) return show_in_zoom(index_of(*shown));
-  if (appeared_ >= pictures_.size()) return zoom_->show_picture(nullptr, {}, {});
+  if (appeared_ >= pictures_.size()) return zoom_->show_empty();
   cursor_ = appeared_;
   show_in_zoom(appeared_);
 }
@@ -153,7 +151,7 @@ void canvas::wheelEvent(QWheelEvent* event) {
   wheel_ += event->angleDelta().y();
   const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
   wheel_ -= steps * QWheelEvent::DefaultDeltasPerStep;
-  if (steps != 0) zoom(index_of(*box), zoom_->stepped(steps));
+  if (steps != 0) set_zoom(index_of(*box), zoom_->stepped(steps));
 }
 
 }  // namespace desktop

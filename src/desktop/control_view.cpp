@@ -24,11 +24,7 @@ QRect with_visible_edge(QRect rect, const QWidget& parent) {
 
 }  // namespace
 
-bool control_view::mark_dirty(property_id what) {
-  const bool first = dirty_ == 0;
-  dirty_ |= bit(what);
-  return first;
-}
+void control_view::mark_dirty(property_id what) { dirty_ |= bit(what); }
 
 void control_view::sync() {
   const unsigned dirty = std::exchange(dirty_, 0U);

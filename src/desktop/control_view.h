@@ -21,8 +21,8 @@ class control_view {
   // The widget that takes the focus and is in the tab order.
   virtual QWidget& focus_widget() { return widget(); }
 
-  // Marks the property dirty. Returns true if none was dirty before.
-  bool mark_dirty(forms_layer::property_id what);
+  void mark_dirty(forms_layer::property_id what);
+  bool is_dirty() const { return dirty_ != 0; }
   // Shows all dirty properties.
   void sync();
   // Shows every property, as for a new widget or a new theme.

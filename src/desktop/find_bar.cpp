@@ -33,15 +33,20 @@ find_bar::find_bar(const forms_layer::row_list& list, QWidget& list_widget,
   hide();
 }
 
-void find_bar::find_text() { open(QStringLiteral("Find"), false); }
+void find_bar::find_text() {
+  by_number_ = false;
+  open(QStringLiteral("Find"));
+}
 
-void find_bar::find_number() { open(QStringLiteral("Go to number"), true); }
+void find_bar::find_number() {
+  by_number_ = true;
+  field_.clear();
+  open(QStringLiteral("Go to number"));
+}
 
-void find_bar::open(const QString& hint, bool by_number) {
-  by_number_ = by_number;
+void find_bar::open(const QString& hint) {
   field_.setPlaceholderText(hint);
   field_.setAccessibleName(hint);
-  if (by_number) field_.clear();
   const QRect corner = list_widget_.geometry();
   const int height = sizeHint().height();
   setGeometry(corner.left(), corner.bottom() + 1 - height, bar_width, height);
@@ -53,12 +58,10 @@ void find_bar::open(const QString& hint, bool by_number) {
 }
 
 std::vector<std::int32_t> find_bar::hits() const {
-  if (!by_number_) {
-    return list_.Find ? list_.Find(from_screen(field_.text())) : std::vector<std::int32_t>{};
-  }
+  if (!by_number_) return list_.Find(from_screen(field_.text()));
   const int row = field_.text().toInt() - 1;
-  return row >= 0 && row < list_.ListCount() ? std::vector<std::int32_t>{row}
-                                             : std::vector<std::int32_t>{};
+  if (row < 0 || row >= list_.ListCount()) return {};
+  return {row};
 }
 
 void find_bar::show_count() {
@@ -70,17 +73,17 @@ void find_bar::show_count() {
   count_.setText(field_.text().isEmpty() && !by_number_ ? QString() : text);
 }
 
-void find_bar::go(bool forward) {
+void find_bar::find_next() {
   const std::vector<std::int32_t> found = hits();
-  if (found.empty()) return;
-  const std::int32_t now = list_.ListIndex();
-  if (forward) {
-    const auto next = std::upper_bound(found.begin(), found.end(), now);
-    choose_(next == found.end() ? found.front() : *next);
-  } else {
-    const auto next = std::lower_bound(found.begin(), found.end(), now);
-    choose_(next == found.begin() ? found.back() : *(next - 1));
-  }
+  const auto next = std::upper_bound(found.begin(), found.end(), list_.ListIndex());
+  if (!found.empty()) choose_(next == found.end() ? found.front() : *next);
+  show_count();
+}
+
+void find_bar::find_previous() {
+  const std::vector<std::int32_t> found = hits();
+  const auto next = std::lower_bound(found.begin(), found.end(), list_.ListIndex());
+  if (!found.empty()) choose_(next == found.begin() ? found.back() : *(next - 1));
   show_count();
 }
 
@@ -93,7 +96,7 @@ bool find_bar::close_bar() {
 
 void find_bar::keyPressEvent(QKeyEvent* event) {
   if (is_enter(*event)) {
-    go((event->modifiers() & Qt::ShiftModifier) == 0);
+    (event->modifiers() & Qt::ShiftModifier) != 0 ? find_previous() : find_next();
     if (by_number_) close_bar();
   } else if (event->key() == Qt::Key_Escape) {
     close_bar();

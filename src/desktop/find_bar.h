@@ -11,8 +11,8 @@
 
 namespace desktop {
 
-// A field in the corner of a list: finds rows by their text or goes to a number. Enter goes to the
-// next row, Escape closes it.
+// A field in the corner of a list that has `Find`: finds rows by their text or goes to a number.
+// Enter goes to the next row, Escape closes it.
 class find_bar : public QFrame {
  public:
   find_bar(const forms_layer::row_list& list, QWidget& list_widget,
@@ -20,8 +20,9 @@ class find_bar : public QFrame {
 
   void find_text();
   void find_number();
-  // Chooses the next or the previous row that the text finds.
-  void go(bool forward);
+  // Choose the next or the previous row that the text finds.
+  void find_next();
+  void find_previous();
   // Returns false if it was not open.
   bool close_bar();
 
@@ -29,7 +30,7 @@ class find_bar : public QFrame {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void open(const QString& hint, bool by_number);
+  void open(const QString& hint);
   void show_count();
   std::vector<std::int32_t> hits() const;
 

@@ -172,7 +172,7 @@ void form_window::keyPressEvent(QKeyEvent* event) {
   } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
     open_focused_menu();
   } else if (event->key() == Qt::Key_Escape) {
-    if (!close_extras(*this)) forms_layer::user::cancel(form);
+    if (!close_extra(*this)) forms_layer::user::cancel(form);
   } else {
     QMainWindow::keyPressEvent(event);
   }

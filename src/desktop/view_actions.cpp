@@ -21,8 +21,8 @@ void act_on_list(rows_view& list, forms_layer::view_action action) {
   if (action == view_action::focus_list) list.setFocus(Qt::ShortcutFocusReason);
   if (action == view_action::find) search->find_text();
   if (action == view_action::find_number) search->find_number();
-  if (action == view_action::find_next) search->go(true);
-  if (action == view_action::find_previous) search->go(false);
+  if (action == view_action::find_next) search->find_next();
+  if (action == view_action::find_previous) search->find_previous();
 }
 
 }  // namespace
@@ -34,10 +34,10 @@ void act(const QWidget& window, const forms_layer::key& pressed) {
   for_each<canvas>(window, [&](canvas& on) { on.act(pressed); });
 }
 
-bool close_extras(const QWidget& window) {
+bool close_extra(const QWidget& window) {
   bool closed = false;
   for_each<rows_view>(window, [&](rows_view& list) { closed = closed || list.close_search(); });
-  for_each<canvas>(window, [&](canvas& on) { closed = closed || on.close_zoom(); });
+  for_each<canvas>(window, [&](canvas& on) { closed = closed || on.end_zoom(); });
   return closed;
 }
 

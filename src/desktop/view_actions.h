@@ -12,8 +12,8 @@ namespace desktop {
 // Does what a key says, unless that is an action of the tool.
 void act(const QWidget& window, const forms_layer::key& pressed);
 
-// Closes the search or the enlarged picture. Returns false if neither was open.
-bool close_extras(const QWidget& window);
+// Closes the search, else the enlarged picture. Returns false if neither was open.
+bool close_extra(const QWidget& window);
 
 // Adds the actions of the screen to a menu of pictures.
 void add_view_items(const QWidget& window, const forms_layer::context_menu& opened, QMenu& menu);

@@ -77,14 +77,13 @@ void views::make_all(forms_layer::container& shown, canvas& on) {
 void views::mark_dirty(forms_layer::control& changed, forms_layer::property_id what) {
   const bool failed = std::exchange(failed_, true);
   if (changed.kind == forms_layer::control_kind::picture_box) {
-    const auto at = canvases_.find(&changed.parent);
-    const bool first = at != canvases_.end() &&
-                       at->second->mark_dirty(static_cast<forms_layer::picture_box&>(changed));
-    if (first) dirty_canvases_.push_back(at->second);
-  } else {
-    const auto at = by_control_.find(&changed);
-    const bool first = at != by_control_.end() && at->second->mark_dirty(what);
-    if (first) dirty_.push_back(at->second);
+    if (const auto at = canvases_.find(&changed.parent); at != canvases_.end()) {
+      if (!at->second->is_dirty()) dirty_canvases_.push_back(at->second);
+      at->second->mark_dirty(static_cast<forms_layer::picture_box&>(changed));
+    }
+  } else if (const auto at = by_control_.find(&changed); at != by_control_.end()) {
+    if (!at->second->is_dirty()) dirty_.push_back(at->second);
+    at->second->mark_dirty(what);
   }
   failed_ = failed;
 }

@@ -37,14 +37,10 @@ zoom_view::zoom_view(QWidget& on_canvas) : QScrollArea(&on_canvas) {
   hide();
 }
 
-void zoom_view::show_picture(const forms_layer::picture_box* shown, const QRect& around,
+void zoom_view::show_picture(const forms_layer::picture_box& shown, const QRect& around,
                              const QRect& area) {
-  picture_ = shown;
-  if (picture_ == nullptr || !is_open()) {
-    widget()->update();
-    return;
-  }
-  const QSize size = QSize(picture_->columns(), picture_->rows()) * factor_;
+  picture_ = &shown;
+  const QSize size = QSize(shown.columns(), shown.rows()) * factor_;
   const int frame = 2 * frameWidth();
   QSize outer = size + QSize(frame, frame);
   const int bar = verticalScrollBar()->sizeHint().width();
@@ -60,9 +56,14 @@ void zoom_view::show_picture(const forms_layer::picture_box* shown, const QRect&
   show();
 }
 
-void zoom_view::set_factor(int factor) {
-  factor_ = factor;
-  if (!is_open()) hide();
+void zoom_view::show_empty() {
+  picture_ = nullptr;
+  widget()->update();
+}
+
+void zoom_view::end() {
+  factor_ = 1;
+  hide();
 }
 
 int zoom_view::stepped(int steps) const {

@@ -13,12 +13,16 @@ class zoom_view : public QScrollArea {
 
   static constexpr int factors[] = {1, 2, 3, 4, 8};
 
-  // Shows a picture, or an empty frame if it is null, in the middle of `around` and inside `area`.
-  void show_picture(const forms_layer::picture_box* shown, const QRect& around, const QRect& area);
+  // Shows a picture in the middle of `around` and inside `area`. Call while it is open.
+  void show_picture(const forms_layer::picture_box& shown, const QRect& around, const QRect& area);
+  // Leaves the frame without a picture.
+  void show_empty();
   const forms_layer::picture_box* picture() const { return picture_; }
 
-  // 1 hides it.
-  void set_factor(int factor);
+  // Above 1. The next picture is shown with it.
+  void set_factor(int factor) { factor_ = factor; }
+  // Hides it: own size.
+  void end();
   int factor() const { return factor_; }
   bool is_open() const { return factor_ > 1; }
   // The next larger or smaller factor.
