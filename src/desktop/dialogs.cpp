@@ -46,13 +46,6 @@ void set_default_suffix(QFileDialog& dialog, const file_kind& kind) {
 // Leaves room for the title, whose font the window manager chooses.
 constexpr int min_text_width = 260;
 
-void activate_first_item(QMenu& menu) {
-  const QList<QAction*> actions = menu.actions();
-  const auto first = std::find_if(actions.begin(), actions.end(),
-                                  [](const QAction* action) { return action->isEnabled(); });
-  if (first != actions.end()) menu.setActiveAction(*first);
-}
-
 // Of the latest dialog in which the user chose a file or a folder.
 QString& last_folder() {
   static QString folder = QDir::homePath();
@@ -68,7 +61,9 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
   box.setFont(font_for({}));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_screen(title));
-  box.setText(normalize_newlines(to_screen(text), true));
+  // Some texts of the tool have LF CR.
+  const QString one_break = to_screen(text).replace(QLatin1String("\n\r"), QLatin1String("\n"));
+  box.setText(normalize_newlines(one_break));
   auto* rows = qobject_cast<QGridLayout*>(box.layout());
   if (rows != nullptr) rows->setColumnMinimumWidth(rows->columnCount() - 1, min_text_width);
   box.show();
@@ -78,13 +73,19 @@ void show_message(const std::string& title, const std::string& text, QWidget* ow
 }
 
 forms_layer::menu_item* pick_item(const forms_layer::context_menu& opened,
-                                  forms_layer::screen_point at, bool by_key, QWidget* owner,
-                                  const std::function<void(QMenu&)>& add_more) {
+                                  forms_layer::screen_point at, QWidget* owner,
+                                  const std::function<void(QMenu&)>& prepare) {
   QMenu menu(owner);
   add_items(menu, opened);
-  add_more(menu);
-  if (by_key) activate_first_item(menu);
+  prepare(menu);
   return item_of(menu, opened, menu.exec(QPoint(at.x, at.y)));
+}
+
+void activate_first_item(QMenu& menu) {
+  const QList<QAction*> actions = menu.actions();
+  const auto first = std::find_if(actions.begin(), actions.end(),
+                                  [](const QAction* action) { return action->isEnabled(); });
+  if (first != actions.end()) menu.setActiveAction(*first);
 }
 
 forms_layer::save_answer ask_save_path(const forms_layer::save_question& question, QWidget* owner) {

@@ -21,6 +21,7 @@
 #include "desktop/view_actions.h"
 #include "files/code_page.h"
 #include "forms_layer/application.h"
+#include "forms_layer/events.h"
 #include "forms_layer/user.h"
 
 namespace desktop {
@@ -91,11 +92,13 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   // The layout sets the size of the client area only when the window is shown.
   client->resize(size() - QSize(0, menu_height()));
   views_.make_all(form, *client);
-  set_tab_order();
+  set_focus_order();
   show_caption();
   add_keys();
   setAcceptDrops(static_cast<bool>(form.TakesDrop));
-  for (forms_layer::timer* timer : form.timers) restart(*timer);
+  for (forms_layer::timer* timer : form.timers) sync_timer(*timer);
+  // Loads the fonts, so that the first frame follows the window at once.
+  grab();
 }
 
 int form_window::menu_height() const {
@@ -112,7 +115,7 @@ void form_window::set_designed_size() {
   }
 }
 
-void form_window::set_tab_order() {
+void form_window::set_focus_order() {
   QWidget* before = nullptr;
   for (const auto& [index, widget] : views_.in_tab_order(form)) {
     if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
@@ -187,9 +190,7 @@ void form_window::open_focused_menu() {
   QCoreApplication::sendEvent(focused, &asked);
 }
 
-void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_handler) {
-  winId();
-  windowHandle()->setTransientParent(owner);
+void form_window::place(const QWidget* centre_of) {
   const bool first = !std::exchange(placed_, true);
   // The screen of its last position may have been unplugged.
   const QPoint last_centre = QRect(last_position_, size()).center();
@@ -198,12 +199,17 @@ void form_window::show_over(QWindow* owner, const QWidget* centre_of, bool in_ha
     windowHandle()->installEventFilter(this);
   }
   if (!isMaximized()) setGeometry(QRect(last_position_, size()));
+}
+
+void form_window::show_over(QWindow* owner, const QWidget* centre_of) {
+  winId();
+  windowHandle()->setTransientParent(owner);
+  place(centre_of);
+  const bool in_handler = forms_layer::handler_running();
   // What the user types during a handler must arrive at the control that has the focus.
   setAttribute(Qt::WA_ShowWithoutActivating, in_handler);
   windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, in_handler);
   wants_focus_ = in_handler;
-  // Loads the fonts, so that the first frame follows the window at once.
-  if (first) grab();
   show();
   if (focused_ != nullptr) focused_->setFocus();
   raise();
@@ -240,7 +246,7 @@ void form_window::take_focus() {
   activateWindow();
 }
 
-void form_window::restart(forms_layer::timer& changed) {
+void form_window::sync_timer(forms_layer::timer& changed) {
   const auto [at, is_new] = timers_.try_emplace(&changed);
   QTimer& timer = at->second;
   if (is_new) {

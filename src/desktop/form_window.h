@@ -26,12 +26,12 @@ class form_window : public QMainWindow {
   // Shows the window over `owner`, which may be null. The first time it is at its designed
   // position, later at its last one. If its design says so, it is centred over `centre_of`. A
   // window shown during a handler gets no focus before `take_focus`.
-  void show_over(QWindow* owner, const QWidget* centre_of, bool in_handler);
+  void show_over(QWindow* owner, const QWidget* centre_of);
   void hide_window();
   void take_focus();
   void show_caption();
-  // Each write restarts a timer, even if the value is the same.
-  void restart(forms_layer::timer& changed);
+  // Stops a timer, or starts it again, even if its values are the same.
+  void sync_timer(forms_layer::timer& changed);
 
   // True if it was shown during a handler and has no focus yet.
   bool wants_focus() const { return wants_focus_; }
@@ -48,9 +48,11 @@ class form_window : public QMainWindow {
  private:
   int menu_height() const;
   void set_designed_size();
-  void set_tab_order();
+  // Tab order. The first widget gets the focus.
+  void set_focus_order();
   void add_keys();
   void open_focused_menu();
+  void place(const QWidget* centre_of);
 
   views& views_;
   std::map<const forms_layer::timer*, QTimer> timers_;

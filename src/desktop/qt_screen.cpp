@@ -78,7 +78,7 @@ void qt_screen::menu_changed(forms_layer::form& owner, forms_layer::menu_item& c
 }
 
 void qt_screen::timer_changed(forms_layer::timer& changed) {
-  if (form_window* window = window_of(changed.owner)) window->restart(changed);
+  if (form_window* window = window_of(changed.owner)) window->sync_timer(changed);
 }
 
 void qt_screen::refresh(forms_layer::form& /*shown*/) { show_frame_if_due(); }
@@ -96,8 +96,9 @@ forms_layer::menu_item* qt_screen::pick_item(forms_layer::context_menu& opened,
                                              forms_layer::screen_point at) {
   sync();
   form_window* owner = window_of(opened.owner);
-  return desktop::pick_item(opened, at, filter_.key_was_latest(), owner, [&](QMenu& menu) {
+  return desktop::pick_item(opened, at, owner, [&](QMenu& menu) {
     if (owner != nullptr) add_view_items(*owner, opened, menu);
+    if (filter_.key_was_latest()) activate_first_item(menu);
   });
 }
 
@@ -133,6 +134,7 @@ void qt_screen::sync_between_handlers() {
   if (forms_layer::handler_running()) return;
   try {
     sync();
+    windows_.give_focus();
     held_keys_.deliver();
   } catch (const std::bad_alloc&) {
     // The next sync shows these changes.
@@ -142,7 +144,6 @@ void qt_screen::sync_between_handlers() {
 void qt_screen::sync() {
   views_.sync();
   windows_.sync();
-  if (!forms_layer::handler_running()) windows_.give_focus();
 }
 
 // The start of a handler counts as a frame, as the end of the previous one synced everything.

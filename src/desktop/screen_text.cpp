@@ -22,9 +22,8 @@ std::string from_screen(const QString& text) {
   return files::from_utf8_lossy(files::as_utf8(text.toStdString()));
 }
 
-QString normalize_newlines(QString text, bool pairs_turned) {
+QString normalize_newlines(QString text) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  if (pairs_turned) text.replace(QLatin1String("\n\r"), QLatin1String("\n"));
   text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   return text;
 }

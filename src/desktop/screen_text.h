@@ -12,8 +12,8 @@ QString to_screen(std::string_view text);
 // Characters that the code page lacks become "?".
 std::string from_screen(const QString& text);
 
-// Replaces CR LF, CR and LF by "\n", and LF CR too if `pairs_turned`.
-QString normalize_newlines(QString text, bool pairs_turned = false);
+// Replaces CR LF, CR and LF by "\n".
+QString normalize_newlines(QString text);
 
 // Doubles "&", which marks a shortcut in Qt's captions.
 QString escape_ampersands(QString caption);

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms_layer/events.h"
-
 namespace desktop {
 
 form_window* window_stack::window_of(const forms_layer::form& shown) const {
@@ -45,8 +43,7 @@ void window_stack::show_window(forms_layer::form& shown) {
   form_window* owner = topmost(&shown);
   if (main_ == nullptr) main_ = &window;
   on_screen_.push_back(&window);
-  window.show_over(owner == nullptr ? nullptr : owner->windowHandle(), main_,
-                   forms_layer::handler_running());
+  window.show_over(owner == nullptr ? nullptr : owner->windowHandle(), main_);
 }
 
 void window_stack::hide_window(forms_layer::form& shown) {
@@ -72,18 +69,16 @@ void window_stack::bring_up_topmost() {
 }
 
 void window_stack::store_focus() {
-  if (before_box_ == nullptr) {
-    before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
-  }
-  box_had_focus_ = true;
+  if (before_box() != nullptr) return;
+  before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
 }
 
 // Windows that were shown during a handler and are still visible get the focus at its end. After a
 // message box the window manager may have given it to one that is hidden now, to the report, which
 // owns the box while it is shown, or to none.
 void window_stack::give_focus() {
-  if (std::exchange(box_had_focus_, false)) {
-    form_window* to = std::exchange(before_box_, nullptr);
+  if (before_box_.has_value()) {
+    form_window* to = *std::exchange(before_box_, std::nullopt);
     if (to == nullptr || !to->form.Visible() || !to->form.Enabled()) to = topmost();
     if (to != nullptr) to->take_focus();
   }

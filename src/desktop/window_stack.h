@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -20,7 +21,7 @@ class window_stack {
   // none.
   form_window* topmost(const forms_layer::form* except = nullptr) const;
   // The owner of a dialog: the window that had the focus before the first box of the handler.
-  form_window* dialog_owner() const { return before_box_ == nullptr ? topmost() : before_box_; }
+  form_window* dialog_owner() const { return before_box() == nullptr ? topmost() : before_box(); }
 
   // A form was shown or hidden. `sync` shows and hides the windows.
   void mark_dirty(forms_layer::form& changed) { dirty_.push_back(&changed); }
@@ -29,7 +30,7 @@ class window_stack {
   // Brings the topmost window to the front, even if it is minimised.
   void bring_up_topmost();
 
-  // Call before a box or dialog takes the focus.
+  // Stores the window that has the focus. Call before a box or dialog takes it.
   void store_focus();
   // The form gets the focus at the end of the handler, by `give_focus`.
   void request_focus(forms_layer::form& to) { takes_focus_ = &to; }
@@ -38,6 +39,7 @@ class window_stack {
  private:
   void show_window(forms_layer::form& shown);
   void hide_window(forms_layer::form& shown);
+  form_window* before_box() const { return before_box_.value_or(nullptr); }
 
   views& views_;
   std::unordered_map<const forms_layer::form*, std::unique_ptr<form_window>> windows_;
@@ -45,8 +47,8 @@ class window_stack {
   std::vector<form_window*> on_screen_;  // the latest one shown comes last
   std::vector<forms_layer::form*> dirty_;
   forms_layer::form* takes_focus_ = nullptr;
-  bool box_had_focus_ = false;
-  form_window* before_box_ = nullptr;  // had the focus before the first box of the handler
+  // That had the focus before the first box of the handler, or null; none before a box.
+  std::optional<form_window*> before_box_;
 };
 
 }  // namespace desktop
