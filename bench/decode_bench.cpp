@@ -52,7 +52,7 @@ void decode_icons_from_file(benchmark::State& state) {
     read_directory();
     for (std::int16_t i = 1; i <= icons; ++i) {
       tool_state.icon_number = i;
-      read_current_icon_head();
+      begin_current_icon();
       slot.Cls();
       decode_icon();
     }

@@ -71,10 +71,7 @@ void show_double_clicked_entry() {
   const std::string row = selected_row();
   const entry_kind kind = kind_of_entry(row);
   if (kind == entry_kind::palette) return;
-  if (kind != entry_kind::icons) {
-    report_unknown_kind(row);
-    return;
-  }
+  if (kind != entry_kind::icons) return report_unknown_kind(row);
   require_open_archive();
   Form1.Text2.Text = "";
   tool_state.selected_index = Form1.List1.ListIndex();

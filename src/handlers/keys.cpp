@@ -44,7 +44,7 @@ void wire_keys() {
       {"Ctrl+0", "shows it in its own size again", {}, nullptr, view_action::end_zoom},
       {"Ctrl+Q", "ends the program", forms_layer::end_process},
   };
-  Form2.keys = {{"Ctrl+O", "reads the archive", read_archive_of_form2}};
+  Form2.keys = {{"Ctrl+O", "reads the archive", confirm_form2}};
 }
 
 }  // namespace ostrane

@@ -89,11 +89,11 @@ void lay_out_main_window() {
   }
 }
 
-void check_interval() {
+void correct_interval() {
   if (!files::as_number(Form1.Text4.Text())) Form1.Text4.Text = default_interval_text;
 }
 
-void check_max_icons() {
+void accept_max_icons() {
   const std::optional<std::int16_t> number = as_int16(Form1.Text5.Text());
   if (number) {
     tool_state.max_icons = *number;

@@ -11,10 +11,10 @@ void load_form1();
 void lay_out_main_window();
 
 // LostFocus of `Text4`: resets a text that is not a number to 10.
-void check_interval();
+void correct_interval();
 
 // LostFocus of `Text5`: stores a 16-bit number in `max_icons`, rounded half to even; resets any
 // other text to `max_icons`.
-void check_max_icons();
+void accept_max_icons();
 
 }  // namespace ostrane

@@ -45,10 +45,9 @@ bool is_archive_path(const fs::path& path) { return !folder_of_archive(path).emp
 void open_path(const fs::path& path) {
   const std::string folder = folder_of_archive(path);
   if (folder.empty()) {
-    forms_layer::message_box(
+    return forms_layer::message_box(
         files::from_utf8_lossy(files::from_system_path(absolute_path(path)).shown) +
         " is no ostrane.dat, and no folder that holds one.");
-    return;
   }
   // The archive can be read even if the other files of its folder cannot be listed.
   files::ignore_failure([&folder] { Form2.Dir1.Path = folder; });

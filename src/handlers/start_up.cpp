@@ -17,7 +17,7 @@ void start_tool(const std::filesystem::path& program_folder, icon_exporter expor
   forms_layer::begin_process();
   forms_layer::application.Title = "Ostrane.dat-tool";
   forms_layer::application.Path = program_folder;
-  forms_layer::application.OutOfMemory = restore_windows;
+  forms_layer::application.OutOfMemory = abandon_job;
   reset_state();
   tool_state.export_icons = exporter;
   reset_forms();

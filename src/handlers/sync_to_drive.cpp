@@ -29,7 +29,7 @@ void report_failing_drive(const std::string& drive) {
       "try again.");
 }
 
-bool succeeds(const step& run) {
+bool try_step(const step& run) {
   try {
     run();
     return true;
@@ -42,10 +42,10 @@ void recover(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1) {
   report_failing_drive(Drive1.Drive());
   const phase_guard at_end;
   phase = recovery_phase::to_drive_c;
-  succeeds([&] { Drive1.Drive = "C"; });
-  if (!succeeds([&] { Dir1.Path = "C:\\"; })) {
+  try_step([&] { Drive1.Drive = "C"; });
+  if (!try_step([&] { Dir1.Path = "C:\\"; })) {
     phase = recovery_phase::back;
-    succeeds([&] { Drive1.Drive = Dir1.Path(); });
+    try_step([&] { Drive1.Drive = Dir1.Path(); });
   }
 }
 
@@ -56,7 +56,7 @@ void sync_to_drive(forms_layer::drive_list& Drive1, forms_layer::dir_list& Dir1,
   if (phase == recovery_phase::back) return;
   bool recovered = phase != recovery_phase::none;
   const auto run_step = [&](const step& run) {
-    if (!succeeds(run) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
+    if (!try_step(run) && !std::exchange(recovered, true)) recover(Drive1, Dir1);
   };
   const std::string old_folder = Dir1.Path();
   run_step([&] { Dir1.Path = Drive1.Drive(); });

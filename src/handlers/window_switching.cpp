@@ -58,23 +58,23 @@ void cancel_replacement(forms_layer::form& dialog) {
   Form1.Visible = true;
 }
 
-void restore_windows() {
+void abandon_job() {
   tool_state.archive_file.abandon();
   Form3.Visible = false;
-  show_bars(false);
+  set_bars_visible(false);
   if (!Form4.Visible() && !Form5.Visible()) Form1.Visible = true;
   if (!Form2.Visible() && !Form6.Visible()) Form1.Enabled = true;
 }
 
-void read_archive_of_form2() {
+void confirm_form2() {
   read_archive(Form2.File1.Path());
   Form1.Enabled = true;
   Form2.Visible = false;
 }
 
-bool read_listed_archive() {
+bool confirm_listed_archive() {
   if (Form2.File1.ListCount() == 0) return false;
-  read_archive_of_form2();
+  confirm_form2();
   return true;
 }
 

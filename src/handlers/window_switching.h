@@ -19,12 +19,12 @@ void cancel_replacement(forms_layer::form& dialog);
 
 // Call after a handler threw bad_alloc. Closes `archive_file`, hides `Form3`, and shows and enables
 // `Form1` unless a dialog is open.
-void restore_windows();
+void abandon_job();
 
 // Reads the archive in the folder that `Form2` shows, then hides `Form2` and enables `Form1`, also
 // if there is no archive.
-void read_archive_of_form2();
+void confirm_form2();
 // The same if `Form2` lists an archive. Returns false if not.
-bool read_listed_archive();
+bool confirm_listed_archive();
 
 }  // namespace ostrane

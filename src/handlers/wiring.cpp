@@ -36,14 +36,14 @@ void wire_form1() {
   Form1.mnu_make.Click = open_form5;
   Form1.mnu_save.Click = save_file_list;
   Form1.mnu_read_filelist.Click = open_form6;
-  Form1.Text4.LostFocus = check_interval;
-  Form1.Text5.LostFocus = check_max_icons;
+  Form1.Text4.LostFocus = correct_interval;
+  Form1.Text5.LostFocus = accept_max_icons;
   Form1.List1.Click = show_clicked_entry;
   Form1.List1.DblClick = show_double_clicked_entry;
   Form1.Command3.Click = show_previous_icon;
   Form1.Command4.Click = show_next_icon;
-  Form1.Command5.Click = start_motion;
-  Form1.Command5.ShiftClick = loop_motion;
+  Form1.Command5.Click = [] { motion_is_looping() ? end_motion() : start_motion(); };
+  Form1.Command5.ShiftClick = [] { motion_is_looping() ? end_motion() : loop_motion(); };
   Form1.List1.Find = rows_with;
   Form1.List1.RowToolTip = entry_tool_tip;
   Form1.List1.Drag = drag_entries;
@@ -71,8 +71,8 @@ void wire_context_menus() {
 void wire_form2() {
   Form2.Drive1.Change = [] { sync_to_drive(Form2.Drive1, Form2.Dir1); };
   Form2.Dir1.Change = [] { Form2.File1.Path = Form2.Dir1.Path(); };
-  Form2.Dir1.Confirm = read_listed_archive;
-  Form2.Command1.Click = read_archive_of_form2;
+  Form2.Dir1.Confirm = confirm_listed_archive;
+  Form2.Command1.Click = confirm_form2;
   Form2.Command2.Click = [] { cancel_overlay(Form2); };
 }
 

@@ -25,7 +25,7 @@ std::int16_t last_slot_of_motion() {
   return static_cast<std::int16_t>(std::max(0, last));
 }
 
-void enable_stepping(bool enabled) {
+void set_stepping_enabled(bool enabled) {
   Form1.Command3.Enabled = enabled;
   Form1.Command4.Enabled = enabled;
 }
@@ -37,14 +37,6 @@ void switch_to_slot(std::int16_t slot) {
   Form1.Text3.Text = std::to_string(tool_state.series_first_icon - 1 + slot);
 }
 
-void end_motion() {
-  Form1.Timer1.Enabled = false;
-  tool_state.motion_loops = flag_false;
-  enable_stepping(true);
-}
-
-bool motion_is_looping() { return tool_state.motion_loops == flag_true && Form1.Timer1.Enabled(); }
-
 }  // namespace
 
 std::int32_t motion_interval() {
@@ -54,10 +46,17 @@ std::int32_t motion_interval() {
   return std::max(1, static_cast<std::int32_t>(milliseconds));
 }
 
-void start_motion() {
-  if (motion_is_looping()) return end_motion();
+bool motion_is_looping() { return tool_state.motion_loops == flag_true && Form1.Timer1.Enabled(); }
+
+void end_motion() {
+  Form1.Timer1.Enabled = false;
   tool_state.motion_loops = flag_false;
-  enable_stepping(false);
+  set_stepping_enabled(true);
+}
+
+void start_motion() {
+  tool_state.motion_loops = flag_false;
+  set_stepping_enabled(false);
   tool_state.browse_ready = flag_true;
   Form1.Timer1.Interval = motion_interval();
   tool_state.motion_last_slot = last_slot_of_motion();
@@ -70,7 +69,6 @@ void start_motion() {
 }
 
 void loop_motion() {
-  if (motion_is_looping()) return end_motion();
   start_motion();
   tool_state.motion_loops = flag_true;
 }

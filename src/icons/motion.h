@@ -11,8 +11,12 @@ std::int32_t motion_interval();
 // Moves the slots of the series to one position, hides them and starts `Timer1` at that interval.
 void start_motion();
 
-// The same, and after the last slot begins again. While such a motion runs, stops it.
+// The same, and after the last slot begins again, until `end_motion`.
 void loop_motion();
+bool motion_is_looping();
+
+// Stops `Timer1`. `Command3` and `Command4` can step again.
+void end_motion();
 
 // Tick of `Timer1`, which the screen keeps: shows the next slot of the stack; after the last one
 // stops the timer.

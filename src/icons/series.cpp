@@ -55,11 +55,17 @@ void show_blank_icon() {
   place_icon_slot();
 }
 
+void report_refused_icon() {
+  if (tool_state.refusals_reported == max_refusals_reported) return;
+  ++tool_state.refusals_reported;
+  const bool is_last = tool_state.refusals_reported == max_refusals_reported;
+  forms_layer::message_box(
+      refused_icon_text() +
+      (is_last ? "\nFurther icons of this series are refused without a message." : ""));
+}
+
 void refuse_icon() {
-  if (tool_state.refusals_reported < max_refusals_reported) {
-    ++tool_state.refusals_reported;
-    report_refused_icon(tool_state.refusals_reported == max_refusals_reported);
-  }
+  report_refused_icon();
   ++tool_state.next_icon;
   stop_after_last_icon();
 }
@@ -81,7 +87,7 @@ void draw_next_icon() {
   load_slot(slot);
   tool_state.current_slot = slot;
   tool_state.icon_number = tool_state.next_icon;
-  read_current_icon_head();
+  begin_current_icon();
   if (tool_state.series_full == flag_true) return;
   draw_icon();
   Form1.Text2.Text = std::to_string(tool_state.icon_number);
@@ -135,7 +141,7 @@ void show_shp_series() {
   reset_series(1);
   tool_state.directory_read = flag_false;
   Form3.Visible = true;
-  show_bars(false);
+  set_bars_visible(false);
   draw_under_working_message();
 }
 

@@ -20,13 +20,11 @@ std::string selected_name() {
   return std::string(files::trimmed(Form1.List1.List(Form1.List1.ListIndex())));
 }
 
-void limit_icon_count() {
-  if (tool_state.shp_head.icon_count <= max_icons_per_file) return;
+void report_too_many_icons() {
   forms_layer::message_box("The file: " + selected_name() + " says that it holds" +
                            sign_column_text(tool_state.shp_head.icon_count) +
                            " pictures. Only the first" + sign_column_text(max_icons_per_file) +
                            " are displayed.");
-  tool_state.shp_head.icon_count = max_icons_per_file;
 }
 
 void report_invalid_address(std::int64_t icon_position) {
@@ -37,16 +35,15 @@ void report_invalid_address(std::int64_t icon_position) {
 
 }  // namespace
 
-void report_refused_icon(bool is_last) {
+std::string refused_icon_text() {
   const icon_head& head = tool_state.icon_header;
-  forms_layer::message_box(
-      "Something is rotten in the state of Denmark - fileformat has errors, icon is not "
-      "displayed. \nNo-of-rows = " +
-      sign_column_text(head.no_of_rows) + "\nRow-start = " + sign_column_text(head.row_start) +
-      "\nRow-end = " + sign_column_text(head.row_end) + "\nNo-of-cols = " +
-      sign_column_text(head.no_of_cols) + "\nCol-start = " + sign_column_text(head.col_start) +
-      "\nCol-end = " + sign_column_text(head.col_end) +
-      (is_last ? "\nFurther icons of this series are refused without a message." : ""));
+  return "Something is rotten in the state of Denmark - fileformat has errors, icon is not "
+         "displayed. \nNo-of-rows = " +
+         sign_column_text(head.no_of_rows) + "\nRow-start = " + sign_column_text(head.row_start) +
+         "\nRow-end = " + sign_column_text(head.row_end) +
+         "\nNo-of-cols = " + sign_column_text(head.no_of_cols) +
+         "\nCol-start = " + sign_column_text(head.col_start) +
+         "\nCol-end = " + sign_column_text(head.col_end);
 }
 
 void read_directory() {
@@ -57,14 +54,17 @@ void read_directory() {
     report_invalid_address(std::int64_t{offset} + 1);
     return;
   }
-  limit_icon_count();
+  if (tool_state.shp_head.icon_count > max_icons_per_file) {
+    report_too_many_icons();
+    tool_state.shp_head.icon_count = max_icons_per_file;
+  }
   const auto count = static_cast<std::size_t>(std::max(tool_state.shp_head.icon_count, 0));
   read_icon_positions(tool_state.archive_file, offset,
                       std::span(tool_state.icon_positions).subspan(1, count));
   tool_state.directory_read = flag_true;
 }
 
-void read_current_icon_head() {
+void begin_current_icon() {
   const std::int32_t position =
       tool_state.icon_positions[static_cast<std::size_t>(tool_state.icon_number)];
   if (!read_icon_head(tool_state.archive_file, position, tool_state.icon_header)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace ostrane {
 
 // Reads head and directory of the entry `selected_index` into `shp_head` and `icon_positions`; sets
@@ -8,13 +10,13 @@ namespace ostrane {
 // Throws file_error.
 void read_directory();
 
-// Reads the head of icon `icon_number` into `icon_header`, sets `entry_bytes_left` and empties the
-// read buffer; the file position is then the first byte of the icon's stream. Reports a position
-// outside the file and sets `series_full`. `archive_file` must be open. Throws file_error.
-void read_current_icon_head();
+// Reads the head of icon `icon_number` into `icon_header` and begins its stream: sets
+// `entry_bytes_left` and empties the read buffer; the file position is then its first byte. Reports
+// a position outside the file and sets `series_full`. `archive_file` must be open. Throws
+// file_error.
+void begin_current_icon();
 
-// Shows the message about the refused icon of `icon_header`; `is_last` adds that further ones get
-// no message.
-void report_refused_icon(bool is_last);
+// The message about the refused icon of `icon_header`.
+std::string refused_icon_text();
 
 }  // namespace ostrane

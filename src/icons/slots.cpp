@@ -13,7 +13,7 @@ constexpr int scale_in_pixels = 3;
 constexpr std::int32_t empty_slot_side = 100;  // twips
 constexpr std::int32_t grid_gap = 15;          // twips between two slots
 
-void show_on_current_row(forms_layer::picture_box& slot) {
+void place_on_current_row(forms_layer::picture_box& slot) {
   slot.Move(tool_state.next_slot_left, tool_state.next_slot_top);
   tool_state.next_slot_left += tool_state.slot_gap + slot.Width();
   slot.Visible = true;
@@ -37,11 +37,11 @@ bool new_row_fits(const forms_layer::picture_box& slot) {
 
 void place_in_grid(forms_layer::picture_box& slot) {
   if (fits_on_current_row(slot)) {
-    show_on_current_row(slot);
+    place_on_current_row(slot);
     if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
   } else if (new_row_fits(slot)) {
     begin_new_row();
-    show_on_current_row(slot);
+    place_on_current_row(slot);
     tool_state.row_height = slot.Height();
   } else {
     tool_state.series_full = flag_true;

@@ -4,7 +4,7 @@
 
 namespace ostrane {
 
-void show_bars(bool shown) {
+void set_bars_visible(bool shown) {
   Form3.ProgressBar1.Visible = shown;
   Form3.ProgressBar2.Visible = shown;
   Form3.Label1.Visible = shown;
@@ -14,11 +14,11 @@ void show_bars(bool shown) {
 void show_progress(const char* caption) {
   Form3.Visible = true;
   Form3.Caption = caption;
-  show_bars(true);
+  set_bars_visible(true);
 }
 
 void hide_progress(const char* caption) {
-  show_bars(false);
+  set_bars_visible(false);
   Form3.Caption = caption;
   Form3.Visible = false;
 }

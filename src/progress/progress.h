@@ -8,7 +8,7 @@
 namespace ostrane {
 
 // Shows or hides the two bars and their labels.
-void show_bars(bool shown);
+void set_bars_visible(bool shown);
 
 // Show `Form3` with its bars, and hide both. Both procedures set its caption.
 void show_progress(const char* caption);
