@@ -16,11 +16,6 @@ namespace ostrane {
 
 namespace {
 
-void store_records(const std::vector<dat_record>& records) {
-  tool_state.record_count = static_cast<std::int32_t>(records.size());
-  std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
-}
-
 void fill_list(const std::vector<dat_record>& records) {
   for (const dat_record& record : records) Form1.List1.AddItem(name_without_nuls(record.name));
 }
@@ -49,27 +44,31 @@ void read_index() {
   mark_open(index.stamp);
 }
 
-// Returns false after a message.
-bool try_to_read_index() {
+// Returns why it failed, or "". After a failure `List1` is empty.
+std::string try_to_read_index() {
   if (!files::file_exists(tool_state.archive_path)) {
-    forms_layer::message_box(tool_state.archive_path + " is not found");
-    return false;
+    return tool_state.archive_path + " is not found";
   }
-  const std::string failure = files::failure_of(read_index);
-  if (failure.empty()) return true;
-  Form1.List1.Clear();
-  forms_layer::message_box(failure);
-  return false;
+  std::string failure = files::failure_of(read_index);
+  if (!failure.empty()) Form1.List1.Clear();
+  return failure;
 }
 
 }  // namespace
+
+void store_records(const std::vector<dat_record>& records) {
+  tool_state.record_count = static_cast<std::int32_t>(records.size());
+  std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
+}
 
 void read_archive(const std::string& folder) {
   tool_state.archive_is_open = flag_false;
   if (Form1.List1.ListCount() > 0) Form1.List1.Clear();
   tool_state.archive_path = files::with_separator(folder) + "ostrane.dat";
   tool_state.archive_path_copy = tool_state.archive_path;
-  if (try_to_read_index()) {
+  const std::string failure = try_to_read_index();
+  forms_layer::report(failure);
+  if (failure.empty()) {
     Form1.mnu_ext.Enabled = true;
     Form1.mnu_save.Enabled = true;
     Form1.mnu_read_filelist.Enabled = true;

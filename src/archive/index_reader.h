@@ -1,8 +1,14 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "data/archive_format.h"
 
 namespace ostrane {
+
+// Stores an index in `dat_index` and `record_count`.
+void store_records(const std::vector<dat_record>& records);
 
 // Reads the index of the archive in `folder` into `dat_index`, `record_count` and `List1`, reads
 // its palette and enables the menus that need an archive. Reports a missing file and a bad index.

@@ -1,7 +1,5 @@
 #include "archive/make_archive.h"
 
-#include <algorithm>
-
 #include "archive/index_reader.h"
 #include "archive/skipped_files.h"
 #include "data/archive_writer.h"
@@ -35,24 +33,23 @@ struct build_job {
 
 // Takes the rows of `File1` without the archive itself.
 void list_files(build_job& job) {
+  const std::filesystem::path folder = files::system_path(job.folder, job.names);
   for (std::int32_t i = 0; i < Form5.File1.ListCount(); ++i) {
     const std::string& name = Form5.File1.List(i);
     if (is_archive_name(name)) continue;
-    job.archive.entries.push_back(source_of_file(name, {{}, files::to_utf8(job.folder + name)}));
+    job.archive.entries.push_back(source_of_file(
+        name, {folder / files::system_name(name), files::to_utf8(job.folder + name)}));
   }
 }
 
-void set_paths(build_job& job, bool in_any_case) {
+void find_in_any_case(build_job& job) {
   const std::filesystem::path folder = files::system_path(job.folder, job.names);
   for (entry_source& entry : job.archive.entries) {
-    const std::string& name = entry.shown_name;
-    entry.file.system =
-        in_any_case ? job.names.find(folder, name) : folder / files::system_name(name);
+    entry.file.system = job.names.find(folder, entry.shown_name);
   }
 }
 
-void measure(build_job& job) {
-  set_paths(job, false);
+void build_index(build_job& job) {
   try {
     make_index(job.archive);
     return;
@@ -60,7 +57,7 @@ void measure(build_job& job) {
     if (error.number != files::file_error_number::file_not_found) throw;
   }
   // If the list is that of another folder, the files here may be spelled differently.
-  set_paths(job, true);
+  find_in_any_case(job);
   make_index(job.archive);
 }
 
@@ -124,10 +121,10 @@ void describe_files(build_job& job) {
                          "\nThese entries of the new Ostrane.dat have the name of another:");
 }
 
-void run(build_job& job) {
+void build(build_job& job) {
   show_progress_text("Calculation internal offsets for the files in Ostrane.dat");
   list_files(job);
-  measure(job);
+  build_index(job);
   store_make_index(job.archive);
   refresh_progress();
   write(job);
@@ -147,11 +144,9 @@ std::string folder_hint(const build_job& job) {
 void use_new_index(const build_job& job) {
   if (tool_state.archive_is_open == flag_true) {
     read_archive(job.folder);
-    return;
+  } else {
+    store_records(job.archive.records);
   }
-  const std::vector<dat_record>& records = job.archive.records;
-  tool_state.record_count = static_cast<std::int32_t>(records.size());
-  std::copy(records.begin(), records.end(), tool_state.dat_index.begin());
 }
 
 }  // namespace
@@ -160,11 +155,10 @@ void make_archive() {
   build_job job = {.folder = files::with_separator(Form5.Text1.Text())};
   show_progress("Ostrane.dat tool - Make new Ostrane.dat");
   refresh_progress();
-  const std::string failure = files::failure_of([&] { run(job); });
+  const std::string failure = files::failure_of([&] { build(job); });
   hide_progress("Ostrane.dat tool ");
   if (!job.is_made) {
-    forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
-    return;
+    return forms_layer::message_box(failure + " No new archive was made." + folder_hint(job));
   }
   use_new_index(job);
   Form1.Visible = true;

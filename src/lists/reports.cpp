@@ -20,6 +20,14 @@ void write_list(const files::file_path& path, std::span<const std::string> lines
   files::write_lines(path, lines, tool_state.archive_stamp.identity);
 }
 
+void write_comparison(const std::string& shiplist_name) {
+  const std::string path = files::with_separator(Form6.File1.Path()) + shiplist_name;
+  read_shiplist(files::to_file_path(path), tool_state.comparison);
+  sort_shiplist(tool_state.comparison);
+  write_list(files::to_file_path(compare_report_path),
+             compare_with(tool_state.comparison, Form1.List1.rows()).lines);
+}
+
 }  // namespace
 
 void save_file_list() {
@@ -36,23 +44,12 @@ void save_file_list() {
 void compare_with_shiplist() {
   const std::string name(files::trimmed(Form6.Text1.Text()));
   if (name.empty()) {
-    forms_layer::message_box("No shiplist is chosen. Click one in the list of files.");
-    return;
+    return forms_layer::message_box("No shiplist is chosen. Click one in the list of files.");
   }
-  const std::string failure =
-      tool_state.archive_is_open == flag_false
-          ? "No archive is open. Read one first."
-          : files::failure_of([&] {
-              const std::string path = files::with_separator(Form6.File1.Path()) + name;
-              read_shiplist(files::to_file_path(path), tool_state.comparison);
-              sort_shiplist(tool_state.comparison);
-              write_list(files::to_file_path(compare_report_path),
-                         compare_with(tool_state.comparison, Form1.List1.rows()).lines);
-            });
-  if (!failure.empty()) {
-    forms_layer::message_box(failure + " Nothing was compared.");
-    return;
-  }
+  const std::string failure = tool_state.archive_is_open == flag_false
+                                  ? "No archive is open. Read one first."
+                                  : files::failure_of([&name] { write_comparison(name); });
+  if (!failure.empty()) return forms_layer::message_box(failure + " Nothing was compared.");
   // Success shows no message: the report is the result.
   Form6.Visible = false;
   Form1.Enabled = true;
