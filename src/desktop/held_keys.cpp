@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-void held_keys::take() {
+void held_keys::take_input() {
   qApp->installEventFilter(this);
   QCoreApplication::processEvents();
   qApp->removeEventFilter(this);

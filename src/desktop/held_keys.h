@@ -13,9 +13,9 @@ namespace desktop {
 // shortcuts.
 class held_keys : public QObject {
  public:
-  // Takes the keys that wait in the queue of the window system, and drops other input. Call before
-  // a box opens.
-  void take();
+  // Takes the input that waits in the queue of the window system. All but keys is dropped. Call
+  // before a box opens.
+  void take_input();
   // Sends them to the windows that they were typed for, if these are still visible. Call when no
   // handler runs.
   void deliver();

@@ -88,7 +88,7 @@ void qt_screen::refresh(forms_layer::control& /*shown*/) { show_frame_if_due(); 
 void qt_screen::message_box(const std::string& title, const std::string& text) {
   sync();
   windows_.store_focus();
-  held_keys_.take();
+  held_keys_.take_input();
   show_message(title, text, windows_.topmost());
 }
 

@@ -73,15 +73,18 @@ void window_stack::store_focus() {
   before_box_ = dynamic_cast<form_window*>(QApplication::activeWindow());
 }
 
-// Windows that were shown during a handler and are still visible get the focus at its end. After a
-// message box the window manager may have given it to one that is hidden now, to the report, which
-// owns the box while it is shown, or to none.
+// The window manager may have given it to a window that is hidden now, to the report, which owns
+// the box while it is shown, or to none.
+void window_stack::return_focus_after_box() {
+  if (!before_box_.has_value()) return;
+  form_window* to = *std::exchange(before_box_, std::nullopt);
+  if (to == nullptr || !to->form.Visible() || !to->form.Enabled()) to = topmost();
+  if (to != nullptr) to->take_focus();
+}
+
+// Windows that were shown during a handler and are still visible get the focus at its end.
 void window_stack::give_focus() {
-  if (before_box_.has_value()) {
-    form_window* to = *std::exchange(before_box_, std::nullopt);
-    if (to == nullptr || !to->form.Visible() || !to->form.Enabled()) to = topmost();
-    if (to != nullptr) to->take_focus();
-  }
+  return_focus_after_box();
   for (form_window* window : on_screen_) {
     if (window->wants_focus()) window->take_focus();
   }

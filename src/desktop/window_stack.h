@@ -39,6 +39,7 @@ class window_stack {
  private:
   void show_window(forms_layer::form& shown);
   void hide_window(forms_layer::form& shown);
+  void return_focus_after_box();
   form_window* before_box() const { return before_box_.value_or(nullptr); }
 
   views& views_;
