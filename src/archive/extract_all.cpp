@@ -45,11 +45,10 @@ std::string prepare(extraction_job& job) {
   });
 }
 
-void show_current_entry(const std::string& path, std::size_t index, std::int32_t size) {
+void show_current_entry(const std::string& path, std::size_t index) {
   show_progress_text("Extracting file: " + path + "\r\nFile number:     " +
                      sign_column_text(static_cast<std::int64_t>(index) + 1) +
                      "\r\nTotal number of files: " + sign_column_text(tool_state.record_count - 1));
-  set_file_range(std::max(size, 0));
 }
 
 extraction_result extract(extraction_job& job) {
@@ -62,8 +61,9 @@ extraction_result extract(extraction_job& job) {
                          },
                          {.on_file =
                               [&](std::size_t index, const std::string& name, std::int32_t size) {
-                                move_total_bar(total_bar_tick, entries_per_bar_step, index);
-                                show_current_entry(job.folder + name, index, size);
+                                advance_total_bar(total_bar_tick, entries_per_bar_step, index);
+                                show_current_entry(job.folder + name, index);
+                                set_file_range(std::max(size, 0));
                               },
                           .on_bytes = move_file_bar});
 }
@@ -88,8 +88,7 @@ void extract_all_entries() {
   const std::string failure = prepare(job);
   if (!failure.empty()) {
     tool_state.archive_file.close();
-    forms_layer::message_box(failure + " Nothing was extracted.");
-    return;
+    return forms_layer::message_box(failure + " Nothing was extracted.");
   }
   show_progress("Ostrane.dat tool - File Extraction");
   const extraction_result result = extract(job);

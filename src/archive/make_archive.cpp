@@ -87,7 +87,7 @@ void write(build_job& job) {
   replace_archive(target, job.archive,
                   {.before_file =
                        [&](std::size_t index, std::int32_t size) {
-                         move_total_bar(total_bar_tick, files_per_bar_step, index);
+                         advance_total_bar(total_bar_tick, files_per_bar_step, index);
                          set_file_range(size);
                        },
                    .on_file = [&](std::size_t index, const std::string& name,
@@ -142,11 +142,8 @@ std::string folder_hint(const build_job& job) {
 // An open archive is replaced by the new one, as dat_index and List1 must describe the same file.
 // If none is open, none is opened; only the index is stored.
 void use_new_index(const build_job& job) {
-  if (tool_state.archive_is_open == flag_true) {
-    read_archive(job.folder);
-  } else {
-    store_records(job.archive.records);
-  }
+  if (tool_state.archive_is_open == flag_true) return read_archive(job.folder);
+  store_records(job.archive.records);
 }
 
 }  // namespace

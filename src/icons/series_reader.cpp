@@ -51,8 +51,7 @@ void read_directory() {
   tool_state.directory_index = tool_state.selected_index;
   tool_state.shp_head = {};
   if (!read_shp_head(tool_state.archive_file, offset, tool_state.shp_head)) {
-    report_invalid_address(std::int64_t{offset} + 1);
-    return;
+    return report_invalid_address(std::int64_t{offset} + 1);
   }
   if (tool_state.shp_head.icon_count > max_icons_per_file) {
     report_too_many_icons();

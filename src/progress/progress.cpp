@@ -40,7 +40,7 @@ void set_file_range(std::int32_t max) {
   Form3.ProgressBar1.Min = 0;
 }
 
-void move_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index) {
+void advance_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index) {
   ++tick;
   if (tick < files_per_step) return;
   Form3.ProgressBar2.Value = static_cast<float>(index);

@@ -25,7 +25,7 @@ void set_file_range(std::int32_t max);
 
 // Call once per file of a job with its 0-based index: every `files_per_step`th call moves
 // `ProgressBar2` there. `tick` counts the calls since the last move; it starts at 0.
-void move_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index);
+void advance_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::size_t index);
 
 // Moves `ProgressBar1` to this number of bytes.
 void move_file_bar(std::int32_t value);
