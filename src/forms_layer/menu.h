@@ -54,8 +54,10 @@ class context_menu : public menu {
  public:
   context_menu(form& opened_on, const char* menu_name) : menu(opened_on, menu_name) {}
 
-  // Raised with the index of the row or element. Enables the items; false if nothing opens there.
-  std::function<bool(std::int32_t index)> Popup;
+  // True if the menu opens on the row or element of this index.
+  std::function<bool(std::int32_t index)> OpensOn;
+  // Raised with the index before the menu opens. Enables the items.
+  std::function<void(std::int32_t index)> Popup;
 };
 
 }  // namespace forms_layer

@@ -38,15 +38,21 @@ std::string limited(const std::string& before, const std::string& after, std::si
          after.substr(after.size() - tail);
 }
 
+bool opens_on(const context_menu* menu, std::int32_t index) {
+  return menu != nullptr && menu->OpensOn && menu->OpensOn(index);
+}
+
 // The menu and its item are one event, so that the target of the menu does not change meanwhile.
 void run_menu(context_menu* opened, std::int32_t index, screen_point at) {
-  if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
+  if (!opens_on(opened, index)) return;
+  opened->Popup(index);
   const menu_item* picked = the_screen().pick_item(*opened, at);
   if (picked != nullptr && picked->Enabled()) raise(picked->Click);
 }
 
 void run_menu_item(context_menu* opened, std::int32_t index, const menu_item& item) {
-  if (opened == nullptr || !opened->Popup || !opened->Popup(index)) return;
+  if (!opens_on(opened, index)) return;
+  opened->Popup(index);
   const bool offers =
       std::find(opened->items.begin(), opened->items.end(), &item) != opened->items.end();
   if (offers && item.Enabled()) raise(item.Click);

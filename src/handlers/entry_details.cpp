@@ -29,18 +29,17 @@ std::unordered_map<std::string, std::size_t> descriptions() {
   return rows;
 }
 
-// Null if the head of the icon file cannot be read.
+// Nothing if the head of the icon file cannot be read.
 std::optional<std::int32_t> icon_count(std::int32_t offset) {
-  files::binary_file archive;
-  shp_head head = {};
-  bool is_read = false;
+  std::optional<std::int32_t> count;
   files::ignore_failure([&] {
+    files::binary_file archive;
+    shp_head head = {};
     open_unchanged(archive, files::to_file_path(tool_state.archive_path_copy),
                    tool_state.archive_stamp);
-    is_read = read_shp_head(archive, offset, head);
+    if (read_shp_head(archive, offset, head)) count = std::max(head.icon_count, 0);
   });
-  if (!is_read) return {};
-  return std::max(head.icon_count, 0);
+  return count;
 }
 
 }  // namespace

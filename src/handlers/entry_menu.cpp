@@ -30,16 +30,17 @@ extraction_result extract_to(const std::filesystem::path& path) {
 
 }  // namespace
 
-bool prepare_entry_menu(std::int32_t row) {
+bool has_entry_menu(std::int32_t row) {
+  return is_one_of_several(row) || row < tool_state.record_count - 1;
+}
+
+void prepare_entry_menu(std::int32_t row) {
   tool_state.menu_target = row;
-  Form1.mnu_entry.items = {&Form1.mnu_extract_entry};
-  if (is_one_of_several(row)) {
-    prepare_several_entries();
-    Form1.mnu_entry.items = {&Form1.mnu_extract_entries, &Form1.mnu_export_entries};
-    return true;
-  }
   Form1.mnu_extract_entry.Enabled = tool_state.archive_is_open == flag_true;
-  return row < tool_state.record_count - 1;
+  Form1.mnu_entry.items = {&Form1.mnu_extract_entry};
+  if (!is_one_of_several(row)) return;
+  prepare_several_entries();
+  Form1.mnu_entry.items = {&Form1.mnu_extract_entries, &Form1.mnu_export_entries};
 }
 
 void extract_one_entry() {
@@ -64,7 +65,8 @@ void extract_one_entry() {
 void extract_selection() {
   const std::vector<std::int32_t>& selected = Form1.List1.SelectedRows();
   const std::int32_t row = selected.empty() ? Form1.List1.ListIndex() : selected.front();
-  if (row < 0 || !prepare_entry_menu(row)) return;
+  if (row < 0 || !has_entry_menu(row)) return;
+  prepare_entry_menu(row);
   const forms_layer::menu_item& extracts = *Form1.mnu_entry.items.front();
   if (extracts.Enabled()) extracts.Click();
 }

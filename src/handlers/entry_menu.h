@@ -5,9 +5,12 @@
 // The context menu on the rows of `List1`.
 namespace ostrane {
 
+// False for the end record, unless it is selected with several entries.
+bool has_entry_menu(std::int32_t row);
+
 // Enables the item for the row of an entry, which becomes `menu_target`, or those for several rows
-// if it is one of them. Returns false for the end record alone.
-bool prepare_entry_menu(std::int32_t row);
+// if it is one of them.
+void prepare_entry_menu(std::int32_t row);
 
 // Asks for a file and extracts the entry `menu_target` to it. An existing file is replaced
 // atomically.

@@ -91,13 +91,16 @@ std::string save(icon_export wanted, const forms_layer::save_answer& answer,
 
 }  // namespace
 
-bool prepare_picture_menu(std::int32_t slot) {
+bool shows_icon(std::int32_t slot) {
+  // A text covers the icons. A swatch of a palette has no pixels.
+  return !Form1.Text6.Visible() && Form1.s16_image(slot).pixels() != nullptr;
+}
+
+void prepare_picture_menu(std::int32_t slot) {
   tool_state.menu_target = slot;
   const bool can_be_saved = icons_are_from_open_archive() && tool_state.export_icons != nullptr;
   Form1.mnu_save_picture.Enabled = can_be_saved;
   Form1.mnu_save_series.Enabled = can_be_saved;
-  // A text covers the icons. A swatch of a palette has no pixels.
-  return !Form1.Text6.Visible() && Form1.s16_image(slot).pixels() != nullptr;
 }
 
 void copy_picture() {

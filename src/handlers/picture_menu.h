@@ -5,9 +5,10 @@
 // The context menu on the icons of `Form1`.
 namespace ostrane {
 
-// Enables the items for a slot, which becomes `menu_target`. Returns false if the slot shows no
-// icon.
-bool prepare_picture_menu(std::int32_t slot);
+bool shows_icon(std::int32_t slot);
+
+// Enables the items for a slot, which becomes `menu_target`.
+void prepare_picture_menu(std::int32_t slot);
 
 // Puts the picture of `menu_target` on the clipboard.
 void copy_picture();

@@ -56,12 +56,14 @@ void wire_form1() {
 
 void wire_context_menus() {
   Form1.s16_image.ContextMenu = &Form1.mnu_picture;
+  Form1.mnu_picture.OpensOn = shows_icon;
   Form1.mnu_picture.Popup = prepare_picture_menu;
   Form1.mnu_copy_picture.Click = copy_picture;
   Form1.mnu_save_picture.Click = save_picture;
   Form1.mnu_save_series.Click = save_series;
   if (tool_state.export_icons == nullptr) Form1.mnu_picture.items = {&Form1.mnu_copy_picture};
   Form1.List1.ContextMenu = &Form1.mnu_entry;
+  Form1.mnu_entry.OpensOn = has_entry_menu;
   Form1.mnu_entry.Popup = prepare_entry_menu;
   Form1.mnu_extract_entry.Click = extract_one_entry;
   Form1.mnu_extract_entries.Click = extract_several_entries;

@@ -178,10 +178,8 @@ TEST_F(Input, ContextMenusOpenByMouseAndKey) {
   form.pictures.DblClick = [](int) {};
   form.pick.Click = [&] { log += "picked ", form.timer.Enabled = false; };
   form.grey.Enabled = false;
-  form.context.Popup = [&](int index) {
-    log += std::to_string(index) + " ";
-    return true;
-  };
+  form.context.OpensOn = [](int) { return true; };
+  form.context.Popup = [&](int index) { log += std::to_string(index) + " "; };
   form.timer.Timer = [&] { log += "tick "; };
   form.timer.Interval = 1;
   write([&] { picture().Visible = true, form.pictures(2).Visible = true; });
@@ -366,7 +364,9 @@ TEST_F(Desktop, AScreenReaderHearsEveryControlAndPicture) {
   QAccessibleActionInterface& actions = *inside.child(inside.childCount() - 2)->actionInterface();
   actions.doAction(QAccessibleActionInterface::pressAction());
   Form1.s16_image.ContextMenu = &Form1.mnu_picture;
-  Form1.mnu_picture.Popup = [&](int i) { return (opened += " menu" + std::to_string(i)).empty(); };
+  Form1.mnu_picture.OpensOn = [&](int i) {
+    return (opened += " menu" + std::to_string(i)).empty();
+  };
   actions.doAction(QAccessibleActionInterface::showMenuAction());
   EXPECT_EQ(opened, "picture1 menu1");
 }
