@@ -6,13 +6,8 @@
 
 namespace ostrane {
 
-namespace {
-
-constexpr std::size_t max_named = 20;
-
-}  // namespace
-
 std::string skipped_files_text(const std::vector<skipped_file>& list, const char* heading) {
+  constexpr std::size_t max_named = 20;
   if (list.empty()) return "";
   std::string text = heading;
   for (std::size_t i = 0; i < std::min(list.size(), max_named); ++i) {

@@ -10,12 +10,6 @@
 
 namespace desktop {
 
-namespace {
-
-constexpr int bar_width = 190;
-
-}  // namespace
-
 find_bar::find_bar(const forms_layer::row_list& list, QWidget& list_widget,
                    std::function<void(int row)> choose)
     : QFrame(list_widget.parentWidget()),
@@ -45,11 +39,12 @@ void find_bar::find_number() {
 }
 
 void find_bar::open(const QString& hint) {
+  constexpr int width = 190;
   field_.setPlaceholderText(hint);
   field_.setAccessibleName(hint);
   const QRect corner = list_widget_.geometry();
   const int height = sizeHint().height();
-  setGeometry(corner.left(), corner.bottom() + 1 - height, bar_width, height);
+  setGeometry(corner.left(), corner.bottom() + 1 - height, width, height);
   show();
   raise();
   field_.selectAll();

@@ -6,13 +6,6 @@
 
 namespace desktop {
 
-namespace {
-
-// Qt breaks only tool tips with markup into lines.
-constexpr qsizetype longest_plain_tool_tip = 90;
-
-}  // namespace
-
 QString to_screen(std::string_view text) {
   const std::u8string utf8 = files::to_utf8(text);
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
@@ -33,6 +26,8 @@ QString escape_ampersands(QString caption) {
 }
 
 QString as_tool_tip(const std::string& text) {
+  // Qt breaks only tool tips with markup into lines.
+  constexpr qsizetype longest_plain_tool_tip = 90;
   QString plain = to_screen(text);
   if (plain.size() <= longest_plain_tool_tip && !Qt::mightBeRichText(plain)) return plain;
   return QStringLiteral("<p style=\"white-space:pre-wrap\">") + plain.toHtmlEscaped() +

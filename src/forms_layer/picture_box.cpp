@@ -7,13 +7,6 @@
 
 namespace forms_layer {
 
-namespace {
-
-// A larger buffer is freed by Cls, as thousands of boxes would keep too much memory.
-constexpr std::size_t max_kept_pixels = 16384;
-
-}  // namespace
-
 picture_box::picture_box(container& parent_container, const design& as_designed,
                          std::int32_t array_index)
     : control(parent_container, control_kind::picture_box, as_designed), Index(array_index) {
@@ -21,6 +14,8 @@ picture_box::picture_box(container& parent_container, const design& as_designed,
 }
 
 void picture_box::Cls() {
+  // A larger buffer is freed, as thousands of boxes would keep too much memory.
+  constexpr std::size_t max_kept_pixels = 16384;
   if (pixels_.capacity() > max_kept_pixels) {
     pixels_ = {};
   } else {
