@@ -21,7 +21,9 @@ void binary_file::abandon() {
 
 void binary_file::open_to_read(const file_path& path) {
   prepare(path.shown);
-  set_file(system_calls.open_to_read(path.system), false, file_action::open);
+  writes_ = false;
+  file_ = system_calls.open_to_read(path.system);
+  if (file_ < 0) fail(file_action::open, file_);
 }
 
 void binary_file::prepare(const std::u8string& shown_path) {
@@ -33,12 +35,10 @@ void binary_file::prepare(const std::u8string& shown_path) {
   buffer_start_ = 0;
 }
 
-void binary_file::adopt(int file) { set_file(file, true, file_action::create); }
-
-void binary_file::set_file(int file, bool writes, file_action action) {
-  if (file < 0) fail(action, file);
+void binary_file::adopt(int file) {
+  writes_ = true;
   file_ = file;
-  writes_ = writes;
+  if (file_ < 0) fail(file_action::create, file_);
 }
 
 void binary_file::fail(file_action action, std::int64_t status) const {
@@ -172,19 +172,18 @@ void binary_file::truncate() {
 }
 
 void binary_file::write_to_system(std::span<const std::byte> from) {
-  while (!from.empty()) {
-    const std::int64_t moved = system_calls.write_some(file_, from.data(), from.size());
-    if (moved <= 0) fail(file_action::write, moved < 0 ? moved : -EIO);
-    from = from.subspan(static_cast<std::size_t>(moved));
-    buffer_start_ += moved;
-  }
+  write_all(file_, from, path_);
+  buffer_start_ += static_cast<std::int64_t>(from.size());
 }
 
-void binary_file::flush(bool to_disk) {
+void binary_file::flush() {
   const std::size_t count = position_;
   position_ = 0;  // so that close() does not retry a failed write
-  if (writes_) write_to_system(std::span(buffer_).first(count));
-  if (!to_disk) return;
+  write_to_system(std::span(buffer_).first(count));
+}
+
+void binary_file::flush_to_disk() {
+  flush();
   const int flushed = system_calls.flush_to_disk(file_);
   if (flushed < 0) fail(file_action::write, flushed);
 }
@@ -196,6 +195,14 @@ void binary_file::close() {
   file_ = -1;
   const int closed = system_calls.close_file(file);
   if (closed < 0 && writes_) fail(file_action::write, closed);
+}
+
+void write_all(int file, std::span<const std::byte> bytes, const std::u8string& shown) {
+  while (!bytes.empty()) {
+    const std::int64_t moved = system_calls.write_some(file, bytes.data(), bytes.size());
+    if (moved <= 0) fail(shown, file_action::write, moved < 0 ? moved : -EIO);
+    bytes = bytes.subspan(static_cast<std::size_t>(moved));
+  }
 }
 
 std::string read_bytes(binary_file& file, const file_path& path) {

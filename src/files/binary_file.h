@@ -45,18 +45,19 @@ class binary_file {
   file_info info();
   std::int64_t size() { return info().stamp.size; }  // bytes
 
-  // Writes the buffer to the system; with `to_disk` also waits until the disk has it.
-  void flush(bool to_disk = false);
+  // Writes the buffer to the system. For files open for writing.
+  void flush();
+  // Flushes, and waits until the disk has the file.
+  void flush_to_disk();
   // Flushes and closes. Throws if the file is open for writing and either fails.
   void close();
   // Closes an open file, discards the buffer and ignores failures.
   void abandon();
 
-  // The file descriptor or handle for system_calls; -1 if no file is open.
+  // The file descriptor or handle for system_calls; negative if no file is open.
   int handle() const { return file_; }
 
  private:
-  void set_file(int file, bool writes, file_action action);
   [[noreturn]] void fail(file_action action, std::int64_t status) const;
   void forget_position();
   // Continues that many bytes after the buffer, which the system has already moved.
@@ -75,6 +76,9 @@ class binary_file {
   std::size_t fill_ = 0;           // bytes in the buffer while reading
   std::int64_t buffer_start_ = 0;  // file offset of the buffer's first byte
 };
+
+// Writes all bytes to an open file. Throws file_error, which names `shown`.
+void write_all(int file, std::span<const std::byte> bytes, const std::u8string& shown);
 
 // Returns all bytes of a file, read with `file`, which any number of files can share. Throws
 // file_error.

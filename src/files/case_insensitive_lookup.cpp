@@ -18,14 +18,14 @@ namespace fs = std::filesystem;
 // folder, which is faster for many names.
 constexpr int max_single_lookups = 8;
 
-bool name_exists(const fs::path& path) {
+}  // namespace
+
+bool path_exists(const fs::path& path) {
   std::error_code failed;
   return fs::exists(fs::symlink_status(for_system(path), failed));
 }
 
-}  // namespace
-
-void case_insensitive_lookup::read(folder_names& known, const fs::path& folder) {
+void case_insensitive_lookup::read_once(folder_names& known, const fs::path& folder) {
   if (std::exchange(known.is_read, true)) return;
   std::vector<listed_entry> listed;
   system_calls.list(folder, listed);
@@ -45,16 +45,16 @@ fs::path case_insensitive_lookup::find(const fs::path& folder, const std::string
   if constexpr (fs::path::preferred_separator == '\\') return exact;
   folder_names& known = folders_[folder.native()];
   const bool is_single = !known.is_read && ++known.lookups <= max_single_lookups;
-  if (is_single && name_exists(exact)) return exact;
-  read(known, folder);
+  if (is_single && path_exists(exact)) return exact;
+  read_once(known, folder);
   // If no name is found, the caller may create this one.
   const auto [found, is_new] = known.names.emplace(upper_case(name), as_given.native());
-  if (is_new || found->second == as_given.native() || name_exists(exact)) return exact;
+  if (is_new || found->second == as_given.native() || path_exists(exact)) return exact;
   fs::path other_case = folder / found->second;
-  if (name_exists(other_case)) return other_case;
+  if (path_exists(other_case)) return other_case;
   // The file was deleted after the folder was read. Another spelling may exist.
   known = {};
-  read(known, folder);
+  read_once(known, folder);
   return folder / known.names.emplace(upper_case(name), as_given.native()).first->second;
 }
 

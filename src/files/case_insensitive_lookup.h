@@ -6,6 +6,9 @@
 
 namespace files {
 
+// True also for a link that leads nowhere.
+bool path_exists(const std::filesystem::path& path);
+
 // Finds names in folders, ignoring case. It caches the names of a folder, so it must not outlive a
 // command. A folder that cannot be read counts as empty.
 class case_insensitive_lookup {
@@ -25,7 +28,7 @@ class case_insensitive_lookup {
     // Names by their upper-case form.
     std::unordered_map<std::string, std::filesystem::path::string_type> names;
   };
-  static void read(folder_names& known, const std::filesystem::path& folder);
+  static void read_once(folder_names& known, const std::filesystem::path& folder);
 
   std::unordered_map<std::filesystem::path::string_type, folder_names> folders_;
 };

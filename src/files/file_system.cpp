@@ -67,14 +67,17 @@ native_view last_name(native_view path) {
   return path.substr(path.rfind(fs::path::preferred_separator) + 1);
 }
 
-// A file system can find a file under another case than the listed one. Fills `by_name` at the
-// first call, as most folders need none.
-bool is_listed_in_other_case(paths_by_name& by_name,
-                             const std::vector<fs::path::string_type>& listed,
-                             const std::string& name, const fs::path& path) {
-  for (auto at = listed.begin(); by_name.size() < listed.size(); ++at) {
-    by_name.emplace(upper_case(name_as_text_lossy(fs::path::string_type(last_name(*at)))), *at);
+paths_by_name named_paths(const std::vector<fs::path::string_type>& paths) {
+  paths_by_name named;
+  for (const native_view path : paths) {
+    named.emplace(upper_case(name_as_text_lossy(fs::path::string_type(last_name(path)))), path);
   }
+  return named;
+}
+
+// A file system can find a file under another case than the listed one.
+bool is_listed_in_other_case(const paths_by_name& by_name, const std::string& name,
+                             const fs::path& path) {
   const auto [first, last] = by_name.equal_range(upper_case(name));
   return std::any_of(first, last, [&path](const auto& other) {
     std::error_code failed;
@@ -131,7 +134,7 @@ std::vector<std::string> files_in(const file_path& folder) {
 std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
                                              const std::vector<fs::path::string_type>& listed,
                                              const char* unknown) {
-  paths_by_name by_name;
+  std::optional<paths_by_name> by_name;  // null until it is needed
   std::unordered_set<native_view> exact;
   exact.reserve(listed.size());
   for (const native_view path : listed) exact.insert(last_name(path));
@@ -142,8 +145,11 @@ std::vector<unlisted_file> unlisted_files_in(const file_path& folder,
     const std::optional<std::string> name = name_as_text(entry.name);
     const char* reason = unlisted_reason(entry, name);
     if (*reason == '\0' && !entry.is_file) reason = irregular_reason(path);
-    if (*reason == '\0' && !is_listed_in_other_case(by_name, listed, *name, path)) reason = unknown;
-    if (*reason == '\0') continue;
+    if (*reason == '\0') {
+      if (!by_name) by_name = named_paths(listed);
+      if (is_listed_in_other_case(*by_name, *name, path)) continue;
+      reason = unknown;
+    }
     unlisted.push_back({name ? *name : name_as_text_lossy(entry.name), path, reason});
   }
   std::sort(unlisted.begin(), unlisted.end(),

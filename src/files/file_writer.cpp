@@ -53,18 +53,21 @@ void require_other(const file_path& target, const file_identity& identity,
   fail_to_write(target, "it is the open archive", file_error_number::permission_denied);
 }
 
-}  // namespace
-
-file_info require_writable(const file_path& target, const write_rules& rules) {
-  file_info old;
-  if (system_calls.info_at(target.system, old) < 0) return {};
+// `old` is what is at the target.
+void require_replaceable(const file_path& target, const file_info& old, const write_rules& rules) {
   if (!rules.replaces) fail(target.shown, file_action::write, -EEXIST);
   require_other(target, old.stamp.identity, rules);
-  if (old.is_link || (old.is_file && rules.replaces_read_only)) return old;
+  if (old.is_link || (old.is_file && rules.replaces_read_only)) return;
   const int opened = system_calls.open_to_write(target.system);
   if (opened < 0) fail_to_open(target, file_action::write, opened);
   system_calls.close_file(opened);
-  return old;
+}
+
+}  // namespace
+
+void require_writable(const file_path& target, const write_rules& rules) {
+  file_info old;
+  if (system_calls.info_at(target.system, old) >= 0) require_replaceable(target, old, rules);
 }
 
 file_writer::owned_file::~owned_file() {
@@ -124,7 +127,8 @@ void file_writer::own(int created) {
 // The lock keeps other copies of the tool from removing the file as a leftover. One that has just
 // begun to do so has locked or removed it.
 void file_writer::create_beside() {
-  const file_info old = require_writable(target_, rules_);
+  file_info old;
+  if (system_calls.info_at(target_.system, old) >= 0) require_replaceable(target_, old, rules_);
   const bool replaces = old.is_file;
   old_file_ = old.stamp.identity;
   for (int tries = 1;; ++tries) {
@@ -150,7 +154,7 @@ void file_writer::overwrite() {
 
 void file_writer::keep(const std::function<void()>& last_check) {
   if (is_durable()) {
-    file_.flush(true);
+    file_.flush_to_disk();
   } else {
     file_.close();
   }
@@ -158,7 +162,12 @@ void file_writer::keep(const std::function<void()>& last_check) {
   if (is_new_ && new_file_.path != target_.system) rename();
   new_file_.is_owned = false;
   file_.abandon();
-  if (rules_.is_only_spelling) ignore_failure([this] { remove_other_spellings(); });
+  if (rules_.is_only_spelling) {
+    ignore_failure([this] {
+      restore_spelling();
+      remove_other_spellings();
+    });
+  }
   if (is_durable()) system_calls.flush_folder(folder_);
 }
 
@@ -184,17 +193,20 @@ void file_writer::rename() {
 
 // The rename kept the spelling of the old file, so there never are two files. A failure is harmless
 // now, as the names are compared case-insensitively.
-void file_writer::remove_other_spellings() {
+void file_writer::restore_spelling() {
   if (spelling_ != target_.system) system_calls.replace(target_.system, spelling_);
-  const fs::path& kept = match(spelling_, new_file_.identity).is_same ? spelling_ : target_.system;
-  const fs::path::string_type name = kept.filename().native();
+  if (match(spelling_, new_file_.identity).is_same) target_.system = spelling_;
+}
+
+void file_writer::remove_other_spellings() {
+  const fs::path::string_type name = target_.system.filename().native();
   const std::string folded = upper_case_name(name);
   if (folded.empty()) return;  // a name that the code page lacks has no other spelling
   std::vector<listed_entry> listed;
   system_calls.list(folder_, listed);
   for (const listed_entry& entry : listed) {
     if (entry.is_folder || entry.name == name || upper_case_name(entry.name) != folded) continue;
-    if (!match(kept, new_file_.identity).is_same) continue;
+    if (!match(target_.system, new_file_.identity).is_same) continue;
     const fs::path other = folder_ / entry.name;
     if (match(other, new_file_.identity).is_other()) system_calls.remove_file(other);
   }

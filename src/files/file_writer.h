@@ -65,6 +65,7 @@ class file_writer {
   void create_beside();
   void overwrite();
   void rename();
+  void restore_spelling();
   void remove_other_spellings();
 
   binary_file& file_;
@@ -80,8 +81,7 @@ class file_writer {
 
 // Throws file_error if the file at `target` exists and must not be written: if nothing is to be
 // replaced, if it is neither a regular file nor a link, if it is read-only, or if it is the source.
-// Returns what is there.
-file_info require_writable(const file_path& target, const write_rules& rules = {});
+void require_writable(const file_path& target, const write_rules& rules = {});
 
 // Writes a file of these bytes with `file`, which any number of files can share. Throws file_error.
 void write_bytes(binary_file& file, const file_path& target, std::string_view bytes,

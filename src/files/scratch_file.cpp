@@ -1,7 +1,5 @@
 #include "files/scratch_file.h"
 
-#include <cerrno>
-
 namespace files {
 
 scratch_file::scratch_file(const std::u8string& shown)
@@ -15,13 +13,7 @@ void scratch_file::rewind() {
 }
 
 void scratch_file::write(std::span<const std::byte> bytes) {
-  while (!bytes.empty()) {
-    const std::int64_t moved = system_calls.write_some(file_, bytes.data(), bytes.size());
-    if (moved <= 0) {
-      fail(u8"a temporary file", file_action::write, moved == 0 ? -EIO : static_cast<int>(moved));
-    }
-    bytes = bytes.subspan(static_cast<std::size_t>(moved));
-  }
+  write_all(file_, bytes, u8"a temporary file");
 }
 
 }  // namespace files

@@ -32,6 +32,13 @@ int refusal_of(mode_t mode) {
   return S_ISSOCK(mode) ? -ENOTSOCK : -ENODEV;
 }
 
+// Returns a file that is not refused.
+int file_unless_refused(int file, int refusal) {
+  if (refusal == 0) return file;
+  close(file);
+  return refusal;
+}
+
 int open_regular(const fs::path& path, int flags) {
   const int file = open(path.c_str(), flags | always, 0666);
   struct stat status = {};
@@ -40,10 +47,7 @@ int open_regular(const fs::path& path, int flags) {
     const bool is_other = errno == ENXIO;
     return is_other && stat(path.c_str(), &status) == 0 ? refusal_of(status.st_mode) : -errno;
   }
-  const int reason = fstat(file, &status) < 0 ? -errno : refusal_of(status.st_mode);
-  if (reason == 0) return file;
-  close(file);
-  return reason;
+  return file_unless_refused(file, fstat(file, &status) < 0 ? -errno : refusal_of(status.st_mode));
 }
 
 int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
@@ -57,15 +61,6 @@ int open_new(const fs::path& path, bool is_private) {
   return result(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | always, permissions));
 }
 
-// A file with several names may be a private file of the user under another name.
-int require_one_name(int file) {
-  struct stat status = {};
-  const int reason = fstat(file, &status) < 0 ? errno : status.st_nlink > 1 ? EMLINK : 0;
-  if (reason == 0) return file;
-  close(file);
-  return -reason;
-}
-
 // Reading is enough to lock the file of another user.
 int open_lock(const fs::path& path) {
   const int made = open_new(path, false);
@@ -75,7 +70,12 @@ int open_lock(const fs::path& path) {
   int file = open_regular(path, O_WRONLY | O_NOFOLLOW);
   if (file == -EACCES) file = open_regular(path, O_RDONLY | O_NOFOLLOW);
   if (file == -ENOENT) return -EWOULDBLOCK;
-  return file < 0 ? file : require_one_name(file);
+  if (file < 0) return file;
+  // A file with several names may be a private file of the user under another name.
+  struct stat status = {};
+  return file_unless_refused(file, fstat(file, &status) < 0 ? -errno
+                                   : status.st_nlink > 1    ? -EMLINK
+                                                            : 0);
 }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "files/case_insensitive_lookup.h"
 #include "files/file_error.h"
 #include "files/file_writer.h"
 #include "files/written_path.h"
@@ -11,11 +12,6 @@ namespace files {
 namespace {
 
 constexpr std::size_t block_size = 65536;
-
-bool exists(const file_path& path) {
-  std::error_code failed;
-  return std::filesystem::exists(std::filesystem::symlink_status(for_system(path.system), failed));
-}
 
 // As in a read-only or a sticky folder, and for a file that is a mount point.
 bool refuses_new_file(const file_error& error) {
@@ -29,7 +25,7 @@ void overwrite_in_place(binary_file& file, const file_path& target, std::string_
   file_writer to(file, target, {.mode = write_mode::in_place, .source = source});
   file.write(std::as_bytes(std::span(text)));
   file.truncate();
-  file.flush(true);
+  file.flush_to_disk();
   to.keep();
 }
 
@@ -73,7 +69,7 @@ void write_lines(const file_path& path, std::span<const std::string> lines,
     write_bytes(file, target, text, rules);
     return;
   } catch (const file_error& error) {
-    if (!refuses_new_file(error) || !exists(target)) throw;
+    if (!refuses_new_file(error) || !path_exists(target.system)) throw;
   }
   overwrite_in_place(file, target, text, source);
 }
