@@ -31,7 +31,8 @@ void write_changed(new_archive& archive, const files::file_path& target, files::
     require_writable(target, rules);
     make_index(archive);
   }
-  if (!begin_write(target.shown)) return;
+  report_write(target.shown);
+  if (is_dry_run()) return;
   const bool is_linked = has_other_names(
       rules.is_only_spelling ? files::existing_spelling(target.system) : target.system);
   replace_archive(target, archive, shown_progress(archive.entries.size()), rules);

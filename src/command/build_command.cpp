@@ -59,34 +59,29 @@ void write(build_job& job) {
   }
   const std::size_t count = job.archive.entries.size();
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
-  if (!begin_write(job.target.shown)) return;
+  report_write(job.target.shown);
+  if (is_dry_run()) return;
   write_archive_to(output, job.archive, shown_progress(count));
   output.close();
 }
 
-// Returns true if there are some.
-bool report_skipped_files(const build_job& job) {
-  bool are_some = false;
-  for (const files::unlisted_file& file :
-       files::unlisted_files_in(job.folder, file_paths(job.archive))) {
-    if (is_target(job, file.name, file.path)) continue;
-    print_error({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
-    are_some = true;
-  }
-  return are_some;
-}
-
-int report_files(const build_job& job) {
-  bool are_some = false;
-  const files::failure failed = files::failure_in([&] { are_some = report_skipped_files(job); });
+std::vector<files::failure> faults_of(const build_job& job) {
+  std::vector<files::failure> faults;
+  const files::failure failed = files::failure_in([&] {
+    for (const auto& file : files::unlisted_files_in(job.folder, file_paths(job.archive))) {
+      if (is_target(job, file.name, file.path)) continue;
+      faults.push_back({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
+    }
+  });
   if (failed) {
-    print_error({failed.subject, failed.reason +
-                                     " The archive was made, but the files that are not "
-                                     "in it could not be listed."});
+    faults.push_back({failed.subject, failed.reason +
+                                          " The archive was made, but the files that are not "
+                                          "in it could not be listed."});
   }
-  const std::vector<skipped_file> equal = entries_of_equal_names(job.archive);
-  for (const skipped_file& entry : equal) print_error({files::to_utf8(entry.name), entry.reason});
-  return are_some || failed || !equal.empty() ? status_differs : status_done;
+  for (const skipped_file& entry : entries_of_equal_names(job.archive)) {
+    faults.push_back({files::to_utf8(entry.name), entry.reason});
+  }
+  return faults;
 }
 
 }  // namespace
@@ -98,7 +93,9 @@ int build(const build_options& options) {
                                        : named_link_target(options.archive);
   list_files(job);
   write(job);
-  return report_files(job);
+  const std::vector<files::failure> faults = faults_of(job);
+  for (const files::failure& fault : faults) print_error(fault);
+  return faults.empty() ? status_done : status_differs;
 }
 
 }  // namespace ostrane::command

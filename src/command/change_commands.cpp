@@ -65,6 +65,29 @@ void note_cut_names(const std::vector<entry_source>& files,
   }
 }
 
+struct adding {
+  std::vector<entry_source> files;
+  std::optional<std::size_t> lost = {};  // files, as far as they are reported
+};
+
+std::vector<entry_source> sources_of(const add_options& options) {
+  std::vector<entry_source> sources;
+  for (const std::string& argument : options.files) {
+    show_progress(sources.size(), options.files.size(), "");
+    const files::file_path file = named_file(argument);
+    require_other_file(options.archive, file.system);
+    sources.push_back(source_named(files::name_as_text(file.system.filename().native()), file));
+  }
+  return sources;
+}
+
+void report_losses(adding& job, const std::vector<files::failure>& lost,
+                   const std::unordered_set<std::string>& old_names) {
+  for (const files::failure& one : lost) print_error(one);
+  if (!job.lost) note_cut_names(job.files, old_names);
+  job.lost = lost.size();
+}
+
 // Returns the entry of a name that only one has. Throws data_error.
 std::vector<entry_source>::iterator only_entry(new_archive& archive, const std::string& name) {
   const std::vector<bool> chosen = chosen_entries(archive.old->index.records, {name});
@@ -77,34 +100,23 @@ std::vector<entry_source>::iterator only_entry(new_archive& archive, const std::
 }  // namespace
 
 int add(const add_options& options) {
-  std::vector<entry_source> files;
-  for (const std::string& argument : options.files) {
-    show_progress(files.size(), options.files.size(), "");
-    const files::file_path file = named_file(argument);
-    require_other_file(options.archive, file.system);
-    files.push_back(source_named(files::name_as_text(file.system.filename().native()), file));
-  }
-  std::optional<std::size_t> lost;  // files, as far as they are reported
+  adding job = {.files = sources_of(options)};
   change_archive(options.archive, [&](new_archive& archive) {
-    const bool needs_names = std::any_of(files.begin(), files.end(), is_cut);
+    const bool needs_names = std::any_of(job.files.begin(), job.files.end(), is_cut);
     const auto old_names = needs_names ? names_in(archive) : std::unordered_set<std::string>();
-    const std::vector<files::failure> now = losses(files, old_names);
+    const std::vector<files::failure> lost = losses(job.files, old_names);
     // Another program may have added an entry since the last attempt.
-    if (lost != now.size()) {
-      for (const files::failure& one : now) print_error(one);
-      if (!lost) note_cut_names(files, old_names);
-      lost = now.size();
-    }
-    if (!now.empty() && !options.is_forced) {
+    if (job.lost != lost.size()) report_losses(job, lost, old_names);
+    if (!lost.empty() && !options.is_forced) {
       throw data_error("Nothing was added; --force adds the last file of each name.");
     }
-    add_files(archive, files);
+    put_files(archive, job.files);
     return true;
   });
-  for (const entry_source& file : files) {
+  for (const entry_source& file : job.files) {
     print_step({file.file.shown, "becomes " + name_with_blanks(file.name)});
   }
-  return *lost == 0 ? status_done : status_differs;
+  return *job.lost == 0 ? status_done : status_differs;
 }
 
 int remove(const remove_options& options) {
@@ -112,10 +124,10 @@ int remove(const remove_options& options) {
   change_archive(options.archive, [&](new_archive& archive) {
     const std::vector<bool> chosen = chosen_entries(archive.old->index.records, options.names);
     removed.clear();
-    std::erase_if(archive.entries, [&](const auto& entry) {
+    for (const entry_source& entry : archive.entries) {
       if (chosen[*entry.old_index]) removed.push_back(files::to_utf8(entry.shown_name));
-      return chosen[*entry.old_index];
-    });
+    }
+    std::erase_if(archive.entries, [&](const auto& entry) { return chosen[*entry.old_index]; });
     return true;
   });
   for (const std::u8string& name : removed) print_step({name, "is removed"});
@@ -138,7 +150,7 @@ int rename(const rename_options& options) {
     if (options.keeps_order) return true;
     const entry_source moved = *old;
     archive.entries.erase(old);
-    add_files(archive, {moved});
+    insert_entries(archive, {{name_key(moved.name), moved}});
     return true;
   });
   print_step({old_name, "becomes " + name_with_blanks(renamed.name)});

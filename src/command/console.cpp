@@ -48,18 +48,29 @@ void write_out() {
   }
 }
 
+void draw_bar(std::size_t count) {
+  const std::size_t index = console.bar_index;
+  const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
+  const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');
+  const std::string line = "\r[" + bar + "] " + std::to_string(index) + " of " +
+                           std::to_string(count) + " " + files::as_bytes(console.bar_name) +
+                           "\x1B[K";
+  console.next_bar = clock::now() + bar_interval;
+  console.bar_is_shown = true;
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
 }  // namespace
 
-void set_talk(talk wanted, bool is_dry_run) {
+void configure_console(talk wanted, bool is_dry_run) {
   console.wanted = wanted;
   console.is_dry_run = is_dry_run;
 }
 
 bool is_dry_run() { return console.is_dry_run; }
 
-bool begin_write(const std::u8string& target) {
+void report_write(const std::u8string& target) {
   print_step({target, console.is_dry_run ? "would be written" : "is written"});
-  return !console.is_dry_run;
 }
 
 void print_step(const files::failure& step) {
@@ -95,14 +106,7 @@ void show_progress(std::size_t index, std::size_t count, std::string_view name) 
   if (!name.empty()) console.bar_name = files::printable(files::to_utf8(name));
   static const bool has_terminal = stderr_is_terminal();
   if (!has_terminal || console.wanted == talk::quiet || clock::now() < console.next_bar) return;
-  console.next_bar = clock::now() + bar_interval;
-  console.bar_is_shown = true;
-  const std::size_t full = count == 0 ? 0 : std::min(index * bar_width / count, bar_width);
-  const std::string bar = std::string(full, '#') + std::string(bar_width - full, ' ');
-  const std::string line = "\r[" + bar + "] " + std::to_string(index) + " of " +
-                           std::to_string(count) + " " + files::as_bytes(console.bar_name) +
-                           "\x1B[K";
-  std::fwrite(line.data(), 1, line.size(), stderr);
+  draw_bar(count);
 }
 
 void hide_progress() {

@@ -20,12 +20,12 @@ enum class talk : std::uint8_t {
   normal,  // as described below
   verbose  // also what is written
 };
-void set_talk(talk wanted, bool is_dry_run);
+void configure_console(talk wanted, bool is_dry_run);
 
 // Nothing must be written.
 bool is_dry_run();
-// Reports a file that is about to be written, if the user wants that. Returns false in a dry run.
-bool begin_write(const std::u8string& target);
+// Reports a file that is about to be written, if the user wants that.
+void report_write(const std::u8string& target);
 // Reports a step of a change under --verbose and --dry-run.
 void print_step(const files::failure& step);
 

@@ -66,7 +66,7 @@ entry_row row_of_entry(const archive_index& index, std::size_t i, files::binary_
 }
 
 std::vector<std::size_t> ordered_entries(const archive_index& index, const std::string& order) {
-  std::vector<std::size_t> entries(std::max<std::size_t>(index.records.size(), 1) - 1);
+  std::vector<std::size_t> entries(entries_of(index.records).size());
   std::iota(entries.begin(), entries.end(), std::size_t{0});
   const auto sort_by = [&entries](const auto& key_of) {
     std::stable_sort(entries.begin(), entries.end(),

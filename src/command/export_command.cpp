@@ -14,6 +14,7 @@
 #include "data/palette.h"
 #include "files/code_page.h"
 #include "files/text.h"
+#include "files/work_files.h"
 #include "pictures/icon_exporter.h"
 #include "pictures/png_writer.h"
 
@@ -38,6 +39,7 @@ struct exported_entry {
   entry_kind kind = entry_kind::other;
   std::int32_t start = 0;
   std::int32_t end = 0;
+  bool is_whole = false;  // the archive has all of its bytes
 };
 
 picture_form form_named(const std::string& name) {
@@ -50,7 +52,7 @@ void report_fault(entries_export& job, const exported_entry& entry, const std::s
   job.status = status_differs;
 }
 
-void skip(entries_export& job, const exported_entry& entry, const std::string& reason) {
+void report_skipped(entries_export& job, const exported_entry& entry, const std::string& reason) {
   report_fault(job, entry, reason);
   ++job.skipped;
 }
@@ -88,7 +90,7 @@ std::string gpl_of(const std::string& name, const rgb_palette& colours) {
 void export_palette(entries_export& job, const exported_entry& entry) {
   const std::int64_t size = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
   if (entry.start < 0 || size < std::int64_t{palette_colours * colour_size}) {
-    skip(job, entry, "it is too short for a palette");
+    report_skipped(job, entry, "it is too short for a palette");
     return;
   }
   const rgb_palette colours = read_colours(job.archive, entry.start);
@@ -102,12 +104,11 @@ void export_palette(entries_export& job, const exported_entry& entry) {
 }
 
 void export_text(entries_export& job, const exported_entry& entry) {
-  const std::int64_t size = std::int64_t{entry.end} - entry.start;
-  if (entry.start < 0 || size < 0 || entry.end > job.archive.size()) {
-    skip(job, entry, "the archive does not contain all of it");
+  if (!entry.is_whole) {
+    report_skipped(job, entry, "the archive does not contain all of it");
     return;
   }
-  std::string text(static_cast<std::size_t>(size), ' ');
+  std::string text(static_cast<std::size_t>(entry.end - entry.start), ' ');
   job.archive.seek(entry.start);
   job.archive.read(std::as_writable_bytes(std::span(text)));
   std::replace(text.begin(), text.end(), '\0', ' ');
@@ -117,13 +118,13 @@ void export_text(entries_export& job, const exported_entry& entry) {
 void export_one(entries_export& job, const exported_entry& entry) {
   const std::string unsafe = unsafe_name_reason(entry.name);
   if (!unsafe.empty()) {
-    skip(job, entry, "skipped: " + unsafe);
+    report_skipped(job, entry, "skipped: " + unsafe);
   } else if (entry.kind == entry_kind::palette) {
     export_palette(job, entry);
   } else if (entry.kind == entry_kind::text) {
     export_text(job, entry);
   } else if (entry.kind == entry_kind::other) {
-    skip(job, entry, "skipped: it is not an icon file, palette or text");
+    report_skipped(job, entry, "skipped: it is not an icon file, palette or text");
   } else {
     export_icons(job, entry);
   }
@@ -134,7 +135,7 @@ void export_entry(entries_export& job, const exported_entry& entry) {
     export_one(job, entry);
   } catch (const data_error& error) {
     require_unchanged(job.archive, job.output.stamp, "export");
-    skip(job, entry, error.told.reason);
+    report_skipped(job, entry, error.told.reason);
   }
 }
 
@@ -151,7 +152,8 @@ std::vector<exported_entry> chosen_exports(const archive_index& index,
                        .stem = files::to_utf8(stem_of_entry(name)) + (is_sheet ? u8"-sheet" : u8""),
                        .kind = kind,
                        .start = index.records[i].offset,
-                       .end = index.records[i + 1].offset});
+                       .end = index.records[i + 1].offset,
+                       .is_whole = is_whole(index, i)});
   }
   return entries;
 }
@@ -216,10 +218,15 @@ int export_entries(const export_options& options) {
                      [&options](const std::u8string& name) {
                        return shown_as_named(path_of_argument(options.folder) / name);
                      },
-                 .on_file = [](const files::file_path& to) { return begin_write(to.shown); }}};
+                 .on_file =
+                     [](const files::file_path& to) {
+                       report_write(to.shown);
+                       return !is_dry_run();
+                     }}};
   require_reasonable_size(count_cells(job, entries));
   require_separate_files(job, entries);
   make_folder(options.folder);
+  files::clear_leftovers(path_of_argument(options.folder));
   job.palette = read_game_colours(job.archive, index.records);
   for (const exported_entry& entry : entries) export_entry(job, entry);
   return job.skipped > 0 && job.skipped == entries.size() ? status_failed : job.status;

@@ -37,21 +37,22 @@ int status_of(const extraction_result& result) {
 
 int extract_to_folder(extraction_job& job) {
   make_folder(job.options.folder);
+  files::clear_leftovers(path_of_argument(job.options.folder));
   files::case_insensitive_lookup names;
-  const extraction_result result =
-      extract_entries(job.archive, job.index.records,
-                      [&](const std::string& name) {
-                        files::file_path target = file_in(job.options.folder, name, names);
-                        begin_write(target.shown);
-                        return target;
-                      },
-                      shown_progress(job.index.records.size()),
-                      {.is_wanted = [&job](std::size_t number) { return job.chosen[number]; },
-                       .entries_are_adjacent = false,
-                       .rules = {.mode = job.options.overwrites ? files::write_mode::in_place
-                                                                : files::write_mode::atomic},
-                       .truncates = true,
-                       .is_dry_run = is_dry_run()});
+  const extraction_result result = extract_entries(
+      job.archive, job.index.records,
+      [&](const std::string& name) { return file_in(job.options.folder, name, names); },
+      shown_progress(job.index.records.size()),
+      {.is_wanted = [&job](std::size_t number) { return job.chosen[number]; },
+       .entries_are_adjacent = false,
+       .rules = {.mode = job.options.overwrites ? files::write_mode::in_place
+                                                : files::write_mode::atomic},
+       .truncates = true,
+       .on_target =
+           [](const files::file_path& to) {
+             report_write(to.shown);
+             return !is_dry_run();
+           }});
   report_faults(result);
   return status_of(result);
 }
@@ -77,7 +78,8 @@ int extract_to_output(extraction_job& job) {
       std::find(job.chosen.begin(), job.chosen.end(), true) - job.chosen.begin());
   require_other_file(output, path_of_argument(job.options.archive));
   whole_entry(job.index, entry);
-  if (!begin_output(output)) return status_done;
+  begin_output(output);
+  if (is_dry_run()) return status_done;
   files::binary_file to;
   if (open_stream(output, to)) {
     copy_entry(job, entry, to);

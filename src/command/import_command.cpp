@@ -112,7 +112,7 @@ std::unique_ptr<old_icons> icons_of_file(const std::string& argument, files::bin
 std::unique_ptr<old_icons> icons_of_entry(game_file& game, const std::u8string& name) {
   const auto& records = game.index.records;
   const std::string wanted = files::compare_key(files::from_utf8_lossy(name));
-  for (std::size_t i = 0; !wanted.empty() && i + 1 < records.size(); ++i) {
+  for (std::size_t i = 0; !wanted.empty() && i < entries_of(records).size(); ++i) {
     if (name_key(records[i].name) != wanted) continue;
     return std::make_unique<old_icons>(
         game.file, read_icon_file(game.file, records[i].offset, records[i + 1].offset));
@@ -128,18 +128,13 @@ std::unique_ptr<old_icons> find_old_icons(const import_options& options, const i
   return icons_of_entry(game, plan.entry);
 }
 
-int report(const import_options& options, const import_job& job) {
+void report(const import_options& options, const import_job& job) {
   const std::u8string subject = files::as_utf8(options.icon_file);
-  int status = status_done;
-  for (const files::failure& fault : job.plan.faults) {
-    print_error(fault);
-    status = status_differs;
-  }
+  for (const files::failure& fault : job.plan.faults) print_error(fault);
   if (job.changed_pixels > 0) {
     print_note({subject, counted(job.changed_pixels, "pixel") + " of " +
                              counted(job.changed_pictures, "picture") +
                              " changed to the nearest colour or transparency"});
-    status = status_differs;
   }
   if (job.shared_pixels > 0) {
     print_note({subject, counted(job.shared_pixels, "pixel") +
@@ -148,9 +143,13 @@ int report(const import_options& options, const import_job& job) {
   if (job.plan.left_out > 0) {
     print_note({subject, counted(job.plan.left_out, "icon") +
                              " of the old icon file left out, as there are too few pictures"});
-    status = status_differs;
   }
-  return status;
+}
+
+int status_of(const import_job& job) {
+  const bool is_exact =
+      job.plan.faults.empty() && job.changed_pixels == 0 && job.plan.left_out == 0;
+  return is_exact ? status_done : status_differs;
 }
 
 }  // namespace
@@ -163,7 +162,7 @@ int import_pictures(const import_options& options) {
   require_separate_output(options, plan);
   files::binary_file like;
   const std::unique_ptr<old_icons> old = find_old_icons(options, plan, game, like);
-  if (!options.like.empty()) plan = plan_like(std::move(plan), old->file(), old->icons());
+  if (!options.like.empty()) keep_layout(plan, old->file(), old->icons());
   remove_empty_end(plan);
   if (plan.icons.empty()) {
     throw data_error(files::as_utf8(options.sources.front()), "contains no pictures.");
@@ -175,8 +174,9 @@ int import_pictures(const import_options& options) {
       .plan = plan, .old = old.get(), .icons = std::vector<shp_icon>(plan.icons.size())};
   make_all_icons(job, colours);
   like.close();  // Windows does not replace an open file
-  write_result(options.icon_file, shp_file(job.icons, plan.identifier, true));
-  return report(options, job);
+  write_result(options.icon_file, shared_shp_file(job.icons, plan.identifier));
+  report(options, job);
+  return status_of(job);
 }
 
 }  // namespace ostrane::command

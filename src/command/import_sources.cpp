@@ -1,8 +1,10 @@
 #include "command/import_sources.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <unordered_set>
+#include <utility>
 
 #include "command/named_files.h"
 #include "command/program.h"
@@ -208,7 +210,8 @@ bool is_numbered(const std::string& name, const std::string& stem) {
 
 // Faults for the PNGs of the export that its JSON does not list. With several exports in the folder
 // the name tells which one a PNG belongs to. Sheets and palettes have files of their own.
-void find_unlisted(planning& job, const std::vector<fs::path>& files, const fs::path& json) {
+void add_faults_of_unlisted(planning& job, const std::vector<fs::path>& files,
+                            const fs::path& json) {
   const auto key_of = [](const fs::path& path) {
     return files::upper_case(files::as_bytes(path.u8string()));
   };
@@ -231,7 +234,7 @@ void find_unlisted(planning& job, const std::vector<fs::path>& files, const fs::
   }
 }
 
-void add_folder(planning& job, const std::string& folder) {
+std::vector<fs::path> files_in(const std::string& folder) {
   std::vector<files::listed_entry> listed;
   const fs::path path = path_of_argument(folder);
   const int failed = files::system_calls.list(path, listed);
@@ -243,9 +246,14 @@ void add_folder(planning& job, const std::string& folder) {
   std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
     return files::natural_less(name_of(a), name_of(b));
   });
+  return files;
+}
+
+void add_folder(planning& job, const std::string& folder) {
+  const std::vector<fs::path> files = files_in(folder);
   if (const auto json = json_of_export(files, job.stem, folder)) {
     add_json(job, shown_as_named(*json));
-    find_unlisted(job, files, *json);
+    add_faults_of_unlisted(job, files, *json);
     return;
   }
   for (const fs::path& file : files) {
@@ -282,6 +290,16 @@ bool is_empty(const planned_icon& icon) {
   return icon.is_grid_cell && icon.marked && last_set_column(*icon.marked) < 0;
 }
 
+// The icons with pictures, without what is known of them.
+std::vector<planned_icon> pictures_of(std::vector<planned_icon> icons) {
+  std::erase_if(icons, [](const planned_icon& icon) { return !icon.has_picture(); });
+  for (planned_icon& icon : icons) {
+    icon.known.reset();
+    icon.old_index.reset();
+  }
+  return icons;
+}
+
 }  // namespace
 
 import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem,
@@ -291,18 +309,14 @@ import_plan plan_of(const std::vector<std::string>& sources, const std::string& 
   return std::move(job.plan);
 }
 
-import_plan plan_like(import_plan plan, files::binary_file& file, const icon_file& from) {
-  std::vector<planned_icon> drawn;
-  for (planned_icon& icon : plan.icons) {
-    if (icon.has_picture()) drawn.push_back(std::move(icon));
-  }
-  plan.icons.clear();
+void keep_layout(import_plan& plan, files::binary_file& file, const icon_file& from) {
+  std::vector<planned_icon> pictures = pictures_of(std::exchange(plan.icons, {}));
   plan.identifier = from.head.identifier;
   const auto stream = std::make_unique<icon_stream>();
-  auto next = drawn.begin();
+  auto next = pictures.begin();
   for (std::size_t i = 0; i < from.positions.size(); ++i) {
     const stored_icon old = read_stored_icon(*stream, file, from, i);
-    if (old.drawn && next == drawn.end()) {
+    if (old.drawn && next == pictures.end()) {
       plan.left_out = static_cast<std::int64_t>(from.positions.size() - i);
       break;
     }
@@ -311,12 +325,7 @@ import_plan plan_like(import_plan plan, files::binary_file& file, const icon_fil
     icon.old_index = i;
     plan.icons.push_back(std::move(icon));
   }
-  for (; next != drawn.end(); ++next) {
-    plan.icons.push_back(std::move(*next));
-    plan.icons.back().known.reset();
-    plan.icons.back().old_index.reset();
-  }
-  return plan;
+  std::move(next, pictures.end(), std::back_inserter(plan.icons));
 }
 
 void remove_empty_end(import_plan& plan) {

@@ -11,7 +11,6 @@
 #include "files/file_error.h"
 #include "files/scratch_file.h"
 #include "files/text.h"
-#include "files/work_files.h"
 #include "files/written_path.h"
 
 namespace ostrane::command {
@@ -22,14 +21,7 @@ namespace {
 
 constexpr std::size_t input_block_size = 262144;
 
-}  // namespace
-
-files::file_path named_file(const std::string& argument) {
-  return {path_of_argument(argument), files::as_utf8(argument)};
-}
-
-files::file_path named_input(const std::string& argument) {
-  if (argument != "-") return named_file(argument);
+files::file_path copy_of_standard_input() {
   files::scratch_file copy(u8"standard input");
   std::vector<std::byte> block(input_block_size);
   std::int64_t size = 0;
@@ -43,6 +35,16 @@ files::file_path named_input(const std::string& argument) {
     copy.write(std::span(block).first(static_cast<std::size_t>(count)));
   }
   return copy.path();
+}
+
+}  // namespace
+
+files::file_path named_file(const std::string& argument) {
+  return {path_of_argument(argument), files::as_utf8(argument)};
+}
+
+files::file_path named_input(const std::string& argument) {
+  return argument == "-" ? copy_of_standard_input() : named_file(argument);
 }
 
 files::file_path shown_as_named(const fs::path& path) { return {path, path.u8string()}; }
@@ -84,12 +86,11 @@ void make_folder(const std::string& argument) {
     files::fail(files::as_utf8(argument), files::file_action::create, -files::errno_number(failed));
   }
   require_folder(argument);
-  files::clear_leftovers(folder);
 }
 
 std::vector<bool> chosen_entries(std::span<const dat_record> records,
                                  const std::vector<std::string>& arguments) {
-  const std::size_t count = records.empty() ? 0 : records.size() - 1;
+  const std::size_t count = entries_of(records).size();
   std::vector<bool> chosen(count, arguments.empty());
   const std::string no_name(name_size + 1, '/');  // is longer than that of any entry
   std::unordered_multimap<std::string, std::size_t> by_name;

@@ -36,15 +36,16 @@ bool open_stream(const std::string& argument, files::binary_file& file) {
   return true;
 }
 
-bool begin_output(const std::string& argument) {
+void begin_output(const std::string& argument) {
   if (is_dry_run() && !is_stream(argument)) {
     files::require_writable(named_link_target(argument));
   }
-  return begin_write(files::as_utf8(argument));
+  report_write(files::as_utf8(argument));
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {
-  if (!begin_output(argument)) return;
+  begin_output(argument);
+  if (is_dry_run()) return;
   files::binary_file file;
   if (open_stream(argument, file)) {
     file.write(std::as_bytes(std::span(bytes)));

@@ -13,9 +13,9 @@ namespace ostrane::command {
 // interruption.
 bool open_stream(const std::string& argument, files::binary_file& file);
 
-// Reports an output that is about to be written, if the user wants that. Returns false in a dry
-// run, which checks whether it could be. Throws file_error.
-bool begin_output(const std::string& argument);
+// Call before an output is opened. Reports it, if the user wants that. In a dry run, throws
+// file_error if it could not be written.
+void begin_output(const std::string& argument);
 
 // Writes to a stream, or replaces a file durably. Throws the same.
 void write_result(const std::string& argument, std::string_view bytes);

@@ -210,10 +210,10 @@ void add_import(CLI::App& app, parsed_line& line) {
 }
 
 int run_chosen(const parsed_line& line) {
-  set_talk(line.is_quiet     ? talk::quiet
-           : line.is_verbose ? talk::verbose
-                             : talk::normal,
-           line.is_dry_run);
+  configure_console(line.is_quiet     ? talk::quiet
+                    : line.is_verbose ? talk::verbose
+                                      : talk::normal,
+                    line.is_dry_run);
   int status = status_failed;
   const files::failure failed = files::failure_in([&] {
     try {

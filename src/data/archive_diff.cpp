@@ -37,16 +37,13 @@ entry_range range_at(const side& from, std::size_t i) {
   return range_of(from.index.records, static_cast<std::int32_t>(i));
 }
 
-std::span<const dat_record> entries_of(const side& from) {
-  const std::span<const dat_record> records = from.index.records;
-  return records.first(std::max<std::size_t>(records.size(), 1) - 1);
-}
-
 std::u8string name_at(const side& from, std::size_t i) {
   return files::to_utf8(name_with_blanks(from.index.records[i].name));
 }
 
-void step(const diff_job& job) { job.on_step(job.done, entries_of(job.old_side).size()); }
+void step(const diff_job& job) {
+  job.on_step(job.done, entries_of(job.old_side.index.records).size());
+}
 
 // Entries before the archive are equal if they begin at the same offset.
 bool has_same_bytes(diff_job& job, const entry_range& a, const entry_range& b) {
@@ -94,17 +91,17 @@ std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const e
   return numbers;
 }
 
-void compare_entries(diff_job& job, std::size_t old_index, std::size_t new_index,
-                     std::vector<entry_difference>& found) {
+std::optional<entry_difference> difference_of(diff_job& job, std::size_t old_index,
+                                              std::size_t new_index) {
   const entry_range a = range_at(job.old_side, old_index);
   const entry_range b = range_at(job.new_side, new_index);
-  if (has_same_bytes(job, a, b)) return;
+  if (has_same_bytes(job, a, b)) return {};
   entry_difference one = {name_at(job.new_side, new_index), a.size(), b.size(), {}};
   const record_name& name = job.new_side.index.records[new_index].name;
   if (kind_of_entry(name_without_nuls(name)) == entry_kind::icons) {
     one.icons = icons_that_differ(job, a, b);
   }
-  found.push_back(one);
+  return one;
 }
 
 // For each old entry the new one of its name, in their order.
@@ -132,12 +129,13 @@ std::vector<entry_difference> diff_archives(
   diff_job job = {.on_step = on_step};
   open(job.old_side, old_archive);
   open(job.new_side, new_archive);
-  const auto pairs = pairs_by_name(entries_of(job.old_side), entries_of(job.new_side));
-  std::vector<bool> is_paired(entries_of(job.new_side).size());
+  const auto pairs =
+      pairs_by_name(entries_of(job.old_side.index.records), entries_of(job.new_side.index.records));
+  std::vector<bool> is_paired(entries_of(job.new_side.index.records).size());
   std::vector<entry_difference> found;
   for (std::size_t i = 0; i < pairs.size(); ++i) {
     if (pairs[i]) {
-      compare_entries(job, i, *pairs[i], found);
+      if (const auto one = difference_of(job, i, *pairs[i])) found.push_back(*one);
       is_paired[*pairs[i]] = true;
     } else {
       found.push_back({name_at(job.old_side, i), range_at(job.old_side, i).size(), {}, {}});

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <unordered_map>
 
 #include "data/chunk_ladder.h"
@@ -88,12 +87,15 @@ std::int32_t indexed_size(const writing& job, std::size_t i) {
   return size_of(range_of(job.archive.records, static_cast<std::int32_t>(i)));
 }
 
-// Opens the file of an entry. Adds the entry to an index that is made during the copy.
 void open_entry(writing& job, std::size_t i) {
   const entry_source& entry = job.archive.entries[i];
   if (!job.index && !entry.content) job.progress.before_file(i, indexed_size(job, i));
   if (entry.is_file()) job.file.open_to_read(entry.file);
-  if (!job.index) return;
+}
+
+// Adds an open entry to the index that is made during the copy.
+void index_entry(writing& job, std::size_t i) {
+  const entry_source& entry = job.archive.entries[i];
   job.index->add(entry, entry.is_file() ? job.file.size() : size_of(job.archive, entry));
 }
 
@@ -129,35 +131,37 @@ entry_source source_of_file(const std::string& file_name, files::file_path file)
 
 new_archive copy_of_archive(const files::file_path& path) {
   new_archive archive = {.old = old_archive{path, read_archive_index(path)}};
-  const std::vector<dat_record>& records = archive.old->index.records;
-  for (std::size_t i = 0; i + 1 < records.size(); ++i) {
-    archive.entries.push_back({records[i].name, name_with_blanks(records[i].name), {}, i});
+  for (const dat_record& record : entries_of(archive.old->index.records)) {
+    archive.entries.push_back(
+        {record.name, name_with_blanks(record.name), {}, archive.entries.size()});
   }
   return archive;
 }
 
-void add_files(new_archive& archive, const std::vector<entry_source>& files) {
-  std::vector<std::string> keys;
-  std::unordered_map<std::string, std::size_t> last_of_name;
-  for (const entry_source& entry : archive.entries) {
-    last_of_name.insert_or_assign(name_key(entry.name), keys.size());
-    keys.push_back(name_key(entry.name));
+void put_files(new_archive& archive, const std::vector<entry_source>& files) {
+  std::unordered_map<std::string, entry_source*> last_of_name;
+  for (entry_source& entry : archive.entries) {
+    last_of_name.insert_or_assign(name_key(entry.name), &entry);
   }
-  std::map<std::string, entry_source> added;
+  entries_by_key others;
   for (const entry_source& file : files) {
     const auto replaced = last_of_name.find(name_key(file.name));
     if (replaced == last_of_name.end()) {
-      added.insert_or_assign(name_key(file.name), file);
+      others.insert_or_assign(name_key(file.name), file);
     } else {
-      entry_source& entry = archive.entries[replaced->second];
-      entry = {entry.name, file.shown_name, file.file};
+      *replaced->second = {replaced->second->name, file.shown_name, file.file};
     }
   }
+  insert_entries(archive, others);
+}
+
+void insert_entries(new_archive& archive, const entries_by_key& added) {
   std::vector<entry_source> merged;
   auto next = added.begin();
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    for (; next != added.end() && next->first < keys[i]; ++next) merged.push_back(next->second);
-    merged.push_back(std::move(archive.entries[i]));
+  for (entry_source& entry : archive.entries) {
+    const std::string key = name_key(entry.name);
+    for (; next != added.end() && next->first < key; ++next) merged.push_back(next->second);
+    merged.push_back(std::move(entry));
   }
   for (; next != added.end(); ++next) merged.push_back(next->second);
   archive.entries = std::move(merged);
@@ -209,6 +213,7 @@ void write_archive_to(files::binary_file& to, new_archive& archive, const job_pr
   }
   for (std::size_t i = 0; i < archive.entries.size(); ++i) {
     open_entry(job, i);
+    if (job.index) index_entry(job, i);
     copy_entry(job, i);
   }
   if (!job.index) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,9 +43,15 @@ entry_source source_of_file(const std::string& file_name, files::file_path file)
 // Reads an old archive and returns a new one with the same entries. Throws like read_archive_index.
 new_archive copy_of_archive(const files::file_path& path);
 
-// Adds files as if one after the other: each replaces the last entry of its name. If there is none,
-// it is inserted before the first entry whose name sorts after it.
-void add_files(new_archive& archive, const std::vector<entry_source>& files);
+// By name_key.
+using entries_by_key = std::map<std::string, entry_source>;
+
+// Inserts each of these entries before the first entry whose name sorts after it.
+void insert_entries(new_archive& archive, const entries_by_key& added);
+
+// Puts files into an archive as into a map, one after the other: each replaces the last entry of
+// its name. If there is none, it is inserted.
+void put_files(new_archive& archive, const std::vector<entry_source>& files);
 
 // Returns the index of each entry whose name, without case, is that of an earlier entry, and the
 // index of the latest such entry.

@@ -25,8 +25,8 @@ class report_walk {
       step_ship();
       ships_.shiplist_walk_done = i_ >= end_record_ || j_ >= ships_.shiplist_last;
     }
-    while (i_ < end_record_) write_list_row();
-    while (j_ < ships_.shiplist_last) write_ship_row();
+    for (; i_ < end_record_; step_list()) write_list_row();
+    for (; j_ < ships_.shiplist_last; step_ship()) write_ship_row();
   }
 
  private:
@@ -42,8 +42,8 @@ class report_walk {
   // Writes the names that sort before the other side's current name, first those of the archive.
   // The first loop includes the end record.
   void write_smaller_names() {
-    while (i_ <= end_record_ && list_key_ < ship_key_) write_list_row();
-    while (j_ < ships_.shiplist_last && list_key_ > ship_key_) write_ship_row();
+    for (; i_ <= end_record_ && list_key_ < ship_key_; step_list()) write_list_row();
+    for (; j_ < ships_.shiplist_last && list_key_ > ship_key_; step_ship()) write_ship_row();
   }
 
   void write(std::string line) {
@@ -55,13 +55,9 @@ class report_walk {
     const std::string number = std::to_string(i_);
     const std::string indent(number.size() < 5 ? 5 - number.size() : 0, ' ');
     write(indent + number + " " + list_key_);
-    step_list();
   }
 
-  void write_ship_row() {
-    write(std::string(20, ' ') + ship_key_);
-    step_ship();
-  }
+  void write_ship_row() { write(std::string(20, ' ') + ship_key_); }
 
   compare_report& report_;
   std::span<const std::string> archive_;

@@ -17,6 +17,11 @@ struct entry_range {
   std::int64_t size() const { return std::int64_t{end} - start; }
 };
 
+// The records of the entries: all but the end record.
+inline std::span<const dat_record> entries_of(std::span<const dat_record> records) {
+  return records.first(std::max<std::size_t>(records.size(), 1) - 1);
+}
+
 // The range of the entry of a 0-based index. That of the end record is empty.
 inline entry_range range_of(std::span<const dat_record> records, std::int32_t index) {
   const auto at = static_cast<std::size_t>(index);

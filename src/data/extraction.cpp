@@ -59,7 +59,7 @@ std::string write_entry(extraction& job, const std::string& name, std::int32_t s
   files::write_rules rules = job.choice.rules;
   rules.source = job.stamp.identity;
   const files::file_path target = job.target(name);
-  if (job.choice.is_dry_run) {
+  if (job.choice.on_target && !job.choice.on_target(target)) {
     require_writable(target, rules);
     return "";
   }

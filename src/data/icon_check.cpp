@@ -1,6 +1,7 @@
 #include "data/icon_check.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <vector>
 
 #include "data/icon_decoder.h"
@@ -39,8 +40,7 @@ struct icon_file_check {
   icon_stream& stream;
   const report_fault& report;
   icon_file icons;
-  std::vector<std::int32_t> starts;    // of all icons and the end of the file, 0-based, ascending
-  std::vector<bool> are_checked = {};  // for each of `starts`
+  std::vector<std::int32_t> starts;  // of all icons and the end of the file, 0-based, ascending
   std::int64_t bytes_left_to_read = 0;
 };
 
@@ -84,17 +84,18 @@ std::string head_fault(const icon_head& head) {
   return "";
 }
 
-// The current position of the file must be `at`, the offset of the stream.
+// Decodes the stream at `at`, the current position of the file. Returns the number of its bytes.
+std::int64_t decode_stream(icon_file_check& check, std::int64_t at, bounds_canvas& canvas) {
+  const std::int64_t size = std::max<std::int64_t>(check.icons.end - at, 0);
+  begin_stream(check.stream, static_cast<std::int32_t>(size));
+  icon_decoder(check.stream, check.file, canvas.head, canvas).decode();
+  return size - check.stream.entry_bytes_left - buffered_bytes(check.stream);
+}
+
 void check_stream(icon_file_check& check, const std::string& icon, const icon_head& head,
                   std::int64_t at) {
   bounds_canvas canvas{head};
-  check.stream.read_buffer_fill = 0;
-  check.stream.read_buffer_pos = 0;
-  const std::int64_t size = std::max<std::int64_t>(check.icons.end - at, 0);
-  check.stream.entry_bytes_left = static_cast<std::int32_t>(size);
-  icon_decoder(check.stream, check.file, head, canvas).decode();
-  const std::int64_t used = size - check.stream.entry_bytes_left -
-                            (check.stream.read_buffer_fill - check.stream.read_buffer_pos);
+  const std::int64_t used = decode_stream(check, at, canvas);
   check.bytes_left_to_read -= used;
   if (used > max_stream_bytes(head)) {
     check.report(icon + "only the first " + std::to_string(max_stream_bytes(head)) +
@@ -131,26 +132,18 @@ void check_icon(icon_file_check& check, std::size_t index) {
   check_stream(check, icon, head, at + std::int64_t{icon_head_size});
 }
 
-// Collects the bounds of the streams: a stream ends at the next icon or at the end of the file.
-void collect_starts(icon_file_check& check) {
-  for (const std::int32_t position : check.icons.positions) {
-    if (position > check.icons.start && position <= check.icons.end) {
-      check.starts.push_back(position - 1);
-    }
-  }
-  check.starts.push_back(check.icons.end);
-  std::sort(check.starts.begin(), check.starts.end());
-  check.starts.erase(std::unique(check.starts.begin(), check.starts.end()), check.starts.end());
+bool begins_inside(const icon_file& icons, std::int32_t position) {
+  return position > icons.start && position <= icons.end;
 }
 
-// True if a directory entry before points to the same icon.
-bool is_repeated(icon_file_check& check, std::int32_t position) {
-  const auto found = std::lower_bound(check.starts.begin(), check.starts.end(), position - 1);
-  if (found == check.starts.end() || *found != position - 1) return false;
-  const auto index = static_cast<std::size_t>(found - check.starts.begin());
-  const bool was_checked = check.are_checked[index];
-  check.are_checked[index] = true;
-  return was_checked;
+// The bounds of the streams: a stream ends at the next icon or at the end of the file.
+std::vector<std::int32_t> starts_in(const icon_file& icons) {
+  std::vector<std::int32_t> starts = {icons.end};
+  for (const std::int32_t position : icons.positions) {
+    if (begins_inside(icons, position)) starts.push_back(position - 1);
+  }
+  std::sort(starts.begin(), starts.end());
+  return starts;
 }
 
 }  // namespace
@@ -159,11 +152,13 @@ void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t 
                      icon_stream& stream, const report_fault& report) {
   icon_file_check check{file, stream, report, read_icon_file(file, start, end), {}};
   check_head(check);
-  collect_starts(check);
+  check.starts = starts_in(check.icons);
   check.bytes_left_to_read = max_reads_per_byte * (std::int64_t{end} - start);
-  check.are_checked.resize(check.starts.size());
+  std::unordered_set<std::int32_t> checked;
   for (std::size_t i = 0; i < check.icons.positions.size(); ++i) {
-    if (is_repeated(check, check.icons.positions[i])) continue;
+    // Several directory entries may point to one icon.
+    const std::int32_t position = check.icons.positions[i];
+    if (begins_inside(check.icons, position) && !checked.insert(position).second) continue;
     if (check.bytes_left_to_read < 0) {
       report("its streams share too many bytes; from icon " + std::to_string(i + 1) +
              " on they were not checked");

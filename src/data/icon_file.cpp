@@ -37,6 +37,16 @@ struct picture_canvas {
   }
 };
 
+// The head may be cut by the end of the icon file.
+bool read_head(files::binary_file& file, const icon_file& from, std::int32_t position,
+               icon_head& head) {
+  return position <= from.end && read_icon_head(file, position, head);
+}
+
+bool can_be_drawn(const icon_head& head) {
+  return classify_icon(head) == icon_kind::drawable && has_picture(head);
+}
+
 }  // namespace
 
 icon_file read_icon_file(files::binary_file& file, std::int32_t start, std::int32_t end) {
@@ -65,8 +75,7 @@ std::int64_t count_picture_cells(files::binary_file& file, const icon_file& from
   std::int64_t cells = 0;
   for (const std::int32_t position : from.positions) {
     icon_head head;
-    const bool is_read = position <= from.end && read_icon_head(file, position, head);
-    if (!is_read || classify_icon(head) != icon_kind::drawable || !has_picture(head)) continue;
+    if (!read_head(file, from, position, head) || !can_be_drawn(head)) continue;
     cells += columns_of(head) * rows_of(head);
   }
   return cells;
@@ -76,7 +85,7 @@ picture read_icon_picture(icon_stream& stream, files::binary_file& file, const i
                           const icon_head& head, std::int32_t position) {
   picture drawn(static_cast<int>(columns_of(head)), static_cast<int>(rows_of(head)));
   picture_canvas canvas{drawn};
-  begin_stream(stream, head, position, from.end);
+  begin_stream(stream, stream_size(head, position, from.end));
   icon_decoder(stream, file, head, canvas).decode();
   return drawn;
 }
@@ -85,12 +94,8 @@ stored_icon read_stored_icon(icon_stream& stream, files::binary_file& file, cons
                              std::size_t index) {
   stored_icon icon;
   const std::int32_t position = from.positions[index];
-  const bool is_inside = position > 0 && position <= from.end;
-  icon.is_there = is_inside && read_icon_head(file, position, icon.head);
-  if (!icon.is_there || classify_icon(icon.head) != icon_kind::drawable ||
-      !has_picture(icon.head)) {
-    return icon;
-  }
+  icon.is_there = read_head(file, from, position, icon.head);
+  if (!icon.is_there || !can_be_drawn(icon.head)) return icon;
   icon.drawn = read_icon_picture(stream, file, from, icon.head, position);
   icon.is_cut = stream.stream_ended && from.end - position > max_stream_bytes(icon.head);
   return icon;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "data/icon_stream.h"
 #include "data/picture.h"
 #include "data/shp_reader.h"
 

@@ -24,29 +24,44 @@ void append32(std::string& to, std::int32_t value) {
   append(to, static_cast<std::uint32_t>(value), 4);
 }
 
-void append_icon(std::string& to, const shp_icon& icon) {
-  append16(to, icon.head.no_of_rows);
-  append16(to, icon.head.no_of_cols);
-  append32(to, icon.head.spare);
-  append32(to, icon.head.col_start);
-  append32(to, icon.head.row_start);
-  append32(to, icon.head.col_end);
-  append32(to, icon.head.row_end);
-  to += icon.stream;
+std::string bytes_of(const shp_icon& icon) {
+  std::string bytes;
+  append16(bytes, icon.head.no_of_rows);
+  append16(bytes, icon.head.no_of_cols);
+  append32(bytes, icon.head.spare);
+  append32(bytes, icon.head.col_start);
+  append32(bytes, icon.head.row_start);
+  append32(bytes, icon.head.col_end);
+  append32(bytes, icon.head.row_end);
+  return bytes + icon.stream;
 }
 
-// Returns the offset of an identical icon in the file, or else the end of the file, and registers
-// the icon there.
-std::size_t offset_of(const std::string& file, const std::string& icon,
-                      std::unordered_multimap<std::size_t, std::size_t>& known) {
-  const std::size_t hash = std::hash<std::string>()(icon);
-  const auto [first, last] = known.equal_range(hash);
-  const auto same = std::find_if(first, last, [&](const auto& offset) {
-    return file.compare(offset.second, icon.size(), icon) == 0;
-  });
-  if (same != last) return same->second;
-  known.emplace(hash, file.size());
-  return file.size();
+// An icon file whose directory is filled in as icons are added.
+struct growing_file {
+  std::string bytes;
+  std::size_t entry = shp_head_size;  // offset of the next directory entry
+};
+
+growing_file file_without_icons(const shp_identifier& identifier, std::size_t icons) {
+  growing_file file = {.bytes = std::string(identifier.begin(), identifier.end())};
+  append32(file.bytes, static_cast<std::int32_t>(icons));
+  file.bytes.resize(shp_head_size + shp_dir_entry_size * icons);
+  return file;
+}
+
+void add_entry(growing_file& file, std::size_t icon_offset) {
+  files::put_int32(std::as_writable_bytes(std::span(file.bytes)), file.entry,
+                   static_cast<std::int32_t>(icon_offset));
+  file.entry += shp_dir_entry_size;
+}
+
+void add_icon(growing_file& file, const std::string& icon) {
+  const std::size_t offset = file.bytes.size();
+  file.bytes += icon;
+  if (file.bytes.size() > std::size_t{INT32_MAX}) {
+    throw data_error("The icon file would be larger than 2 GB, which is the most that it can be.");
+  }
+  add_entry(file, offset);
 }
 
 }  // namespace
@@ -101,28 +116,30 @@ shp_icon make_icon(const picture& drawn) {
   return {head, packed(drawn, head)};
 }
 
-std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier,
-                     bool shares_icons) {
-  std::string file(identifier.begin(), identifier.end());
-  append32(file, static_cast<std::int32_t>(icons.size()));
-  file.resize(shp_head_size + shp_dir_entry_size * icons.size());
+std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
+  growing_file file = file_without_icons(identifier, icons.size());
+  for (const shp_icon& icon : icons) add_icon(file, bytes_of(icon));
+  return std::move(file.bytes);
+}
+
+std::string shared_shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
+  growing_file file = file_without_icons(identifier, icons.size());
   std::unordered_multimap<std::size_t, std::size_t> known;  // offsets by the hashes of icons
-  std::size_t entry = shp_head_size;
-  std::string body;
   for (const shp_icon& icon : icons) {
-    body.clear();
-    append_icon(body, icon);
-    const std::size_t offset = shares_icons ? offset_of(file, body, known) : file.size();
-    if (offset == file.size()) file += body;
-    if (file.size() > std::size_t{INT32_MAX}) {
-      throw data_error(
-          "The icon file would be larger than 2 GB, which is the most that it can be.");
+    const std::string bytes = bytes_of(icon);
+    const std::size_t hash = std::hash<std::string>()(bytes);
+    const auto [first, last] = known.equal_range(hash);
+    const auto same = std::find_if(first, last, [&](const auto& offset) {
+      return file.bytes.compare(offset.second, bytes.size(), bytes) == 0;
+    });
+    if (same != last) {
+      add_entry(file, same->second);
+    } else {
+      known.emplace(hash, file.bytes.size());
+      add_icon(file, bytes);
     }
-    files::put_int32(std::as_writable_bytes(std::span(file)), entry,
-                     static_cast<std::int32_t>(offset));
-    entry += shp_dir_entry_size;
   }
-  return file;
+  return std::move(file.bytes);
 }
 
 std::string shp_file(const std::vector<picture>& pictures) {

@@ -31,11 +31,12 @@ shp_icon make_icon(const picture& drawn);
 // The identifier of new icon files.
 constexpr shp_identifier default_identifier = {'I', 'C', 'O', 'N'};
 
-// Returns an icon file: head, directory, icons. With `shares_icons` identical icons are stored
-// once. Throws data_error if it would be larger than 2 GB.
+// Returns an icon file: head, directory, icons. Throws data_error if it would be larger than 2 GB.
 std::string shp_file(const std::vector<shp_icon>& icons,
-                     const shp_identifier& identifier = default_identifier,
-                     bool shares_icons = false);
+                     const shp_identifier& identifier = default_identifier);
 std::string shp_file(const std::vector<picture>& pictures);
+
+// The same with identical icons stored once.
+std::string shared_shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier);
 
 }  // namespace ostrane

@@ -15,12 +15,14 @@ shp_icon packed_icon(const stored_icon& icon, std::size_t number) {
   return new_icon(*icon.drawn, known_icon{icon.head, last_set_column(*icon.drawn)});
 }
 
-// Decodes the packed icon file and the old one again.
-void require_same_icons(icon_repacker& job, const icon_file& old, const std::string& bytes) {
+icon_file read_back(icon_repacker& job, const std::string& bytes) {
   job.scratch.rewind();
   job.scratch.write(std::as_bytes(std::span(bytes)));
   job.packed.open_to_read(job.scratch.path());
-  const icon_file packed = read_icon_file(job.packed, 0, static_cast<std::int32_t>(bytes.size()));
+  return read_icon_file(job.packed, 0, static_cast<std::int32_t>(bytes.size()));
+}
+
+void require_same_icons(icon_repacker& job, const icon_file& old, const icon_file& packed) {
   bool is_same = packed.positions.size() == old.positions.size();
   for (std::size_t i = 0; is_same && i < old.positions.size(); ++i) {
     is_same = read_stored_icon(*job.stream, job.packed, packed, i) ==
@@ -39,9 +41,9 @@ std::string repacked(icon_repacker& job, const icon_file& old) {
   for (std::size_t i = 0; i < old.positions.size(); ++i) {
     icons.push_back(packed_icon(read_stored_icon(*job.stream, job.file, old, i), i + 1));
   }
-  std::string bytes = shp_file(icons, old.head.identifier, true);
+  std::string bytes = shared_shp_file(icons, old.head.identifier);
   if (static_cast<std::int64_t>(bytes.size()) >= std::int64_t{old.end} - old.start) return "";
-  require_same_icons(job, old, bytes);
+  require_same_icons(job, old, read_back(job, bytes));
   return bytes;
 }
 

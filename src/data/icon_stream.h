@@ -15,7 +15,7 @@ struct icon_stream {
   std::array<std::byte, read_buffer_size> read_buffer;
   std::int32_t read_buffer_fill = 0;  // valid bytes in it
   std::int32_t read_buffer_pos = 0;   // index of the next byte
-  // Bytes of the open entry not yet read from the file, or of its stream (see begin_stream).
+  // Bytes of the open entry not yet read from the file, or of its stream (see stream_size).
   std::int32_t entry_bytes_left = 0;
   std::uint8_t stream_byte = 0;  // the current one
   bool stream_ended = false;     // take_stream_byte found no byte
@@ -28,16 +28,27 @@ struct icon_stream {
 // sets entry_bytes_left to 0. Throws file_error.
 void refill_read_buffer(icon_stream& stream, files::binary_file& file);
 
-// Returns the number of unread bytes in the buffer. Refills an empty buffer first.
-inline std::int32_t buffered_bytes(icon_stream& stream, files::binary_file& file) {
-  if (stream.read_buffer_pos >= stream.read_buffer_fill) refill_read_buffer(stream, file);
+// Empties the buffer for a stream of `size` bytes at the file's current position.
+inline void begin_stream(icon_stream& stream, std::int32_t size) {
+  stream.entry_bytes_left = size;
+  stream.read_buffer_fill = 0;
+  stream.read_buffer_pos = 0;
+}
+
+// The number of unread bytes in the buffer.
+inline std::int32_t buffered_bytes(const icon_stream& stream) {
   return stream.read_buffer_fill - stream.read_buffer_pos;
+}
+
+inline void refill_empty_buffer(icon_stream& stream, files::binary_file& file) {
+  if (buffered_bytes(stream) <= 0) refill_read_buffer(stream, file);
 }
 
 // Reads the next byte into `stream_byte`. At the end sets `stream_ended` to true and `stream_byte`
 // to 0.
 inline void take_stream_byte(icon_stream& stream, files::binary_file& file) {
-  if (buffered_bytes(stream, file) == 0) {
+  refill_empty_buffer(stream, file);
+  if (buffered_bytes(stream) == 0) {
     stream.stream_ended = true;
     stream.stream_byte = 0;
     return;

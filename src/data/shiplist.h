@@ -20,7 +20,7 @@ struct shiplist_comparison {
 // data_error if the file has more than 32768 lines.
 void read_shiplist(const files::file_path& path, shiplist_comparison& comparison);
 
-// Sorts all lines but the final one by their keys and removes lines with equal keys. Updates
+// Sorts all lines but the final one by their keys, without lines with equal keys. Updates
 // `shiplist_last`.
 void sort_shiplist(shiplist_comparison& comparison);
 

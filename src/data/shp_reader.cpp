@@ -54,14 +54,12 @@ bool read_icon_head(files::binary_file& file, std::int32_t icon_position, icon_h
   return true;
 }
 
-void begin_stream(icon_stream& stream, const icon_head& head, std::int32_t icon_position,
-                  std::int32_t entry_end) {
+std::int32_t stream_size(const icon_head& head, std::int32_t icon_position,
+                         std::int32_t entry_end) {
   // Counted from the 1-based position of the head. The head has been read, so this is 23 bytes more
   // than the entry has left. A valid stream ends before them.
   const std::int64_t bytes_left = std::int64_t{entry_end} - icon_position;
-  stream.entry_bytes_left = clamp_to_int32(std::min(bytes_left, max_stream_bytes(head)));
-  stream.read_buffer_fill = 0;
-  stream.read_buffer_pos = 0;
+  return clamp_to_int32(std::min(bytes_left, max_stream_bytes(head)));
 }
 
 }  // namespace ostrane

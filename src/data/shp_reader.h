@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <span>
 
-#include "data/icon_stream.h"
 #include "data/shp_format.h"
+#include "files/binary_file.h"
 
 namespace ostrane {
 
@@ -23,9 +23,8 @@ bool read_icon_head(files::binary_file& file, std::int32_t icon_position, icon_h
 // Returns the limit of bytes read from a stream, which is far more than a picture needs.
 std::int64_t max_stream_bytes(const icon_head& head);
 
-// Clears the buffer and sets `entry_bytes_left` for an icon whose head was read. `entry_end` is the
-// file offset after the entry.
-void begin_stream(icon_stream& stream, const icon_head& head, std::int32_t icon_position,
-                  std::int32_t entry_end);
+// Returns the number of bytes to read of the stream of an icon whose head was read. `entry_end` is
+// the file offset after the entry.
+std::int32_t stream_size(const icon_head& head, std::int32_t icon_position, std::int32_t entry_end);
 
 }  // namespace ostrane

@@ -71,8 +71,9 @@ void begin_current_icon() {
     tool_state.series_full = flag_true;
     return;
   }
-  begin_stream(tool_state.stream, tool_state.icon_header, position,
-               range_of(index_records(), tool_state.directory_index).end);
+  begin_stream(tool_state.stream,
+               stream_size(tool_state.icon_header, position,
+                           range_of(index_records(), tool_state.directory_index).end));
 }
 
 }  // namespace ostrane

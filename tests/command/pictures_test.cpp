@@ -286,7 +286,7 @@ TEST(colour_finder_test, OneOfSeveralIndicesIsTheNearest) {
 // Icons of a few bytes can have pictures of any size.
 TEST_F(pictures_test, RefusesPicturesThatAreTooLargeTogether) {
   const shp_icon large = {{.no_of_rows = 8191, .no_of_cols = 8191}, std::string(1, '\0')};
-  const std::string file = shp_file(std::vector<shp_icon>(9, large), default_identifier, true);
+  const std::string file = shared_shp_file(std::vector<shp_icon>(9, large), default_identifier);
   write_bytes("a.dat", archive_bytes({{"F.SHP", file}, {"G.SHP", file}}));
   const result seen = run("export a.dat *.SHP -d out");
   EXPECT_EQ(seen.status, 2);
