@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
   using namespace ostrane::command;
   catch_signals();
   files::ignore_size_limit_signal();
-  set_binary_output();
+  set_up_standard_streams();
   try {
     const int status = run_command(arguments_of(argc, argv));
     hide_progress();

@@ -47,20 +47,24 @@ void pack_entry(packing& job, const archive_index& index, entry_source& entry) {
   }
 }
 
+void pack_entries(packing& job, const pack_options& options, new_archive& archive) {
+  const archive_index& index = archive.old->index;
+  open_unchanged(job.archive, archive.old->path, index.stamp);
+  const std::vector<bool> chosen = chosen_entries(index.records, options.names);
+  for (entry_source& entry : archive.entries) {
+    show_progress(*entry.old_index, archive.entries.size(), entry.shown_name);
+    const bool is_wanted = !options.names.empty() || is_icon_file(entry);
+    if (chosen[*entry.old_index] && is_wanted) pack_entry(job, index, entry);
+  }
+  job.archive.close();  // Windows does not replace an open file
+}
+
 }  // namespace
 
 int pack(const pack_options& options) {
   std::optional<packing> job;
   change_archive(options.archive, [&](new_archive& archive) {
-    job.emplace();
-    open_unchanged(job->archive, archive.old->path, archive.old->index.stamp);
-    const std::vector<bool> chosen = chosen_entries(archive.old->index.records, options.names);
-    for (entry_source& entry : archive.entries) {
-      show_progress(*entry.old_index, archive.entries.size(), entry.shown_name);
-      const bool is_wanted = !options.names.empty() || is_icon_file(entry);
-      if (chosen[*entry.old_index] && is_wanted) pack_entry(*job, archive.old->index, entry);
-    }
-    job->archive.close();  // Windows does not replace an open file
+    pack_entries(job.emplace(), options, archive);
     return job->saved > 0;
   });
   for (const files::failure& one : job->refused) print_error(one);

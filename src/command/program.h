@@ -16,8 +16,8 @@ std::filesystem::path path_of_argument(const std::string& argument);
 
 bool stderr_is_terminal();
 
-// Turns off the translation of line ends on standard output.
-void set_binary_output();
+// On Windows turns off the translation of line ends, and shows UTF-8.
+void set_up_standard_streams();
 
 // Duplicates the descriptor of standard output. Returns -errno on failure.
 int open_standard_output();

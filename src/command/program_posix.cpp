@@ -22,7 +22,7 @@ fs::path path_of_argument(const std::string& argument) { return argument; }
 
 bool stderr_is_terminal() { return isatty(STDERR_FILENO) == 1; }
 
-void set_binary_output() {}
+void set_up_standard_streams() {}
 
 int open_standard_output() {
   const int copy = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);

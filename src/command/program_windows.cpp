@@ -30,7 +30,7 @@ fs::path path_of_argument(const std::string& argument) { return files::as_utf8(a
 
 bool stderr_is_terminal() { return _isatty(2) != 0; }
 
-void set_binary_output() {
+void set_up_standard_streams() {
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stdin), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);

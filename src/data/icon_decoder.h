@@ -72,7 +72,7 @@ class icon_decoder {
   void paint_literals() {
     stream_.run_length = static_cast<std::int16_t>((stream_.stream_byte - 1) / 2);
     for (std::int32_t left = stream_.run_length; left > 0;) {
-      refill_empty_buffer(stream_, file_);
+      if (buffered_bytes(stream_) == 0) refill_read_buffer(stream_, file_);
       const std::int32_t count = std::min(left, buffered_bytes(stream_));
       if (count == 0) {
         take_stream_byte(stream_, file_);

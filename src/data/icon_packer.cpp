@@ -14,25 +14,20 @@
 namespace ostrane {
 namespace {
 
-void append(std::string& to, std::uint32_t value, int bytes) {
-  for (int i = 0; i < bytes; ++i) to += static_cast<char>(value >> (8 * i) & 0xFFU);
-}
-void append16(std::string& to, std::int16_t value) {
-  append(to, static_cast<std::uint16_t>(value), 2);
-}
-void append32(std::string& to, std::int32_t value) {
-  append(to, static_cast<std::uint32_t>(value), 4);
+template <typename Number>
+void append(std::string& to, Number value) {
+  for (unsigned i = 0; i < sizeof value; ++i) to += static_cast<char>(value >> 8U * i & 0xFF);
 }
 
 std::string bytes_of(const shp_icon& icon) {
   std::string bytes;
-  append16(bytes, icon.head.no_of_rows);
-  append16(bytes, icon.head.no_of_cols);
-  append32(bytes, icon.head.spare);
-  append32(bytes, icon.head.col_start);
-  append32(bytes, icon.head.row_start);
-  append32(bytes, icon.head.col_end);
-  append32(bytes, icon.head.row_end);
+  append(bytes, icon.head.no_of_rows);
+  append(bytes, icon.head.no_of_cols);
+  append(bytes, icon.head.spare);
+  append(bytes, icon.head.col_start);
+  append(bytes, icon.head.row_start);
+  append(bytes, icon.head.col_end);
+  append(bytes, icon.head.row_end);
   return bytes + icon.stream;
 }
 
@@ -44,7 +39,7 @@ struct growing_file {
 
 growing_file file_without_icons(const shp_identifier& identifier, std::size_t icons) {
   growing_file file = {.bytes = std::string(identifier.begin(), identifier.end())};
-  append32(file.bytes, static_cast<std::int32_t>(icons));
+  append(file.bytes, static_cast<std::int32_t>(icons));
   file.bytes.resize(shp_head_size + shp_dir_entry_size * icons);
   return file;
 }

@@ -40,14 +40,10 @@ inline std::int32_t buffered_bytes(const icon_stream& stream) {
   return stream.read_buffer_fill - stream.read_buffer_pos;
 }
 
-inline void refill_empty_buffer(icon_stream& stream, files::binary_file& file) {
-  if (buffered_bytes(stream) <= 0) refill_read_buffer(stream, file);
-}
-
 // Reads the next byte into `stream_byte`. At the end sets `stream_ended` to true and `stream_byte`
 // to 0.
 inline void take_stream_byte(icon_stream& stream, files::binary_file& file) {
-  refill_empty_buffer(stream, file);
+  if (buffered_bytes(stream) == 0) refill_read_buffer(stream, file);
   if (buffered_bytes(stream) == 0) {
     stream.stream_ended = true;
     stream.stream_byte = 0;

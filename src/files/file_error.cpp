@@ -15,85 +15,35 @@ std::string predicate_of(file_action action, const std::string& reason) {
   return std::string("cannot be ") + verbs[static_cast<std::size_t>(action)] + ": " + reason + ".";
 }
 
-file_error_number number_of(int errno_number) {
-  switch (errno_number) {
-    case ENOENT:
-      return file_error_number::file_not_found;
-    case ENOTDIR:
-      return file_error_number::path_not_found;
-    case EEXIST:
-      return file_error_number::file_exists;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EBUSY:
-    case ELOOP:
-    case EMLINK:
-    case ESPIPE:
-    case ENOTSOCK:
-    case ENODEV:
-      return file_error_number::permission_denied;
-    case EISDIR:
-      return file_error_number::path_access;
-    case ENXIO:
-      return file_error_number::device_unavailable;
-    case ENOSPC:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-    case EFBIG:
-      return file_error_number::disk_full;
-    case EINVAL:
-    case ENAMETOOLONG:
-      return file_error_number::bad_file_name;
-    default:
-      return file_error_number::device_error;
-  }
-}
+struct known_error {
+  int errno_number;
+  file_error_number number;
+  const char* reason;
+};
 
-std::string reason_of(int errno_number) {
-  switch (errno_number) {
-    case ENOENT:
-      return "it is not there";
-    case EACCES:
-    case EPERM:
-      return "access is not allowed";
-    case EBUSY:
-      return "it is in use";
-    case EISDIR:
-      return "it is a folder";
-    case ENXIO:
-      return "its drive does not answer";
-    case ENOSPC:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-      return "the disk is full";
-    case EROFS:
-      return "the disk cannot be written to";
-    case EEXIST:
-      return "it is there already";
-    case ENOTDIR:
-      return "it is not in a folder";
-    case ELOOP:
-      return "it is a link";
-    case EMLINK:
-      return "it has several names";
+constexpr auto known_errors = std::to_array<known_error>({
+    {ENOENT, file_error_number::file_not_found, "it is not there"},
+    {ENOTDIR, file_error_number::path_not_found, "it is not in a folder"},
+    {EEXIST, file_error_number::file_exists, "it is there already"},
+    {EACCES, file_error_number::permission_denied, "access is not allowed"},
+    {EPERM, file_error_number::permission_denied, "access is not allowed"},
+    {EROFS, file_error_number::permission_denied, "the disk cannot be written to"},
+    {EBUSY, file_error_number::permission_denied, "it is in use"},
+    {ELOOP, file_error_number::permission_denied, "it is a link"},
+    {EMLINK, file_error_number::permission_denied, "it has several names"},
     // The kinds that system_calls refuses to open.
-    case ESPIPE:
-      return "it is a pipe";
-    case ENOTSOCK:
-      return "it is a socket";
-    case ENODEV:
-      return "it is a device";
-    case ENAMETOOLONG:
-      return "its name is too long";
-    case EFBIG:
-      return "it would be larger than the system allows";
-    default:
-      return std::strerror(errno_number);
-  }
-}
+    {ESPIPE, file_error_number::permission_denied, "it is a pipe"},
+    {ENOTSOCK, file_error_number::permission_denied, "it is a socket"},
+    {ENODEV, file_error_number::permission_denied, "it is a device"},
+    {EISDIR, file_error_number::path_access, "it is a folder"},
+    {ENXIO, file_error_number::device_unavailable, "its drive does not answer"},
+    {ENOSPC, file_error_number::disk_full, "the disk is full"},
+#ifdef EDQUOT
+    {EDQUOT, file_error_number::disk_full, "the disk is full"},
+#endif
+    {EFBIG, file_error_number::disk_full, "it would be larger than the system allows"},
+    {ENAMETOOLONG, file_error_number::bad_file_name, "its name is too long"},
+});
 
 }  // namespace
 
@@ -105,7 +55,13 @@ file_error::file_error(file_error_number what_number, file_action what_failed,
 
 void fail(const std::u8string& subject, file_action action, std::int64_t status) {
   const int reason = static_cast<int>(-status);
-  throw file_error(number_of(reason), action, subject, reason_of(reason));
+  for (const known_error& known : known_errors) {
+    if (known.errno_number != reason) continue;
+    throw file_error(known.number, action, subject, known.reason);
+  }
+  throw file_error(
+      reason == EINVAL ? file_error_number::bad_file_name : file_error_number::device_error, action,
+      subject, std::strerror(reason));
 }
 
 }  // namespace files

@@ -93,6 +93,17 @@ std::span<std::int16_t> covered(gif_job& job, int row) {
       .subspan(static_cast<std::size_t>(left), static_cast<std::size_t>(right - left));
 }
 
+// Prepares the screen for the next frame. `before` is what it was before this one.
+void dispose_frame(gif_job& job, const picture& before) {
+  if (job.control.DisposalMode == DISPOSE_PREVIOUS) job.screen = before;
+  for (int row = 0; job.control.DisposalMode == DISPOSE_BACKGROUND && row < job.gif->Image.Height;
+       ++row) {
+    const auto to = covered(job, row);
+    std::fill(to.begin(), to.end(), picture::unset);
+  }
+  job.control = {0, false, 0, NO_TRANSPARENT_COLOR};
+}
+
 void read_frame(gif_job& job) {
   require(job, DGifGetImageDesc(job.gif));
   const std::int64_t cells = std::int64_t{job.screen.columns()} * job.screen.rows();
@@ -112,13 +123,7 @@ void read_frame(gif_job& job) {
     }
   });
   job.shows.push_back(job.screen);
-  if (job.control.DisposalMode == DISPOSE_PREVIOUS) job.screen = before;
-  for (int row = 0; job.control.DisposalMode == DISPOSE_BACKGROUND && row < job.gif->Image.Height;
-       ++row) {
-    const auto to = covered(job, row);
-    std::fill(to.begin(), to.end(), picture::unset);
-  }
-  job.control = {0, false, 0, NO_TRANSPARENT_COLOR};
+  dispose_frame(job, before);
 }
 
 void read_all(gif_job& job) {

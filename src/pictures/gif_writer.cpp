@@ -42,6 +42,7 @@ int append_bytes(GifFileType* gif, const GifByteType* bytes, int count) {
 struct frame_indices {
   std::array<std::uint8_t, 256> new_index = {};
   int unset = NO_TRANSPARENT_COLOR;
+  std::int64_t inexact = 0;  // cells with another colour
 };
 
 frame_indices indices_of(const gif_job& job, const picture& drawn) {
@@ -63,12 +64,13 @@ frame_indices indices_of(const gif_job& job, const picture& drawn) {
       static_cast<std::size_t>(std::min_element(uses.begin(), uses.end()) - uses.begin());
   indices.new_index[rarest] = nearest_index(job.palette, job.palette[rarest], rarest);
   indices.unset = static_cast<int>(rarest);
-  job.inexact += uses[rarest];
+  indices.inexact = uses[rarest];
   return indices;
 }
 
 void put_frame(const gif_job& job, const picture& drawn) {
   const frame_indices indices = indices_of(job, drawn);
+  job.inexact += indices.inexact;
   const GraphicsControlBlock control = {.DisposalMode = DISPOSE_BACKGROUND,
                                         .UserInputFlag = false,
                                         .DelayTime = job.pace,

@@ -67,19 +67,6 @@ std::string fault_of(const stored_icon& icon) {
          " bytes of its stream are read";
 }
 
-exported_icon read_icon(icon_export_job& job, const icon_file& from, std::size_t number,
-                        const drawable_handler& on_drawable) {
-  stored_icon stored = read_stored_icon(*job.stream, job.output.archive, from, number - 1);
-  const std::string fault = fault_of(stored);
-  if (!fault.empty()) job.wanted.on_skipped("icon " + std::to_string(number) + " " + fault);
-  exported_icon icon = {.file = {},
-                        .head = stored.head,
-                        .offset = from.positions[number - 1] - 1 - from.start,
-                        .number = static_cast<std::int32_t>(number)};
-  if (stored.drawn) on_drawable(number, std::move(*stored.drawn), icon);
-  return icon;
-}
-
 // The directory may have room for fewer icons than the head says, or the head may exceed the limit.
 void report_unread_icons(const icon_export& wanted, const icon_file& from) {
   const auto read = static_cast<std::int32_t>(from.positions.size());
@@ -100,7 +87,14 @@ exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawa
   const std::size_t last = std::min(wanted.last, from.positions.size());
   for (std::size_t number = wanted.first; number <= last; ++number) {
     if (wanted.on_icon) wanted.on_icon(number, last);
-    exported.icons.push_back(read_icon(job, from, number, on_drawable));
+    stored_icon stored = read_stored_icon(*job.stream, job.output.archive, from, number - 1);
+    const std::string fault = fault_of(stored);
+    if (!fault.empty()) wanted.on_skipped("icon " + std::to_string(number) + " " + fault);
+    exported.icons.push_back({.file = {},
+                              .head = stored.head,
+                              .offset = from.positions[number - 1] - 1 - from.start,
+                              .number = static_cast<std::int32_t>(number)});
+    if (stored.drawn) on_drawable(number, std::move(*stored.drawn), exported.icons.back());
   }
   report_unread_icons(wanted, from);
   return exported;
@@ -120,7 +114,6 @@ void write_pictures(icon_export_job& job, std::vector<made_picture>& pictures) {
     }
   });
   for (const made_picture& made : pictures) write_export(job.output, made.name, made.png);
-  pictures.clear();
 }
 
 void export_series(icon_export_job& job) {
@@ -135,6 +128,7 @@ void export_series(icon_export_job& job) {
         pictures.push_back({*icon.file, std::move(drawn)});
         if (cells < max_cells) return;
         write_pictures(job, pictures);
+        pictures.clear();
         cells = 0;
       });
   write_pictures(job, pictures);
