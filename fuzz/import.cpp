@@ -61,10 +61,11 @@ void import_gif(const std::string& bytes) {
 }
 
 void import_json(const std::string& text) {
-  exported_icons exported;
-  const auto layout = read_sheet_json(text, u8"j", exported);
+  const auto read = read_export_json(text, u8"j");
+  const auto* icons = std::get_if<exported_icons>(&read);
+  exported_icons exported = icons == nullptr ? exported_icons() : *icons;
   const picture sheet(64, 64);
-  if (layout) {
+  if (const auto* layout = std::get_if<sheet_layout>(&read)) {
     for (const sheet_frame& frame : layout->frames) {
       if (std::int64_t{frame.columns} * frame.rows <= max_cells) picture_of(sheet, frame);
     }

@@ -97,6 +97,21 @@ std::vector<entry_source>::iterator only_entry(new_archive& archive, const std::
   return archive.entries.begin() + (std::find(chosen.begin(), chosen.end(), true) - chosen.begin());
 }
 
+// Throws data_error if another entry has the name.
+void rename_entry(const new_archive& archive, entry_source& entry, const entry_source& renamed) {
+  if (name_key(entry.name) != name_key(renamed.name) &&
+      names_in(archive).contains(name_key(renamed.name))) {
+    throw data_error(renamed.file.shown, "is the name of another entry.");
+  }
+  entry.name = renamed.name;
+}
+
+void move_into_order(new_archive& archive, std::vector<entry_source>::iterator entry) {
+  const entry_source moved = *entry;
+  archive.entries.erase(entry);
+  insert_entries(archive, {{name_key(moved.name), moved}});
+}
+
 }  // namespace
 
 int add(const add_options& options) {
@@ -141,16 +156,9 @@ int rename(const rename_options& options) {
   std::u8string old_name;
   change_archive(options.archive, [&](new_archive& archive) {
     const auto old = only_entry(archive, options.old_name);
-    if (name_key(old->name) != name_key(renamed.name) &&
-        names_in(archive).contains(name_key(renamed.name))) {
-      throw data_error(shown, "is the name of another entry.");
-    }
     old_name = files::to_utf8(old->shown_name);
-    old->name = renamed.name;
-    if (options.keeps_order) return true;
-    const entry_source moved = *old;
-    archive.entries.erase(old);
-    insert_entries(archive, {{name_key(moved.name), moved}});
+    rename_entry(archive, *old, renamed);
+    if (!options.keeps_order) move_into_order(archive, old);
     return true;
   });
   print_step({old_name, "becomes " + name_with_blanks(renamed.name)});

@@ -43,9 +43,7 @@ void write_out() {
   const int reason = errno;
   console.pending.clear();
   check_interruption();
-  if (!is_written) {
-    files::fail(u8"standard output", files::file_action::write, -reason);
-  }
+  if (!is_written) files::fail(u8"standard output", files::file_action::write, -reason);
 }
 
 void draw_bar(std::size_t count) {

@@ -37,8 +37,7 @@ struct exported_entry {
   std::string name;
   std::u8string stem;  // prefix of its file names
   entry_kind kind = entry_kind::other;
-  std::int32_t start = 0;
-  std::int32_t end = 0;
+  entry_range range = {};
   bool is_whole = false;  // the archive has all of its bytes
 };
 
@@ -62,8 +61,8 @@ void export_icons(entries_export& job, const exported_entry& entry) {
   make_icon_exporter()(
       job.output,
       {.entry = entry.name,
-       .start = entry.start,
-       .end = entry.end,
+       .start = entry.range.start,
+       .end = entry.range.end,
        .colours = job.palette,
        .form = form_named(options.form),
        .stem = entry.stem,
@@ -88,12 +87,13 @@ std::string gpl_of(const std::string& name, const rgb_palette& colours) {
 }
 
 void export_palette(entries_export& job, const exported_entry& entry) {
-  const std::int64_t size = std::min<std::int64_t>(entry.end, job.archive.size()) - entry.start;
-  if (entry.start < 0 || size < std::int64_t{palette_colours * colour_size}) {
+  const std::int64_t size =
+      std::min<std::int64_t>(entry.range.end, job.archive.size()) - entry.range.start;
+  if (entry.range.start < 0 || size < std::int64_t{palette_colours * colour_size}) {
     report_skipped(job, entry, "it is too short for a palette");
     return;
   }
-  const rgb_palette colours = read_colours(job.archive, entry.start);
+  const rgb_palette colours = read_colours(job.archive, entry.range.start);
   picture drawn(palette_side, palette_side);
   for (int i = 0; i < palette_side * palette_side; ++i) {
     drawn.set(i % palette_side, i / palette_side, static_cast<std::uint8_t>(i));
@@ -108,8 +108,8 @@ void export_text(entries_export& job, const exported_entry& entry) {
     report_skipped(job, entry, "the archive does not contain all of it");
     return;
   }
-  std::string text(static_cast<std::size_t>(entry.end - entry.start), ' ');
-  job.archive.seek(entry.start);
+  std::string text(static_cast<std::size_t>(entry.range.size()), ' ');
+  job.archive.seek(entry.range.start);
   job.archive.read(std::as_writable_bytes(std::span(text)));
   std::replace(text.begin(), text.end(), '\0', ' ');
   write_export(job.output, entry.stem + u8".txt", files::as_bytes(files::to_utf8(text)));
@@ -151,8 +151,7 @@ std::vector<exported_entry> chosen_exports(const archive_index& index,
     entries.push_back({.name = name,
                        .stem = files::to_utf8(stem_of_entry(name)) + (is_sheet ? u8"-sheet" : u8""),
                        .kind = kind,
-                       .start = index.records[i].offset,
-                       .end = index.records[i + 1].offset,
+                       .range = range_of(index.records, static_cast<std::int32_t>(i)),
                        .is_whole = is_whole(index, i)});
   }
   return entries;
@@ -163,8 +162,8 @@ std::int64_t count_cells(entries_export& job, const std::vector<exported_entry>&
   for (std::size_t i = 0; i < entries.size() && cells <= max_job_cells; ++i) {
     if (entries[i].kind != entry_kind::icons) continue;
     show_progress(i, entries.size(), entries[i].name);
-    cells += count_picture_cells(job.archive,
-                                 read_icon_file(job.archive, entries[i].start, entries[i].end));
+    cells += count_picture_cells(
+        job.archive, read_icon_file(job.archive, entries[i].range.start, entries[i].range.end));
   }
   return cells;
 }
@@ -179,7 +178,7 @@ std::vector<std::u8string> files_of(entries_export& job, const exported_entry& e
   if (entry.kind == entry_kind::palette) return {entry.stem + u8".png", entry.stem + u8".gpl"};
   if (entry.kind == entry_kind::text) return {entry.stem + u8".txt"};
   if (entry.kind == entry_kind::other) return {};
-  const icon_file from = read_icon_file(job.archive, entry.start, entry.end);
+  const icon_file from = read_icon_file(job.archive, entry.range.start, entry.range.end);
   return exported_files(form_named(job.options.form), entry.stem, 1, from.positions.size());
 }
 

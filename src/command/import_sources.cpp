@@ -34,10 +34,13 @@ struct planning {
 std::string name_of(const fs::path& path) { return files::as_bytes(path.filename().u8string()); }
 std::string stem_of(const fs::path& path) { return files::as_bytes(path.stem().u8string()); }
 
+std::string key_of(const std::u8string& text) { return files::upper_case(files::as_bytes(text)); }
+
 bool has_ending(const fs::path& path, const char* ending) {
   return files::lower_case(files::as_bytes(path.extension().u8string())) == ending;
 }
 
+// Reads a file that the output must not replace.
 std::string read_input(planning& job, const files::file_path& path) {
   job.plan.inputs.push_back(path);
   return read_bytes(job.file, path);
@@ -118,12 +121,11 @@ void add_sheet(planning& job, const sheet_layout& layout, const files::file_path
 
 // Its pictures are in the folder of `json`.
 void add_json(planning& job, const std::string& text, const files::file_path& json) {
-  exported_icons exported;
-  const auto layout = read_sheet_json(text, json.shown, exported);
-  if (layout) {
+  const auto read = read_export_json(text, json.shown);
+  if (const auto* layout = std::get_if<sheet_layout>(&read)) {
     add_sheet(job, *layout, json);
   } else {
-    add_icons(job, exported, json);
+    add_icons(job, std::get<exported_icons>(read), json);
   }
 }
 
@@ -154,12 +156,9 @@ std::optional<sheet_layout> layout_of_sheet(planning& job, const files::file_pat
                                             const files::file_path& json) {
   std::optional<sheet_layout> layout;
   files::ignore_failure([&] {
-    exported_icons exported;
-    layout = read_sheet_json(read_bytes(job.file, json), u8"", exported);
+    const auto read = read_export_json(read_bytes(job.file, json), u8"");
+    if (const auto* found = std::get_if<sheet_layout>(&read)) layout = *found;
   });
-  const auto key_of = [](const std::u8string& name) {
-    return files::upper_case(files::as_bytes(name));
-  };
   const bool is_of_other = layout && !layout->image.empty() &&
                            key_of(layout->image) != key_of(png.system.filename().u8string());
   return is_of_other ? std::nullopt : layout;
@@ -212,18 +211,17 @@ bool is_numbered(const std::string& name, const std::string& stem) {
 // the name tells which one a PNG belongs to. Sheets and palettes have files of their own.
 void add_faults_of_unlisted(planning& job, const std::vector<fs::path>& files,
                             const fs::path& json) {
-  const auto key_of = [](const fs::path& path) {
-    return files::upper_case(files::as_bytes(path.u8string()));
-  };
   std::unordered_set<std::string> known;
-  for (const files::file_path& input : job.plan.inputs) known.insert(key_of(input.system));
+  for (const files::file_path& input : job.plan.inputs)
+    known.insert(key_of(input.system.u8string()));
   std::int64_t jsons = 0;
   for (const fs::path& file : files) {
     jsons += has_ending(file, ".json") ? 1 : 0;
-    if (has_ending(file, ".gpl")) known.insert(key_of(fs::path(file).replace_extension(".png")));
+    if (!has_ending(file, ".gpl")) continue;
+    known.insert(key_of(fs::path(file).replace_extension(".png").u8string()));
   }
   for (const fs::path& file : files) {
-    if (!has_ending(file, ".png") || known.contains(key_of(file))) continue;
+    if (!has_ending(file, ".png") || known.contains(key_of(file.u8string()))) continue;
     const std::string name = files::upper_case(name_of(file));
     if (stem_of(file).ends_with("-sheet") || (jsons > 1 && !is_numbered(name, stem_of(json)))) {
       continue;

@@ -146,9 +146,8 @@ std::vector<entry_difference> diff_archives(
     if (is_paired[i]) continue;
     found.push_back({name_at(job.new_side, i), {}, range_at(job.new_side, i).size(), {}});
   }
-  for (side* read : {&job.old_side, &job.new_side}) {
-    require_unchanged(read->file, read->index.stamp, "comparison");
-  }
+  require_unchanged(job.old_side.file, job.old_side.index.stamp, "comparison");
+  require_unchanged(job.new_side.file, job.new_side.index.stamp, "comparison");
   return found;
 }
 

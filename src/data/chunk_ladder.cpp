@@ -6,15 +6,8 @@ namespace ostrane {
 
 namespace {
 
-constexpr std::int32_t largest_block = 8192;
-
-struct rung {
-  std::int32_t block;
-  bool always_reports;
-};
-
-constexpr std::array<rung, 4> rungs = {
-    {{largest_block, true}, {1024, true}, {128, false}, {8, false}}};
+constexpr std::array<std::int32_t, 4> block_sizes = {8192, 1024, 128, 8};
+constexpr std::int32_t least_reported = 1024;  // blocks of this size and more are reported each
 
 struct running_copy {
   files::binary_file& from;
@@ -44,14 +37,14 @@ void report_small_block(running_copy& job, std::int32_t size, std::int32_t value
   job.small_block_bytes = 0;
 }
 
-void copy_blocks(running_copy& job, const rung& step, std::int32_t blocks) {
+void copy_blocks(running_copy& job, std::int32_t size, std::int32_t blocks) {
   for (std::int32_t i = 1; i <= blocks && !job.source_ended; ++i) {
-    if (step.always_reports) {
-      job.progress.on_bytes(i * step.block);
+    if (size >= least_reported) {
+      job.progress.on_bytes(i * size);
     } else {
-      report_small_block(job, step.block, i * step.block);
+      report_small_block(job, size, i * size);
     }
-    copy_at_least(job, step.block);
+    copy_at_least(job, size);
   }
 }
 
@@ -61,13 +54,12 @@ std::int32_t chunk_ladder(files::binary_file& from, files::binary_file& to, std:
                           std::int16_t& small_block_bytes, const job_progress& progress) {
   running_copy job{from, to, amount, small_block_bytes, progress};
   std::int32_t remaining = amount;
-  for (const rung& step : rungs) {
-    if (remaining <= step.block) continue;
-    const std::int32_t blocks = remaining / step.block;
-    copy_blocks(job, step, blocks);
-    remaining -= blocks * step.block;
+  for (const std::int32_t size : block_sizes) {
+    if (remaining <= size) continue;
+    copy_blocks(job, size, remaining / size);
+    remaining %= size;
   }
-  if (remaining > 0) copy_blocks(job, {.block = 1, .always_reports = false}, remaining);
+  if (remaining > 0) copy_blocks(job, 1, remaining);
   return job.copied;
 }
 

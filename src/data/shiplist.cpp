@@ -64,11 +64,9 @@ void sort_shiplist(shiplist_comparison& comparison) {
   std::vector<sort_key> order;
   order.reserve(count);
   for (std::size_t i = 0; i < count; ++i) order.push_back(key_of(lines[i], i));
-  std::sort(order.begin(), order.end(), [&lines](const sort_key& a, const sort_key& b) {
-    const int sign = compare(lines, a, b);
-    return sign == 0 ? a.line < b.line : sign < 0;
-  });
+  const auto less = [&lines](const auto& a, const auto& b) { return compare(lines, a, b) < 0; };
   const auto same = [&lines](const auto& a, const auto& b) { return compare(lines, a, b) == 0; };
+  std::stable_sort(order.begin(), order.end(), less);
   order.erase(std::unique(order.begin(), order.end(), same), order.end());
   std::vector<std::string> sorted;
   sorted.reserve(order.size() + 1);

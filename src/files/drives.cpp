@@ -41,9 +41,8 @@ void set_drives(std::vector<drive> replacement, std::string current) {
 const std::string& current_folder_override() { return current_override; }
 
 const drive* find_drive(char letter) {
-  if (!is_known) refresh_drives();
-  const auto at = std::find_if(known.begin(), known.end(),
-                               [letter](const drive& d) { return d.letter == letter; });
+  const auto is_named = [letter](const drive& d) { return d.letter == letter; };
+  const auto at = std::find_if(drives().begin(), drives().end(), is_named);
   return at == known.end() ? nullptr : &*at;
 }
 

@@ -43,11 +43,6 @@ bool is_drive_text(const std::string& path, char letter) {
 
 constexpr bool is_windows = fs::path::preferred_separator == '\\';
 
-[[noreturn]] void throw_colon_in_name(const std::string& path) {
-  throw file_error(file_error_number::bad_file_name, file_action::find, to_utf8(path),
-                   "it contains a name with a colon");
-}
-
 std::vector<std::string> names_of(const std::string& whole_path) {
   std::vector<std::string> names;
   append_names(names, std::string_view(whole_path).substr(2));
@@ -57,7 +52,10 @@ std::vector<std::string> names_of(const std::string& whole_path) {
 // On Windows a colon in a name would mean another drive or an alternate data stream.
 fs::path find_name(const fs::path& folder, const std::string& name, const std::string& whole,
                    case_insensitive_lookup& names) {
-  if (is_windows && name.find(':') != name.npos) throw_colon_in_name(whole);
+  if (is_windows && name.find(':') != name.npos) {
+    throw file_error(file_error_number::bad_file_name, file_action::find, to_utf8(whole),
+                     "it contains a name with a colon");
+  }
   return names.find(folder, name);
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 
 #include "data/data_error.h"
 #include "data/icon_file.h"
@@ -147,10 +148,8 @@ std::vector<picture> read_gif(std::string_view bytes, const std::u8string& shown
   int reason = 0;
   job.gif = DGifOpen(&job, read_bytes, &reason);
   if (job.gif == nullptr) fail(job, "it is not a GIF");
-  const struct closing {
-    GifFileType* gif;
-    ~closing() { DGifCloseFile(gif, nullptr); }
-  } at_end{job.gif};
+  const auto close = [](GifFileType* gif) { DGifCloseFile(gif, nullptr); };
+  const std::unique_ptr<GifFileType, decltype(close)> at_end(job.gif, close);
   read_all(job);
   return std::move(job.shows);
 }

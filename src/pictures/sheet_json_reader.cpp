@@ -82,12 +82,12 @@ sheet_layout layout_in(const json& all) {
 
 }  // namespace
 
-std::optional<sheet_layout> read_sheet_json(const std::string& text, const std::u8string& shown,
-                                            exported_icons& exported) {
-  return read_json(text, shown, [&exported](const json& all) -> std::optional<sheet_layout> {
+std::variant<sheet_layout, exported_icons> read_export_json(const std::string& text,
+                                                            const std::u8string& shown) {
+  using either = std::variant<sheet_layout, exported_icons>;
+  return read_json(text, shown, [](const json& all) -> either {
     if (all.is_object() && all.contains("frames")) return layout_in(all);
-    exported = icons_in(all);
-    return {};
+    return icons_in(all);
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "data/sheet_frame.h"
@@ -16,9 +17,9 @@ struct sheet_layout {
   std::optional<exported_icons> exported;  // if the JSON is of an export; `file` is the frame
 };
 
-// Returns null if the text is the JSON of an icon file, which `exported` is then set to. Throws
-// data_error, which names `shown`, if it is neither, or if a frame is rotated.
-std::optional<sheet_layout> read_sheet_json(const std::string& text, const std::u8string& shown,
-                                            exported_icons& exported);
+// Reads the JSON of a sheet or of an icon file. Throws data_error, which names `shown`, if it is
+// neither, or if a frame is rotated.
+std::variant<sheet_layout, exported_icons> read_export_json(const std::string& text,
+                                                            const std::u8string& shown);
 
 }  // namespace ostrane
