@@ -34,7 +34,9 @@ struct planning {
 std::string name_of(const fs::path& path) { return files::as_bytes(path.filename().u8string()); }
 std::string stem_of(const fs::path& path) { return files::as_bytes(path.stem().u8string()); }
 
-std::string key_of(const std::u8string& text) { return files::upper_case(files::as_bytes(text)); }
+std::string key_of(const fs::path& path) {
+  return files::upper_case(files::as_bytes(path.u8string()));
+}
 
 bool has_ending(const fs::path& path, const char* ending) {
   return files::lower_case(files::as_bytes(path.extension().u8string())) == ending;
@@ -159,8 +161,8 @@ std::optional<sheet_layout> layout_of_sheet(planning& job, const files::file_pat
     const auto read = read_export_json(read_bytes(job.file, json), u8"");
     if (const auto* found = std::get_if<sheet_layout>(&read)) layout = *found;
   });
-  const bool is_of_other = layout && !layout->image.empty() &&
-                           key_of(layout->image) != key_of(png.system.filename().u8string());
+  const bool is_of_other =
+      layout && !layout->image.empty() && key_of(layout->image) != key_of(png.system.filename());
   return is_of_other ? std::nullopt : layout;
 }
 
@@ -209,19 +211,16 @@ bool is_numbered(const std::string& name, const std::string& stem) {
 
 // Faults for the PNGs of the export that its JSON does not list. With several exports in the folder
 // the name tells which one a PNG belongs to. Sheets and palettes have files of their own.
-void add_faults_of_unlisted(planning& job, const std::vector<fs::path>& files,
-                            const fs::path& json) {
+void add_unlisted_faults(planning& job, const std::vector<fs::path>& files, const fs::path& json) {
   std::unordered_set<std::string> known;
-  for (const files::file_path& input : job.plan.inputs)
-    known.insert(key_of(input.system.u8string()));
+  for (const files::file_path& input : job.plan.inputs) known.insert(key_of(input.system));
   std::int64_t jsons = 0;
   for (const fs::path& file : files) {
     jsons += has_ending(file, ".json") ? 1 : 0;
-    if (!has_ending(file, ".gpl")) continue;
-    known.insert(key_of(fs::path(file).replace_extension(".png").u8string()));
+    if (has_ending(file, ".gpl")) known.insert(key_of(fs::path(file).replace_extension(".png")));
   }
   for (const fs::path& file : files) {
-    if (!has_ending(file, ".png") || known.contains(key_of(file.u8string()))) continue;
+    if (!has_ending(file, ".png") || known.contains(key_of(file))) continue;
     const std::string name = files::upper_case(name_of(file));
     if (stem_of(file).ends_with("-sheet") || (jsons > 1 && !is_numbered(name, stem_of(json)))) {
       continue;
@@ -251,7 +250,7 @@ void add_folder(planning& job, const std::string& folder) {
   const std::vector<fs::path> files = files_in(folder);
   if (const auto json = json_of_export(files, job.stem, folder)) {
     add_json(job, shown_as_named(*json));
-    add_faults_of_unlisted(job, files, *json);
+    add_unlisted_faults(job, files, *json);
     return;
   }
   for (const fs::path& file : files) {

@@ -85,6 +85,7 @@ void check_names(const archive_check& check) {
 }
 
 void check_offsets(const archive_check& check) {
+  const std::int64_t file_size = check.index.stamp.size;
   const std::int64_t after_index = index_size(std::ssize(check.index.records));
   for (std::size_t i = 0; i < entry_count(check); ++i) {
     const std::string name = shown_name(check, i);
@@ -92,14 +93,12 @@ void check_offsets(const archive_check& check) {
     const std::string offset = "its offset " + std::to_string(start);
     if (start < 0) check.report(name, offset + " is below 0");
     if (start >= 0 && start < after_index) check.report(name, offset + " is in the index");
-    if (start > check.index.stamp.size)
-      check.report(name, offset + " is after the end of the archive");
+    if (start > file_size) check.report(name, offset + " is after the end of the archive");
     if (size_of(check, i) < 0) {
       check.report(name, offset + " is out of order: the next one is " +
                              std::to_string(start_of(check, i + 1)));
-    } else if (start >= 0 && start <= check.index.stamp.size &&
-               start + size_of(check, i) > check.index.stamp.size) {
-      const std::int64_t excess = start + size_of(check, i) - check.index.stamp.size;
+    } else if (start >= 0 && start <= file_size && start + size_of(check, i) > file_size) {
+      const std::int64_t excess = start + size_of(check, i) - file_size;
       check.report(name, "it ends " + counted(excess, "byte") + " after the end of the archive");
     }
   }

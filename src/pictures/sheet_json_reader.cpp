@@ -82,10 +82,8 @@ sheet_layout layout_in(const json& all) {
 
 }  // namespace
 
-std::variant<sheet_layout, exported_icons> read_export_json(const std::string& text,
-                                                            const std::u8string& shown) {
-  using either = std::variant<sheet_layout, exported_icons>;
-  return read_json(text, shown, [](const json& all) -> either {
+export_json read_export_json(const std::string& text, const std::u8string& shown) {
+  return read_json(text, shown, [](const json& all) -> export_json {
     if (all.is_object() && all.contains("frames")) return layout_in(all);
     return icons_in(all);
   });

@@ -17,9 +17,10 @@ struct sheet_layout {
   std::optional<exported_icons> exported;  // if the JSON is of an export; `file` is the frame
 };
 
+using export_json = std::variant<sheet_layout, exported_icons>;
+
 // Reads the JSON of a sheet or of an icon file. Throws data_error, which names `shown`, if it is
 // neither, or if a frame is rotated.
-std::variant<sheet_layout, exported_icons> read_export_json(const std::string& text,
-                                                            const std::u8string& shown);
+export_json read_export_json(const std::string& text, const std::u8string& shown);
 
 }  // namespace ostrane
