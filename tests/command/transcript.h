@@ -130,7 +130,7 @@ struct transcript_test : command_test {
   }
 
   void replay(const std::string& name) const {
-    fs::copy_file(sample_archive, "sample.dat");
+    fs::copy_file(sample_archive, "sample.dat", fs::copy_options::overwrite_existing);
     const std::string golden = "\n" + bytes_of(transcript_folder / name);
     ASSERT_GT(golden.size(), 1U) << name;
     std::string all;
