@@ -160,6 +160,10 @@ struct transcript_test : command_test {
        })},
       {"replace", quiet(replace_bytes)},
       {"cut", quiet([](const texts& w) { fs::resize_file(w[0], std::stoul(w[1])); })},
+      {"append", quiet([](const texts& w) {
+         std::ofstream to(w[0], std::ios::app | std::ios::binary);
+         for (int left = std::stoi(w[1]); left > 0; --left) to << w[2];
+       })},
       {"link", quiet([](const texts& w) { fs::create_hard_link(w[0], w[1]); })},
       {"delete", quiet([](const texts& w) { fs::remove_all(w[0]); })},
       {"cat", shown},
