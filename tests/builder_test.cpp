@@ -6,38 +6,6 @@ const std::string success = "Your new Ostrane.dat has been created and saved in:
 
 using builder_test = tool_test;
 
-TEST_F(builder_test, WritesTheIndexAndTheFilesAndReplacesOldArchives) {
-  const std::pair<const char*, std::string> names[] = {
-      {" lead.txt", "LEAD.TXT"},
-      {"abcdefghi.shp", "ABCDEFGHI.SHP"},
-      {"bcdefghij.shpx", "BCDEFGHIJ.SHP"},
-      {"game.pal", "GAME.PAL"},
-      {"My file.shp", std::string("MY\0FILE.SHP", 11)},
-      {"_x", "_X"},
-      {"\xC3\xA9t\xC3\xA9", "\xC9T\xC9"}};
-  // Old archives in any case and leftovers of a build do not become entries, and are replaced.
-  file_map named = {{".hidden", "no entry"},
-                    {".OSTRANE.DAT.0123456789abcdef.new", "left"},
-                    {"oStrane.dat", "old"},
-                    {"ostrane.dat", "old"}};
-  std::vector<entry> entries;
-  for (const auto& [name, record] : names) {
-    entries.push_back({record, some_bytes(entries.size())});
-    named[name] = entries.back().bytes;
-  }
-  const std::pair<file_map, std::string> cases[] = {{{}, index_bytes(1, {{21, ""}})},
-                                                    {named, archive_bytes(entries)}};
-  for (const auto& [files, archive] : cases) {
-    restart_with(files);
-    for (const auto& [name, bytes] : files)
-      fs::permissions(disk_path("C:\\work\\" + name), fs::perms::owner_read);
-    build_in();
-    EXPECT_EQ(new_messages().back(), success + "C:\\work\\ostrane.dat");
-    EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive);
-    EXPECT_EQ(names_in("C:\\work").size(), files.empty() ? 1 : std::size(names) + 2);
-  }
-}
-
 // A build that fails leaves the old archive, the folder and the index in memory unchanged.
 TEST_F(builder_test, AFailedBuildChangesNothing) {
   const fs::path b = disk_path("C:\\work\\b.txt");

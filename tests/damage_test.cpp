@@ -1,4 +1,3 @@
-#include "data/archive_check.h"
 #include "icon_fixture.h"
 
 namespace ostrane {
@@ -75,24 +74,6 @@ TEST_F(damage_test, LimitsTheMessagesAboutBadIcons) {
       EXPECT_EQ(messages[i].ends_with("are refused without a message."), i == 20);
     }
   }
-}
-
-// D does not overlap with its neighbour C. The stream of the icon lacks two rows.
-TEST_F(damage_test, TheCheckNamesTheEntriesOfOverlapsAndCutStreams) {
-  const icon_head three_rows = plain_icon(3, 3, 0).head;
-  const std::string cut = shp_file(std::vector<shp_icon>{{three_rows, stream({6, 1, 0})}});
-  const auto end = 134 + static_cast<std::int32_t>(cut.size());
-  const std::string index =
-      index_bytes(6, {{106, "A"}, {126, "B"}, {114, "C"}, {118, "D"}, {134, "I.SHP"}, {end, ""}});
-  write("C:\\a.dat", index + std::string(28, ' ') + cut);
-  texts seen;
-  const auto add = [&](const std::string& name, const std::string& fault) {
-    seen.push_back(name + ": " + fault);
-  };
-  check_archive({disk_path("C:\\a.dat"), u8"a.dat"}, add, [](auto&&...) {});
-  EXPECT_EQ(seen, (texts{"B: its offset 126 is out of order: the next one is 114",
-                         "C: it overlaps with A", "D: it overlaps with A",
-                         "I.SHP: icon 1: its stream ends before row 2"}));
 }
 
 }  // namespace ostrane

@@ -134,19 +134,4 @@ TEST_F(extraction_test, WritesSafeNamesWithBlanksForNulsAndSkipsOthers) {
                                             "\n>..a<: its name begins with a dot"});
 }
 
-TEST_F(extraction_test, NeverWritesToTheOpenArchive) {
-  const std::vector<entry> entries = {
-      {"A.TXT", "a"}, {"OSTRANE.DAT", some_bytes(500)}, {"LINKED", "xyz"}, {"Z.TXT", "z"}};
-  open_archive(entries);
-  fs::create_hard_link(disk_path("C:\\ostrane.dat"), disk_path("C:\\linked"));
-  extract_into("C:\\");
-  const std::string bytes = archive_bytes(entries);
-  EXPECT_EQ(files_in("C:\\"),
-            (file_map{{"A.TXT", "a"}, {"Z.TXT", "z"}, {"linked", bytes}, {"ostrane.dat", bytes}}));
-  EXPECT_EQ(new_messages(),
-            texts{"2 of 4" + extracted + "C:\\" + skipped +
-                  "\n>OSTRANE.DAT<: its file cannot be written: it is the open archive"
-                  "\n>LINKED<: its file cannot be written: it is the open archive"});
-}
-
 }  // namespace ostrane

@@ -27,19 +27,6 @@ TEST_F(files_test, ResolvesPaths) {
   EXPECT_THROW(files::system_path("Q:\\x"), files::file_error);
 }
 
-// Patterns, names that match them, and names that do not.
-TEST_F(files_test, MatchesPatternsIgnoringCase) {
-  const std::tuple<const char*, texts, texts> cases[] = {
-      {"ostrane.dat", {"OSTRANE.DAT"}, {"ostrane.dat2"}},
-      {"*.txt", {"a.TXT", ".txt"}, {"a.txt.bak"}},
-      {"A?b*x*c", {"aXbXc"}, {"ac", "abxc"}},
-      {"*", {""}, {}}};
-  for (const auto& [pattern, good, bad] : cases) {
-    for (const auto& name : good) EXPECT_TRUE(files::matches_pattern(name, pattern)) << name;
-    for (const auto& name : bad) EXPECT_FALSE(files::matches_pattern(name, pattern)) << name;
-  }
-}
-
 // Blocks from the buffer and blocks that bypass it, each followed by steps to offsets inside and
 // outside the buffer, which is 262144 bytes long. The second time the system copies a half, then a
 // half of the rest, and then refuses.
