@@ -18,11 +18,6 @@ TEST_F(compare_test, WritesTheReportOfEachPairOfLists) {
   const std::string to_block_end(65532, 'X');
   const std::string two_blocks(70000, 'Y');
   const std::tuple<texts, std::string, std::string, texts> cases[] = {
-      {{"A.SHP", "B.SHP"}, "A.SHP\r\nB.SHP\r\n\r\n", "", {}},
-      {{"AAA.SHP", "BBB.SHP", "CCC.SHP"},
-       "AAA.SHP\r\nBBX.SHP\r\nCCC.SHP\r\nDDD.SHP\r\n\r\n",
-       counts("4", "5"),
-       {"    1 BBB.SHP", ship("BBX.SHP"), ship("DDD.SHP")}},
       {{"A", "C", "E"}, "B\r\nD\r\nE\r\n\r\n", "", {"    0 A", ship("B")}},
       {{"A", "B", "C"}, "A\r\nB\r\nC\r\n", counts("4", "3"), {"    2 C"}},
       {{"A", "B", "C"}, "c\r\nb\r\n a\r\nA\r\nC\r\n\r\n", "", {}},

@@ -1,6 +1,3 @@
-
-#include <cstring>
-
 #include "tool_fixture.h"
 
 namespace ostrane {
@@ -14,13 +11,10 @@ const std::string skipped = "\nThese entries were not extracted:";
 TEST_F(extraction_test, OverwritesFilesWithoutTruncatingThem) {
   write("D:\\long.txt", "0123456789");
   write("D:\\EMPTY", "kept");
-  open_archive({{"LONG.TXT", "abc"},
-                {"EMPTY", ""},
-                {"Twice", "first"},
-                {"TWICE", "2nd"},
-                {"tWICE", ""},
-                {".Dot", "1"},
-                {".DOT", "2"}});
+  const std::vector<entry> entries = {{"LONG.TXT", "abc"}, {"EMPTY", ""}, {"Twice", "first"},
+                                      {"TWICE", "2nd"},    {"tWICE", ""}, {".Dot", "1"},
+                                      {".DOT", "2"}};
+  open_archive(entries);
   extract_into("D:\\");
   EXPECT_EQ(
       files_in("D:\\"),

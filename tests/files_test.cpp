@@ -2,7 +2,6 @@
 #include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/paths.h"
-#include "files/text.h"
 #include "tool_fixture.h"
 
 namespace ostrane {

@@ -77,11 +77,9 @@ TEST_F(unusual_paths_test, AcceptsTheLongestNamesAndReportsSkippedAndEqualOnes) 
           "\nThese entries of the new Ostrane.dat have the name of another:\n>ab<: its entry has "
           "the same name as that of AB",
           "Your new Ostrane.dat has been created and saved in:" + folder + "\\ostrane.dat"}));
-  EXPECT_EQ(read(folder + "\\OSTRANE.DAT"), archive_bytes({{"AB", "AB"},
-                                                           {"AB", "ab"},
-                                                           {"NNNNNNNNNNNNN", "long"},
-                                                           {"OK", "ok"},
-                                                           {"RENAMED", "renamed"}}));
+  const std::vector<entry> entries = {
+      {"AB", "AB"}, {"AB", "ab"}, {"NNNNNNNNNNNNN", "long"}, {"OK", "ok"}, {"RENAMED", "renamed"}};
+  EXPECT_EQ(read(folder + "\\OSTRANE.DAT"), archive_bytes(entries));
 }
 
 TEST_F(unusual_paths_test, RefusesTooManyFiles) {

@@ -7,7 +7,6 @@
 #include "archive_bytes.h"
 #include "command/run_command.h"
 #include "disk.h"
-#include "failing_calls.h"
 
 namespace ostrane {
 
@@ -40,16 +39,6 @@ struct command_test : testing::Test {
     std::string errors = testing::internal::GetCapturedStderr();
     std::replace(errors.begin(), errors.end(), '\\', '/');
     return {status, std::move(output), std::move(errors)};
-  }
-  // Another program writes to a.dat after its index is read, before each of these calls.
-  static result run_beside_a_writer(const std::string& command_line,
-                                    const std::string& writes_before = "read_some") {
-    failing_calls watched;
-    watched.before_call = [&](const std::string& call) {
-      const auto count = std::count(watched.calls.begin(), watched.calls.end(), "open_to_read");
-      if (count > 1 && call == writes_before) std::ofstream("a.dat", std::ios::app) << "x";
-    };
-    return run(command_line);
   }
 
   const fs::path folder = make_temporary_folder();

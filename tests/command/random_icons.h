@@ -13,6 +13,7 @@ class random_icons {
  public:
   explicit random_icons(unsigned seed) : random_(seed) {}
 
+  bool makes_full_icons = true;   // with all 256 indices
   bool has_short_stream = false;  // one that reads on in what follows its icon
 
   int number(int from, int to) { return std::uniform_int_distribution(from, to)(random_); }
@@ -27,7 +28,7 @@ class random_icons {
     head.row_end = std::max(edge(head.no_of_rows), number(0, 9) == 0 ? -5 : head.row_start);
     head.spare = number(-9, 9);
     if (number(0, 20) == 0) head.col_end += 1;
-    if (number(0, 9) == 0) return full_icon();
+    if (makes_full_icons && number(0, 9) == 0) return full_icon();
     return {head, stream(head)};
   }
 

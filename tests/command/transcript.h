@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "command_fixture.h"
+#include "failing_calls.h"
 #include "files/code_page.h"
 #include "version/version.h"
 
@@ -65,14 +66,32 @@ struct transcript_test : command_test {
     }
     return lines;
   }
+  static std::string lines_of(const result& seen) {
+    const std::string output = lines_of(without_version(seen.output));
+    const std::string mark = "!" + std::to_string(seen.status);
+    if (seen.errors.empty() && seen.status != 0) return output + mark + "\n";
+    return output + lines_of(seen.errors, mark + " ");
+  }
+  // Another program writes to a.dat after its index is read, before each call that words[0] names.
+  static result run_beside_a_writer(const texts& words) {
+    failing_calls watched;
+    watched.before(words[0], [&watched] {
+      const auto count = std::count(watched.calls.begin(), watched.calls.end(), "open_to_read");
+      if (count > 1) std::ofstream("a.dat", std::ios::app) << "x";
+    });
+    return run_arguments({words.begin() + 1, words.end()});
+  }
   // NAME=TEXT or NAME=<FILE.
   static archive_entry entry_of(const std::string& word) {
     const std::string bytes = word.substr(word.find('=') + 1);
     return {word.substr(0, word.find('=')),
             bytes.starts_with('<') ? bytes_of(bytes.substr(1)) : bytes};
   }
-  static void put_file(const archive_entry& file) {
-    write_bytes(files::as_utf8(file.name), file.bytes);
+  static void put_files(const texts& words) {
+    for (const std::string& word : words) {
+      const archive_entry file = entry_of(word);
+      write_bytes(files::as_utf8(file.name), file.bytes);
+    }
   }
   static void make_archive(const texts& words) {
     std::vector<archive_entry> entries;
@@ -90,10 +109,8 @@ struct transcript_test : command_test {
   }
   static std::string without_version(std::string text) {
     const std::string_view old = version;
-    for (std::size_t at = 0; (at = text.find(old)) != std::string::npos;) {
-      text.replace(at, old.size(), "VERSION");
-    }
-    return text;
+    const std::size_t at = text.find(old);
+    return at == std::string::npos ? text : text.replace(at, old.size(), "VERSION");
   }
   // The first lines, and the checksum of a text that has more.
   static std::string shown(const texts& words) {
@@ -110,11 +127,7 @@ struct transcript_test : command_test {
     const std::string first = words.front();
     words.erase(words.begin());
     if (first != "ostrane-dat") return lines_of(verbs.at(first)(words));
-    const result seen = run_arguments(words);
-    const std::string output = lines_of(without_version(seen.output));
-    const std::string mark = "!" + std::to_string(seen.status);
-    if (seen.errors.empty() && seen.status != 0) return output + mark + "\n";
-    return output + lines_of(seen.errors, mark + " ");
+    return lines_of(run_arguments(words));
   }
   std::string answer(const std::string& line) const {
     std::string all;
@@ -155,9 +168,7 @@ struct transcript_test : command_test {
   }
   std::map<std::string, verb> verbs = {
       {"archive", quiet(make_archive)},
-      {"put", quiet([](const texts& w) {
-         for (const std::string& word : w) put_file(entry_of(word));
-       })},
+      {"put", quiet(put_files)},
       {"replace", quiet(replace_bytes)},
       {"cut", quiet([](const texts& w) { fs::resize_file(w[0], std::stoul(w[1])); })},
       {"append", quiet([](const texts& w) {
@@ -166,6 +177,7 @@ struct transcript_test : command_test {
        })},
       {"link", quiet([](const texts& w) { fs::create_hard_link(w[0], w[1]); })},
       {"delete", quiet([](const texts& w) { fs::remove_all(w[0]); })},
+      {"beside", [](const texts& w) { return lines_of(run_beside_a_writer(w)); }},
       {"cat", shown},
       {"ls", [](const texts& w) { return list_files(w[0]); }}};
 };
