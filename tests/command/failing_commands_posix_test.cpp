@@ -44,9 +44,11 @@ TEST_F(failing_commands_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
       const auto kind = failed.fault.kind;
       const bool says_why = kind == call_fault::does_nothing || says(failed.words);
       EXPECT_TRUE(is_done ? is_same : says_why) << after.seen.errors;
+      const bool says_made = says("The archive was made, but");
+      EXPECT_TRUE(!says_made || after.seen.status == 1);
       // An extraction looks at the archive once more after its last file.
       const bool is_told = kind == call_fault::fails && !job.starts_with("extract");
-      EXPECT_TRUE(!is_told || (is_done || says("The archive was made, but")) == is_same);
+      EXPECT_TRUE(!is_told || (is_done || says_made) == is_same);
     };
     tried += expect_old_or_new_files(
         ".", prepare,
