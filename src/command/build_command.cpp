@@ -52,8 +52,7 @@ void list_files(build_job& job) {
 }
 
 void write(build_job& job) {
-  files::binary_file output;
-  if (!open_stream(job.options.archive, output)) {
+  if (!is_stream(job.options.archive)) {
     write_changed(job.archive, job.target, {.is_only_spelling = job.options.archive.empty()});
     return;
   }
@@ -61,6 +60,8 @@ void write(build_job& job) {
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
   report_write(job.target.shown);
   if (is_dry_run()) return;
+  files::binary_file output;
+  open_stream(job.options.archive, output);
   write_archive_to(output, job.archive, shown_progress(count));
   output.close();
 }
@@ -74,9 +75,10 @@ std::vector<files::failure> faults_of(const build_job& job) {
     }
   });
   if (failed) {
-    faults.push_back({failed.subject, failed.reason +
-                                          " The archive was made, but the files that are not "
-                                          "in it could not be listed."});
+    const std::string made = is_dry_run() ? "would be made" : "was made";
+    faults.push_back({failed.subject, failed.reason + " The archive " + made +
+                                          ", but the files that are not in it could not be "
+                                          "listed."});
   }
   for (const skipped_file& entry : entries_of_equal_names(job.archive)) {
     faults.push_back({files::to_utf8(entry.name), entry.reason});

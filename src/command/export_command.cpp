@@ -14,7 +14,6 @@
 #include "data/palette.h"
 #include "files/code_page.h"
 #include "files/text.h"
-#include "files/work_files.h"
 #include "pictures/icon_exporter.h"
 #include "pictures/png_writer.h"
 
@@ -29,7 +28,7 @@ struct entries_export {
   files::binary_file& archive;
   export_output output;
   rgb_palette palette = {};
-  std::size_t skipped = 0;  // entries that are not exported or not completely
+  std::size_t skipped = 0;  // entries that were refused, or ended by an error
   int status = status_done;
 };
 
@@ -224,8 +223,7 @@ int export_entries(const export_options& options) {
                      }}};
   require_reasonable_size(count_cells(job, entries));
   require_separate_files(job, entries);
-  make_folder(options.folder);
-  files::clear_leftovers(path_of_argument(options.folder));
+  prepare_folder(options.folder);
   job.palette = read_game_colours(job.archive, index.records);
   for (const exported_entry& entry : entries) export_entry(job, entry);
   return job.skipped > 0 && job.skipped == entries.size() ? status_failed : job.status;

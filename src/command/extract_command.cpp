@@ -36,8 +36,7 @@ int status_of(const extraction_result& result) {
 }
 
 int extract_to_folder(extraction_job& job) {
-  make_folder(job.options.folder);
-  files::clear_leftovers(path_of_argument(job.options.folder));
+  prepare_folder(job.options.folder);
   files::case_insensitive_lookup names;
   const extraction_result result = extract_entries(
       job.archive, job.index.records,
@@ -78,8 +77,7 @@ int extract_to_output(extraction_job& job) {
       std::find(job.chosen.begin(), job.chosen.end(), true) - job.chosen.begin());
   require_other_file(output, path_of_argument(job.options.archive));
   whole_entry(job.index, entry);
-  begin_output(output);
-  if (is_dry_run()) return status_done;
+  if (!begin_output(output)) return status_done;
   files::binary_file to;
   if (open_stream(output, to)) {
     copy_entry(job, entry, to);

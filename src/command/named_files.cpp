@@ -11,6 +11,7 @@
 #include "files/file_error.h"
 #include "files/scratch_file.h"
 #include "files/text.h"
+#include "files/work_files.h"
 #include "files/written_path.h"
 
 namespace ostrane::command {
@@ -77,7 +78,7 @@ void require_folder(const std::string& argument) {
   files::fail(files::as_utf8(argument), files::file_action::open, reason == 0 ? -ENOENT : -reason);
 }
 
-void make_folder(const std::string& argument) {
+void prepare_folder(const std::string& argument) {
   const fs::path folder = path_of_argument(argument);
   std::error_code failed;
   std::error_code unknown;
@@ -86,6 +87,7 @@ void make_folder(const std::string& argument) {
     files::fail(files::as_utf8(argument), files::file_action::create, -files::errno_number(failed));
   }
   require_folder(argument);
+  if (!is_dry_run()) files::clear_leftovers(folder);
 }
 
 std::vector<bool> chosen_entries(std::span<const dat_record> records,

@@ -36,8 +36,9 @@ files::file_path file_in(const std::string& folder, const std::string& name,
 // Throws file_error or data_error if the folder does not exist or is not a folder.
 void require_folder(const std::string& argument);
 
-// Creates the folder and its parents if they do not exist. Throws like require_folder.
-void make_folder(const std::string& argument);
+// Prepares a folder for the files of a command: creates it and its parents if they do not exist,
+// and removes leftovers in it. Changes nothing in a dry run. Throws like require_folder.
+void prepare_folder(const std::string& argument);
 
 // Returns true for each entry whose name matches one of the arguments (patterns with "*" and "?",
 // case-insensitive), or for all entries if there are no arguments. Throws data_error if an argument

@@ -13,39 +13,41 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool is_output(const std::string& argument) {
+bool leads_to_standard_output(const std::string& argument) {
   return argument == "-" || is_standard_output(path_of_argument(argument));
-}
-
-bool is_stream(const std::string& argument) {
-  std::error_code failed;
-  const fs::file_type type = fs::status(path_of_argument(argument), failed).type();
-  return is_output(argument) || type == fs::file_type::fifo || type == fs::file_type::character;
 }
 
 }  // namespace
 
+bool is_stream(const std::string& argument) {
+  std::error_code failed;
+  const fs::file_type type = fs::status(path_of_argument(argument), failed).type();
+  return leads_to_standard_output(argument) || type == fs::file_type::fifo ||
+         type == fs::file_type::character;
+}
+
 bool open_stream(const std::string& argument, files::binary_file& file) {
   if (!is_stream(argument)) return false;
   flush_output();
-  file.prepare(argument == "-" ? u8"standard output" : files::as_utf8(argument));
-  const int opened =
-      is_output(argument) ? open_standard_output() : open_pipe(path_of_argument(argument));
-  if (opened < 0) files::fail(files::as_utf8(argument), files::file_action::write, opened);
+  const std::u8string shown = argument == "-" ? u8"standard output" : files::as_utf8(argument);
+  file.prepare(shown);
+  const int opened = leads_to_standard_output(argument) ? open_standard_output()
+                                                        : open_pipe(path_of_argument(argument));
+  if (opened < 0) files::fail(shown, files::file_action::write, opened);
   file.adopt(opened);
   return true;
 }
 
-void begin_output(const std::string& argument) {
+bool begin_output(const std::string& argument) {
   if (is_dry_run() && !is_stream(argument)) {
     files::require_writable(named_link_target(argument));
   }
   report_write(files::as_utf8(argument));
+  return !is_dry_run();
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {
-  begin_output(argument);
-  if (is_dry_run()) return;
+  if (!begin_output(argument)) return;
   files::binary_file file;
   if (open_stream(argument, file)) {
     file.write(std::as_bytes(std::span(bytes)));

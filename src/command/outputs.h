@@ -8,14 +8,17 @@
 // The files that a command writes, as arguments name them. "-" is standard output.
 namespace ostrane::command {
 
-// Opens an output that cannot be replaced: standard output under any name, a pipe or a character
-// device. A pipe waits for its reader. Returns false for any other output. Throws file_error, and
-// interruption.
+// True for an output that cannot be replaced: standard output under any name, a pipe or a character
+// device.
+bool is_stream(const std::string& argument);
+
+// Opens a stream. A pipe waits for its reader. Returns false for any other output. Throws
+// file_error, and interruption.
 bool open_stream(const std::string& argument, files::binary_file& file);
 
-// Call before an output is opened. Reports it, if the user wants that. In a dry run, throws
-// file_error if it could not be written.
-void begin_output(const std::string& argument);
+// Call before an output is opened. Reports it, if the user wants that. Returns false in a dry run,
+// and then throws file_error if it could not be written.
+bool begin_output(const std::string& argument);
 
 // Writes to a stream, or replaces a file durably. Throws the same.
 void write_result(const std::string& argument, std::string_view bytes);
