@@ -132,15 +132,16 @@ void check_icon(icon_file_check& check, std::size_t index) {
   check_stream(check, icon, head, at + std::int64_t{icon_head_size});
 }
 
-bool begins_inside(const icon_file& icons, std::int32_t position) {
-  return position > icons.start && position <= icons.end;
+// Also true for a position at the end of the file.
+bool points_into(const icon_file& icons, std::int32_t position) {
+  return position > icons.start && position - 1 <= icons.end;
 }
 
 // The bounds of the streams: a stream ends at the next icon or at the end of the file.
 std::vector<std::int32_t> starts_in(const icon_file& icons) {
   std::vector<std::int32_t> starts = {icons.end};
   for (const std::int32_t position : icons.positions) {
-    if (begins_inside(icons, position)) starts.push_back(position - 1);
+    if (points_into(icons, position)) starts.push_back(position - 1);
   }
   std::sort(starts.begin(), starts.end());
   return starts;
@@ -158,7 +159,7 @@ void check_icon_file(files::binary_file& file, std::int32_t start, std::int32_t 
   for (std::size_t i = 0; i < check.icons.positions.size(); ++i) {
     // Several directory entries may point to one icon.
     const std::int32_t position = check.icons.positions[i];
-    if (begins_inside(check.icons, position) && !checked.insert(position).second) continue;
+    if (points_into(check.icons, position) && !checked.insert(position).second) continue;
     if (check.bytes_left_to_read < 0) {
       report("its streams share too many bytes; from icon " + std::to_string(i + 1) +
              " on they were not checked");
