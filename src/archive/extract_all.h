@@ -8,8 +8,8 @@ namespace ostrane {
 // stop the job. The archive itself is never written to.
 //
 // The dialog stays if the job was stopped, wrote nothing or did not start. It does not start, with
-// a message, if the folder or the archive does not exist, or if the archive has changed since it
-// was read.
+// a message, if the folder or the archive does not exist, if the index puts entries before the
+// file, or if the archive has changed since it was read.
 void extract_all_entries();
 
 }  // namespace ostrane

@@ -35,7 +35,7 @@ entry_kind kind_of(const archive_index& index, std::size_t i) {
 descriptions read_descriptions(const std::string& icon_names) {
   descriptions found;
   const files::file_path chosen =
-      icon_names.empty() ? icon_names_in(files::program_folder()) : named_input(icon_names);
+      icon_names.empty() ? icon_names_file_in(files::program_folder()) : named_input(icon_names);
   // Only the installed file may be missing.
   if (!icon_names.empty()) files::binary_file().open_to_read(chosen);
   const auto rows = read_icon_names(chosen);

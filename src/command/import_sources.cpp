@@ -158,8 +158,8 @@ std::optional<sheet_layout> layout_of_sheet(planning& job, const files::file_pat
                                             const files::file_path& json) {
   std::optional<sheet_layout> layout;
   files::ignore_failure([&] {
-    const auto read = read_export_json(read_bytes(job.file, json), u8"");
-    if (const auto* found = std::get_if<sheet_layout>(&read)) layout = *found;
+    auto read = read_export_json(read_bytes(job.file, json), u8"");
+    if (auto* found = std::get_if<sheet_layout>(&read)) layout = std::move(*found);
   });
   const bool is_of_other =
       layout && !layout->image.empty() && key_of(layout->image) != key_of(png.system.filename());

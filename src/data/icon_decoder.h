@@ -74,10 +74,7 @@ class icon_decoder {
     for (std::int32_t left = stream_.run_length; left > 0;) {
       if (buffered_bytes(stream_) == 0) refill_read_buffer(stream_, file_);
       const std::int32_t count = std::min(left, buffered_bytes(stream_));
-      if (count == 0) {
-        take_stream_byte(stream_, file_);
-        return;
-      }
+      if (count == 0) return take_stream_byte(stream_, file_);  // ends the stream
       paint_buffered_literals(count);
       left -= count;
     }

@@ -31,7 +31,7 @@ std::vector<icon_name_pair> read_icon_names(const files::file_path& path) {
   return rows;
 }
 
-files::file_path icon_names_in(const std::filesystem::path& folder) {
+files::file_path icon_names_file_in(const std::filesystem::path& folder) {
   return {files::case_insensitive_lookup().find(folder, "iconlist.csv"), u8"iconlist.csv"};
 }
 

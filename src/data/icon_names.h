@@ -22,8 +22,8 @@ struct icon_name_pair {
 // rows before it are returned.
 std::vector<icon_name_pair> read_icon_names(const files::file_path& path);
 
-// The file of the names in the program's folder, in any case.
-files::file_path icon_names_in(const std::filesystem::path& folder);
+// Returns the path of the file in a folder, in any case.
+files::file_path icon_names_file_in(const std::filesystem::path& folder);
 
 // Returns the lookup key of an entry: the compare_key of its name up to the first ".", or "".
 std::string icon_name_key(std::string_view entry_name);

@@ -29,8 +29,8 @@ sheet empty_sheet_for(const std::vector<picture>& pictures) {
 
 }  // namespace
 
-picture picture_of(const picture& sheet, const sheet_frame& frame) {
-  if (frame.x + frame.width > sheet.columns() || frame.y + frame.height > sheet.rows() ||
+picture picture_of(const picture& whole, const sheet_frame& frame) {
+  if (frame.x + frame.width > whole.columns() || frame.y + frame.height > whole.rows() ||
       frame.left + frame.width > frame.columns || frame.top + frame.height > frame.rows ||
       frame.columns < 1 || frame.rows < 1) {
     throw data_error("its frame " + files::from_utf8_lossy(frame.name) + " is outside the picture");
@@ -38,20 +38,20 @@ picture picture_of(const picture& sheet, const sheet_frame& frame) {
   picture drawn(frame.columns, frame.rows);
   for (int row = 0; row < frame.height; ++row) {
     const auto from =
-        sheet.row(frame.y + row)
+        whole.row(frame.y + row)
             .subspan(static_cast<std::size_t>(frame.x), static_cast<std::size_t>(frame.width));
     std::copy(from.begin(), from.end(), drawn.row(frame.top + row).begin() + frame.left);
   }
   return drawn;
 }
 
-std::vector<sheet_frame> frames_of_grid(const picture& sheet, int columns, int rows) {
-  if (sheet.columns() % columns != 0 || sheet.rows() % rows != 0) {
-    throw data_error("its " + std::to_string(sheet.columns()) + " by " +
-                     std::to_string(sheet.rows()) + " pixels are no multiples of the grid");
+std::vector<sheet_frame> frames_of_grid(const picture& whole, int columns, int rows) {
+  if (whole.columns() % columns != 0 || whole.rows() % rows != 0) {
+    throw data_error("its " + std::to_string(whole.columns()) + " by " +
+                     std::to_string(whole.rows()) + " pixels are no multiples of the grid");
   }
-  const int width = sheet.columns() / columns;
-  const int height = sheet.rows() / rows;
+  const int width = whole.columns() / columns;
+  const int height = whole.rows() / rows;
   std::vector<sheet_frame> frames;
   frames.reserve(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows));
   for (int i = 0; i < columns * rows; ++i) {

@@ -22,10 +22,10 @@ struct sheet_frame {
 };
 
 // Cuts a picture out of a sheet. Throws data_error if the frame is not inside both.
-picture picture_of(const picture& sheet, const sheet_frame& frame);
+picture picture_of(const picture& whole, const sheet_frame& frame);
 
 // The frames of a grid of equal cells, row by row. Throws data_error if the sides are no multiples.
-std::vector<sheet_frame> frames_of_grid(const picture& sheet, int columns, int rows);
+std::vector<sheet_frame> frames_of_grid(const picture& whole, int columns, int rows);
 
 // Returns a picture from a grid, whose cells are as large as the largest icon, in the size of an
 // icon if no set cell is lost.

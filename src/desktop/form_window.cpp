@@ -97,8 +97,6 @@ form_window::form_window(forms_layer::form& shown, views& all_views)
   add_keys();
   setAcceptDrops(static_cast<bool>(form.TakesDrop));
   for (forms_layer::timer* timer : form.timers) sync_timer(*timer);
-  // Loads the fonts, so that the first frame follows the window at once.
-  grab();
 }
 
 int form_window::menu_height() const {

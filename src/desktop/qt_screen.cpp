@@ -31,11 +31,11 @@ constexpr auto window_delay = 100ms;
 
 // Wayland gives the focus also to a window that a dialog blocks. Qt then asks for the focus of that
 // window, so the dialog must ask later.
-void pass_on(const QWindow* focused, window_stack& windows, QObject& screen) {
+void pass_on_focus(const QWindow* focused, window_stack& windows, QObject& context) {
   const QWidget* widget = focused == nullptr ? nullptr : QWidget::find(focused->winId());
   const auto* window = dynamic_cast<const form_window*>(widget);
   if (window == nullptr) return;
-  QTimer::singleShot(0, &screen, [&windows, is_barred = !window->form.Enabled()] {
+  QTimer::singleShot(0, &context, [&windows, is_barred = !window->form.Enabled()] {
     if (QWidget* dialog = QApplication::activeModalWidget()) {
       dialog->activateWindow();
     } else if (is_barred && !forms_layer::handler_running()) {
@@ -50,12 +50,12 @@ qt_screen::qt_screen() {
   qApp->installEventFilter(&filter_);
   filter_.on_barred_press = [this] { windows_.bring_up_topmost(); };
   QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &filter_,
-                   [this](const QWindow* focused) { pass_on(focused, windows_, filter_); });
+                   [this](const QWindow* focused) { pass_on_focus(focused, windows_, filter_); });
   // Without GLib a turn handles posted events after `awake` and then waits.
   for (const auto signal :
        {&QAbstractEventDispatcher::awake, &QAbstractEventDispatcher::aboutToBlock}) {
     QObject::connect(QAbstractEventDispatcher::instance(), signal, &filter_,
-                     [this] { sync_between_handlers(); });
+                     [this] { settle_between_handlers(); });
   }
 }
 
@@ -130,14 +130,14 @@ void qt_screen::copy_picture(const forms_layer::picture_box& shown) {
 void qt_screen::end_process() { QApplication::exit(EXIT_SUCCESS); }
 
 // The event loop also runs during a handler, for a frame or a dialog.
-void qt_screen::sync_between_handlers() {
+void qt_screen::settle_between_handlers() {
   if (forms_layer::handler_running()) return;
   try {
     sync();
     windows_.give_focus();
     held_keys_.deliver();
   } catch (const std::bad_alloc&) {
-    // The next sync shows these changes.
+    // The next turn of the event loop does the rest.
   }
 }
 

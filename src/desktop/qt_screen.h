@@ -45,7 +45,7 @@ class qt_screen : public forms_layer::screen {
   std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
 
  private:
-  void sync_between_handlers();
+  void settle_between_handlers();
   void sync();
   void show_frame_if_due();
 

@@ -37,7 +37,10 @@ void window_stack::sync() {
 
 void window_stack::show_window(forms_layer::form& shown) {
   std::unique_ptr<form_window>& made = windows_[&shown];
-  if (made == nullptr) made = std::make_unique<form_window>(shown, views_);
+  if (made == nullptr) {
+    made = std::make_unique<form_window>(shown, views_);
+    made->grab();  // loads the fonts, so that the first frame follows the window at once
+  }
   form_window& window = *made;
   if (window.isVisible()) return;
   form_window* owner = topmost(&shown);

@@ -171,6 +171,7 @@ void binary_file::truncate() {
   if (status < 0) fail(file_action::write, status);
 }
 
+// After a failure the file can only be closed, or prepared for another one.
 void binary_file::write_to_system(std::span<const std::byte> from) {
   write_all(file_, from, path_);
   buffer_start_ += static_cast<std::int64_t>(from.size());

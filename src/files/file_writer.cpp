@@ -35,7 +35,7 @@ std::string upper_case_name(const fs::path::string_type& system_name) {
   throw file_error(number, file_action::write, target.shown, reason);
 }
 
-// A file that nobody may write to, other than one that only this user must not.
+// A file that nobody may write to is read-only; one that only this user must not is refused.
 [[noreturn]] void fail_to_open(const file_path& target, file_action action, int status) {
   std::error_code failed;
   const fs::perms allowed = fs::status(for_system(target.system), failed).permissions();

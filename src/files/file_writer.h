@@ -35,7 +35,8 @@ struct write_rules {
 class file_writer {
  public:
   // Opens `file` to write `target`. In place the system refuses a file that may not be written,
-  // otherwise require_writable does.
+  // otherwise the rule of require_writable does. In the mode durable, removes the leftovers in its
+  // folder.
   file_writer(binary_file& file, file_path target, const write_rules& rules = {});
   file_writer(const file_writer&) = delete;
   file_writer& operator=(const file_writer&) = delete;

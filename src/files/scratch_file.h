@@ -11,7 +11,7 @@ int open_scratch(std::filesystem::path& path);
 // A temporary file. It stays until the process ends, as its path is passed on.
 class scratch_file {
  public:
-  // Messages show `shown`. Throws file_error.
+  // `path()` shows `shown`. Throws file_error.
   explicit scratch_file(const std::u8string& shown);
 
   // Writes from the first byte again. The file keeps its size: some file systems write to the disk

@@ -15,7 +15,7 @@ void drive_list::set_drive(const std::string& text) {
   if (Change) Change();
 }
 
-void drive_list::about_to_show() {
+void drive_list::reload() {
   files::refresh_drives();
   rows_.clear();
   for (const files::drive& found : files::drives()) rows_.push_back(files::drive_text(found));

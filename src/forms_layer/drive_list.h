@@ -21,8 +21,8 @@ class drive_list : public row_list {
   event Change;
 
   // Reloads the drives. If none is selected, selects that of the current folder of the process.
-  void about_to_show() override;
-  void reload() override { about_to_show(); }
+  void reload() override;
+  void about_to_show() override { reload(); }
 
  private:
   void select_row_of_drive();

@@ -37,7 +37,7 @@ struct running_guard {
 constexpr std::size_t reserve_size = 1U << 20U;  // bytes
 std::unique_ptr<char[]> reserve;
 
-void report_out_of_memory() {
+void handle_out_of_memory() {
   reserve.reset();
   if (application.OutOfMemory) application.OutOfMemory();
   message_box(files::out_of_memory_text);
@@ -50,7 +50,7 @@ void run_one(const std::function<void()>& handler) {
     try {
       handler();
     } catch (const std::bad_alloc&) {
-      report_out_of_memory();
+      handle_out_of_memory();
     } catch (const files::error& failed) {
       message_box(files::sentence_of(failed.told));
     } catch (const std::exception& failed) {
@@ -89,9 +89,6 @@ bool handler_running() { return running; }
 
 std::chrono::steady_clock::time_point handler_began() { return began; }
 
-void clear_events() {
-  queue.clear();
-  running = false;
-}
+void clear_events() { queue.clear(); }
 
 }  // namespace forms_layer

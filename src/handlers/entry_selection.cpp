@@ -26,11 +26,6 @@ void report_unknown_kind(const std::string& row) {
   forms_layer::message_box("This is not a shp image, I haven't got to display this yet... " + row);
 }
 
-void draw_first_series() {
-  show_shp_series();
-  Form1.Command5.Enabled = true;
-}
-
 void add_description(const std::string& row) {
   const std::size_t found = find_icon_name(tool_state.icon_names, row);
   if (found == 0) return;
@@ -50,7 +45,8 @@ void show_clicked_entry() {
     case entry_kind::icons:
       Form1.Text2.Text = "";
       clear_slots_for_icons();
-      draw_first_series();
+      show_shp_series();
+      Form1.Command5.Enabled = true;
       break;
     case entry_kind::palette:
       show_palette_view();
@@ -78,7 +74,8 @@ void show_double_clicked_entry() {
   const std::int32_t last =
       std::min<std::int32_t>(tool_state.shp_head.icon_count, tool_state.slots_loaded);
   for (std::int32_t slot = 1; slot <= last; ++slot) shrink_slot(slot);
-  draw_first_series();
+  show_shp_series();
+  Form1.Command5.Enabled = true;
 }
 
 }  // namespace ostrane

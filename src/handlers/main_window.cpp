@@ -65,7 +65,7 @@ void load_form1() {
   set_form2_to_drive_c();
   Form1.Text4.Text = default_interval_text;
   set_default_palette();
-  tool_state.icon_names = read_icon_names(icon_names_in(tool_state.app_path));
+  tool_state.icon_names = read_icon_names(icon_names_file_in(tool_state.app_path));
   load_first_slots();
   tool_state.twips_per_pixel_x = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelX);
   tool_state.twips_per_pixel_y = static_cast<std::int16_t>(forms_layer::application.TwipsPerPixelY);

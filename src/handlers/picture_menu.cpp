@@ -98,6 +98,7 @@ bool shows_icon(std::int32_t slot) {
 
 void prepare_picture_menu(std::int32_t slot) {
   tool_state.menu_target = slot;
+  if (tool_state.export_icons == nullptr) Form1.mnu_picture.items = {&Form1.mnu_copy_picture};
   const bool can_be_saved = icons_are_from_open_archive() && tool_state.export_icons != nullptr;
   Form1.mnu_save_picture.Enabled = can_be_saved;
   Form1.mnu_save_series.Enabled = can_be_saved;

@@ -61,7 +61,6 @@ void wire_context_menus() {
   Form1.mnu_copy_picture.Click = copy_picture;
   Form1.mnu_save_picture.Click = save_picture;
   Form1.mnu_save_series.Click = save_series;
-  if (tool_state.export_icons == nullptr) Form1.mnu_picture.items = {&Form1.mnu_copy_picture};
   Form1.List1.ContextMenu = &Form1.mnu_entry;
   Form1.mnu_entry.OpensOn = has_entry_menu;
   Form1.mnu_entry.Popup = prepare_entry_menu;

@@ -18,8 +18,8 @@ bool motion_is_looping();
 // Stops `Timer1`. `Command3` and `Command4` can step again.
 void end_motion();
 
-// Tick of `Timer1`, which the screen keeps: shows the next slot of the stack; after the last one
-// stops the timer.
+// Tick of `Timer1`: shows the next slot of the stack; after the last one stops the timer, or begins
+// again.
 void step_motion();
 
 // Show the previous or the next slot of the stack, once a motion was started.
