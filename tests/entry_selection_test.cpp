@@ -135,6 +135,8 @@ TEST_F(entry_selection_test, FindsRowsByNameAndDescription) {
   EXPECT_EQ(entry_tool_tip(1), "N.TXT: 4 bytes at 1113, text");
   EXPECT_EQ(entry_tool_tip(2).substr(0, 7) + entry_tool_tip(2).substr(26), "F1.SHP:icons, 2 icons");
   EXPECT_EQ(entry_tool_tip(4) + entry_tool_tip(-1), "");
+  open_archive({{"E.SHP", ""}, {"F.SHP", dots(1)}});
+  EXPECT_EQ(entry_tool_tip(0), "E.SHP: 0 bytes at 55, icons") << "has no head";
 }
 
 }  // namespace ostrane

@@ -21,7 +21,7 @@ namespace ostrane {
 namespace {
 
 // Rows by the key of an entry's name.
-std::unordered_map<std::string, std::size_t> descriptions() {
+std::unordered_map<std::string, std::size_t> description_rows() {
   std::unordered_map<std::string, std::size_t> rows;
   for (std::size_t i = 1; i < tool_state.icon_names.size(); ++i) {
     rows.emplace(files::compare_key(tool_state.icon_names[i].name), i);
@@ -30,14 +30,15 @@ std::unordered_map<std::string, std::size_t> descriptions() {
 }
 
 // Nothing if the head of the icon file cannot be read.
-std::optional<std::int32_t> icon_count(std::int32_t offset) {
+std::optional<std::int32_t> icon_count(const entry_range& range) {
   std::optional<std::int32_t> count;
+  if (range.size() < std::int64_t{shp_head_size}) return count;
   files::ignore_failure([&] {
     files::binary_file archive;
     shp_head head = {};
     open_unchanged(archive, files::to_file_path(tool_state.archive_path_copy),
                    tool_state.archive_stamp);
-    if (read_shp_head(archive, offset, head)) count = std::max(head.icon_count, 0);
+    if (read_shp_head(archive, range.start, head)) count = std::max(head.icon_count, 0);
   });
   return count;
 }
@@ -48,7 +49,7 @@ std::vector<std::int32_t> rows_with(const std::string& text) {
   std::vector<std::int32_t> found;
   const std::string wanted = files::upper_case(text);
   if (wanted.empty()) return found;
-  const auto known = descriptions();
+  const auto known = description_rows();
   for (std::int32_t row = 0; row < Form1.List1.ListCount(); ++row) {
     const std::string& name = Form1.List1.List(row);
     std::string searched = name;
@@ -66,7 +67,7 @@ std::string entry_tool_tip(std::int32_t row) {
   if (tool_state.archive_is_open == flag_false || !is_entry) return "";
   const entry_range range = range_of(index_records(), row);
   const entry_kind kind = kind_of_entry(Form1.List1.List(row));
-  const auto icons = kind == entry_kind::icons ? icon_count(range.start) : std::nullopt;
+  const auto icons = kind == entry_kind::icons ? icon_count(range) : std::nullopt;
   return entry_name(row) + ": " + counted(size_of(range), "byte") + " at " +
          std::to_string(range.start) + ", " + text_of(kind) +
          (icons ? ", " + counted(*icons, "icon") : "");
