@@ -22,7 +22,7 @@ void compare_with_shuffled_shiplist(benchmark::State& state) {
   bench::write_archive(folder, entries);
   bench::start_tool_on(folder);
   bench::open_archive("C:\\");
-  for (auto _ : state) bench::compare_with("C:\\", "ships.txt");
+  for (auto _ : state) bench::run_comparison("C:\\", "ships.txt");
   bench::expect_success();
 }
 BENCHMARK(compare_with_shuffled_shiplist)->Unit(benchmark::kMicrosecond);

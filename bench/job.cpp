@@ -17,7 +17,7 @@ using namespace ostrane;
 
 void run(const std::string& job, const std::string& path) {
   if (job == "index") bench::open_archive(path);
-  if (job == "compare") bench::compare_with(path, "shiplist.txt");
+  if (job == "compare") bench::run_comparison(path, "shiplist.txt");
   if (job == "extract") bench::extract_into(path + "\\out");
   if (job == "build") bench::build_from(path);
 }

@@ -39,7 +39,7 @@ void build_from(const std::string& folder) {
   user::click(Form5.Command1);
 }
 
-void compare_with(const std::string& folder, const std::string& file_name) {
+void run_comparison(const std::string& folder, const std::string& file_name) {
   user::click(Form1.mnu_read_filelist);
   forms_layer::run_event([&] {
     Form6.Dir1.Path = folder;

@@ -12,7 +12,7 @@ void start_tool_on(const std::filesystem::path& folder);
 void open_archive(const std::string& folder);
 void extract_into(const std::string& folder);
 void build_from(const std::string& folder);
-void compare_with(const std::string& folder, const std::string& file_name);
+void run_comparison(const std::string& folder, const std::string& file_name);
 // Sizes are in pixels. `max_icons` limits a series.
 void resize_window(int width, int height, int max_icons);
 

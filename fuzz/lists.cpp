@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::check(new_messages().empty(), "the archive is good");
   user::click(Form1.mnu_save);
   click_rows(parts[0]);
-  compare_with("C:\\lists", "ships.txt");
+  run_comparison("C:\\lists", "ships.txt");
   const auto ends_line = [](char c) { return c == '\r' || c == '\n'; };
   const bool can_be_long = std::count_if(parts[1].begin(), parts[1].end(), ends_line) >= 32768;
   fuzz::check(!Form6.Visible() || can_be_long, "lists can be compared");

@@ -67,12 +67,12 @@ TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
   open_names({"A"});
   open_archive("C:\\program");
   user::click(Form1.mnu_save);
-  compare_with("D:\\", "many.txt");
+  run_comparison("D:\\", "many.txt");
   user::click(Form6.Command2);
   open_names({"A"});
-  compare_with("D:\\", "  ");
+  run_comparison("D:\\", "  ");
   user::click(Form6.Command2);
-  compare_with("D:\\", " many.txt ");
+  run_comparison("D:\\", " many.txt ");
   EXPECT_EQ(new_messages(),
             (texts{"C:\\program\\ostrane.dat is not found",
                    "A list of all files in ostrane.dat are saved in shplist.txt",

@@ -63,7 +63,7 @@ TEST_F(formats_test, TheDocumentedExamplesAreReadAndWritten) {
   user::click(Form1.mnu_save);
   EXPECT_EQ(read("D:\\lists\\shplist.txt"), block("saved"));
   write("D:\\list.txt", block("shiplist"));
-  compare_with("D:\\", "list.txt");
+  run_comparison("D:\\", "list.txt");
   EXPECT_EQ(read("C:\\Shiplist-compare.txt"), block("report"));
 }
 

@@ -157,9 +157,9 @@ TEST_F(from_outside_test, TheDialogFindsTheArchive) {
     EXPECT_EQ(Form2.Dir1.Path(), "C:\\") << "not the first time";
     std::int32_t row = 0;
     while (Form2.Dir1.List(row) != "with") ++row;
-    user::confirm_folder(Form2.Dir1, row);
+    user::enter_folder(Form2.Dir1, row);
     EXPECT_TRUE(Form2.Visible());
-    user::confirm_folder(Form2.Dir1, Form2.Dir1.open_row());
+    user::enter_folder(Form2.Dir1, Form2.Dir1.open_row());
     EXPECT_FALSE(Form2.Visible());
     EXPECT_EQ(Form1.Text1.Text(), "1");
   }

@@ -92,7 +92,7 @@ inline void choose_shiplist(const std::string& folder, const std::string& name) 
   Form6.Dir1.Path = folder;
   Form6.Text1.Text = name;
 }
-inline void compare_with(const std::string& folder, const std::string& name) {
+inline void run_comparison(const std::string& folder, const std::string& name) {
   choose_shiplist(folder, name);
   user::click(Form6.Command1);
 }

@@ -24,7 +24,7 @@ struct build_job {
 
 // An archive does not contain itself. The game finds its archive under each spelling; another name
 // means the file that it leads to.
-bool is_target(const build_job& job, const std::string& name, const fs::path& path) {
+bool is_left_out(const build_job& job, const std::string& name, const fs::path& path) {
   const std::string& named = job.options.archive;
   return is_archive_name(name) || (!named.empty() && is_same_file(named, path));
 }
@@ -40,10 +40,10 @@ void require_archive(const build_job& job, const fs::path& path) {
   if (!is_sound(index)) require_other_file(job.options.archive, path);
 }
 
-void list_files(build_job& job) {
+void collect_entries(build_job& job) {
   for (const std::string& name : files::files_in(job.folder)) {
     const fs::path path = job.folder.system / files::system_name(name);
-    if (!is_target(job, name, path)) {
+    if (!is_left_out(job, name, path)) {
       job.archive.entries.push_back(source_of_file(name, shown_as_named(path)));
     } else if (!is_archive_name(name)) {
       require_archive(job, path);
@@ -58,8 +58,7 @@ void write(build_job& job) {
   }
   const std::size_t count = job.archive.entries.size();
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
-  report_write(job.target.shown);
-  if (is_dry_run()) return;
+  if (!begin_output(job.options.archive)) return;
   files::binary_file output;
   open_stream(job.options.archive, output);
   write_archive_to(output, job.archive, shown_progress(count));
@@ -70,7 +69,7 @@ std::vector<files::failure> faults_of(const build_job& job) {
   std::vector<files::failure> faults;
   const files::failure failed = files::failure_in([&] {
     for (const auto& file : files::unlisted_files_in(job.folder, file_paths(job.archive))) {
-      if (is_target(job, file.name, file.path)) continue;
+      if (is_left_out(job, file.name, file.path)) continue;
       faults.push_back({files::to_utf8(file.name), std::string("skipped: ") + file.reason});
     }
   });
@@ -93,7 +92,7 @@ int build(const build_options& options) {
   build_job job = {.options = options, .folder = named_file(options.folder), .target = {}};
   job.target = options.archive.empty() ? shown_as_named(job.folder.system / archive_name)
                                        : named_link_target(options.archive);
-  list_files(job);
+  collect_entries(job);
   write(job);
   const std::vector<files::failure> faults = faults_of(job);
   for (const files::failure& fault : faults) print_error(fault);

@@ -39,7 +39,7 @@ int compare(const compare_options& options) {
   shiplist_comparison shiplist;
   read_shiplist(named_input(options.shiplist), shiplist);
   sort_shiplist(shiplist);
-  const compare_report report = compare_with(shiplist, names);
+  const compare_report report = run_comparison(shiplist, names);
   write_report(options.report, report.lines);
   return report.differs ? status_differs : status_done;
 }

@@ -32,13 +32,16 @@ entry_kind kind_of(const archive_index& index, std::size_t i) {
 
 }  // namespace
 
-descriptions read_descriptions(const std::string& icon_names) {
+files::file_path icon_names_file(const std::string& argument) {
+  if (argument.empty()) return icon_names_file_in(files::program_folder());
+  files::file_path named = named_input(argument);
+  files::binary_file().open_to_read(named);  // only the installed file may be missing
+  return named;
+}
+
+descriptions read_descriptions(const files::file_path& icon_names) {
   descriptions found;
-  const files::file_path chosen =
-      icon_names.empty() ? icon_names_file_in(files::program_folder()) : named_input(icon_names);
-  // Only the installed file may be missing.
-  if (!icon_names.empty()) files::binary_file().open_to_read(chosen);
-  const auto rows = read_icon_names(chosen);
+  const auto rows = read_icon_names(icon_names);
   for (const icon_name_pair& row : rows) {
     if (&row == rows.data()) continue;  // row 0 is unused
     // The first row of a name wins.

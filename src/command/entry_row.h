@@ -25,8 +25,12 @@ struct entry_row {
 // By icon_name_key.
 using descriptions = std::unordered_map<std::string, std::u8string>;
 
-// Reads the descriptions of a CSV file; "" is the installed one, which may be missing.
-descriptions read_descriptions(const std::string& icon_names);
+// Returns the CSV file of descriptions that an argument names; "" is the installed one. Throws
+// file_error if a named file cannot be opened.
+files::file_path icon_names_file(const std::string& argument);
+
+// Reads the descriptions of a CSV file, which may be missing.
+descriptions read_descriptions(const files::file_path& icon_names);
 
 // The name of entry `i`, which is all that a short list shows.
 std::u8string shown_name(const archive_index& index, std::size_t i);

@@ -67,7 +67,7 @@ void export_icons(entries_export& job, const exported_entry& entry) {
        .stem = entry.stem,
        .pace = options.pace,
        .scale = options.scale,
-       .on_skipped = [&](const std::string& reason) { report_fault(job, entry, reason); },
+       .on_fault = [&](const std::string& reason) { report_fault(job, entry, reason); },
        .on_icon = [&](std::size_t number,
                       std::size_t count) { show_progress(number, count, entry.name); }});
 }

@@ -98,7 +98,7 @@ void require_separate_output(const import_options& options, const import_plan& p
   }
 }
 
-std::unique_ptr<old_icons> icons_of_file(const std::string& argument, files::binary_file& file) {
+std::unique_ptr<old_icons> open_icon_file(const std::string& argument, files::binary_file& file) {
   const files::file_path path = named_input(argument);
   file.open_to_read(path);
   if (file.size() < std::int64_t{shp_head_size}) {
@@ -122,9 +122,9 @@ std::unique_ptr<old_icons> icons_of_entry(game_file& game, const std::u8string& 
 
 // The old cells are those of --like, or of the entry that the JSON names in the archive of
 // --palette.
-std::unique_ptr<old_icons> find_old_icons(const import_options& options, const import_plan& plan,
+std::unique_ptr<old_icons> open_old_icons(const import_options& options, const import_plan& plan,
                                           game_file& game, files::binary_file& like) {
-  if (!options.like.empty()) return icons_of_file(options.like, like);
+  if (!options.like.empty()) return open_icon_file(options.like, like);
   return icons_of_entry(game, plan.entry);
 }
 
@@ -161,7 +161,7 @@ int import_pictures(const import_options& options) {
   import_plan plan = make_plan(options, colours);
   require_separate_output(options, plan);
   files::binary_file like;
-  const std::unique_ptr<old_icons> old = find_old_icons(options, plan, game, like);
+  const std::unique_ptr<old_icons> old = open_old_icons(options, plan, game, like);
   if (!options.like.empty()) keep_layout(plan, old->file(), old->icons());
   remove_empty_end(plan);
   if (plan.icons.empty()) {

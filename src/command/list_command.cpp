@@ -23,17 +23,17 @@ struct listing {
   bool names_archives() const { return options.archives.size() > 1; }
 };
 
-std::string padded(const std::string& text, std::size_t width) {
+std::string right_aligned(const std::string& text, std::size_t width) {
   return std::string(text.size() < width ? width - text.size() : 0, ' ') + text;
 }
 
 // The name comes after the columns without blanks, as it may contain some.
 std::u8string long_line(const entry_row& entry) {
-  std::string columns = padded(std::to_string(entry.size), 10) + " " +
-                        padded(std::to_string(entry.offset), 10) + "  ";
+  std::string columns = right_aligned(std::to_string(entry.size), 10) + " " +
+                        right_aligned(std::to_string(entry.offset), 10) + "  ";
   const std::string kind = text_of(entry.kind);
   columns += kind + std::string(8 - kind.size(), ' ') +
-             padded(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  ";
+             right_aligned(entry.icons ? std::to_string(*entry.icons) : "-", 5) + "  ";
   std::u8string line = files::as_utf8(columns) + files::printable(entry.name);
   if (!entry.description.empty()) {
     const auto starts_character = [](char8_t c) { return (c & 0xC0U) != 0x80; };
@@ -79,7 +79,7 @@ void print_entries(listing& job, const std::string& argument) {
 
 int list(const list_options& options) {
   listing job = {.options = options};
-  if (job.shows_all()) job.known = read_descriptions(options.icon_names);
+  if (job.shows_all()) job.known = read_descriptions(icon_names_file(options.icon_names));
   std::size_t unread = 0;
   for (const std::string& archive : options.archives) {
     const files::failure failed = files::failure_in([&] { print_entries(job, archive); });

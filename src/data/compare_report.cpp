@@ -85,11 +85,12 @@ std::vector<std::string> head_lines(std::int32_t records, std::int32_t lines) {
 
 }  // namespace
 
-compare_report compare_with(shiplist_comparison& shiplist, std::span<const std::string> archive) {
+compare_report run_comparison(shiplist_comparison& comparison,
+                              std::span<const std::string> archive) {
   const auto records = static_cast<std::int32_t>(archive.size());
-  const std::int32_t lines = shiplist.shiplist_last + 1;
+  const std::int32_t lines = comparison.shiplist_last + 1;
   compare_report report = {head_lines(records, lines), records != lines};
-  report_walk(report, archive, shiplist).run();
+  report_walk(report, archive, comparison).run();
   return report;
 }
 

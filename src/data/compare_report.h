@@ -16,6 +16,7 @@ struct compare_report {
 // Steps through the names of an archive, its end record included, and a sorted shiplist, and writes
 // names that only one side has. After each line both sides advance, even if their names differ, so
 // some of these names are left out. Keeps in `shiplist_walk_done` whether the walk is over.
-compare_report compare_with(shiplist_comparison& shiplist, std::span<const std::string> archive);
+compare_report run_comparison(shiplist_comparison& comparison,
+                              std::span<const std::string> archive);
 
 }  // namespace ostrane

@@ -35,7 +35,7 @@ struct icon_export {
   std::size_t last = max_icons_per_file;
 
   // Called with the reason for each icon that is skipped or not exact.
-  std::function<void(const std::string& reason)> on_skipped = {};
+  std::function<void(const std::string& reason)> on_fault = {};
   // Called before each icon; may be null.
   std::function<void(std::size_t number, std::size_t count)> on_icon = {};
 };

@@ -26,7 +26,7 @@ class dir_list_view : public rows_view {
 
  protected:
   void row_double_clicked(int row) override { forms_layer::user::open_folder(folders_, row); }
-  void enter_pressed(int row) override { forms_layer::user::confirm_folder(folders_, row); }
+  void enter_pressed(int row) override { forms_layer::user::enter_folder(folders_, row); }
 
  private:
   static constexpr int pixels_per_depth = 8;

@@ -19,7 +19,8 @@ struct file_drag {
   bool is_written = false;
 };
 
-// Lets the user drag files of these names. Returns null if the files are not needed any more.
+// Lets the user drag files of these names. Returns null if the files are not needed any more,
+// or, after a message, if there is no folder for them.
 std::shared_ptr<file_drag> drag_files(const std::vector<std::filesystem::path>& names,
                                       const forms_layer::file_writer& write, QWidget& from);
 

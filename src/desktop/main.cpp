@@ -24,9 +24,9 @@ void set_program_icon() {
 }
 
 // Qt aborts with a core dump if it cannot open a display. That is the only fatal message before the
-// windows exist.
-void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/,
-                         const QString& text) {
+// windows exist. Warnings go to the standard error.
+void handle_early_message(QtMsgType type, const QMessageLogContext& /*context*/,
+                          const QString& text) {
   if (type == QtFatalMsg) {
     desktop::show_start_error(desktop::no_display_reason(text.toStdString()));
     std::_Exit(1);
@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
   desktop::prepare_start();
   const bool opens_archive = argc == 2 && *argv[1] != '-' && *argv[1] != '\0';
   if (argc > 1 && !opens_archive) return desktop::answer_command_line(argc, argv);
-  const QtMessageHandler usual = qInstallMessageHandler(end_without_display);
+  const QtMessageHandler usual = qInstallMessageHandler(handle_early_message);
   const desktop::application application(argc, argv);
   qInstallMessageHandler(usual);
   desktop::set_up_application();

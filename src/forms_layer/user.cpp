@@ -200,7 +200,7 @@ void open_folder(dir_list& folders, std::int32_t row) {
   });
 }
 
-void confirm_folder(dir_list& folders, std::int32_t row) {
+void enter_folder(dir_list& folders, std::int32_t row) {
   run_event([&folders, row] {
     const bool is_open = takes_row(folders, row) && row == folders.open_row();
     if (!is_open || !folders.Confirm || !folders.Confirm()) open_folder(folders, row);

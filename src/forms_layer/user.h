@@ -59,7 +59,7 @@ void clear_focus();
 void choose(drive_list& drives, std::int32_t row);
 void open_folder(dir_list& folders, std::int32_t row);
 // Enter on a folder: opens it, or confirms the open one.
-void confirm_folder(dir_list& folders, std::int32_t row);
+void enter_folder(dir_list& folders, std::int32_t row);
 
 // Reloads the lists of drives, folders and files of a form, as `open_folder` of the open folder
 // does.

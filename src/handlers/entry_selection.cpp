@@ -73,7 +73,7 @@ void show_double_clicked_entry() {
   tool_state.selected_index = Form1.List1.ListIndex();
   const std::int32_t last =
       std::min<std::int32_t>(tool_state.shp_head.icon_count, tool_state.slots_loaded);
-  for (std::int32_t slot = 1; slot <= last; ++slot) shrink_slot(slot);
+  for (std::int32_t slot = 1; slot <= last; ++slot) empty_slot(slot);
   show_shp_series();
   Form1.Command5.Enabled = true;
 }

@@ -78,7 +78,7 @@ std::string save(icon_export wanted, const forms_layer::save_answer& answer,
   const std::string entry = entry_name(tool_state.directory_index);
   wanted.entry = entry;
   wanted.pace = std::max(1, motion_interval() / milliseconds_per_hundredth);
-  wanted.on_skipped = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
+  wanted.on_fault = [&](const std::string& reason) { skipped.push_back({entry, reason}); };
   files::clear_leftovers(answer.path.parent_path());
   const auto target = [&](const std::u8string& name) {
     return target_of(wanted.form, answer.path, name);

@@ -38,9 +38,8 @@ std::string export_row(std::int32_t row, const fs::path& folder,
   const auto target = [&folder](const std::u8string& file) {
     return files::from_system_path(folder / file);
   };
-  return export_entry(
-      {.entry = name, .stem = files::to_utf8(proposed_stem(row)), .on_skipped = skip}, row,
-      {target});
+  return export_entry({.entry = name, .stem = files::to_utf8(proposed_stem(row)), .on_fault = skip},
+                      row, {target});
 }
 
 std::string export_rows(const std::vector<std::int32_t>& rows, const fs::path& folder) {

@@ -87,8 +87,10 @@ void draw_next_icon() {
   load_slot(slot);
   tool_state.current_slot = slot;
   tool_state.icon_number = tool_state.next_icon;
-  begin_current_icon();
-  if (tool_state.series_full == flag_true) return;
+  if (!begin_current_icon()) {
+    tool_state.series_full = flag_true;
+    return;
+  }
   draw_icon();
   Form1.Text2.Text = std::to_string(tool_state.icon_number);
   Form1.Refresh();

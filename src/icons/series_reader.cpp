@@ -63,17 +63,17 @@ void read_directory() {
   tool_state.directory_read = flag_true;
 }
 
-void begin_current_icon() {
+bool begin_current_icon() {
   const std::int32_t position =
       tool_state.icon_positions[static_cast<std::size_t>(tool_state.icon_number)];
   if (!read_icon_head(tool_state.archive_file, position, tool_state.icon_header)) {
     report_invalid_address(position);
-    tool_state.series_full = flag_true;
-    return;
+    return false;
   }
   begin_stream(tool_state.stream,
                stream_size(tool_state.icon_header, position,
                            range_of(index_records(), tool_state.directory_index).end));
+  return true;
 }
 
 }  // namespace ostrane

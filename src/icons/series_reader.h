@@ -12,9 +12,9 @@ void read_directory();
 
 // Reads the head of icon `icon_number` into `icon_header` and begins its stream: sets
 // `entry_bytes_left` and empties the read buffer; the file position is then its first byte. Reports
-// a position outside the file and sets `series_full`. `archive_file` must be open. Throws
+// a position outside the file, and then returns false. `archive_file` must be open. Throws
 // file_error.
-void begin_current_icon();
+bool begin_current_icon();
 
 // The message about the refused icon of `icon_header`.
 std::string refused_icon_text();

@@ -60,6 +60,15 @@ void store_icon_data() {
       .last_row = head.row_end};
 }
 
+void update_series() {
+  const bool is_last = tool_state.icon_number == tool_state.shp_head.icon_count;
+  if (is_last ||
+      tool_state.current_slot >= std::min<std::int32_t>(tool_state.max_icons, max_slots)) {
+    tool_state.series_full = flag_true;
+  }
+  tool_state.series_next_icon = tool_state.next_icon - 1;
+}
+
 }  // namespace
 
 void load_slot(std::int16_t slot) {
@@ -70,7 +79,7 @@ void load_slot(std::int16_t slot) {
   Form1.s16_image(slot).Visible = false;
 }
 
-void shrink_slot(std::int32_t slot) {
+void empty_slot(std::int32_t slot) {
   Form1.s16_image(slot).Cls();
   Form1.s16_image(slot).Height = empty_slot_side;
   Form1.s16_image(slot).Width = empty_slot_side;
@@ -80,19 +89,14 @@ void clear_slots_for_icons() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
     Form1.s16_image(slot).ToolTipText = icon_tool_tip;
     Form1.s16_image(slot).BackColor = forms_layer::system_button_face;
-    shrink_slot(slot);
+    empty_slot(slot);
   }
 }
 
 void place_icon_slot() {
   place_in_grid(Form1.s16_image(tool_state.current_slot));
   store_icon_data();
-  const bool is_last = tool_state.icon_number == tool_state.shp_head.icon_count;
-  if (is_last ||
-      tool_state.current_slot >= std::min<std::int32_t>(tool_state.max_icons, max_slots)) {
-    tool_state.series_full = flag_true;
-  }
-  tool_state.series_next_icon = tool_state.next_icon - 1;
+  update_series();
 }
 
 void reset_icon_view() {

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// Slots: the elements of `s16_image` from 1 on, each with the picture of one icon, and their grid
-// in `Frame1`. All lengths are twips.
+// Slots: the elements of `s16_image` from 1 on, each with the picture of one icon or as a swatch of
+// a palette, and the grid of the icons in `Frame1`. All lengths are twips.
 namespace ostrane {
 
 constexpr std::int32_t grid_left = 200;
@@ -14,7 +14,7 @@ constexpr std::int32_t grid_top = 800;  // below the fields and buttons of the f
 void load_slot(std::int16_t slot);
 
 // Clears the picture of a slot and makes it 100 by 100 twips.
-void shrink_slot(std::int32_t slot);
+void empty_slot(std::int32_t slot);
 
 // Resets every loaded slot for icons: their tool tip, the default background, no picture, 100 by
 // 100 twips.

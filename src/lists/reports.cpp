@@ -25,7 +25,7 @@ void write_comparison(const std::string& shiplist_name) {
   read_shiplist(files::to_file_path(path), tool_state.comparison);
   sort_shiplist(tool_state.comparison);
   write_list(files::to_file_path(compare_report_path),
-             compare_with(tool_state.comparison, Form1.List1.rows()).lines);
+             run_comparison(tool_state.comparison, Form1.List1.rows()).lines);
 }
 
 }  // namespace

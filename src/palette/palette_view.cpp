@@ -20,7 +20,7 @@ constexpr std::int32_t swatch_pitch_y = 300;
 
 void clear_slots() {
   for (std::int32_t slot = 1; slot <= tool_state.slots_loaded; ++slot) {
-    shrink_slot(slot);
+    empty_slot(slot);
     Form1.s16_image(slot).Visible = false;
     Form1.s16_image(slot).Refresh();
   }

@@ -73,8 +73,8 @@ void report_unread_icons(const icon_export& wanted, const icon_file& from) {
   const bool wants_all = wanted.last > from.positions.size() ||
                          wanted.last == static_cast<std::size_t>(max_icons_per_file);
   if (!wants_all || from.head.icon_count <= read) return;
-  wanted.on_skipped("its head gives " + std::to_string(from.head.icon_count) +
-                    " as the number of its icons; only " + std::to_string(read) + " can be read");
+  wanted.on_fault("its head gives " + std::to_string(from.head.icon_count) +
+                  " as the number of its icons; only " + std::to_string(read) + " can be read");
 }
 
 exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawable) {
@@ -89,7 +89,7 @@ exported_icons read_icons(icon_export_job& job, const drawable_handler& on_drawa
     if (wanted.on_icon) wanted.on_icon(number, last);
     stored_icon stored = read_stored_icon(*job.stream, job.output.archive, from, number - 1);
     const std::string fault = fault_of(stored);
-    if (!fault.empty()) wanted.on_skipped("icon " + std::to_string(number) + " " + fault);
+    if (!fault.empty()) wanted.on_fault("icon " + std::to_string(number) + " " + fault);
     exported.icons.push_back({.file = {},
                               .head = stored.head,
                               .offset = from.positions[number - 1] - 1 - from.start,
@@ -177,7 +177,7 @@ void export_gif(icon_export_job& job) {
       job.output, job.wanted.stem + u8".gif",
       gif_of(all.pictures, job.wanted.colours, job.wanted.pace, job.wanted.scale, inexact));
   if (inexact > 0) {
-    job.wanted.on_skipped(counted(inexact, "pixel") + " of the GIF changed to the nearest colour");
+    job.wanted.on_fault(counted(inexact, "pixel") + " of the GIF changed to the nearest colour");
   }
 }
 
