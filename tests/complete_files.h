@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cerrno>
-
 #include "disk.h"
 #include "failing_calls.h"
 #include "files/code_page.h"

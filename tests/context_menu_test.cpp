@@ -29,6 +29,8 @@ struct context_menu_test : icon_test {
       fs::create_hard_link(disk_path("C:\\ostrane.dat"), root / "d" / "out" / name);
   }
   static void select_several() { user::select_rows(Form1.List1, {1, 4, 5}); }
+  static void select_others() { user::select_rows(Form1.List1, {3, 4}); }
+  static void select_only_one_entry() { user::select_rows(Form1.List1, {1, 5, 9}); }
   static void select_beside_text() { write("D:\\out\\N.TXT", "old"), select_several(); }
   static void select_beside_png() { write("D:\\out\\F3-0001.png", "old"), select_several(); }
   static void close_archive() { open_archive("D:\\"), new_messages(); }
@@ -48,27 +50,6 @@ void on_row_during_changes() {
 void on_first() { user::open_menu(Form1.s16_image, 1); }
 void on_second() { user::open_menu(Form1.s16_image, 2); }
 void on_third() { user::open_menu(Form1.s16_image, 3); }
-
-TEST_F(context_menu_test, IsOfTheSelectedRows) {
-  show_second_series();
-  const std::string one = "Extract this entry\x85|";
-  const std::string three = "Extract 3 entries\x85|Export 3 entries as pictures\x85|";
-  const std::tuple<std::vector<std::int32_t>, std::int32_t, std::string> cases[] = {
-      {{1, 2, 3}, 2, three}, {{1, 2, 3, 5}, 5, three}, {{1, 2, 3}, 0, one},
-      {{1}, 1, one},         {{3, 5}, 3, one},         {{3, 9}, 3, one},
-  };
-  test_screen answers;
-  for (const auto& [rows, row, captions] : cases) {
-    user::select_row(Form1.List1, 2);
-    user::select_rows(Form1.List1, rows);
-    user::open_menu(Form1.List1, row);
-    EXPECT_EQ(std::exchange(answers.captions, ""), captions) << rows.size();
-    EXPECT_EQ(Form1.List1.ListIndex(), 2);
-  }
-  user::select_row(Form1.List1, 2);
-  EXPECT_TRUE(Form1.List1.SelectedRows().empty());
-  EXPECT_EQ(new_messages(), texts{});
-}
 
 // No file is replaced by several entries.
 TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
@@ -132,13 +113,15 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
        "be written: it is the open archive>"},
       {close_archive, on_first, 0, "", 0, "+-- copied 3"},
       {select_several, on_row, 0, "", 0, "++ F3.SHP N.TXT", "text"},
+      {select_several, on_end_record, 0, "", 0, "++ F3.SHP N.TXT"},
+      {select_others, on_row, 0, "", 0, "+ N.TXT"},
+      {select_only_one_entry, on_row, 0, "", 0, "+ N.TXT"},
       {select_several, press_ctrl_e, 0, "", 0, " F3.SHP N.TXT"},
       {select_several, drag_selected, 0, "", 0, " F3.SHP N.TXT"},
       {select_several, drag_other, 0, "", 0, " F2.SHP"},
       {select_beside_text, on_row, 0, "", 0,
        "++ F3.SHP N.TXT <These entries were not extracted:\n>N.TXT<: its file cannot be made: it "
-       "is "
-       "there already>",
+       "is there already>",
        "old"},
       {select_several, on_row, 1, "", 0, "++ F3-0001.png F3.json <" + no_icons + ">"},
       {select_beside_png, on_row, 1, "", 0,
@@ -154,7 +137,9 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
     answers.kind = c.kind;
     answers.folder = answers.dropped_in = root / "d" / "out";
     if (*c.typed != '\0') answers.file = root / "d" / "out" / c.typed;
+    const std::int32_t shown = Form1.List1.ListIndex();
     c.open();
+    EXPECT_EQ(Form1.List1.ListIndex(), shown);
     for (const auto& [name, bytes] : files_in("D:\\out")) answers.seen += " " + name;
     for (const std::string& message : new_messages()) answers.seen += " <" + message + ">";
     EXPECT_EQ(answers.seen, c.seen);

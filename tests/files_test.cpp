@@ -89,12 +89,10 @@ TEST(CodePage, ConvertsEveryByteToUtf8AndBack) {
 
 // FAT numbers a file anew when it is renamed.
 TEST_F(files_test, ReplacesAFileWhoseIdentityARenameChanges) {
-  static const files::system_call_table real = files::system_calls;
   static std::uint64_t renames = 0;
-  files::system_calls.replace = +[](const fs::path& file, const fs::path& target) {
-    ++renames;
-    return real.replace(file, target);
-  };
+  failing_calls counted;
+  counted.before("replace", [] { ++renames; });
+  static const files::system_call_table real = files::system_calls;
   static const auto renumbered = [](int status, files::file_info& info) {
     info.stamp.identity.number += renames;
     return status;
@@ -106,7 +104,6 @@ TEST_F(files_test, ReplacesAFileWhoseIdentityARenameChanges) {
   };
   restart_with({{"a.txt", "a"}, {"ostrane.dat", "old"}});
   build_in();
-  files::system_calls = real;
   EXPECT_TRUE(new_messages().back().starts_with("Your new Ostrane.dat"));
   EXPECT_EQ(read("C:\\work\\OSTRANE.DAT"), archive_bytes({{"A.TXT", "a"}}));
 }

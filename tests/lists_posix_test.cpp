@@ -26,10 +26,7 @@ TEST_F(lists_test, ReplacingAListKeepsPermissionsLinksAndOtherSpellings) {
   fs::create_symlink(disk_path("D:\\far\\list"), list);
   for (const file_map& linked : {file_map{}, file_map{{"list", std::string(1000, 'o')}}}) {
     for (const auto& [name, old] : linked) write("D:\\far\\" + name, old);
-    {
-      const failing_calls full("write_some", ENOSPC);
-      save_list();
-    }
+    save_list("write_some", ENOSPC);
     EXPECT_EQ(files_in("D:\\far"), linked);
     save_list();
     EXPECT_TRUE(fs::is_symlink(list));
@@ -59,10 +56,7 @@ TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
     for (const int reason : reasons) {
       SCOPED_TRACE(testing::Message() << call << reason);
       write("D:\\shplist.txt", old);
-      {
-        const failing_calls failing(call, reason);
-        save_list();
-      }
+      save_list(call, reason);
       EXPECT_EQ(files_in("D:\\"), (file_map{{"shplist.txt", is_overwritten ? saved_list : old}}));
       EXPECT_EQ(new_messages().back().starts_with("The list of files was not"), !is_overwritten);
     }

@@ -17,8 +17,7 @@ struct test_screen : forms_layer::screen {
   fs::path folder;       // to write to; empty for none
   fs::path dropped_in;   // where dragged files are dropped; nowhere if empty
 
-  std::string captions;  // of the items of menus
-  std::string seen;      // "+" or "-" for each item, proposed names, and copied pictures
+  std::string seen;  // "+" or "-" for each item, proposed names, and copied pictures
 
   // Per Refresh of Form3 and per message box: the visible windows and the text. Per Refresh of
   // Form1: Text2 and Text3. When the bars are hidden: the visible windows. Per focus change: the
@@ -58,10 +57,7 @@ struct test_screen : forms_layer::screen {
 
   forms_layer::menu_item* pick_item(forms_layer::context_menu& opened,
                                     forms_layer::screen_point) override {
-    for (const auto* offered : opened.items) {
-      captions += offered->Caption + "|";
-      seen += offered->Enabled() ? "+" : "-";
-    }
+    for (const auto* offered : opened.items) seen += offered->Enabled() ? "+" : "-";
     return opened.items.at(item);
   }
   forms_layer::save_answer ask_save_path(const forms_layer::save_question& question) override {

@@ -52,10 +52,11 @@ inline void restart_with(const file_map& files) {
 // The list of an archive with one entry, A.
 const std::string saved_list = "A\r\n\r\n";
 
-// Saves that list as D:\shplist.txt.
-inline void save_list() {
+// Saves that list as D:\shplist.txt, while the calls of one name fail.
+inline void save_list(const std::string& failing_name = "", int reason = 0) {
   restart("D:\\");
   open_archive({{"A", ""}});
+  const failing_calls failing(failing_name, reason);
   user::click(Form1.mnu_save);
 }
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTest>
-#include <QtWidgets>
-
 #include "desktop/control_view.h"
 #include "desktop/qt_screen.h"
 #include "disk.h"

@@ -1,5 +1,4 @@
 // The keys, the search, the enlarged picture, drops and drags of the main window.
-#include "forms_layer/message_box.h"
 #include "main_window_fixture.h"
 #include "state/tool_state.h"
 
@@ -114,7 +113,7 @@ TEST_F(Extras, MenusShowWhatCanBeDone) {
       "|-|&Zoom{&1 (own size)*|&2 times|&3 times|&4 times|&8 times|}"
       "|&Background{As &designed*|&Chequered|&Black|&White|&Magenta|}|";
   play(seen, {{"List1#1 right", "&Extract this entry\u2026|"},
-              {"List1#0 press; List1#1 Ctrl+press; Shift+F10",
+              {"List1#0 press; List1#1 Ctrl+press; List1#4 Ctrl+press; Shift+F10",
                "&Extract 2 entries\u2026|E&xport 2 entries as pictures\u2026|"},
               {"List1#2 press; pictures@20@60 right",
                "&Copy picture|&Save picture\u2026|S&ave series\u2026" + view_items}});
@@ -124,12 +123,12 @@ TEST_F(Extras, MenusShowWhatCanBeDone) {
               {"pictures@3@3 right", ""}});
 }
 
-TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
+TEST_F(Extras, MenusZoomSetTheBackgroundAndTheFontOfAText) {
   act(*window, "List1#2 press");
   answers menus;
-  const auto pick = [&](const char* keys, const char* at = "20@60") {
+  const auto pick = [&](const char* keys, const char* on = "pictures@20@60 right") {
     menus.keys = keys;
-    act(*window, QStringLiteral("pictures@%1 right").arg(at));
+    act(*window, on);
   };
   // The colours of two unset pixels.
   const auto shown = [&] {
@@ -146,7 +145,7 @@ TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
     EXPECT_TRUE(watch.painted.contains(QPoint(140, 140))) << "the other pictures follow";
     EXPECT_EQ(shown(), colours) << keys;
   }
-  pick("Z 3", "70@70");
+  pick("Z 3", "pictures@70@70 right");
   EXPECT_EQ(zoomed(), "180(8,53 184x184)");
   paint_watch enlarged(canvas->findChild<QScrollArea*>("zoom")->widget());
   pick("B W");
@@ -157,6 +156,13 @@ TEST_F(Extras, TheMenuOfAPictureZoomsAndSetsTheBackground) {
   EXPECT_TRUE(checked.contains("|&3 times*|") && checked.contains("|&White*|"));
   pick("Z 1");
   EXPECT_EQ(zoomed(), "");
+  const QWidget* text = widget_of(*window, Form1.Text6);
+  const QFont designed = text->font();
+  for (const bool fixed : {true, false}) {
+    pick("F", "List1#0 press; Text6@9@9 right");
+    EXPECT_EQ(text->font().styleHint() == QFont::TypeWriter, fixed);
+  }
+  EXPECT_EQ(text->font(), designed);
 }
 
 TEST_F(Extras, TabReachesWhatCanBeUsed) {
@@ -216,9 +222,7 @@ TEST_F(Extras, KeysAct) {
     Desktop::play(*screen.window_of(ostrane::Form2), first, {{step, row}});
   }
   QTimer::singleShot(0, [&] { act(*window, "Ctrl+Q"); });
-  QTimer limit;
-  limit.callOnTimeout([] { QApplication::exit(1); });
-  limit.start(60000);
+  QTimer::singleShot(60'000, window, [] { QApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0);
 }
 
@@ -296,18 +300,6 @@ TEST_F(Extras, ADropOpensAnArchive) {
   EXPECT_EQ(drop({"sub"}), "");
 }
 
-TEST_F(Extras, AMessageBoxOpensOverWhatTheHandlerShows) {
-  answers opened;
-  QString shown;
-  const auto* field = static_cast<QLineEdit*>(widget_of(*window, Form1.Text3));
-  opened.on_open = [&](QWidget&) { shown = field->text(); };
-  write([] {
-    Form1.Text3.Text = "7";
-    forms_layer::message_box("x");
-  });
-  EXPECT_EQ(shown, "7");
-}
-
 // The tip of the list and of its row, and that of a picture.
 TEST_F(Extras, ToolTipsTellMore) {
   act(*window, "List1#2 press");
@@ -323,26 +315,11 @@ TEST_F(Extras, ToolTipsTellMore) {
       << "has several lines";
 }
 
-TEST_F(Extras, ATextCanHaveAFixedPitch) {
-  act(*window, "List1#0 press");
-  QWidget* text = widget_of(*window, Form1.Text6);
-  const QFont designed = text->font();
-  answers menus;
-  for (const bool fixed : {true, false}) {
-    menus.keys = "F";
-    act(*window, "Text6@9@9 right");
-    EXPECT_EQ(text->font().styleHint() == QFont::TypeWriter, fixed);
-  }
-  EXPECT_EQ(text->font(), designed);
-}
-
 TEST_F(Extras, ShiftPlaysTheMotionInALoop) {
-  for (const auto& [step, loops] :
-       {std::pair("Command5 Space", false), {"Command5 Shift+Space", true}}) {
-    act(*window, "List1#2 press; Command5 press");
-    write([] { Form1.Timer1.Enabled = false; });
-    act(*window, step);
+  const auto after_five_ticks = [] {
     for (int i = 0; i < 5; ++i) write([] { Form1.Timer1.Timer(); });
-    EXPECT_EQ(Form1.Timer1.Enabled(), loops);
-  }
+    return std::string(Form1.Timer1.Enabled() ? "moves" : "has ended");
+  };
+  play(after_five_ticks,
+       {{"List1#2 press; Command5 Space", "has ended"}, {"Command5 Shift+Space", "moves"}});
 }

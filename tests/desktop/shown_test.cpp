@@ -4,6 +4,7 @@
 #include "desktop/designed_look.h"
 #include "desktop/picture_painter.h"
 #include "desktop_fixture.h"
+#include "forms_layer/message_box.h"
 #include "forms_layer/user.h"
 #include "handlers/start_up.h"
 
@@ -175,7 +176,7 @@ TEST_F(Desktop, AHandlerShowsFramesAndLateWindows) {
   EXPECT_FALSE(screen.window_of(Form3)->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
 }
 
-TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
+TEST_F(Desktop, AMessageBoxOpensOverAllChangesAndBlocksOtherEvents) {
   ostrane::reset_forms();
   QWidget& window = show(form);
   std::string log;
@@ -194,14 +195,14 @@ TEST_F(Desktop, AMessageBoxShowsAllChangesAndBlocksOtherEvents) {
       EXPECT_TRUE(screen.window_of(ostrane::Form2)->isVisible());
       EXPECT_EQ(widget_of(window, form.label)->property("text"), "Other");
     };
-    screen.message_box("Title", "one\n\rtwo\rthree");
+    forms_layer::message_box("one\n\rtwo\rthree");
     form.timer.Enabled = false;
     log += "end";
   });
-  EXPECT_EQ(log, "Title|one\ntwo\nthree end");
+  EXPECT_EQ(log, "Ostrane.dat-tool|one\ntwo\nthree end");
   activate(window);
   boxes.on_open = [](auto&) {};
-  write([&] { screen.message_box("Title", "text"); });
+  write([] { forms_layer::message_box("text"); });
   expect_active(window);  // below Form2, but it had the focus
 }
 

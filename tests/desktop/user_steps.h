@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QtWidgets>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -47,12 +48,11 @@ inline void act_once(QWidget& window, const QString& step) {
   if (what.endsWith("again")) {
     return QTest::mouseDClick(on, what == "again" ? Qt::LeftButton : Qt::RightButton, held, at);
   }
-  if (what.startsWith("wheel")) {
+  static const std::map<QString, int> turns = {
+      {"wheel", 120}, {"wheel-part", 30}, {"wheel-back", -120}};
+  if (turns.contains(what)) {
     QWidget* under = on->childAt(at) == nullptr ? on : on->childAt(at);
-    QWheelEvent turned(under->mapFrom(on, at), on->mapToGlobal(at), {},
-                       {0, what == "wheel"        ? 120
-                           : what == "wheel-part" ? 30
-                                                  : -120},
+    QWheelEvent turned(under->mapFrom(on, at), on->mapToGlobal(at), {}, {0, turns.at(what)},
                        Qt::NoButton, held, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&turned);
     qApp->notify(under, &turned);
