@@ -1,10 +1,25 @@
-// The input is an archive, or for fuzz_icon the only icon file of an archive. Clicks every row and
-// uses every view on all series: motion, stepping, reports.
+// The input is an archive, or for fuzz_icon the only icon file of an archive. It is checked as by
+// `ostrane-dat check`. Clicks every row and uses every view on all series: motion, stepping,
+// reports. Then extracts it, which must write nothing but files in one folder.
+#include "data/archive_check.h"
 #include "generated_input.h"
 
 using namespace ostrane;
 
 namespace {
+
+void check_faults(std::size_t archive_size) {
+  std::size_t faults = 0;
+  check_archive(
+      {disk_path("C:\\ostrane.dat"), u8"a"},
+      [&faults](const std::string&, const std::string& fault) {
+        fuzz::check(!fault.empty() && fault.find('\n') == fault.npos, "a fault is a line");
+        ++faults;
+      },
+      [](std::size_t, std::size_t, const std::string&) {});
+  // A record has at most six faults, an icon four.
+  fuzz::check(faults <= archive_size + 10, "the number of faults is limited");
+}
 
 void use_series() {
   fuzz::check(!Form3.Visible(), "the working message is hidden");
@@ -41,6 +56,29 @@ std::int32_t browse(std::int32_t row, std::int32_t max_series) {
   }
 }
 
+void extract(const std::string& archive) {
+  new_messages();
+  const fs::path out = disk_path("C:\\out");
+  fs::create_directory(out);
+  // An entry of this name would overwrite the open archive.
+  fs::create_symlink("../ostrane.dat", out / "SELF.DAT");
+  extract_into("C:\\out");
+  fuzz::check(new_messages().size() <= 2, "an extraction shows at most two messages");
+  fuzz::check(!Form3.Visible(), "the progress is hidden");
+  fuzz::check(read("C:\\ostrane.dat") == archive, "the archive does not change");
+  std::size_t outside = 0;
+  std::uintmax_t bytes = 0;
+  for (const auto& found : fs::recursive_directory_iterator(fuzz::top_folder())) {
+    const bool inside = found.path().parent_path() == out;
+    fuzz::check(!inside || found.is_regular_file(), "entries become files");
+    if (!inside) ++outside;
+    if (inside && !found.is_symlink()) bytes += found.file_size();
+  }
+  // The parent folders of `out`, the drive D:, the tool's folder and the archive.
+  fuzz::check(outside == 8, "nothing is written outside the folder");
+  fuzz::check(bytes <= archive.size(), "each byte of the archive is written at most once");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -53,11 +91,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 #endif
   open_bytes(archive);
   fuzz::check(new_messages().size() <= 1, "opening shows at most one message");
+  check_faults(archive.size());
   // Many rows can share a large icon file, so the number of series is limited.
   std::int32_t actions = archive.size() < 65536 ? 30 : 2;
   for (std::int32_t row = 0; row < Form1.List1.ListCount() && actions > 0; ++row) {
     actions -= browse(row, actions);
     user::double_click(Form1.List1, row);
   }
+  extract(archive);
   return 0;
 }

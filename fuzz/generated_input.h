@@ -2,9 +2,6 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
-#include <algorithm>
-
-#include "archive_bytes.h"
 #include "data/archive_format.h"
 #include "data/icon_packer.h"
 #include "files/little_endian.h"

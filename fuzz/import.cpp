@@ -51,12 +51,10 @@ void check_marked(picture marked) {
 
 // The screen of a GIF may be far larger than its frames.
 void import_gif(const std::string& bytes) {
-  const auto side = [&bytes](std::size_t at) {
-    return at + 1 < bytes.size() ? std::int64_t{static_cast<unsigned char>(bytes[at])} +
-                                       256 * static_cast<unsigned char>(bytes[at + 1])
-                                 : 0;
+  const auto side = [all = std::as_bytes(std::span(bytes))](std::size_t at) {
+    return at + 1 < all.size() ? files::int16_at(all, at) & 0xFFFF : 0;
   };
-  if (side(6) * side(8) > max_cells) return;
+  if (std::int64_t{side(6)} * side(8) > max_cells) return;
   for (picture& shown : read_gif(bytes, u8"g", finder())) check_marked(std::move(shown));
 }
 

@@ -15,7 +15,7 @@ cd "$(dirname "$0")/.."
   exit 2
 }
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists extract build import)
+[ ${#targets[@]} -gt 0 ] || targets=(archive icon lists build import)
 
 need fuzz
 build=$PWD/build-fuzz

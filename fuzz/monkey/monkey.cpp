@@ -1,16 +1,8 @@
 // monkey SEED ACTIONS: uses the windows at random, on the sample archive. The same seed gives the
 // same actions. Prints each one to the file "actions" of its folder, so that a finding can be read.
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QMimeData>
 #include <QTest>
-#include <QTimer>
-#include <fstream>
+#include <QtWidgets>
 #include <iostream>
-#include <random>
 
 #include "desktop/application_setup.h"
 #include "desktop/qt_screen.h"
