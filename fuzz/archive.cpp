@@ -6,9 +6,7 @@
 
 using namespace ostrane;
 
-namespace {
-
-void check_faults(std::size_t archive_size) {
+static void check_faults(std::size_t archive_size) {
   std::size_t faults = 0;
   check_archive(
       {disk_path("C:\\ostrane.dat"), u8"a"},
@@ -21,7 +19,7 @@ void check_faults(std::size_t archive_size) {
   fuzz::check(faults <= archive_size + 10, "the number of faults is limited");
 }
 
-void use_series() {
+static void use_series() {
   fuzz::check(!Form3.Visible(), "the working message is hidden");
   fuzz::check(tool_state.slots_loaded + 1 == Form1.s16_image.loaded(), "the slots are counted");
   user::click(Form1.Command5);
@@ -39,7 +37,7 @@ void use_series() {
 }
 
 // Draws at most `max_series`. Returns the number of series drawn.
-std::int32_t browse(std::int32_t row, std::int32_t max_series) {
+static std::int32_t browse(std::int32_t row, std::int32_t max_series) {
   std::int32_t first_icon = 1;
   tool_state.next_icon = 0;
   for (std::int32_t series = 1;; ++series) {
@@ -56,7 +54,7 @@ std::int32_t browse(std::int32_t row, std::int32_t max_series) {
   }
 }
 
-void extract(const std::string& archive) {
+static void extract(const std::string& archive) {
   new_messages();
   const fs::path out = disk_path("C:\\out");
   fs::create_directory(out);
@@ -78,8 +76,6 @@ void extract(const std::string& archive) {
   fuzz::check(outside == 8, "nothing is written outside the folder");
   fuzz::check(bytes <= archive.size(), "each byte of the archive is written at most once");
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::restart_on_empty_drives();

@@ -9,11 +9,9 @@
 
 using namespace ostrane;
 
-namespace {
-
 using contents = std::multiset<std::string>;
 
-void write_files(const texts& parts) {
+static void write_files(const texts& parts) {
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
     const bool is_name = parts[i].find_first_of(std::string("/\0", 2)) == std::string::npos;
     if (is_name) std::ofstream(disk_path("C:\\work") / parts[i], std::ios::binary) << parts[i + 1];
@@ -21,7 +19,7 @@ void write_files(const texts& parts) {
 }
 
 // The files that become entries.
-contents source_files() {
+static contents source_files() {
   contents found;
   for (const auto& [utf8, bytes] : files_in("C:\\work")) {
     const auto name = files::from_utf8(files::as_utf8(utf8));
@@ -31,13 +29,13 @@ contents source_files() {
   return found;
 }
 
-std::string build() {
+static std::string build() {
   build_in();
   fuzz::check(!Form5.Visible(), "an archive can be built");
   return read("C:\\work\\OSTRANE.DAT");
 }
 
-contents entries_of(const std::string& archive) {
+static contents entries_of(const std::string& archive) {
   contents found;
   for (std::int32_t i = 0; i + 1 < Form1.List1.ListCount(); ++i) {
     const entry_range entry = range_of(index_records(), i);
@@ -46,8 +44,6 @@ contents entries_of(const std::string& archive) {
   }
   return found;
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::restart_on_empty_drives();

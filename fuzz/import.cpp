@@ -14,11 +14,9 @@
 
 using namespace ostrane;
 
-namespace {
-
 constexpr std::int64_t max_cells = 1 << 20;  // larger pictures only cost time
 
-void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
+static void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   static const fs::path path = fuzz::top_folder() / "made.shp";
   const std::string bytes = shp_file({new_icon(drawn, known)});
   write_bytes(path, bytes);
@@ -33,24 +31,24 @@ void check_icon(const picture& drawn, const std::optional<known_icon>& known) {
   fuzz::check(seen == drawn, "its cells are those of the picture");
 }
 
-rgb_palette colours(std::uint32_t step) {
+static rgb_palette colours(std::uint32_t step) {
   rgb_palette made = {};
   for (std::uint32_t i = 0; i < made.size(); ++i) made[i] = i * step & 0xFFFFFFU;
   return made;
 }
 
-colour_finder& finder() {
+static colour_finder& finder() {
   static colour_finder made(colours(0x010101));
   return made;
 }
 
-void check_marked(picture marked) {
+static void check_marked(picture marked) {
   if (std::int64_t{marked.columns()} * marked.rows() > max_cells) return;
   check_icon(settled(std::move(marked), finder().palette(), nullptr).drawn, {});
 }
 
 // The screen of a GIF may be far larger than its frames.
-void import_gif(const std::string& bytes) {
+static void import_gif(const std::string& bytes) {
   const auto side = [all = std::as_bytes(std::span(bytes))](std::size_t at) {
     return at + 1 < all.size() ? files::int16_at(all, at) & 0xFFFF : 0;
   };
@@ -58,7 +56,7 @@ void import_gif(const std::string& bytes) {
   for (picture& shown : read_gif(bytes, u8"g", finder())) check_marked(std::move(shown));
 }
 
-void import_json(const std::string& text) {
+static void import_json(const std::string& text) {
   const auto read = read_export_json(text, u8"j");
   const auto* icons = std::get_if<exported_icons>(&read);
   exported_icons exported = icons == nullptr ? exported_icons() : *icons;
@@ -77,7 +75,7 @@ void import_json(const std::string& text) {
   }
 }
 
-void import_generated(fuzz::fields& from) {
+static void import_generated(fuzz::fields& from) {
   picture drawn(from.ConsumeIntegralInRange(1, 300), from.ConsumeIntegralInRange(1, 20));
   const rgb_palette palette = colours(from.ConsumeIntegral<std::uint32_t>());
   const bool is_full = from.ConsumeBool();
@@ -102,8 +100,6 @@ void import_generated(fuzz::fields& from) {
   head.col_start -= fuzz::number(from, {300}) & 0x3FF;
   check_icon(drawn, known_icon{head, 0});
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;

@@ -4,10 +4,8 @@
 
 using namespace ostrane;
 
-namespace {
-
 // One in 64 lists repeats a line, up to 65536 times.
-std::string generate_list(fuzz::fields& from, const texts& likely) {
+static std::string generate_list(fuzz::fields& from, const texts& likely) {
   std::string list;
   for (int left = from.ConsumeIntegralInRange(0, 30); left > 0; --left) {
     list += fuzz::text(from, likely);
@@ -18,7 +16,7 @@ std::string generate_list(fuzz::fields& from, const texts& likely) {
   return list;
 }
 
-std::string generate_lists(fuzz::fields& from) {
+static std::string generate_lists(fuzz::fields& from) {
   const texts words = {"GEMS.SHP", "Gems.Shp", "GEMS;", "GEMS.SHP\r\n", "A\n", "GUIDE.TXT",
                        "\xE4.SHP", "\xC4.SHP", "*\n",   "\r\n",         "\n",  "\r",
                        ";",        " "};
@@ -28,7 +26,7 @@ std::string generate_lists(fuzz::fields& from) {
          generate_list(from, {"GEMS.SHP\x1E", "A\x1E", "\xC4.SHP", "Guide.txt\x1E", "\x1E", " "});
 }
 
-void click_rows(const std::string& iconlist) {
+static void click_rows(const std::string& iconlist) {
   for (std::int32_t row = 0; row < std::min(Form1.List1.ListCount(), 20); ++row) {
     user::select_row(Form1.List1, row);
     const std::string& name = Form1.List1.List(row);
@@ -39,8 +37,6 @@ void click_rows(const std::string& iconlist) {
                 "a description comes from the list");
   }
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   texts parts = fuzz::parts_of(fuzz::raw_or_generated(data, size, generate_lists));

@@ -1,6 +1,6 @@
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 const std::string success = "Your new Ostrane.dat has been created and saved in:";
 
@@ -89,5 +89,3 @@ TEST_F(builder_test, OpensTheNewArchiveIfOneWasOpen) {
   click_row("NEW.TXT");
   EXPECT_EQ(Form1.Text6.Text(), "new");
 }
-
-}  // namespace ostrane

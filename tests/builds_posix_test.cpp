@@ -1,13 +1,10 @@
-#include <fcntl.h>
-#include <sys/file.h>
-
 #include <set>
 
 #include "child_process.h"
 #include "tool_fixture.h"
 
 // Builds that are killed, that run at the same time, and that other programs disturb.
-namespace ostrane {
+using namespace ostrane;
 
 enum { reported_success = 10, reported_other_copy = 11 };  // exit status of a copy
 
@@ -138,11 +135,11 @@ TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   const fs::path link = disk_path("C:\\work\\" + kept[1]);
   fs::remove(link);
   fs::create_symlink("../elsewhere", link);
-  const int held = open(disk_path("C:\\work\\" + kept[0]).c_str(), O_RDONLY);
-  EXPECT_EQ(flock(held, LOCK_EX), 0);
+  const int held = files::system_calls.open_to_read(disk_path("C:\\work\\" + kept[0]));
+  EXPECT_EQ(files::system_calls.lock(held), 0);
   failing_calls none;
   build_in();
-  close(held);
+  files::system_calls.close_file(held);
   std::erase_if(none.calls, [](const std::string& call) {
     return call != "replace" && !call.starts_with("flush_");
   });
@@ -153,5 +150,3 @@ TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
   EXPECT_TRUE(fs::is_symlink(link) && read("C:\\elsewhere") == "kept");
   EXPECT_TRUE(read("C:\\work\\OSTRANE.DAT") == archive);
 }
-
-}  // namespace ostrane

@@ -1,6 +1,6 @@
 #include "test_screen.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using compare_test = tool_test;
 
@@ -82,5 +82,3 @@ TEST_F(compare_test, WritesNothingWithoutRowsOrAUsableShiplist) {
   EXPECT_TRUE(Form6.Visible() && !Form1.Enabled());
   EXPECT_EQ(names_in("D:\\"), texts{"many.txt"});
 }
-
-}  // namespace ostrane

@@ -1,7 +1,7 @@
 #include "pictures/icon_exporter.h"
 #include "test_screen.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 struct context_menu_test : icon_test {
   // Shows the icons 4 to 6 of nine. Those of F2.SHP are drawable, blank and refused. The rows are
@@ -148,5 +148,3 @@ TEST_F(context_menu_test, ExportsPicturesAndExtractsEntries) {
     EXPECT_NE(all.find(c.held), std::string::npos) << c.typed;
   }
 }
-
-}  // namespace ostrane

@@ -1,6 +1,6 @@
 #include "icon_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using damage_test = icon_test;
 
@@ -68,5 +68,3 @@ TEST_F(damage_test, LimitsTheMessagesAboutBadIcons) {
     }
   }
 }
-
-}  // namespace ostrane

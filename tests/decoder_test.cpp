@@ -1,6 +1,6 @@
 #include "icon_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 struct decoder_test : icon_test {
   static std::string cells() {
@@ -75,5 +75,3 @@ TEST_F(decoder_test, DoesNotReadPastTheEntry) {
     EXPECT_EQ(cells(), bytes % 2 == 0 ? "6 7 8 . | . . . . | " : ". . . . | 6 7 8 . | ") << bytes;
   }
 }
-
-}  // namespace ostrane

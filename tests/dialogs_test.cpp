@@ -1,6 +1,6 @@
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 // Calls `check` with each dialog open in a restarted tool that has an archive open: the form, its
 // field that shows the folder, or null, its menu item and its Cancel.
@@ -126,5 +126,3 @@ TEST_F(dialogs_test, RecoversFromADriveThatDoesNotAnswer) {
     });
   }
 }
-
-}  // namespace ostrane

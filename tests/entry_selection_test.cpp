@@ -1,7 +1,7 @@
 #include "handlers/entry_details.h"
 #include "icon_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 static std::string dots(std::size_t count) { return shp_file(plain_icons(count, 1, 1)); }
 
@@ -138,5 +138,3 @@ TEST_F(entry_selection_test, FindsRowsByNameAndDescription) {
   open_archive({{"E.SHP", ""}, {"F.SHP", dots(1)}});
   EXPECT_EQ(entry_tool_tip(0), "E.SHP: 0 bytes at 55, icons") << "has no head";
 }
-
-}  // namespace ostrane

@@ -1,6 +1,6 @@
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using extraction_test = tool_test;
 
@@ -127,5 +127,3 @@ TEST_F(extraction_test, WritesSafeNamesWithBlanksForNulsAndSkipsOthers) {
   EXPECT_EQ(new_messages(), texts{message + "\nand 7 more.\nThese files are hidden on this system:"
                                             "\n>..a<: its name begins with a dot"});
 }
-
-}  // namespace ostrane

@@ -5,7 +5,7 @@
 #include "failing_jobs.h"
 #include "failing_memory_posix.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 // Missing folders, folders without permission, and folders, pipes and links instead of files. The
 // alarm ends a command that waits for the other end of a pipe.
@@ -99,5 +99,3 @@ TEST_F(failing_disk_test, FileSizeLimitLeavesNoPartialFile) {
     EXPECT_EQ(is_stopped, job == &jobs[1]);
   }
 }
-
-}  // namespace ostrane

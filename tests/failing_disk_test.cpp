@@ -1,6 +1,6 @@
 #include "failing_jobs.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 // A failure is reported with its reason, and a reported success is one.
 TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
@@ -22,5 +22,3 @@ TEST_F(failing_disk_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
   RecordProperty("faults", tried);
   EXPECT_GT(tried, 1000);
 }
-
-}  // namespace ostrane

@@ -1,10 +1,9 @@
 #include "files/code_page.h"
-#include "files/file_system.h"
 #include "files/file_writer.h"
 #include "files/paths.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using files_test = tool_test;
 
@@ -125,5 +124,3 @@ TEST(CodePage, FoldsAccentedLettersToo) {
   EXPECT_EQ(files::upper_case(with_case + without), capitals + without);
   EXPECT_EQ(files::lower_case(capitals + without), with_case + without);
 }
-
-}  // namespace ostrane

@@ -1,6 +1,6 @@
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 // Runs the examples of docs/formats.md through the tool.
 struct formats_test : tool_test {
@@ -66,5 +66,3 @@ TEST_F(formats_test, TheDocumentedExamplesAreReadAndWritten) {
   run_comparison("D:\\", "list.txt");
   EXPECT_EQ(read("C:\\Shiplist-compare.txt"), block("report"));
 }
-
-}  // namespace ostrane

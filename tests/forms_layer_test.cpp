@@ -1,8 +1,6 @@
-#include "files/file_error.h"
-#include "forms_layer/events.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using forms_layer_test = tool_test;
 
@@ -48,5 +46,3 @@ TEST_F(forms_layer_test, DisabledAndHiddenControlsIgnoreInput) {
                      Form1.Frame1.Visible);
   EXPECT_EQ(clicks, 0);
 }
-
-}  // namespace ostrane

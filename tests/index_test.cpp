@@ -1,6 +1,6 @@
 #include "icon_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 const std::string palette(1024, '\1');
 
@@ -164,5 +164,3 @@ TEST_F(from_outside_test, TheDialogFindsTheArchive) {
     EXPECT_EQ(Form1.Text1.Text(), "1");
   }
 }
-
-}  // namespace ostrane

@@ -5,7 +5,7 @@
 #include "files/text_file.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using lists_test = tool_test;
 
@@ -122,5 +122,3 @@ TEST_F(lists_test, UsesFoldersOutsideTheCodePage) {
     EXPECT_EQ(read("C:\\shplist.txt"), "elsewhere");
   });
 }
-
-}  // namespace ostrane

@@ -1,7 +1,7 @@
 #include "forms_layer/application.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using main_window_test = tool_test;
 
@@ -67,5 +67,3 @@ TEST_F(main_window_test, ValidatesMaxIconsAndIntervalOnLostFocus) {
   for (const char* edit : {"3000", "34000"}) user::type(Form1.Text5, edit);
   EXPECT_EQ(Form1.Text5.Text(), "3000");
 }
-
-}  // namespace ostrane

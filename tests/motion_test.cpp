@@ -1,6 +1,6 @@
 #include "icon_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 struct motion_test : icon_test {
   // Text3, the positions of the visible slots, the timer and the buttons.
@@ -107,5 +107,3 @@ TEST_F(report_test, ShowsTheNumbersOfAnIcon) {
   click_row("N.TXT");
   EXPECT_EQ(reports(), texts{});
 }
-
-}  // namespace ostrane

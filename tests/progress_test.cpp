@@ -1,6 +1,6 @@
 #include "test_screen.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using progress_test = tool_test;
 
@@ -72,5 +72,3 @@ TEST_F(progress_test, BarsMoveEveryNthFileAndBlock) {
     EXPECT_EQ(bars(), extracted);
   }
 }
-
-}  // namespace ostrane

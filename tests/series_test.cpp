@@ -2,7 +2,7 @@
 
 #include "test_screen.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using series_test = icon_test;
 
@@ -180,5 +180,3 @@ TEST_F(series_test, NextSeriesRequiresTheSameArchive) {
     EXPECT_FALSE(Form3.Visible());
   }
 }
-
-}  // namespace ostrane

@@ -1,6 +1,4 @@
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cstring>
 
@@ -12,7 +10,7 @@
 #include "files/work_files.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 // Links, pipes, hidden files, and names that are hard to find or to store.
 using unusual_paths_test = tool_test;
@@ -85,7 +83,7 @@ TEST_F(unusual_paths_test, AcceptsTheLongestNamesAndReportsSkippedAndEqualOnes) 
 TEST_F(unusual_paths_test, RefusesTooManyFiles) {
   make_folder("C:\\work");
   const auto name = [](std::size_t i) { return disk_path("C:\\work") / ("f" + std::to_string(i)); };
-  for (std::size_t i = 0; i < 40000; ++i) close(open(name(i).c_str(), O_CREAT | O_WRONLY, 0600));
+  for (std::size_t i = 0; i < 40000; ++i) std::ofstream{name(i)};
   for (std::size_t count = 40000; const std::size_t left : {count, max_files + 1, max_files}) {
     while (count > left) fs::remove(name(--count));
     restart();
@@ -107,5 +105,3 @@ TEST(released_program, StopsAtAnOutOfBoundsAccess) {
   EXPECT_DEATH(std::memset(buffer, 0, outside), "buffer.overflow");
 }
 #endif
-
-}  // namespace ostrane

@@ -1,7 +1,6 @@
 // What the user does reaches the tool, also by keyboard and through a screen reader.
 #include "desktop/designed_look.h"
 #include "desktop_fixture.h"
-#include "files/code_page.h"
 
 struct Input : Desktop {
   Input() { canvas->setObjectName("pictures"); }
