@@ -110,7 +110,6 @@ TEST_F(entry_selection_test, IconsAndSwatchesResetTheSlots) {
   std::string colours(1024, '\0');
   colours.replace(68, 4, "\x88\xE4\xE8z");
   open_archive({{"MANY.SHP", dots(301)}, {"GAME.PAL", colours}, {"A.SHP", dots(1)}});
-  const auto slot = [](std::int32_t number) -> auto& { return Form1.s16_image(number); };
   click_row("MANY.SHP");
   user::click(Form1.Command5);
   EXPECT_TRUE(Form1.Timer1.Enabled());
