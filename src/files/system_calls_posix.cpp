@@ -32,8 +32,8 @@ int refusal_of(mode_t mode) {
   return S_ISSOCK(mode) ? -ENOTSOCK : -ENODEV;
 }
 
-// Returns a file that is not refused.
-int file_unless_refused(int file, int refusal) {
+// Returns the file, or closes it and returns the refusal.
+int close_if_refused(int file, int refusal) {
   if (refusal == 0) return file;
   close(file);
   return refusal;
@@ -47,7 +47,7 @@ int open_regular(const fs::path& path, int flags) {
     const bool is_other = errno == ENXIO;
     return is_other && stat(path.c_str(), &status) == 0 ? refusal_of(status.st_mode) : -errno;
   }
-  return file_unless_refused(file, fstat(file, &status) < 0 ? -errno : refusal_of(status.st_mode));
+  return close_if_refused(file, fstat(file, &status) < 0 ? -errno : refusal_of(status.st_mode));
 }
 
 int open_to_read(const fs::path& path) { return open_regular(path, O_RDONLY); }
@@ -73,9 +73,9 @@ int open_lock(const fs::path& path) {
   if (file < 0) return file;
   // A file with several names may be a private file of the user under another name.
   struct stat status = {};
-  return file_unless_refused(file, fstat(file, &status) < 0 ? -errno
-                                   : status.st_nlink > 1    ? -EMLINK
-                                                            : 0);
+  return close_if_refused(file, fstat(file, &status) < 0 ? -errno
+                                : status.st_nlink > 1    ? -EMLINK
+                                                         : 0);
 }
 
 std::int64_t read_some(int file, std::byte* to, std::size_t count) {
@@ -176,7 +176,7 @@ int replace(const fs::path& file, const fs::path& target) {
   };
   if (exchange()) {
     if (unlink(file.c_str()) == 0) return 0;
-    exchange();  // a folder came to be there
+    if (!exchange()) return -errno;  // the old file cannot be removed
   }
 #endif
   return result(rename(file.c_str(), target.c_str()));
