@@ -16,7 +16,7 @@ namespace ostrane::bench {
 namespace user = forms_layer::user;
 
 void start_tool_on(const std::filesystem::path& folder) {
-  files::set_drives({{'C', "bench", folder}}, "C:\\");
+  files::override_system({{'C', "bench", folder}}, "C:\\");
   start_tool(folder);
 }
 

@@ -33,7 +33,7 @@ void write_files(const fs::path& folder) {
 
 // Builds the archive with the tool, as a user would, in the folder `files` of `folder`.
 void build_archive(const fs::path& folder) {
-  files::set_drives({{'C', "sample", folder}}, "C:\\");
+  files::override_system({{'C', "sample", folder}}, "C:\\");
   start_tool(folder);
   forms_layer::user::click(Form1.mnu_make);
   Form5.Dir1.Path = "C:\\files";

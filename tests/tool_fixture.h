@@ -79,7 +79,7 @@ struct tool_test : testing::Test {
     restart();
   }
   ~tool_test() override {
-    files::set_drives({});
+    files::override_system({});
     std::error_code left;
     fs::remove_all(root, left);
   }

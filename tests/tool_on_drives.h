@@ -27,8 +27,8 @@ inline void reset_drives() {
 
 // Restarts the tool with the current folder `current`. E: is a drive that does not answer.
 inline void restart(const std::string& current = "C:\\") {
-  files::set_drives({{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}},
-                    current);
+  files::override_system(
+      {{'C', "test", root / "c"}, {'D', "other", root / "d"}, {'E', "", root / "e"}}, current);
   start_tool(root / "c" / "program");
 }
 

@@ -40,7 +40,7 @@ TEST_F(unusual_paths_test, ReplacesLongNamesAndNeedsAFolderListing) {
 }
 
 TEST_F(unusual_paths_test, TheLastDriveIsTheFileSystemRoot) {
-  files::set_drives({}, "C:\\");
+  files::override_system({}, "C:\\");
   user::click(Form1.mnu_make);
   user::choose(Form5.Drive1, Form5.Drive1.ListCount() - 1);
   EXPECT_EQ((texts{Form5.Drive1.Drive(), Form5.Text1.Text()}), (texts{"z: [root]", "Z:\\"}));

@@ -42,7 +42,7 @@ void restart(world& w) {
   for (const auto& [name, bytes] : files)
     ostrane::write_bytes(w.folder / "c" / "sub" / name, bytes);
   fs::current_path(w.folder / "c");
-  files::set_drives({{'C', "home", w.folder / "c"}, {'D', "", w.folder / "d"}}, "C:\\");
+  files::override_system({{'C', "home", w.folder / "c"}, {'D', "", w.folder / "d"}}, "C:\\");
   ostrane::start_tool(w.folder / "c", ostrane::make_icon_exporter());
   forms_layer::user::click(ostrane::Form1.mnu_open);
   forms_layer::user::click(ostrane::Form2.Command1);
@@ -182,7 +182,7 @@ int main(int argc, char** argv) {
     forms_layer::attach_screen(nullptr);
   }
   std::cout << starts << " starts" << std::endl;
-  files::set_drives({});
+  files::override_system({});
   fs::current_path("/");
   fs::remove_all(w.folder);
 }

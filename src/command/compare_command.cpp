@@ -16,7 +16,7 @@ void write_report(const std::string& target, const std::vector<std::string>& lin
     for (const std::string& line : lines) print_line(files::to_utf8(line));
     return;
   }
-  if (!begin_output(target)) return;
+  if (!announce_output(target)) return;
   files::binary_file stream;
   if (!open_stream(target, stream)) return files::write_lines(named_file(target), lines);
   for (const std::string& line : lines) {

@@ -32,7 +32,7 @@ entry_kind kind_of(const archive_index& index, std::size_t i) {
 
 }  // namespace
 
-files::file_path icon_names_file(const std::string& argument) {
+files::file_path require_icon_names_file(const std::string& argument) {
   if (argument.empty()) return icon_names_file_in(files::program_folder());
   files::file_path named = named_input(argument);
   files::binary_file().open_to_read(named);  // only the installed file may be missing

@@ -27,7 +27,7 @@ using descriptions = std::unordered_map<std::string, std::u8string>;
 
 // Returns the CSV file of descriptions that an argument names; "" is the installed one. Throws
 // file_error if a named file cannot be opened.
-files::file_path icon_names_file(const std::string& argument);
+files::file_path require_icon_names_file(const std::string& argument);
 
 // Reads the descriptions of a CSV file, which may be missing.
 descriptions read_descriptions(const files::file_path& icon_names);

@@ -216,7 +216,7 @@ int export_entries(const export_options& options) {
                      [&options](const std::u8string& name) {
                        return shown_as_named(path_of_argument(options.folder) / name);
                      },
-                 .on_file =
+                 .may_write =
                      [](const files::file_path& to) {
                        report_write(to.shown);
                        return !is_dry_run();

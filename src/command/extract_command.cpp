@@ -47,7 +47,7 @@ int extract_to_folder(extraction_job& job) {
        .rules = {.mode = job.options.overwrites ? files::write_mode::in_place
                                                 : files::write_mode::atomic},
        .truncates = true,
-       .on_target =
+       .may_write =
            [](const files::file_path& to) {
              report_write(to.shown);
              return !is_dry_run();
@@ -56,8 +56,7 @@ int extract_to_folder(extraction_job& job) {
   return status_of(result);
 }
 
-void copy_entry(extraction_job& job, std::size_t entry, files::binary_file& to) {
-  const entry_range range = whole_entry(job.index, entry);
+void copy_entry(extraction_job& job, const entry_range& range, files::binary_file& to) {
   std::int64_t left = size_of(range);
   job.archive.seek(range.start);
   while (left > 0) {
@@ -76,18 +75,18 @@ int extract_to_output(extraction_job& job) {
   const auto entry = static_cast<std::size_t>(
       std::find(job.chosen.begin(), job.chosen.end(), true) - job.chosen.begin());
   require_other_file(output, path_of_argument(job.options.archive));
-  whole_entry(job.index, entry);
-  if (!begin_output(output)) return status_done;
+  const entry_range range = whole_entry(job.index, entry);
+  if (!announce_output(output)) return status_done;
   files::binary_file to;
   if (open_stream(output, to)) {
-    copy_entry(job, entry, to);
+    copy_entry(job, range, to);
     to.close();
     return status_done;
   }
   const files::file_path target = named_link_target(output);
   files::clear_leftovers(target.system.parent_path());
   files::file_writer file(to, target);
-  copy_entry(job, entry, to);
+  copy_entry(job, range, to);
   file.keep();
   return status_done;
 }

@@ -79,7 +79,7 @@ void print_entries(listing& job, const std::string& argument) {
 
 int list(const list_options& options) {
   listing job = {.options = options};
-  if (job.shows_all()) job.known = read_descriptions(icon_names_file(options.icon_names));
+  if (job.shows_all()) job.known = read_descriptions(require_icon_names_file(options.icon_names));
   std::size_t unread = 0;
   for (const std::string& archive : options.archives) {
     const files::failure failed = files::failure_in([&] { print_entries(job, archive); });

@@ -38,7 +38,7 @@ bool open_stream(const std::string& argument, files::binary_file& file) {
   return true;
 }
 
-bool begin_output(const std::string& argument) {
+bool announce_output(const std::string& argument) {
   if (is_dry_run() && !is_stream(argument)) {
     files::require_writable(named_link_target(argument));
   }
@@ -47,7 +47,7 @@ bool begin_output(const std::string& argument) {
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {
-  if (!begin_output(argument)) return;
+  if (!announce_output(argument)) return;
   files::binary_file file;
   if (open_stream(argument, file)) {
     file.write(std::as_bytes(std::span(bytes)));

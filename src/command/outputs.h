@@ -18,7 +18,7 @@ bool open_stream(const std::string& argument, files::binary_file& file);
 
 // Call before an output is opened. Reports it, if the user wants that. Returns false in a dry run,
 // and then throws file_error if it could not be written.
-bool begin_output(const std::string& argument);
+bool announce_output(const std::string& argument);
 
 // Writes to a stream, or replaces a file durably. Throws the same.
 void write_result(const std::string& argument, std::string_view bytes);

@@ -54,12 +54,13 @@ bool copy_entry(extraction& job, files::binary_file& to, std::int32_t size) {
   return chunk_ladder(job.archive, to, size, job.small_block_bytes, job.progress) == size;
 }
 
-// Returns why the entry was not written, or "". Throws file_error.
+// Writes the entry, or only checks its target if it may not be written. Returns why that failed, or
+// "". Throws file_error.
 std::string write_entry(extraction& job, const std::string& name, std::int32_t size) {
   files::write_rules rules = job.choice.rules;
   rules.source = job.stamp.identity;
   const files::file_path target = job.target(name);
-  if (job.choice.on_target && !job.choice.on_target(target)) {
+  if (job.choice.may_write && !job.choice.may_write(target)) {
     require_writable(target, rules);
     return "";
   }

@@ -33,7 +33,7 @@ struct extraction_choice {
   files::write_rules rules = {.mode = files::write_mode::in_place};  // besides the source
   bool truncates = false;  // an existing file that is overwritten
   // Called before each file is written; if it returns false, that is only checked. May be null.
-  std::function<bool(const files::file_path& target)> on_target = {};
+  std::function<bool(const files::file_path& target)> may_write = {};
 };
 
 // Writes the wanted entries of an open archive, each to its own file. A full disk, a lack of memory

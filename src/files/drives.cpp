@@ -19,9 +19,10 @@ const std::vector<drive>& drives() {
 }
 
 void refresh_drives() {
-  is_known = true;
   if (is_override) return;
-  for (drive& found : system_drives()) {
+  std::vector<drive> all = system_drives();
+  is_known = true;
+  for (drive& found : all) {
     const auto same_folder = [&found](const drive& d) { return d.folder == found.folder; };
     if (std::any_of(known.begin(), known.end(), same_folder)) continue;
     while (find_drive(found.letter) != nullptr && found.letter < 'Y') ++found.letter;
@@ -31,7 +32,7 @@ void refresh_drives() {
             [](const drive& a, const drive& b) { return a.letter < b.letter; });
 }
 
-void set_drives(std::vector<drive> replacement, std::string current) {
+void override_system(std::vector<drive> replacement, std::string current) {
   is_override = !replacement.empty();
   is_known = is_override;
   known = std::move(replacement);

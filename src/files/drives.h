@@ -21,9 +21,9 @@ void refresh_drives();
 
 // Replaces the system's drives, and the current folder of the process by the tool path `current`.
 // An empty list restores the system's.
-void set_drives(std::vector<drive> replacement, std::string current = {});
+void override_system(std::vector<drive> replacement, std::string current = {});
 
-// The `current` of set_drives, or "".
+// The `current` of override_system, or "".
 const std::string& current_folder_override();
 
 // `letter` is in upper case. Returns null if the drive does not exist.

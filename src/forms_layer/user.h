@@ -8,8 +8,8 @@
 #include "forms_layer/controls.h"
 #include "forms_layer/screen.h"
 
-// The actions of a user, which the screen and the tests call. Each is one event (see run_event) and
-// does nothing if the control does not take input when the event runs.
+// The actions of a user, which the screen and the tests call. Each is one event (see run_event).
+// Those on a control do nothing if it does not take input when the event runs.
 namespace forms_layer::user {
 
 // A mouse click or its keyboard equivalent.

@@ -15,10 +15,10 @@ namespace ostrane {
 namespace {
 
 // Bytes of the entry that are inside the file.
-std::int64_t available_bytes(std::int32_t offset) {
-  const std::int64_t to_end_of_file = offset < 0 ? 0 : tool_state.archive_file.size() - offset;
-  return std::clamp<std::int64_t>(tool_state.stream.entry_bytes_left, 0,
-                                  std::max<std::int64_t>(to_end_of_file, 0));
+std::int64_t available_bytes(const entry_range& entry) {
+  const std::int64_t to_end_of_file =
+      entry.start < 0 ? 0 : tool_state.archive_file.size() - entry.start;
+  return std::clamp<std::int64_t>(size_of(entry), 0, std::max<std::int64_t>(to_end_of_file, 0));
 }
 
 std::string read_text(std::int32_t offset, std::int64_t count) {
@@ -46,7 +46,7 @@ void show_text_entry() {
   show_working_message();
   std::int64_t count = 0;
   const std::string failure = read_open_archive([&] {
-    count = available_bytes(entry.start);
+    count = available_bytes(entry);
     Form1.Text6.Text = read_text(entry.start, std::min(count, max_shown_text));
   });
   forms_layer::report(failure.empty() ? cut_text_message(count) : failure);

@@ -9,6 +9,7 @@ namespace ostrane {
 std::int32_t motion_interval();
 
 // Moves the slots of the series to one position, hides them and starts `Timer1` at that interval.
+// `Command3` and `Command4` cannot step meanwhile.
 void start_motion();
 
 // The same, and after the last slot begins again, until `end_motion`.

@@ -17,12 +17,12 @@ void place_on_current_row(forms_layer::picture_box& slot) {
   slot.Move(tool_state.next_slot_left, tool_state.next_slot_top);
   tool_state.next_slot_left += tool_state.slot_gap + slot.Width();
   slot.Visible = true;
-  ++tool_state.next_icon;
 }
 
 void begin_new_row() {
   tool_state.next_slot_top += tool_state.slot_gap + tool_state.row_height;
   tool_state.next_slot_left = grid_left;
+  tool_state.row_height = 0;
 }
 
 bool fits_on_current_row(const forms_layer::picture_box& slot) {
@@ -35,18 +35,15 @@ bool new_row_fits(const forms_layer::picture_box& slot) {
          Form1.Frame1.Height();
 }
 
-void place_in_grid(forms_layer::picture_box& slot) {
-  if (fits_on_current_row(slot)) {
-    place_on_current_row(slot);
-    if (slot.Height() > tool_state.row_height) tool_state.row_height = slot.Height();
-  } else if (new_row_fits(slot)) {
+// Returns false if the slot does not fit.
+bool place_in_grid(forms_layer::picture_box& slot) {
+  if (!fits_on_current_row(slot)) {
+    if (!new_row_fits(slot)) return false;
     begin_new_row();
-    place_on_current_row(slot);
-    tool_state.row_height = slot.Height();
-  } else {
-    tool_state.series_full = flag_true;
-    tool_state.slot_fits = flag_false;
   }
+  place_on_current_row(slot);
+  tool_state.row_height = std::max(tool_state.row_height, slot.Height());
+  return true;
 }
 
 void store_icon_data() {
@@ -94,7 +91,12 @@ void clear_slots_for_icons() {
 }
 
 void place_icon_slot() {
-  place_in_grid(Form1.s16_image(tool_state.current_slot));
+  if (place_in_grid(Form1.s16_image(tool_state.current_slot))) {
+    ++tool_state.next_icon;
+  } else {
+    tool_state.series_full = flag_true;
+    tool_state.slot_fits = flag_false;
+  }
   store_icon_data();
   update_series();
 }

@@ -20,11 +20,11 @@ void empty_slot(std::int32_t slot);
 // 100 twips.
 void clear_slots_for_icons();
 
-// Moves `current_slot`, whose size is set, to the next position of the grid and shows it, and
-// stores the icon's numbers in `slot_data`. If the slot would cross the bottom of the frame it
-// stays hidden and `slot_fits` becomes false. `series_full` becomes true when the frame is full, at
-// the last icon of the file and at `max_icons` slots. `series_next_icon` becomes the last icon
-// placed.
+// Moves `current_slot`, whose size is set, to the next position of the grid, shows it and advances
+// `next_icon`. Stores the icon's numbers in `slot_data`. If the slot would cross the bottom of the
+// frame it stays hidden and `slot_fits` becomes false. `series_full` becomes true when the frame is
+// full, at the last icon of the file and at `max_icons` slots. `series_next_icon` becomes the last
+// icon placed.
 void place_icon_slot();
 
 // Hides and clears all slots, with the default background. Empties `Text3`, stops the motion, ends

@@ -47,7 +47,7 @@ struct Desktop : testing::Test {
     ostrane::write_bytes(folder / "a.txt", "a");
     create_directories(folder / "sub");
     forms_layer::begin_process();
-    files::set_drives({{'C', "one", folder}, {'D', "two", folder / "sub"}}, "C:\\");
+    files::override_system({{'C', "one", folder}, {'D', "two", folder / "sub"}}, "C:\\");
     forms_layer::attach_screen(&screen);
     for (int i = 1; i <= 5; ++i) form.pictures.Load(i);
     form.label.BackColor = ostrane::pale_cyan;
@@ -56,7 +56,7 @@ struct Desktop : testing::Test {
   }
   ~Desktop() override {
     forms_layer::attach_screen(nullptr);
-    files::set_drives({});
+    files::override_system({});
     remove_all(folder);
   }
 
