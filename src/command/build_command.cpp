@@ -58,7 +58,8 @@ void write(build_job& job) {
   }
   const std::size_t count = job.archive.entries.size();
   make_index(job.archive, [count](std::size_t index) { show_progress(index, count, ""); });
-  if (!announce_output(job.options.archive)) return;
+  report_write(job.target.shown);
+  if (is_dry_run()) return;
   files::binary_file output;
   open_stream(job.options.archive, output);
   write_archive_to(output, job.archive, shown_progress(count));

@@ -16,7 +16,9 @@ void write_report(const std::string& target, const std::vector<std::string>& lin
     for (const std::string& line : lines) print_line(files::to_utf8(line));
     return;
   }
-  if (!announce_output(target)) return;
+  require_replaceable_in_dry_run(target);
+  report_write(files::as_utf8(target));
+  if (is_dry_run()) return;
   files::binary_file stream;
   if (!open_stream(target, stream)) return files::write_lines(named_file(target), lines);
   for (const std::string& line : lines) {

@@ -76,7 +76,9 @@ int extract_to_output(extraction_job& job) {
       std::find(job.chosen.begin(), job.chosen.end(), true) - job.chosen.begin());
   require_other_file(output, path_of_argument(job.options.archive));
   const entry_range range = whole_entry(job.index, entry);
-  if (!announce_output(output)) return status_done;
+  require_replaceable_in_dry_run(output);
+  report_write(files::as_utf8(output));
+  if (is_dry_run()) return status_done;
   files::binary_file to;
   if (open_stream(output, to)) {
     copy_entry(job, range, to);

@@ -21,8 +21,10 @@ int main(int argc, char** argv) {
     hide_progress();
     raise_stored_signal();
   } catch (const std::bad_alloc&) {
+    hide_progress();
     std::fprintf(stderr, "ostrane-dat: %s\n", files::out_of_memory_text);
   } catch (const std::exception& error) {
+    hide_progress();
     std::fprintf(stderr, "ostrane-dat: %s\n", error.what());
   }
   return status_failed;

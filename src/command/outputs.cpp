@@ -38,16 +38,15 @@ bool open_stream(const std::string& argument, files::binary_file& file) {
   return true;
 }
 
-bool announce_output(const std::string& argument) {
-  if (is_dry_run() && !is_stream(argument)) {
-    files::require_writable(named_link_target(argument));
-  }
-  report_write(files::as_utf8(argument));
-  return !is_dry_run();
+void require_replaceable_in_dry_run(const std::string& argument) {
+  if (!is_dry_run() || is_stream(argument)) return;
+  files::require_writable(named_link_target(argument));
 }
 
 void write_result(const std::string& argument, std::string_view bytes) {
-  if (!announce_output(argument)) return;
+  require_replaceable_in_dry_run(argument);
+  report_write(files::as_utf8(argument));
+  if (is_dry_run()) return;
   files::binary_file file;
   if (open_stream(argument, file)) {
     file.write(std::as_bytes(std::span(bytes)));

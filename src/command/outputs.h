@@ -16,11 +16,11 @@ bool is_stream(const std::string& argument);
 // file_error, and interruption.
 bool open_stream(const std::string& argument, files::binary_file& file);
 
-// Call before an output is opened. Reports it, if the user wants that. Returns false in a dry run,
-// and then throws file_error if it could not be written.
-bool announce_output(const std::string& argument);
+// In a dry run, throws file_error if what is at the output must not be replaced.
+void require_replaceable_in_dry_run(const std::string& argument);
 
-// Writes to a stream, or replaces a file durably. Throws the same.
+// Writes to a stream, or replaces a file durably, after a report if the user wants one. Writes
+// nothing in a dry run. Throws the same as both above.
 void write_result(const std::string& argument, std::string_view bytes);
 
 // True if both lead to the same file.

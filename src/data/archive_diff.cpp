@@ -41,7 +41,7 @@ std::u8string name_at(const side& from, std::size_t i) {
   return files::to_utf8(name_with_blanks(from.index.records[i].name));
 }
 
-void step(const diff_job& job) {
+void report_progress(const diff_job& job) {
   job.on_step(job.done, entries_of(job.old_side.index.records).size());
 }
 
@@ -55,7 +55,7 @@ bool has_same_bytes(diff_job& job, const entry_range& a, const entry_range& b) {
     block.resize(file.read(std::as_writable_bytes(std::span(block))));
   };
   for (std::int64_t left = a.size(); left > 0;) {
-    step(job);
+    report_progress(job);
     const auto size = static_cast<std::size_t>(std::min<std::int64_t>(left, read_buffer_size));
     std::string seen(size, '\0');
     std::string other(size, '\0');
@@ -82,7 +82,7 @@ std::optional<std::vector<std::size_t>> icons_that_differ(diff_job& job, const e
   const std::size_t more = std::max(old_file.positions.size(), new_file.positions.size());
   std::vector<std::size_t> numbers;
   for (std::size_t i = 0; i < more; ++i) {
-    step(job);
+    report_progress(job);
     const bool is_same =
         i < fewer && read_stored_icon(*job.stream, job.old_side.file, old_file, i) ==
                          read_stored_icon(*job.stream, job.new_side.file, new_file, i);

@@ -30,8 +30,8 @@ class window_stack {
   // Brings the topmost window to the front, even if it is minimised.
   void bring_up_topmost();
 
-  // Stores the window that has the focus, the first time in a handler. Call before a box or dialog
-  // takes it.
+  // Stores the window that has the focus, unless a handler has stored one before. Call before a box
+  // or dialog takes it.
   void store_focus();
   // The form gets the focus at the end of the handler, by `give_focus`.
   void request_focus(forms_layer::form& to) { takes_focus_ = &to; }

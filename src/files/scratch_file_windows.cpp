@@ -1,8 +1,8 @@
 #include <windows.h>
 
-#include <cerrno>
 #include <string>
 
+#include "files/last_error.h"
 #include "files/scratch_file.h"
 
 namespace files {
@@ -18,7 +18,7 @@ int open_scratch(fs::path& path) {
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE,
                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                   CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-  return file == INVALID_HANDLE_VALUE ? -EACCES
+  return file == INVALID_HANDLE_VALUE ? last_error()
                                       : static_cast<int>(reinterpret_cast<std::intptr_t>(file));
 }
 
