@@ -182,6 +182,7 @@ TEST_F(Desktop, AMessageBoxOpensOverAllChangesAndBlocksOtherEvents) {
   std::string log;
   answers boxes;
   form.timer.Timer = [&] { log += "tick "; };
+  forms_layer::application.Title = "Title";
   write([&] {
     form.timer.Interval = 1, form.timer.Enabled = true;
     form.label.Caption = "Other";
@@ -199,7 +200,7 @@ TEST_F(Desktop, AMessageBoxOpensOverAllChangesAndBlocksOtherEvents) {
     form.timer.Enabled = false;
     log += "end";
   });
-  EXPECT_EQ(log, "Ostrane.dat-tool|one\ntwo\nthree end");
+  EXPECT_EQ(log, "Title|one\ntwo\nthree end");
   activate(window);
   boxes.on_open = [](auto&) {};
   write([] { forms_layer::message_box("text"); });
