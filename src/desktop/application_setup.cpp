@@ -14,7 +14,7 @@ bool application::notify(QObject* receiver, QEvent* event) {
   try {
     if (event->type() == QEvent::KeyPress) {
       auto& press = *static_cast<QKeyEvent*>(event);
-      press.spontaneous() ? key_times_.keep(*receiver, press) : key_times_.restore(press);
+      press.spontaneous() ? key_times_.note(*receiver, press) : key_times_.restore(press);
     }
     return QApplication::notify(receiver, event);
   } catch (const std::bad_alloc&) {

@@ -5,7 +5,7 @@
 namespace desktop {
 
 // A press first goes to the window. If Qt does not keep it, it goes on to a widget.
-void key_times::keep(const QObject& receiver, const QKeyEvent& press) {
+void key_times::note(const QObject& receiver, const QKeyEvent& press) {
   if (press.timestamp() == 0) return;
   if (!receiver.isWindowType()) return kept_.clear();
   kept_.push_back({press.key(), press.timestamp()});

@@ -9,8 +9,9 @@ namespace desktop {
 // and then delivers a copy without the time of the press. This finds that time.
 class key_times {
  public:
-  // Call before `receiver` gets a spontaneous press of a key.
-  void keep(const QObject& receiver, const QKeyEvent& press);
+  // Call before `receiver` gets a spontaneous press of a key. One that reaches a widget was not
+  // kept by Qt: the times stored so far are then not needed.
+  void note(const QObject& receiver, const QKeyEvent& press);
   // Call before a press that is not spontaneous.
   void restore(QKeyEvent& press);
 
