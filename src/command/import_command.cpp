@@ -26,27 +26,35 @@ namespace {
 // What the threads of an import share.
 struct import_job {
   const import_plan& plan;
-  old_icons* old;  // may be null
+  const std::optional<old_icons>& old;
   std::vector<shp_icon> icons;
   std::atomic<std::int64_t> changed_pixels = 0;
   std::atomic<std::int64_t> changed_pictures = 0;
   std::atomic<std::int64_t> shared_pixels = 0;
 };
 
-picture marked_picture_of(const planned_icon& planned, colour_finder& colours,
-                          files::binary_file& file) {
-  if (planned.png) return read_png(read_bytes(file, *planned.png), planned.png->shown, colours);
+// What each thread has.
+struct icon_maker {
+  colour_finder colours;
+  files::binary_file png = {};
+  std::optional<old_icon_reader> old = {};
+};
+
+picture marked_picture_of(const planned_icon& planned, icon_maker& maker) {
+  if (planned.png) {
+    return read_png(read_bytes(maker.png, *planned.png), planned.png->shown, maker.colours);
+  }
   return planned.may_be_cut && planned.known ? fitted(*planned.marked, planned.known->head)
                                              : *planned.marked;
 }
 
-shp_icon make_icon_of(import_job& job, const planned_icon& planned, colour_finder& colours,
-                      files::binary_file& file) {
+shp_icon make_icon_of(import_job& job, const planned_icon& planned, icon_maker& maker) {
   if (!planned.has_picture()) return {planned.known->head, ""};
-  picture marked = marked_picture_of(planned, colours, file);
-  std::optional<picture> old;
-  if (job.old != nullptr && planned.old_index) old = job.old->picture_at(*planned.old_index);
-  const settled_picture read = settled(std::move(marked), colours.palette(), old ? &*old : nullptr);
+  picture marked = marked_picture_of(planned, maker);
+  const stored_icon old =
+      maker.old && planned.old_index ? maker.old->read(*planned.old_index) : stored_icon();
+  const settled_picture read =
+      settled(std::move(marked), maker.colours.palette(), old.drawn ? &*old.drawn : nullptr);
   job.changed_pixels += read.changed;
   job.shared_pixels += read.shared;
   if (read.changed > 0) ++job.changed_pictures;
@@ -64,10 +72,10 @@ void make_all_icons(import_job& job, const colour_finder& colours) {
   share_work(
       count,
       [&](shared_indices& indices) {
-        files::binary_file file;
-        colour_finder finder = colours;
+        icon_maker maker = {.colours = colours};
+        if (job.old) maker.old.emplace(*job.old);
         for (std::size_t i = 0; indices.take(i);) {
-          job.icons[i] = make_icon_of(job, job.plan.icons[i], finder, file);
+          job.icons[i] = make_icon_of(job, job.plan.icons[i], maker);
         }
       },
       [count](std::size_t taken) { show_progress(taken, count, ""); });
@@ -98,34 +106,34 @@ void require_separate_output(const import_options& options, const import_plan& p
   }
 }
 
-std::unique_ptr<old_icons> open_icon_file(const std::string& argument, files::binary_file& file) {
-  const files::file_path path = named_input(argument);
+old_icons icons_of_file(const files::file_path& path) {
+  files::binary_file file;
   file.open_to_read(path);
   if (file.size() < std::int64_t{shp_head_size}) {
     throw data_error(path.shown, "is too short for an icon file.");
   }
   const auto size = static_cast<std::int32_t>(std::min<std::int64_t>(file.size(), INT32_MAX));
-  return std::make_unique<old_icons>(file, read_icon_file(file, 0, size));
+  return {path, read_icon_file(file, 0, size)};
 }
 
-// Null if the archive has no entry of this name.
-std::unique_ptr<old_icons> icons_of_entry(game_file& game, const std::u8string& name) {
+// None if the archive has no entry of this name.
+std::optional<old_icons> icons_of_entry(game_file& game, const files::file_path& path,
+                                        const std::u8string& name) {
   const auto& records = game.index.records;
   const std::string wanted = files::compare_key(files::from_utf8_lossy(name));
   for (std::size_t i = 0; !wanted.empty() && i < entries_of(records).size(); ++i) {
     if (name_key(records[i].name) != wanted) continue;
-    return std::make_unique<old_icons>(
-        game.file, read_icon_file(game.file, records[i].offset, records[i + 1].offset));
+    return old_icons{path, read_icon_file(game.file, records[i].offset, records[i + 1].offset)};
   }
-  return nullptr;
+  return {};
 }
 
 // The old cells are those of --like, or of the entry that the JSON names in the archive of
 // --palette.
-std::unique_ptr<old_icons> open_old_icons(const import_options& options, const import_plan& plan,
-                                          game_file& game, files::binary_file& like) {
-  if (!options.like.empty()) return open_icon_file(options.like, like);
-  return icons_of_entry(game, plan.entry);
+std::optional<old_icons> find_old_icons(const import_options& options, game_file& game,
+                                        const files::file_path& palette, const import_plan& plan) {
+  if (!options.like.empty()) return icons_of_file(named_input(options.like));
+  return icons_of_entry(game, palette, plan.entry);
 }
 
 void report(const import_options& options, const import_job& job) {
@@ -156,13 +164,13 @@ int status_of(const import_job& job) {
 
 int import_pictures(const import_options& options) {
   game_file game;
-  read_game_file(game, named_input(options.palette));
+  const files::file_path palette = named_input(options.palette);
+  read_game_file(game, palette);
   colour_finder colours(game.colours);
   import_plan plan = make_plan(options, colours);
   require_separate_output(options, plan);
-  files::binary_file like;
-  const std::unique_ptr<old_icons> old = open_old_icons(options, plan, game, like);
-  if (!options.like.empty()) keep_layout(plan, old->file(), old->icons());
+  const std::optional<old_icons> old = find_old_icons(options, game, palette, plan);
+  if (!options.like.empty()) keep_layout(plan, *old);
   remove_empty_end(plan);
   if (plan.icons.empty()) {
     throw data_error(files::as_utf8(options.sources.front()), "contains no pictures.");
@@ -170,10 +178,8 @@ int import_pictures(const import_options& options) {
   if (plan.icons.size() > static_cast<std::size_t>(max_icons_per_file)) {
     throw data_error("An icon file has at most " + std::to_string(max_icons_per_file) + " icons.");
   }
-  import_job job = {
-      .plan = plan, .old = old.get(), .icons = std::vector<shp_icon>(plan.icons.size())};
+  import_job job = {.plan = plan, .old = old, .icons = std::vector<shp_icon>(plan.icons.size())};
   make_all_icons(job, colours);
-  like.close();  // Windows does not replace an open file
   write_result(options.icon_file, shared_shp_file(job.icons, plan.identifier));
   report(options, job);
   return status_of(job);

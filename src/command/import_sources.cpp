@@ -306,15 +306,16 @@ import_plan plan_of(const std::vector<std::string>& sources, const std::string& 
   return std::move(job.plan);
 }
 
-void keep_layout(import_plan& plan, files::binary_file& file, const icon_file& from) {
+void keep_layout(import_plan& plan, const old_icons& from) {
   std::vector<planned_icon> pictures = pictures_of(std::exchange(plan.icons, {}));
-  plan.identifier = from.head.identifier;
-  const auto stream = std::make_unique<icon_stream>();
+  plan.identifier = from.icons.head.identifier;
+  old_icon_reader reader(from);
+  const std::size_t count = from.icons.positions.size();
   auto next = pictures.begin();
-  for (std::size_t i = 0; i < from.positions.size(); ++i) {
-    const stored_icon old = read_stored_icon(*stream, file, from, i);
+  for (std::size_t i = 0; i < count; ++i) {
+    const stored_icon old = reader.read(i);
     if (old.drawn && next == pictures.end()) {
-      plan.left_out = static_cast<std::int64_t>(from.positions.size() - i);
+      plan.left_out = static_cast<std::int64_t>(count - i);
       break;
     }
     planned_icon icon = old.drawn ? std::move(*next++) : planned_icon();

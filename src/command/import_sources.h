@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "data/colour_finder.h"
-#include "data/icon_file.h"
 #include "data/new_icon.h"
+#include "data/old_icons.h"
 #include "files/failure.h"
 
 namespace ostrane::command {
@@ -43,10 +43,10 @@ struct grid_size {
 import_plan plan_of(const std::vector<std::string>& sources, const std::string& stem,
                     const grid_size& grid, colour_finder& colours);
 
-// Keeps identifier, heads and order of an old icon file, which is open. Its drawable icons get the
-// pictures of `plan` in order; its other icons keep their positions. The first drawable icon
-// without a picture and all icons after it are left out. Throws file_error.
-void keep_layout(import_plan& plan, files::binary_file& file, const icon_file& from);
+// Keeps identifier, heads and order of an old icon file. Its drawable icons get the pictures of
+// `plan` in order; its other icons keep their positions. The first drawable icon without a picture
+// and all icons after it are left out. Throws file_error.
+void keep_layout(import_plan& plan, const old_icons& from);
 
 // Removes the unset pictures at the end of a grid.
 void remove_empty_end(import_plan& plan);

@@ -37,10 +37,16 @@ struct growing_file {
   std::size_t entry = shp_head_size;  // offset of the next directory entry
 };
 
-growing_file file_without_icons(const shp_identifier& identifier, std::size_t icons) {
+// Reserves room for the icons, as a growing text would be copied again and again.
+growing_file file_without_icons(const shp_identifier& identifier,
+                                const std::vector<shp_icon>& icons) {
+  const std::size_t directory_end = shp_head_size + shp_dir_entry_size * icons.size();
   growing_file file = {.bytes = std::string(identifier.begin(), identifier.end())};
-  append(file.bytes, static_cast<std::int32_t>(icons));
-  file.bytes.resize(shp_head_size + shp_dir_entry_size * icons);
+  append(file.bytes, static_cast<std::int32_t>(icons.size()));
+  std::size_t size = directory_end;
+  for (const shp_icon& icon : icons) size += icon_head_size + icon.stream.size();
+  file.bytes.reserve(std::min(size, std::size_t{INT32_MAX}));
+  file.bytes.resize(directory_end);
   return file;
 }
 
@@ -112,13 +118,13 @@ shp_icon make_icon(const picture& drawn) {
 }
 
 std::string shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
-  growing_file file = file_without_icons(identifier, icons.size());
+  growing_file file = file_without_icons(identifier, icons);
   for (const shp_icon& icon : icons) add_icon(file, bytes_of(icon));
   return std::move(file.bytes);
 }
 
 std::string shared_shp_file(const std::vector<shp_icon>& icons, const shp_identifier& identifier) {
-  growing_file file = file_without_icons(identifier, icons.size());
+  growing_file file = file_without_icons(identifier, icons);
   std::unordered_multimap<std::size_t, std::size_t> known;  // offsets by the hashes of icons
   for (const shp_icon& icon : icons) {
     const std::string bytes = bytes_of(icon);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <utility>
 
@@ -9,25 +8,29 @@
 
 namespace ostrane {
 
-// The icon file with the old cells, in a file that is open.
-class old_icons {
+// The icon file with the old cells.
+struct old_icons {
+  files::file_path path;  // of the icon file or its archive
+  icon_file icons;
+};
+
+// Reads the old cells. Each thread has its own.
+class old_icon_reader {
  public:
-  old_icons(files::binary_file& file, icon_file from) : file_(file), from_(std::move(from)) {}
+  // Throws file_error.
+  explicit old_icon_reader(const old_icons& from) : icons_(from.icons) {
+    file_.open_to_read(from.path);
+  }
 
-  const icon_file& icons() const { return from_; }
-  files::binary_file& file() { return file_; }
-
-  // Threads may call it.
-  std::optional<picture> picture_at(std::size_t index) {
-    if (index >= from_.positions.size()) return {};
-    const std::lock_guard<std::mutex> one_at_a_time(mutex_);
-    return read_stored_icon(*stream_, file_, from_, index).drawn;
+  // Throws file_error.
+  stored_icon read(std::size_t index) {
+    if (index >= icons_.positions.size()) return {};
+    return read_stored_icon(*stream_, file_, icons_, index);
   }
 
  private:
-  files::binary_file& file_;
-  icon_file from_;
-  std::mutex mutex_;
+  const icon_file& icons_;
+  files::binary_file file_;
   std::unique_ptr<icon_stream> stream_ = std::make_unique<icon_stream>();
 };
 

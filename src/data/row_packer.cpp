@@ -85,29 +85,26 @@ void row_packer::find_steps() {
   }
 }
 
-void row_packer::append_ops(std::string& stream) {
-  ops_.clear();
-  for (std::size_t end = columns_.size(); end > 0; end -= ops_.back().columns) {
-    ops_.push_back(steps_[end]);
-  }
-  std::reverse(ops_.begin(), ops_.end());
-  std::size_t at = 0;
-  for (const step& op : ops_) {
+void row_packer::append_ops(std::string& stream) const {
+  std::size_t end = columns_.size();
+  stream.resize(stream.size() + static_cast<std::size_t>(steps_[end].bytes));
+  auto to = stream.rbegin();
+  while (end > 0) {
+    const step& op = steps_[end];
+    const auto last = columns_.rend() - static_cast<std::ptrdiff_t>(end);
+    end -= op.columns;
     if (op.kind == op_kind::skip) {
-      stream += '\1';
-      stream += static_cast<char>(op.columns);
+      *to++ = static_cast<char>(op.columns);
+      *to++ = '\1';
     } else if (op.kind == op_kind::run) {
-      stream += static_cast<char>(2 * op.columns);
-      stream += static_cast<char>(columns_[at + op.columns - 1]);
+      *to++ = static_cast<char>(*last);
+      *to++ = static_cast<char>(2 * op.columns);
     } else {
-      stream += static_cast<char>(2 * op.columns + 1);
-      const auto first = columns_.begin() + static_cast<std::ptrdiff_t>(at);
-      stream.resize(stream.size() + op.columns);
-      std::transform(first, first + op.columns, stream.end() - op.columns, [](std::int16_t cell) {
+      to = std::transform(last, last + op.columns, to, [](std::int16_t cell) {
         return static_cast<char>(std::max<std::int16_t>(cell, 0));
       });
+      *to++ = static_cast<char>(2 * op.columns + 1);
     }
-    at += op.columns;
   }
 }
 

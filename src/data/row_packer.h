@@ -23,11 +23,11 @@ class row_packer {
     std::uint8_t columns;  // of the operation
   };
   void find_steps();
-  void append_ops(std::string& stream);
+  // Fills the stream from its end, as each step tells the one before.
+  void append_ops(std::string& stream) const;
 
   std::vector<std::int16_t> columns_;  // cells, preceded by a `free_cell` per outside column
   std::vector<step> steps_;
-  std::vector<step> ops_;
 };
 
 }  // namespace ostrane
