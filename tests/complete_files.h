@@ -29,6 +29,7 @@ struct failed_call {
 inline const failed_call failed_calls[] = {
     {{.reason = ENOSPC}, "the disk is full"},
     {{.reason = ENOSPC, .lasting = true}, "the disk is full"},
+    {{.reason = EFBIG}, "it would be larger than the system allows"},
     {{.reason = EIO}, "Input/output error"},
     {{.reason = EIO, .lasting = true}, "Input/output error"},
     {{.kind = call_fault::lies, .reason = EIO}, "Input/output error"},

@@ -81,17 +81,15 @@ TEST_F(failing_disk_test, OutOfMemoryEndsOnlyTheCommand) {
   }
 }
 
-// A build and an extraction of a file that is larger than the limit.
-TEST_F(failing_disk_test, FileSizeLimitLeavesNoPartialFile) {
-  const rlimit limit = {50000, 50000};
-  for (const file_job* job : {&jobs[0], &jobs[1]}) {
-    prepare(*job);
-    const job_result before = result_of([] {});
-    run_in_process([&] {
-      EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-      const job_result after = result_of(job->job);
-      check(*job, "write_some", "it would be larger than the system allows", false, after, before);
-      expect_complete_files(after.files, before.files, {{"D/OUT/0.TXT", ""}});
-    });
-  }
+// The signal of the system does not end the program.
+TEST_F(failing_disk_test, ABuildOverTheFileSizeLimitFails) {
+  prepare(jobs[0]);
+  run_in_process([&] {
+    const rlimit limit = {50000, 50000};
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    jobs[0].job();
+    EXPECT_EQ(new_messages(),
+              texts{"D:\\work\\OSTRANE.DAT cannot be written: it would be larger than the system "
+                    "allows. No new archive was made."});
+  });
 }

@@ -6,7 +6,7 @@
 #include "files/paths.h"
 #include "tool_fixture.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using files_windows_test = tool_test;
 
@@ -98,5 +98,3 @@ TEST_F(files_windows_test, KeepsAttributes) {
     SetFileAttributesW(archive.c_str(), FILE_ATTRIBUTE_NORMAL);
   }
 }
-
-}  // namespace ostrane

@@ -63,24 +63,6 @@ TEST_F(lists_test, OverwritesAListThatCannotBeReplaced) {
   }
 }
 
-// Its other name may be a private file, whose permissions must stay.
-TEST_F(lists_test, RefusesALockFileWithAnotherName) {
-  const fs::path lock = disk_path("D:\\.SHPLIST.TXT.lock");
-  const fs::path other = disk_path("D:\\private");
-  write("D:\\private", "");
-  fs::permissions(other, fs::perms{0600});
-  for (const std::string reason : {"it is a link", "it has several names"}) {
-    fs::remove(lock);
-    const bool is_link = reason == "it is a link";
-    is_link ? fs::create_symlink(other, lock) : fs::create_hard_link(other, lock);
-    save_list();
-    EXPECT_EQ(new_messages(), texts{"The list of files was not saved. .SHPLIST.TXT.lock cannot be "
-                                    "opened: " +
-                                    reason + "."});
-    EXPECT_EQ(fs::status(other).permissions(), fs::perms{0600});
-  }
-}
-
 // Only the owner can open a new file until it has the permissions of the old one. A group that it
 // cannot have gets those of others. Every user can lock.
 TEST_F(lists_test, NewFileIsNotReadableForMoreUsersThanTheOldOne) {

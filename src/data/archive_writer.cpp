@@ -37,7 +37,7 @@ void refuse_other_bytes(const old_archive& old) {
   const std::int64_t others = std::max<std::int64_t>(before, 0) + std::max<std::int64_t>(after, 0);
   if (others == 0) return;
   throw data_error(old.path.shown, "has " + counted(others, "byte") +
-                                       " that belong to no entry and would be lost.");
+                                       " outside its entries, which would be lost.");
 }
 
 // Sets the records of a new archive.

@@ -66,7 +66,7 @@ std::vector<std::filesystem::path::string_type> file_paths(const new_archive& ar
 
 // Measures the sources and sets `records`. `on_entry` is called before each of them and may be
 // null. Throws file_error, and data_error if there are too many entries or bytes, if an old entry
-// exceeds the old archive, or if that has bytes that belong to no entry and would be lost.
+// exceeds the old archive, or if that has bytes outside its entries, which would be lost.
 void make_index(new_archive& archive, const std::function<void(std::size_t index)>& on_entry = {});
 
 // Writes an archive to an open file. Without records each file is measured when it is opened, and

@@ -6,7 +6,7 @@
 #include "files/program_folder.h"
 
 // Copies of ostrane-dat that build in one folder at the same time.
-namespace ostrane {
+using namespace ostrane;
 
 using builds_windows_test = command_test;
 
@@ -81,5 +81,3 @@ TEST_F(builds_windows_test, PairsOfCopiesLeaveACompleteArchive) {
   }
   EXPECT_GT(complete, 0);
 }
-
-}  // namespace ostrane

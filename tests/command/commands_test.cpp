@@ -1,17 +1,10 @@
 #include "transcript.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using commands_test = transcript_test;
 
 TEST_F(commands_test, PrintsItsTranscript) { replay("commands.txt"); }
-
-TEST_F(commands_test, KeepsWhatAnotherProgramWritesBeforeTheRename) {
-  const std::string archive = archive_bytes({{"A.TXT", "a"}, {"B.TXT", "b"}});
-  write_bytes("a.dat", archive);
-  EXPECT_EQ(run_beside_a_writer({"flush_to_disk", "remove", "a.dat", "A.TXT"}).status, 2);
-  EXPECT_EQ(bytes_of("a.dat"), archive + "x");
-}
 
 // The entry comes from another program before the second attempt.
 TEST_F(commands_test, AddsNothingThatWouldReplaceANewEntry) {
@@ -25,5 +18,3 @@ TEST_F(commands_test, AddsNothingThatWouldReplaceANewEntry) {
   EXPECT_EQ(run("add a.dat longer_than_this.txt").status, 2);
   EXPECT_EQ(bytes_of("a.dat"), other);
 }
-
-}  // namespace ostrane

@@ -2,7 +2,7 @@
 #include "complete_files.h"
 #include "data/icon_packer.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 struct failing_commands_test : command_test {
   static void prepare() {
@@ -60,5 +60,3 @@ TEST_F(failing_commands_test, FaultsLeaveTheOldOrTheCompleteNewFile) {
   RecordProperty("faults", tried);
   EXPECT_GT(tried, 2000);
 }
-
-}  // namespace ostrane

@@ -8,7 +8,7 @@
 #include "random_icons.h"
 #include "transcript.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 struct pictures_test : transcript_test {
   pictures_test() {
@@ -157,5 +157,3 @@ TEST(colour_finder_test, OneOfSeveralIndicesIsTheNearest) {
   EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
   EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
 }
-
-}  // namespace ostrane

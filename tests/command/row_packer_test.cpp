@@ -9,7 +9,7 @@
 #include "data/picture.h"
 #include "random_icons.h"
 
-namespace ostrane {
+using namespace ostrane;
 
 using row = std::vector<std::int16_t>;
 
@@ -65,5 +65,3 @@ TEST(row_packer_test, PacksLongRowsIntoTheShortestStream) {
     EXPECT_EQ(stream.size(), bytes) << outside << " and " << cells.size();
   }
 }
-
-}  // namespace ostrane

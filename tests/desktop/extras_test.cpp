@@ -314,12 +314,3 @@ TEST_F(Extras, ToolTipsTellMore) {
   EXPECT_TRUE(Qt::mightBeRichText(widget_of(*window, Form1.Text5)->toolTip()))
       << "has several lines";
 }
-
-TEST_F(Extras, ShiftPlaysTheMotionInALoop) {
-  const auto after_five_ticks = [] {
-    for (int i = 0; i < 5; ++i) write([] { Form1.Timer1.Timer(); });
-    return std::string(Form1.Timer1.Enabled() ? "moves" : "has ended");
-  };
-  play(after_five_ticks,
-       {{"List1#2 press; Command5 Space", "has ended"}, {"Command5 Shift+Space", "moves"}});
-}

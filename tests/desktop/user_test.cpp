@@ -16,6 +16,7 @@ TEST_F(Input, ReachesTheTool) {
   form.list.Click = [&] { log += "click" + std::to_string(form.list.ListIndex()) + " "; };
   form.list.DblClick = [&] { log += "double" + std::to_string(form.list.ListIndex()) + " "; };
   form.button.Click = [&] { log += "go "; };
+  form.button.ShiftClick = [&] { log += "loop "; };
   form.inner.Click = [&] { log += "inner:" + form.page.Text() + " "; };
   form.label.Click = [&] { log += "label "; };
   form.field.LostFocus = [&] { log += "lost:" + form.field.Text() + " "; };
@@ -46,6 +47,7 @@ TEST_F(Input, ReachesTheTool) {
                           {"drives wheel; drives wheel-back", ""},
                           {"drives Down", "d: [two] "}};
   const steps of_controls = {{"button Return; button hold Return; button Space", "go go "},
+                             {"button Shift+Space; button Shift+press", "loop loop "},
                              {"field Esc", "go "},
                              {"inner right", ""},
                              {"label press; label Return", "label label "},
