@@ -30,8 +30,9 @@ struct extraction_job {
   files::case_insensitive_lookup names = {};
 };
 
-// Returns why nothing can be extracted, or "".
-std::string open_for_extraction(extraction_job& job) {
+// Removes leftovers from the folder and opens the archive. Returns why nothing can be extracted, or
+// "".
+std::string prepare_extraction(extraction_job& job) {
   if (!files::folder_exists(job.folder)) {
     return "The folder " + job.folder + " is not there. Make it or choose another.";
   }
@@ -85,7 +86,7 @@ std::string result_message(const extraction_result& result, const std::string& t
 
 void extract_all_entries() {
   extraction_job job = {.folder = files::with_separator(Form4.Text1.Text())};
-  const std::string failure = open_for_extraction(job);
+  const std::string failure = prepare_extraction(job);
   if (!failure.empty()) {
     tool_state.archive_file.close();
     return forms_layer::message_box(failure + " Nothing was extracted.");

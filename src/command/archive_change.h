@@ -13,7 +13,8 @@ namespace ostrane::command {
 void change_archive(const std::string& argument,
                     const std::function<bool(new_archive& archive)>& edit);
 
-// Replaces `target` unless this is a dry run. Notes other names of the old file. Throws the same.
+// Replaces `target`; in a dry run only checks it and the new index. Notes other names of the old
+// file. Throws the same.
 void write_changed(new_archive& archive, const files::file_path& target,
                    files::write_rules rules = {});
 

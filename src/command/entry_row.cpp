@@ -19,7 +19,7 @@ std::optional<std::int32_t> icons_of(files::binary_file& archive, const entry_ro
   shp_head head;
   if (entry.kind != entry_kind::icons || entry.size < std::int64_t{shp_head_size}) return {};
   if (!read_shp_head(archive, entry.offset, head)) return {};
-  return head.icon_count;
+  return std::max(head.icon_count, 0);
 }
 
 std::int64_t size_of(const archive_index& index, std::size_t i) {

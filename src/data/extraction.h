@@ -32,7 +32,8 @@ struct extraction_choice {
   bool entries_are_adjacent = true;
   files::write_rules rules = {.mode = files::write_mode::in_place};  // besides the source
   bool truncates = false;  // an existing file that is overwritten
-  // Called before each file is written; if it returns false, that is only checked. May be null.
+  // Called before each file is written. If it returns false, the file is only checked for being
+  // writable, and counts as written. May be null.
   std::function<bool(const files::file_path& target)> may_write = {};
 };
 

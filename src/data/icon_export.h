@@ -44,7 +44,7 @@ struct icon_export {
 // of the files cannot be replaced.
 using icon_exporter = void (*)(export_output& output, const icon_export& wanted);
 
-// Returns the names of the files that an export of an icon file with `last` icons can write.
+// Returns the names of the files that an export of the icons up to number `last` can write.
 std::vector<std::u8string> exported_files(picture_form form, const std::u8string& stem,
                                           std::size_t first, std::size_t last);
 

@@ -8,7 +8,8 @@
 
 namespace ostrane {
 
-// Reads the head of an icon file at a file offset. Returns false if the file ends before it does.
+// Reads the head of an icon file at a file offset. Returns false if the file ends before it does
+// or the offset is negative.
 bool read_shp_head(files::binary_file& file, std::int32_t entry_offset, shp_head& head);
 
 // Reads the directory at the current position. Sets `positions` to the 1-based file positions of

@@ -41,7 +41,7 @@ class accessible_picture : public QAccessibleInterface, public QAccessibleAction
     QAccessible::State now;
     now.focusable = true;
     now.invisible = picture().rect.isNull();
-    now.focused = canvas_.hasFocus() && canvas_.cursor() == index;
+    now.focused = canvas_.hasFocus() && !now.invisible && canvas_.cursor() == index;
     return now;
   }
   void* interface_cast(QAccessible::InterfaceType type) override {

@@ -6,7 +6,8 @@
 
 namespace desktop {
 
-// Drops an event if memory runs out outside the tool's handlers, and restores the times of keys.
+// Drops an event if memory runs out outside the tool's handlers, restores the times of keys and
+// counts the releases of mouse buttons.
 class application : public QApplication {
  public:
   using QApplication::QApplication;

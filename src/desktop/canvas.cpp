@@ -79,8 +79,10 @@ void canvas::sync_pictures() {
 
 void canvas::show_all() {
   dirty_.clear();
+  appeared_ = pictures_.size();
   for (picture& p : pictures_) sync(p);
   damage_ = {};
+  if (zoom_->is_open()) follow_in_zoom();
   update();
 }
 

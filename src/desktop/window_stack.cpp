@@ -30,9 +30,7 @@ void window_stack::sync() {
     if (!form->Visible()) hide_window(*form);
   }
   // If memory runs out before, the next sync shows and hides them.
-  std::erase_if(dirty_, [&dirty](const forms_layer::form* form) {
-    return std::find(dirty.begin(), dirty.end(), form) != dirty.end();
-  });
+  dirty_.erase(dirty_.begin(), dirty_.begin() + std::ssize(dirty));
 }
 
 void window_stack::show_window(forms_layer::form& shown) {

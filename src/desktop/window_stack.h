@@ -20,7 +20,8 @@ class window_stack {
   // The window shown last whose form is visible, other than that of `except`; null if there is
   // none.
   form_window* topmost(const forms_layer::form* except = nullptr) const;
-  // The owner of a dialog: the window that had the focus before the first box of the handler.
+  // The owner of a dialog: the window that had the focus before the first box of the handler, or
+  // the topmost one.
   form_window* dialog_owner() const { return before_box() == nullptr ? topmost() : before_box(); }
 
   // A form was shown or hidden. `sync` shows and hides the windows.

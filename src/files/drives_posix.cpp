@@ -8,7 +8,7 @@
 #include "files/drives.h"
 
 // POSIX has no drives. C: is the user's home folder, Z: the root of the file system, and the
-// letters from D: on are the mounted media.
+// letters from D: on are the folders in which systems mount media.
 namespace files {
 
 namespace {

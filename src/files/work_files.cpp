@@ -47,8 +47,8 @@ native stem_of_new(const native& name) {
   const std::size_t ending = 1 + time_digits + new_ending.size();
   if (!name.ends_with(new_ending) || name.size() < ending) return {};
   const native time = name.substr(name.size() - ending, 1 + time_digits);
-  const auto is_digit = [](auto c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
-  if (time.front() != '.' || !std::all_of(time.begin() + 1, time.end(), is_digit)) return {};
+  const auto is_hex_digit = [](auto c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
+  if (time.front() != '.' || !std::all_of(time.begin() + 1, time.end(), is_hex_digit)) return {};
   return stem_before(name, ending);
 }
 

@@ -22,7 +22,7 @@ class file_list : public path_control {
   // The selected name, or "".
   const std::string& FileName() const { return List(ListIndex()); }
 
-  // Selects nothing.
+  // Reads the folder again. No row is selected then.
   void Refresh() override;
 
  private:

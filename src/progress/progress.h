@@ -30,8 +30,8 @@ void advance_total_bar(std::int16_t& tick, std::int16_t files_per_step, std::siz
 // Moves `ProgressBar1` to this number of bytes.
 void move_file_bar(std::int32_t value);
 
-// Writes the working text into `Form3` and lets the screen repaint it; neither shows nor hides
-// anything.
+// Writes the working text and its caption into `Form3` and lets the screen repaint it; neither
+// shows nor hides anything.
 void show_working_message();
 
 // Shows a text in `Form3` until the user clicks it. The click calls `close_report`, which hides and
