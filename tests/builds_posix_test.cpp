@@ -117,36 +117,13 @@ TEST_F(builds_test, LosingTheTemporaryFileKeepsTheOldArchive) {
   check({});
 }
 
-// One is locked by a running copy, one is a link, and the names of the last three only look alike.
-// The new archive is flushed before it replaces the old one, which is a link, and the folder after.
-TEST_F(builds_test, RemovesOnlyTheTemporaryFilesOfEndedCopies) {
-  restart_with(sources);
-  write("C:\\elsewhere", "kept");
-  fs::create_symlink("../elsewhere", disk_path("C:\\work\\OSTRANE.DAT"));
-  const auto name = [](const std::string& stem, const std::string& digit) {
-    return "." + stem + ".000000000000000" + digit + ".new";
-  };
-  texts kept = {name("OSTRANE.DAT", "2"), name("OSTRANE.DAT", "3"), ".OSTRANE.DAT.x.new",
-                name("other.dat", "1"), ".OTHERS.lock"};
-  texts all = {name("OSTRANE.DAT", "1"), ".OSTRANE.DAT.lock", name("F00.DAT", "1"),
-               ".F00.DAT.lock"};
-  all.insert(all.end(), kept.begin(), kept.end());
-  for (const std::string& made : all) write("C:\\work\\" + made, "");
-  const fs::path link = disk_path("C:\\work\\" + kept[1]);
-  fs::remove(link);
-  fs::create_symlink("../elsewhere", link);
-  const int held = files::system_calls.open_to_read(disk_path("C:\\work\\" + kept[0]));
-  EXPECT_EQ(files::system_calls.lock(held), 0);
+// The new archive is flushed before it replaces the old one, and the folder after.
+TEST_F(builds_test, FlushesTheArchiveAndThenTheFolder) {
+  restart_beside("OSTRANE.DAT");
   failing_calls none;
   build_in();
-  files::system_calls.close_file(held);
   std::erase_if(none.calls, [](const std::string& call) {
     return call != "replace" && !call.starts_with("flush_");
   });
   EXPECT_EQ(none.calls, (texts{"flush_to_disk", "replace", "flush_folder"}));
-  kept.insert(kept.end(), {"OSTRANE.DAT", "a.txt", "b.txt", "c.txt"});
-  std::sort(kept.begin(), kept.end());
-  EXPECT_EQ(names_in("C:\\work"), kept);
-  EXPECT_TRUE(fs::is_symlink(link) && read("C:\\elsewhere") == "kept");
-  EXPECT_TRUE(read("C:\\work\\OSTRANE.DAT") == archive);
 }

@@ -36,8 +36,8 @@ void refuse_other_bytes(const old_archive& old) {
       old.index.stamp.size - (records.empty() ? first : records.back().offset);
   const std::int64_t others = std::max<std::int64_t>(before, 0) + std::max<std::int64_t>(after, 0);
   if (others == 0) return;
-  throw data_error(old.path.shown, "has " + counted(others, "byte") +
-                                       " outside its entries, which would be lost.");
+  throw data_error(old.path.shown,
+                   "has " + counted(others, "byte") + " outside its entries, which would be lost.");
 }
 
 // Sets the records of a new archive.
