@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
-#include <memory>
 
 #include "command/commands.h"
 #include "command/console.h"
@@ -113,7 +112,7 @@ old_icons icons_of_file(const files::file_path& path) {
     throw data_error(path.shown, "is too short for an icon file.");
   }
   const auto size = static_cast<std::int32_t>(std::min<std::int64_t>(file.size(), INT32_MAX));
-  return {path, read_icon_file(file, 0, size)};
+  return {path, file.info().stamp, read_icon_file(file, 0, size)};
 }
 
 // None if the archive has no entry of this name.
@@ -123,7 +122,8 @@ std::optional<old_icons> icons_of_entry(game_file& game, const files::file_path&
   const std::string wanted = files::compare_key(files::from_utf8_lossy(name));
   for (std::size_t i = 0; !wanted.empty() && i < entries_of(records).size(); ++i) {
     if (name_key(records[i].name) != wanted) continue;
-    return old_icons{path, read_icon_file(game.file, records[i].offset, records[i + 1].offset)};
+    return old_icons{path, game.index.stamp,
+                     read_icon_file(game.file, records[i].offset, records[i + 1].offset)};
   }
   return {};
 }

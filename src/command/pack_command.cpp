@@ -56,7 +56,7 @@ void pack_entries(packing& job, const pack_options& options, new_archive& archiv
     const bool is_wanted = !options.names.empty() || is_icon_file(entry);
     if (chosen[*entry.old_index] && is_wanted) pack_entry(job, index, entry);
   }
-  require_unchanged(job.archive, index.stamp, "packing");
+  open_unchanged(job.archive, archive.old->path, index.stamp);
   job.archive.close();  // Windows does not replace an open file
 }
 

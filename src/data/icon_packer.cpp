@@ -37,6 +37,9 @@ struct growing_file {
   std::size_t entry = shp_head_size;  // offset of the next directory entry
 };
 
+// Equal icons need less room than is reserved for them.
+constexpr std::size_t max_reserved = std::size_t{64} << 20U;
+
 // Reserves room for the icons, as a growing text would be copied again and again.
 growing_file file_without_icons(const shp_identifier& identifier,
                                 const std::vector<shp_icon>& icons) {
@@ -45,7 +48,7 @@ growing_file file_without_icons(const shp_identifier& identifier,
   append(file.bytes, static_cast<std::int32_t>(icons.size()));
   std::size_t size = directory_end;
   for (const shp_icon& icon : icons) size += icon_head_size + icon.stream.size();
-  file.bytes.reserve(std::min(size, std::size_t{INT32_MAX}));
+  file.bytes.reserve(std::min(size, max_reserved));
   file.bytes.resize(directory_end);
   return file;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <memory>
-#include <optional>
-#include <utility>
 
+#include "data/archive_index.h"
 #include "data/icon_file.h"
 
 namespace ostrane {
@@ -11,15 +10,17 @@ namespace ostrane {
 // The icon file with the old cells.
 struct old_icons {
   files::file_path path;  // of the icon file or its archive
+  files::file_stamp stamp;
   icon_file icons;
 };
 
-// Reads the old cells. Each thread has its own.
+// Reads the old cells. Each thread has its own, which ends before the result is written: Windows
+// does not replace an open file.
 class old_icon_reader {
  public:
-  // Throws file_error.
+  // Throws file_error, and archive_changed if the file has changed.
   explicit old_icon_reader(const old_icons& from) : icons_(from.icons) {
-    file_.open_to_read(from.path);
+    open_unchanged(file_, from.path, from.stamp);
   }
 
   // Throws file_error.

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <future>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -27,12 +27,13 @@ std::vector<std::future<void>> start_threads(std::size_t count, const shared_fun
   constexpr std::size_t max_threads = 8;
   const auto wanted = std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, max_threads);
   std::vector<std::future<void>> threads;
+  threads.reserve(wanted);
   try {
     while (threads.size() < std::min(wanted, count)) {
       threads.push_back(std::async(std::launch::async, [&] { work_or_stop(work, indices); }));
     }
-  } catch (const std::system_error&) {
-    // The system allows no more threads.
+  } catch (const std::exception&) {
+    // The system allows no more threads, or memory is short.
   }
   return threads;
 }

@@ -30,7 +30,7 @@ void window_stack::sync() {
     if (!form->Visible()) hide_window(*form);
   }
   // If memory runs out before, the next sync shows and hides them.
-  dirty_.erase(dirty_.begin(), dirty_.begin() + std::ssize(dirty));
+  dirty_.erase(dirty_.begin(), dirty_.begin() + std::min(std::ssize(dirty), std::ssize(dirty_)));
 }
 
 void window_stack::show_window(forms_layer::form& shown) {

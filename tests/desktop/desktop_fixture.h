@@ -15,7 +15,9 @@ namespace fs = std::filesystem;
 
 // A form with each kind of control, on a drive with the folder "sub" and the file "a.txt".
 struct all_kinds : forms_layer::form {
-  all_kinds() : form({"all_kinds", "All kinds", 6000, 6000, true, true}) {}
+  all_kinds() : form({"all_kinds", "All kinds", 6000, 6000, true, true}) {
+    keys = {{"F7", "a key", [] {}}};
+  }
 
   forms_layer::list_box list{*this, {.name = "list", .at = {0, 1800, 1500, 600}}};
   forms_layer::label label{*this, {.name = "label", .at = {0, 0, 1500, 300}, .text = "Label"}};

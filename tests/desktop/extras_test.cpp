@@ -44,7 +44,8 @@ TEST_F(Extras, TheSearchGoesFromHitToHit) {
               {"Ctrl+G", "Go to number/of 5/ 0 shows 0"},
               {"'4; Return", "3 shows 3"},
               {"Ctrl+G; '6; Return", "3 shows 3"},
-              {"Ctrl+G; '1; Enter", "0 shows 0"}});
+              {"Ctrl+G; '1; Enter", "0 shows 0"},
+              {"Ctrl+F", "1/0/ 0 shows 0"}});
 }
 
 // The enlarged picture has 40, 60 or 80 pixels.
@@ -73,6 +74,9 @@ TEST_F(Extras, OnePictureIsEnlarged) {
   EXPECT_EQ(after(Form1.Timer1.Timer), "80(8,53 84x84)");
   EXPECT_EQ(after(Form1.Timer1.Timer), "120(8,53 124x124)");
   EXPECT_EQ(after(Form1.Timer1.Timer, 2), "160(8,53 164x164)");
+  act(*window, "pictures Space");
+  EXPECT_EQ(ostrane::Form3.Caption(), "Icon-data for picture number:  3, on this screen.");
+  act(*screen.window_of(ostrane::Form3), "message Return");
   EXPECT_EQ(after(Form1.Command3.Click), "120(8,53 124x124)");
   play(seen, {{"Ctrl+-", ""},
               {"Ctrl++; Ctrl++; Ctrl++", "240(8,53 244x244)"},

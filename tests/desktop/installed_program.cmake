@@ -32,6 +32,7 @@ endfunction()
 
 expect_error(--nonsense)
 expect_error(one.dat two.dat)
+expect_error(--help one.dat)
 expect(--version "Ostrane.dat-tool ${VERSION}\n")
 expect(--help "  ${program_folder}/iconlist.csv\n")
 

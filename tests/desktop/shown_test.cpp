@@ -61,6 +61,12 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
     EXPECT_FALSE(widget->isEnabled());
     EXPECT_EQ(widget->toolTip(), "<p style=\"white-space:pre-wrap\">a &lt;b&gt; tip</p>");
   }
+  write([&] { form.frame.Width = 1500; });
+  write([&] { form.frame.Caption = std::string(99, 'w'); });
+  write([&] { form.frame.Width = 2900; });
+  const QImage resized = picture_of(window);
+  for (const int w : {1, 99}) write([&] { form.frame.Caption = std::string(w, 'w'); });
+  EXPECT_EQ(picture_of(window), resized) << "a caption is cut at the new width";
   write([&] { form.Caption = "", form.second.Enabled = false; });
   EXPECT_EQ(window.windowTitle(), " ") << "some systems would show the name of the program";
   write([&] { form.Caption = "Other"; });

@@ -96,7 +96,7 @@ TEST_F(Typing, AnAmpersandInACaptionIsNoShortcut) {
 
 // Typed during a handler, whose message box opens later.
 TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
-  form.button.Click = [&] { form.label.Caption = "clicked"; };
+  form.button.Click = form.keys[0].Pressed = [&] { form.label.Caption = "clicked"; };
   field->setFocus();
   const auto later = [&](const std::function<void()>& input) {
     QMetaObject::invokeMethod(field, input, Qt::QueuedConnection);
@@ -111,6 +111,7 @@ TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
     later([&] { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, on_button); });
     type_later("F10");
     type_later("'1");
+    type_later("F7");
     show_box();
     type_later("'2");
     show_box();
@@ -119,7 +120,7 @@ TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
   });
   handle_events();
   EXPECT_EQ(form.field.Text(), "12");
-  EXPECT_EQ(form.label.Caption(), "Label") << "clicks are dropped";
+  EXPECT_EQ(form.label.Caption(), "Label") << "clicks and shortcuts are dropped";
   EXPECT_EQ(boxes.log, "TitleTitle");
   boxes.on_open = [&](auto&) { QTest::keyClick(window.windowHandle(), Qt::Key_Backspace); };
   write(show_box);
