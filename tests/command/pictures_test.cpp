@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <memory>
 
-#include "data/colour_finder.h"
 #include "data/icon_file.h"
 #include "random_icons.h"
 #include "transcript.h"
@@ -151,9 +150,4 @@ TEST_F(pictures_test, ExportAndImportKeepAnIconFileAndDoNotLengthenIt) {
     EXPECT_EQ(icons_of("packed.shp"), old_icons);
     EXPECT_EQ(fs::file_size("packed.shp"), std::min(file.size(), bytes_of("new.shp").size()));
   }
-}
-
-TEST(colour_finder_test, OneOfSeveralIndicesIsTheNearest) {
-  EXPECT_EQ(nearest_index({1, 2, 2, 9}, 2), 1);
-  EXPECT_EQ(nearest_index({2, 2, 2, 9}, 2, 0), 1);
 }

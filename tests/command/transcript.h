@@ -72,16 +72,17 @@ struct transcript_test : command_test {
     if (seen.errors.empty() && seen.status != 0) return output + mark + "\n";
     return output + lines_of(seen.errors, mark + " ");
   }
-  // Another program writes to a.dat after its index is read, before each call that words[0] names.
-  // The time of the file tells it.
+  // Another program replaces a.dat by words[1] after its index is read, before each call that
+  // words[0] names.
   static result run_beside_a_writer(const texts& words) {
     failing_calls watched;
-    watched.before(words[0], [&watched] {
-      const auto count = std::count(watched.calls.begin(), watched.calls.end(), "open_to_read");
-      if (count > 1)
-        fs::last_write_time("a.dat", fs::last_write_time("a.dat") + std::chrono::seconds(1));
+    watched.before(words[0], [&] {
+      if (std::count(watched.calls.begin(), watched.calls.end(), "open_to_read") < 2) return;
+      const auto time = fs::last_write_time("a.dat") + std::chrono::seconds(1);
+      write_bytes("a.dat", bytes_of(words[1]));
+      fs::last_write_time("a.dat", time);
     });
-    return run_arguments({words.begin() + 1, words.end()});
+    return run_arguments({words.begin() + 2, words.end()});
   }
   // NAME=TEXT or NAME=<FILE.
   static archive_entry entry_of(const std::string& word) {
