@@ -44,7 +44,7 @@ struct commands_posix_test : transcript_test {
 // In a process of its own, whose standard input it replaces.
 TEST_F(commands_posix_test, PrintsItsTranscripts) {
   run_in_process([&] {
-    alarm(120);  // a pipe can wait for its other end
+    alarm(60);  // a pipe can wait for its other end
     replay("posix.txt");
   });
   if (make_icon_exporter() == nullptr) return;

@@ -76,7 +76,7 @@ TEST_F(Extras, OnePictureIsEnlarged) {
   EXPECT_EQ(after(Form1.Timer1.Timer, 2), "160(8,53 164x164)");
   act(*window, "pictures Space");
   EXPECT_EQ(ostrane::Form3.Caption(), "Icon-data for picture number:  3, on this screen.");
-  act(*screen.window_of(ostrane::Form3), "message Return");
+  write(ostrane::Form3.message.Click);
   EXPECT_EQ(after(Form1.Command3.Click), "120(8,53 124x124)");
   play(seen, {{"Ctrl+-", ""},
               {"Ctrl++; Ctrl++; Ctrl++", "240(8,53 244x244)"},

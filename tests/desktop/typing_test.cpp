@@ -109,9 +109,9 @@ TEST_F(Typing, KeysOfAJobArriveAfterItsMessageBoxes) {
     later([&] { window.windowHandle()->close(); });
     const QPoint on_button = widget_of(window, form.button)->mapTo(&window, QPoint(5, 5));
     later([&] { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, on_button); });
+    type_later("F7");
     type_later("F10");
     type_later("'1");
-    type_later("F7");
     show_box();
     type_later("'2");
     show_box();
