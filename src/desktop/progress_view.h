@@ -15,7 +15,10 @@ class progress_view : public view_of<QProgressBar, forms_layer::progress_bar> {
   }
 
  protected:
-  void show_content() override { setValue(static_cast<int>(shown_.filled() * steps)); }
+  void show_content() override {
+    setValue(static_cast<int>(shown_.filled() * steps));
+    update();  // Qt paints only steps of several pixels
+  }
 
  private:
   static constexpr int steps = 1000;

@@ -104,7 +104,7 @@ struct Desktop : testing::Test {
 
 // Adds up what a widget is asked to paint.
 struct paint_watch : QObject {
-  explicit paint_watch(QWidget* watched) { watched->installEventFilter(this); }
+  explicit paint_watch(QObject* watched) { watched->installEventFilter(this); }
   bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
     if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
     return false;

@@ -18,7 +18,9 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
                             const std::decay_t<decltype(tested())>& value) {
     const auto old = tested();
     const QImage before = picture_of(window);
+    paint_watch watch(qApp);
     write([&] { tested = value; });
+    EXPECT_FALSE(watch.painted.isEmpty()) << what;
     EXPECT_NE(picture_of(window), before) << what;
     write([&] { tested = old; });
     const bool moves_focus = what == "hidden";
