@@ -67,7 +67,7 @@ TEST_F(Desktop, EveryPropertyChangesThePictureOfItsControl) {
   write([&] { form.frame.Caption = std::string(99, 'w'); });
   write([&] { form.frame.Width = 2900; });
   const QImage resized = picture_of(window);
-  for (const std::size_t w : {1, 99}) write([&] { form.frame.Caption = std::string(w, 'w'); });
+  for (const std::size_t w : {1U, 99U}) write([&] { form.frame.Caption = std::string(w, 'w'); });
   EXPECT_EQ(picture_of(window), resized) << "a caption is cut at the new width";
   write([&] { form.Caption = "", form.second.Enabled = false; });
   EXPECT_EQ(window.windowTitle(), " ") << "some systems would show the name of the program";
