@@ -45,7 +45,8 @@ import_plan plan_of(const std::vector<std::string>& sources, const std::string& 
 
 // Keeps identifier, heads and order of an old icon file. Its drawable icons get the pictures of
 // `plan` in order; its other icons keep their positions. The first drawable icon without a picture
-// and all icons after it are left out. Throws file_error.
+// and all icons after it are left out. Throws file_error, and archive_changed if the file has
+// changed.
 void keep_layout(import_plan& plan, const old_icons& from);
 
 // Removes the unset pictures at the end of a grid.

@@ -13,7 +13,7 @@ enum class entry_kind : std::uint8_t { icons, palette, text, other };
 // a NUL inside the extension.
 entry_kind kind_of_entry(std::string_view name);
 
-// Of a text the window shows at most this many bytes.
+// Of a text the window shows at most this many bytes, 2 MiB.
 constexpr std::int64_t max_shown_text = std::int64_t{2} << 20U;
 
 // "icons", "palette", "text" or "other".
